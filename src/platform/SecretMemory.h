@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstddef>
+
+/// Whole pages that the system keeps out of swap and core dumps where it can. The content is zero.
+/// Never returns null: throws std::bad_alloc when memory is exhausted. Release with
+/// freeSecretMemory() and the same size.
+void *allocateSecretMemory(std::size_t size);
+
+/// Wipes and releases what allocateSecretMemory() gave; null is ignored.
+void freeSecretMemory(void *memory, std::size_t size);
+
+/// Overwrites memory with zeros in a way that the compiler does not leave out.
+void wipeMemory(void *memory, std::size_t size);

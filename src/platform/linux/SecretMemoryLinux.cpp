@@ -1,0 +1,39 @@
+#include "SecretMemory.h"
+
+#include <cstring>
+#include <new>
+#include <sys/mman.h>
+#include <unistd.h>
+
+static std::size_t wholePages(std::size_t size)
+{
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    return size == 0 ? page : (size + page - 1) / page * page;
+}
+
+void *allocateSecretMemory(std::size_t size)
+{
+    const std::size_t length = wholePages(size);
+    void *memory =
+        mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED)
+        throw std::bad_alloc();
+    // Either may be refused (limits of the user); the memory serves all the same.
+    (void)mlock(memory, length);
+    (void)madvise(memory, length, MADV_DONTDUMP);
+    return memory;
+}
+
+void freeSecretMemory(void *memory, std::size_t size)
+{
+    if (!memory)
+        return;
+    wipeMemory(memory, size);
+    munmap(memory, wholePages(size));
+}
+
+void wipeMemory(void *memory, std::size_t size)
+{
+    if (size > 0)
+        explicit_bzero(memory, size);
+}
