@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+/// Countries by English name with their international dialling codes (ITU-T E.164), in
+/// alphabetical order. Codes inside a shared numbering plan carry a dash, as in "1-684".
+class PMCountryTable
+{
+public:
+    struct Country
+    {
+        QString name;
+        QString code; ///< dialling code without the plus sign
+    };
+
+    /// Builds the table; done once, at start-up.
+    PMCountryTable();
+
+    const QVector<Country> &countries() const { return m_countries; }
+
+    /// The row of a country by its English name, ignoring case.
+    std::optional<Country> find(const QString &name) const;
+
+private:
+    QVector<Country> m_countries;
+};
