@@ -1,0 +1,39 @@
+#include "OwnerOnlyFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+bool writeOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    if (!produce(file)) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
+}
+
+bool writeOwnerOnlyFile(const QString &path, const QByteArray &content)
+{
+    return writeOwnerOnlyFile(
+        path, [&content](QIODevice &device) { return device.write(content) == content.size(); });
+}
+
+bool makeOwnerOnlyFolder(const QString &path)
+{
+    const QDir folder(path);
+    if (folder.exists())
+        return true;
+    const QString parent = QFileInfo(folder.absolutePath()).path();
+    if (parent != folder.absolutePath() && !makeOwnerOnlyFolder(parent))
+        return false;
+    if (!QDir().mkdir(folder.absolutePath()))
+        return folder.exists();
+    QFile::setPermissions(folder.absolutePath(),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return true;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QByteArray>
+#include <QIODevice>
+#include <QString>
+
+#include <functional>
+
+/// Writes a file so that a crash or a full disk leaves either the old content or the new one: the
+/// bytes go to a temporary file beside it, which takes its place at the end. Only the owner may
+/// read it. False, with the old content in place, when anything fails.
+/// @param produce writes the content to the device; false cancels
+bool writeOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce);
+bool writeOwnerOnlyFile(const QString &path, const QByteArray &content);
+
+/// Makes a folder with its missing parents; those it makes are open to the owner alone.
+bool makeOwnerOnlyFolder(const QString &path);

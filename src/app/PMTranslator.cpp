@@ -1,0 +1,74 @@
+#include "PMTranslator.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+
+namespace {
+
+const QString prefix = QStringLiteral("passwordmanager_");
+const QString builtIn = QStringLiteral("passwordmanager_en");
+
+} // namespace
+
+PMTranslator::PMTranslator(const QString &folder, QObject *parent)
+    : QObject(parent)
+    , m_folder(folder)
+{
+}
+
+QStringList PMTranslator::availableLanguages() const
+{
+    QStringList languages{builtIn};
+    const QStringList files =
+        QDir(m_folder).entryList({prefix + QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
+    for (const QString &file : files) {
+        const QString language = file.left(file.size() - 3);
+        if (!languages.contains(language))
+            languages.append(language);
+    }
+    return languages;
+}
+
+QString PMTranslator::displayName(const QString &language) const
+{
+    if (language == builtIn)
+        return QStringLiteral("English");
+    QTranslator translator;
+    if (!translator.load(filePath(language)))
+        return language;
+    const QString name = translator.translate("PMTranslator", "SettingsLocaleTitle");
+    return name.isEmpty() ? language : name;
+}
+
+bool PMTranslator::hasTranslation(const QString &code) const
+{
+    return availableLanguages().contains(prefix + code);
+}
+
+QString PMTranslator::translate(const QString &target, bool fromSettings)
+{
+    qDebug() << "Translator: Translate to" << target;
+    const QString language = fromSettings ? target : prefix + target;
+    const bool source = language.isEmpty() || language == builtIn;
+    if (source && !QFile::exists(filePath(builtIn))) {
+        m_installed.reset();
+        return builtIn;
+    }
+    const QString path = filePath(source ? builtIn : language);
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(path)) {
+        qDebug() << "Translator: Failed load translations from" << path;
+        return {};
+    }
+    // Destroying the previous translator removes it from the application.
+    m_installed = std::move(translator);
+    QCoreApplication::installTranslator(m_installed.get());
+    qDebug() << "Translator: Successful load translation from" << path;
+    return source ? builtIn : language;
+}
+
+QString PMTranslator::filePath(const QString &language) const
+{
+    return m_folder + QLatin1Char('/') + language + QStringLiteral(".qm");
+}
