@@ -4,10 +4,11 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-bool writeOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce)
+bool writeOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce,
+                        QIODevice::OpenMode mode)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(mode))
         return false;
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     if (!produce(file)) {

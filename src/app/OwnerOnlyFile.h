@@ -10,7 +10,9 @@
 /// bytes go to a temporary file beside it, which takes its place at the end. Only the owner may
 /// read it. False, with the old content in place, when anything fails.
 /// @param produce writes the content to the device; false cancels
-bool writeOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce);
+/// @param mode may add QIODevice::Text, for the line ends of the platform
+bool writeOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce,
+                        QIODevice::OpenMode mode = QIODevice::WriteOnly);
 bool writeOwnerOnlyFile(const QString &path, const QByteArray &content);
 
 /// Makes a folder with its missing parents; those it makes are open to the owner alone.

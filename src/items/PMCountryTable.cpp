@@ -88,6 +88,12 @@ PMCountryTable::PMCountryTable()
         m_countries.append({QString::fromLatin1(row.name), QString::fromLatin1(row.code)});
 }
 
+const PMCountryTable &PMCountryTable::instance()
+{
+    static const PMCountryTable table;
+    return table;
+}
+
 std::optional<PMCountryTable::Country> PMCountryTable::find(const QString &name) const
 {
     for (const Country &country : m_countries) {

@@ -16,8 +16,10 @@ public:
         QString code; ///< dialling code without the plus sign
     };
 
-    /// Builds the table; done once, at start-up.
     PMCountryTable();
+
+    /// The program's own table, built on first use, which is at start-up.
+    static const PMCountryTable &instance();
 
     const QVector<Country> &countries() const { return m_countries; }
 

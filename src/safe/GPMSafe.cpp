@@ -1,0 +1,526 @@
+#include "GPMSafe.h"
+
+#include "DeletedList.h"
+#include "OwnerOnlyFile.h"
+#include "SafeCrypto.h"
+#include "SafeDescriptionFile.h"
+#include "SafeLayout.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFutureWatcher>
+#include <QLockFile>
+#include <QMutexLocker>
+#include <QUuid>
+#include <QtConcurrent>
+
+#include <utility>
+
+GPMSafe::GPMSafe(SafeEnvironment environment, QObject *parent)
+    : QObject(parent)
+    , m_environment(std::move(environment))
+{
+    m_writer.setMaxThreadCount(1);
+}
+
+GPMSafe::~GPMSafe()
+{
+    lock();
+}
+
+bool GPMSafe::init(const QString &folder, const QString &password, const QString &name,
+                   const QString &hint)
+{
+    if (isOpen()) {
+        qWarning() << "GPMSafe::init"
+                   << "Safe already opened";
+        return false;
+    }
+    if (!QDir(folder).exists()) {
+        qWarning() << "GPMSafe::init"
+                   << "Directory not found:" << folder;
+        return false;
+    }
+    for (const char *file : {SafeLayout::meta, SafeLayout::oldMeta, SafeLayout::passId}) {
+        if (QFile::exists(folder + QLatin1Char('/') + QLatin1String(file))) {
+            qWarning() << "GPMSafe::init"
+                       << "There is a safe already at:" << folder;
+            return false;
+        }
+    }
+    if (password.isEmpty()) {
+        qWarning() << "GPMSafe::init"
+                   << "Invalid password data";
+        return false;
+    }
+
+    const auto secret = std::make_shared<const SecretBytes>(SecretBytes::fromText(password));
+    const qint64 now = m_environment.clock().toMSecsSinceEpoch();
+    m_description = {};
+    m_description.name = name;
+    m_description.hint = hint;
+    m_description.created = now;
+    m_description.modified = now;
+    if (!createFiles(folder, secret)) {
+        m_description = {};
+        return false;
+    }
+    m_folder = folder;
+    m_password = secret;
+    Q_EMIT itemsReset();
+    Q_EMIT lockedChanged(false);
+    return true;
+}
+
+bool GPMSafe::createFiles(const QString &folder, const Password &password)
+{
+    FileLayer &files = *m_environment.files;
+    QStringList madeFolders;
+    bool good = true;
+    for (const char *name : {SafeLayout::content, SafeLayout::attachment, SafeLayout::favicon}) {
+        const QString inner = folder + QLatin1Char('/') + QLatin1String(name);
+        if (QDir(inner).exists())
+            continue;
+        good = good && makeOwnerOnlyFolder(inner);
+        madeFolders.append(inner);
+    }
+    const QString passIdPath = folder + QLatin1Char('/') + QLatin1String(SafeLayout::passId);
+    const QString passId = makePassId(password->view(), m_environment.random);
+    good = good && !passId.isEmpty() && files.writeBytes(passIdPath, passId.toLatin1()) &&
+           writeDescription(files, folder, m_description.toJson());
+    if (good)
+        return true;
+
+    qWarning() << "GPMSafe::init"
+               << "Can't write the files of a new safe at:" << folder;
+    for (const char *name : {SafeLayout::meta, SafeLayout::restore, SafeLayout::passId})
+        files.remove(folder + QLatin1Char('/') + QLatin1String(name));
+    for (const QString &made : std::as_const(madeFolders))
+        QDir().rmdir(made);
+    return false;
+}
+
+bool GPMSafe::open(const QString &folder)
+{
+    if (isOpen()) {
+        qWarning() << "GPMSafe::open"
+                   << "Safe already opened";
+        return false;
+    }
+    if (!QDir(folder).exists()) {
+        qWarning() << "GPMSafe::open"
+                   << "Safe directory doesn't exists at location:" << folder;
+        return false;
+    }
+    m_folder = folder;
+    if (readMetaFile())
+        return true;
+    m_folder.clear();
+    return false;
+}
+
+bool GPMSafe::readMetaFile()
+{
+    const QMutexLocker locker(m_mutex.get());
+    const std::optional<SafeDescription> description =
+        readDescription(*m_environment.files, m_folder);
+    if (!description)
+        return false;
+    m_description = *description;
+    return true;
+}
+
+bool GPMSafe::writeMetaFile(const QString &targetPath)
+{
+    const QByteArray json = m_description.toJson();
+    const QMutexLocker locker(m_mutex.get());
+    const bool written = targetPath.isEmpty()
+                             ? writeDescription(*m_environment.files, m_folder, json)
+                             : m_environment.files->writeBytes(
+                                   targetPath, json, QIODevice::WriteOnly | QIODevice::Text);
+    if (!written)
+        qWarning() << "GPMSafe::writeMetaFile"
+                   << "Can't save safe meta file:"
+                   << (targetPath.isEmpty() ? path(SafeLayout::meta) : targetPath);
+    return written;
+}
+
+bool GPMSafe::unlock(const QString &password)
+{
+    const std::unique_ptr<SafeUnlock> attempt = makeUnlock(password);
+    if (!attempt)
+        return false;
+    const SafeUnlock::Outcome outcome = attempt->run();
+    if (outcome == SafeUnlock::Outcome::Unlocked) {
+        takeUnlocked(*attempt);
+        return true;
+    }
+    if (outcome == SafeUnlock::Outcome::WrongPassword)
+        qWarning() << "GPMSafe::unlock"
+                   << "Pass id doesn't match specified password";
+    else
+        qWarning() << "GPMSafe::unlock"
+                   << "Can't read safe content directory:" << m_folder;
+    return false;
+}
+
+void GPMSafe::unlockAsync(const QString &password)
+{
+    m_unlock = makeUnlock(password);
+    if (!m_unlock) {
+        // Later, like every other answer.
+        QTimer::singleShot(0, this,
+                           [this] { Q_EMIT unlockFinished(SafeUnlock::Outcome::Unreadable); });
+        return;
+    }
+    connect(m_unlock.get(), &SafeUnlock::progress, this, &GPMSafe::unlockProgress);
+    connect(m_unlock.get(), &SafeUnlock::finished, this, &GPMSafe::onUnlockFinished);
+    m_unlock->start();
+}
+
+void GPMSafe::cancelUnlock()
+{
+    if (m_unlock)
+        m_unlock->cancel();
+}
+
+std::unique_ptr<SafeUnlock> GPMSafe::makeUnlock(const QString &password)
+{
+    if (password.isEmpty()) {
+        qWarning() << "GPMSafe::unlock"
+                   << "Empty password are not allowed";
+        return nullptr;
+    }
+    if (!isOpen() || isUnlocked()) {
+        qWarning() << "GPMSafe::unlock"
+                   << "Safe is not open or unlocked already:" << m_folder;
+        return nullptr;
+    }
+    std::optional<QByteArray> passId = m_environment.files->read(path(SafeLayout::passId));
+    if (!passId && !m_description.passId.isEmpty())
+        passId = m_description.passId.toLatin1();
+    if (!passId) {
+        qWarning() << "GPMSafe::unlock"
+                   << "Can't read pass id file:" << path(SafeLayout::passId);
+        return nullptr;
+    }
+    return std::make_unique<SafeUnlock>(
+        m_environment, path(SafeLayout::content), QString::fromLatin1(*passId),
+        std::make_shared<const SecretBytes>(SecretBytes::fromText(password)));
+}
+
+void GPMSafe::takeUnlocked(SafeUnlock &attempt)
+{
+    m_password = attempt.password();
+    m_unreadableFiles = attempt.items().unreadableFiles();
+    m_items = attempt.items().takeEntries();
+    for (const QString &name : std::as_const(m_unreadableFiles))
+        qWarning() << "GPMSafe::unlock"
+                   << "Can't read item file:"
+                   << itemPath(SafeLayout::content, ItemFileName::parse(name));
+    Q_EMIT itemsReset();
+    Q_EMIT lockedChanged(false);
+}
+
+void GPMSafe::onUnlockFinished(SafeUnlock::Outcome outcome)
+{
+    SafeUnlock *attempt = m_unlock.release();
+    // Its own signal led here, so it goes later.
+    attempt->disconnect(this);
+    attempt->deleteLater();
+    if (outcome == SafeUnlock::Outcome::Unlocked)
+        takeUnlocked(*attempt);
+    else if (outcome == SafeUnlock::Outcome::WrongPassword)
+        qWarning() << "GPMSafe::unlock"
+                   << "Pass id doesn't match specified password";
+    else if (outcome == SafeUnlock::Outcome::Unreadable)
+        qWarning() << "GPMSafe::unlock"
+                   << "Can't read safe content directory:" << m_folder;
+    Q_EMIT unlockFinished(outcome);
+}
+
+void GPMSafe::lock()
+{
+    m_unlock.reset();
+    m_writer.waitForDone();
+    if (!isUnlocked())
+        return;
+    const SaveJob::Result result = makeSaveJob().run();
+    if (!result.good())
+        Q_EMIT saved(false, result.failedPaths);
+    m_password.reset();
+    m_unreadableFiles.clear();
+    // Views let go of the items before these go.
+    std::map<QString, LoadedItems::Entry> items;
+    items.swap(m_items);
+    Q_EMIT itemsReset();
+    items.clear();
+    Q_EMIT lockedChanged(true);
+}
+
+bool GPMSafe::saveChanges()
+{
+    if (!isUnlocked())
+        return false;
+    m_writer.waitForDone();
+    const SaveJob::Result result = makeSaveJob().run();
+    takeSaveResult(result);
+    return result.good();
+}
+
+void GPMSafe::saveChangesAsync()
+{
+    if (!isUnlocked())
+        return;
+    auto *watcher = new QFutureWatcher<SaveJob::Result>(this);
+    connect(watcher, &QFutureWatcher<SaveJob::Result>::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        const SaveJob::Result result = watcher->result();
+        takeSaveResult(result);
+        Q_EMIT saved(result.good(), result.failedPaths);
+    });
+    const SaveJob job = makeSaveJob();
+    watcher->setFuture(QtConcurrent::run(&m_writer, [job] { return job.run(); }));
+}
+
+SaveJob GPMSafe::makeSaveJob()
+{
+    SaveJob job{m_environment, m_folder, m_password, m_mutex, {}, {}};
+    for (const auto &[id, entry] : m_items) {
+        const PMListItem &item = *entry.item;
+        if (item.isChanged())
+            job.items.append({id, item.revision(), entry.name, PMItemDocument::fromItem(item)});
+    }
+    if (!job.items.isEmpty())
+        m_description.modified = m_environment.clock().toMSecsSinceEpoch();
+    job.description = m_description.toJson();
+    return job;
+}
+
+void GPMSafe::takeSaveResult(const SaveJob::Result &result)
+{
+    for (const SaveJob::Item &saved : result.saved) {
+        const auto entry = m_items.find(saved.id);
+        // Under another file name the item was written after this.
+        if (entry != m_items.end() && entry->second.name.text() == saved.fileName.text())
+            entry->second.item->markSaved(saved.revision);
+    }
+}
+
+bool GPMSafe::changePassword(const QString &newPassword,
+                             const std::function<void(int, int)> &progress)
+{
+    const char operation[] = "GPMSafe::changePassword";
+    if (newPassword.isEmpty()) {
+        qWarning() << operation << "Empty password are not allowed";
+        return false;
+    }
+    if (!isUnlocked()) {
+        qWarning() << operation << "Safe is locked:" << m_folder;
+        return false;
+    }
+    QLockFile lockFile(path(SafeLayout::lockFile));
+    // A long change is not stale; one whose process is gone is recognised by that.
+    lockFile.setStaleLockTime(0);
+    if (!lockFile.tryLock(m_environment.lockWaitMs)) {
+        qWarning() << operation << "Can't take the lock file:" << path(SafeLayout::lockFile);
+        return false;
+    }
+    m_writer.waitForDone();
+    qDebug() << operation << "Starting password change, safe id:" << id() << " name:" << name();
+
+    QVector<PasswordChange::Item> items = itemsForPasswordChange();
+    const bool complete = m_unreadableFiles.isEmpty() &&
+                          std::all_of(items.cbegin(), items.cend(), [this](const auto &item) {
+                              return !item.attachment ||
+                                     QFile::exists(itemPath(SafeLayout::attachment, item.oldName));
+                          });
+    if (!complete) {
+        // What does not open now would never open again under the new password.
+        qWarning() << operation << "Some object are null, cancel action";
+        return false;
+    }
+    const int total = items.size();
+    const auto password = std::make_shared<const SecretBytes>(SecretBytes::fromText(newPassword));
+    const QMutexLocker locker(m_mutex.get());
+    PasswordChange change(m_environment, m_folder, m_password->view(), password->view(),
+                          std::move(items));
+    const auto report = [&](int done) { progress(done, total); };
+    if (!change.run(progress ? std::function<void(int)>(report) : nullptr))
+        return false;
+    takePasswordChange(change);
+    change.removeOldFiles();
+    m_password = password;
+    return true;
+}
+
+QVector<PasswordChange::Item> GPMSafe::itemsForPasswordChange() const
+{
+    QVector<PasswordChange::Item> items;
+    for (const auto &[id, entry] : m_items) {
+        const bool attachment = entry.item->type() == PMListItem::Attachment;
+        ItemFileName next = entry.name;
+        // What an interrupted change left under the next name stays as it is.
+        do
+            ++next.generation;
+        while (QFile::exists(itemPath(SafeLayout::content, next)) ||
+               QFile::exists(itemPath(SafeLayout::attachment, next)));
+        items.append({entry.name, next, PMItemDocument::fromItem(*entry.item), attachment});
+    }
+    return items;
+}
+
+void GPMSafe::takePasswordChange(const PasswordChange &change)
+{
+    qDebug() << "GPMSafe::changePassword"
+             << "Write new items to the safe";
+    for (const PasswordChange::Item &written : change.items()) {
+        LoadedItems::Entry &entry = m_items.at(written.oldName.id);
+        entry.name = written.newName;
+        if (written.attachment)
+            entry.item->setProperty(
+                "hash", written.document.publicFields.value(QStringLiteral("hash")).toString());
+        entry.item->markSaved(entry.item->revision());
+    }
+}
+
+bool GPMSafe::isPassword(const QString &password) const
+{
+    return isUnlocked() && SecretBytes::fromText(password) == *m_password;
+}
+
+QString GPMSafe::id() const
+{
+    return QDir(m_folder).dirName();
+}
+
+QDateTime GPMSafe::created() const
+{
+    return QDateTime::fromMSecsSinceEpoch(m_description.created, Qt::UTC);
+}
+
+QDateTime GPMSafe::modified() const
+{
+    return QDateTime::fromMSecsSinceEpoch(m_description.modified, Qt::UTC);
+}
+
+std::vector<PMListItem *> GPMSafe::items() const
+{
+    std::vector<PMListItem *> list;
+    list.reserve(m_items.size());
+    for (const auto &[id, entry] : m_items)
+        list.push_back(entry.item.get());
+    return list;
+}
+
+PMListItem *GPMSafe::item(const QString &id) const
+{
+    const auto entry = m_items.find(id);
+    return entry == m_items.end() ? nullptr : entry->second.item.get();
+}
+
+PMListItem *GPMSafe::addItem(std::unique_ptr<PMListItem> item)
+{
+    if (!isUnlocked() || !item)
+        return nullptr;
+    if (item->id().isEmpty())
+        item->setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
+    const QString id = item->id();
+    if (m_items.count(id) > 0)
+        return nullptr;
+    const QDateTime now = m_environment.clock();
+    if (item->created().isNull())
+        item->setCreated(now);
+    if (item->modified().isNull())
+        item->setModified(now);
+    item->markChanged();
+    PMListItem *added = item.get();
+    m_items[id] = {ItemFileName{id, 0}, std::move(item)};
+    Q_EMIT itemAdded(id);
+    return added;
+}
+
+PMListItem *GPMSafe::addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes)
+{
+    if (!isUnlocked() || !item || item->type() != PMListItem::Attachment)
+        return nullptr;
+    if (item->id().isEmpty())
+        item->setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
+    const QString target = itemPath(SafeLayout::attachment, {item->id(), 0});
+    const bool written = m_items.count(item->id()) == 0 &&
+                         m_environment.files->write(target, [&](QIODevice &destination) {
+                             return cryptStream(m_password->view(), bytes, destination,
+                                                CryptDirection::Encrypt, m_environment.random);
+                         });
+    if (!written) {
+        qWarning() << "GPMSafe::addAttachment"
+                   << "Can't save attachment to file:" << target;
+        return nullptr;
+    }
+    item->setProperty("hash", fileHash(target));
+    return addItem(std::move(item));
+}
+
+bool GPMSafe::readAttachment(const QString &id, QIODevice &destination) const
+{
+    const auto entry = m_items.find(id);
+    if (entry == m_items.end())
+        return false;
+    QFile source(itemPath(SafeLayout::attachment, entry->second.name));
+    const bool good = source.open(QIODevice::ReadOnly) &&
+                      cryptStream(m_password->view(), source, destination, CryptDirection::Decrypt);
+    if (!good)
+        qWarning() << "GPMSafe::readAttachment"
+                   << "Can't read attachment file:" << source.fileName();
+    return good;
+}
+
+void GPMSafe::touchItem(PMListItem &item)
+{
+    item.setModified(m_environment.clock());
+    item.markChanged();
+}
+
+bool GPMSafe::removeItems(const QStringList &ids)
+{
+    if (!isUnlocked() || !commitDeleted(ids))
+        return false;
+    // A write still under way would bring the file back.
+    m_writer.waitForDone();
+    for (const QString &id : ids) {
+        const auto entry = m_items.find(id);
+        if (entry == m_items.end())
+            continue;
+        for (const char *folder : {SafeLayout::content, SafeLayout::attachment}) {
+            const QString file = itemPath(folder, entry->second.name);
+            if (!m_environment.files->remove(file))
+                qWarning() << "GPMSafe::removeItems"
+                           << "Can't remove item file:" << file;
+        }
+        Q_EMIT itemAboutToBeRemoved(id);
+        m_items.erase(entry);
+        Q_EMIT itemRemoved(id);
+    }
+    return true;
+}
+
+bool GPMSafe::commitDeleted(const QStringList &ids)
+{
+    const QMutexLocker locker(m_mutex.get());
+    if (recordDeletedIds(*m_environment.files, path(SafeLayout::deletedList), ids))
+        return true;
+    qWarning() << "GPMSafe::commitDeleted"
+               << "Can't commit delete info to 'deleted' list:" << path(SafeLayout::deletedList);
+    return false;
+}
+
+QString GPMSafe::path(const char *name) const
+{
+    return m_folder + QLatin1Char('/') + QLatin1String(name);
+}
+
+QString GPMSafe::itemPath(const char *folder, const ItemFileName &name) const
+{
+    return path(folder) + QLatin1Char('/') + name.text();
+}

@@ -1,0 +1,151 @@
+#pragma once
+
+#include "ItemLoader.h"
+#include "PasswordChange.h"
+#include "SafeDescription.h"
+#include "SafeEnvironment.h"
+#include "SafeUnlock.h"
+#include "SaveJob.h"
+
+#include <QMutex>
+#include <QObject>
+#include <QThreadPool>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+/// One safe: a folder with a description, a check of the master password, and one encrypted file
+/// for each item and each attachment. Closed, then open (its description is known), then unlocked
+/// (password and items are held), then locked again.
+///
+/// The object and its items live on the GUI thread; key derivation and file writes of the
+/// asynchronous calls run on workers. A failed call logs one line and leaves what was there.
+class GPMSafe : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit GPMSafe(SafeEnvironment environment = {}, QObject *parent = nullptr);
+    /// Locks first, which saves.
+    ~GPMSafe() override;
+
+    /// Makes a new safe in an existing folder that holds none, and leaves it unlocked and empty.
+    /// On failure the folder is as it was.
+    bool init(const QString &folder, const QString &password, const QString &name,
+              const QString &hint);
+
+    /// Attaches to the folder of a safe and reads its description.
+    bool open(const QString &folder);
+    bool readMetaFile();
+
+    /// Writes the description, to another path when one is given.
+    bool writeMetaFile(const QString &targetPath = {});
+
+    /// Checks the password and loads the items; they are there when it returns.
+    bool unlock(const QString &password);
+
+    /// The same on the workers. unlockProgress() and then unlockFinished() follow; a call while one
+    /// runs cancels that one without a signal.
+    void unlockAsync(const QString &password);
+    void cancelUnlock();
+
+    /// Saves what is changed, then forgets password and items. saved() tells when that failed.
+    void lock();
+
+    /// Writes every changed item. False when one could not be written: it stays marked as changed,
+    /// the others are written.
+    bool saveChanges();
+
+    /// The same on a worker; saved() follows. Calls are carried out in order.
+    void saveChangesAsync();
+
+    /// Re-encrypts the whole safe. On failure the old password stays in force, every file is as
+    /// before and no new one is left.
+    bool changePassword(const QString &newPassword,
+                        const std::function<void(int done, int total)> &progress = {});
+
+    /// Whether this is the password of the unlocked safe.
+    bool isPassword(const QString &password) const;
+
+    QString folder() const { return m_folder; }
+    /// Name of the folder, which stays while the safe's own name may change.
+    QString id() const;
+    QString name() const { return m_description.name; }
+    QString hint() const { return m_description.hint; }
+    QDateTime created() const;
+    QDateTime modified() const;
+    /// Takes effect on disk with the next write of the description.
+    void setName(const QString &name) { m_description.name = name; }
+    void setHint(const QString &hint) { m_description.hint = hint; }
+
+    bool isOpen() const { return !m_folder.isEmpty(); }
+    bool isUnlocked() const { return m_password != nullptr; }
+
+    /// The items in order of their ids; owned by the safe, gone when it locks.
+    std::vector<PMListItem *> items() const;
+    /// Null when there is no such item.
+    PMListItem *item(const QString &id) const;
+    int itemCount() const { return static_cast<int>(m_items.size()); }
+
+    /// Files of the content folder that could not be read when the safe was unlocked; they are left
+    /// as they are.
+    const QStringList &unreadableFiles() const { return m_unreadableFiles; }
+
+    /// Takes a new item in; gives it an id and its times where it has none. It reaches the disk
+    /// with the next save. Null, with nothing taken in, when the safe is locked or has an item of
+    /// that id.
+    PMListItem *addItem(std::unique_ptr<PMListItem> item);
+
+    /// Takes a new attachment in with the bytes of an open device, which are encrypted at once.
+    PMListItem *addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes);
+
+    /// Decrypts an attachment's bytes into an open device, which is to be thrown away on failure.
+    bool readAttachment(const QString &id, QIODevice &destination) const;
+
+    /// Marks an item as changed now.
+    void touchItem(PMListItem &item);
+
+    /// Deletes items for good: notes them in the list of deleted items, then removes their files.
+    /// False, with the items still there, when the note cannot be written.
+    bool removeItems(const QStringList &ids);
+
+    /// Notes ids in the list of deleted items.
+    bool commitDeleted(const QStringList &ids);
+
+Q_SIGNALS:
+    void unlockProgress(int done, int total);
+    void unlockFinished(SafeUnlock::Outcome outcome);
+    void saved(bool good, const QStringList &failedPaths);
+    void itemsReset();
+    void itemAdded(const QString &id);
+    /// The item is still there; views let go of it now.
+    void itemAboutToBeRemoved(const QString &id);
+    void itemRemoved(const QString &id);
+    void lockedChanged(bool locked);
+
+private:
+    using Password = std::shared_ptr<const SecretBytes>;
+
+    QString path(const char *name) const;
+    QString itemPath(const char *folder, const ItemFileName &name) const;
+    bool createFiles(const QString &folder, const Password &password);
+    std::unique_ptr<SafeUnlock> makeUnlock(const QString &password);
+    void takeUnlocked(SafeUnlock &unlock);
+    void onUnlockFinished(SafeUnlock::Outcome outcome);
+    SaveJob makeSaveJob();
+    void takeSaveResult(const SaveJob::Result &result);
+    QVector<PasswordChange::Item> itemsForPasswordChange() const;
+    void takePasswordChange(const PasswordChange &change);
+
+    SafeEnvironment m_environment;
+    QString m_folder;
+    SafeDescription m_description;
+    Password m_password;
+    std::map<QString, LoadedItems::Entry> m_items;
+    QStringList m_unreadableFiles;
+    std::shared_ptr<QMutex> m_mutex = std::make_shared<QMutex>();
+    std::unique_ptr<SafeUnlock> m_unlock;
+    QThreadPool m_writer; ///< one thread, so that writes keep their order
+};

@@ -1,0 +1,70 @@
+#include "KnownSafes.h"
+
+#include "OwnerOnlyFile.h"
+#include "SafeDescriptionFile.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QUuid>
+
+#include <utility>
+
+KnownSafes::KnownSafes(GPMAppSettings &settings, const QString &safesFolder,
+                       SafeEnvironment environment, QObject *parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_safesFolder(safesFolder)
+    , m_environment(std::move(environment))
+{
+}
+
+QVector<KnownSafes::Entry> KnownSafes::entries() const
+{
+    QVector<Entry> list;
+    const QStringList folders = m_settings.recentList();
+    for (const QString &folder : folders) {
+        const auto description = readDescription(*m_environment.files, folder);
+        Entry entry{folder, QDir(folder).dirName(), {}, description.has_value()};
+        if (description) {
+            entry.name = description->name;
+            entry.hint = description->hint;
+        }
+        list.append(entry);
+    }
+    return list;
+}
+
+std::shared_ptr<GPMSafe> KnownSafes::create(const QString &name, const QString &password,
+                                            const QString &hint)
+{
+    const QString folder =
+        m_safesFolder + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    if (!makeOwnerOnlyFolder(folder)) {
+        qWarning() << "KnownSafes::create"
+                   << "Can't create safe directory:" << folder;
+        return nullptr;
+    }
+    auto safe = std::make_shared<GPMSafe>(m_environment);
+    if (!safe->init(folder, password, name, hint)) {
+        QDir().rmdir(folder);
+        return nullptr;
+    }
+    remember(folder);
+    return safe;
+}
+
+std::shared_ptr<GPMSafe> KnownSafes::open(const QString &folder) const
+{
+    auto safe = std::make_shared<GPMSafe>(m_environment);
+    return safe->open(folder) ? safe : nullptr;
+}
+
+void KnownSafes::remember(const QString &folder)
+{
+    QStringList folders = m_settings.recentList();
+    folders.removeAll(folder);
+    folders.prepend(folder);
+    m_settings.setRecentList(folders);
+    m_settings.storeSettings();
+    Q_EMIT changed();
+}

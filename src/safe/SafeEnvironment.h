@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Clock.h"
+#include "FileLayer.h"
+#include "RandomSource.h"
+
+#include <memory>
+
+/// What a safe takes from the world around it. The defaults are the real ones.
+struct SafeEnvironment
+{
+    RandomSource random = systemRandom;
+    Clock clock = systemTime;
+    std::shared_ptr<FileLayer> files = std::make_shared<FileLayer>();
+    int lockWaitMs = 10000; ///< how long to wait for the lock file of a safe
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ItemLoader.h"
+#include "SafeEnvironment.h"
+
+#include <QFutureWatcher>
+#include <QObject>
+
+#include <memory>
+
+/// One attempt to unlock a safe: checks the password, then reads the items on the worker pool.
+class SafeUnlock : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Outcome { Unlocked, WrongPassword, Unreadable, Cancelled };
+    Q_ENUM(Outcome)
+
+    /// @param passId the safe's pass id
+    SafeUnlock(const SafeEnvironment &environment, const QString &contentFolder,
+               const QString &passId, std::shared_ptr<const SecretBytes> password);
+    /// Cancels a run and waits for the files that workers have in hand.
+    ~SafeUnlock() override;
+
+    /// Runs to the end before it returns; no signal is emitted.
+    Outcome run();
+
+    /// Runs on the workers; finished() follows, unless the object goes before.
+    void start();
+    void cancel();
+
+    const std::shared_ptr<const SecretBytes> &password() const { return m_password; }
+    /// What was loaded, after Outcome::Unlocked.
+    LoadedItems &items() { return m_items; }
+
+Q_SIGNALS:
+    void progress(int done, int total);
+    void finished(SafeUnlock::Outcome outcome);
+
+private:
+    bool startLoading();
+    void onChecked();
+    void onLoaded();
+
+    SafeEnvironment m_environment;
+    QString m_contentFolder;
+    QString m_passId;
+    std::shared_ptr<const SecretBytes> m_password;
+    QFutureWatcher<bool> m_check;
+    QFutureWatcher<LoadedFile> m_load;
+    LoadedItems m_items;
+    bool m_cancelled = false;
+};

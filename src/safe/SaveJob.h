@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ItemFile.h"
+#include "SecretBytes.h"
+
+#include <QMutex>
+#include <QStringList>
+#include <QVector>
+
+#include <memory>
+
+/// The changed items of a safe at one moment, to be written on any thread.
+struct SaveJob
+{
+    struct Item
+    {
+        QString id;
+        quint64 revision = 0;
+        ItemFileName fileName;
+        PMItemDocument document;
+    };
+
+    SafeEnvironment environment;
+    QString folder;
+    std::shared_ptr<const SecretBytes> password;
+    std::shared_ptr<QMutex> mutex; ///< held for each write
+    QVector<Item> items;
+    QByteArray description; ///< the safe's description with its new time of change
+
+    struct Result
+    {
+        QVector<Item> saved;     ///< without documents
+        QStringList failedPaths; ///< of items, and of the description
+        bool good() const { return failedPaths.isEmpty(); }
+    };
+
+    /// Writes every item, those behind a failing one too, then the description.
+    Result run() const;
+};
