@@ -1,0 +1,86 @@
+const ADDRESS = 'ws://127.0.0.1:7899';
+const PAUSES = [500, 1000, 2000, 4000, 8000, 16000, 30000];
+// A background worker is ended after 30 s without a message or an API call.
+const BEAT = 20000;
+const HELLO_WAIT = 5000;
+const OPEN_LIMIT = 10000;
+
+/**
+ * The one connection to the program. States reported to onState: "connected", "offline" (the program is
+ * not running) and "busy" (it serves another browser). Frames reach onFrame only once hello was answered.
+ *
+ * identity: what every outgoing frame carries; touchBrowser: makes one extension API call;
+ * parseFrame: the checked frame of a text, or undefined.
+ */
+export function createLink({ WebSocket, timers, identity, touchBrowser, parseFrame, onFrame, onState }) {
+  let socket;
+  let state;
+  let failures = 0;
+  let retry;
+
+  function setState(next) {
+    if (next === state) return;
+    state = next;
+    onState(state);
+  }
+
+  function write(action, payload) {
+    socket.send(JSON.stringify({ action, ...identity, payload }));
+  }
+
+  /** Opens the connection unless there is one; harmless at any time. */
+  function connect() {
+    if (socket) return;
+    timers.clearTimeout(retry);
+    const mine = new WebSocket(ADDRESS);
+    socket = mine;
+    const openLimit = timers.setTimeout(() => mine.close(), OPEN_LIMIT);
+    let greeting;
+    let beat;
+
+    mine.onopen = () => {
+      timers.clearTimeout(openLimit);
+      write('hello');
+      // The program serves one browser and may not have read what arrived before our turn, so hello is said again.
+      greeting = timers.setInterval(() => {
+        setState('busy');
+        write('hello');
+      }, HELLO_WAIT);
+      beat = timers.setInterval(() => {
+        if (state === 'connected') write('keepAlive');
+        touchBrowser();
+      }, BEAT);
+    };
+
+    mine.onmessage = ({ data }) => {
+      const frame = parseFrame(data);
+      if (!frame) return;
+      if (frame.action === 'hello') {
+        timers.clearInterval(greeting);
+        failures = 0;
+        setState('connected');
+        return;
+      }
+      if (state === 'connected') onFrame(frame);
+    };
+
+    mine.onclose = () => {
+      timers.clearTimeout(openLimit);
+      timers.clearInterval(greeting);
+      timers.clearInterval(beat);
+      socket = undefined;
+      retry = timers.setTimeout(connect, PAUSES[Math.min(failures, PAUSES.length - 1)]);
+      failures += 1;
+      setState('offline');
+    };
+  }
+
+  /** Sends one frame; false when the program is not listening to this browser. */
+  function send(action, payload) {
+    if (state !== 'connected') return false;
+    write(action, payload);
+    return true;
+  }
+
+  return { connect, send };
+}
