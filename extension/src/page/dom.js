@@ -1,0 +1,36 @@
+// The inputs of a form shadow the form's own properties by name (<input name="action">, <input name="parentNode">),
+// so whatever may be a form is read through the prototypes.
+const getter = (prototype, name) => Object.getOwnPropertyDescriptor(prototype, name).get;
+const nodeType = getter(Node.prototype, 'nodeType');
+const parentNode = getter(Node.prototype, 'parentNode');
+const FIND = {
+  [Node.ELEMENT_NODE]: Element.prototype.querySelectorAll,
+  [Node.DOCUMENT_NODE]: Document.prototype.querySelectorAll,
+  [Node.DOCUMENT_FRAGMENT_NODE]: DocumentFragment.prototype.querySelectorAll,
+};
+
+export const isElement = (node) => node !== null && nodeType.call(node) === Node.ELEMENT_NODE;
+
+/** The attribute's text, empty when absent. */
+export const attr = (element, name) => Element.prototype.getAttribute.call(element, name) ?? '';
+export const hasAttr = (element, name) => Element.prototype.hasAttribute.call(element, name);
+export const matches = (element, selector) => Element.prototype.matches.call(element, selector);
+export const boxOf = (element) => Element.prototype.getBoundingClientRect.call(element);
+
+/** All matching descendants in document order, without those in shadow trees. */
+export const findAll = (root, selector) => FIND[nodeType.call(root)].call(root, selector);
+
+/** Every element under root in document order, those in open shadow trees included. */
+export function* elementsUnder(root) {
+  for (const element of findAll(root, '*')) {
+    yield element;
+    if (element.shadowRoot instanceof ShadowRoot) yield* elementsUnder(element.shadowRoot);
+  }
+}
+
+/** The element around this one; from the top of a shadow tree its host, from the top of the page null. */
+export function parentOf(element) {
+  const parent = parentNode.call(element);
+  if (isElement(parent)) return parent;
+  return parent?.host ?? null;
+}

@@ -1,0 +1,32 @@
+import { attr, elementsUnder } from './dom.js';
+
+// Input types that are no fields to fill; every other word, known or not, is a line of text.
+const NOT_FIELDS = new Set(['hidden', 'submit', 'button', 'image', 'reset', 'file', 'color', 'range']);
+const OWN_TYPES = new Set(['password', 'radio', 'checkbox']);
+
+function inputType(input) {
+  if (NOT_FIELDS.has(input.type)) return undefined;
+  return OWN_TYPES.has(input.type) ? input.type : 'text';
+}
+
+const TYPES = {
+  INPUT: inputType,
+  SELECT: (select) => select.type,
+  TEXTAREA: () => 'textarea',
+};
+
+/** The kind of a field ("text", "password", "select-one", ...), undefined for what is not a field. */
+export function fieldType(element) {
+  return Object.hasOwn(TYPES, element.tagName) ? TYPES[element.tagName](element) : undefined;
+}
+
+/** The type word that the page itself uses. */
+export function pageType(field) {
+  return field.tagName === 'INPUT' ? attr(field, 'type').trim().toLowerCase() || 'text' : field.type;
+}
+
+export function* fieldsUnder(root) {
+  for (const element of elementsUnder(root)) {
+    if (fieldType(element)) yield element;
+  }
+}

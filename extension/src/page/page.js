@@ -1,0 +1,73 @@
+import { collect } from './collect.js';
+import { fillField } from './fill.js';
+import { shows } from './presence.js';
+import { waysToSignIn } from './signin.js';
+import { submitFrom } from './submit.js';
+import { waitUntil } from './wait.js';
+
+function createPage(doc) {
+  const token = [...crypto.getRandomValues(new Uint8Array(16))].map((byte) => byte.toString(16).padStart(2, '0')).join('');
+  const numbers = new WeakMap();
+  let lastNumber = 0;
+  let reported = new Map();
+  let ways = [];
+
+  function numberOf(element) {
+    if (!numbers.has(element)) numbers.set(element, (lastNumber += 1));
+    return numbers.get(element);
+  }
+
+  function look() {
+    const { report, fields } = collect(doc, token, numberOf);
+    reported = fields;
+    return report;
+  }
+
+  // A page that drew its form again since it was reported has new elements in the old places.
+  function findField({ opid, gpmid }, formUid) {
+    const known = reported.get(opid);
+    if (!known || known.field.isConnected) return known?.field;
+    const redrawn = [...collect(doc, token, numberOf).fields.values()];
+    return redrawn.find((entry) => entry.gpmid === gpmid && entry.formUid === known.formUid && formUid === known.formUid)?.field;
+  }
+
+  return {
+    token: () => token,
+    collect: () => ({ ...look(), origin: self.origin }),
+    shows: ({ kind }) => shows(doc, kind),
+    waitFor: ({ kind, milliseconds }) => waitUntil(doc, () => shows(doc, kind), milliseconds),
+
+    /** What was filled: {all: every field took its value, some, password: a password field is among them}. */
+    fill({ formUid, elements }) {
+      const filled = elements.map((element) => {
+        const field = findField(element, formUid);
+        return field && fillField(field, element.value) ? field : undefined;
+      });
+      const fields = filled.filter(Boolean);
+      return {
+        all: fields.length === elements.length,
+        some: fields.length > 0,
+        password: fields.some((field) => field.type === 'password'),
+      };
+    },
+
+    /** Sends the form of the given field; true when only a real press of the Enter key can do it. */
+    async submit({ formUid, element }) {
+      const field = findField(element, formUid);
+      return field ? submitFrom(field) : false;
+    },
+
+    waysToSignIn() {
+      ways = waysToSignIn(doc);
+      return ways.map(({ address }) => address);
+    },
+
+    click({ way }) {
+      ways[way]?.element.click();
+    },
+  };
+}
+
+// A symbol, since an element's id could stand for a global of that name. The script is run again for every
+// request, and fields already reported must keep their names.
+globalThis[Symbol.for('glaceron')] ??= createPage(document);

@@ -1,0 +1,66 @@
+// Words of buttons, links and fields in the languages of the pages that people log in to.
+export const SIGN_IN = [
+  'sign in', 'signin', 'log in', 'login', 'log on', 'logon',
+  'anmelden', 'anmeldung', 'einloggen', 'inloggen', 'aanmelden', 'logga in', 'logg inn', 'log ind', 'kirjaudu',
+  'войти', 'вход', 'увійти', 'вхід', 'connexion', 'se connecter', "s'identifier", 'identifiez vous',
+  'iniciar sesión', 'inicia sesión', 'iniciar sesion', 'acceder', 'ingresar', 'accedi', 'entrar', 'iniciar sessão',
+  'zaloguj', 'zaloguj się', 'logowanie', 'přihlásit', 'přihlásit se', 'prihlásiť sa', 'bejelentkezés', 'giriş yap',
+  'oturum aç', 'ログイン', 'サインイン', '登录', '登入', '로그인',
+];
+
+// Often lead to the login page of whoever is not logged in.
+export const ACCOUNT = ['account', 'my account', 'mein konto', 'mon compte', 'mi cuenta', 'личный кабинет'];
+
+export const SIGN_OUT = [
+  'sign out', 'signout', 'log out', 'logout', 'log off', 'logoff', 'abmelden', 'ausloggen', 'uitloggen', 'logga ut',
+  'выйти', 'выход', 'вийти', 'déconnexion', 'se déconnecter', 'cerrar sesión', 'salir', 'esci', 'sair', 'wyloguj',
+  'odhlásit', 'ログアウト', '退出', '로그아웃',
+];
+
+export const SIGN_UP = [
+  'sign up', 'signup', 'register', 'registration', 'create account', 'create an account', 'join', 'join now',
+  'registrieren', 'registrierung', 'konto erstellen', 'регистрация', 'зарегистрироваться', 'создать аккаунт',
+  "s'inscrire", 'inscription', 'créer un compte', 'registrarse', 'regístrate', 'crear cuenta', 'registrati',
+  'cadastre se', 'criar conta', 'zarejestruj', 'zarejestruj się', 'rejestracja', 'registreren',
+];
+
+const PROVIDERS = ['google', 'facebook', 'apple', 'microsoft', 'github', 'twitter', 'linkedin', 'amazon'];
+
+const SIDE_WAYS = [
+  'passkey', 'qr', 'sso', 'forgot', 'forgotten', 'reset', 'vergessen', 'oublié', 'забыли', 'olvidaste', 'olvidado',
+  'help', 'hilfe', 'show', 'hide', 'anzeigen', 'показать', 'cancel', 'abbrechen', 'отмена', 'back', 'zurück', 'назад',
+];
+
+export const GO_ON = [
+  'next', 'continue', 'submit', 'ok', 'go', 'confirm', 'weiter', 'fortfahren', 'absenden', 'bestätigen',
+  'далее', 'продолжить', 'отправить', 'подтвердить', 'suivant', 'continuer', 'valider', 'siguiente', 'continuar',
+  'avanti', 'continua', 'avançar', 'dalej', 'volgende', 'další', '次へ', '下一步', '다음',
+];
+
+export const USER_NAME = [
+  'login', 'user', 'uname', 'email', 'e-mail', 'mail', 'phone', 'account', 'benutzer', 'konto', 'kundennummer',
+  'логин', 'почта', 'телефон', 'пользовател', 'identifiant', 'utilisateur', 'usuario', 'correo', 'utente', 'usuário',
+];
+
+function fold(text) {
+  const plain = text.normalize('NFKC').toLowerCase().replaceAll('\u2019', "'");
+  return ` ${plain.replace(/[^\p{L}\p{N}']+/gu, ' ').trim()} `;
+}
+
+/** Where the first of the phrases stands in the text as whole words; -1 when none does. */
+export function findPhrase(text, phrases) {
+  const folded = fold(text);
+  const places = phrases.map((phrase) => folded.indexOf(fold(phrase))).filter((place) => place >= 0);
+  return places.length > 0 ? Math.min(...places) : -1;
+}
+
+export function isPhrase(text, phrases) {
+  const folded = fold(text);
+  return phrases.some((phrase) => fold(phrase) === folded);
+}
+
+/** Whether a button leads away from logging in here: out, to a new account, to somebody else's, to help. */
+export function leadsElsewhere(text) {
+  const others = PROVIDERS.filter((name) => !location.hostname.includes(name));
+  return findPhrase(text, [...SIGN_OUT, ...SIGN_UP, ...SIDE_WAYS, ...others]) >= 0;
+}
