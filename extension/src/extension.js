@@ -1,0 +1,54 @@
+import { createDocuments } from './documents.js';
+import { createFills } from './fills.js';
+import { parseFrame } from './frames.js';
+import { createLink } from './link.js';
+import { createLogins } from './logins.js';
+import { createRequests } from './requests.js';
+import { createTabs } from './tabs.js';
+import { showState } from './toolbar.js';
+
+const ALARM = 'link';
+
+/** Puts the parts together and connects them to the browser. */
+export function startExtension({ api, WebSocket, timers, now }) {
+  const bundleId = api.runtime.getURL('').startsWith('moz-') ? 'glaceron.firefox' : 'glaceron.chrome';
+  const link = createLink({
+    WebSocket,
+    timers,
+    identity: { version: api.runtime.getManifest().version, bundleId },
+    touchBrowser: () => api.runtime.getPlatformInfo(),
+    parseFrame,
+    onFrame: ({ action, payload }) => actions[action](payload),
+    onState: (state) => showState(api, state),
+  });
+
+  const tabs = createTabs({ api, timers });
+  const documents = createDocuments(api);
+  const logins = createLogins({ storage: api.storage.session, now });
+  const requests = createRequests({ tabs, documents, logins, send: link.send });
+  const fills = createFills({ documents, logins, answer: requests.answer, send: link.send });
+  const whenReady = (work) => async (payload) => {
+    await logins.ready;
+    return work(payload);
+  };
+  const actions = {
+    getDocumentData: whenReady(requests.getDocumentData),
+    findLoginPage: whenReady(requests.findLoginPage),
+    fillForm: whenReady(fills.fillForm),
+  };
+
+  api.tabs.onUpdated.addListener((tabId, { status }) => {
+    if (status === 'complete') fills.awaitPassword(tabId);
+  });
+  api.tabs.onRemoved.addListener(whenReady(logins.dropTab));
+  api.action.onClicked.addListener((tab) => {
+    link.connect();
+    link.send('showWindow', { url: tab.url ?? '' });
+  });
+  // Timers end with the background script; the alarm starts it anew.
+  api.alarms.onAlarm.addListener(() => link.connect());
+  api.alarms.create(ALARM, { periodInMinutes: 0.5 });
+
+  link.connect();
+  logins.ready.then(() => logins.waitingTabs().forEach((tabId) => fills.awaitPassword(tabId)));
+}

@@ -1,0 +1,143 @@
+import { startExtension } from '../../extension/src/extension.js';
+import { createClock, flush, idle } from './clock.mjs';
+import { openPage, pageScript } from './page.mjs';
+
+function createEvent() {
+  const listeners = new Set();
+  return {
+    addListener: (listener) => listeners.add(listener),
+    removeListener: (listener) => listeners.delete(listener),
+    fire: (...values) => [...listeners].forEach((listener) => listener(...values)),
+  };
+}
+
+/**
+ * A browser with one window and the extension running in it, connected to a stand-in for the program.
+ * web: address → page text, or {html, frames: [[address, ...addresses around it]]}; one that is missing fails to load.
+ * With manual set, a navigation stays under way until arrive() is called.
+ */
+export async function startBrowser(web, { manual = false } = {}) {
+  const clock = createClock();
+  const tabs = new Map();
+  const session = {};
+  const looks = {};
+  let lastDocument = 0;
+  let onUpdated = createEvent();
+  let onRemoved = createEvent();
+  let onClicked = createEvent();
+  let program;
+
+  const view = ({ id, windowId, url, status }) => ({ id, windowId, url, status });
+  const htmlOf = (page) => (typeof page === 'string' ? page : page.html);
+
+  function open(url, frameId, around) {
+    const window = openPage(htmlOf(web[url]), { url, clock, ancestors: around.map((address) => new URL(address).origin) });
+    return { frameId, documentId: `D${(lastDocument += 1)}`, window };
+  }
+
+  function arrive(tab) {
+    const url = tab.coming;
+    onUpdated.fire(tab.id, { status: 'complete' }); // the end of the page before
+    tab.url = url;
+    onUpdated.fire(tab.id, { status: 'loading' });
+    const page = web[url];
+    tab.documents = page === undefined ? [] : [open(url, 0, []), ...(page.frames ?? []).map(([address, ...around], index) => open(address, index + 1, around))];
+    tab.status = 'complete';
+    onUpdated.fire(tab.id, { status: 'complete' });
+    return idle();
+  }
+
+  function navigate(tab, url) {
+    Object.assign(tab, { coming: url, status: 'loading' });
+    if (!manual) setImmediate(() => arrive(tab));
+    return view(tab);
+  }
+
+  function addTab(url) {
+    const tab = { id: tabs.size + 1, windowId: 1, url: '', status: 'complete', documents: [] };
+    for (const other of tabs.values()) other.active = false;
+    tabs.set(tab.id, Object.assign(tab, { active: true }));
+    return navigate(tab, url);
+  }
+
+  function closeTab(id) {
+    tabs.delete(id);
+    onRemoved.fire(id);
+    return idle();
+  }
+
+  async function executeScript({ target, func, files, args = [] }) {
+    const { documents } = tabs.get(target.tabId);
+    const wanted = target.allFrames ? documents : documents.filter(({ documentId }) => target.documentIds.includes(documentId));
+    if (wanted.length === 0) throw new Error('No such document');
+    return Promise.all(wanted.map(async ({ frameId, documentId, window }) => {
+      const result = files ? window.eval(pageScript) : await window.eval(`(${func})`)(...structuredClone(args));
+      return { frameId, documentId, result: files || result === undefined ? null : JSON.parse(JSON.stringify(result)) };
+    }));
+  }
+
+  const getTab = async (id) => view(tabs.get(id) ?? (() => { throw new Error('No tab'); })());
+  const api = () => ({
+    runtime: { getURL: () => 'chrome-extension://id/', getManifest: () => ({ version: '1.1.32' }), getPlatformInfo: async () => ({}) },
+    scripting: { executeScript },
+    storage: {
+      session: {
+        get: async (key) => structuredClone(key in session ? { [key]: session[key] } : {}),
+        set: async (values) => { Object.assign(session, structuredClone(values)); },
+      },
+    },
+    tabs: {
+      onUpdated, onRemoved, get: getTab,
+      query: async () => [...tabs.values()].filter(({ active }) => active).map(view),
+      create: async ({ url }) => addTab(url),
+      update: async (id, { url }) => navigate(tabs.get(id), url),
+    },
+    windows: {
+      getLastFocused: async () => ({ id: 1 }),
+      create: async ({ url }) => ({ tabs: [addTab(url)] }),
+      update: async () => ({}),
+    },
+    action: {
+      onClicked,
+      setBadgeText: ({ text }) => { looks.badge = text; },
+      setBadgeBackgroundColor: () => {},
+      setTitle: ({ title }) => { looks.title = title; },
+    },
+    i18n: { getMessage: (name) => name },
+    alarms: { onAlarm: createEvent(), create: () => {} },
+  });
+
+  /** Starts the extension's background script, as the browser does again after it ended it. */
+  async function startBackground() {
+    [onUpdated, onRemoved, onClicked] = [createEvent(), createEvent(), createEvent()];
+    class Socket {
+      sent = [];
+      constructor() { program = this; }
+      send(text) { this.sent.push(JSON.parse(text)); }
+    }
+    startExtension({ api: api(), WebSocket: Socket, timers: clock.timers, now: clock.now });
+    program.onopen();
+    program.onmessage({ data: '{"action":"hello","callerId":"{1}"}' });
+    await idle();
+  }
+
+  await startBackground();
+  return {
+    clock, looks, session, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, startBackground,
+    click: (tab) => onClicked.fire(tab),
+    documentOf: (tabId, frame = 0) => tabs.get(tabId).documents[frame].window.document,
+    go: (tabId, url) => { navigate(tabs.get(tabId), url); return idle(); },
+    /** What the browser tells when a page changes its own address. */
+    sameDocumentNavigation: (tabId) => { onUpdated.fire(tabId, { status: 'complete' }); return idle(); },
+    address: (tabId) => tabs.get(tabId)?.url,
+    /** Has the program send a command. */
+    async command(action, payload) {
+      program.onmessage({ data: JSON.stringify({ action, payload }) });
+      await idle();
+    },
+    /** What the program received since the last look, without the greeting and the keep-alive. */
+    received() {
+      return program.sent.splice(0).filter(({ action }) => !['hello', 'keepAlive'].includes(action));
+    },
+  };
+}
