@@ -66,6 +66,12 @@ QJsonValue encode(const QMetaProperty &property, const QVariant &value)
 /// An invalid variant when the value is not of the property's type.
 QVariant decode(const QMetaProperty &property, const QJsonValue &value)
 {
+    if (property.isEnumType()) {
+        bool known = false;
+        const QByteArray name = value.toString().toLatin1();
+        const int number = property.enumerator().keyToValue(name.constData(), &known);
+        return known ? QVariant(number) : QVariant();
+    }
     const int type = property.userType();
     if (type == QMetaType::Int)
         return value.isDouble() ? QVariant(value.toInt()) : QVariant();
@@ -85,11 +91,6 @@ QVariant decode(const QMetaProperty &property, const QJsonValue &value)
     if (!value.isString())
         return {};
     const QString text = value.toString();
-    if (property.isEnumType()) {
-        bool known = false;
-        const int number = property.enumerator().keyToValue(text.toLatin1().constData(), &known);
-        return known ? QVariant(number) : QVariant();
-    }
     if (type == qMetaTypeId<Date>())
         return QVariant::fromValue(Date::fromText(text));
     if (type == qMetaTypeId<Phone>())

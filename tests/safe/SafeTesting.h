@@ -1,0 +1,86 @@
+#pragma once
+
+#include "GPMSafe.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+
+const QString samplePassword = QStringLiteral("master password 1");
+
+inline QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("can't write %s", qPrintable(path));
+}
+
+/// Every file below a folder with its content.
+inline QMap<QString, QByteArray> snapshot(const QString &folder)
+{
+    QMap<QString, QByteArray> files;
+    QDirIterator each(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (each.hasNext()) {
+        const QString path = each.next();
+        files.insert(QDir(folder).relativeFilePath(path), contentOf(path));
+    }
+    return files;
+}
+
+/// A copy of the sample safe that another implementation made.
+inline void copySampleSafe(const QString &folder)
+{
+    const QString sample = QStringLiteral(TEST_DATA_DIR "/safe");
+    const QMap<QString, QByteArray> files = snapshot(sample);
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        const QString path = folder + QLatin1Char('/') + file.key();
+        QDir().mkpath(QFileInfo(path).path());
+        writeFile(path, file.value());
+    }
+}
+
+/// Real files, but the operation of the given number fails: a write as it does on a full disk.
+class FaultyFiles : public FileLayer
+{
+public:
+    int failAt = 0; ///< 1 is the first; 0: none
+    bool andAllBehind = false;
+    std::function<void()> fault = [] {}; ///< called in the middle of the failing operation
+    std::atomic<int> operations{0};
+
+    bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
+    {
+        if (!fails())
+            return FileLayer::write(path, produce, mode);
+        const auto produceAndFail = [&](QIODevice &device) {
+            produce(device);
+            fault();
+            return false;
+        };
+        return FileLayer::write(path, produceAndFail, mode);
+    }
+    bool remove(const QString &path) override
+    {
+        if (!fails())
+            return FileLayer::remove(path);
+        fault();
+        return false;
+    }
+
+private:
+    bool fails()
+    {
+        const int number = ++operations;
+        return failAt > 0 && (number == failAt || (andAllBehind && number > failAt));
+    }
+};

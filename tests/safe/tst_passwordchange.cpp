@@ -1,0 +1,251 @@
+#include "SafeCrypto.h"
+#include "SafeTesting.h"
+
+#include <QLockFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstdlib>
+#include <unistd.h>
+
+namespace {
+
+const QString newPassword = QStringLiteral("another password 2");
+const QString attachmentId = QStringLiteral("00000000-0000-000b-0000-000000001234");
+
+struct Changed
+{
+    bool good = false;
+    int operations = 0;
+};
+
+/// Changes the password of the sample safe in a folder over files that fail.
+Changed change(const QString &folder, const std::shared_ptr<FaultyFiles> &files,
+               RandomSource random = systemRandom, int lockWaitMs = 0)
+{
+    SafeEnvironment environment;
+    environment.files = files;
+    environment.random = std::move(random);
+    environment.lockWaitMs = lockWaitMs;
+    GPMSafe safe(environment);
+    if (!safe.open(folder) || !safe.unlock(samplePassword))
+        qFatal("the sample safe does not open");
+    const bool good = safe.changePassword(newPassword);
+    // Whatever happened, the object in memory goes on under the password that is in force.
+    if (!safe.isPassword(good ? newPassword : samplePassword) || safe.itemCount() != 22)
+        qFatal("the open safe is not as the change left it");
+    return {good, files->operations};
+}
+
+bool opensWhole(const QString &folder, const QString &password)
+{
+    GPMSafe safe;
+    if (!safe.open(folder) || !safe.unlock(password) || safe.itemCount() != 22 ||
+        !safe.unreadableFiles().isEmpty())
+        return false;
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    return safe.readAttachment(attachmentId, bytes) && bytes.size() > 12000 &&
+           safe.item(attachmentId)->property("hash").toString().size() == 44;
+}
+
+} // namespace
+
+class TestPasswordChange : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_temporary;
+    QString m_folder;
+    QMap<QString, QByteArray> m_before;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_temporary = std::make_unique<QTemporaryDir>();
+        m_folder = m_temporary->path();
+        copySampleSafe(m_folder);
+        m_before = snapshot(m_folder);
+    }
+
+    void changesEveryFile()
+    {
+        QVERIFY(change(m_folder, std::make_shared<FaultyFiles>()).good);
+        QVERIFY(opensWhole(m_folder, newPassword));
+        QVERIFY(!opensWhole(m_folder, samplePassword));
+        QMap<QString, QByteArray> after = snapshot(m_folder);
+        QCOMPARE(after.take(QStringLiteral("safe.passid.bak")),
+                 m_before.value(QStringLiteral("safe.passid")));
+        QCOMPARE(after.size(), m_before.size());
+        for (const QByteArray &content : m_before) {
+            if (content != m_before.value(QStringLiteral("safe.meta")))
+                QVERIFY(!after.values().contains(content));
+        }
+        // Once more, to the next generation, with the first change's backup there.
+        GPMSafe safe;
+        QVERIFY(safe.open(m_folder) && safe.unlock(newPassword));
+        QVERIFY(safe.changePassword(samplePassword));
+        QVERIFY(opensWhole(m_folder, samplePassword));
+    }
+
+    void refusesBeforeItTouchesAnything()
+    {
+        GPMSafe safe;
+        QVERIFY(safe.open(m_folder));
+        QVERIFY(!safe.changePassword(newPassword)); // locked
+        QVERIFY(safe.unlock(samplePassword));
+        QVERIFY(!safe.changePassword(QString()));
+        QCOMPARE(snapshot(m_folder), m_before);
+    }
+
+    /// Each file operation of the whole run fails once, and then with everything behind it.
+    void everyFailureLeavesTheOldSafe()
+    {
+        const int operations = change(m_folder, std::make_shared<FaultyFiles>()).operations;
+        const int writes = 2 + 22 + 2; // pass id and its backup, items, attachments
+        QVERIFY(operations >= writes);
+        for (int failAt = 1; failAt <= writes; ++failAt) {
+            for (const bool andAllBehind : {false, true}) {
+                init();
+                auto files = std::make_shared<FaultyFiles>();
+                files->failAt = failAt;
+                files->andAllBehind = andAllBehind;
+                QVERIFY(!change(m_folder, files).good);
+                QMap<QString, QByteArray> after = snapshot(m_folder);
+                QCOMPARE(after.value(QStringLiteral("safe.passid")),
+                         m_before.value(QStringLiteral("safe.passid")));
+                QVERIFY(opensWhole(m_folder, samplePassword));
+                // Where nothing can be removed any more, what lies about must not do harm.
+                if (!andAllBehind)
+                    QCOMPARE(after, m_before);
+            }
+        }
+        // Old files that cannot be removed are left behind; the new password is in force.
+        for (int failAt = writes + 1; failAt <= operations; ++failAt) {
+            init();
+            auto files = std::make_shared<FaultyFiles>();
+            files->failAt = failAt;
+            QVERIFY(change(m_folder, files).good);
+            QVERIFY(opensWhole(m_folder, newPassword));
+        }
+    }
+
+    void aFailingRandomSourceLeavesTheOldSafe()
+    {
+        for (const int works : {0, 1, 2, 3, 20}) {
+            std::atomic<int> left{works};
+            const RandomSource random = [&left](unsigned char *buffer, int size) {
+                return --left >= 0 && systemRandom(buffer, size);
+            };
+            QVERIFY(!change(m_folder, std::make_shared<FaultyFiles>(), random).good);
+            QCOMPARE(snapshot(m_folder), m_before);
+        }
+    }
+
+    void aDamagedItemStopsTheChange_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("remove");
+        QTest::newRow("attachment gone") << (QStringLiteral("attachment/") + attachmentId) << true;
+        QTest::newRow("attachment cut") << (QStringLiteral("attachment/") + attachmentId) << false;
+        QTest::newRow("item cut") << QStringLiteral("content/00000000-0000-0001-0000-000000001234")
+                                  << false;
+    }
+    void aDamagedItemStopsTheChange()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, remove);
+        const QString path = m_folder + QLatin1Char('/') + file;
+        if (remove)
+            QVERIFY(QFile::remove(path));
+        else
+            writeFile(path, contentOf(path).left(600));
+        m_before = snapshot(m_folder);
+        GPMSafe safe;
+        QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
+        QVERIFY(!safe.changePassword(newPassword));
+        QCOMPARE(snapshot(m_folder), m_before);
+        safe.lock();
+        QVERIFY(safe.unlock(samplePassword));
+    }
+
+    void aLockHeldByAnotherProcessStopsTheChange()
+    {
+        QProcess other;
+        other.start(QCoreApplication::applicationFilePath(),
+                    {QStringLiteral("--hold-lock"), m_folder});
+        QVERIFY(other.waitForReadyRead());
+        QMap<QString, QByteArray> held = snapshot(m_folder);
+        QVERIFY(!change(m_folder, std::make_shared<FaultyFiles>()).good);
+        QCOMPARE(snapshot(m_folder), held);
+        other.kill();
+        QVERIFY(other.waitForFinished());
+        // What the dead process left is no obstacle.
+        QVERIFY(change(m_folder, std::make_shared<FaultyFiles>()).good);
+    }
+
+    /// A process that dies inside each of the operations leaves whole files, and one of the two
+    /// passwords opens everything: the new one, or the old one once its pass id is put back.
+    void aKilledProcessLeavesWholeFiles()
+    {
+        const int operations = change(m_folder, std::make_shared<FaultyFiles>()).operations;
+        for (int dieAt = 1; dieAt <= operations; ++dieAt) {
+            init();
+            QProcess child;
+            child.start(QCoreApplication::applicationFilePath(),
+                        {QStringLiteral("--change-and-die"), m_folder, QString::number(dieAt)});
+            QVERIFY(child.waitForFinished());
+            QCOMPARE(child.exitCode(), 9);
+
+            QCOMPARE(contentOf(m_folder + QStringLiteral("/safe.meta")),
+                     m_before.value(QStringLiteral("safe.meta")));
+            const QString passId =
+                QString::fromLatin1(contentOf(m_folder + QStringLiteral("/safe.passid")));
+            const bool old = checkPassId(samplePassword.toUtf8(), passId);
+            QVERIFY(old || checkPassId(newPassword.toUtf8(), passId));
+            if (old || opensWhole(m_folder, newPassword)) {
+                QVERIFY(!old || opensWhole(m_folder, samplePassword));
+                continue;
+            }
+            const QString backup = m_folder + QStringLiteral("/safe.passid.bak");
+            writeFile(m_folder + QStringLiteral("/safe.passid"), contentOf(backup));
+            QVERIFY(opensWhole(m_folder, samplePassword));
+        }
+    }
+};
+
+static int holdLock(const QString &folder)
+{
+    QLockFile lock(folder + QStringLiteral("/.sourcelock"));
+    if (!lock.lock())
+        return 1;
+    puts("held");
+    fflush(stdout);
+    for (;;)
+        pause();
+}
+
+static int changeAndDie(const QString &folder, int dieAt)
+{
+    auto files = std::make_shared<FaultyFiles>();
+    files->failAt = dieAt;
+    files->fault = [] { _exit(9); };
+    change(folder, files);
+    return 0;
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--hold-lock"))
+        return holdLock(arguments.value(2));
+    if (arguments.value(1) == QLatin1String("--change-and-die"))
+        return changeAndDie(arguments.value(2), arguments.value(3).toInt());
+    TestPasswordChange test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_passwordchange.moc"
