@@ -1,6 +1,8 @@
 import { isWebAddress, losesEncryption, sameDocument, sameSite, siteOf } from './site.js';
 
 const SETTLE = 3000;
+// For a page that was there before the request came.
+const GLANCE = 500;
 const MOST_HOPS = 5;
 const LONGEST_ICON_ADDRESS = 2048;
 
@@ -53,7 +55,7 @@ export function createRequests({ tabs, documents, logins, send }) {
    * The description of a tab's page once it shows a field of the kind, or did not for a while. Pages that send
    * the browser on to another page are followed.
    */
-  async function describeSettled(job, tabId, kind) {
+  async function describeSettled(job, tabId, kind, milliseconds = SETTLE) {
     for (let hop = 0; hop < MOST_HOPS && !job.signal.aborted; hop += 1) {
       const tab = await tabs.get(tabId);
       if (!tab || (await tabs.settled(tab, job.signal)) === undefined) return undefined;
@@ -63,7 +65,7 @@ export function createRequests({ tabs, documents, logins, send }) {
         if (after?.status !== 'loading') return undefined;
         continue;
       }
-      const shown = await documents.waitFor(frames, kind, SETTLE);
+      const shown = await documents.waitFor(frames, kind, milliseconds);
       const page = shown === undefined ? undefined : await documents.describe(tabId);
       if (page) return { ...page, shown };
     }
@@ -114,11 +116,6 @@ export function createRequests({ tabs, documents, logins, send }) {
     });
   }
 
-  async function openLoginPage(job, tab, url) {
-    const there = sameSite(tab.url, url) && !losesEncryption(url, tab.url);
-    return there ? tab.id : navigate(job, tab, url);
-  }
-
   // Links are followed by address, so that none leads to another site; buttons are clicked.
   async function followSignIn(job, tabId) {
     const [top] = await documents.list(tabId);
@@ -142,9 +139,10 @@ export function createRequests({ tabs, documents, logins, send }) {
       const tab = (earlier !== undefined && (await tabs.get(earlier))) || (await tabs.active());
       if (!tab || !isWebAddress(request.url)) return undefined;
       job.tabId = tab.id;
-      const tabId = await openLoginPage(job, tab, request.url);
+      const there = sameSite(tab.url, request.url) && !losesEncryption(request.url, tab.url);
+      const tabId = there ? tab.id : await navigate(job, tab, request.url);
       if (tabId === undefined) return undefined;
-      let page = await describeSettled(job, tabId, 'login');
+      let page = await describeSettled(job, tabId, 'login', there ? GLANCE : SETTLE);
       if (page && !page.shown && (await followSignIn(job, tabId))) page = await describeSettled(job, tabId, 'login');
       return { action: 'loginPageLoaded', tabId, page };
     });

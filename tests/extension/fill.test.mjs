@@ -82,7 +82,7 @@ const APP = `
 
 test('controlled inputs take the value into their state', async () => {
   const { outputFiles } = buildSync({
-    stdin: { contents: APP, resolveDir: import.meta.dirname ?? new URL('.', import.meta.url).pathname },
+    stdin: { contents: APP, resolveDir: new URL('.', import.meta.url).pathname },
     bundle: true, write: false, define: { 'process.env.NODE_ENV': '"production"' },
   });
   const window = openPage('<div id=app></div>');

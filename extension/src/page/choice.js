@@ -4,7 +4,7 @@
 const fold = (text) => text.normalize('NFKC').trim().toLowerCase();
 const isNumber = (text) => /^\d+$/.test(text);
 const sameNumber = (a, b) => isNumber(a) && isNumber(b) && Number(a) === Number(b);
-const startsWithNumber = (text, wanted) => isNumber(wanted) && sameNumber(/^\d+(?!\d)/.exec(text)?.[0] ?? '', wanted);
+const startsWithNumber = (text, wanted) => isNumber(wanted) && sameNumber(/^\d+/.exec(text)?.[0] ?? '', wanted);
 const sameYear = (text, wanted) => /^20\d\d$/.test(wanted) && text === wanted.slice(2);
 const sameInitial = (text, wanted) => ['male', 'female'].includes(wanted) && text === wanted[0];
 

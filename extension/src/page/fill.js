@@ -16,18 +16,21 @@ function announce(field, type, EventKind = Event, options = {}) {
   field.dispatchEvent(new EventKind(type, { bubbles: true, composed: true, ...options }));
 }
 
-// A window in the background gives its fields no focus events, and this one often is in the background.
-function moveFocus(field, act, events) {
-  const missing = new Set(events);
+// A window in the background gives its fields no focus events, and while the program is used it is in the
+// background. The second event of each pair is the one that bubbles.
+function moveFocus(field, act, silent, bubbling) {
+  const missing = new Set([silent, bubbling]);
   const listen = (event) => missing.delete(event.type);
-  events.forEach((type) => field.addEventListener(type, listen));
+  field.addEventListener(silent, listen);
+  field.addEventListener(bubbling, listen);
   act();
-  events.forEach((type) => field.removeEventListener(type, listen));
-  for (const type of missing) announce(field, type, FocusEvent, { bubbles: type.startsWith('focusi') || type === 'focusout' });
+  field.removeEventListener(silent, listen);
+  field.removeEventListener(bubbling, listen);
+  for (const type of missing) announce(field, type, FocusEvent, { bubbles: type === bubbling });
 }
 
-const enter = (field) => moveFocus(field, () => field.focus({ preventScroll: true }), ['focus', 'focusin']);
-const leave = (field) => moveFocus(field, () => field.blur(), ['blur', 'focusout']);
+const enter = (field) => moveFocus(field, () => field.focus({ preventScroll: true }), 'focus', 'focusin');
+const leave = (field) => moveFocus(field, () => field.blur(), 'blur', 'focusout');
 
 function fillText(field, value) {
   const prototype = field.tagName === 'TEXTAREA' ? HTMLTextAreaElement.prototype : HTMLInputElement.prototype;
@@ -44,8 +47,9 @@ function fillText(field, value) {
 }
 
 function fillSelect(field, value) {
-  const options = [...field.options];
-  const choices = options.map((option) => ({ text: option.disabled ? '' : clean(option.text), value: option.disabled ? '' : option.value }));
+  const choices = [...field.options].map(({ disabled, text, value: own }) =>
+    disabled ? { text: '', value: '' } : { text: clean(text), value: own },
+  );
   const index = chooseIndex(choices, value, document.documentElement.lang);
   if (index < 0) return false;
   enter(field);
@@ -58,9 +62,9 @@ function fillSelect(field, value) {
 
 // The group is answered through any of its buttons.
 function fillRadio(field, value) {
-  const group = [...elementsUnder(field.getRootNode())].filter(
-    (other) => other === field || (fieldType(other) === 'radio' && other.form === field.form && field.name !== '' && other.name === field.name),
-  );
+  const together = (other) =>
+    fieldType(other) === 'radio' && other.form === field.form && field.name !== '' && other.name === field.name;
+  const group = [...elementsUnder(field.getRootNode())].filter((other) => other === field || together(other));
   const choices = group.map((radio) => ({
     text: clean([...radio.labels].map((label) => textOf(label)).join(' ') || attr(radio, 'aria-label')),
     value: radio.value,
