@@ -1,0 +1,215 @@
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { after, before, test } from 'node:test';
+import { buildSync } from 'esbuild';
+import { buildExtension, launchChromium } from './browser.mjs';
+import { startProgram } from './program.mjs';
+import { startSite } from './site.mjs';
+
+const REACT_APP = `
+  import { createElement as h, useState } from 'react';
+  import { createRoot } from 'react-dom/client';
+  function App() {
+    const [user, setUser] = useState('');
+    const [pw, setPw] = useState('');
+    const post = () => fetch('/done', { method: 'POST', body: new URLSearchParams({ user, pw }) });
+    return h('form', { onSubmit: (event) => event.preventDefault() },
+      h('input', { name: 'user', value: user, onChange: ({ target }) => setUser(target.value) }),
+      h('input', { name: 'pw', type: 'password', value: pw, onChange: ({ target }) => setPw(target.value) }),
+      h('button', { onClick: post, disabled: !(user && pw) }, 'Log in'));
+  }
+  createRoot(document.getElementById('app')).render(h(App));`;
+
+const FORM = `<form method=post action=/done><label>User <input name=user></label>
+  <input name=pw type=password><button>Log in</button></form>`;
+const INVISIBLE = [
+  '<div style="display:none"><input name=x></div>',
+  '<input name=x style="opacity:0">',
+  '<input name=x style="position:absolute;left:-5000px">',
+  '<div style="height:0;overflow:hidden"><input name=x></div>',
+  '<div style="width:200px;overflow:hidden;white-space:nowrap"><i style="display:inline-block;width:300px"></i><input name=x></div>',
+  '<details><input name=x></details>',
+  '<div inert><input name=x></div>',
+  '<input name=x style="clip-path:inset(100%)">',
+  '<iframe srcdoc="<input name=x>" style="visibility:hidden"></iframe>',
+];
+
+const PAGES = {
+  '/plain': `<title>Shop</title><link rel=icon href=/icon.png>${FORM}`,
+  '/invisible': `${INVISIBLE.join('')}<div style="height:3000px"></div><input name=below>`,
+  '/react': '<div id=app></div><script src=/react.js></script>',
+  '/react.js': buildSync({
+    stdin: { contents: REACT_APP, resolveDir: new URL('.', import.meta.url).pathname },
+    bundle: true, write: false, define: { 'process.env.NODE_ENV': '"production"' },
+  }).outputFiles[0].text,
+  '/frames': (port) => `<input name=outer>${[
+    `src="http://id.shop.example:${port}/inner"`, `src="http://127.0.0.1:${port}/inner"`, `src="http://localhost:${port}/around"`,
+    'src="/inner" sandbox', 'srcdoc="<input name=srcdoc>"',
+  ].map((source) => `<iframe ${source}></iframe>`).join('')}`,
+  '/inner': '<form method=post action=/done><input name=pw type=password><button>OK</button></form>',
+  '/around': (port) => `<iframe src="http://shop.example:${port}/inner"></iframe>`,
+  '/user': '<form method=post action=/password><input name=user type=email required><button>Next</button></form>',
+  '/password': '<form method=post action=/done><input name=pw type=password><button>Log in</button></form>',
+  '/formless': `<input id=user><input id=pw type=password><div role=button tabindex=0>Anmelden</div><script>
+    document.querySelector('[role=button]').onclick = () => fetch('/done', { method: 'POST', body: new URLSearchParams({ user: user.value, pw: pw.value }) });
+  </script>`,
+  '/late': `<script>setTimeout(() => { document.body.innerHTML = ${JSON.stringify(FORM)}; }, 300)</script>`,
+  '/moved': '<script>location.replace("/plain")</script>',
+  '/front': '<a href="/logout">Sign out</a><a href="/plain">Sign in</a>',
+  '/keys': '<input name=user>',
+  '/done': 'done',
+};
+
+const limit = { timeout: 30000 };
+let program;
+let site;
+let chromium;
+let lastTime = 1700000000000;
+
+const at = (path, host = 'shop.example') => `http://${host}:${site.port}${path}`;
+const fieldsOf = ({ result: { docinfo } }) => [...docinfo.forms.flatMap(({ fields }) => fields), ...docinfo.elements];
+const names = (payload) => fieldsOf(payload).map(({ name, id }) => name || id);
+const pageAt = async (url) => (await chromium.browser.pages()).find((page) => page.url() === url);
+
+async function ask(openmode, url, action = 'getDocumentData') {
+  const timestamp = String((lastTime += 1));
+  program.send(action, { reason: 'login', itemid: 'item', timestamp, url, openmode });
+  const { payload } = await program.next(action === 'getDocumentData' ? 'collectDocumentResults' : 'loginPageLoaded');
+  assert.equal(payload.timestamp, timestamp);
+  return payload;
+}
+
+function fill(payload, values, submit) {
+  const { forms, elements } = payload.result.docinfo;
+  for (const { formUid, fields } of [...forms, { formUid: 'none', fields: elements }]) {
+    const filled = fields.filter(({ name, id }) => (name || id) in values)
+      .map(({ opid, gpmid, name, id }) => ({ opid, gpmid, value: values[name || id] }));
+    if (filled.length > 0) program.send('fillForm', { formUid, elements: filled, reason: 'login', submit });
+  }
+}
+
+before(async () => {
+  const extensionDir = buildExtension();
+  program = await startProgram();
+  site = await startSite(PAGES);
+  chromium = await launchChromium({ extensionDir, hosts: ['shop.example', 'id.shop.example'] });
+});
+
+after(async () => {
+  await chromium?.close();
+  site?.close();
+  await program?.stop();
+});
+
+test('the extension says hello under its fixed id', limit, async () => {
+  const hello = await program.next('hello');
+  assert.deepEqual(hello, { action: 'hello', version: '1.1.32', bundleId: 'glaceron.chrome' });
+  assert.equal(program.connections[0].origin, `chrome-extension://${chromium.extensionId}`);
+  assert.match(readFileSync(new URL('../../extension/README.md', import.meta.url), 'utf8'), new RegExp(chromium.extensionId));
+});
+
+for (const path of ['/plain', '/react', '/formless', '/late']) {
+  test(`a login is filled and sent at ${path}`, limit, async () => {
+    const payload = await ask('newtab', at(path));
+    assert.deepEqual(names(payload), ['user', 'pw']);
+    assert.ok(fieldsOf(payload).every(({ visible }) => visible));
+    fill(payload, { user: 'ana', pw: 'p&ä "1"' }, true);
+    assert.deepEqual(await site.nextPost(), { path: '/done', fields: { user: 'ana', pw: 'p&ä "1"' } });
+  });
+}
+
+test('the report names the page and its icon', limit, async () => {
+  const { tabUrl, faviconUrl, result } = await ask('window', at('/plain'));
+  assert.deepEqual([tabUrl, faviconUrl, result.docinfo.title], [at('/plain'), at('/icon.png'), 'Shop']);
+  assert.deepEqual([fieldsOf({ result })[0].sourceLabelFor, result.docinfo.forms[0].action], ['User', at('/done')]);
+});
+
+test('only what a person can see is visible', limit, async () => {
+  const fields = fieldsOf(await ask('newtab', at('/invisible')));
+  assert.equal(fields.length, INVISIBLE.length + 1);
+  assert.deepEqual(fields.filter(({ visible }) => visible).map(({ name }) => name), ['below']);
+});
+
+test('frames of the site are filled, all others stay unknown', limit, async () => {
+  const payload = await ask('newtab', at('/frames'));
+  assert.deepEqual(names(payload).sort(), ['outer', 'pw', 'srcdoc']);
+  fill(payload, { pw: 'inner secret' }, true);
+  assert.deepEqual(await site.nextPost(), { path: '/done', fields: { pw: 'inner secret' } });
+});
+
+test('a login in two steps is reported again when the password is asked for', limit, async () => {
+  const first = await ask('newtab', at('/user'));
+  fill(first, { user: 'ana@shop.example' }, true);
+  assert.deepEqual(await site.nextPost(), { path: '/password', fields: { user: 'ana@shop.example' } });
+  const { payload } = await program.next('collectDocumentResults');
+  assert.deepEqual([payload.timestamp, payload.tabUrl, names(payload)], [first.timestamp, at('/password'), ['pw']]);
+  fill(payload, { pw: 'second' }, true);
+  assert.deepEqual(await site.nextPost(), { path: '/done', fields: { pw: 'second' } });
+});
+
+test('a page that sends the browser on is followed', limit, async () => {
+  const { tabUrl } = await ask('current', at('/moved'));
+  assert.equal(tabUrl, at('/plain'));
+});
+
+test('the login page is found behind the sign-in link', limit, async () => {
+  const { tabUrl } = await ask('newtab', at('/front'));
+  assert.equal(tabUrl, at('/front'));
+  const found = await ask('getLoginPageData', at('/front'), 'findLoginPage');
+  assert.deepEqual([found.tabUrl, names(found)], [at('/plain'), ['user', 'pw']]);
+});
+
+test('a page that does not load is not answered for', limit, async () => {
+  program.send('getDocumentData', { reason: 'login', itemid: 'gone', timestamp: '5', url: 'http://127.0.0.1:1/', openmode: 'newtab' });
+  const next = await ask('newtab', at('/plain'));
+  assert.equal(next.tabUrl, at('/plain'));
+  const again = await ask('currentNoReload', '');
+  assert.equal(again.itemid, 'item');
+});
+
+test('a document that was left gets nothing, nor does the one in its place', limit, async () => {
+  const payload = await ask('newtab', at('/plain'));
+  const page = await pageAt(at('/plain'));
+  await page.bringToFront();
+  const here = await ask('currentNoReload', '');
+  await page.reload();
+  fill(here, { user: 'late', pw: 'late' });
+  fill(payload, { user: 'late', pw: 'late' });
+  fill(await ask('currentNoReload', ''), { user: 'ana' });
+  await page.waitForFunction(() => document.querySelector('[name=user]').value !== '');
+  assert.deepEqual(await page.$$eval('input', (inputs) => inputs.map(({ value }) => value)), ['ana', '']);
+});
+
+test('where nothing on the page sends the form, the program is asked to press Enter', limit, async () => {
+  const payload = await ask('newtab', at('/keys'));
+  await (await pageAt(at('/keys'))).bringToFront();
+  fill(payload, { user: 'ana' }, true);
+  const frame = await program.next('pressEnterKey');
+  assert.equal('payload' in frame, false);
+});
+
+test('the toolbar button names the page it was pressed on', limit, async () => {
+  await ask('newtab', at('/plain'));
+  const extension = (await chromium.browser.extensions()).get(chromium.extensionId);
+  const pages = await chromium.browser.pages();
+  await extension.triggerAction(pages.findLast((page) => page.url() === at('/plain')));
+  const { payload } = await program.next('showWindow');
+  assert.deepEqual(payload, { url: at('/plain') });
+});
+
+test('the link comes back after the program went away', limit, async () => {
+  const before = program.connections.length;
+  await program.stop();
+  await program.listen();
+  await program.next('hello');
+  assert.equal(program.connections.length, before + 1);
+  assert.equal((await ask('newtab', at('/plain'))).tabUrl, at('/plain'));
+});
+
+test('the idle background script stays connected', { timeout: 90000 }, async () => {
+  const before = program.connections.length;
+  await program.next('keepAlive');
+  await program.next('keepAlive');
+  assert.equal((await ask('newtab', at('/plain'))).tabUrl, at('/plain'));
+  assert.equal(program.connections.length, before);
+});
