@@ -1,0 +1,125 @@
+#include "ItemFilterModel.h"
+#include "ItemListModel.h"
+#include "PMItemFactory.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestItemListModel : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<GPMSafe> m_safe;
+
+    PMListItem *add(PMListItem::Type type, const char *title, const char *second = "")
+    {
+        auto item = makeItem(type);
+        item->setTitle(QString::fromUtf8(title));
+        item->setSecondaryText(QString::fromUtf8(second));
+        return m_safe->addItem(std::move(item));
+    }
+    static QString titles(const QAbstractItemModel &model)
+    {
+        QStringList list;
+        for (int row = 0; row < model.rowCount(); ++row)
+            list.append(model.index(row, 0).data().toString());
+        return list.join(QLatin1Char(' '));
+    }
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_safe = std::make_shared<GPMSafe>();
+        QVERIFY(m_safe->init(m_folder->path(), QStringLiteral("p"), QStringLiteral("n"),
+                             QStringLiteral("h")));
+    }
+
+    void followsTheSafe()
+    {
+        ItemListModel model;
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        add(PMListItem::Login, "before");
+        model.setSafe(m_safe);
+        QSignalSpy content(&model, &ItemListModel::contentChanged);
+        QVERIFY(content.wait());
+        PMListItem *item = add(PMListItem::Login, "b");
+        add(PMListItem::SSN, "c");
+        QCOMPARE(model.rowCount(), 3);
+        QVERIFY(content.wait());
+        QCOMPARE(content.count(), 2); // one for both
+        QSignalSpy data(&model, &ItemListModel::dataChanged);
+        item->setTitle(QStringLiteral("renamed"));
+        QCOMPARE(data.count(), 1);
+        QCOMPARE(model.indexOf(item->id()).data().toString(), QStringLiteral("renamed"));
+        QVERIFY(m_safe->removeItems({item->id()}));
+        QVERIFY(!titles(model).contains(QStringLiteral("renamed")));
+        QCOMPARE(model.rowCount(), 2);
+        m_safe->lock();
+        QCOMPARE(model.rowCount(), 0);
+        QVERIFY(m_safe->unlock(QStringLiteral("p")));
+        QCOMPARE(model.rowCount(), 2);
+        m_safe.reset();
+        model.setSafe(nullptr); // the model held the last reference
+        QCOMPARE(model.rowCount(), 0);
+    }
+
+    void filtersAndSorts()
+    {
+        PMListItem *zebra = add(PMListItem::Login, "zebra", "ana@example.org");
+        PMListItem *apple = add(PMListItem::Login, "Apple", "bob");
+        PMListItem *note = add(PMListItem::SecureNote, "Émile");
+        PMListItem *gone = add(PMListItem::Login, "gone");
+        zebra->setFavorite(true);
+        zebra->setUseCount(2);
+        apple->setUseCount(5);
+        apple->setUrl(QStringLiteral("https://shop.example"));
+        gone->setDeleted(true);
+        gone->setFavorite(true);
+        note->setModified(QDateTime::currentDateTimeUtc().addDays(1));
+        ItemListModel model;
+        model.setSafe(m_safe);
+        ItemFilterModel list;
+        list.setSourceModel(&model);
+        QCOMPARE(titles(list), QStringLiteral("Apple Émile zebra"));
+
+        const auto shown = [&list](const ItemCategory &category) {
+            list.setCategory(category);
+            return titles(list);
+        };
+        QCOMPARE(shown({ItemCategory::Favourites}), QStringLiteral("zebra"));
+        QCOMPARE(shown({ItemCategory::MostUsed}), QStringLiteral("Apple zebra"));
+        QCOMPARE(shown({ItemCategory::Trash}), QStringLiteral("gone"));
+        QCOMPARE(shown({ItemCategory::OfType, PMListItem::SecureNote}), QStringLiteral("Émile"));
+        QCOMPARE(shown({ItemCategory::OfType, PMListItem::Passport}), QString());
+        QCOMPARE(shown({ItemCategory::All}), QStringLiteral("Apple Émile zebra"));
+
+        const QVector<int> counts = categoryCounts(model);
+        QCOMPARE(counts.mid(0, 4), QVector<int>({3, 1, 2, 2}));
+        QCOMPARE(counts.last(), 1);
+
+        list.setSearch(QStringLiteral(" EXAMPLE zeb "));
+        QCOMPARE(titles(list), QStringLiteral("zebra"));
+        list.setSearch(QStringLiteral("émi"));
+        QCOMPARE(titles(list), QStringLiteral("Émile"));
+        list.setSearch(QStringLiteral("shop"));
+        QCOMPARE(titles(list), QStringLiteral("Apple"));
+        apple->setTitle(QStringLiteral("Shop"));
+        apple->setUrl(QString());
+        QCOMPARE(titles(list), QStringLiteral("Shop"));
+        list.setSearch(QString());
+        list.setSortBy(ItemFilterModel::SortBy::MostUsed);
+        QCOMPARE(titles(list), QStringLiteral("Shop zebra Émile"));
+        list.setSortBy(ItemFilterModel::SortBy::Modified);
+        QVERIFY(titles(list).startsWith(QStringLiteral("Émile")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestItemListModel)
+#include "tst_itemlistmodel.moc"
