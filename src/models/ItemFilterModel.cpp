@@ -5,6 +5,8 @@
 ItemFilterModel::ItemFilterModel(QObject *parent)
     : QSortFilterProxyModel(parent)
 {
+    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
+    m_collator.setNumericMode(true);
     setDynamicSortFilter(true);
     sort(0);
 }
@@ -66,6 +68,6 @@ bool ItemFilterModel::lessThan(const QModelIndex &left, const QModelIndex &right
         if (a != b)
             return a > b;
     }
-    const int order = QString::localeAwareCompare(left.data().toString(), right.data().toString());
+    const int order = m_collator.compare(left.data().toString(), right.data().toString());
     return order != 0 ? order < 0 : left.row() < right.row();
 }

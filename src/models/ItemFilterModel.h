@@ -2,6 +2,7 @@
 
 #include "ItemCategory.h"
 
+#include <QCollator>
 #include <QSortFilterProxyModel>
 
 /// The rows of an ItemListModel that belong to a category and match a search, sorted.
@@ -30,6 +31,7 @@ protected:
     bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
 
 private:
+    QCollator m_collator;
     ItemCategory m_category;
     QString m_search;
     QStringList m_words;
