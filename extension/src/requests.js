@@ -82,15 +82,13 @@ export function createRequests({ tabs, documents, logins, send }) {
   }
 
   async function answer(action, request, tabId, page) {
-    const { reason, itemid, timestamp, request_id: requestId, openmode } = request;
-    if (reason === 'login' && itemid) logins.reported(request, tabId, siteOf(page.tabUrl), page.password);
+    const { reason, itemid, timestamp, openmode } = request;
+    const echo = { reason, itemid, timestamp, openmode };
+    if (typeof request.request_id === 'string') echo.request_id = request.request_id;
+    if (reason === 'login' && itemid) logins.reported(echo, tabId, siteOf(page.tabUrl), page.password);
     const icon = (await tabs.get(tabId))?.favIconUrl ?? page.icon;
     send(action, {
-      reason,
-      itemid,
-      timestamp,
-      request_id: typeof requestId === 'string' ? requestId : undefined,
-      openmode,
+      ...echo,
       result: { docinfo: page.docinfo },
       tabUrl: page.tabUrl,
       faviconUrl: isWebAddress(icon) && icon.length <= LONGEST_ICON_ADDRESS ? icon : undefined,
