@@ -1,0 +1,285 @@
+#include "GPMAppCore.h"
+
+#include "PMItemFactory.h"
+#include "PluginVersion.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QGuiApplication>
+#include <QStandardPaths>
+
+namespace {
+
+GPMAppCore::Places standardPlaces()
+{
+    GPMAppCore::Places places;
+    places.configFolder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    places.dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    places.hiddenFolder =
+        QDir::homePath() + QStringLiteral("/.") + QCoreApplication::applicationName();
+    return places;
+}
+
+} // namespace
+
+GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
+    : QObject(parent)
+    , m_platform(Platform::create())
+    , m_settings(places.configFolder, places.hiddenFolder)
+    , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"))
+    , m_port(places.port)
+{
+}
+
+GPMAppCore::~GPMAppCore()
+{
+    setSafe(nullptr);
+}
+
+GPMAppCore &GPMAppCore::instance()
+{
+    // Lives until the process ends: its sockets must not go after the application object.
+    static GPMAppCore *core = new GPMAppCore(standardPlaces());
+    return *core;
+}
+
+void GPMAppCore::startServer()
+{
+    if (m_server)
+        return;
+    m_server = std::make_unique<GPMWebSocketServer>(m_port, true, *m_platform);
+    m_flow = std::make_unique<FormFillFlow>(
+        *m_server, [this](const QString &id) { return m_safe ? m_safe->item(id) : nullptr; },
+        m_settings);
+    connectServer();
+    connectFlow();
+}
+
+void GPMAppCore::connectServer()
+{
+    connect(m_server.get(), &GPMWebSocketServer::hello, this, &GPMAppCore::onHello);
+    connect(m_server.get(), &GPMWebSocketServer::collectedDocumentInfo, this,
+            &GPMAppCore::parsePluginReplay);
+    connect(m_server.get(), &GPMWebSocketServer::loginPageLoaded, this, &GPMAppCore::fillLoginPage);
+    connect(m_server.get(), &GPMWebSocketServer::activatePluginWindow, this,
+            [this](const QString &, const QString &url) { Q_EMIT requestShowMainWindow(url); });
+}
+
+void GPMAppCore::connectFlow()
+{
+    connect(m_flow.get(), &FormFillFlow::userNotice, this, &GPMAppCore::message);
+    connect(m_flow.get(), &FormFillFlow::openInBrowserRequested, this, &GPMAppCore::openAddress);
+    connect(m_flow.get(), &FormFillFlow::itemUsed, this, &GPMAppCore::countUse);
+}
+
+bool GPMAppCore::createSafe(const QString &name, const QString &password, const QString &hint)
+{
+    const std::shared_ptr<GPMSafe> safe = m_knownSafes.create(name, password, hint);
+    if (!safe)
+        return false;
+    setSafe(safe);
+    Q_EMIT safeLockedChanged(false);
+    return true;
+}
+
+bool GPMAppCore::selectSafe(const QString &folder)
+{
+    if (m_safe && m_safe->folder() == folder)
+        return true;
+    setSafe(m_knownSafes.open(folder));
+    return m_safe != nullptr;
+}
+
+void GPMAppCore::setSafe(const std::shared_ptr<GPMSafe> &safe)
+{
+    if (m_safe == safe)
+        return;
+    lockCurrentSafe();
+    if (m_safe)
+        m_safe->disconnect(this);
+    m_safe = safe;
+    if (m_safe) {
+        connect(m_safe.get(), &GPMSafe::unlockProgress, this, &GPMAppCore::unlockProgress);
+        connect(m_safe.get(), &GPMSafe::unlockFinished, this, [this](SafeUnlock::Outcome outcome) {
+            if (outcome == SafeUnlock::Outcome::Unlocked)
+                m_knownSafes.remember(m_safe->folder());
+            Q_EMIT unlockFinished(outcome);
+        });
+        connect(m_safe.get(), &GPMSafe::lockedChanged, this, &GPMAppCore::safeLockedChanged);
+        connect(m_safe.get(), &GPMSafe::saved, this, &GPMAppCore::tellSaveResult);
+    }
+    Q_EMIT currentSafeChanged();
+}
+
+void GPMAppCore::unlockCurrentSafe(const QString &password)
+{
+    if (m_safe)
+        m_safe->unlockAsync(password);
+}
+
+void GPMAppCore::cancelUnlock()
+{
+    if (m_safe)
+        m_safe->cancelUnlock();
+}
+
+void GPMAppCore::lockCurrentSafe()
+{
+    if (!m_safe || !m_safe->isUnlocked())
+        return;
+    Q_EMIT requestLock();
+    if (m_flow)
+        m_flow->clear();
+    m_safe->lock();
+}
+
+void GPMAppCore::doItemDefaultAction(const QString &itemId, const QString &callerId,
+                                     const QString &option)
+{
+    const PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
+    if (item && item->type() == PMListItem::Login)
+        doLoginDefaultAction(itemId, callerId, option);
+}
+
+void GPMAppCore::doLoginDefaultAction(const QString &itemId, const QString &callerId,
+                                      const QString &option)
+{
+    m_flow->doLoginDefaultAction(itemId, callerId, option);
+}
+
+void GPMAppCore::placePasswordValue(const QString &password)
+{
+    m_flow->placePasswordValue(password);
+}
+
+void GPMAppCore::parsePluginReplay(const QString &callerId, const QJsonObject &data)
+{
+    m_flow->parsePluginReplay(callerId, data);
+}
+
+void GPMAppCore::fillLoginPage(const QString &callerId, const QJsonObject &data)
+{
+    m_flow->fillLoginPage(callerId, data);
+}
+
+void GPMAppCore::onHello(const QString &, const QString &version, const QString &bundleId)
+{
+    if (const std::optional<QString> warning = pluginVersionWarning(version, bundleId))
+        Q_EMIT message(tr("Warning"), *warning);
+}
+
+std::unique_ptr<PMListItem> GPMAppCore::modelCreateItem(PMListItem::Type type) const
+{
+    return makeItem(type);
+}
+
+PMListItem *GPMAppCore::modelAddItem(std::unique_ptr<PMListItem> item)
+{
+    PMListItem *added = m_safe ? m_safe->addItem(std::move(item)) : nullptr;
+    if (added)
+        m_safe->saveChangesAsync();
+    return added;
+}
+
+void GPMAppCore::modelItemChanged(const QString &itemId)
+{
+    PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
+    if (!item)
+        return;
+    m_safe->touchItem(*item);
+    m_safe->saveChangesAsync();
+}
+
+void GPMAppCore::setDeleted(const QString &itemId, bool deleted)
+{
+    PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
+    if (!item)
+        return;
+    item->setDeleted(deleted);
+    modelItemChanged(itemId);
+}
+
+void GPMAppCore::modelItemDeleted(const QString &itemId)
+{
+    setDeleted(itemId, true);
+}
+
+void GPMAppCore::modelItemRestored(const QString &itemId)
+{
+    setDeleted(itemId, false);
+}
+
+void GPMAppCore::modelItemPurged(const QString &itemId)
+{
+    purge({itemId});
+}
+
+void GPMAppCore::modelClearTrash()
+{
+    purge(trashedIds());
+}
+
+void GPMAppCore::modelRestoreAll()
+{
+    const QStringList ids = trashedIds();
+    for (const QString &id : ids) {
+        PMListItem *item = m_safe->item(id);
+        item->setDeleted(false);
+        m_safe->touchItem(*item);
+    }
+    if (!ids.isEmpty())
+        m_safe->saveChangesAsync();
+}
+
+QStringList GPMAppCore::trashedIds() const
+{
+    QStringList ids;
+    if (!m_safe)
+        return ids;
+    for (const PMListItem *item : m_safe->items()) {
+        if (item->deleted())
+            ids.append(item->id());
+    }
+    return ids;
+}
+
+void GPMAppCore::purge(const QStringList &ids)
+{
+    if (!m_safe || ids.isEmpty() || m_safe->removeItems(ids))
+        return;
+    Q_EMIT message(tr("Can't delete."),
+                   tr("The items are still there. Check that the folder of the safe can be "
+                      "written to:\n%1")
+                       .arg(QDir::toNativeSeparators(m_safe->folder())));
+}
+
+void GPMAppCore::exitPasswordManager()
+{
+    lockCurrentSafe();
+    if (m_settings.clearClipboard())
+        m_clipboard.clear();
+    Q_EMIT quitRequested();
+}
+
+void GPMAppCore::tellSaveResult(bool good, const QStringList &failedPaths)
+{
+    if (good)
+        return;
+    QStringList paths;
+    for (const QString &path : failedPaths)
+        paths.append(QDir::toNativeSeparators(path));
+    Q_EMIT message(tr("Can't save changes."),
+                   tr("These files could not be written; what they held before is still there. "
+                      "Check the free space and the permissions, then save again:\n%1")
+                       .arg(paths.join(QLatin1Char('\n'))));
+}
+
+void GPMAppCore::countUse(const QString &itemId)
+{
+    PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
+    if (!item)
+        return;
+    item->setUseCount(item->useCount() + 1);
+    item->setLastAccessed(QDateTime::currentDateTimeUtc());
+    m_safe->saveChangesAsync();
+}

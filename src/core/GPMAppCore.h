@@ -1,0 +1,122 @@
+#pragma once
+
+#include "ClipboardKeeper.h"
+#include "FormFillFlow.h"
+#include "GPMAppSettings.h"
+#include "GPMWebSocketServer.h"
+#include "KnownSafes.h"
+#include "Platform.h"
+
+#include <QObject>
+#include <QUrl>
+
+#include <memory>
+
+/// The application's controller: owns the current safe, the browser link and the settings, and
+/// hands each command on to the part that does the work.
+class GPMAppCore : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Where the program keeps its files and listens.
+    struct Places
+    {
+        QString configFolder; ///< "config.json"
+        QString dataFolder;   ///< new safes, in its folder "safes"
+        QString hiddenFolder; ///< log and backups
+        quint16 port = 7899;  ///< of the browser link on 127.0.0.1
+    };
+
+    explicit GPMAppCore(const Places &places, QObject *parent = nullptr);
+    ~GPMAppCore() override;
+
+    /// The program's own core, made on first use with the standard places of the system.
+    static GPMAppCore &instance();
+
+    /// Brings up the link to the browser extension. A port that is taken is logged and leaves the
+    /// program without the link. Once, before the first command on an item.
+    void startServer();
+
+    GPMAppSettings &settings() { return m_settings; }
+    KnownSafes &knownSafes() { return m_knownSafes; }
+    ClipboardKeeper &clipboard() { return m_clipboard; }
+    Platform &platform() { return *m_platform; }
+
+    /// The open safe, locked or not; null while none is chosen.
+    const std::shared_ptr<GPMSafe> &currentSafe() const { return m_safe; }
+
+    /// Makes a safe and opens it. False, with nothing left behind, when it cannot be made.
+    bool createSafe(const QString &name, const QString &password, const QString &hint);
+
+    /// Makes the safe of a folder the current one, locked. False when there is none; then none is
+    /// the current one.
+    bool selectSafe(const QString &folder);
+
+    /// A new item of the kind, not yet in the safe; none for an unknown kind.
+    std::unique_ptr<PMListItem> modelCreateItem(PMListItem::Type type) const;
+    /// Takes a new item into the safe and saves; null when the safe is locked.
+    PMListItem *modelAddItem(std::unique_ptr<PMListItem> item);
+
+public Q_SLOTS:
+    /// Starts to unlock the current safe; unlockProgress() and unlockFinished() follow.
+    void unlockCurrentSafe(const QString &password);
+    void cancelUnlock();
+    void lockCurrentSafe();
+
+    void doItemDefaultAction(const QString &itemId, const QString &callerId, const QString &option);
+    void doLoginDefaultAction(const QString &itemId, const QString &callerId,
+                              const QString &option);
+    void placePasswordValue(const QString &password);
+    void parsePluginReplay(const QString &callerId, const QJsonObject &data);
+    void fillLoginPage(const QString &callerId, const QJsonObject &data);
+    void onHello(const QString &callerId, const QString &version, const QString &bundleId);
+
+    /// The item's fields were edited: sets its time of change and saves.
+    void modelItemChanged(const QString &itemId);
+    /// Moves an item to the trash, or back.
+    void modelItemDeleted(const QString &itemId);
+    void modelItemRestored(const QString &itemId);
+    /// Deletes an item for good.
+    void modelItemPurged(const QString &itemId);
+    /// Deletes everything in the trash for good.
+    void modelClearTrash();
+    /// Takes everything out of the trash.
+    void modelRestoreAll();
+
+    void exitPasswordManager();
+
+Q_SIGNALS:
+    /// Another safe, or none, is the current one.
+    void currentSafeChanged();
+    void unlockProgress(int done, int total);
+    void unlockFinished(SafeUnlock::Outcome outcome);
+    void safeLockedChanged(bool locked);
+    void requestLock();
+    /// The main window is to come to the front; the address is that of the browser's page, if any.
+    void requestShowMainWindow(const QString &url);
+    /// Something that the user has to know.
+    void message(const QString &title, const QString &text);
+    /// An address to be opened in the default browser.
+    void openAddress(const QUrl &url);
+    void quitRequested();
+
+private:
+    void setSafe(const std::shared_ptr<GPMSafe> &safe);
+    void connectServer();
+    void connectFlow();
+    void tellSaveResult(bool good, const QStringList &failedPaths);
+    void countUse(const QString &itemId);
+    void setDeleted(const QString &itemId, bool deleted);
+    QStringList trashedIds() const;
+    void purge(const QStringList &ids);
+
+    std::unique_ptr<Platform> m_platform;
+    GPMAppSettings m_settings;
+    KnownSafes m_knownSafes;
+    ClipboardKeeper m_clipboard;
+    quint16 m_port;
+    std::unique_ptr<GPMWebSocketServer> m_server;
+    std::unique_ptr<FormFillFlow> m_flow;
+    std::shared_ptr<GPMSafe> m_safe;
+};

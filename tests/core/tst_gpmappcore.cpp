@@ -1,0 +1,247 @@
+#include "GPMAppCore.h"
+#include "PMLogin.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTemporaryDir>
+#include <QWebSocket>
+#include <QtTest>
+
+namespace {
+
+quint16 freePort()
+{
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    return server.serverPort();
+}
+
+/// The browser extension's end of the link.
+class Extension : public QObject
+{
+public:
+    explicit Extension(quint16 port)
+    {
+        connect(&m_socket, &QWebSocket::textMessageReceived, this, [this](const QString &text) {
+            received.append(QJsonDocument::fromJson(text.toUtf8()).object());
+        });
+        connect(&m_socket, &QWebSocket::connected, this,
+                [this] { send(QStringLiteral("hello"), {}); });
+        m_socket.open(QUrl(QStringLiteral("ws://127.0.0.1:%1").arg(port)));
+    }
+
+    void send(const QString &action, const QJsonObject &payload)
+    {
+        const QJsonObject frame{{QStringLiteral("action"), action},
+                                {QStringLiteral("version"), QStringLiteral("1.1.32")},
+                                {QStringLiteral("bundleId"), QStringLiteral("glaceron.chrome")},
+                                {QStringLiteral("payload"), payload}};
+        m_socket.sendTextMessage(QString::fromUtf8(QJsonDocument(frame).toJson()));
+    }
+
+    QVector<QJsonObject> received;
+
+private:
+    QWebSocket m_socket;
+};
+
+/// A page with a login form at the address, as the answer to a request.
+QJsonObject answerTo(const QJsonObject &request, const char *address)
+{
+    const QByteArray form =
+        "[{'formUid':'f','fields':[{'opid':'1','gpmid':'1','type':'text','visible':true,"
+        "'name':'user'},{'opid':'2','gpmid':'2','type':'password','visible':true}]}]";
+    const QJsonArray forms = QJsonDocument::fromJson(QByteArray(form).replace('\'', '"')).array();
+    QJsonObject answer = request;
+    answer.remove(QStringLiteral("url"));
+    answer.remove(QStringLiteral("openmode"));
+    answer.insert(QStringLiteral("tabUrl"), QLatin1String(address));
+    answer.insert(
+        QStringLiteral("result"),
+        QJsonObject{{QStringLiteral("docinfo"), QJsonObject{{QStringLiteral("forms"), forms}}}});
+    return answer;
+}
+
+} // namespace
+
+class TestGpmAppCore : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<GPMAppCore> m_core;
+    quint16 m_port = 0;
+
+    PMLogin *addLogin(const char *title)
+    {
+        auto item = m_core->modelCreateItem(PMListItem::Login);
+        item->setTitle(QString::fromLatin1(title));
+        item->setUrl(QStringLiteral("https://shop.example/login"));
+        item->setProperty("login", QStringLiteral("ana"));
+        item->setProperty("password", QStringLiteral("s3cret"));
+        return qobject_cast<PMLogin *>(m_core->modelAddItem(std::move(item)));
+    }
+    QString reopened(const QString &id, const char *field)
+    {
+        GPMSafe safe;
+        if (!safe.open(m_core->currentSafe()->folder()) || !safe.unlock(QStringLiteral("pw")))
+            return QStringLiteral("does not open");
+        return safe.item(id) ? safe.item(id)->property(field).toString() : QStringLiteral("gone");
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        m_port = freePort();
+        m_core = std::make_unique<GPMAppCore>(GPMAppCore::Places{
+            m_home->filePath(QStringLiteral("config")), m_home->filePath(QStringLiteral("data")),
+            m_home->filePath(QStringLiteral("hidden")), m_port});
+        m_core->startServer();
+    }
+    void cleanup() { m_core.reset(); }
+
+    void aSafeIsCreatedLockedAndUnlocked()
+    {
+        QSignalSpy locked(m_core.get(), &GPMAppCore::safeLockedChanged);
+        QVERIFY(
+            m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), QStringLiteral("h")));
+        const QString id = addLogin("Shop")->id();
+        m_core->lockCurrentSafe();
+        m_core->lockCurrentSafe();
+        QCOMPARE(locked.count(), 2);
+        QCOMPARE(locked.at(0).at(0).toBool(), false);
+        QCOMPARE(locked.at(1).at(0).toBool(), true);
+        QVERIFY(!m_core->modelAddItem(m_core->modelCreateItem(PMListItem::Login)));
+        m_core->modelItemDeleted(id); // while locked: nothing to do
+
+        QSignalSpy finished(m_core.get(), &GPMAppCore::unlockFinished);
+        m_core->unlockCurrentSafe(QStringLiteral("wrong"));
+        QVERIFY(finished.wait());
+        QVERIFY(!m_core->currentSafe()->isUnlocked());
+        m_core->unlockCurrentSafe(QStringLiteral("pw"));
+        QVERIFY(finished.wait());
+        QCOMPARE(m_core->currentSafe()->item(id)->title(), QStringLiteral("Shop"));
+
+        QVERIFY(!m_core->selectSafe(m_home->filePath(QStringLiteral("none"))));
+        QVERIFY(!m_core->currentSafe());
+    }
+
+    void commandsOnItemsReachTheDisk()
+    {
+        QVERIFY(
+            m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), QStringLiteral("h")));
+        const QString kept = addLogin("Kept")->id();
+        const QString gone = addLogin("Gone")->id();
+        QSignalSpy saved(m_core->currentSafe().get(), &GPMSafe::saved);
+        m_core->currentSafe()->item(kept)->setNote(QStringLiteral("noted"));
+        m_core->modelItemChanged(kept);
+        QTRY_COMPARE(saved.count(), 3);
+        QCOMPARE(reopened(kept, "note"), QStringLiteral("noted"));
+        m_core->modelItemDeleted(gone);
+        m_core->modelItemDeleted(kept);
+        QTRY_COMPARE(saved.count(), 5);
+        QCOMPARE(reopened(gone, "deleted"), QStringLiteral("true"));
+        m_core->modelItemRestored(kept);
+        QTRY_COMPARE(saved.count(), 6);
+        m_core->modelClearTrash();
+        QCOMPARE(reopened(gone, "title"), QStringLiteral("gone"));
+        QCOMPARE(reopened(kept, "deleted"), QStringLiteral("false"));
+        m_core->modelItemDeleted(kept);
+        m_core->modelRestoreAll();
+        QTRY_COMPARE(saved.count(), 8);
+        QCOMPARE(reopened(kept, "deleted"), QStringLiteral("false"));
+    }
+
+    void aSaveThatFailsIsTold()
+    {
+        QVERIFY(
+            m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), QStringLiteral("h")));
+        const QString content = m_core->currentSafe()->folder() + QStringLiteral("/content");
+        QVERIFY(QDir().rename(content, content + QStringLiteral(".away")));
+        QSignalSpy message(m_core.get(), &GPMAppCore::message);
+        PMLogin *login = addLogin("Shop");
+        QVERIFY(message.wait());
+        QVERIFY(message.at(0).at(1).toString().contains(login->id()));
+        QVERIFY(!message.at(0).at(1).toString().contains(QStringLiteral("s3cret")));
+        QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
+        const QString id = login->id();
+        m_core->lockCurrentSafe();
+        QCOMPARE(reopened(id, "title"), QStringLiteral("Shop"));
+    }
+
+    void aLoginGoesToItsSiteAndIsCounted()
+    {
+        QVERIFY(
+            m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), QStringLiteral("h")));
+        const PMLogin *login = addLogin("Shop");
+        Extension extension(m_port);
+        QTRY_COMPARE(extension.received.size(), 1);
+        m_core->doItemDefaultAction(login->id(), QString(), QString());
+        QTRY_COMPARE(extension.received.size(), 2);
+        const QJsonObject request =
+            extension.received.at(1).value(QStringLiteral("payload")).toObject();
+        QCOMPARE(request.value(QStringLiteral("openmode")).toString(), QStringLiteral("current"));
+        extension.send(QStringLiteral("collectDocumentResults"),
+                       answerTo(request, "https://www.shop.example/"));
+        QTRY_COMPARE(extension.received.size(), 3);
+        const QJsonObject fill =
+            extension.received.at(2).value(QStringLiteral("payload")).toObject();
+        QCOMPARE(extension.received.at(2).value(QStringLiteral("action")).toString(),
+                 QStringLiteral("fillForm"));
+        const QJsonArray elements = fill.value(QStringLiteral("elements")).toArray();
+        QCOMPARE(elements.at(0).toObject().value(QStringLiteral("value")).toString(),
+                 QStringLiteral("ana"));
+        QCOMPARE(elements.at(1).toObject().value(QStringLiteral("value")).toString(),
+                 QStringLiteral("s3cret"));
+        QCOMPARE(fill.value(QStringLiteral("submit")).toBool(), true);
+        QCOMPARE(login->useCount(), 1);
+        QVERIFY(login->lastAccessed().isValid());
+    }
+
+    void nothingIsFilledOnceTheSafeIsLocked()
+    {
+        QVERIFY(
+            m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), QStringLiteral("h")));
+        const QString id = addLogin("Shop")->id();
+        Extension extension(m_port);
+        QTRY_COMPARE(extension.received.size(), 1);
+        m_core->doItemDefaultAction(id, QString(), QString());
+        QTRY_COMPARE(extension.received.size(), 2);
+        const QJsonObject request =
+            extension.received.at(1).value(QStringLiteral("payload")).toObject();
+        m_core->lockCurrentSafe();
+        QSignalSpy finished(m_core.get(), &GPMAppCore::unlockFinished);
+        m_core->unlockCurrentSafe(QStringLiteral("pw"));
+        QVERIFY(finished.wait());
+        // An answer to what was asked before the lock; a page to open tells when it was seen.
+        QSignalSpy shown(m_core.get(), &GPMAppCore::requestShowMainWindow);
+        extension.send(QStringLiteral("collectDocumentResults"),
+                       answerTo(request, "https://shop.example/"));
+        extension.send(QStringLiteral("showWindow"),
+                       {{QStringLiteral("url"), QStringLiteral("x")}});
+        QVERIFY(shown.wait());
+        QCOMPARE(extension.received.size(), 2);
+    }
+
+    void anOldExtensionIsToldOf()
+    {
+        QSignalSpy message(m_core.get(), &GPMAppCore::message);
+        m_core->onHello(QStringLiteral("c"), QStringLiteral("1.0.1.100"),
+                        QStringLiteral("glaceron.chrome"));
+        QCOMPARE(message.count(), 1);
+        QCOMPARE(message.at(0).at(0).toString(), QStringLiteral("Warning"));
+        QCOMPARE(message.at(0).at(1).toString(),
+                 QStringLiteral("Invalid plugin version for Chrome extension: 1.0.1.100"));
+        m_core->onHello(QStringLiteral("c"), QStringLiteral("1.1.32"),
+                        QStringLiteral("glaceron.chrome"));
+        QCOMPARE(message.count(), 1);
+    }
+};
+
+QTEST_MAIN(TestGpmAppCore)
+#include "tst_gpmappcore.moc"
