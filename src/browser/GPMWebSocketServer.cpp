@@ -1,0 +1,312 @@
+#include "GPMWebSocketServer.h"
+
+#include "Platform.h"
+
+#include <QDebug>
+#include <QHash>
+#include <QJsonDocument>
+#include <QUuid>
+#include <QWebSocket>
+#include <QWebSocketCorsAuthenticator>
+#include <QWebSocketServer>
+
+namespace {
+
+constexpr quint64 maxFrameSize = 8ULL * 1024 * 1024;
+constexpr int maxWaiting = 30;
+
+/// Only extensions have such an origin: a browser does not let a page choose its own.
+const QLatin1String extensionOrigins[] = {QLatin1String("chrome-extension://"),
+                                          QLatin1String("moz-extension://")};
+
+bool isAllowedOrigin(const QString &origin)
+{
+    // Browsers always send an origin; what sends none is a program of the user's own.
+    if (origin.isEmpty())
+        return true;
+    return std::any_of(std::begin(extensionOrigins), std::end(extensionOrigins),
+                       [&](QLatin1String prefix) { return origin.startsWith(prefix); });
+}
+
+std::optional<QJsonObject> parseFrame(const QString &message)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(message.toUtf8());
+    if (!document.isObject())
+        return std::nullopt;
+    return document.object();
+}
+
+QString actionOf(const QJsonObject &frame)
+{
+    return frame.value(QLatin1String("action")).toString();
+}
+
+bool isHello(const QJsonObject &frame)
+{
+    return actionOf(frame) == QLatin1String("hello");
+}
+
+void sendFrame(QWebSocket *socket, const QJsonObject &frame)
+{
+    const QByteArray text = QJsonDocument(frame).toJson(QJsonDocument::Compact);
+    socket->sendTextMessage(QString::fromUtf8(text));
+}
+
+} // namespace
+
+GPMWebSocketServer::GPMWebSocketServer(quint16 port, bool debug, Platform &platform,
+                                       QObject *parent)
+    : QObject(parent)
+    , m_server(new QWebSocketServer(QStringLiteral("Echo Server"), QWebSocketServer::NonSecureMode,
+                                    this))
+    , m_debug(debug)
+    , m_platform(platform)
+{
+    qDebug() << "GPMWebSocketServer::GPMWebSocketServer"
+             << "Enable listening on port...start";
+    connect(m_server, &QWebSocketServer::originAuthenticationRequired, this,
+            &GPMWebSocketServer::checkOrigin);
+    if (m_server->listen(QHostAddress::LocalHost, port) && m_debug)
+        qDebug() << "Echoserver listening on port" << m_server->serverPort();
+    connect(m_server, &QWebSocketServer::newConnection, this, &GPMWebSocketServer::onNewConnection);
+    connect(m_server, &QWebSocketServer::closed, this, &GPMWebSocketServer::closed);
+    qDebug() << "GPMWebSocketServer::GPMWebSocketServer"
+             << "Enable listening on port...end";
+}
+
+GPMWebSocketServer::~GPMWebSocketServer()
+{
+    qDebug() << "Echoserver closing";
+    QList<QWebSocket *> sockets = m_sockets.values();
+    for (const Waiting &waiting : qAsConst(m_waiting))
+        sockets.append(waiting.socket);
+    for (QWebSocket *socket : qAsConst(sockets)) {
+        socket->disconnect(this);
+        socket->close(QWebSocketProtocol::CloseCodeGoingAway);
+    }
+    m_server->close();
+    qDeleteAll(sockets);
+    qDebug() << "Echoserver closing 2";
+}
+
+bool GPMWebSocketServer::isListening() const
+{
+    return m_server->isListening();
+}
+
+quint16 GPMWebSocketServer::port() const
+{
+    return m_server->serverPort();
+}
+
+void GPMWebSocketServer::checkOrigin(QWebSocketCorsAuthenticator *authenticator) const
+{
+    const bool allowed = isAllowedOrigin(authenticator->origin());
+    authenticator->setAllowed(allowed);
+    // Not a warning: any page could fill the log file with it.
+    if (!allowed)
+        qDebug() << "GPMWebSocketServer::checkOrigin"
+                 << "Refused connection from origin:" << authenticator->origin();
+}
+
+void GPMWebSocketServer::onNewConnection()
+{
+    QWebSocket *socket = m_server->nextPendingConnection();
+    if (!socket)
+        return;
+    socket->setMaxAllowedIncomingFrameSize(maxFrameSize);
+    socket->setMaxAllowedIncomingMessageSize(maxFrameSize);
+    if (m_sockets.isEmpty())
+        serve(socket);
+    else
+        keepWaiting(socket);
+}
+
+void GPMWebSocketServer::serve(QWebSocket *socket)
+{
+    connect(socket, &QWebSocket::textMessageReceived, this,
+            &GPMWebSocketServer::processTextMessage);
+    connect(socket, &QWebSocket::disconnected, this, &GPMWebSocketServer::socketDisconnected);
+    const QString callerId = QUuid::createUuid().toString();
+    m_sockets.insert(callerId, socket);
+    m_stages.insert(callerId, Accepted);
+}
+
+void GPMWebSocketServer::keepWaiting(QWebSocket *socket)
+{
+    if (m_waiting.size() >= maxWaiting) {
+        socket->abort();
+        socket->deleteLater();
+        return;
+    }
+    // A waiting socket goes on reading, so that a "hello" nobody listens to would be lost.
+    connect(socket, &QWebSocket::textMessageReceived, this,
+            [this, socket](const QString &message) { rememberHello(socket, message); });
+    connect(socket, &QWebSocket::disconnected, this, [this, socket] { forgetWaiting(socket); });
+    m_waiting.append(Waiting{socket, QJsonObject()});
+}
+
+void GPMWebSocketServer::rememberHello(QWebSocket *socket, const QString &message)
+{
+    const std::optional<QJsonObject> frame = parseFrame(message);
+    if (!frame || !isHello(*frame))
+        return;
+    for (Waiting &waiting : m_waiting) {
+        if (waiting.socket == socket)
+            waiting.hello = *frame;
+    }
+}
+
+void GPMWebSocketServer::forgetWaiting(QWebSocket *socket)
+{
+    const auto isSocket = [socket](const Waiting &waiting) { return waiting.socket == socket; };
+    m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), isSocket), m_waiting.end());
+    socket->disconnect(this);
+    socket->deleteLater();
+}
+
+void GPMWebSocketServer::serveNextWaiting()
+{
+    if (m_waiting.isEmpty())
+        return;
+    const Waiting next = m_waiting.takeFirst();
+    next.socket->disconnect(this);
+    serve(next.socket);
+    if (!next.hello.isEmpty())
+        answerHello(callerIdOf(next.socket), next.hello);
+}
+
+void GPMWebSocketServer::processTextMessage(const QString &message)
+{
+    auto *socket = qobject_cast<QWebSocket *>(sender());
+    if (m_debug)
+        qDebug() << "Message received:" << message;
+    const QString callerId = callerIdOf(socket);
+    const std::optional<QJsonObject> frame = parseFrame(message);
+    if (!frame)
+        return;
+    if (isHello(*frame)) {
+        answerHello(callerId, *frame);
+        return;
+    }
+    if (m_stages.value(callerId) != SaidHello)
+        return;
+    Q_EMIT incomingMessage(message);
+    dispatch(callerId, actionOf(*frame), frame->value(QLatin1String("payload")).toObject());
+}
+
+void GPMWebSocketServer::answerHello(const QString &callerId, const QJsonObject &frame)
+{
+    m_stages.insert(callerId, SaidHello);
+    const QString version = frame.value(QLatin1String("version")).toString();
+    const QString bundleId = frame.value(QLatin1String("bundleId")).toString();
+    m_extensionVersion = version;
+    m_extensionBundleId = bundleId;
+    sendFrame(m_sockets.value(callerId), {{QStringLiteral("action"), QStringLiteral("hello")},
+                                          {QStringLiteral("callerId"), callerId}});
+    Q_EMIT hello(callerId, version, bundleId);
+}
+
+void GPMWebSocketServer::dispatch(const QString &callerId, const QString &action,
+                                  const QJsonObject &payload)
+{
+    using Handler = void (*)(GPMWebSocketServer &, const QString &, const QJsonObject &);
+    using Server = GPMWebSocketServer;
+    static const QHash<QString, Handler> handlers = {
+        {QStringLiteral("showWindow"),
+         [](Server &server, const QString &caller, const QJsonObject &data) {
+             server.onOpeningPluginWindow(caller, data);
+         }},
+        {QStringLiteral("saveLogin"),
+         [](Server &server, const QString &caller, const QJsonObject &data) {
+             Q_EMIT server.saveLogin(caller, data.value(QLatin1String("login")).toObject());
+         }},
+        {QStringLiteral("collectDocumentResults"),
+         [](Server &server, const QString &caller, const QJsonObject &data) {
+             Q_EMIT server.collectedDocumentInfo(caller, data);
+         }},
+        {QStringLiteral("loginPageLoaded"),
+         [](Server &server, const QString &caller, const QJsonObject &data) {
+             Q_EMIT server.loginPageLoaded(caller, data);
+         }},
+        {QStringLiteral("pressEnterKey"), [](Server &server, const QString &, const QJsonObject &) {
+             server.m_platform.pressEnterKey();
+         }}};
+    if (const Handler handler = handlers.value(action))
+        handler(*this, callerId, payload);
+}
+
+void GPMWebSocketServer::onOpeningPluginWindow(const QString &callerId, const QJsonObject &payload)
+{
+    Q_EMIT activatePluginWindow(callerId, payload.value(QLatin1String("url")).toString());
+}
+
+void GPMWebSocketServer::socketDisconnected()
+{
+    auto *socket = qobject_cast<QWebSocket *>(sender());
+    qDebug() << "socketDisconnected:" << socket;
+    const QString callerId = callerIdOf(socket);
+    m_sockets.remove(callerId);
+    m_stages.remove(callerId);
+    m_extensionVersion.clear();
+    m_extensionBundleId.clear();
+    // Frames that are still in its buffer belong to nobody now.
+    socket->disconnect(this);
+    socket->deleteLater();
+    serveNextWaiting();
+}
+
+std::optional<GPMWebSocketServer::ReplyTag>
+GPMWebSocketServer::parsePluginReplay(const QString &callerId, const QJsonObject &reply) const
+{
+    if (!m_sockets.contains(callerId)) {
+        qWarning() << "Unknown caller id:" << callerId;
+        return std::nullopt;
+    }
+    ReplyTag tag;
+    tag.requestId = reply.value(QLatin1String("request_id")).toString();
+    tag.timestamp = reply.value(QLatin1String("timestamp")).toString().toLongLong();
+    return tag;
+}
+
+QString GPMWebSocketServer::targetCaller(const QString &callerId) const
+{
+    if (m_sockets.isEmpty() || m_sockets.contains(callerId))
+        return m_sockets.isEmpty() ? QString() : callerId;
+    return m_sockets.firstKey();
+}
+
+void GPMWebSocketServer::sendDocumentRequest(const QString &callerId, const QJsonObject &payload)
+{
+    send(callerId, QStringLiteral("getDocumentData"), payload);
+}
+
+void GPMWebSocketServer::sendFillCommand(const QString &callerId, const QJsonObject &payload)
+{
+    send(callerId, QStringLiteral("fillForm"), payload);
+}
+
+void GPMWebSocketServer::sendFindLoginPage(const QString &callerId, const QJsonObject &payload)
+{
+    send(callerId, QStringLiteral("findLoginPage"), payload);
+}
+
+void GPMWebSocketServer::send(const QString &callerId, const QString &action,
+                              const QJsonObject &payload)
+{
+    const QString target = targetCaller(callerId);
+    if (target.isEmpty()) {
+        qWarning() << "No connected extensions!";
+        return;
+    }
+    sendFrame(m_sockets.value(target),
+              {{QStringLiteral("action"), action}, {QStringLiteral("payload"), payload}});
+}
+
+QString GPMWebSocketServer::callerIdOf(QWebSocket *socket) const
+{
+    QString callerId = socket ? m_sockets.key(socket) : QString();
+    if (callerId.isEmpty())
+        qFatal("Invalid socket pointer");
+    return callerId;
+}

@@ -1,0 +1,113 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+class Platform;
+class QWebSocket;
+class QWebSocketCorsAuthenticator;
+class QWebSocketServer;
+
+/// The local link to the browser extension: transport, envelope and dispatch. Serves one extension
+/// at a time; further ones wait, and nothing that they send is acted on, until it has left. It
+/// knows nothing of safes and items. A web page cannot connect, and a connection is heard only
+/// after its "hello".
+class GPMWebSocketServer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What a reply says of the request that it answers.
+    struct ReplyTag
+    {
+        QString requestId;
+        qint64 timestamp = 0;
+    };
+
+    /// Listens on 127.0.0.1. When the port is taken the link is simply absent.
+    /// @param port 0 for any free port
+    /// @param debug whether each frame and the port go to the debug log
+    /// @param platform presses the Enter key; must outlive the server
+    GPMWebSocketServer(quint16 port, bool debug, Platform &platform, QObject *parent = nullptr);
+    ~GPMWebSocketServer() override;
+
+    bool isListening() const;
+
+    /// The port that is listened on; 0 when there is none.
+    quint16 port() const;
+
+    /// Whether an extension is being served.
+    bool hasConnections() const { return !m_sockets.isEmpty(); }
+
+    /// Version and browser build of the extension that said hello last; empty when it has left.
+    QString extensionVersion() const { return m_extensionVersion; }
+    QString extensionBundleId() const { return m_extensionBundleId; }
+
+    /// The caller id that a command for `callerId` reaches: itself when it is connected, else the
+    /// first one. Empty when no extension is connected.
+    QString targetCaller(const QString &callerId) const;
+
+    /// Commands to the extension at targetCaller(). Lost, with a line in the log, when there is
+    /// none.
+    void sendDocumentRequest(const QString &callerId, const QJsonObject &payload);
+    void sendFillCommand(const QString &callerId, const QJsonObject &payload);
+    void sendFindLoginPage(const QString &callerId, const QJsonObject &payload);
+
+public Q_SLOTS:
+    /// Emits activatePluginWindow() for the address in the payload.
+    void onOpeningPluginWindow(const QString &callerId, const QJsonObject &payload);
+    void onNewConnection();
+    void processTextMessage(const QString &message);
+    void socketDisconnected();
+
+    /// Reads which request a reply answers; what is missing or no string is empty or 0. None, with
+    /// a line in the log, when the caller is not connected: the reply is to be dropped.
+    std::optional<GPMWebSocketServer::ReplyTag> parsePluginReplay(const QString &callerId,
+                                                                  const QJsonObject &reply) const;
+
+Q_SIGNALS:
+    void closed();
+    /// Each frame of an extension that has said hello, as it came.
+    void incomingMessage(const QString &message);
+    void activatePluginWindow(const QString &callerId, const QString &url);
+    void loginPageLoaded(const QString &callerId, const QJsonObject &data);
+    void collectedDocumentInfo(const QString &callerId, const QJsonObject &data);
+    void saveLogin(const QString &callerId, const QJsonObject &data);
+    /// The extension has its caller id already.
+    void hello(const QString &callerId, const QString &version, const QString &bundleId);
+
+private:
+    enum Stage { Accepted = 0, SaidHello = 1 };
+
+    /// A connection behind the one that is served, with the "hello" that it has sent meanwhile.
+    struct Waiting
+    {
+        QWebSocket *socket = nullptr;
+        QJsonObject hello;
+    };
+
+    void checkOrigin(QWebSocketCorsAuthenticator *authenticator) const;
+    void serve(QWebSocket *socket);
+    void keepWaiting(QWebSocket *socket);
+    void rememberHello(QWebSocket *socket, const QString &message);
+    void forgetWaiting(QWebSocket *socket);
+    void serveNextWaiting();
+    void answerHello(const QString &callerId, const QJsonObject &frame);
+    void dispatch(const QString &callerId, const QString &action, const QJsonObject &payload);
+    void send(const QString &callerId, const QString &action, const QJsonObject &payload);
+    QString callerIdOf(QWebSocket *socket) const;
+
+    QWebSocketServer *m_server;
+    QMap<QString, QWebSocket *> m_sockets;
+    QMap<QString, Stage> m_stages;
+    bool m_debug;
+    QString m_extensionVersion;
+    QString m_extensionBundleId;
+    QVector<Waiting> m_waiting;
+    Platform &m_platform;
+};
