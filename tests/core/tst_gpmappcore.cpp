@@ -228,6 +228,36 @@ private Q_SLOTS:
         QCOMPARE(extension.received.size(), 2);
     }
 
+    void aHomeThatCannotBeWrittenTo()
+    {
+        // A file stands where the folders should be made.
+        const QString blocked = m_home->filePath(QStringLiteral("blocked"));
+        QFile file(blocked);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QString inside = blocked + QStringLiteral("/x");
+        GPMAppCore core(GPMAppCore::Places{inside, inside, inside, freePort()});
+        core.startServer();
+        QVERIFY(!core.createSafe(QStringLiteral("n"), QStringLiteral("p"), QStringLiteral("h")));
+        QVERIFY(!core.currentSafe());
+        QVERIFY(!core.settings().storeSettings());
+        QCOMPARE(file.size(), 0);
+    }
+
+    void aPortThatIsTaken()
+    {
+        // The core of init() has it.
+        GPMAppCore core(GPMAppCore::Places{m_home->filePath(QStringLiteral("config2")),
+                                           m_home->filePath(QStringLiteral("data2")),
+                                           m_home->filePath(QStringLiteral("hidden2")), m_port});
+        core.startServer();
+        QVERIFY(core.createSafe(QStringLiteral("n"), QStringLiteral("p"), QStringLiteral("h")));
+        auto item = core.modelCreateItem(PMListItem::Login);
+        item->setUrl(QStringLiteral("shop.example/in"));
+        QSignalSpy opened(&core, &GPMAppCore::openAddress);
+        core.doItemDefaultAction(core.modelAddItem(std::move(item))->id(), QString(), QString());
+        QCOMPARE(opened.at(0).at(0).toUrl(), QUrl(QStringLiteral("http://shop.example/in")));
+    }
+
     void anOldExtensionIsToldOf()
     {
         QSignalSpy message(m_core.get(), &GPMAppCore::message);
