@@ -1,0 +1,161 @@
+#include "PMUiProvider.h"
+
+#include "GPMAppCore.h"
+#include "TrayIcon.h"
+#include "dialogs/Question.h"
+#include "lock/PagesStack.h"
+#include "lock/SecureWindow.h"
+#include "lock/UnlockLogic.h"
+#include "main/MainView.h"
+#include "style/Theme.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QScreen>
+#include <QUrl>
+
+PMUiProvider::PMUiProvider(GPMAppCore &core, QObject *parent)
+    : QObject(parent)
+    , m_core(core)
+    , m_settings(QFileInfo(core.settings().filePath()).path())
+    , m_translator(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"))
+    , m_theme(std::make_unique<Theme>())
+{
+}
+
+PMUiProvider::~PMUiProvider() = default;
+
+void PMUiProvider::connectCore()
+{
+    connect(&m_core, &GPMAppCore::message, this, &PMUiProvider::showMessage);
+    connect(&m_core, &GPMAppCore::openAddress, this, &PMUiProvider::openAddress);
+    connect(&m_core, &GPMAppCore::requestShowMainWindow, this, [this](const QString &url) {
+        bringToFront();
+        openMainView(url);
+    });
+    connect(&m_core, &GPMAppCore::safeLockedChanged, this, &PMUiProvider::onLockedChanged);
+    connect(&m_core, &GPMAppCore::quitRequested, this, [this] {
+        saveWindowState();
+        QCoreApplication::quit();
+    });
+}
+
+void PMUiProvider::prepareFirstLaunch()
+{
+    // What an earlier installation left may not fit this screen.
+    m_settings.forgetWindows();
+}
+
+int PMUiProvider::mainWindowScreenNumber() const
+{
+    return m_settings.mainWindowScreenNumber();
+}
+
+void PMUiProvider::createMainWindow()
+{
+    m_theme->apply();
+    auto *view = new MainView(m_core, *m_theme);
+    m_window = std::make_unique<SecureWindow>(m_core, *m_theme, view);
+    connect(view, &MainView::lockRequested, this, &PMUiProvider::lock);
+    connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
+    m_settings.restoreGeometry(*m_window);
+    view->restoreSplitter(m_settings.splitter(m_window->objectName()));
+
+    m_tray = std::make_unique<TrayIcon>();
+    connect(m_tray.get(), &TrayIcon::openRequested, this, &PMUiProvider::bringToFront);
+    connect(m_tray.get(), &TrayIcon::helpRequested, this, &PMUiProvider::showAbout);
+    connect(m_tray.get(), &TrayIcon::lockRequested, this, &PMUiProvider::lock);
+    connect(m_tray.get(), &TrayIcon::exitRequested, this, &PMUiProvider::exitByUser);
+    m_tray->show();
+}
+
+QWidget *PMUiProvider::mainWindow() const
+{
+    return m_window.get();
+}
+
+void PMUiProvider::openMainView(const QString &url)
+{
+    if (!m_window)
+        return;
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    if (!safe || !safe->isUnlocked()) {
+        PagesStack &pages = m_window->pages();
+        if (!safe)
+            pages.unlockLogic().chooseFirst(m_settings.lastUsedSafe());
+        pages.showFirstPage();
+    }
+    if (!url.isEmpty())
+        bringToFront();
+}
+
+void PMUiProvider::bringToFront()
+{
+    if (!m_window)
+        return;
+    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+void PMUiProvider::showMessage(const QString &title, const QString &text)
+{
+    // Not modal and without a loop of its own: it may come while the safe is being locked.
+    auto *dialog = new QuestionDialog({title, text, {tr("OK")}}, m_window.get());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setModal(false);
+    if (m_window)
+        bringToFront();
+    dialog->show();
+}
+
+void PMUiProvider::openAddress(const QUrl &url)
+{
+    if (!QDesktopServices::openUrl(url))
+        qWarning() << "UI: openAddress: Can't open address of" << url.host();
+}
+
+void PMUiProvider::showAbout()
+{
+    showMessage(tr("Glaceron Password Manager"),
+                tr("Version %1\n\nCtrl+N adds a login, Ctrl+F searches, Ctrl+E edits, Ctrl+S "
+                   "saves.\nCtrl+B copies the user name, Ctrl+Shift+C the password.\nCtrl+Return "
+                   "logs in, Ctrl+L locks the safe.\n\nThe typeface is Inter (SIL Open Font "
+                   "License), the icons are Tabler Icons (MIT License).")
+                    .arg(QCoreApplication::applicationVersion()));
+}
+
+void PMUiProvider::lock()
+{
+    if (!m_window->content().isEnabled())
+        return;
+    m_window->lockByUser();
+}
+
+void PMUiProvider::exitByUser()
+{
+    if (!m_window->content().mayLeave())
+        return;
+    m_core.exitPasswordManager();
+}
+
+void PMUiProvider::saveWindowState()
+{
+    if (!m_window)
+        return;
+    m_settings.saveGeometry(*m_window);
+    m_settings.saveSplitter(m_window->objectName(), m_window->content().splitterState());
+    const int number = QGuiApplication::screens().indexOf(m_window->screen());
+    m_settings.setMainWindowScreenNumber(qMax(0, number));
+}
+
+void PMUiProvider::onLockedChanged(bool locked)
+{
+    if (m_tray)
+        m_tray->setLocked(locked);
+    if (!locked)
+        m_settings.setLastUsedSafe(m_core.currentSafe()->folder());
+}

@@ -1,0 +1,20 @@
+#include "TrayIcon.h"
+
+TrayIcon::TrayIcon(QObject *parent)
+    : QSystemTrayIcon(QIcon(QStringLiteral(":/trayicon.png")), parent)
+{
+    setToolTip(QStringLiteral("Glaceron Password Manager"));
+    QAction *open = m_menu.addAction(tr("Open Main Window"), this, &TrayIcon::openRequested);
+    m_menu.setDefaultAction(open);
+    m_menu.addAction(tr("Help"), this, &TrayIcon::helpRequested);
+    m_menu.addSeparator();
+    m_lock = m_menu.addAction(tr("Lock"), this, &TrayIcon::lockRequested);
+    m_menu.addSeparator();
+    m_menu.addAction(tr("Exit"), this, &TrayIcon::exitRequested);
+    setContextMenu(&m_menu);
+    setLocked(true);
+    connect(this, &QSystemTrayIcon::activated, this, [this](ActivationReason reason) {
+        if (reason == Trigger || reason == DoubleClick)
+            Q_EMIT openRequested();
+    });
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+/// The program's icon in the system tray with its menu.
+class TrayIcon : public QSystemTrayIcon
+{
+    Q_OBJECT
+
+public:
+    explicit TrayIcon(QObject *parent = nullptr);
+
+    void setLocked(bool locked) { m_lock->setEnabled(!locked); }
+
+Q_SIGNALS:
+    void openRequested();
+    void helpRequested();
+    void lockRequested();
+    void exitRequested();
+
+private:
+    QMenu m_menu;
+    QAction *m_lock;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QSettings>
+
+class QWidget;
+
+/// The state of the user interface that is kept between runs, in "uisettings.ini".
+class UiSettings
+{
+public:
+    /// @param folder that of the application's settings
+    explicit UiSettings(const QString &folder);
+
+    QString lastUsedSafe() const;
+    void setLastUsedSafe(const QString &folder);
+
+    /// The number of the screen that the main window was on; the first when it is not known.
+    int mainWindowScreenNumber() const;
+    void setMainWindowScreenNumber(int number);
+
+    /// Windows keep their state below their object name.
+    void saveGeometry(const QWidget &window);
+    void restoreGeometry(QWidget &window) const;
+    void saveSplitter(const QString &windowName, const QByteArray &state);
+    QByteArray splitter(const QString &windowName) const;
+    /// Forgets where all windows were and how they were divided.
+    void forgetWindows();
+
+private:
+    QSettings m_store;
+};

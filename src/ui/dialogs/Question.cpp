@@ -1,0 +1,67 @@
+#include "Question.h"
+
+#include "style/Style.h"
+#include "widgets/Controls.h"
+
+#include <QBoxLayout>
+#include <QPointer>
+
+namespace {
+
+const int smallestWidth = 380;
+
+} // namespace
+
+QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
+    : QDialog(parent)
+    , m_answer(question.buttons.size() - 1)
+{
+    setObjectName(QStringLiteral("questionDialog"));
+    setWindowTitle(question.title);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setMinimumWidth(smallestWidth);
+
+    auto *heading = makeLabel(question.title, "heading", this);
+    heading->setWordWrap(true);
+    auto *text = makeLabel(question.text, "text", this);
+    text->setWordWrap(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    // The way out stands left of the way on, which comes last as everywhere.
+    auto *row = new QHBoxLayout;
+    row->setSpacing(Style::spacing);
+    row->addStretch();
+    for (int i = 0; i < question.buttons.size(); ++i) {
+        auto *button = makeButton(question.buttons.at(i), i == 0 ? "primary" : "plain", this);
+        connect(button, &QPushButton::clicked, this, [this, i] {
+            m_answer = i;
+            accept();
+        });
+        row->insertWidget(1, button);
+        if (i == 0) {
+            button->setDefault(true);
+            button->setFocus();
+        }
+    }
+
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(20, 20, 20, 16);
+    all->setSpacing(Style::spacing);
+    all->addWidget(heading);
+    all->addWidget(text);
+    all->addSpacing(Style::gap);
+    all->addLayout(row);
+    setAccessibleDescription(question.text);
+}
+
+Asker dialogAsker(QWidget *widget)
+{
+    return [widget](const Question &question) {
+        const QPointer<QuestionDialog> dialog(new QuestionDialog(question, widget->window()));
+        dialog->exec();
+        // The window may have gone meanwhile, and the question with it.
+        const int answer = dialog ? dialog->answer() : question.buttons.size() - 1;
+        delete dialog;
+        return answer;
+    };
+}

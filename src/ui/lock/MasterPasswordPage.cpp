@@ -1,0 +1,246 @@
+#include "MasterPasswordPage.h"
+
+#include "Platform.h"
+#include "UnlockLogic.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/CapsIndicator.h"
+#include "widgets/Controls.h"
+#include "widgets/PasswordField.h"
+#include "widgets/SelectBox.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QProgressBar>
+#include <QSvgWidget>
+
+namespace {
+
+const int columnWidth = 316;
+const int crystalSize = 76;
+
+} // namespace
+
+MasterPasswordPage::MasterPasswordPage(UnlockLogic &logic, Platform &platform, const Theme &theme,
+                                       QWidget *parent)
+    : QWidget(parent)
+    , m_logic(logic)
+    , m_platform(platform)
+{
+    setObjectName(QStringLiteral("masterPasswordPage"));
+    makeFields(theme);
+    layOut();
+    connectFields();
+    fillSelector();
+    showState();
+}
+
+void MasterPasswordPage::makeFields(const Theme &theme)
+{
+    m_title = makeLabel({}, "title", this);
+    m_title->setAlignment(Qt::AlignHCenter);
+    m_subtitle = makeLabel({}, "muted", this);
+    m_subtitle->setObjectName(QStringLiteral("unlockSubtitle"));
+    m_subtitle->setAlignment(Qt::AlignHCenter);
+
+    m_selector = new SelectBox(theme.lockIcon(QStringLiteral("selector"), Palette::Text), this);
+    m_selector->setObjectName(QStringLiteral("safeSelector"));
+    m_selector->setAccessibleName(tr("Safe"));
+    m_selector->setPlaceholderText(tr("Click to select safe"));
+    m_selector->setFrontIcon(theme.lockIcon(QStringLiteral("shield-lock"), Palette::Text));
+
+    m_password =
+        new PasswordField(theme.lockIcon(QStringLiteral("eye"), Palette::SidebarText),
+                          theme.lockIcon(QStringLiteral("eye-off"), Palette::SidebarText), this);
+    m_password->setObjectName(QStringLiteral("masterPassword"));
+    m_password->setPlaceholderText(tr("Enter Password"));
+    m_password->setAccessibleName(tr("Password"));
+    m_password->addAction(theme.lockIcon(QStringLiteral("lock"), Palette::SidebarText),
+                          QLineEdit::LeadingPosition);
+
+    m_hint = makeLabel({}, "small", this);
+    m_hint->setObjectName(QStringLiteral("safeHint"));
+    m_hint->setWordWrap(true);
+    m_caps = new CapsIndicator(this);
+    m_caps->setObjectName(QStringLiteral("capsIndicator"));
+
+    m_message = makeLabel({}, "error", this);
+    m_message->setObjectName(QStringLiteral("unlockMessage"));
+    m_message->setWordWrap(true);
+    m_progress = new QProgressBar(this);
+    m_progress->setTextVisible(false);
+    m_progress->setAccessibleName(tr("Reading items"));
+
+    m_unlock = makeButton({}, "primary", this);
+    m_unlock->setObjectName(QStringLiteral("unlockButton"));
+    m_notNow = makeButton(tr("Not now"), "link", this);
+    m_notNow->setObjectName(QStringLiteral("notNowButton"));
+    m_create = makeButton(tr("Create new..."), "link", this);
+    m_create->setObjectName(QStringLiteral("createNewButton"));
+    m_create->setIcon(theme.lockIcon(QStringLiteral("plus"), Palette::SidebarText));
+}
+
+void MasterPasswordPage::layOut()
+{
+    auto *crystal = new QSvgWidget(QStringLiteral(":/crystal.svg"), this);
+    crystal->setFixedSize(crystalSize, crystalSize);
+
+    auto *hintLine = new QHBoxLayout;
+    hintLine->addWidget(m_hint, 1);
+    hintLine->addWidget(m_caps, 0, Qt::AlignTop);
+
+    auto *column = new QVBoxLayout;
+    column->addWidget(crystal, 0, Qt::AlignHCenter);
+    column->addSpacing(Style::margin);
+    column->addWidget(m_title);
+    column->addSpacing(Style::spacing);
+    column->addWidget(m_subtitle);
+    column->addSpacing(24);
+    column->addWidget(m_selector);
+    column->addSpacing(10);
+    column->addWidget(m_password);
+    column->addSpacing(Style::spacing);
+    column->addLayout(hintLine);
+    column->addSpacing(Style::spacing);
+    column->addWidget(m_message);
+    column->addWidget(m_progress);
+    column->addSpacing(Style::gap);
+    column->addWidget(m_unlock);
+    column->addSpacing(Style::spacing);
+    column->addWidget(m_notNow, 0, Qt::AlignHCenter);
+    column->setSpacing(0);
+
+    auto *frame = new QWidget(this);
+    frame->setFixedWidth(columnWidth);
+    column->setContentsMargins({});
+    frame->setLayout(column);
+
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(Style::margin, Style::margin, Style::margin, Style::margin);
+    all->addStretch(3);
+    all->addWidget(frame, 0, Qt::AlignHCenter);
+    all->addStretch(4);
+    all->addWidget(m_create, 0, Qt::AlignRight);
+}
+
+void MasterPasswordPage::connectFields()
+{
+    connect(&m_logic, &UnlockLogic::safesChanged, this, &MasterPasswordPage::fillSelector);
+    connect(&m_logic, &UnlockLogic::changed, this, &MasterPasswordPage::showState);
+    connect(&m_logic, &UnlockLogic::refused, this, [this] {
+        m_password->clearSecret();
+        takeFocus();
+    });
+    connect(m_selector, QOverload<int>::of(&QComboBox::activated), this,
+            &MasterPasswordPage::onSelected);
+    connect(m_password, &QLineEdit::returnPressed, this, &MasterPasswordPage::unlock);
+    connect(m_unlock, &QPushButton::clicked, this, &MasterPasswordPage::unlock);
+    connect(m_notNow, &QPushButton::clicked, this, &MasterPasswordPage::dismissed);
+    connect(m_create, &QPushButton::clicked, this, &MasterPasswordPage::createRequested);
+    m_password->installEventFilter(this);
+}
+
+void MasterPasswordPage::fillSelector()
+{
+    m_selector->clear();
+    for (const KnownSafes::Entry &safe : m_logic.safes())
+        m_selector->addItem(safe.available ? safe.name : tr("%1 (unavailable)").arg(safe.name),
+                            safe.folder);
+    if (!m_logic.safes().isEmpty())
+        m_selector->insertSeparator(m_selector->count());
+    m_selector->addItem(tr("Create new..."));
+    showState();
+}
+
+void MasterPasswordPage::onSelected(int index)
+{
+    const QString folder = m_selector->itemData(index).toString();
+    if (folder.isEmpty()) {
+        Q_EMIT createRequested();
+        showState();
+        return;
+    }
+    m_password->clearSecret();
+    m_logic.choose(folder);
+    takeFocus();
+}
+
+void MasterPasswordPage::takeFocus()
+{
+    if (m_logic.state() == UnlockLogic::State::NoSafes)
+        m_create->setFocus();
+    else
+        m_password->setFocus();
+}
+
+void MasterPasswordPage::clearSecrets()
+{
+    m_password->clearSecret();
+}
+
+void MasterPasswordPage::unlock()
+{
+    if (m_logic.state() == UnlockLogic::State::Unlocking) {
+        m_logic.cancel();
+        return;
+    }
+    m_logic.unlock(m_password->text());
+    if (m_logic.state() == UnlockLogic::State::Unlocking)
+        m_password->clearSecret();
+}
+
+void MasterPasswordPage::showState()
+{
+    using State = UnlockLogic::State;
+    const State state = m_logic.state();
+    const bool noSafes = state == State::NoSafes;
+    const bool unlocking = state == State::Unlocking;
+    m_title->setText(noSafes ? tr("Welcome") : tr("Welcome back"));
+    m_subtitle->setText(noSafes ? tr("You have not Safe yet\nCreate one?")
+                                : tr("Unlock your safe to go on"));
+    const QString folder = m_logic.chosenFolder();
+    m_selector->setCurrentIndex(folder.isEmpty() ? -1 : m_selector->findData(folder));
+    m_hint->setText(m_logic.hint().isEmpty() ? QString() : tr("Hint: %1").arg(m_logic.hint()));
+    m_message->setText(m_logic.message());
+    m_message->setVisible(!m_logic.message().isEmpty());
+    m_selector->setEnabled(!unlocking);
+    m_password->setEnabled(!unlocking && state != State::Unavailable);
+    m_create->setEnabled(!unlocking);
+    showProgress(unlocking);
+}
+
+void MasterPasswordPage::showProgress(bool unlocking)
+{
+    const int total = m_logic.itemsTotal();
+    m_progress->setVisible(unlocking);
+    m_progress->setRange(0, total);
+    m_progress->setValue(m_logic.itemsDone());
+    const bool hadFocus = m_unlock->hasFocus();
+    m_unlock->setText(unlocking ? tr("Cancel") : tr("Unlock"));
+    setStyleProperty(*m_unlock, "look",
+                     unlocking ? QStringLiteral("plain") : QStringLiteral("primary"));
+    if (unlocking && total > 0)
+        m_subtitle->setText(tr("Unlocking: %1 of %2 items").arg(m_logic.itemsDone()).arg(total));
+    else if (unlocking)
+        m_subtitle->setText(tr("Unlocking…"));
+    if (unlocking && !hadFocus)
+        m_unlock->setFocus();
+}
+
+bool MasterPasswordPage::eventFilter(QObject *watched, QEvent *event)
+{
+    // The lamp changes with a key or while another window has the keyboard.
+    const QEvent::Type type = event->type();
+    if (type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::FocusIn)
+        m_caps->setOn(m_platform.capsLockOn());
+    return QWidget::eventFilter(watched, event);
+}
+
+void MasterPasswordPage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && m_logic.state() == UnlockLogic::State::Unlocking) {
+        m_logic.cancel();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QWidget>
+
+class CapsIndicator;
+class PasswordField;
+class Platform;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class SelectBox;
+class Theme;
+class UnlockLogic;
+
+/// Chooses a safe and unlocks it with its master password.
+class MasterPasswordPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    MasterPasswordPage(UnlockLogic &logic, Platform &platform, const Theme &theme, QWidget *parent);
+
+    /// Puts the keyboard where one goes on: into the password, or on the way to a new safe.
+    void takeFocus();
+    void clearSecrets();
+
+Q_SIGNALS:
+    void createRequested();
+    /// The user does not want to unlock now.
+    void dismissed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void makeFields(const Theme &theme);
+    void layOut();
+    void connectFields();
+    void fillSelector();
+    void onSelected(int index);
+    void unlock();
+    void showState();
+    void showProgress(bool unlocking);
+
+    UnlockLogic &m_logic;
+    Platform &m_platform;
+    QLabel *m_title;
+    QLabel *m_subtitle;
+    SelectBox *m_selector;
+    PasswordField *m_password;
+    QLabel *m_hint;
+    CapsIndicator *m_caps;
+    QLabel *m_message;
+    QProgressBar *m_progress;
+    QPushButton *m_unlock;
+    QPushButton *m_notNow;
+    QPushButton *m_create;
+};

@@ -1,0 +1,56 @@
+#include "PagesStack.h"
+
+#include "CreateSafePage.h"
+#include "GPMAppCore.h"
+#include "MasterPasswordPage.h"
+#include "UnlockLogic.h"
+
+PagesStack::PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent)
+    : QStackedWidget(parent)
+    , m_unlockLogic(new UnlockLogic(core, this))
+    , m_unlockPage(new MasterPasswordPage(*m_unlockLogic, core.platform(), theme, this))
+    , m_createPage(new CreateSafePage(core, theme, this))
+{
+    setObjectName(QStringLiteral("lockPages"));
+    addWidget(m_unlockPage);
+    addWidget(m_createPage);
+    connect(m_unlockPage, &MasterPasswordPage::createRequested, this, &PagesStack::showCreatePage);
+    connect(m_unlockPage, &MasterPasswordPage::dismissed, this, &PagesStack::dismissed);
+    connect(m_createPage, &CreateSafePage::backRequested, this, &PagesStack::showUnlockPage);
+}
+
+void PagesStack::showFirstPage()
+{
+    if (m_unlockLogic->safes().isEmpty())
+        showCreatePage();
+    else
+        showUnlockPage();
+}
+
+void PagesStack::showUnlockPage()
+{
+    m_createPage->clearSecrets();
+    setCurrentWidget(m_unlockPage);
+    m_unlockPage->takeFocus();
+}
+
+void PagesStack::showCreatePage()
+{
+    m_unlockPage->clearSecrets();
+    setCurrentWidget(m_createPage);
+    m_createPage->start();
+}
+
+void PagesStack::takeFocus()
+{
+    if (currentWidget() == m_unlockPage)
+        m_unlockPage->takeFocus();
+    else
+        m_createPage->takeFocus();
+}
+
+void PagesStack::clearSecrets()
+{
+    m_unlockPage->clearSecrets();
+    m_createPage->clearSecrets();
+}

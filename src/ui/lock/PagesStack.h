@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QStackedWidget>
+
+class CreateSafePage;
+class GPMAppCore;
+class MasterPasswordPage;
+class Theme;
+class UnlockLogic;
+
+/// The pages in front of a locked safe.
+class PagesStack : public QStackedWidget
+{
+    Q_OBJECT
+
+public:
+    PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent);
+
+    UnlockLogic &unlockLogic() { return *m_unlockLogic; }
+
+    /// Shows the page that comes first: to make a safe while there is none, else to unlock one.
+    void showFirstPage();
+    void showUnlockPage();
+    void showCreatePage();
+    void takeFocus();
+    void clearSecrets();
+
+Q_SIGNALS:
+    void dismissed();
+
+private:
+    UnlockLogic *m_unlockLogic;
+    MasterPasswordPage *m_unlockPage;
+    CreateSafePage *m_createPage;
+};

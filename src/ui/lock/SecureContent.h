@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+class GPMSafe;
+
+/// What a SecureWindow shows of an open safe.
+class SecureContent : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    /// Shows an unlocked safe.
+    virtual void openSafe(const std::shared_ptr<GPMSafe> &safe) = 0;
+    /// Drops everything of the safe.
+    virtual void closeSafe() = 0;
+    virtual void takeFocus() = 0;
+
+    /// Asks about unsaved changes; false when the user wants to go on editing.
+    virtual bool mayLeave() = 0;
+
+    virtual QByteArray splitterState() const = 0;
+    virtual void restoreSplitter(const QByteArray &state) = 0;
+};

@@ -1,0 +1,128 @@
+#include "SecureWindow.h"
+
+#include "GPMAppCore.h"
+#include "PagesStack.h"
+#include "SecureContent.h"
+#include "Shutters.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+
+#include <QCloseEvent>
+#include <QDebug>
+#include <QElapsedTimer>
+#include <QPropertyAnimation>
+
+namespace {
+
+const QSize usualSize(1080, 680);
+const QSize smallestSize(920, 600);
+
+} // namespace
+
+SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *content)
+    : m_core(core)
+    , m_theme(theme)
+    , m_content(content)
+    , m_shutters(new Shutters(theme, this))
+    , m_pages(new PagesStack(core, theme, this))
+{
+    setObjectName(QStringLiteral("SecureWindow"));
+    setWindowTitle(QStringLiteral("Glaceron Password Manager"));
+    setWindowIcon(QIcon(QStringLiteral(":/trayicon.png")));
+    setMinimumSize(smallestSize);
+    resize(usualSize);
+    m_content->setParent(this);
+    m_content->lower();
+    m_pages->raise();
+    setOpenProgress(0);
+    configureStateMachine();
+    connect(m_pages, &PagesStack::dismissed, this, &QWidget::close);
+    connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
+    connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
+}
+
+void SecureWindow::configureStateMachine()
+{
+    QElapsedTimer timer;
+    timer.start();
+    auto *closed = new QState(&m_machine);
+    auto *opened = new QState(&m_machine);
+    closed->setObjectName(QStringLiteral("Closed state"));
+    opened->setObjectName(QStringLiteral("Opened state"));
+    closed->assignProperty(this, "openProgress", 0.0);
+    opened->assignProperty(this, "openProgress", 1.0);
+    closed->addTransition(this, &SecureWindow::_requestOpenShuttersPrivate, opened);
+    opened->addTransition(this, &SecureWindow::_requestCloseShuttersPrivate, closed);
+    auto *slide = new QPropertyAnimation(this, "openProgress", this);
+    slide->setEasingCurve(QEasingCurve::OutCubic);
+    slide->setDuration(m_theme.motion(Style::shutterMs));
+    m_machine.addDefaultAnimation(slide);
+    m_machine.setInitialState(closed);
+    // A safe may have been opened before the machine ran.
+    connect(&m_machine, &QStateMachine::started, this, [this] {
+        if (m_open)
+            Q_EMIT _requestOpenShuttersPrivate({});
+    });
+    m_machine.start();
+    qDebug().noquote() << QStringLiteral("UI: %1: State machine is configured in %2 milliseconds")
+                              .arg(QLatin1String(metaObject()->className()))
+                              .arg(timer.elapsed());
+}
+
+void SecureWindow::setOpenProgress(qreal progress)
+{
+    const bool wasClosed = m_pages->isVisibleTo(this);
+    m_openProgress = progress;
+    m_shutters->setProgress(progress);
+    const bool closed = progress <= 0;
+    m_content->setVisible(!closed);
+    m_pages->setVisible(closed);
+    if (closed && !wasClosed)
+        m_pages->takeFocus();
+}
+
+void SecureWindow::followSafe()
+{
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    const bool open = safe && safe->isUnlocked();
+    if (open == m_open)
+        return;
+    m_open = open;
+    m_content->setEnabled(open);
+    m_pages->clearSecrets();
+    if (open) {
+        m_content->openSafe(safe);
+        m_content->show();
+        m_content->takeFocus();
+        Q_EMIT _requestOpenShuttersPrivate({});
+    } else {
+        m_content->closeSafe();
+        m_pages->showUnlockPage();
+        Q_EMIT _requestCloseShuttersPrivate({});
+    }
+}
+
+void SecureWindow::lockByUser()
+{
+    if (m_open && m_content->mayLeave())
+        m_core.lockCurrentSafe();
+}
+
+void SecureWindow::resizeEvent(QResizeEvent *)
+{
+    for (QWidget *layer : {static_cast<QWidget *>(m_content), static_cast<QWidget *>(m_shutters),
+                           static_cast<QWidget *>(m_pages)})
+        layer->setGeometry(rect());
+}
+
+void SecureWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    hide();
+}
+
+void SecureWindow::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    Q_EMIT hidden();
+}

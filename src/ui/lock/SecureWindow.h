@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QStateMachine>
+#include <QWidget>
+
+class GPMAppCore;
+class PagesStack;
+class SecureContent;
+class Shutters;
+class Theme;
+
+/// The main window: the lock pages behind closed shutters while the safe is locked, its content
+/// while it is open. Closing it hides it, the program lives on in the tray.
+class SecureWindow : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(qreal openProgress READ openProgress WRITE setOpenProgress)
+
+public:
+    /// @param content what an open safe is shown with; the window becomes its owner
+    SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *content);
+
+    /// 0 when the shutters are closed, 1 when they are open.
+    qreal openProgress() const { return m_openProgress; }
+    void setOpenProgress(qreal progress);
+
+    PagesStack &pages() { return *m_pages; }
+    SecureContent &content() { return *m_content; }
+
+    /// Locks the safe for the user, who may first decide about unsaved changes.
+    void lockByUser();
+
+Q_SIGNALS:
+    void hidden();
+    void _requestOpenShuttersPrivate(QPrivateSignal);
+    void _requestCloseShuttersPrivate(QPrivateSignal);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void configureStateMachine();
+    void followSafe();
+
+    GPMAppCore &m_core;
+    const Theme &m_theme;
+    SecureContent *m_content;
+    Shutters *m_shutters;
+    PagesStack *m_pages;
+    QStateMachine m_machine;
+    qreal m_openProgress = 0;
+    bool m_open = false;
+};

@@ -1,0 +1,142 @@
+#include "UnlockLogic.h"
+
+#include "GPMAppCore.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+UnlockLogic::UnlockLogic(GPMAppCore &core, QObject *parent)
+    : QObject(parent)
+    , m_core(core)
+{
+    connect(&core.knownSafes(), &KnownSafes::changed, this, &UnlockLogic::reload);
+    connect(&core, &GPMAppCore::currentSafeChanged, this, &UnlockLogic::takeCurrentSafe);
+    connect(&core, &GPMAppCore::unlockFinished, this, &UnlockLogic::onFinished);
+    connect(&core, &GPMAppCore::unlockProgress, this, [this](int done, int total) {
+        m_done = done;
+        m_total = total;
+        Q_EMIT changed();
+    });
+    reload();
+}
+
+UnlockLogic::State UnlockLogic::state() const
+{
+    if (m_unlocking)
+        return State::Unlocking;
+    if (m_safes.isEmpty())
+        return State::NoSafes;
+    const KnownSafes::Entry *entry = chosen();
+    if (!entry)
+        return State::NoneChosen;
+    return entry->available ? State::Ready : State::Unavailable;
+}
+
+QString UnlockLogic::hint() const
+{
+    const KnownSafes::Entry *entry = chosen();
+    return entry ? entry->hint : QString();
+}
+
+void UnlockLogic::chooseFirst(const QString &preferredFolder)
+{
+    reload();
+    const auto find = [this](const auto &accept) {
+        const auto entry = std::find_if(m_safes.cbegin(), m_safes.cend(), accept);
+        return entry == m_safes.cend() ? QString() : entry->folder;
+    };
+    QString folder = find([&](const KnownSafes::Entry &entry) {
+        return entry.available && entry.folder == preferredFolder;
+    });
+    if (folder.isEmpty())
+        folder = find([](const KnownSafes::Entry &entry) { return entry.available; });
+    if (!folder.isEmpty())
+        choose(folder);
+}
+
+void UnlockLogic::choose(const QString &folder)
+{
+    if (m_unlocking)
+        return;
+    m_folder = folder;
+    m_message.clear();
+    if (!m_core.selectSafe(folder)) {
+        // It stays chosen, so that the page can say what is wrong with it.
+        m_folder = folder;
+        m_message = tr("This safe is not available. Check that its folder is there:\n%1")
+                        .arg(QDir::toNativeSeparators(folder));
+    }
+    reload();
+    Q_EMIT changed();
+}
+
+void UnlockLogic::unlock(const QString &password)
+{
+    if (m_unlocking)
+        return;
+    if (!m_core.currentSafe()) {
+        setMessage(m_folder.isEmpty() ? tr("No any safe is selected") : m_message);
+        return;
+    }
+    m_message.clear();
+    m_unlocking = true;
+    m_done = 0;
+    m_total = 0;
+    Q_EMIT changed();
+    m_core.unlockCurrentSafe(password);
+}
+
+void UnlockLogic::cancel()
+{
+    if (m_unlocking)
+        m_core.cancelUnlock();
+}
+
+const KnownSafes::Entry *UnlockLogic::chosen() const
+{
+    const auto entry =
+        std::find_if(m_safes.cbegin(), m_safes.cend(),
+                     [this](const KnownSafes::Entry &safe) { return safe.folder == m_folder; });
+    return entry == m_safes.cend() ? nullptr : &*entry;
+}
+
+void UnlockLogic::reload()
+{
+    m_safes = m_core.knownSafes().entries();
+    Q_EMIT safesChanged();
+}
+
+void UnlockLogic::takeCurrentSafe()
+{
+    m_unlocking = false;
+    m_message.clear();
+    m_folder = m_core.currentSafe() ? m_core.currentSafe()->folder() : QString();
+    Q_EMIT changed();
+}
+
+void UnlockLogic::onFinished(SafeUnlock::Outcome outcome)
+{
+    m_unlocking = false;
+    switch (outcome) {
+    case SafeUnlock::Outcome::Unlocked:
+    case SafeUnlock::Outcome::Cancelled:
+        setMessage({});
+        break;
+    case SafeUnlock::Outcome::WrongPassword:
+        setMessage(tr("Wrong Password! Try again"));
+        break;
+    case SafeUnlock::Outcome::Unreadable:
+        setMessage(tr("The safe could not be read. Check that its folder is there and that you "
+                      "may read it, then try again."));
+        break;
+    }
+    if (outcome != SafeUnlock::Outcome::Unlocked)
+        Q_EMIT refused();
+}
+
+void UnlockLogic::setMessage(const QString &message)
+{
+    m_message = message;
+    Q_EMIT changed();
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "KnownSafes.h"
+#include "SafeUnlock.h"
+
+#include <QObject>
+
+class GPMAppCore;
+
+/// What the master password page is about: which safes there are, which one is chosen, how the
+/// attempt to unlock it goes and what there is to say.
+class UnlockLogic : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class State { NoSafes, NoneChosen, Unavailable, Ready, Unlocking };
+    Q_ENUM(State)
+
+    explicit UnlockLogic(GPMAppCore &core, QObject *parent = nullptr);
+
+    const QVector<KnownSafes::Entry> &safes() const { return m_safes; }
+    State state() const;
+    /// The chosen safe's folder; empty when none is.
+    QString chosenFolder() const { return m_folder; }
+    QString hint() const;
+    /// What went wrong last; empty when nothing did.
+    QString message() const { return m_message; }
+    int itemsDone() const { return m_done; }
+    int itemsTotal() const { return m_total; }
+
+    /// Chooses the safe of a folder if it is one of those that can be opened, else another one.
+    void chooseFirst(const QString &preferredFolder);
+    void choose(const QString &folder);
+    void unlock(const QString &password);
+    void cancel();
+
+Q_SIGNALS:
+    void safesChanged();
+    void changed();
+    /// The password did not unlock the safe: it has to be typed again.
+    void refused();
+
+private:
+    const KnownSafes::Entry *chosen() const;
+    void reload();
+    void takeCurrentSafe();
+    void onFinished(SafeUnlock::Outcome outcome);
+    void setMessage(const QString &message);
+
+    GPMAppCore &m_core;
+    QVector<KnownSafes::Entry> m_safes;
+    QString m_folder;
+    QString m_message;
+    bool m_unlocking = false;
+    int m_done = 0;
+    int m_total = 0;
+};

@@ -1,0 +1,95 @@
+#include "CopyNotice.h"
+
+#include "ClipboardKeeper.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/Controls.h"
+
+#include <QBoxLayout>
+
+#include <utility>
+
+namespace {
+
+const int plainNoticeMs = 4000;
+
+} // namespace
+
+CopyNotice::CopyNotice(ClipboardKeeper &clipboard, const Theme &theme, QWidget *parent, Clock clock)
+    : QWidget(parent)
+    , m_clock(std::move(clock))
+    , m_icon(new QLabel(this))
+    , m_text(makeLabel(tr("Value copied to clipboard"), "notice", this))
+    , m_seconds(makeLabel({}, "label", this))
+{
+    setObjectName(QStringLiteral("copyNotice"));
+    m_text->setObjectName(QStringLiteral("copyNoticeText"));
+    const QSize size(Style::iconSize, Style::iconSize);
+    const auto showIcon = [this, &theme, size] {
+        m_icon->setPixmap(theme.icon(QStringLiteral("circle-check"), Palette::Strong)
+                              .pixmap(window()->windowHandle(), size));
+    };
+    showIcon();
+    connect(&theme, &Theme::changed, this, showIcon);
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addStretch();
+    texts->addWidget(m_text);
+    texts->addWidget(m_seconds);
+    texts->addStretch();
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins({});
+    row->setSpacing(Style::spacing);
+    row->addWidget(m_icon);
+    row->addLayout(texts);
+    m_tick.setInterval(1000);
+    connect(&m_tick, &QTimer::timeout, this, &CopyNotice::onTick);
+    connect(&clipboard, &ClipboardKeeper::copied, this, &CopyNotice::onCopied);
+    connect(&clipboard, &ClipboardKeeper::cleared, this, &CopyNotice::dismiss);
+    hide();
+}
+
+int CopyNotice::secondsLeft() const
+{
+    // The clock of an earlier copy that still runs clears a later one, too.
+    const QDateTime now = m_clock();
+    for (const QDateTime &deadline : m_deadlines) {
+        if (deadline > now)
+            return static_cast<int>((now.msecsTo(deadline) + 999) / 1000);
+    }
+    return 0;
+}
+
+void CopyNotice::onCopied(bool clearLater)
+{
+    const QDateTime now = m_clock();
+    while (!m_deadlines.isEmpty() && m_deadlines.first() <= now)
+        m_deadlines.removeFirst();
+    if (clearLater)
+        m_deadlines.append(now.addMSecs(ClipboardKeeper::keepMs));
+    m_until = now.addMSecs(plainNoticeMs);
+    showSeconds();
+    show();
+    m_tick.start();
+}
+
+void CopyNotice::onTick()
+{
+    if (secondsLeft() == 0 && m_clock() >= m_until)
+        dismiss();
+    else
+        showSeconds();
+}
+
+void CopyNotice::showSeconds()
+{
+    const int seconds = secondsLeft();
+    m_seconds->setText(tr("clears in %1 s").arg(seconds));
+    m_seconds->setVisible(seconds > 0);
+}
+
+void CopyNotice::dismiss()
+{
+    m_tick.stop();
+    hide();
+}

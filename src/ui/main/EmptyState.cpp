@@ -1,0 +1,56 @@
+#include "EmptyState.h"
+
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/Controls.h"
+
+#include <QBoxLayout>
+
+namespace {
+
+const int pictureSize = 40;
+
+} // namespace
+
+EmptyState::EmptyState(const Theme &theme, QWidget *parent)
+    : QWidget(parent)
+    , m_theme(theme)
+    , m_icon(new QLabel(this))
+    , m_title(makeLabel({}, "heading", this))
+    , m_advice(makeLabel({}, "muted", this))
+    , m_button(makeButton({}, "primary", this))
+{
+    m_advice->setWordWrap(true);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(Style::margin, Style::margin, Style::margin, Style::margin);
+    column->setSpacing(Style::spacing);
+    column->addStretch(2);
+    column->addWidget(m_icon, 0, Qt::AlignHCenter);
+    column->addWidget(m_title, 0, Qt::AlignHCenter);
+    m_advice->setAlignment(Qt::AlignHCenter);
+    column->addWidget(m_advice);
+    column->addSpacing(Style::spacing);
+    column->addWidget(m_button, 0, Qt::AlignHCenter);
+    column->addStretch(3);
+    connect(m_button, &QPushButton::clicked, this, &EmptyState::pressed);
+    connect(&theme, &Theme::changed, this, &EmptyState::showIcon);
+}
+
+void EmptyState::setContent(const QString &icon, const QString &title, const QString &advice,
+                            const QString &button)
+{
+    m_iconName = icon;
+    showIcon();
+    m_title->setText(title);
+    m_advice->setText(advice);
+    m_advice->setVisible(!advice.isEmpty());
+    m_button->setText(button);
+    m_button->setVisible(!button.isEmpty());
+}
+
+void EmptyState::showIcon()
+{
+    const QSize size(pictureSize, pictureSize);
+    m_icon->setPixmap(
+        m_theme.icon(m_iconName, Palette::Muted).pixmap(window()->windowHandle(), size));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class Theme;
+
+/// Fills an empty place: a picture, what is missing, and what to do about it.
+class EmptyState : public QWidget
+{
+    Q_OBJECT
+
+public:
+    EmptyState(const Theme &theme, QWidget *parent);
+
+    /// @param button the words on the button; empty for none
+    void setContent(const QString &icon, const QString &title, const QString &advice,
+                    const QString &button = {});
+    QPushButton *button() const { return m_button; }
+
+Q_SIGNALS:
+    void pressed();
+
+private:
+    void showIcon();
+
+    const Theme &m_theme;
+    QLabel *m_icon;
+    QLabel *m_title;
+    QLabel *m_advice;
+    QPushButton *m_button;
+    QString m_iconName;
+};

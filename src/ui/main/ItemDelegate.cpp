@@ -1,0 +1,108 @@
+#include "ItemDelegate.h"
+
+#include "ItemListModel.h"
+#include "style/Style.h"
+#include "style/SvgIcon.h"
+#include "style/Theme.h"
+#include "style/TilePainter.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+const int rowHeight = 52;
+const int tileSize = 34;
+const int starSize = 16;
+const int inset = 6;
+
+} // namespace
+
+ItemDelegate::ItemDelegate(const Theme &theme, QObject *parent)
+    : QStyledItemDelegate(parent)
+    , m_theme(theme)
+{
+}
+
+QSize ItemDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
+{
+    return {0, rowHeight};
+}
+
+void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index) const
+{
+    const QRect row = option.rect.adjusted(inset, 0, -inset, 0);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    paintGround(*painter, row, option);
+
+    QRectF tile(row.left() + 12, 0, tileSize, tileSize);
+    tile.moveTop(row.top() + (row.height() - tileSize) / 2.0);
+    const auto type = static_cast<PMListItem::Type>(index.data(ItemListModel::TypeRole).toInt());
+    painter->setFont(option.font);
+    paintTile(*painter, tile, index.data().toString(), type);
+
+    QRect texts = row.adjusted(58, 8, -12, -8);
+    if (index.data(ItemListModel::FavoriteRole).toBool()) {
+        const QRectF star(row.right() - 12 - starSize, row.center().y() - starSize / 2.0, starSize,
+                          starSize);
+        paintSvg(*painter, star, QStringLiteral("star-filled"),
+                 m_theme.palette().color(Palette::Star));
+        texts.setRight(int(star.left()) - 8);
+    }
+    paintTexts(*painter, texts, option.font, index);
+    painter->restore();
+}
+
+void ItemDelegate::paintGround(QPainter &painter, const QRect &row,
+                               const QStyleOptionViewItem &option) const
+{
+    const Palette &palette = m_theme.palette();
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    if (!selected && !option.state.testFlag(QStyle::State_MouseOver))
+        return;
+    QPainterPath shape;
+    shape.addRoundedRect(row, Style::corner, Style::corner);
+    QColor ground = palette.color(Palette::Soft);
+    if (!selected)
+        ground.setAlphaF(0.5);
+    painter.fillPath(shape, ground);
+    if (!selected)
+        return;
+    painter.save();
+    painter.setClipPath(shape);
+    painter.fillRect(QRect(row.left(), row.top(), 3, row.height()), palette.color(Palette::Accent));
+    painter.restore();
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        painter.setPen(palette.color(Palette::Accent));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(row).adjusted(0.5, 0.5, -0.5, -0.5), Style::corner,
+                                Style::corner);
+    }
+}
+
+void ItemDelegate::paintTexts(QPainter &painter, const QRect &area, const QFont &font,
+                              const QModelIndex &index) const
+{
+    const QString second = index.data(ItemListModel::SecondaryTextRole).toString();
+    const auto draw = [&](const QRect &rect, const QString &text, int size, QFont::Weight weight,
+                          Palette::Role role) {
+        QFont line = font;
+        line.setPixelSize(size);
+        line.setWeight(weight);
+        painter.setFont(line);
+        painter.setPen(m_theme.palette().color(role));
+        painter.drawText(
+            rect, Qt::AlignLeft | Qt::AlignVCenter,
+            QFontMetrics(line).elidedText(text.simplified(), Qt::ElideRight, rect.width()));
+    };
+    QRect upper = area;
+    if (!second.isEmpty()) {
+        upper.setHeight(area.height() / 2);
+        QRect lower = area;
+        lower.setTop(upper.bottom() + 1);
+        draw(lower, second, Style::smallTextSize, QFont::Normal, Palette::Muted);
+    }
+    draw(upper, index.data().toString(), Style::textSize, QFont::DemiBold, Palette::Text);
+}

@@ -1,0 +1,89 @@
+#include "ItemKinds.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct Kind
+{
+    const char *name;
+    const char *plural;
+    const char *icon;
+};
+
+// In the order of PMListItem::Type.
+const Kind kinds[] = {
+    {QT_TRANSLATE_NOOP("ItemKinds", "Login"), QT_TRANSLATE_NOOP("ItemKinds", "Logins"), "key"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Credit card"), QT_TRANSLATE_NOOP("ItemKinds", "Credit cards"),
+     "credit-card"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Bank account"),
+     QT_TRANSLATE_NOOP("ItemKinds", "Bank accounts"), "building-bank"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Identity"), QT_TRANSLATE_NOOP("ItemKinds", "Identities"),
+     "id"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Passport"), QT_TRANSLATE_NOOP("ItemKinds", "Passports"),
+     "book"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Social security"),
+     QT_TRANSLATE_NOOP("ItemKinds", "Social security"), "shield-lock"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Driver licence"),
+     QT_TRANSLATE_NOOP("ItemKinds", "Driver licences"), "steering-wheel"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Secure note"), QT_TRANSLATE_NOOP("ItemKinds", "Secure notes"),
+     "note"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "FTP account"), QT_TRANSLATE_NOOP("ItemKinds", "FTP accounts"),
+     "server-2"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Software licence"),
+     QT_TRANSLATE_NOOP("ItemKinds", "Software licences"), "license"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Attachment"), QT_TRANSLATE_NOOP("ItemKinds", "Attachments"),
+     "paperclip"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Item"), QT_TRANSLATE_NOOP("ItemKinds", "Items"),
+     "layout-grid"},
+};
+
+// In the order of ItemCategory::Kind; the kind of items has a table of its own.
+const Kind categories[] = {
+    {"", QT_TRANSLATE_NOOP("ItemKinds", "All items"), "layout-grid"},
+    {"", QT_TRANSLATE_NOOP("ItemKinds", "Favourites"), "star"},
+    {"", QT_TRANSLATE_NOOP("ItemKinds", "Most used"), "flame"},
+    {"", "", ""},
+    {"", QT_TRANSLATE_NOOP("ItemKinds", "Trash"), "trash"},
+};
+
+const Kind &kindOf(PMListItem::Type type)
+{
+    return kinds[qBound<int>(PMListItem::Login, type, PMListItem::UndefinedItem)];
+}
+
+const Kind &kindOf(const ItemCategory &category)
+{
+    return category.kind == ItemCategory::OfType ? kindOf(category.type)
+                                                 : categories[category.kind];
+}
+
+} // namespace
+
+QString itemKindName(PMListItem::Type type)
+{
+    return QCoreApplication::translate("ItemKinds", kindOf(type).name);
+}
+
+QString itemKindIcon(PMListItem::Type type)
+{
+    return QLatin1String(kindOf(type).icon);
+}
+
+QString categoryName(const ItemCategory &category)
+{
+    return QCoreApplication::translate("ItemKinds", kindOf(category).plural);
+}
+
+QString categoryIcon(const ItemCategory &category)
+{
+    return QLatin1String(kindOf(category).icon);
+}
+
+QString itemCountText(int count)
+{
+    // The source language has no plural forms of its own without a translation file.
+    if (count == 1)
+        return QCoreApplication::translate("ItemKinds", "1 item");
+    return QCoreApplication::translate("ItemKinds", "%n items", nullptr, count);
+}

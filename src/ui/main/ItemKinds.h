@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ItemCategory.h"
+
+/// The words and icons of the kinds of items and of the categories that show them.
+
+/// "Login", "Credit card", …
+QString itemKindName(PMListItem::Type type);
+QString itemKindIcon(PMListItem::Type type);
+
+/// "All items", "Logins", …
+QString categoryName(const ItemCategory &category);
+QString categoryIcon(const ItemCategory &category);
+
+/// "1 item", "12 items".
+QString itemCountText(int count);

@@ -1,0 +1,324 @@
+#include "ItemListPane.h"
+
+#include "EmptyState.h"
+#include "ItemDelegate.h"
+#include "ItemKinds.h"
+#include "ItemListModel.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/Controls.h"
+
+#include <QActionGroup>
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <QStackedWidget>
+
+ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent)
+    : QWidget(parent)
+    , m_items(items)
+    , m_theme(theme)
+    , m_filter(new ItemFilterModel(this))
+{
+    setObjectName(QStringLiteral("listPane"));
+    setAttribute(Qt::WA_StyledBackground);
+    m_filter->setSourceModel(&items);
+    makeSearch();
+    makeList();
+    makeSortMenu();
+    m_trashBar = makeTrashBar();
+    layOut();
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, &ItemListPane::showEmptyState);
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &ItemListPane::showEmptyState);
+    connect(m_filter, &QAbstractItemModel::modelReset, this, &ItemListPane::showEmptyState);
+    connect(m_filter, &QAbstractItemModel::layoutChanged, this, &ItemListPane::showEmptyState);
+    showEmptyState();
+}
+
+void ItemListPane::makeSearch()
+{
+    m_search = new QLineEdit(this);
+    m_search->setObjectName(QStringLiteral("searchField"));
+    m_search->setAccessibleName(tr("Search"));
+    m_search->addAction(m_theme.icon(QStringLiteral("search"), Palette::Muted),
+                        QLineEdit::LeadingPosition);
+    m_search->installEventFilter(this);
+    m_searchKey = makeLabel(tr("Ctrl F"), "key", m_search);
+    m_searchKey->setAttribute(Qt::WA_TransparentForMouseEvents);
+    connect(m_search, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_searchKey->setVisible(text.isEmpty());
+        m_filter->setSearch(text);
+        showEmptyState();
+        Q_EMIT searched();
+    });
+
+    m_new = makeIconButton(m_theme.icon(QStringLiteral("plus"), Palette::OnAccent), tr("New login"),
+                           "primary", this);
+    m_new->setObjectName(QStringLiteral("newItemButton"));
+    m_new->setToolTip(tr("New login (Ctrl+N)"));
+    connect(m_new, &QToolButton::clicked, this, &ItemListPane::createRequested);
+}
+
+void ItemListPane::makeList()
+{
+    m_list = new QListView(this);
+    m_list->setObjectName(QStringLiteral("itemList"));
+    m_list->setAccessibleName(tr("Items"));
+    m_list->setModel(m_filter);
+    m_list->setItemDelegate(new ItemDelegate(m_theme, m_list));
+    m_list->setUniformItemSizes(true);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setMouseTracking(true);
+    m_list->installEventFilter(this);
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &current) {
+                if (!m_marking && current.isValid())
+                    Q_EMIT currentChosen(current.data(ItemListModel::IdRole).toString());
+            });
+    connect(m_list, &QListView::doubleClicked, this, [this](const QModelIndex &index) {
+        Q_EMIT activated(index.data(ItemListModel::IdRole).toString());
+    });
+    m_empty = new EmptyState(m_theme, this);
+    m_empty->button()->setObjectName(QStringLiteral("addFirstLoginButton"));
+    connect(m_empty, &EmptyState::pressed, this, &ItemListPane::createRequested);
+    m_stack = new QStackedWidget(this);
+    m_stack->addWidget(m_list);
+    m_stack->addWidget(m_empty);
+}
+
+void ItemListPane::makeSortMenu()
+{
+    m_categoryName = makeLabel({}, "muted", this);
+    m_sort = makeButton({}, "quiet", this);
+    m_sort->setObjectName(QStringLiteral("sortButton"));
+    m_sort->setIcon(m_theme.icon(QStringLiteral("chevron-down"), Palette::Muted));
+    m_sort->setIconSize(QSize(14, 14));
+    m_sort->setLayoutDirection(Qt::RightToLeft);
+
+    using SortBy = ItemFilterModel::SortBy;
+    const QVector<QPair<SortBy, QString>> choices = {{SortBy::Title, tr("Title")},
+                                                     {SortBy::MostUsed, tr("Most used")},
+                                                     {SortBy::Modified, tr("Last changed")},
+                                                     {SortBy::Created, tr("Newest")}};
+    auto *menu = new QMenu(m_sort);
+    auto *group = new QActionGroup(menu);
+    for (const auto &choice : choices) {
+        QAction *action = menu->addAction(choice.second);
+        action->setCheckable(true);
+        action->setChecked(choice.first == m_filter->sortBy());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this,
+                [this, choice] { setSort(choice.first, choice.second); });
+    }
+    m_sort->setMenu(menu);
+    setSort(m_filter->sortBy(), choices.first().second);
+}
+
+void ItemListPane::setSort(ItemFilterModel::SortBy sortBy, const QString &name)
+{
+    m_filter->setSortBy(sortBy);
+    m_sort->setText(tr("Sort: %1").arg(name));
+    m_list->scrollTo(m_list->currentIndex());
+}
+
+QWidget *ItemListPane::makeTrashBar()
+{
+    auto *bar = new QWidget(this);
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(12, 4, 12, 4);
+    row->setSpacing(Style::spacing);
+    auto *restore = makeButton(tr("Restore all"), "plain", bar);
+    restore->setObjectName(QStringLiteral("restoreAllButton"));
+    auto *empty = makeButton(tr("Empty trash"), "plain", bar);
+    empty->setObjectName(QStringLiteral("emptyTrashButton"));
+    row->addWidget(restore, 1);
+    row->addWidget(empty, 1);
+    connect(restore, &QPushButton::clicked, this, &ItemListPane::restoreAllRequested);
+    connect(empty, &QPushButton::clicked, this, &ItemListPane::emptyTrashRequested);
+    return bar;
+}
+
+void ItemListPane::layOut()
+{
+    auto *top = new QHBoxLayout;
+    top->setContentsMargins(12, 12, 12, 0);
+    top->setSpacing(Style::spacing);
+    top->addWidget(m_search, 1);
+    top->addWidget(m_new);
+    auto *head = new QHBoxLayout;
+    head->setContentsMargins(16, 6, 10, 2);
+    head->addWidget(m_categoryName, 1);
+    head->addWidget(m_sort);
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins({});
+    all->setSpacing(0);
+    all->addLayout(top);
+    all->addLayout(head);
+    all->addWidget(m_trashBar);
+    all->addSpacing(2);
+    all->addWidget(m_stack, 1);
+}
+
+void ItemListPane::setCategory(const ItemCategory &category)
+{
+    const QScopedValueRollback<bool> marking(m_marking, true);
+    m_filter->setCategory(category);
+    m_categoryName->setText(categoryName(category));
+    // That category has an order of its own.
+    m_sort->setVisible(category.kind != ItemCategory::MostUsed);
+    showEmptyState();
+}
+
+void ItemListPane::setCount(int inCategory, bool safeIsEmpty)
+{
+    m_inCategory = inCategory;
+    m_safeIsEmpty = safeIsEmpty;
+    m_search->setPlaceholderText(tr("Search %1").arg(itemCountText(inCategory)));
+    showEmptyState();
+}
+
+void ItemListPane::clearSearch()
+{
+    m_search->clear();
+}
+
+QString ItemListPane::currentId() const
+{
+    return m_list->currentIndex().data(ItemListModel::IdRole).toString();
+}
+
+bool ItemListPane::contains(const QString &id) const
+{
+    return m_filter->mapFromSource(m_items.indexOf(id)).isValid();
+}
+
+QString ItemListPane::firstId() const
+{
+    return m_filter->index(0, 0).data(ItemListModel::IdRole).toString();
+}
+
+void ItemListPane::setCurrent(const QString &id)
+{
+    const QScopedValueRollback<bool> marking(m_marking, true);
+    const QModelIndex index = m_filter->mapFromSource(m_items.indexOf(id));
+    m_list->setCurrentIndex(index);
+    if (index.isValid())
+        m_list->scrollTo(index);
+    else
+        m_list->clearSelection();
+}
+
+void ItemListPane::focusSearch()
+{
+    m_search->setFocus();
+    m_search->selectAll();
+}
+
+void ItemListPane::focusList()
+{
+    m_list->setFocus();
+}
+
+void ItemListPane::takeFocus()
+{
+    if (m_stack->currentWidget() == m_empty && !m_empty->button()->text().isEmpty())
+        m_empty->button()->setFocus();
+    else
+        focusSearch();
+}
+
+void ItemListPane::showEmptyState()
+{
+    const bool trash = category().kind == ItemCategory::Trash;
+    m_trashBar->setVisible(trash && m_inCategory > 0);
+    m_new->setVisible(!trash);
+    if (m_filter->rowCount() > 0) {
+        m_stack->setCurrentWidget(m_list);
+        return;
+    }
+    if (!m_search->text().isEmpty())
+        m_empty->setContent(QStringLiteral("search"), tr("No items found"),
+                            tr("Try fewer words, or press Esc to see all items."));
+    else if (trash)
+        m_empty->setContent(QStringLiteral("trash"), tr("No items in this category"),
+                            tr("What you remove stays here until you delete it forever."));
+    else if (m_safeIsEmpty)
+        m_empty->setContent(QStringLiteral("key"), tr("Your safe is empty"),
+                            tr("Keep your user names and passwords here."),
+                            tr("Add your first login"));
+    else
+        m_empty->setContent(categoryIcon(category()), tr("No items in this category"),
+                            tr("Items come here by themselves once they belong here."));
+    m_stack->setCurrentWidget(m_empty);
+}
+
+bool ItemListPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_search && event->type() == QEvent::Resize)
+        placeSearchKey();
+    if (event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        const Qt::KeyboardModifiers modifiers = key->modifiers() & ~Qt::KeypadModifier;
+        if (modifiers == Qt::NoModifier &&
+            (watched == m_search ? onSearchKey(key->key()) : onListKey(key->key())))
+            return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool ItemListPane::onSearchKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Escape:
+        clearSearch();
+        return true;
+    case Qt::Key_Down:
+        if (m_filter->rowCount() == 0)
+            return true;
+        focusList();
+        if (!m_list->currentIndex().isValid())
+            m_list->setCurrentIndex(m_filter->index(0, 0));
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!currentId().isEmpty())
+            Q_EMIT activated(currentId());
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool ItemListPane::onListKey(int key)
+{
+    const QString id = currentId();
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!id.isEmpty())
+            Q_EMIT activated(id);
+        return true;
+    case Qt::Key_Delete:
+        if (!id.isEmpty())
+            Q_EMIT removeRequested(id);
+        return true;
+    case Qt::Key_Up:
+        if (m_list->currentIndex().row() > 0)
+            return false;
+        focusSearch();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void ItemListPane::placeSearchKey()
+{
+    const QSize size = m_searchKey->sizeHint();
+    m_searchKey->setGeometry(m_search->width() - size.width() - 8,
+                             (m_search->height() - size.height()) / 2, size.width(), size.height());
+}

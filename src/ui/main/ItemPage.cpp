@@ -1,0 +1,212 @@
+#include "ItemPage.h"
+
+#include "FieldRow.h"
+#include "ItemKinds.h"
+#include "PMLogin.h"
+#include "RelativeDate.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/Controls.h"
+#include "widgets/ElidedLabel.h"
+#include "widgets/Tile.h"
+
+#include <QBoxLayout>
+#include <QScrollArea>
+#include <QUrl>
+
+#include <utility>
+
+namespace {
+
+const int pageMargin = 28;
+const int tileSize = 52;
+
+} // namespace
+
+ItemPage::ItemPage(const GPMAppSettings &settings, const Theme &theme, QWidget *parent, Clock clock)
+    : QWidget(parent)
+    , m_settings(settings)
+    , m_theme(theme)
+    , m_clock(std::move(clock))
+    , m_scroll(new QScrollArea(this))
+    , m_column(new QVBoxLayout)
+{
+    setObjectName(QStringLiteral("itemPage"));
+    makeHeader();
+    layOut();
+    m_refresh.setSingleShot(true);
+    m_refresh.setInterval(0);
+    connect(&m_refresh, &QTimer::timeout, this, &ItemPage::refresh);
+}
+
+void ItemPage::makeHeader()
+{
+    m_tile = new Tile(tileSize, this);
+    m_title = new ElidedLabel("title", this);
+    m_title->setObjectName(QStringLiteral("itemTitle"));
+    m_subtitle = new ElidedLabel("muted", this);
+    m_star = makeIconButton(m_theme.icon(QStringLiteral("star"), Palette::Text), tr("Favourite"),
+                            "framed", this);
+    m_star->setObjectName(QStringLiteral("favoriteButton"));
+    connect(m_star, &QToolButton::clicked, this, &ItemPage::favoriteToggled);
+    m_logIn = makeButton(tr("Log in"), "primary", this);
+    m_logIn->setObjectName(QStringLiteral("logInButton"));
+    m_logIn->setIcon(m_theme.icon(QStringLiteral("login"), Palette::OnAccent));
+    m_logIn->setToolTip(tr("Log in (Ctrl+Return)"));
+    connect(m_logIn, &QPushButton::clicked, this, &ItemPage::defaultActionRequested);
+    m_times = makeLabel({}, "muted", this);
+    m_times->setObjectName(QStringLiteral("itemTimes"));
+    m_uses = makeLabel({}, "muted", this);
+    m_uses->setObjectName(QStringLiteral("itemUses"));
+}
+
+void ItemPage::layOut()
+{
+    auto *names = new QVBoxLayout;
+    names->setSpacing(2);
+    names->addStretch();
+    names->addWidget(m_title);
+    names->addWidget(m_subtitle);
+    names->addStretch();
+    auto *header = new QHBoxLayout;
+    header->setSpacing(Style::spacing);
+    header->addWidget(m_tile);
+    header->addSpacing(Style::spacing);
+    header->addLayout(names, 1);
+    header->addWidget(m_star);
+    header->addWidget(m_logIn);
+
+    auto *info = new QHBoxLayout;
+    info->addWidget(m_times, 1);
+    info->addWidget(m_uses);
+
+    auto *body = new QWidget;
+    body->setObjectName(QStringLiteral("pageBody"));
+    body->setLayout(m_column);
+    m_column->setContentsMargins(pageMargin, 24, pageMargin, Style::margin);
+    m_column->setSpacing(Style::margin);
+    m_column->addLayout(header);
+    m_column->addLayout(info);
+    m_column->addStretch();
+
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(body);
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins({});
+    all->addWidget(m_scroll);
+}
+
+void ItemPage::setItem(const PMListItem *item)
+{
+    if (m_item)
+        m_item->disconnect(this);
+    m_item = item;
+    if (item) {
+        // One refresh for a change of many fields.
+        connect(item, &PMListItem::timestampChanged, this, [this] { m_refresh.start(); });
+        connect(item, &QObject::destroyed, this, [this] { setItem(nullptr); });
+    }
+    m_scroll->ensureVisible(0, 0);
+    refresh();
+}
+
+void ItemPage::refresh()
+{
+    m_refresh.stop();
+    showHeader();
+    showFields();
+    showInfo();
+}
+
+void ItemPage::showHeader()
+{
+    const PMListItem::Type type = m_item ? m_item->type() : PMListItem::UndefinedItem;
+    m_tile->setItem(m_item ? m_item->title() : QString(), type);
+    m_title->setFullText(m_item ? m_item->title() : QString());
+    const QString host = m_item ? QUrl(m_item->url()).host() : QString();
+    const QString kind = m_item ? itemKindName(type) : QString();
+    m_subtitle->setFullText(host.isEmpty() ? kind : tr("%1 · %2").arg(kind, host));
+    const bool usable = m_item && !m_item->deleted();
+    m_star->setVisible(usable);
+    m_logIn->setVisible(usable && type == PMListItem::Login);
+    const bool favorite = m_item && m_item->favorite();
+    m_star->setIcon(favorite ? m_theme.icon(QStringLiteral("star-filled"), Palette::Star)
+                             : m_theme.icon(QStringLiteral("star"), Palette::Text));
+    const QString star = favorite ? tr("Remove from favourites") : tr("Add to favourites");
+    m_star->setToolTip(star);
+    m_star->setAccessibleName(star);
+}
+
+void ItemPage::showFields()
+{
+    // At once, so that nothing of an item that went stays on the screen.
+    delete m_fields;
+    m_fields = nullptr;
+    if (!m_item)
+        return;
+    m_fields = new QWidget(this);
+    m_cards = new QVBoxLayout(m_fields);
+    m_cards->setContentsMargins({});
+    m_cards->setSpacing(Style::margin);
+    QFrame *card = nullptr;
+    for (const ItemField &field : itemFields(m_item->type())) {
+        const QString value = itemFieldText(*m_item, field, m_settings);
+        if (value.isEmpty())
+            continue;
+        auto *row = new FieldRow(field, value, m_theme, m_fields);
+        connect(row, &FieldRow::copyRequested, this, &ItemPage::copyRequested);
+        connect(row, &FieldRow::openRequested, this, &ItemPage::openRequested);
+        const auto *login = qobject_cast<const PMLogin *>(m_item.data());
+        if (login && field.form == ItemField::Secret)
+            row->setStrength(static_cast<int>(login->strength()));
+        // Longer texts stand apart.
+        if (!card || field.form == ItemField::Multiline)
+            card = addCard();
+        addToCard(row, card);
+    }
+    m_column->insertWidget(1, m_fields);
+    // New widgets come last for Tab; these belong behind the header.
+    QWidget *before = m_logIn;
+    const QList<QToolButton *> buttons = m_fields->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        setTabOrder(before, button);
+        before = button;
+    }
+}
+
+QFrame *ItemPage::addCard()
+{
+    QFrame *card = makeCard(m_fields);
+    auto *column = new QVBoxLayout(card);
+    column->setContentsMargins(1, 1, 1, 1);
+    column->setSpacing(0);
+    m_cards->addWidget(card);
+    return card;
+}
+
+void ItemPage::addToCard(FieldRow *row, QFrame *card)
+{
+    auto *column = static_cast<QVBoxLayout *>(card->layout());
+    if (column->count() > 0) {
+        auto *line = new QFrame(card);
+        line->setObjectName(QStringLiteral("cardLine"));
+        column->addWidget(line);
+    }
+    column->addWidget(row);
+}
+
+void ItemPage::showInfo()
+{
+    m_times->setVisible(m_item);
+    m_uses->setVisible(m_item && m_item->useCount() > 0);
+    if (!m_item)
+        return;
+    const QDateTime now = m_clock();
+    m_times->setText(
+        tr("Modified %1 · created %2")
+            .arg(relativeMoment(m_item->modified(), now), relativeDate(m_item->created(), now)));
+    const int uses = m_item->useCount();
+    m_uses->setText(uses == 1 ? tr("Used once") : tr("Used %n times", nullptr, uses));
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Clock.h"
+#include "PMListItem.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+class ElidedLabel;
+class FieldRow;
+class GPMAppSettings;
+class QFrame;
+class QLabel;
+class QPushButton;
+class QScrollArea;
+class QToolButton;
+class QVBoxLayout;
+class Theme;
+class Tile;
+
+/// Shows one item of any kind: its filled fields, and what was done with it.
+class ItemPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ItemPage(const GPMAppSettings &settings, const Theme &theme, QWidget *parent,
+             Clock clock = systemTime);
+
+    /// Follows the item's changes until it goes; null shows nothing.
+    void setItem(const PMListItem *item);
+    const PMListItem *item() const { return m_item; }
+
+Q_SIGNALS:
+    void defaultActionRequested();
+    void favoriteToggled();
+    void copyRequested(const QString &value);
+    void openRequested(const QString &address);
+
+private:
+    void makeHeader();
+    void layOut();
+    void showHeader();
+    void showFields();
+    void showInfo();
+    void refresh();
+    void addToCard(FieldRow *row, QFrame *card);
+    QFrame *addCard();
+
+    const GPMAppSettings &m_settings;
+    const Theme &m_theme;
+    Clock m_clock;
+    QPointer<const PMListItem> m_item;
+    QTimer m_refresh;
+    QScrollArea *m_scroll;
+    Tile *m_tile;
+    ElidedLabel *m_title;
+    ElidedLabel *m_subtitle;
+    QToolButton *m_star;
+    QPushButton *m_logIn;
+    QWidget *m_fields = nullptr;
+    QVBoxLayout *m_cards = nullptr;
+    QVBoxLayout *m_column;
+    QLabel *m_times;
+    QLabel *m_uses;
+};

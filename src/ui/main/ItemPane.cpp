@@ -1,0 +1,244 @@
+#include "ItemPane.h"
+
+#include "CopyNotice.h"
+#include "EmptyState.h"
+#include "GPMAppCore.h"
+#include "ItemPage.h"
+#include "editor/SafeItemEditor.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/Controls.h"
+
+#include <QBoxLayout>
+#include <QStackedWidget>
+
+#include <utility>
+
+namespace {
+
+const int footerHeight = 58;
+const int pageMargin = 28;
+
+} // namespace
+
+ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent)
+    : QWidget(parent)
+    , m_core(core)
+    , m_theme(theme)
+    , m_asker(std::move(asker))
+    , m_stack(new QStackedWidget(this))
+    , m_empty(new EmptyState(theme, this))
+    , m_page(new ItemPage(core.settings(), theme, this))
+    , m_editor(new SafeItemEditor(core.settings(), theme, this))
+{
+    setObjectName(QStringLiteral("itemPane"));
+    setAttribute(Qt::WA_StyledBackground);
+    m_stack->addWidget(m_empty);
+    m_stack->addWidget(m_page);
+    m_stack->addWidget(m_editor);
+    makeFooter();
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins({});
+    all->setSpacing(0);
+    all->addWidget(m_stack, 1);
+    all->addWidget(m_footer);
+    m_empty->setContent(QStringLiteral("layout-grid"), tr("No items selected"),
+                        tr("Choose an item on the left, or press Ctrl+N to add a login."));
+    connect(m_editor, &SafeItemEditor::modifiedChanged, this, &ItemPane::showButtons);
+    connect(m_editor, &SafeItemEditor::itemGone, this, &ItemPane::drop);
+    showNothing();
+}
+
+void ItemPane::makeFooter()
+{
+    m_footer = new QWidget(this);
+    m_footer->setObjectName(QStringLiteral("footer"));
+    m_footer->setAttribute(Qt::WA_StyledBackground);
+    m_footer->setFixedHeight(footerHeight);
+    m_notice = new CopyNotice(m_core.clipboard(), m_theme, m_footer);
+    m_remove = footerButton(tr("Remove"), "plain", "removeButton", &ItemPane::requestRemove);
+    m_remove->setIcon(m_theme.icon(QStringLiteral("trash"), Palette::Text));
+    m_restore = footerButton(tr("Restore"), "plain", "restoreButton", &ItemPane::requestRestore);
+    m_restore->setIcon(m_theme.icon(QStringLiteral("arrow-back-up"), Palette::Text));
+    m_edit = footerButton(tr("Edit"), "plain", "editButton", &ItemPane::startEdit);
+    m_edit->setIcon(m_theme.icon(QStringLiteral("pencil"), Palette::Text));
+    m_edit->setToolTip(tr("Edit (Ctrl+E)"));
+    m_discard = footerButton(tr("Discard changes"), "plain", "discardButton", &ItemPane::discard);
+    m_save = footerButton(tr("Save"), "primary", "saveButton", &ItemPane::saveByUser);
+    m_save->setToolTip(tr("Save (Ctrl+S)"));
+
+    auto *row = new QHBoxLayout(m_footer);
+    row->setContentsMargins(pageMargin, 0, pageMargin, 0);
+    row->setSpacing(Style::spacing);
+    row->addWidget(m_notice, 1);
+    row->addStretch();
+    for (QPushButton *button : {m_restore, m_remove, m_edit, m_discard, m_save})
+        row->addWidget(button);
+}
+
+QPushButton *ItemPane::footerButton(const QString &text, const char *look, const char *name,
+                                    void (ItemPane::*slot)())
+{
+    QPushButton *button = makeButton(text, look, m_footer);
+    button->setObjectName(QLatin1String(name));
+    connect(button, &QPushButton::clicked, this, slot);
+    return button;
+}
+
+void ItemPane::showItem(const PMListItem *item)
+{
+    closeEditor();
+    m_page->setItem(item);
+    m_stack->setCurrentWidget(item ? static_cast<QWidget *>(m_page) : m_empty);
+    showButtons();
+}
+
+QString ItemPane::shownId() const
+{
+    return m_page->item() ? m_page->item()->id() : QString();
+}
+
+bool ItemPane::canEdit() const
+{
+    const PMListItem *item = m_page->item();
+    return item && !item->deleted() && SafeItemEditor::canEdit(item->type());
+}
+
+void ItemPane::startNew(PMListItem::Type type)
+{
+    closeEditor();
+    m_newItem = m_core.modelCreateItem(type);
+    m_editor->setItem(m_newItem.get(), true);
+    m_stack->setCurrentWidget(m_editor);
+    m_editor->takeFocus();
+    showButtons();
+}
+
+void ItemPane::startEdit()
+{
+    if (isEditing() || !canEdit())
+        return;
+    m_editedId = shownId();
+    m_editor->setItem(m_page->item(), false);
+    m_stack->setCurrentWidget(m_editor);
+    m_editor->takeFocus();
+    showButtons();
+}
+
+bool ItemPane::isEditing() const
+{
+    return m_newItem || !m_editedId.isEmpty();
+}
+
+bool ItemPane::refuseSaving()
+{
+    if (!m_editor->draft().hasEmptyRequired())
+        return false;
+    m_editor->showFaults();
+    m_asker({tr("Can't save changes."),
+             tr("There are empty required values.\nFill and try again."),
+             {tr("OK")}});
+    return true;
+}
+
+bool ItemPane::save()
+{
+    if (!isEditing() || refuseSaving())
+        return false;
+    QString id = m_editedId;
+    // From here on the editor must not take the item's going for a loss.
+    const ItemDraft draft = m_editor->draft();
+    m_editor->setItem(nullptr, false);
+    m_editedId.clear();
+    if (m_newItem) {
+        draft.writeTo(*m_newItem);
+        PMListItem *added = m_core.modelAddItem(std::move(m_newItem));
+        id = added ? added->id() : QString();
+    } else if (PMListItem *item = m_core.currentSafe()->item(id)) {
+        draft.writeTo(*item);
+        m_core.modelItemChanged(id);
+    }
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    showItem(safe ? safe->item(id) : nullptr);
+    Q_EMIT saved(id);
+    return true;
+}
+
+void ItemPane::saveByUser()
+{
+    save();
+}
+
+void ItemPane::discard()
+{
+    if (!isEditing())
+        return;
+    drop();
+    Q_EMIT discarded();
+}
+
+void ItemPane::drop()
+{
+    closeEditor();
+    m_stack->setCurrentWidget(m_page->item() ? static_cast<QWidget *>(m_page) : m_empty);
+    showButtons();
+}
+
+void ItemPane::closeEditor()
+{
+    m_editor->setItem(nullptr, false);
+    m_newItem.reset();
+    m_editedId.clear();
+}
+
+bool ItemPane::mayLeave()
+{
+    if (!isEditing())
+        return true;
+    if (!m_editor->isModified()) {
+        drop();
+        return true;
+    }
+    const bool empty = m_editor->draft().hasEmptyRequired();
+    const int answer =
+        m_asker({tr("The object has been modified"),
+                 empty ? tr("There are empty required fields. What would you like to do?")
+                       : tr("You have not saved changes yet"),
+                 {tr("Save"), tr("Discard changes"), tr("Continue editing")}});
+    // The safe may have been locked while the question was open.
+    if (!isEditing())
+        return false;
+    if (answer == 0)
+        return save();
+    if (answer == 1)
+        drop();
+    return answer == 1;
+}
+
+QString ItemPane::currentId() const
+{
+    return isEditing() ? m_editedId : shownId();
+}
+
+void ItemPane::requestRemove()
+{
+    Q_EMIT removeRequested(currentId());
+}
+
+void ItemPane::requestRestore()
+{
+    Q_EMIT restoreRequested(currentId());
+}
+
+void ItemPane::showButtons()
+{
+    const bool editing = isEditing();
+    const PMListItem *item = m_page->item();
+    const bool trashed = item && item->deleted() && !editing;
+    m_remove->setVisible(!currentId().isEmpty());
+    m_remove->setText(trashed ? tr("Delete forever") : tr("Remove"));
+    m_restore->setVisible(trashed);
+    m_edit->setVisible(!editing && canEdit());
+    m_discard->setVisible(editing);
+    m_save->setVisible(editing);
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "PMListItem.h"
+#include "dialogs/Question.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class CopyNotice;
+class EmptyState;
+class GPMAppCore;
+class ItemPage;
+class QPushButton;
+class QStackedWidget;
+class SafeItemEditor;
+class Theme;
+
+/// The right side of the main view: nothing, the page of an item, or its editor, above the buttons
+/// that belong to it.
+class ItemPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent);
+
+    /// Shows an item's page; null shows that none is selected.
+    void showItem(const PMListItem *item);
+    void showNothing() { showItem(nullptr); }
+    QString shownId() const;
+
+    void startNew(PMListItem::Type type);
+    void startEdit();
+    bool isEditing() const;
+    /// The id of the item in the editor; empty for a new one.
+    QString editedId() const { return m_editedId; }
+    bool canEdit() const;
+
+    /// Writes the edited values to the safe. False when they may not be written; the user was told.
+    bool save();
+    void discard();
+    /// Asks about unsaved changes. True when there are none any more: they were saved or discarded.
+    bool mayLeave();
+    /// Forgets what is edited without a word.
+    void drop();
+
+    ItemPage &page() { return *m_page; }
+
+Q_SIGNALS:
+    /// The edited values are in the safe.
+    void saved(const QString &id);
+    /// The editor closed without saving.
+    void discarded();
+    void removeRequested(const QString &id);
+    void restoreRequested(const QString &id);
+
+private:
+    void makeFooter();
+    QPushButton *footerButton(const QString &text, const char *look, const char *name,
+                              void (ItemPane::*slot)());
+    void closeEditor();
+    void showButtons();
+    bool refuseSaving();
+    void requestRemove();
+    void requestRestore();
+    void saveByUser();
+    QString currentId() const;
+
+    GPMAppCore &m_core;
+    const Theme &m_theme;
+    Asker m_asker;
+    QStackedWidget *m_stack;
+    EmptyState *m_empty;
+    ItemPage *m_page;
+    SafeItemEditor *m_editor;
+    CopyNotice *m_notice;
+    QWidget *m_footer;
+    QPushButton *m_remove;
+    QPushButton *m_restore;
+    QPushButton *m_edit;
+    QPushButton *m_discard;
+    QPushButton *m_save;
+    std::unique_ptr<PMListItem> m_newItem;
+    QString m_editedId;
+};

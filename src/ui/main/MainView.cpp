@@ -1,0 +1,295 @@
+#include "MainView.h"
+
+#include "Banner.h"
+#include "GPMAppCore.h"
+#include "ItemActions.h"
+#include "ItemListPane.h"
+#include "ItemPage.h"
+#include "ItemPane.h"
+#include "SafeLayout.h"
+#include "Sidebar.h"
+#include "style/Theme.h"
+
+#include <QBoxLayout>
+#include <QShortcut>
+#include <QSplitter>
+#include <QUrl>
+
+namespace {
+
+const int listWidth = 320;
+const int smallestListWidth = 250;
+const int smallestItemWidth = 430;
+
+QStringList unreadablePaths(const GPMSafe &safe)
+{
+    QStringList paths;
+    for (const QString &name : safe.unreadableFiles())
+        paths.append(QStringList{safe.folder(), QLatin1String(SafeLayout::content), name}.join(
+            QLatin1Char('/')));
+    return paths;
+}
+
+} // namespace
+
+MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent)
+    : SecureContent(parent)
+    , m_core(core)
+{
+    setObjectName(QStringLiteral("mainView"));
+    if (!asker)
+        asker = dialogAsker(this);
+    m_actions = new ItemActions(core, asker, this);
+    m_banner = new Banner(theme, this);
+    m_sidebar = new Sidebar(theme, this);
+    m_splitter = new QSplitter(this);
+    m_list = new ItemListPane(m_items, theme, m_splitter);
+    m_pane = new ItemPane(core, theme, asker, m_splitter);
+    layOut();
+    connectParts();
+    connectItemPane();
+    addShortcuts();
+    showCategory({});
+}
+
+void MainView::layOut()
+{
+    m_list->setMinimumWidth(smallestListWidth);
+    m_pane->setMinimumWidth(smallestItemWidth);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setHandleWidth(1);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({listWidth, 2 * listWidth});
+    auto *right = new QVBoxLayout;
+    right->setSpacing(0);
+    right->addWidget(m_banner);
+    right->addWidget(m_splitter, 1);
+    auto *all = new QHBoxLayout(this);
+    all->setContentsMargins({});
+    all->setSpacing(0);
+    all->addWidget(m_sidebar);
+    all->addLayout(right, 1);
+}
+
+void MainView::connectParts()
+{
+    connect(m_sidebar, &Sidebar::categoryChosen, this, &MainView::onCategoryChosen);
+    connect(m_sidebar, &Sidebar::lockRequested, this, &MainView::lockRequested);
+    connect(&m_items, &ItemListModel::contentChanged, this, &MainView::onContentChanged);
+    connect(m_list, &ItemListPane::currentChosen, this, &MainView::onCurrentChosen);
+    connect(m_list, &ItemListPane::searched, this, &MainView::onSearched);
+    connect(m_list, &ItemListPane::activated, m_actions, &ItemActions::runDefault);
+    connect(m_list, &ItemListPane::removeRequested, this, &MainView::remove);
+    connect(m_list, &ItemListPane::createRequested, this, &MainView::createItem);
+    connect(m_list, &ItemListPane::restoreAllRequested, m_actions, &ItemActions::restoreAll);
+    connect(m_list, &ItemListPane::emptyTrashRequested, m_actions, &ItemActions::emptyTrash);
+}
+
+void MainView::connectItemPane()
+{
+    connect(m_pane, &ItemPane::saved, this, &MainView::onSaved);
+    connect(m_pane, &ItemPane::discarded, this, [this] {
+        showCurrent();
+        m_list->takeFocus();
+    });
+    connect(m_pane, &ItemPane::removeRequested, this, &MainView::remove);
+    connect(m_pane, &ItemPane::restoreRequested, m_actions, &ItemActions::restore);
+    const ItemPage &page = m_pane->page();
+    connect(&page, &ItemPage::defaultActionRequested, this, &MainView::logIn);
+    connect(&page, &ItemPage::favoriteToggled, this,
+            [this] { m_actions->toggleFavorite(m_pane->shownId()); });
+    connect(&page, &ItemPage::copyRequested, m_actions, &ItemActions::copyText);
+    connect(&page, &ItemPage::openRequested, &m_core, [this](const QString &address) {
+        Q_EMIT m_core.openAddress(QUrl::fromUserInput(address));
+    });
+}
+
+void MainView::addShortcuts()
+{
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), &MainView::focusSearch);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_N), &MainView::createItem);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), &MainView::editItem);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), &MainView::saveItem);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), &MainView::logIn);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Enter), &MainView::logIn);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_B), &MainView::copyUserName);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &MainView::copyPassword);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_L), &MainView::lockRequested);
+    auto *leave = new QShortcut(QKeySequence(Qt::Key_Escape), m_pane);
+    leave->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(leave, &QShortcut::activated, this, &MainView::leaveEditor);
+}
+
+void MainView::addShortcut(const QKeySequence &keys, void (MainView::*slot)())
+{
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, slot);
+}
+
+void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
+{
+    m_items.setSafe(safe);
+    m_sidebar->setSafeName(safe->name());
+    m_banner->setUnreadableFiles(unreadablePaths(*safe));
+    showCategory({});
+    onContentChanged();
+    m_list->setCurrent(m_list->firstId());
+    showCurrent();
+}
+
+void MainView::closeSafe()
+{
+    // A question about an item of the safe has lost its sense.
+    const QList<QDialog *> dialogs = window()->findChildren<QDialog *>();
+    for (QDialog *dialog : dialogs)
+        dialog->reject();
+    m_pane->showNothing();
+    m_items.setSafe(nullptr);
+    m_list->clearSearch();
+    m_sidebar->setSafeName({});
+    m_banner->setUnreadableFiles({});
+    onContentChanged();
+}
+
+void MainView::takeFocus()
+{
+    m_list->takeFocus();
+}
+
+bool MainView::mayLeave()
+{
+    return m_pane->mayLeave();
+}
+
+QByteArray MainView::splitterState() const
+{
+    return m_splitter->saveState();
+}
+
+void MainView::restoreSplitter(const QByteArray &state)
+{
+    m_splitter->restoreState(state);
+}
+
+void MainView::showCategory(const ItemCategory &category)
+{
+    m_sidebar->setCategory(category);
+    m_list->setCategory(category);
+    m_list->setCount(m_sidebar->count(category), m_items.rowCount() == 0);
+}
+
+void MainView::onCategoryChosen(const ItemCategory &category)
+{
+    if (!m_pane->mayLeave()) {
+        m_sidebar->setCategory(m_list->category());
+        return;
+    }
+    const QString id = m_list->currentId();
+    showCategory(category);
+    m_list->setCurrent(m_list->contains(id) ? id : m_list->firstId());
+    showCurrent();
+}
+
+void MainView::onCurrentChosen(const QString &id)
+{
+    if (m_pane->isEditing() && id == m_pane->editedId())
+        return;
+    if (!m_pane->mayLeave()) {
+        m_list->setCurrent(m_pane->editedId());
+        return;
+    }
+    m_list->setCurrent(id);
+    showCurrent();
+}
+
+void MainView::onSearched()
+{
+    // What is being edited stays; its row may well be hidden.
+    if (m_pane->isEditing())
+        return;
+    const QString id = m_pane->shownId();
+    m_list->setCurrent(m_list->contains(id) ? id : m_list->firstId());
+    showCurrent();
+}
+
+void MainView::onContentChanged()
+{
+    m_sidebar->setCounts(categoryCounts(m_items));
+    m_list->setCount(m_sidebar->count(m_list->category()), m_items.rowCount() == 0);
+    if (m_pane->isEditing())
+        return;
+    if (!m_list->contains(m_pane->shownId()))
+        showCurrent();
+}
+
+void MainView::showCurrent()
+{
+    const PMListItem *item = m_actions->item(m_list->currentId());
+    m_pane->showItem(item);
+}
+
+void MainView::onSaved(const QString &id)
+{
+    if (!m_list->contains(id)) {
+        m_list->clearSearch();
+        if (!m_list->contains(id))
+            showCategory({});
+    }
+    m_list->setCurrent(id);
+    m_list->focusList();
+}
+
+void MainView::remove(const QString &id)
+{
+    const bool editing = m_pane->isEditing() && id == m_pane->editedId();
+    if (!m_actions->remove(id))
+        return;
+    if (editing)
+        m_pane->drop();
+    showCurrent();
+}
+
+void MainView::createItem()
+{
+    if (m_pane->mayLeave())
+        m_pane->startNew(PMListItem::Login);
+}
+
+void MainView::editItem()
+{
+    m_pane->startEdit();
+}
+
+void MainView::saveItem()
+{
+    m_pane->save();
+}
+
+void MainView::leaveEditor()
+{
+    if (m_pane->isEditing() && m_pane->mayLeave()) {
+        showCurrent();
+        m_list->takeFocus();
+    }
+}
+
+void MainView::logIn()
+{
+    if (!m_pane->isEditing())
+        m_actions->runDefault(m_pane->shownId());
+}
+
+void MainView::copyUserName()
+{
+    m_actions->copyUserName(m_pane->shownId());
+}
+
+void MainView::copyPassword()
+{
+    m_actions->copyPassword(m_pane->shownId());
+}
+
+void MainView::focusSearch()
+{
+    m_list->focusSearch();
+}

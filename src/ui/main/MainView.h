@@ -1,0 +1,67 @@
+#pragma once
+
+#include "ItemCategory.h"
+#include "ItemListModel.h"
+#include "dialogs/Question.h"
+#include "lock/SecureContent.h"
+
+class Banner;
+class GPMAppCore;
+class ItemActions;
+class ItemListPane;
+class ItemPane;
+class QSplitter;
+class Sidebar;
+class Theme;
+
+/// An open safe: its categories, the items of one of them, and one item.
+class MainView : public SecureContent
+{
+    Q_OBJECT
+
+public:
+    /// @param asker puts questions to the user; the default one shows dialogs
+    MainView(GPMAppCore &core, const Theme &theme, Asker asker = {}, QWidget *parent = nullptr);
+
+    void openSafe(const std::shared_ptr<GPMSafe> &safe) override;
+    void closeSafe() override;
+    void takeFocus() override;
+    bool mayLeave() override;
+    QByteArray splitterState() const override;
+    void restoreSplitter(const QByteArray &state) override;
+
+Q_SIGNALS:
+    void lockRequested();
+
+private:
+    void layOut();
+    void connectParts();
+    void connectItemPane();
+    void addShortcuts();
+    void addShortcut(const QKeySequence &keys, void (MainView::*slot)());
+    void showCategory(const ItemCategory &category);
+    void onCategoryChosen(const ItemCategory &category);
+    void onCurrentChosen(const QString &id);
+    void onSearched();
+    void onContentChanged();
+    void onSaved(const QString &id);
+    void remove(const QString &id);
+    void showCurrent();
+    void createItem();
+    void editItem();
+    void saveItem();
+    void leaveEditor();
+    void logIn();
+    void copyUserName();
+    void copyPassword();
+    void focusSearch();
+
+    GPMAppCore &m_core;
+    ItemListModel m_items;
+    ItemActions *m_actions;
+    Banner *m_banner;
+    Sidebar *m_sidebar;
+    QSplitter *m_splitter;
+    ItemListPane *m_list;
+    ItemPane *m_pane;
+};

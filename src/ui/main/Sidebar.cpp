@@ -1,0 +1,103 @@
+#include "Sidebar.h"
+
+#include "CategoryDelegate.h"
+#include "CategoryModel.h"
+#include "ItemKinds.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/Controls.h"
+#include "widgets/ElidedLabel.h"
+
+#include <QBoxLayout>
+#include <QListView>
+#include <QScopedValueRollback>
+#include <QSvgWidget>
+
+namespace {
+
+const int sidebarWidth = 216;
+
+} // namespace
+
+Sidebar::Sidebar(const Theme &theme, QWidget *parent)
+    : QWidget(parent)
+    , m_model(new CategoryModel(this))
+    , m_list(new QListView(this))
+    , m_name(new ElidedLabel("heading", this))
+    , m_state(makeLabel({}, "muted", this))
+{
+    setObjectName(QStringLiteral("sidebar"));
+    setAttribute(Qt::WA_StyledBackground);
+    setFixedWidth(sidebarWidth);
+
+    auto *crystal = new QSvgWidget(QStringLiteral(":/crystal.svg"), this);
+    crystal->setFixedSize(34, 34);
+    auto *names = new QVBoxLayout;
+    names->setSpacing(1);
+    names->addWidget(m_name);
+    names->addWidget(m_state);
+    auto *head = new QHBoxLayout;
+    head->setContentsMargins(16, 16, 12, 12);
+    head->setSpacing(9);
+    head->addWidget(crystal);
+    head->addLayout(names, 1);
+
+    m_list->setObjectName(QStringLiteral("categoryList"));
+    m_list->setAccessibleName(tr("Categories"));
+    m_list->setModel(m_model);
+    m_list->setItemDelegate(new CategoryDelegate(theme, m_list));
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setMouseTracking(true);
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &Sidebar::onCurrentChanged);
+
+    auto *lock = makeIconButton(theme.icon(QStringLiteral("lock"), Palette::SidebarText),
+                                tr("Lock"), "tool", this);
+    lock->setObjectName(QStringLiteral("lockButton"));
+    lock->setToolTip(tr("Lock (Ctrl+L)"));
+    connect(lock, &QToolButton::clicked, this, &Sidebar::lockRequested);
+    auto *foot = new QHBoxLayout;
+    foot->setContentsMargins(14, 4, 14, 12);
+    foot->addWidget(lock);
+    foot->addStretch();
+
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins({});
+    all->setSpacing(0);
+    all->addLayout(head);
+    all->addWidget(m_list, 1);
+    all->addLayout(foot);
+}
+
+void Sidebar::setSafeName(const QString &name)
+{
+    m_name->setFullText(name);
+}
+
+void Sidebar::setCounts(const QVector<int> &counts)
+{
+    m_model->setCounts(counts);
+    m_state->setText(tr("%1 · unlocked").arg(itemCountText(count({}))));
+}
+
+int Sidebar::count(const ItemCategory &category) const
+{
+    return m_model->count(category);
+}
+
+void Sidebar::setCategory(const ItemCategory &category)
+{
+    const QScopedValueRollback<bool> marking(m_marking, true);
+    m_list->setCurrentIndex(m_model->index(m_model->row(category)));
+}
+
+void Sidebar::takeFocus()
+{
+    m_list->setFocus();
+}
+
+void Sidebar::onCurrentChanged(const QModelIndex &index)
+{
+    if (!m_marking && index.isValid())
+        Q_EMIT categoryChosen(m_model->category(index.row()));
+}

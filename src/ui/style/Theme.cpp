@@ -1,0 +1,57 @@
+#include "Theme.h"
+
+#include "Style.h"
+#include "SvgIcon.h"
+#include "SystemLook.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QStyleFactory>
+
+Theme::Theme(QObject *parent)
+    : QObject(parent)
+    , m_palette(&Palette::light())
+    , m_reducedMotion(SystemLook::wantsReducedMotion())
+{
+}
+
+void Theme::apply()
+{
+    Style::registerFonts();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    m_applied = true;
+    setDark(SystemLook::isDark());
+    qApp->setStyleSheet(Style::styleSheet(*m_palette));
+    qApp->installEventFilter(this);
+}
+
+QIcon Theme::icon(const QString &name, Palette::Role role) const
+{
+    return svgIcon(name, [this, role] { return m_palette->color(role); });
+}
+
+QIcon Theme::lockIcon(const QString &name, Palette::Role role) const
+{
+    return svgIcon(name, [role] { return Palette::dark().color(role); });
+}
+
+void Theme::setDark(bool dark)
+{
+    const Palette &palette = dark ? Palette::dark() : Palette::light();
+    if (m_palette == &palette)
+        return;
+    m_palette = &palette;
+    if (m_applied)
+        qApp->setStyleSheet(Style::styleSheet(palette));
+    Q_EMIT changed();
+}
+
+bool Theme::eventFilter(QObject *watched, QEvent *event)
+{
+    // Not every system tells of a change of its colours; the return to the program is the moment
+    // to look.
+    if (watched == qApp && (event->type() == QEvent::ApplicationPaletteChange ||
+                            event->type() == QEvent::ApplicationStateChange))
+        setDark(SystemLook::isDark());
+    return QObject::eventFilter(watched, event);
+}

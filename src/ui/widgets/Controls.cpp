@@ -1,0 +1,58 @@
+#include "Controls.h"
+
+#include "style/Style.h"
+
+#include <QStyle>
+#include <QVariant>
+
+QLabel *makeLabel(const QString &text, const char *tone, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setProperty("tone", QLatin1String(tone));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QPushButton *makeButton(const QString &text, const char *look, QWidget *parent)
+{
+    auto *button = new QPushButton(text, parent);
+    button->setProperty("look", QLatin1String(look));
+    button->setIconSize(QSize(Style::iconSize, Style::iconSize));
+    button->setCursor(Qt::PointingHandCursor);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QToolButton *makeIconButton(const QIcon &icon, const QString &name, const char *look,
+                            QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setProperty("look", QLatin1String(look));
+    button->setIcon(icon);
+    button->setIconSize(QSize(Style::iconSize, Style::iconSize));
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setCursor(Qt::PointingHandCursor);
+    const bool small = qstrcmp(look, "plain") == 0;
+    const int side = small ? 28 : Style::controlHeight;
+    button->setFixedSize(side, side);
+    return button;
+}
+
+QFrame *makeCard(QWidget *parent)
+{
+    auto *card = new QFrame(parent);
+    card->setObjectName(QStringLiteral("card"));
+    return card;
+}
+
+void setStyleProperty(QWidget &widget, const char *name, const QVariant &value)
+{
+    if (widget.property(name) == value)
+        return;
+    widget.setProperty(name, value);
+    widget.style()->unpolish(&widget);
+    widget.style()->polish(&widget);
+    widget.update();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+/// Small makers of the controls that the style sheet knows by their "tone" or "look".
+
+QLabel *makeLabel(const QString &text, const char *tone, QWidget *parent);
+QPushButton *makeButton(const QString &text, const char *look, QWidget *parent);
+
+/// A square button with an icon; the name is its tool tip and what assistive tools say.
+QToolButton *makeIconButton(const QIcon &icon, const QString &name, const char *look,
+                            QWidget *parent);
+
+/// A frame with round corners that groups rows.
+QFrame *makeCard(QWidget *parent);
+
+/// Changes a property that the style sheet asks for.
+void setStyleProperty(QWidget &widget, const char *name, const QVariant &value);
