@@ -390,10 +390,10 @@ void TestFormFillFlow::payloads()
     QSignalSpy used(m_flow.get(), &FormFillFlow::itemUsed);
     requestLogin();
     answer(reply(QStringLiteral("search")));
-    const QJsonValue search =
+    const QJsonValue asked =
         json(R"({"reason":"login","itemid":"item-1","timestamp":"1700000000000",
                       "url":"https://bank.example","openmode":"getLoginPageData"})");
-    QCOMPARE(m_client->frames.value(0).value(QLatin1String("payload")), search);
+    QCOMPARE(m_client->frames.value(0).value(QLatin1String("payload")), asked);
     QVERIFY(used.isEmpty());
     answer(reply(QStringLiteral("name")));
     const QJsonValue filled = json(R"({"reason":"login","formUid":"name","submit":true,

@@ -241,9 +241,10 @@ void TestGPMWebSocketServer::waitingOnesThatLeftAreSkipped()
     ExtensionClient third(m_server->port());
     QTRY_VERIFY(third.isOpen());
     second.close();
-    QTRY_VERIFY(!second.isOpen());
+    // The server has noticed that by the time it answers twice.
+    QVERIFY(!first.sayHello().isEmpty());
+    QVERIFY(!first.sayHello().isEmpty());
     first.close();
-    QTRY_VERIFY(!first.isOpen());
     QVERIFY(!third.sayHello().isEmpty());
 }
 
