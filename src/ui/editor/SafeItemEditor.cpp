@@ -10,6 +10,7 @@
 #include "widgets/PasswordField.h"
 #include "widgets/SelectBox.h"
 #include "widgets/StrengthMeter.h"
+#include "widgets/TextField.h"
 
 #include <QBoxLayout>
 #include <QDebug>
@@ -136,7 +137,7 @@ QWidget *SafeItemEditor::makeInput(const ItemField &field)
 
 QWidget *SafeItemEditor::makeLine(const ItemField &field)
 {
-    auto *line = new QLineEdit(m_draft.value(field.property).toString(), m_body);
+    auto *line = new TextField(m_draft.value(field.property).toString(), m_body);
     if (field.form == ItemField::Link)
         line->setPlaceholderText(QStringLiteral("https://"));
     connect(line, &QLineEdit::textChanged, this,

@@ -5,6 +5,7 @@
 #include "style/Theme.h"
 #include "widgets/Controls.h"
 #include "widgets/PasswordField.h"
+#include "widgets/TextField.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>
@@ -36,7 +37,7 @@ void CreateSafePage::makeFields(const Theme &theme)
     };
     m_password = secret();
     m_confirm = secret();
-    m_fields = {new QLineEdit(this), m_password, m_confirm, new QLineEdit(this)};
+    m_fields = {new TextField(this), m_password, m_confirm, new TextField(this)};
 
     struct Texts
     {
@@ -103,7 +104,7 @@ void CreateSafePage::layOut()
     frame->setLayout(column);
     auto *all = new QVBoxLayout(this);
     all->addStretch(3);
-    all->addWidget(frame, 0, Qt::AlignHCenter);
+    all->addLayout(centred(frame));
     all->addStretch(4);
     // The way on comes before the way back.
     setTabOrder(m_fields.back(), m_create);
@@ -123,16 +124,20 @@ void CreateSafePage::connectFields()
 
 void CreateSafePage::start()
 {
+    reset();
+    m_offer->setText(m_core.knownSafes().entries().isEmpty()
+                         ? tr("You have not Safe yet\nCreate one?")
+                         : tr("Create\nanother one?"));
+}
+
+void CreateSafePage::reset()
+{
     for (QLineEdit *field : m_fields)
         field->setText(QString());
     clearSecrets();
     m_failure->clear();
     m_reached = -1;
-    m_offer->setText(m_core.knownSafes().entries().isEmpty()
-                         ? tr("You have not Safe yet\nCreate one?")
-                         : tr("Create\nanother one?"));
     showMessages();
-    takeFocus();
 }
 
 void CreateSafePage::takeFocus()
@@ -173,7 +178,7 @@ void CreateSafePage::create()
     if (!CreateSafeRules::canCreate(entered))
         return;
     if (m_core.createSafe(entered.name, entered.password, entered.hint))
-        start();
+        reset();
     else
         m_failure->setText(tr("Create safe failed!"));
 }

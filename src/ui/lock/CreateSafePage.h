@@ -21,8 +21,9 @@ class CreateSafePage : public QWidget
 public:
     CreateSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent);
 
-    /// Starts anew with empty fields and the keyboard in the first.
+    /// Starts anew with empty fields.
     void start();
+    /// Puts the keyboard into the first field.
     void takeFocus();
     void clearSecrets();
 
@@ -33,6 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void reset();
     void makeFields(const Theme &theme);
     void layOut();
     void connectFields();

@@ -118,7 +118,7 @@ void MasterPasswordPage::layOut()
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(Style::margin, Style::margin, Style::margin, Style::margin);
     all->addStretch(3);
-    all->addWidget(frame, 0, Qt::AlignHCenter);
+    all->addLayout(centred(frame));
     all->addStretch(4);
     all->addWidget(m_create, 0, Qt::AlignRight);
 }
@@ -223,7 +223,7 @@ void MasterPasswordPage::showProgress(bool unlocking)
         m_subtitle->setText(tr("Unlocking: %1 of %2 items").arg(m_logic.itemsDone()).arg(total));
     else if (unlocking)
         m_subtitle->setText(tr("Unlocking…"));
-    if (unlocking && !hadFocus)
+    if (unlocking && !hadFocus && isVisible())
         m_unlock->setFocus();
 }
 

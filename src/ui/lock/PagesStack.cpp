@@ -31,7 +31,7 @@ void PagesStack::showUnlockPage()
 {
     m_createPage->clearSecrets();
     setCurrentWidget(m_unlockPage);
-    m_unlockPage->takeFocus();
+    takeFocus();
 }
 
 void PagesStack::showCreatePage()
@@ -39,10 +39,14 @@ void PagesStack::showCreatePage()
     m_unlockPage->clearSecrets();
     setCurrentWidget(m_createPage);
     m_createPage->start();
+    takeFocus();
 }
 
 void PagesStack::takeFocus()
 {
+    // Hidden, they would take the keyboard away from what is shown.
+    if (!isVisibleTo(window()))
+        return;
     if (currentWidget() == m_unlockPage)
         m_unlockPage->takeFocus();
     else

@@ -15,7 +15,7 @@
 namespace {
 
 const QSize usualSize(1080, 680);
-const QSize smallestSize(920, 600);
+const QSize smallestSize(972, 640);
 
 } // namespace
 
@@ -71,11 +71,17 @@ void SecureWindow::configureStateMachine()
 
 void SecureWindow::setOpenProgress(qreal progress)
 {
-    const bool wasClosed = m_pages->isVisibleTo(this);
     m_openProgress = progress;
     m_shutters->setProgress(progress);
-    const bool closed = progress <= 0;
-    m_content->setVisible(!closed);
+    showLayers();
+}
+
+void SecureWindow::showLayers()
+{
+    // The keyboard goes where it belongs at once, not when the shutters have arrived.
+    const bool closed = !m_open && m_openProgress <= 0;
+    const bool wasClosed = m_pages->isVisibleTo(this);
+    m_content->setVisible(m_open || m_openProgress > 0);
     m_pages->setVisible(closed);
     if (closed && !wasClosed)
         m_pages->takeFocus();
@@ -92,7 +98,7 @@ void SecureWindow::followSafe()
     m_pages->clearSecrets();
     if (open) {
         m_content->openSafe(safe);
-        m_content->show();
+        showLayers();
         m_content->takeFocus();
         Q_EMIT _requestOpenShuttersPrivate({});
     } else {

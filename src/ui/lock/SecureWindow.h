@@ -43,6 +43,7 @@ protected:
 private:
     void configureStateMachine();
     void followSafe();
+    void showLayers();
 
     GPMAppCore &m_core;
     const Theme &m_theme;

@@ -4,6 +4,7 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
+#include "widgets/ElidedLabel.h"
 
 #include <QBoxLayout>
 
@@ -19,10 +20,11 @@ CopyNotice::CopyNotice(ClipboardKeeper &clipboard, const Theme &theme, QWidget *
     : QWidget(parent)
     , m_clock(std::move(clock))
     , m_icon(new QLabel(this))
-    , m_text(makeLabel(tr("Value copied to clipboard"), "notice", this))
+    , m_text(new ElidedLabel("notice", this))
     , m_seconds(makeLabel({}, "label", this))
 {
     setObjectName(QStringLiteral("copyNotice"));
+    m_text->setFullText(tr("Value copied to clipboard"));
     m_text->setObjectName(QStringLiteral("copyNoticeText"));
     const QSize size(Style::iconSize, Style::iconSize);
     const auto showIcon = [this, &theme, size] {
@@ -41,7 +43,7 @@ CopyNotice::CopyNotice(ClipboardKeeper &clipboard, const Theme &theme, QWidget *
     row->setContentsMargins({});
     row->setSpacing(Style::spacing);
     row->addWidget(m_icon);
-    row->addLayout(texts);
+    row->addLayout(texts, 1);
     m_tick.setInterval(1000);
     connect(&m_tick, &QTimer::timeout, this, &CopyNotice::onTick);
     connect(&clipboard, &ClipboardKeeper::copied, this, &CopyNotice::onCopied);

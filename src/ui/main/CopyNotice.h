@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class ClipboardKeeper;
+class ElidedLabel;
 class QLabel;
 class Theme;
 
@@ -33,6 +34,6 @@ private:
     QDateTime m_until;              ///< the end of a notice without a deadline
     QTimer m_tick;
     QLabel *m_icon;
-    QLabel *m_text;
+    ElidedLabel *m_text;
     QLabel *m_seconds;
 };

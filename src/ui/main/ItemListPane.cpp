@@ -7,6 +7,7 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
+#include "widgets/TextField.h"
 
 #include <QActionGroup>
 #include <QBoxLayout>
@@ -40,7 +41,7 @@ ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *pa
 
 void ItemListPane::makeSearch()
 {
-    m_search = new QLineEdit(this);
+    m_search = new TextField(this);
     m_search->setObjectName(QStringLiteral("searchField"));
     m_search->setAccessibleName(tr("Search"));
     m_search->addAction(m_theme.icon(QStringLiteral("search"), Palette::Muted),

@@ -51,7 +51,7 @@ void ItemPage::makeHeader()
     connect(m_star, &QToolButton::clicked, this, &ItemPage::favoriteToggled);
     m_logIn = makeButton(tr("Log in"), "primary", this);
     m_logIn->setObjectName(QStringLiteral("logInButton"));
-    m_logIn->setIcon(m_theme.icon(QStringLiteral("login"), Palette::OnAccent));
+    m_logIn->setIcon(m_theme.icon(QStringLiteral("login-2"), Palette::OnAccent));
     m_logIn->setToolTip(tr("Log in (Ctrl+Return)"));
     connect(m_logIn, &QPushButton::clicked, this, &ItemPage::defaultActionRequested);
     m_times = makeLabel({}, "muted", this);
@@ -64,15 +64,14 @@ void ItemPage::layOut()
 {
     auto *names = new QVBoxLayout;
     names->setSpacing(2);
-    names->addStretch();
     names->addWidget(m_title);
     names->addWidget(m_subtitle);
-    names->addStretch();
     auto *header = new QHBoxLayout;
     header->setSpacing(Style::spacing);
     header->addWidget(m_tile);
     header->addSpacing(Style::spacing);
     header->addLayout(names, 1);
+    header->setAlignment(names, Qt::AlignVCenter);
     header->addWidget(m_star);
     header->addWidget(m_logIn);
 

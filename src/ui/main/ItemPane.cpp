@@ -236,9 +236,15 @@ void ItemPane::showButtons()
     const PMListItem *item = m_page->item();
     const bool trashed = item && item->deleted() && !editing;
     m_remove->setVisible(!currentId().isEmpty());
-    m_remove->setText(trashed ? tr("Delete forever") : tr("Remove"));
+    const QString remove = trashed ? tr("Delete forever") : tr("Remove");
+    m_remove->setAccessibleName(remove);
+    m_remove->setToolTip(remove);
+    // Beside the editor's buttons there is room for its icon alone.
+    m_remove->setText(editing ? QString() : remove);
+    setStyleProperty(*m_remove, "narrow", editing);
     m_restore->setVisible(trashed);
     m_edit->setVisible(!editing && canEdit());
     m_discard->setVisible(editing);
     m_save->setVisible(editing);
+    m_footer->setVisible(editing || item);
 }

@@ -18,8 +18,8 @@
 namespace {
 
 const int listWidth = 320;
-const int smallestListWidth = 250;
-const int smallestItemWidth = 430;
+const int smallestListWidth = 264;
+const int smallestItemWidth = 490;
 
 QStringList unreadablePaths(const GPMSafe &safe)
 {

@@ -47,6 +47,7 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
     m_list->setModel(m_model);
     m_list->setItemDelegate(new CategoryDelegate(theme, m_list));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &Sidebar::onCurrentChanged);

@@ -35,7 +35,10 @@ public:
     {
         if (mode == QIcon::Disabled)
             painter->setOpacity(painter->opacity() * 0.45);
-        paintSvg(*painter, rect, m_name, m_color());
+        QRect square = rect;
+        if (rect.width() > rect.height())
+            square.setWidth(rect.height());
+        paintSvg(*painter, square, m_name, m_color());
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override

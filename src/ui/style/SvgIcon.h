@@ -7,7 +7,7 @@
 #include <functional>
 
 /// One of the icons ":/icons/<name>.svg", drawn sharply at any size and in the colour that the
-/// function gives at the time of drawing. Disabled, it fades.
+/// function gives at the time of drawing. In a wide place it keeps to the left. Disabled, it fades.
 QIcon svgIcon(const QString &name, std::function<QColor()> color);
 
 /// The same as a picture of size x size device pixels.

@@ -12,9 +12,11 @@ QColor tileColor(const QString &title)
     // White is readable on each of them.
     static const std::array<QRgb, 9> colors = {0xc2491f, 0x2b66d0, 0x0f7d5a, 0x7447c6, 0xc0324a,
                                                0x946000, 0x3a505e, 0x0b7a96, 0x85582f};
-    const QByteArray bytes = title.toUtf8();
-    const quint16 sum = qChecksum(bytes.constData(), static_cast<uint>(bytes.size()));
-    return QColor(colors[sum % colors.size()]);
+    // A hash of our own: Qt's may change between versions, and the colours with it.
+    quint32 hash = 2166136261U;
+    for (const char byte : title.toUtf8())
+        hash = (hash ^ static_cast<uchar>(byte)) * 16777619U;
+    return QColor(colors[(hash >> 8) % colors.size()]);
 }
 
 QString tileLetter(const QString &title)

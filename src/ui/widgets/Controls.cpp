@@ -17,7 +17,8 @@ QPushButton *makeButton(const QString &text, const char *look, QWidget *parent)
 {
     auto *button = new QPushButton(text, parent);
     button->setProperty("look", QLatin1String(look));
-    button->setIconSize(QSize(Style::iconSize, Style::iconSize));
+    // Wider than the icon, which is drawn at its front: that is the space before the text.
+    button->setIconSize(QSize(Style::iconSize + 6, Style::iconSize));
     button->setCursor(Qt::PointingHandCursor);
     button->setAutoDefault(false);
     return button;
@@ -55,4 +56,13 @@ void setStyleProperty(QWidget &widget, const char *name, const QVariant &value)
     widget.style()->unpolish(&widget);
     widget.style()->polish(&widget);
     widget.update();
+}
+
+QHBoxLayout *centred(QWidget *widget)
+{
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(widget);
+    row->addStretch();
+    return row;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
@@ -16,6 +17,9 @@ QToolButton *makeIconButton(const QIcon &icon, const QString &name, const char *
 
 /// A frame with round corners that groups rows.
 QFrame *makeCard(QWidget *parent);
+
+/// A row that keeps a widget in its middle. Unlike an alignment it lets texts wrap in the widget.
+QHBoxLayout *centred(QWidget *widget);
 
 /// Changes a property that the style sheet asks for.
 void setStyleProperty(QWidget &widget, const char *name, const QVariant &value);

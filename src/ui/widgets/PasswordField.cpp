@@ -3,7 +3,7 @@
 #include <QAction>
 
 PasswordField::PasswordField(const QIcon &show, const QIcon &hide, QWidget *parent)
-    : QLineEdit(parent)
+    : TextField(parent)
     , m_show(show)
     , m_hide(hide)
     , m_reveal(addAction(show, TrailingPosition))

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "TextField.h"
+
 #include <QIcon>
-#include <QLineEdit>
 
 /// A field for a secret: dots that an eye, or Ctrl+R, turns into text. Keeps no history of what was
 /// typed.
-class PasswordField : public QLineEdit
+class PasswordField : public TextField
 {
     Q_OBJECT
 
