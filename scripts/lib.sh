@@ -10,7 +10,7 @@ build_packages=(
   libssl-dev libquazip1-qt5-dev libzxcvbn-dev libpsl-dev libx11-dev
 )
 display_packages=(xvfb)
-browser_packages=(chromium xvfb openbox xdotool maim x11-utils procps)
+browser_packages=(chromium xvfb openbox trayer xdotool maim)
 
 # install_packages NAME...: installs those that are missing, and says so.
 install_packages() {

@@ -1,0 +1,111 @@
+import { execFile, spawn } from 'node:child_process';
+import { once } from 'node:events';
+import { existsSync, readdirSync, readFileSync } from 'node:fs';
+import { mkdir, mkdtemp, rm } from 'node:fs/promises';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
+import { setTimeout } from 'node:timers/promises';
+import { fileURLToPath } from 'node:url';
+import { promisify } from 'node:util';
+
+const run = promisify(execFile);
+const root = fileURLToPath(new URL('../..', import.meta.url));
+const TRAY_SIZE = ['--widthtype', 'pixel', '--width', '120', '--heighttype', 'pixel', '--height', '28'];
+const NAME = 'Glaceron Password Manager';
+
+/** A screen of its own with a window manager and a tray, for a program and a browser. */
+export async function startDesktop() {
+  const xvfb = spawn('Xvfb', ['-displayfd', '3', '-screen', '0', '1366x900x24', '-nolisten', 'tcp'], {
+    stdio: ['ignore', 'ignore', 'ignore', 'pipe'],
+  });
+  const [number] = await once(xvfb.stdio[3], 'data');
+  const env = { ...process.env, DISPLAY: `:${String(number).trim()}` };
+  delete env.WAYLAND_DISPLAY;
+  const start = (command, ...args) => spawn(command, args, { env, stdio: 'ignore' });
+  const helpers = [start('openbox'), start('trayer', '--edge', 'top', '--align', 'left', ...TRAY_SIZE)];
+
+  return {
+    env,
+    /** Presses keys, one combination after the other, in the window that has the keyboard. */
+    press: (...keys) => run('xdotool', ['key', '--clearmodifiers', '--delay', '30', ...keys], { env }),
+    type: (text) => run('xdotool', ['type', '--clearmodifiers', '--delay', '15', '--', text], { env }),
+    click: (x, y, button = 1) => run('xdotool', ['mousemove', '--sync', x, y, 'click', button], { env }),
+    /** Waits for a visible window with the title and gives it the keyboard. */
+    async activate(title) {
+      const { stdout } = await run('xdotool', ['search', '--sync', '--onlyvisible', '--name', title], { env });
+      const id = stdout.trim().split('\n').pop();
+      await run('xdotool', ['windowactivate', '--sync', id], { env });
+      return id;
+    },
+    async isVisible(title) {
+      const found = run('xdotool', ['search', '--onlyvisible', '--name', title], { env });
+      return found.then(() => true, () => false);
+    },
+    /** A picture of a window, or of the whole screen. */
+    picture: (path, window) => run('maim', [...(window ? ['-i', window] : []), path], { env }),
+    stop() {
+      for (const helper of [...helpers, xvfb]) helper.kill();
+    },
+  };
+}
+
+/** The program on a desktop, with a home of its own. */
+export async function startDesktopProgram(desktop, { home, binary = 'build/dev/src/glaceron' } = {}) {
+  const ownHome = home ?? (await mkdtemp(join(tmpdir(), 'glaceron-home-')));
+  const data = join(ownHome, '.local/share/Glaceron', NAME);
+  const env = { ...desktop.env, HOME: ownHome, LC_ALL: 'C.UTF-8' };
+  for (const key of ['XDG_CONFIG_HOME', 'XDG_DATA_HOME', 'DBUS_SESSION_BUS_ADDRESS']) delete env[key];
+  env.XDG_RUNTIME_DIR = join(ownHome, '.run');
+  await mkdir(env.XDG_RUNTIME_DIR, { recursive: true, mode: 0o700 });
+  let child;
+
+  function start(...args) {
+    child = spawn(join(root, binary), args, { env, stdio: ['ignore', 'inherit', 'inherit'] });
+    return child;
+  }
+
+  /** Ends the running program by the signal, if it has not ended by itself. */
+  async function stop(signal = 'SIGTERM') {
+    if (child.exitCode !== null || child.signalCode !== null) return;
+    child.kill(signal);
+    await once(child, 'exit');
+  }
+
+  /** Another start of the program beside the running one: its exit code. */
+  async function startAgain() {
+    const second = spawn(join(root, binary), [], { env, stdio: 'inherit' });
+    const [code] = await once(second, 'exit');
+    return code;
+  }
+
+  return {
+    home: ownHome,
+    start,
+    stop,
+    startAgain,
+    ended: () => once(child, 'exit'),
+    /** The folders of the safes. */
+    safes: () => (existsSync(join(data, 'safes')) ? readdirSync(join(data, 'safes')).map((id) => join(data, 'safes', id)) : []),
+    /** The files of the items of all safes. */
+    items() {
+      return this.safes().flatMap((safe) => readdirSync(join(safe, 'content')).map((id) => join(safe, 'content', id)));
+    },
+    /** What the program has written to its log. */
+    log() {
+      const folder = join(ownHome, `.${NAME}`, 'log');
+      if (!existsSync(folder)) return '';
+      return readdirSync(folder).map((file) => readFileSync(join(folder, file), 'utf8')).join('');
+    },
+    /** Waits until the condition holds; looks again twenty times a second, for twenty seconds. */
+    async until(condition, what = condition) {
+      const end = Date.now() + 20000;
+      while (!(await condition())) {
+        if (Date.now() > end) throw new Error(`Waited in vain: ${what}`);
+        await setTimeout(50);
+      }
+    },
+    async remove() {
+      if (!home) await rm(ownHome, { recursive: true, force: true, maxRetries: 10, retryDelay: 200 });
+    },
+  };
+}
