@@ -108,6 +108,8 @@ void CreateSafePage::layOut()
     all->addStretch(4);
     for (std::size_t i = 1; i < m_fields.size(); ++i)
         setTabOrder(m_fields[i - 1], m_fields[i]);
+    for (std::size_t i = 1; i < m_fields.size(); ++i)
+        setTabOrder(m_fields[i - 1], m_fields[i]);
     // The way on comes before the way back.
     setTabOrder(m_fields.back(), m_create);
     setTabOrder(m_create, m_back);

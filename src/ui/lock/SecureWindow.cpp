@@ -10,6 +10,7 @@
 #include <QCloseEvent>
 #include <QDebug>
 #include <QElapsedTimer>
+#include <QGraphicsOpacityEffect>
 #include <QPropertyAnimation>
 
 namespace {
@@ -25,12 +26,14 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     , m_content(content)
     , m_shutters(new Shutters(theme, this))
     , m_pages(new PagesStack(core, theme, this))
+    , m_fade(new QGraphicsOpacityEffect(this))
 {
     setObjectName(QStringLiteral("SecureWindow"));
-    setWindowTitle(QStringLiteral("Glaceron Password Manager"));
     setWindowIcon(QIcon(QStringLiteral(":/trayicon.png")));
     setMinimumSize(smallestSize);
     resize(usualSize);
+    showTitle();
+    m_pages->setGraphicsEffect(m_fade);
     m_content->setParent(this);
     m_content->lower();
     m_pages->raise();
@@ -79,12 +82,17 @@ void SecureWindow::setOpenProgress(qreal progress)
 void SecureWindow::showLayers()
 {
     // The keyboard goes where it belongs at once, not when the shutters have arrived.
-    const bool closed = !m_open && m_openProgress <= 0;
-    const bool wasClosed = m_pages->isVisibleTo(this);
     m_content->setVisible(m_open || m_openProgress > 0);
-    m_pages->setVisible(closed);
-    if (closed && !wasClosed)
-        m_pages->takeFocus();
+    m_pages->setVisible(!m_open);
+    m_fade->setEnabled(m_openProgress > 0);
+    // They come up when the gap is nearly closed; the keyboard reaches them before.
+    m_fade->setOpacity(qMax(0.0, 1 - 4 * m_openProgress));
+}
+
+void SecureWindow::showTitle()
+{
+    const QString program = QStringLiteral("Glaceron Password Manager");
+    setWindowTitle(m_open ? tr("%1 - %2").arg(m_core.currentSafe()->name(), program) : program);
 }
 
 void SecureWindow::followSafe()
@@ -94,6 +102,7 @@ void SecureWindow::followSafe()
     if (open == m_open)
         return;
     m_open = open;
+    showTitle();
     m_content->setEnabled(open);
     m_pages->clearSecrets();
     if (open) {
@@ -103,6 +112,7 @@ void SecureWindow::followSafe()
         Q_EMIT _requestOpenShuttersPrivate({});
     } else {
         m_content->closeSafe();
+        showLayers();
         m_pages->showUnlockPage();
         Q_EMIT _requestCloseShuttersPrivate({});
     }

@@ -5,6 +5,7 @@
 
 class GPMAppCore;
 class PagesStack;
+class QGraphicsOpacityEffect;
 class SecureContent;
 class Shutters;
 class Theme;
@@ -44,12 +45,14 @@ private:
     void configureStateMachine();
     void followSafe();
     void showLayers();
+    void showTitle();
 
     GPMAppCore &m_core;
     const Theme &m_theme;
     SecureContent *m_content;
     Shutters *m_shutters;
     PagesStack *m_pages;
+    QGraphicsOpacityEffect *m_fade;
     QStateMachine m_machine;
     qreal m_openProgress = 0;
     bool m_open = false;

@@ -128,6 +128,7 @@ void MainView::addShortcut(const QKeySequence &keys, void (MainView::*slot)())
 
 void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
 {
+    m_splitter->show();
     m_items.setSafe(safe);
     m_sidebar->setSafeName(safe->name());
     m_banner->setUnreadableFiles(unreadablePaths(*safe));
@@ -143,6 +144,7 @@ void MainView::closeSafe()
     const QList<QDialog *> dialogs = window()->findChildren<QDialog *>();
     for (QDialog *dialog : dialogs)
         dialog->reject();
+    m_splitter->hide();
     m_pane->showNothing();
     m_items.setSafe(nullptr);
     m_list->clearSearch();
