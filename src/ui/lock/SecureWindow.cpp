@@ -42,6 +42,7 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     connect(m_pages, &PagesStack::dismissed, this, &QWidget::close);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
+    followSafe();
 }
 
 void SecureWindow::configureStateMachine()

@@ -27,6 +27,10 @@ ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *pa
     setObjectName(QStringLiteral("listPane"));
     setAttribute(Qt::WA_StyledBackground);
     m_filter->setSourceModel(&items);
+    // Before the list connects: it moves on from a row that goes, which is not the user's doing.
+    connect(m_filter, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this] { m_rowsGoing = true; });
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, [this] { m_rowsGoing = false; });
     makeSearch();
     makeList();
     makeSortMenu();
@@ -77,7 +81,7 @@ void ItemListPane::makeList()
     m_list->installEventFilter(this);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &current) {
-                if (!m_marking && current.isValid())
+                if (!m_marking && !m_rowsGoing && current.isValid())
                     Q_EMIT currentChosen(current.data(ItemListModel::IdRole).toString());
             });
     connect(m_list, &QListView::doubleClicked, this, [this](const QModelIndex &index) {

@@ -81,5 +81,6 @@ private:
     EmptyState *m_empty;
     int m_inCategory = 0;
     bool m_safeIsEmpty = true;
-    bool m_marking = false;
+    bool m_marking = false;   ///< the current row is being set by setCurrent()
+    bool m_rowsGoing = false; ///< rows are being removed
 };

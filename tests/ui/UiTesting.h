@@ -1,0 +1,78 @@
+#pragma once
+
+#include "GPMAppCore.h"
+#include "PMFieldTypes.h"
+#include "PMLogin.h"
+#include "dialogs/Question.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <QtTest>
+
+const QString testPassword = QStringLiteral("master password 1");
+
+/// A core whose files lie in a folder of its own.
+struct TestCore
+{
+    TestCore()
+        : core(places(folder.path()))
+    {
+        PMFieldTypes::registerMetaTypes();
+        qRegisterMetaType<SafeUnlock::Outcome>("SafeUnlock::Outcome");
+    }
+
+    static GPMAppCore::Places places(const QString &folder)
+    {
+        GPMAppCore::Places places;
+        places.configFolder = folder + QStringLiteral("/config");
+        places.dataFolder = folder + QStringLiteral("/data");
+        places.hiddenFolder = folder + QStringLiteral("/hidden");
+        return places;
+    }
+
+    bool createSafe(const QString &name = QStringLiteral("Personal"))
+    {
+        return core.createSafe(name, testPassword, QStringLiteral("the usual"));
+    }
+
+    QString addLogin(const QString &title, const QString &userName = QStringLiteral("ana"))
+    {
+        auto login = std::make_unique<PMLogin>();
+        login->setTitle(title);
+        login->setLogin(userName);
+        login->setSecondaryText(userName);
+        login->setPassword(QStringLiteral("secret of ") + title);
+        login->setUrl(QStringLiteral("https://shop.example/login"));
+        return core.modelAddItem(std::move(login))->id();
+    }
+
+    PMLogin *login(const QString &id)
+    {
+        return qobject_cast<PMLogin *>(core.currentSafe()->item(id));
+    }
+
+    QTemporaryDir folder;
+    GPMAppCore core;
+};
+
+/// Answers questions with what was prepared and keeps them.
+struct TestAsker
+{
+    int answer = 0;
+    QVector<Question> asked;
+
+    Asker asker()
+    {
+        return [this](const Question &question) {
+            asked.append(question);
+            return answer;
+        };
+    }
+};
+
+template <typename Widget>
+Widget *find(const QWidget &parent, const char *name)
+{
+    return parent.findChild<Widget *>(QLatin1String(name));
+}

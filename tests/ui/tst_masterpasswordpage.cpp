@@ -1,0 +1,164 @@
+#include "UiTesting.h"
+#include "lock/MasterPasswordPage.h"
+#include "lock/UnlockLogic.h"
+#include "style/Theme.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+class TestMasterPasswordPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noSafeYet();
+    void nothingChosen();
+    void wrongPasswordThenRight();
+    void missingFolderIsUnavailable();
+    void lastUsedSafeComesFirst();
+    void cancelledUnlockLeavesItLocked();
+};
+
+namespace {
+
+struct Page
+{
+    explicit Page(TestCore &test)
+        : logic(test.core)
+        , page(logic, test.core.platform(), theme, nullptr)
+    {
+        page.show();
+        page.activateWindow();
+    }
+
+    QString message() const { return find<QLabel>(page, "unlockMessage")->text(); }
+    QLineEdit *password() const { return find<QLineEdit>(page, "masterPassword"); }
+    QPushButton *unlock() const { return find<QPushButton>(page, "unlockButton"); }
+
+    Theme theme;
+    UnlockLogic logic;
+    MasterPasswordPage page;
+};
+
+using State = UnlockLogic::State;
+
+} // namespace
+
+void TestMasterPasswordPage::noSafeYet()
+{
+    TestCore test;
+    Page page(test);
+    QCOMPARE(page.logic.state(), State::NoSafes);
+    QCOMPARE(find<QLabel>(page.page, "unlockSubtitle")->text(),
+             QStringLiteral("You have not Safe yet\nCreate one?"));
+    QSignalSpy wanted(&page.page, &MasterPasswordPage::createRequested);
+    page.page.takeFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&page.page));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QCOMPARE(wanted.count(), 1);
+}
+
+void TestMasterPasswordPage::nothingChosen()
+{
+    TestCore first;
+    QVERIFY(first.createSafe());
+    first.core.lockCurrentSafe();
+    GPMAppCore core(TestCore::places(first.folder.path()));
+    UnlockLogic logic(core);
+    QCOMPARE(logic.state(), State::NoneChosen);
+    logic.unlock(testPassword);
+    QCOMPARE(logic.message(), QStringLiteral("No any safe is selected"));
+    QCOMPARE(logic.state(), State::NoneChosen);
+}
+
+void TestMasterPasswordPage::wrongPasswordThenRight()
+{
+    TestCore test;
+    QVERIFY(test.createSafe());
+    test.core.lockCurrentSafe();
+    Page page(test);
+    page.logic.chooseFirst({});
+    QCOMPARE(find<QLabel>(page.page, "safeHint")->text(), QStringLiteral("Hint: the usual"));
+    QVERIFY(QTest::qWaitForWindowActive(&page.page));
+    page.page.takeFocus();
+
+    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+    QTest::keyClicks(page.password(), QStringLiteral("Master password 1"));
+    QTest::keyClick(page.password(), Qt::Key_Return);
+    QCOMPARE(page.logic.state(), State::Unlocking);
+    QCOMPARE(page.password()->text(), QString());
+    QVERIFY(finished.wait());
+    QCOMPARE(page.message(), QStringLiteral("Wrong Password! Try again"));
+    QCOMPARE(QApplication::focusWidget(), page.password());
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
+
+    QTest::keyClicks(page.password(), testPassword);
+    QTest::keyClick(page.password(), Qt::Key_Return);
+    QCOMPARE(page.message(), QString());
+    QVERIFY(finished.wait());
+    QVERIFY(test.core.currentSafe()->isUnlocked());
+    QCOMPARE(page.message(), QString());
+}
+
+void TestMasterPasswordPage::missingFolderIsUnavailable()
+{
+    TestCore test;
+    QVERIFY(test.createSafe(QStringLiteral("Gone")));
+    const QString gone = test.core.currentSafe()->folder();
+    QVERIFY(test.createSafe(QStringLiteral("Here")));
+    const QString here = test.core.currentSafe()->folder();
+    test.core.lockCurrentSafe();
+    QVERIFY(QDir(gone).removeRecursively());
+
+    Page page(test);
+    page.logic.chooseFirst(gone);
+    QCOMPARE(page.logic.chosenFolder(), here);
+    const auto *selector = find<QComboBox>(page.page, "safeSelector");
+    QVERIFY(selector->itemText(selector->findData(gone)).endsWith(QLatin1String("(unavailable)")));
+
+    page.logic.choose(gone);
+    QCOMPARE(page.logic.state(), State::Unavailable);
+    QVERIFY(page.message().contains(QDir::toNativeSeparators(gone)));
+    QVERIFY(!page.password()->isEnabled());
+    page.logic.choose(here);
+    QCOMPARE(page.logic.state(), State::Ready);
+    QCOMPARE(page.message(), QString());
+}
+
+void TestMasterPasswordPage::lastUsedSafeComesFirst()
+{
+    TestCore test;
+    QVERIFY(test.createSafe(QStringLiteral("Old")));
+    const QString old = test.core.currentSafe()->folder();
+    QVERIFY(test.createSafe(QStringLiteral("New")));
+    test.core.lockCurrentSafe();
+    UnlockLogic logic(test.core);
+    logic.chooseFirst(old);
+    QCOMPARE(logic.chosenFolder(), old);
+    QCOMPARE(test.core.currentSafe()->name(), QStringLiteral("Old"));
+}
+
+void TestMasterPasswordPage::cancelledUnlockLeavesItLocked()
+{
+    TestCore test;
+    QVERIFY(test.createSafe());
+    for (int i = 0; i < 30; ++i)
+        test.addLogin(QString::number(i));
+    test.core.lockCurrentSafe();
+    Page page(test);
+    page.logic.chooseFirst({});
+    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+    page.logic.unlock(testPassword);
+    QTest::keyClick(&page.page, Qt::Key_Escape);
+    QVERIFY(finished.wait());
+    QCOMPARE(finished.first().first().value<SafeUnlock::Outcome>(), SafeUnlock::Outcome::Cancelled);
+    QCOMPARE(page.logic.state(), State::Ready);
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
+    QVERIFY(page.password()->isEnabled());
+}
+
+QTEST_MAIN(TestMasterPasswordPage)
+#include "tst_masterpasswordpage.moc"

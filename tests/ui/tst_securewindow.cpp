@@ -1,0 +1,143 @@
+#include "UiTesting.h"
+#include "lock/PagesStack.h"
+#include "lock/SecureWindow.h"
+#include "main/MainView.h"
+#include "style/Theme.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+class TestSecureWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void createsASafeByKeyboard();
+    void shuttersFollowTheSafe();
+    void withoutMotionTheyAreThereAtOnce();
+    void typedKeysReachThePasswordWhileShuttersClose();
+    void closingHides();
+};
+
+namespace {
+
+struct Window
+{
+    explicit Window(TestCore &test, bool motion = true)
+        : theme(makeTheme(motion))
+        , window(test.core, *theme, new MainView(test.core, *theme))
+    {
+        window.pages().showFirstPage();
+        window.show();
+        window.activateWindow();
+    }
+
+    static std::unique_ptr<Theme> makeTheme(bool motion)
+    {
+        auto theme = std::make_unique<Theme>();
+        theme->setReducedMotion(!motion);
+        return theme;
+    }
+
+    std::unique_ptr<Theme> theme;
+    SecureWindow window;
+};
+
+void type(const QString &text)
+{
+    QTest::keyClicks(QApplication::focusWidget(), text);
+}
+
+void press(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+} // namespace
+
+void TestSecureWindow::createsASafeByKeyboard()
+{
+    TestCore test;
+    Window shown(test);
+    QVERIFY(QTest::qWaitForWindowActive(&shown.window));
+    const QWidget &window = shown.window;
+    type(QStringLiteral("Work"));
+    press(Qt::Key_Tab);
+    type(QStringLiteral("abc"));
+    press(Qt::Key_Tab);
+    type(QStringLiteral("abc"));
+    QCOMPARE(find<QLabel>(window, "newSafeHintMessage")->text(),
+             QStringLiteral("Hint can not be empty"));
+    QVERIFY(!find<QPushButton>(window, "createButton")->isEnabled());
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    QVERIFY(!test.core.currentSafe());
+    type(QStringLiteral("the alphabet"));
+    press(Qt::Key_Return);
+
+    QVERIFY(test.core.currentSafe() && test.core.currentSafe()->isUnlocked());
+    QCOMPARE(test.core.currentSafe()->hint(), QStringLiteral("the alphabet"));
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("addFirstLoginButton"));
+    for (const char *field : {"newSafePassword", "newSafeConfirm"})
+        QCOMPARE(find<QLineEdit>(window, field)->text(), QString());
+}
+
+void TestSecureWindow::shuttersFollowTheSafe()
+{
+    TestCore test;
+    Window shown(test);
+    SecureWindow &window = shown.window;
+    QCOMPARE(window.openProgress(), 0.0);
+    QVERIFY(!window.content().isVisible());
+
+    QVERIFY(test.createSafe(QStringLiteral("Work")));
+    QTRY_COMPARE(window.openProgress(), 1.0);
+    QVERIFY(window.content().isVisible() && !window.pages().isVisible());
+    QCOMPARE(window.windowTitle(), QStringLiteral("Work - Glaceron Password Manager"));
+
+    test.core.lockCurrentSafe();
+    QVERIFY(!window.content().isEnabled());
+    QTRY_COMPARE(window.openProgress(), 0.0);
+    QVERIFY(!window.content().isVisible() && window.pages().isVisible());
+    QCOMPARE(window.windowTitle(), QStringLiteral("Glaceron Password Manager"));
+}
+
+void TestSecureWindow::withoutMotionTheyAreThereAtOnce()
+{
+    TestCore test;
+    Window shown(test, false);
+    QCoreApplication::processEvents();
+    QVERIFY(test.createSafe());
+    QCoreApplication::processEvents();
+    QCOMPARE(shown.window.openProgress(), 1.0);
+}
+
+void TestSecureWindow::typedKeysReachThePasswordWhileShuttersClose()
+{
+    TestCore test;
+    QVERIFY(test.createSafe());
+    Window shown(test);
+    SecureWindow &window = shown.window;
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTRY_COMPARE(window.openProgress(), 1.0);
+    window.lockByUser();
+    QCOMPARE(window.openProgress(), 1.0);
+    type(QStringLiteral("quick"));
+    QCOMPARE(find<QLineEdit>(window, "masterPassword")->text(), QStringLiteral("quick"));
+    QTRY_COMPARE(window.openProgress(), 0.0);
+    QCOMPARE(find<QLineEdit>(window, "masterPassword")->text(), QStringLiteral("quick"));
+}
+
+void TestSecureWindow::closingHides()
+{
+    TestCore test;
+    Window shown(test);
+    QSignalSpy hidden(&shown.window, &SecureWindow::hidden);
+    find<QPushButton>(shown.window, "notNowButton")->click();
+    QVERIFY(!shown.window.isVisible());
+    QCOMPARE(hidden.count(), 1);
+}
+
+QTEST_MAIN(TestSecureWindow)
+#include "tst_securewindow.moc"
