@@ -271,9 +271,9 @@ GPMWebSocketServer::parsePluginReplay(const QString &callerId, const QJsonObject
 
 QString GPMWebSocketServer::targetCaller(const QString &callerId) const
 {
-    if (m_sockets.isEmpty() || m_sockets.contains(callerId))
-        return m_sockets.isEmpty() ? QString() : callerId;
-    return m_sockets.firstKey();
+    if (m_stages.value(callerId) == SaidHello)
+        return callerId;
+    return m_stages.key(SaidHello);
 }
 
 void GPMWebSocketServer::sendDocumentRequest(const QString &callerId, const QJsonObject &payload)

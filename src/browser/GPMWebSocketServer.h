@@ -41,15 +41,15 @@ public:
     /// The port that is listened on; 0 when there is none.
     quint16 port() const;
 
-    /// Whether an extension is being served.
-    bool hasConnections() const { return !m_sockets.isEmpty(); }
+    /// Whether an extension that has said hello is being served.
+    bool hasConnections() const { return !targetCaller({}).isEmpty(); }
 
     /// Version and browser build of the extension that said hello last; empty when it has left.
     QString extensionVersion() const { return m_extensionVersion; }
     QString extensionBundleId() const { return m_extensionBundleId; }
 
     /// The caller id that a command for `callerId` reaches: itself when it is connected, else the
-    /// first one. Empty when no extension is connected.
+    /// first one. Empty when none is that has said hello: what has not is no extension yet.
     QString targetCaller(const QString &callerId) const;
 
     /// Commands to the extension at targetCaller(). Lost, with a line in the log, when there is

@@ -125,7 +125,12 @@ void TestGPMWebSocketServer::heardOnlyAfterHello()
     QTRY_VERIFY(client.isOpen());
     client.sendFrame(QStringLiteral("saveLogin"));
     client.sendFrame(QStringLiteral("pressEnterKey"));
+    // Nor is it told anything: who has not said hello may be anybody.
+    QVERIFY(!m_server->hasConnections());
+    m_server->sendFillCommand(QString(), {{QStringLiteral("secret"), 1}});
     QVERIFY(!client.sayHello().isEmpty());
+    QVERIFY(client.frames.isEmpty());
+    QVERIFY(m_server->hasConnections());
     QVERIFY(raw.isEmpty());
     QVERIFY(save.isEmpty());
     QCOMPARE(m_platform.enterPresses, 0);
@@ -175,6 +180,8 @@ void TestGPMWebSocketServer::origins()
     ExtensionClient client(m_server->port(), origin);
     QTRY_VERIFY(client.isOpen() || client.state() == QAbstractSocket::UnconnectedState);
     QCOMPARE(client.isOpen(), allowed);
+    if (allowed)
+        QVERIFY(!client.sayHello().isEmpty());
     QCOMPARE(m_server->hasConnections(), allowed);
 }
 
