@@ -4,6 +4,7 @@
 import { mkdtemp } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
+import { setTimeout } from 'node:timers/promises';
 import { buildExtension, launchChromium } from './browser.mjs';
 import { startDesktop, startDesktopProgram } from './desktop.mjs';
 import { startSite } from './site.mjs';
@@ -29,6 +30,12 @@ const PAGE = `<!doctype html><title>Sign in</title>
     };
   </script>`;
 
+/** Fails after half a minute. */
+async function overdue() {
+  await setTimeout(30000, undefined, { ref: false });
+  throw new Error('The page received nothing within half a minute.');
+}
+
 const say = (text) => console.log(text);
 const pictures = await mkdtemp(join(tmpdir(), 'glaceron-demo-'));
 const picture = (name) => join(pictures, `${name}.png`);
@@ -51,9 +58,9 @@ try {
   say('Locked it and unlocked it again.');
 
   chromium = await launchChromium({ extensionDir: buildExtension(), hosts: ['mail.cloudmail.example'] });
-  await user.connected();
+  await chromium.connected();
   await user.logIn(LOGIN.title);
-  const { fields } = await site.nextPost();
+  const { fields } = await Promise.race([site.nextPost(), overdue()]);
   if (fields.username !== LOGIN.userName || fields.password !== LOGIN.password) throw new Error('The page received other values.');
   const page = (await chromium.browser.pages()).find((each) => each.url().includes('cloudmail'));
   await page.waitForFunction(() => document.querySelector('output').textContent !== '');

@@ -41,8 +41,18 @@ export async function startDesktop() {
       const found = run('xdotool', ['search', '--onlyvisible', '--name', title], { env });
       return found.then(() => true, () => false);
     },
-    /** A picture of a window, or of the whole screen. */
-    picture: (path, window) => run('maim', [...(window ? ['-i', window] : []), path], { env }),
+    /** A picture of a window, or of the whole screen, once nothing moves in it. */
+    async picture(path, window) {
+      const take = async () => {
+        await run('maim', [...(window ? ['-i', window] : []), path], { env });
+        return readFileSync(path);
+      };
+      for (let before = await take(), tries = 0; tries < 30; tries += 1) {
+        const now = await take();
+        if (now.equals(before)) return;
+        before = now;
+      }
+    },
     stop() {
       for (const helper of [...helpers, xvfb]) helper.kill();
     },

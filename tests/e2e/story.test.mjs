@@ -111,7 +111,7 @@ test('a wrong password says so and loses nothing, the right one opens', limit, a
 
 for (const path of ['plain', 'react', 'frame', 'formless']) {
   test(`a login is filled and sent: ${path}`, limit, async () => {
-    await user.connected();
+    await chromium.connected();
     await user.logIn(path);
     assert.deepEqual(await site.nextPost(), { path: '/done', fields: { user: `ana-${path}@example.org`, pw: SECRET } });
   });
@@ -151,7 +151,7 @@ test('after a kill and a restart the extension finds the program again', limit, 
   await program.stop('SIGKILL');
   program.start();
   await user.unlock(PASSWORD);
-  await user.connected();
+  await chromium.connected();
   await user.logIn('plain');
   assert.deepEqual(await site.nextPost(), { path: '/done', fields: { user: 'ana-plain@example.org', pw: SECRET } });
 });

@@ -1,8 +1,4 @@
-import { readFileSync } from 'node:fs';
-
 const LOCKED = '^Glaceron Password Manager$';
-const LISTENING = '0100007F:1EDB';
-const ESTABLISHED = '01';
 
 /** What a person does with the program, by key strokes in its window. */
 export function makeUser(desktop, program) {
@@ -65,11 +61,5 @@ export function makeUser(desktop, program) {
       await type(title);
       await press('Down', 'Return');
     },
-
-    /** Waits until a browser's extension is connected. */
-    connected: () => program.until(() => readFileSync('/proc/net/tcp', 'utf8').split('\n').some((line) => {
-      const [, local, , state] = line.trim().split(/\s+/);
-      return local === LISTENING && state === ESTABLISHED;
-    }), 'a connection of the extension'),
   };
 }
