@@ -57,6 +57,8 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
 Asker dialogAsker(QWidget *widget)
 {
     return [widget](const Question &question) {
+        // It may have been hidden in the tray.
+        widget->window()->show();
         const QPointer<QuestionDialog> dialog(new QuestionDialog(question, widget->window()));
         dialog->exec();
         // The window may have gone meanwhile, and the question with it.

@@ -146,8 +146,6 @@ void MasterPasswordPage::fillSelector()
     for (const KnownSafes::Entry &safe : m_logic.safes())
         m_selector->addItem(safe.available ? safe.name : tr("%1 (unavailable)").arg(safe.name),
                             safe.folder);
-    if (!m_logic.safes().isEmpty())
-        m_selector->insertSeparator(m_selector->count());
     m_selector->addItem(tr("Create new..."));
     showState();
 }

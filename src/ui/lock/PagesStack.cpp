@@ -8,10 +8,11 @@
 PagesStack::PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent)
     : QStackedWidget(parent)
     , m_unlockLogic(new UnlockLogic(core, this))
-    , m_unlockPage(new MasterPasswordPage(*m_unlockLogic, core.platform(), theme, this))
-    , m_createPage(new CreateSafePage(core, theme, this))
 {
+    // Named before the pages are made: some of their parts look up their style at once.
     setObjectName(QStringLiteral("lockPages"));
+    m_unlockPage = new MasterPasswordPage(*m_unlockLogic, core.platform(), theme, this);
+    m_createPage = new CreateSafePage(core, theme, this);
     addWidget(m_unlockPage);
     addWidget(m_createPage);
     connect(m_unlockPage, &MasterPasswordPage::createRequested, this, &PagesStack::showCreatePage);

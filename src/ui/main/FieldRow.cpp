@@ -3,7 +3,6 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
-#include "widgets/ElidedLabel.h"
 #include "widgets/StrengthMeter.h"
 
 #include <QBoxLayout>
@@ -14,16 +13,30 @@ namespace {
 // Their number tells nothing of the secret.
 const int dotCount = 14;
 
-/// The secret with a chance to break the line after each character.
-QString breakable(const QString &secret)
+// A word that may be longer than the row is wide.
+const int longWord = 30;
+
+/// The text with a chance to break the line after each character.
+QString breakable(const QString &text)
 {
-    QString text;
-    for (const QChar letter : secret) {
-        text.append(letter);
+    QString parts;
+    for (const QChar letter : text) {
+        parts.append(letter);
         if (!letter.isHighSurrogate())
-            text.append(QChar(0x200B));
+            parts.append(QChar(0x200B));
     }
-    return text;
+    return parts;
+}
+
+/// The text with such chances in its long words alone.
+QString wrappable(const QString &text)
+{
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString &word : words) {
+        if (word.size() > longWord)
+            word = breakable(word);
+    }
+    return words.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -56,15 +69,11 @@ QWidget *FieldRow::makeValue()
         setRevealed(false);
         return m_secret;
     }
-    if (m_field.form == ItemField::Multiline) {
-        auto *text = makeLabel(m_value, "value", this);
-        text->setWordWrap(true);
-        text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        return text;
-    }
-    auto *line = new ElidedLabel(m_field.form == ItemField::Link ? "link" : "value", this);
-    line->setFullText(m_value);
-    return line;
+    const char *tone = m_field.form == ItemField::Link ? "link" : "value";
+    auto *text = makeLabel(wrappable(m_value), tone, this);
+    text->setWordWrap(true);
+    text->setAccessibleName(m_value);
+    return text;
 }
 
 void FieldRow::addButtons(QHBoxLayout &row)

@@ -18,6 +18,22 @@
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 
+namespace {
+
+/// How items come into a category that has none.
+QString emptyAdvice(const ItemCategory &category)
+{
+    if (category.kind == ItemCategory::Favourites)
+        return ItemListPane::tr("Mark an item with the star, and it appears here.");
+    if (category.kind == ItemCategory::MostUsed)
+        return ItemListPane::tr("Items appear here once you have logged in with them.");
+    if (category.type == PMListItem::Login)
+        return ItemListPane::tr("Press Ctrl+N to add a login.");
+    return ItemListPane::tr("Items of this kind appear here.");
+}
+
+} // namespace
+
 ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_items(items)
@@ -110,6 +126,7 @@ void ItemListPane::makeSortMenu()
                                                      {SortBy::Modified, tr("Last changed")},
                                                      {SortBy::Created, tr("Newest")}};
     auto *menu = new QMenu(m_sort);
+    menu->setLayoutDirection(layoutDirection());
     auto *group = new QActionGroup(menu);
     for (const auto &choice : choices) {
         QAction *action = menu->addAction(choice.second);
@@ -166,6 +183,15 @@ void ItemListPane::layOut()
     all->addWidget(m_trashBar);
     all->addSpacing(2);
     all->addWidget(m_stack, 1);
+    setTabOrder(m_search, m_new);
+    setTabOrder(m_new, m_sort);
+    QWidget *before = m_sort;
+    for (QPushButton *button : m_trashBar->findChildren<QPushButton *>()) {
+        setTabOrder(before, button);
+        before = button;
+    }
+    setTabOrder(before, m_list);
+    setTabOrder(m_list, m_empty->button());
 }
 
 void ItemListPane::setCategory(const ItemCategory &category)
@@ -257,7 +283,7 @@ void ItemListPane::showEmptyState()
                             tr("Add your first login"));
     else
         m_empty->setContent(categoryIcon(category()), tr("No items in this category"),
-                            tr("Items come here by themselves once they belong here."));
+                            emptyAdvice(category()));
     m_stack->setCurrentWidget(m_empty);
 }
 

@@ -140,10 +140,12 @@ void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
 
 void MainView::closeSafe()
 {
-    // A question about an item of the safe has lost its sense.
+    // A question about an item of the safe has lost its sense; a message has not.
     const QList<QDialog *> dialogs = window()->findChildren<QDialog *>();
-    for (QDialog *dialog : dialogs)
-        dialog->reject();
+    for (QDialog *dialog : dialogs) {
+        if (dialog->isModal())
+            dialog->reject();
+    }
     m_splitter->hide();
     m_pane->showNothing();
     m_items.setSafe(nullptr);

@@ -4,6 +4,7 @@
 #include "style/Style.h"
 
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 SelectBox::SelectBox(const QIcon &chevron, QWidget *parent)
@@ -11,6 +12,8 @@ SelectBox::SelectBox(const QIcon &chevron, QWidget *parent)
     , m_chevron(chevron)
 {
     setCursor(Qt::PointingHandCursor);
+    // The delegate of combo boxes does not take the style sheet's measures.
+    setItemDelegate(new QStyledItemDelegate(this));
 }
 
 void SelectBox::setFrontIcon(const QIcon &icon)

@@ -1,0 +1,146 @@
+#include "PMUiProvider.h"
+#include "SplashScreen.h"
+#include "UiTesting.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QSettings>
+
+class TestPMUiProvider : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startInTheTrayShowsNoWindow();
+    void secondStartBringsTheWindowBack();
+    void stateIsKept();
+    void firstLaunchForgetsOldWindows();
+    void failedSaveOnLockIsTold();
+    void splashStaysItsTime();
+};
+
+namespace {
+
+QString storePath(const TestCore &test)
+{
+    return test.folder.path() + QStringLiteral("/config/uisettings.ini");
+}
+
+struct Ui
+{
+    explicit Ui(TestCore &test)
+        : provider(test.core)
+    {
+        provider.connectCore();
+        provider.createMainWindow();
+    }
+
+    QWidget &window() { return *provider.mainWindow(); }
+
+    PMUiProvider provider;
+};
+
+} // namespace
+
+void TestPMUiProvider::startInTheTrayShowsNoWindow()
+{
+    TestCore test;
+    Ui ui(test);
+    ui.provider.openMainView(QString());
+    QVERIFY(!ui.window().isVisible());
+    Q_EMIT test.core.requestShowMainWindow(QString());
+    QVERIFY(ui.window().isVisible());
+}
+
+void TestPMUiProvider::secondStartBringsTheWindowBack()
+{
+    TestCore test;
+    Ui ui(test);
+    ui.window().showMinimized();
+    ui.provider.bringToFront();
+    QVERIFY(!ui.window().isMinimized());
+    ui.window().close();
+    QVERIFY(!ui.window().isVisible());
+    ui.provider.bringToFront();
+    QVERIFY(ui.window().isVisible());
+}
+
+void TestPMUiProvider::stateIsKept()
+{
+    TestCore test;
+    QString used;
+    {
+        Ui ui(test);
+        QVERIFY(test.createSafe(QStringLiteral("Used")));
+        used = test.core.currentSafe()->folder();
+        ui.window().show();
+        ui.window().resize(1111, 700);
+        ui.window().close();
+    }
+    const QSettings store(storePath(test), QSettings::IniFormat);
+    for (const char *key : {"SecureWindow_Geometry", "SecureWindow_Splitter",
+                            "LastMainWindowScreenNumber", "LastUsedSafe"})
+        QVERIFY2(store.contains(QLatin1String(key)), key);
+    QCOMPARE(store.value(QStringLiteral("LastUsedSafe")).toString(), used);
+
+    // Another safe is the most recent one by now; the last used one is offered all the same.
+    GPMAppCore later(TestCore::places(test.folder.path()));
+    later.knownSafes().create(QStringLiteral("Newer"), testPassword, QStringLiteral("h"));
+    PMUiProvider provider(later);
+    provider.connectCore();
+    provider.createMainWindow();
+    QCOMPARE(provider.mainWindow()->size(), QSize(1111, 700));
+    provider.openMainView(QString());
+    QCOMPARE(later.currentSafe()->folder(), used);
+}
+
+void TestPMUiProvider::firstLaunchForgetsOldWindows()
+{
+    TestCore test;
+    QSettings(storePath(test), QSettings::IniFormat)
+        .setValue(QStringLiteral("SecureWindow_Geometry"), QByteArray("old"));
+    QSettings(storePath(test), QSettings::IniFormat)
+        .setValue(QStringLiteral("LastUsedSafe"), QStringLiteral("/safe"));
+    PMUiProvider provider(test.core);
+    provider.prepareFirstLaunch();
+    const QSettings store(storePath(test), QSettings::IniFormat);
+    QVERIFY(!store.contains(QStringLiteral("SecureWindow_Geometry")));
+    QVERIFY(store.contains(QStringLiteral("LastUsedSafe")));
+}
+
+void TestPMUiProvider::failedSaveOnLockIsTold()
+{
+    TestCore test;
+    Ui ui(test);
+    QVERIFY(test.createSafe());
+    ui.window().show();
+    QSignalSpy saved(test.core.currentSafe().get(), &GPMSafe::saved);
+    const QString id = test.addLogin(QStringLiteral("Shop"));
+    QVERIFY(saved.wait());
+    // A folder that is gone fails every write, even one by an administrator.
+    QVERIFY(QDir(test.core.currentSafe()->folder()).removeRecursively());
+    test.login(id)->setNote(QStringLiteral("changed"));
+    test.core.lockCurrentSafe();
+    const auto *dialog = ui.window().findChild<QuestionDialog *>();
+    QVERIFY(dialog && dialog->isVisible());
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Can't save changes."));
+}
+
+void TestPMUiProvider::splashStaysItsTime()
+{
+    QPixmap picture(QStringLiteral(":/splash.png"));
+    QVERIFY(!picture.isNull());
+    const QPointer<SplashScreen> splash(new SplashScreen(picture));
+    QWidget window;
+    QElapsedTimer timer;
+    timer.start();
+    splash->show(QRect(0, 0, 800, 600), 120);
+    QCOMPARE(splash->geometry().center(), QRect(0, 0, 800, 600).center());
+    splash->finish(&window);
+    QVERIFY(timer.elapsed() >= 120);
+    QVERIFY(window.isVisible());
+    QTRY_VERIFY(!splash);
+}
+
+QTEST_MAIN(TestPMUiProvider)
+#include "tst_pmuiprovider.moc"
