@@ -5,7 +5,6 @@
 #include "PMFieldTypes.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QLocale>
 #include <QVariant>
 
@@ -18,100 +17,101 @@ using Fields = QVector<ItemField>;
 
 const ItemField noteField = {"note", LABEL("Note"), ItemField::Multiline};
 
-const QHash<int, Fields> &allFields()
-{
-    static const QHash<int, Fields> fields = {
-        {PMListItem::Login,
-         {{"login", LABEL("User name")},
-          {"password", LABEL("Password"), ItemField::Secret},
-          {"url", LABEL("Web site"), ItemField::Link},
-          {"fillType", LABEL("When logging in"), ItemField::FillType},
-          noteField}},
-        {PMListItem::CreditCard,
-         {{"number", LABEL("Card number")},
-          {"cardholder", LABEL("Card holder")},
-          {"expire", LABEL("Expires"), ItemField::Month},
-          {"code", LABEL("Security code"), ItemField::Secret},
-          {"cardType", LABEL("Card type"), ItemField::CardType},
-          {"bank", LABEL("Bank")},
-          {"bankSite", LABEL("Bank web site"), ItemField::Link},
-          {"bankPhone", LABEL("Bank phone"), ItemField::Phone},
-          noteField}},
-        {PMListItem::BankAccount,
-         {{"bankName", LABEL("Bank")},
-          {"name", LABEL("Account holder")},
-          {"accountType", LABEL("Account type")},
-          {"number", LABEL("Account number")},
-          {"routing", LABEL("Routing number")},
-          {"iban", LABEL("IBAN")},
-          {"swift", LABEL("SWIFT")},
-          {"pin", LABEL("PIN"), ItemField::Secret},
-          {"phone", LABEL("Phone"), ItemField::Phone},
-          {"address", LABEL("Address"), ItemField::Multiline},
-          {"url", LABEL("Web site"), ItemField::Link},
-          noteField}},
-        {PMListItem::Identity,
-         {{"firstName", LABEL("First name")},
-          {"lastName", LABEL("Last name")},
-          {"birthDate", LABEL("Birth date"), ItemField::Date},
-          {"gender", LABEL("Gender"), ItemField::Gender},
-          {"email", LABEL("E-mail")},
-          {"phone", LABEL("Phone"), ItemField::Phone},
-          {"phoneCell", LABEL("Mobile phone"), ItemField::Phone},
-          {"phoneBusiness", LABEL("Business phone"), ItemField::Phone},
-          {"addressLine1", LABEL("Address line 1")},
-          {"addressLine2", LABEL("Address line 2")},
-          {"city", LABEL("City")},
-          {"zipCode", LABEL("Postal code")},
-          {"state", LABEL("State")},
-          {"country", LABEL("Country")},
-          {"company", LABEL("Company")},
-          {"jobTitle", LABEL("Job title")},
-          {"website", LABEL("Web site"), ItemField::Link},
-          {"skype", LABEL("Skype")},
-          noteField}},
-        {PMListItem::Passport,
-         {{"number", LABEL("Passport number")},
-          {"fullName", LABEL("Full name")},
-          {"nationality", LABEL("Nationality")},
-          {"passportType", LABEL("Passport type")},
-          {"birthDate", LABEL("Birth date"), ItemField::Date},
-          {"birthPlace", LABEL("Birth place")},
-          {"country", LABEL("Country")},
-          {"authority", LABEL("Authority")},
-          {"issuedDate", LABEL("Issued"), ItemField::Date},
-          {"expireDate", LABEL("Expires"), ItemField::Date},
-          noteField}},
-        {PMListItem::SSN,
-         {{"name", LABEL("Name")}, {"number", LABEL("Number"), ItemField::Secret}, noteField}},
-        {PMListItem::DriverLicense,
-         {{"number", LABEL("Licence number")},
-          {"fullName", LABEL("Full name")},
-          {"birthDate", LABEL("Birth date"), ItemField::Date},
-          {"gender", LABEL("Gender"), ItemField::Gender},
-          {"height", LABEL("Height"), ItemField::Number},
-          {"adress", LABEL("Address"), ItemField::Multiline},
-          {"state", LABEL("State")},
-          {"country", LABEL("Country")},
-          {"licenseClass", LABEL("Class")},
-          {"conditions", LABEL("Conditions")},
-          {"expireDate", LABEL("Expires"), ItemField::Date},
-          noteField}},
-        {PMListItem::SecureNote, {{"text", LABEL("Text"), ItemField::Multiline}, noteField}},
-        {PMListItem::FtpAccount,
-         {{"server", LABEL("Server")},
-          {"username", LABEL("User name")},
-          {"password", LABEL("Password"), ItemField::Secret},
-          noteField}},
-        {PMListItem::SoftwareLicense,
-         {{"version", LABEL("Version")},
-          {"licenseKey", LABEL("Licence key"), ItemField::Secret},
-          {"url", LABEL("Web site"), ItemField::Link},
-          noteField}},
-        {PMListItem::Attachment, {{"filename", LABEL("File name")}, noteField}},
-    };
-    return fields;
-}
+const Fields loginFields = {{"login", LABEL("User name")},
+                            {"password", LABEL("Password"), ItemField::Secret},
+                            {"url", LABEL("Web site"), ItemField::Link},
+                            {"fillType", LABEL("When logging in"), ItemField::FillType},
+                            noteField};
+
+const Fields cardFields = {{"number", LABEL("Card number")},
+                           {"cardholder", LABEL("Card holder")},
+                           {"expire", LABEL("Expires"), ItemField::Month},
+                           {"code", LABEL("Security code"), ItemField::Secret},
+                           {"cardType", LABEL("Card type"), ItemField::CardType},
+                           {"bank", LABEL("Bank")},
+                           {"bankSite", LABEL("Bank web site"), ItemField::Link},
+                           {"bankPhone", LABEL("Bank phone"), ItemField::Phone},
+                           noteField};
+
+const Fields accountFields = {{"bankName", LABEL("Bank")},
+                              {"name", LABEL("Account holder")},
+                              {"accountType", LABEL("Account type")},
+                              {"number", LABEL("Account number")},
+                              {"routing", LABEL("Routing number")},
+                              {"iban", LABEL("IBAN")},
+                              {"swift", LABEL("SWIFT")},
+                              {"pin", LABEL("PIN"), ItemField::Secret},
+                              {"phone", LABEL("Phone"), ItemField::Phone},
+                              {"address", LABEL("Address"), ItemField::Multiline},
+                              {"url", LABEL("Web site"), ItemField::Link},
+                              noteField};
+
+const Fields identityFields = {{"firstName", LABEL("First name")},
+                               {"lastName", LABEL("Last name")},
+                               {"birthDate", LABEL("Birth date"), ItemField::Date},
+                               {"gender", LABEL("Gender"), ItemField::Gender},
+                               {"email", LABEL("E-mail")},
+                               {"phone", LABEL("Phone"), ItemField::Phone},
+                               {"phoneCell", LABEL("Mobile phone"), ItemField::Phone},
+                               {"phoneBusiness", LABEL("Business phone"), ItemField::Phone},
+                               {"addressLine1", LABEL("Address line 1")},
+                               {"addressLine2", LABEL("Address line 2")},
+                               {"city", LABEL("City")},
+                               {"zipCode", LABEL("Postal code")},
+                               {"state", LABEL("State")},
+                               {"country", LABEL("Country")},
+                               {"company", LABEL("Company")},
+                               {"jobTitle", LABEL("Job title")},
+                               {"website", LABEL("Web site"), ItemField::Link},
+                               {"skype", LABEL("Skype")},
+                               noteField};
+
+const Fields passportFields = {{"number", LABEL("Passport number")},
+                               {"fullName", LABEL("Full name")},
+                               {"nationality", LABEL("Nationality")},
+                               {"passportType", LABEL("Passport type")},
+                               {"birthDate", LABEL("Birth date"), ItemField::Date},
+                               {"birthPlace", LABEL("Birth place")},
+                               {"country", LABEL("Country")},
+                               {"authority", LABEL("Authority")},
+                               {"issuedDate", LABEL("Issued"), ItemField::Date},
+                               {"expireDate", LABEL("Expires"), ItemField::Date},
+                               noteField};
+
+const Fields ssnFields = {
+    {"name", LABEL("Name")}, {"number", LABEL("Number"), ItemField::Secret}, noteField};
+
+const Fields licenceFields = {{"number", LABEL("Licence number")},
+                              {"fullName", LABEL("Full name")},
+                              {"birthDate", LABEL("Birth date"), ItemField::Date},
+                              {"gender", LABEL("Gender"), ItemField::Gender},
+                              {"height", LABEL("Height"), ItemField::Number},
+                              {"adress", LABEL("Address"), ItemField::Multiline},
+                              {"state", LABEL("State")},
+                              {"country", LABEL("Country")},
+                              {"licenseClass", LABEL("Class")},
+                              {"conditions", LABEL("Conditions")},
+                              {"expireDate", LABEL("Expires"), ItemField::Date},
+                              noteField};
+
+const Fields noteFields = {{"text", LABEL("Text"), ItemField::Multiline}, noteField};
+
+const Fields ftpFields = {{"server", LABEL("Server")},
+                          {"username", LABEL("User name")},
+                          {"password", LABEL("Password"), ItemField::Secret},
+                          noteField};
+
+const Fields softwareFields = {{"version", LABEL("Version")},
+                               {"licenseKey", LABEL("Licence key"), ItemField::Secret},
+                               {"url", LABEL("Web site"), ItemField::Link},
+                               noteField};
+
+const Fields attachmentFields = {{"filename", LABEL("File name")}, noteField};
+
+// In the order of PMListItem::Type.
+const Fields *const allFields[] = {
+    &loginFields,   &cardFields, &accountFields, &identityFields, &passportFields,  &ssnFields,
+    &licenceFields, &noteFields, &ftpFields,     &softwareFields, &attachmentFields};
 
 QString text(const char *source)
 {
@@ -158,8 +158,7 @@ QString cardTypeText(int type)
 const QVector<ItemField> &itemFields(PMListItem::Type type)
 {
     static const Fields none;
-    const auto found = allFields().constFind(type);
-    return found == allFields().constEnd() ? none : *found;
+    return type >= PMListItem::Login && type < PMListItem::UndefinedItem ? *allFields[type] : none;
 }
 
 QString itemFieldLabel(const ItemField &field)
