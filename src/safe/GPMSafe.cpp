@@ -1,7 +1,7 @@
 #include "GPMSafe.h"
 
 #include "DeletedList.h"
-#include "OwnerOnlyFile.h"
+#include "NewSafe.h"
 #include "SafeCrypto.h"
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
@@ -42,12 +42,11 @@ bool GPMSafe::init(const QString &folder, const QString &password, const QString
                    << "Directory not found:" << folder;
         return false;
     }
-    for (const char *file : {SafeLayout::meta, SafeLayout::oldMeta, SafeLayout::passId}) {
-        if (QFile::exists(folder + QLatin1Char('/') + QLatin1String(file))) {
-            qWarning() << "GPMSafe::init"
-                       << "There is a safe already at:" << folder;
-            return false;
-        }
+    const SafeFolder newFolder(folder);
+    if (newFolder.holdsSafe()) {
+        qWarning() << "GPMSafe::init"
+                   << "There is a safe already at:" << folder;
+        return false;
     }
     if (password.isEmpty()) {
         qWarning() << "GPMSafe::init"
@@ -56,49 +55,22 @@ bool GPMSafe::init(const QString &folder, const QString &password, const QString
     }
 
     const auto secret = std::make_shared<const SecretBytes>(SecretBytes::fromText(password));
-    const qint64 now = m_environment.clock().toMSecsSinceEpoch();
-    m_description = {};
-    m_description.name = name;
-    m_description.hint = hint;
-    m_description.created = now;
-    m_description.modified = now;
-    if (!createFiles(folder, secret)) {
-        m_description = {};
+    SafeDescription description;
+    description.name = name;
+    description.hint = hint;
+    description.created = m_environment.clock().toMSecsSinceEpoch();
+    description.modified = description.created;
+    if (!writeNewSafe(m_environment, newFolder, description, secret->view())) {
+        qWarning() << "GPMSafe::init"
+                   << "Can't write the files of a new safe at:" << folder;
         return false;
     }
-    m_folder = folder;
+    m_folder = newFolder;
+    m_description = description;
     m_password = secret;
     Q_EMIT itemsReset();
     Q_EMIT lockedChanged(false);
     return true;
-}
-
-bool GPMSafe::createFiles(const QString &folder, const Password &password)
-{
-    FileLayer &files = *m_environment.files;
-    QStringList madeFolders;
-    bool good = true;
-    for (const char *name : {SafeLayout::content, SafeLayout::attachment, SafeLayout::favicon}) {
-        const QString inner = folder + QLatin1Char('/') + QLatin1String(name);
-        if (QDir(inner).exists())
-            continue;
-        good = good && makeOwnerOnlyFolder(inner);
-        madeFolders.append(inner);
-    }
-    const QString passIdPath = folder + QLatin1Char('/') + QLatin1String(SafeLayout::passId);
-    const QString passId = makePassId(password->view(), m_environment.random);
-    good = good && !passId.isEmpty() && files.writeBytes(passIdPath, passId.toLatin1()) &&
-           writeDescription(files, folder, m_description.toJson());
-    if (good)
-        return true;
-
-    qWarning() << "GPMSafe::init"
-               << "Can't write the files of a new safe at:" << folder;
-    for (const char *name : {SafeLayout::meta, SafeLayout::restore, SafeLayout::passId})
-        files.remove(folder + QLatin1Char('/') + QLatin1String(name));
-    for (const QString &made : std::as_const(madeFolders))
-        QDir().rmdir(made);
-    return false;
 }
 
 bool GPMSafe::open(const QString &folder)
@@ -113,10 +85,10 @@ bool GPMSafe::open(const QString &folder)
                    << "Safe directory doesn't exists at location:" << folder;
         return false;
     }
-    m_folder = folder;
+    m_folder = SafeFolder(folder);
     if (readMetaFile())
         return true;
-    m_folder.clear();
+    m_folder = {};
     return false;
 }
 
@@ -124,7 +96,7 @@ bool GPMSafe::readMetaFile()
 {
     const QMutexLocker locker(m_mutex.get());
     const std::optional<SafeDescription> description =
-        readDescription(*m_environment.files, m_folder);
+        readDescription(*m_environment.files, folder());
     if (!description)
         return false;
     m_description = *description;
@@ -136,13 +108,13 @@ bool GPMSafe::writeMetaFile(const QString &targetPath)
     const QByteArray json = m_description.toJson();
     const QMutexLocker locker(m_mutex.get());
     const bool written = targetPath.isEmpty()
-                             ? writeDescription(*m_environment.files, m_folder, json)
+                             ? writeDescription(*m_environment.files, folder(), json)
                              : m_environment.files->writeBytes(
                                    targetPath, json, QIODevice::WriteOnly | QIODevice::Text);
     if (!written)
         qWarning() << "GPMSafe::writeMetaFile"
                    << "Can't save safe meta file:"
-                   << (targetPath.isEmpty() ? path(SafeLayout::meta) : targetPath);
+                   << (targetPath.isEmpty() ? m_folder.path(SafeLayout::meta) : targetPath);
     return written;
 }
 
@@ -156,12 +128,7 @@ bool GPMSafe::unlock(const QString &password)
         takeUnlocked(*attempt);
         return true;
     }
-    if (outcome == SafeUnlock::Outcome::WrongPassword)
-        qWarning() << "GPMSafe::unlock"
-                   << "Pass id doesn't match specified password";
-    else
-        qWarning() << "GPMSafe::unlock"
-                   << "Can't read safe content directory:" << m_folder;
+    logFailure(outcome);
     return false;
 }
 
@@ -194,20 +161,30 @@ std::unique_ptr<SafeUnlock> GPMSafe::makeUnlock(const QString &password)
     }
     if (!isOpen() || isUnlocked()) {
         qWarning() << "GPMSafe::unlock"
-                   << "Safe is not open or unlocked already:" << m_folder;
+                   << "Safe is not open or unlocked already:" << folder();
         return nullptr;
     }
-    std::optional<QByteArray> passId = m_environment.files->read(path(SafeLayout::passId));
+    std::optional<QByteArray> passId = m_environment.files->read(m_folder.path(SafeLayout::passId));
     if (!passId && !m_description.passId.isEmpty())
         passId = m_description.passId.toLatin1();
     if (!passId) {
         qWarning() << "GPMSafe::unlock"
-                   << "Can't read pass id file:" << path(SafeLayout::passId);
+                   << "Can't read pass id file:" << m_folder.path(SafeLayout::passId);
         return nullptr;
     }
     return std::make_unique<SafeUnlock>(
-        m_environment, path(SafeLayout::content), QString::fromLatin1(*passId),
+        m_environment, m_folder.path(SafeLayout::content), QString::fromLatin1(*passId),
         std::make_shared<const SecretBytes>(SecretBytes::fromText(password)));
+}
+
+void GPMSafe::logFailure(SafeUnlock::Outcome outcome) const
+{
+    if (outcome == SafeUnlock::Outcome::WrongPassword)
+        qWarning() << "GPMSafe::unlock"
+                   << "Pass id doesn't match specified password";
+    else if (outcome == SafeUnlock::Outcome::Unreadable)
+        qWarning() << "GPMSafe::unlock"
+                   << "Can't read safe content directory:" << folder();
 }
 
 void GPMSafe::takeUnlocked(SafeUnlock &attempt)
@@ -217,8 +194,7 @@ void GPMSafe::takeUnlocked(SafeUnlock &attempt)
     m_items = attempt.items().takeEntries();
     for (const QString &name : std::as_const(m_unreadableFiles))
         qWarning() << "GPMSafe::unlock"
-                   << "Can't read item file:"
-                   << itemPath(SafeLayout::content, ItemFileName::parse(name));
+                   << "Can't read item file:" << m_folder.contentPath(ItemFileName::parse(name));
     Q_EMIT itemsReset();
     Q_EMIT lockedChanged(false);
 }
@@ -231,12 +207,8 @@ void GPMSafe::onUnlockFinished(SafeUnlock::Outcome outcome)
     attempt->deleteLater();
     if (outcome == SafeUnlock::Outcome::Unlocked)
         takeUnlocked(*attempt);
-    else if (outcome == SafeUnlock::Outcome::WrongPassword)
-        qWarning() << "GPMSafe::unlock"
-                   << "Pass id doesn't match specified password";
-    else if (outcome == SafeUnlock::Outcome::Unreadable)
-        qWarning() << "GPMSafe::unlock"
-                   << "Can't read safe content directory:" << m_folder;
+    else
+        logFailure(outcome);
     Q_EMIT unlockFinished(outcome);
 }
 
@@ -286,7 +258,7 @@ void GPMSafe::saveChangesAsync()
 
 SaveJob GPMSafe::makeSaveJob()
 {
-    SaveJob job{m_environment, m_folder, m_password, m_mutex, {}, {}};
+    SaveJob job{m_environment, folder(), m_password, m_mutex, {}, {}};
     for (const auto &[id, entry] : m_items) {
         const PMListItem &item = *entry.item;
         if (item.isChanged())
@@ -317,26 +289,24 @@ bool GPMSafe::changePassword(const QString &newPassword,
         return false;
     }
     if (!isUnlocked()) {
-        qWarning() << operation << "Safe is locked:" << m_folder;
+        qWarning() << operation << "Safe is locked:" << folder();
         return false;
     }
-    QLockFile lockFile(path(SafeLayout::lockFile));
+    QLockFile lockFile(m_folder.path(SafeLayout::lockFile));
     // A long change is not stale; one whose process is gone is recognised by that.
     lockFile.setStaleLockTime(0);
     if (!lockFile.tryLock(m_environment.lockWaitMs)) {
-        qWarning() << operation << "Can't take the lock file:" << path(SafeLayout::lockFile);
+        qWarning() << operation
+                   << "Can't take the lock file:" << m_folder.path(SafeLayout::lockFile);
         return false;
     }
     m_writer.waitForDone();
     qDebug() << operation << "Starting password change, safe id:" << id() << " name:" << name();
 
-    QVector<PasswordChange::Item> items = itemsForPasswordChange();
-    const bool complete = m_unreadableFiles.isEmpty() &&
-                          std::all_of(items.cbegin(), items.cend(), [this](const auto &item) {
-                              return !item.attachment ||
-                                     QFile::exists(itemPath(SafeLayout::attachment, item.oldName));
-                          });
-    if (!complete) {
+    QVector<PasswordChange::Item> items;
+    for (const auto &[id, entry] : m_items)
+        items.append(PasswordChange::plan(*entry.item, entry.name, m_folder));
+    if (!m_unreadableFiles.isEmpty() || !PasswordChange::isComplete(items, m_folder)) {
         // What does not open now would never open again under the new password.
         qWarning() << operation << "Some object are null, cancel action";
         return false;
@@ -353,22 +323,6 @@ bool GPMSafe::changePassword(const QString &newPassword,
     change.removeOldFiles();
     m_password = password;
     return true;
-}
-
-QVector<PasswordChange::Item> GPMSafe::itemsForPasswordChange() const
-{
-    QVector<PasswordChange::Item> items;
-    for (const auto &[id, entry] : m_items) {
-        const bool attachment = entry.item->type() == PMListItem::Attachment;
-        ItemFileName next = entry.name;
-        // What an interrupted change left under the next name stays as it is.
-        do
-            ++next.generation;
-        while (QFile::exists(itemPath(SafeLayout::content, next)) ||
-               QFile::exists(itemPath(SafeLayout::attachment, next)));
-        items.append({entry.name, next, PMItemDocument::fromItem(*entry.item), attachment});
-    }
-    return items;
 }
 
 void GPMSafe::takePasswordChange(const PasswordChange &change)
@@ -392,7 +346,7 @@ bool GPMSafe::isPassword(const QString &password) const
 
 QString GPMSafe::id() const
 {
-    return QDir(m_folder).dirName();
+    return QDir(folder()).dirName();
 }
 
 QDateTime GPMSafe::created() const
@@ -447,7 +401,7 @@ PMListItem *GPMSafe::addAttachment(std::unique_ptr<PMListItem> item, QIODevice &
         return nullptr;
     if (item->id().isEmpty())
         item->setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
-    const QString target = itemPath(SafeLayout::attachment, {item->id(), 0});
+    const QString target = m_folder.attachmentPath({item->id(), 0});
     const bool written = m_items.count(item->id()) == 0 &&
                          m_environment.files->write(target, [&](QIODevice &destination) {
                              return cryptStream(m_password->view(), bytes, destination,
@@ -467,7 +421,7 @@ bool GPMSafe::readAttachment(const QString &id, QIODevice &destination) const
     const auto entry = m_items.find(id);
     if (entry == m_items.end())
         return false;
-    QFile source(itemPath(SafeLayout::attachment, entry->second.name));
+    QFile source(m_folder.attachmentPath(entry->second.name));
     const bool good = source.open(QIODevice::ReadOnly) &&
                       cryptStream(m_password->view(), source, destination, CryptDirection::Decrypt);
     if (!good)
@@ -492,8 +446,8 @@ bool GPMSafe::removeItems(const QStringList &ids)
         const auto entry = m_items.find(id);
         if (entry == m_items.end())
             continue;
-        for (const char *folder : {SafeLayout::content, SafeLayout::attachment}) {
-            const QString file = itemPath(folder, entry->second.name);
+        const ItemFileName &name = entry->second.name;
+        for (const QString &file : {m_folder.contentPath(name), m_folder.attachmentPath(name)}) {
             if (!m_environment.files->remove(file))
                 qWarning() << "GPMSafe::removeItems"
                            << "Can't remove item file:" << file;
@@ -508,19 +462,10 @@ bool GPMSafe::removeItems(const QStringList &ids)
 bool GPMSafe::commitDeleted(const QStringList &ids)
 {
     const QMutexLocker locker(m_mutex.get());
-    if (recordDeletedIds(*m_environment.files, path(SafeLayout::deletedList), ids))
+    if (recordDeletedIds(*m_environment.files, m_folder.path(SafeLayout::deletedList), ids))
         return true;
     qWarning() << "GPMSafe::commitDeleted"
-               << "Can't commit delete info to 'deleted' list:" << path(SafeLayout::deletedList);
+               << "Can't commit delete info to 'deleted' list:"
+               << m_folder.path(SafeLayout::deletedList);
     return false;
-}
-
-QString GPMSafe::path(const char *name) const
-{
-    return m_folder + QLatin1Char('/') + QLatin1String(name);
-}
-
-QString GPMSafe::itemPath(const char *folder, const ItemFileName &name) const
-{
-    return path(folder) + QLatin1Char('/') + name.text();
 }

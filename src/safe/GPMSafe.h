@@ -4,6 +4,7 @@
 #include "PasswordChange.h"
 #include "SafeDescription.h"
 #include "SafeEnvironment.h"
+#include "SafeFolder.h"
 #include "SafeUnlock.h"
 #include "SaveJob.h"
 
@@ -69,7 +70,7 @@ public:
     /// Whether this is the password of the unlocked safe.
     bool isPassword(const QString &password) const;
 
-    QString folder() const { return m_folder; }
+    const QString &folder() const { return m_folder.root(); }
     /// Name of the folder, which stays while the safe's own name may change.
     QString id() const;
     QString name() const { return m_description.name; }
@@ -80,7 +81,7 @@ public:
     void setName(const QString &name) { m_description.name = name; }
     void setHint(const QString &hint) { m_description.hint = hint; }
 
-    bool isOpen() const { return !m_folder.isEmpty(); }
+    bool isOpen() const { return !folder().isEmpty(); }
     bool isUnlocked() const { return m_password != nullptr; }
 
     /// The items in order of their ids; owned by the safe, gone when it locks.
@@ -128,19 +129,16 @@ Q_SIGNALS:
 private:
     using Password = std::shared_ptr<const SecretBytes>;
 
-    QString path(const char *name) const;
-    QString itemPath(const char *folder, const ItemFileName &name) const;
-    bool createFiles(const QString &folder, const Password &password);
     std::unique_ptr<SafeUnlock> makeUnlock(const QString &password);
+    void logFailure(SafeUnlock::Outcome outcome) const;
     void takeUnlocked(SafeUnlock &unlock);
     void onUnlockFinished(SafeUnlock::Outcome outcome);
     SaveJob makeSaveJob();
     void takeSaveResult(const SaveJob::Result &result);
-    QVector<PasswordChange::Item> itemsForPasswordChange() const;
     void takePasswordChange(const PasswordChange &change);
 
     SafeEnvironment m_environment;
-    QString m_folder;
+    SafeFolder m_folder;
     SafeDescription m_description;
     Password m_password;
     std::map<QString, LoadedItems::Entry> m_items;

@@ -7,11 +7,29 @@
 #include <QFile>
 #include <QtConcurrent>
 
+#include <algorithm>
 #include <utility>
 
 static const char operation[] = "GPMSafe::changePassword";
 
-PasswordChange::PasswordChange(const SafeEnvironment &environment, const QString &folder,
+PasswordChange::Item PasswordChange::plan(const PMListItem &item, const ItemFileName &name,
+                                          const SafeFolder &folder)
+{
+    ItemFileName next = name;
+    do
+        ++next.generation;
+    while (QFile::exists(folder.contentPath(next)) || QFile::exists(folder.attachmentPath(next)));
+    return {name, next, PMItemDocument::fromItem(item), item.type() == PMListItem::Attachment};
+}
+
+bool PasswordChange::isComplete(const QVector<Item> &items, const SafeFolder &folder)
+{
+    return std::all_of(items.begin(), items.end(), [&folder](const Item &item) {
+        return !item.attachment || QFile::exists(folder.attachmentPath(item.oldName));
+    });
+}
+
+PasswordChange::PasswordChange(const SafeEnvironment &environment, const SafeFolder &folder,
                                const QByteArray &oldPassword, const QByteArray &newPassword,
                                QVector<Item> items)
     : m_environment(environment)
@@ -40,9 +58,9 @@ void PasswordChange::removeOldFiles()
 {
     qDebug() << operation << "Remove old items from the safe";
     for (const Item &item : std::as_const(m_items)) {
-        QStringList paths{contentPath(item.oldName)};
+        QStringList paths{m_folder.contentPath(item.oldName)};
         if (item.attachment)
-            paths.append(attachmentPath(item.oldName));
+            paths.append(m_folder.attachmentPath(item.oldName));
         for (const QString &old : std::as_const(paths)) {
             if (!m_environment.files->remove(old))
                 qWarning() << operation << "Can't remove old file:" << old;
@@ -53,12 +71,14 @@ void PasswordChange::removeOldFiles()
 bool PasswordChange::backUpPassId()
 {
     // Replaced in one step, so that there is no moment with neither an old nor a new copy.
-    const std::optional<QByteArray> passId = m_environment.files->read(path(SafeLayout::passId));
-    if (passId && m_environment.files->writeBytes(path(SafeLayout::passIdBackup), *passId)) {
+    const std::optional<QByteArray> passId =
+        m_environment.files->read(m_folder.path(SafeLayout::passId));
+    if (passId &&
+        m_environment.files->writeBytes(m_folder.path(SafeLayout::passIdBackup), *passId)) {
         m_oldPassId = *passId;
         return true;
     }
-    qWarning() << operation << "Can't back up pass id file at:" << m_folder;
+    qWarning() << operation << "Can't back up pass id file at:" << m_folder.root();
     return false;
 }
 
@@ -66,9 +86,9 @@ bool PasswordChange::writePassId()
 {
     const QString passId = makePassId(m_newPassword, m_environment.random);
     if (!passId.isEmpty() &&
-        m_environment.files->writeBytes(path(SafeLayout::passId), passId.toLatin1()))
+        m_environment.files->writeBytes(m_folder.path(SafeLayout::passId), passId.toLatin1()))
         return true;
-    qWarning() << operation << "Can't save pass id file at:" << m_folder;
+    qWarning() << operation << "Can't save pass id file at:" << m_folder.root();
     return false;
 }
 
@@ -93,21 +113,22 @@ bool PasswordChange::writeItem(Item &item)
 {
     if (item.attachment && !reencryptAttachment(item)) {
         qWarning() << operation
-                   << "Can't re-encrypt attachment file:" << attachmentPath(item.oldName);
+                   << "Can't re-encrypt attachment file:" << m_folder.attachmentPath(item.oldName);
         return false;
     }
-    if (writeItemFile(m_environment, contentPath(item.newName), m_newPassword, item.document))
+    if (writeItemFile(m_environment, m_folder.contentPath(item.newName), m_newPassword,
+                      item.document))
         return true;
-    qWarning() << operation << "Can't save item to file:" << contentPath(item.newName);
+    qWarning() << operation << "Can't save item to file:" << m_folder.contentPath(item.newName);
     return false;
 }
 
 bool PasswordChange::reencryptAttachment(Item &item)
 {
-    QFile source(attachmentPath(item.oldName));
+    QFile source(m_folder.attachmentPath(item.oldName));
     if (!source.open(QIODevice::ReadOnly))
         return false;
-    const QString newPath = attachmentPath(item.newName);
+    const QString newPath = m_folder.attachmentPath(item.newName);
     const bool written = m_environment.files->write(newPath, [&](QIODevice &destination) {
         return reencryptStream(m_oldPassword, m_newPassword, source, destination,
                                m_environment.random);
@@ -122,31 +143,16 @@ void PasswordChange::cleanUp()
     qWarning() << operation << "Cleanup on error";
     FileLayer &files = *m_environment.files;
     // A full disk may refuse even the copy; moving the backup back needs no room.
-    const QString backup = path(SafeLayout::passIdBackup);
-    const bool copied = files.writeBytes(path(SafeLayout::passId), m_oldPassId);
-    if (!copied && !files.replace(backup, path(SafeLayout::passId)))
+    const QString backup = m_folder.path(SafeLayout::passIdBackup);
+    const bool copied = files.writeBytes(m_folder.path(SafeLayout::passId), m_oldPassId);
+    if (!copied && !files.replace(backup, m_folder.path(SafeLayout::passId)))
         qCritical() << operation << "Can't put pass id back, its copy is at:" << backup;
     else if (copied)
         files.remove(backup);
 
     for (const Item &item : std::as_const(m_items)) {
-        files.remove(contentPath(item.newName));
+        files.remove(m_folder.contentPath(item.newName));
         if (item.attachment)
-            files.remove(attachmentPath(item.newName));
+            files.remove(m_folder.attachmentPath(item.newName));
     }
-}
-
-QString PasswordChange::contentPath(const ItemFileName &name) const
-{
-    return path(SafeLayout::content) + QLatin1Char('/') + name.text();
-}
-
-QString PasswordChange::attachmentPath(const ItemFileName &name) const
-{
-    return path(SafeLayout::attachment) + QLatin1Char('/') + name.text();
-}
-
-QString PasswordChange::path(const char *name) const
-{
-    return m_folder + QLatin1Char('/') + QLatin1String(name);
 }

@@ -2,6 +2,7 @@
 
 #include "ItemFile.h"
 #include "SafeEnvironment.h"
+#include "SafeFolder.h"
 
 #include <QStringList>
 #include <QVector>
@@ -22,8 +23,15 @@ public:
         bool attachment = false;
     };
 
-    /// @param folder the safe's folder; both passwords have to outlive the object
-    PasswordChange(const SafeEnvironment &environment, const QString &folder,
+    /// What is to be done for an item: its next generation is the first whose files are not there,
+    /// so that what an interrupted change left stays as it is.
+    static Item plan(const PMListItem &item, const ItemFileName &name, const SafeFolder &folder);
+
+    /// Whether every attachment has its bytes.
+    static bool isComplete(const QVector<Item> &items, const SafeFolder &folder);
+
+    /// Both passwords have to outlive the object.
+    PasswordChange(const SafeEnvironment &environment, const SafeFolder &folder,
                    const QByteArray &oldPassword, const QByteArray &newPassword,
                    QVector<Item> items);
 
@@ -48,12 +56,9 @@ private:
     bool writeItem(Item &item);
     bool reencryptAttachment(Item &item);
     void cleanUp();
-    QString contentPath(const ItemFileName &name) const;
-    QString attachmentPath(const ItemFileName &name) const;
-    QString path(const char *name) const;
 
     const SafeEnvironment &m_environment;
-    QString m_folder;
+    SafeFolder m_folder;
     QByteArray m_oldPassword;
     QByteArray m_newPassword;
     QVector<Item> m_items;
