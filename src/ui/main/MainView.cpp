@@ -107,23 +107,24 @@ void MainView::connectItemPane()
 
 void MainView::addShortcuts()
 {
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), &MainView::focusSearch);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_N), &MainView::createItem);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), &MainView::editItem);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), &MainView::saveItem);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), &MainView::logIn);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Enter), &MainView::logIn);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_B), &MainView::copyUserName);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &MainView::copyPassword);
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_L), &MainView::lockRequested);
+    struct Shortcut
+    {
+        const char *keys;
+        void (MainView::*slot)();
+    };
+    static const Shortcut shortcuts[] = {
+        {"Ctrl+F", &MainView::focusSearch},   {"Ctrl+N", &MainView::createItem},
+        {"Ctrl+E", &MainView::editItem},      {"Ctrl+S", &MainView::saveItem},
+        {"Ctrl+Return", &MainView::logIn},    {"Ctrl+Enter", &MainView::logIn},
+        {"Ctrl+B", &MainView::copyUserName},  {"Ctrl+Shift+C", &MainView::copyPassword},
+        {"Ctrl+L", &MainView::lockRequested},
+    };
+    for (const Shortcut &shortcut : shortcuts)
+        connect(new QShortcut(QKeySequence(QLatin1String(shortcut.keys)), this),
+                &QShortcut::activated, this, shortcut.slot);
     auto *leave = new QShortcut(QKeySequence(Qt::Key_Escape), m_pane);
     leave->setContext(Qt::WidgetWithChildrenShortcut);
     connect(leave, &QShortcut::activated, this, &MainView::leaveEditor);
-}
-
-void MainView::addShortcut(const QKeySequence &keys, void (MainView::*slot)())
-{
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, slot);
 }
 
 void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)

@@ -38,7 +38,6 @@ private:
     void connectParts();
     void connectItemPane();
     void addShortcuts();
-    void addShortcut(const QKeySequence &keys, void (MainView::*slot)());
     void showCategory(const ItemCategory &category);
     void onCategoryChosen(const ItemCategory &category);
     void onCurrentChosen(const QString &id);

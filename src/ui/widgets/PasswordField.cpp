@@ -13,7 +13,7 @@ PasswordField::PasswordField(const QIcon &show, const QIcon &hide, QWidget *pare
     m_reveal->setText(tr("View text under dots"));
     m_reveal->setToolTip(tr("View text under dots (Ctrl+R)"));
     m_reveal->setCheckable(true);
-    m_reveal->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    m_reveal->setShortcut(QKeySequence(QStringLiteral("Ctrl+R")));
     m_reveal->setShortcutContext(Qt::WidgetShortcut);
     connect(m_reveal, &QAction::toggled, this, &PasswordField::setRevealed);
 }
