@@ -114,7 +114,10 @@ void PMUiProvider::showMessage(const QString &title, const QString &text)
 
 void PMUiProvider::openAddress(const QUrl &url)
 {
-    if (!QDesktopServices::openUrl(url))
+    // An address may come with an item that somebody else wrote; it is to open pages, not files
+    // or programs.
+    const QStringList schemes{QStringLiteral("https"), QStringLiteral("http")};
+    if (!schemes.contains(url.scheme()) || !QDesktopServices::openUrl(url))
         qWarning() << "UI: openAddress: Can't open address of" << url.host();
 }
 
