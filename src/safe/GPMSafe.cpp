@@ -191,7 +191,7 @@ void GPMSafe::takeUnlocked(SafeUnlock &attempt)
 {
     m_password = attempt.password();
     m_unreadableFiles = attempt.items().unreadableFiles();
-    m_items = attempt.items().takeEntries();
+    m_items.exchange(attempt.items().takeEntries());
     for (const QString &name : std::as_const(m_unreadableFiles))
         qWarning() << "GPMSafe::unlock"
                    << "Can't read item file:" << m_folder.contentPath(ItemFileName::parse(name));
@@ -224,8 +224,8 @@ void GPMSafe::lock()
     m_password.reset();
     m_unreadableFiles.clear();
     // Views let go of the items before these go.
-    std::map<QString, LoadedItems::Entry> items;
-    items.swap(m_items);
+    ItemStore::Entries items = m_items.exchange({});
+    ++m_session;
     Q_EMIT itemsReset();
     items.clear();
     Q_EMIT lockedChanged(true);
@@ -237,7 +237,7 @@ bool GPMSafe::saveChanges()
         return false;
     m_writer.waitForDone();
     const SaveJob::Result result = makeSaveJob().run();
-    takeSaveResult(result);
+    m_items.markSaved(result.saved);
     return result.good();
 }
 
@@ -246,10 +246,13 @@ void GPMSafe::saveChangesAsync()
     if (!isUnlocked())
         return;
     auto *watcher = new QFutureWatcher<SaveJob::Result>(this);
-    connect(watcher, &QFutureWatcher<SaveJob::Result>::finished, this, [this, watcher] {
+    const int session = m_session;
+    connect(watcher, &QFutureWatcher<SaveJob::Result>::finished, this, [this, watcher, session] {
         watcher->deleteLater();
         const SaveJob::Result result = watcher->result();
-        takeSaveResult(result);
+        // After a lock there may be other objects of the same items, with revisions of their own.
+        if (session == m_session)
+            m_items.markSaved(result.saved);
         Q_EMIT saved(result.good(), result.failedPaths);
     });
     const SaveJob job = makeSaveJob();
@@ -258,26 +261,11 @@ void GPMSafe::saveChangesAsync()
 
 SaveJob GPMSafe::makeSaveJob()
 {
-    SaveJob job{m_environment, folder(), m_password, m_mutex, {}, {}};
-    for (const auto &[id, entry] : m_items) {
-        const PMListItem &item = *entry.item;
-        if (item.isChanged())
-            job.items.append({id, item.revision(), entry.name, PMItemDocument::fromItem(item)});
-    }
+    SaveJob job{m_environment, folder(), m_password, m_mutex, m_items.changed(), {}};
     if (!job.items.isEmpty())
         m_description.modified = m_environment.clock().toMSecsSinceEpoch();
     job.description = m_description.toJson();
     return job;
-}
-
-void GPMSafe::takeSaveResult(const SaveJob::Result &result)
-{
-    for (const SaveJob::Item &saved : result.saved) {
-        const auto entry = m_items.find(saved.id);
-        // Under another file name the item was written after this.
-        if (entry != m_items.end() && entry->second.name.text() == saved.fileName.text())
-            entry->second.item->markSaved(saved.revision);
-    }
 }
 
 bool GPMSafe::changePassword(const QString &newPassword,
@@ -303,9 +291,7 @@ bool GPMSafe::changePassword(const QString &newPassword,
     m_writer.waitForDone();
     qDebug() << operation << "Starting password change, safe id:" << id() << " name:" << name();
 
-    QVector<PasswordChange::Item> items;
-    for (const auto &[id, entry] : m_items)
-        items.append(PasswordChange::plan(*entry.item, entry.name, m_folder));
+    QVector<PasswordChange::Item> items = m_items.planPasswordChange(m_folder);
     if (!m_unreadableFiles.isEmpty() || !PasswordChange::isComplete(items, m_folder)) {
         // What does not open now would never open again under the new password.
         qWarning() << operation << "Some object are null, cancel action";
@@ -319,24 +305,11 @@ bool GPMSafe::changePassword(const QString &newPassword,
     const auto report = [&](int done) { progress(done, total); };
     if (!change.run(progress ? std::function<void(int)>(report) : nullptr))
         return false;
-    takePasswordChange(change);
+    qDebug() << operation << "Write new items to the safe";
+    m_items.takePasswordChange(change.items());
     change.removeOldFiles();
     m_password = password;
     return true;
-}
-
-void GPMSafe::takePasswordChange(const PasswordChange &change)
-{
-    qDebug() << "GPMSafe::changePassword"
-             << "Write new items to the safe";
-    for (const PasswordChange::Item &written : change.items()) {
-        LoadedItems::Entry &entry = m_items.at(written.oldName.id);
-        entry.name = written.newName;
-        if (written.attachment)
-            entry.item->setProperty(
-                "hash", written.document.publicFields.value(QStringLiteral("hash")).toString());
-        entry.item->markSaved(entry.item->revision());
-    }
 }
 
 bool GPMSafe::isPassword(const QString &password) const
@@ -359,29 +332,13 @@ QDateTime GPMSafe::modified() const
     return QDateTime::fromMSecsSinceEpoch(m_description.modified, Qt::UTC);
 }
 
-std::vector<PMListItem *> GPMSafe::items() const
-{
-    std::vector<PMListItem *> list;
-    list.reserve(m_items.size());
-    for (const auto &[id, entry] : m_items)
-        list.push_back(entry.item.get());
-    return list;
-}
-
-PMListItem *GPMSafe::item(const QString &id) const
-{
-    const auto entry = m_items.find(id);
-    return entry == m_items.end() ? nullptr : entry->second.item.get();
-}
-
 PMListItem *GPMSafe::addItem(std::unique_ptr<PMListItem> item)
 {
     if (!isUnlocked() || !item)
         return nullptr;
     if (item->id().isEmpty())
         item->setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
-    const QString id = item->id();
-    if (m_items.count(id) > 0)
+    if (m_items.item(item->id()))
         return nullptr;
     const QDateTime now = m_environment.clock();
     if (item->created().isNull())
@@ -389,9 +346,8 @@ PMListItem *GPMSafe::addItem(std::unique_ptr<PMListItem> item)
     if (item->modified().isNull())
         item->setModified(now);
     item->markChanged();
-    PMListItem *added = item.get();
-    m_items[id] = {ItemFileName{id, 0}, std::move(item)};
-    Q_EMIT itemAdded(id);
+    PMListItem *added = m_items.add(std::move(item));
+    Q_EMIT itemAdded(added->id());
     return added;
 }
 
@@ -402,7 +358,7 @@ PMListItem *GPMSafe::addAttachment(std::unique_ptr<PMListItem> item, QIODevice &
     if (item->id().isEmpty())
         item->setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
     const QString target = m_folder.attachmentPath({item->id(), 0});
-    const bool written = m_items.count(item->id()) == 0 &&
+    const bool written = !m_items.item(item->id()) &&
                          m_environment.files->write(target, [&](QIODevice &destination) {
                              return cryptStream(m_password->view(), bytes, destination,
                                                 CryptDirection::Encrypt, m_environment.random);
@@ -418,10 +374,10 @@ PMListItem *GPMSafe::addAttachment(std::unique_ptr<PMListItem> item, QIODevice &
 
 bool GPMSafe::readAttachment(const QString &id, QIODevice &destination) const
 {
-    const auto entry = m_items.find(id);
-    if (entry == m_items.end())
+    const std::optional<ItemFileName> name = m_items.fileName(id);
+    if (!name)
         return false;
-    QFile source(m_folder.attachmentPath(entry->second.name));
+    QFile source(m_folder.attachmentPath(*name));
     const bool good = source.open(QIODevice::ReadOnly) &&
                       cryptStream(m_password->view(), source, destination, CryptDirection::Decrypt);
     if (!good)
@@ -443,17 +399,16 @@ bool GPMSafe::removeItems(const QStringList &ids)
     // A write still under way would bring the file back.
     m_writer.waitForDone();
     for (const QString &id : ids) {
-        const auto entry = m_items.find(id);
-        if (entry == m_items.end())
+        const std::optional<ItemFileName> name = m_items.fileName(id);
+        if (!name)
             continue;
-        const ItemFileName &name = entry->second.name;
-        for (const QString &file : {m_folder.contentPath(name), m_folder.attachmentPath(name)}) {
+        for (const QString &file : {m_folder.contentPath(*name), m_folder.attachmentPath(*name)}) {
             if (!m_environment.files->remove(file))
                 qWarning() << "GPMSafe::removeItems"
                            << "Can't remove item file:" << file;
         }
         Q_EMIT itemAboutToBeRemoved(id);
-        m_items.erase(entry);
+        m_items.remove(id);
         Q_EMIT itemRemoved(id);
     }
     return true;

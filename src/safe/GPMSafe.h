@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ItemLoader.h"
-#include "PasswordChange.h"
+#include "ItemStore.h"
 #include "SafeDescription.h"
 #include "SafeEnvironment.h"
 #include "SafeFolder.h"
@@ -13,7 +12,6 @@
 #include <QThreadPool>
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -85,10 +83,10 @@ public:
     bool isUnlocked() const { return m_password != nullptr; }
 
     /// The items in order of their ids; owned by the safe, gone when it locks.
-    std::vector<PMListItem *> items() const;
+    std::vector<PMListItem *> items() const { return m_items.items(); }
     /// Null when there is no such item.
-    PMListItem *item(const QString &id) const;
-    int itemCount() const { return static_cast<int>(m_items.size()); }
+    PMListItem *item(const QString &id) const { return m_items.item(id); }
+    int itemCount() const { return m_items.count(); }
 
     /// Files of the content folder that could not be read when the safe was unlocked; they are left
     /// as they are.
@@ -134,14 +132,13 @@ private:
     void takeUnlocked(SafeUnlock &unlock);
     void onUnlockFinished(SafeUnlock::Outcome outcome);
     SaveJob makeSaveJob();
-    void takeSaveResult(const SaveJob::Result &result);
-    void takePasswordChange(const PasswordChange &change);
 
     SafeEnvironment m_environment;
     SafeFolder m_folder;
     SafeDescription m_description;
     Password m_password;
-    std::map<QString, LoadedItems::Entry> m_items;
+    ItemStore m_items;
+    int m_session = 0; ///< counts the locks
     QStringList m_unreadableFiles;
     std::shared_ptr<QMutex> m_mutex = std::make_shared<QMutex>();
     std::unique_ptr<SafeUnlock> m_unlock;

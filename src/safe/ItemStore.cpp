@@ -1,0 +1,80 @@
+#include "ItemStore.h"
+
+#include <utility>
+
+ItemStore::Entries ItemStore::exchange(Entries entries)
+{
+    return std::exchange(m_entries, std::move(entries));
+}
+
+std::vector<PMListItem *> ItemStore::items() const
+{
+    std::vector<PMListItem *> list;
+    list.reserve(m_entries.size());
+    for (const auto &[id, entry] : m_entries)
+        list.push_back(entry.item.get());
+    return list;
+}
+
+PMListItem *ItemStore::item(const QString &id) const
+{
+    const auto entry = m_entries.find(id);
+    return entry == m_entries.end() ? nullptr : entry->second.item.get();
+}
+
+std::optional<ItemFileName> ItemStore::fileName(const QString &id) const
+{
+    const auto entry = m_entries.find(id);
+    return entry == m_entries.end() ? std::nullopt : std::make_optional(entry->second.name);
+}
+
+PMListItem *ItemStore::add(std::unique_ptr<PMListItem> item)
+{
+    const QString id = item->id();
+    if (m_entries.count(id) > 0)
+        return nullptr;
+    PMListItem *added = item.get();
+    m_entries[id] = {ItemFileName{id, 0}, std::move(item)};
+    return added;
+}
+
+QVector<SaveJob::Item> ItemStore::changed() const
+{
+    QVector<SaveJob::Item> list;
+    for (const auto &[id, entry] : m_entries) {
+        const PMListItem &item = *entry.item;
+        if (item.isChanged())
+            list.append({id, item.revision(), entry.name, PMItemDocument::fromItem(item)});
+    }
+    return list;
+}
+
+void ItemStore::markSaved(const QVector<SaveJob::Item> &saved)
+{
+    for (const SaveJob::Item &item : saved) {
+        const auto entry = m_entries.find(item.id);
+        // Under another file name the item was written after this.
+        if (entry != m_entries.end() && entry->second.name.text() == item.fileName.text())
+            entry->second.item->markSaved(item.revision);
+    }
+}
+
+QVector<PasswordChange::Item> ItemStore::planPasswordChange(const SafeFolder &folder) const
+{
+    QVector<PasswordChange::Item> list;
+    for (const auto &[id, entry] : m_entries)
+        list.append(PasswordChange::plan(*entry.item, entry.name, folder));
+    return list;
+}
+
+void ItemStore::takePasswordChange(const QVector<PasswordChange::Item> &written)
+{
+    for (const PasswordChange::Item &change : written) {
+        LoadedItems::Entry &entry = m_entries.at(change.oldName.id);
+        entry.name = change.newName;
+        if (change.attachment)
+            entry.item->setProperty(
+                "hash", change.document.publicFields.value(QStringLiteral("hash")).toString());
+        entry.item->markSaved(entry.item->revision());
+    }
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ItemLoader.h"
+#include "PasswordChange.h"
+#include "SaveJob.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// The items of an unlocked safe with the names of their files, in order of their ids.
+class ItemStore
+{
+public:
+    using Entries = std::map<QString, LoadedItems::Entry>;
+
+    /// Takes other items in, and gives the former ones away.
+    Entries exchange(Entries entries);
+
+    int count() const { return static_cast<int>(m_entries.size()); }
+    std::vector<PMListItem *> items() const;
+    /// Null when there is no such item.
+    PMListItem *item(const QString &id) const;
+    std::optional<ItemFileName> fileName(const QString &id) const;
+
+    /// Takes an item in under its id. Null, with nothing taken in, when there is one of that id.
+    PMListItem *add(std::unique_ptr<PMListItem> item);
+    void remove(const QString &id) { m_entries.erase(id); }
+
+    /// The items with changes that are not on the disk, as values.
+    QVector<SaveJob::Item> changed() const;
+    void markSaved(const QVector<SaveJob::Item> &saved);
+
+    /// What a change of password has to do, and what it did.
+    QVector<PasswordChange::Item> planPasswordChange(const SafeFolder &folder) const;
+    void takePasswordChange(const QVector<PasswordChange::Item> &written);
+
+private:
+    Entries m_entries;
+};
