@@ -8,6 +8,8 @@
 #include <QGuiApplication>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 namespace {
 
 GPMAppCore::Places standardPlaces()
@@ -121,6 +123,20 @@ void GPMAppCore::cancelUnlock()
 {
     if (m_safe)
         m_safe->cancelUnlock();
+}
+
+bool GPMAppCore::saveCurrentSafe()
+{
+    return !m_safe || !m_safe->isUnlocked() || m_safe->saveChanges();
+}
+
+bool GPMAppCore::hasUnsavedChanges() const
+{
+    if (!m_safe)
+        return false;
+    const std::vector<PMListItem *> items = m_safe->items();
+    return std::any_of(items.begin(), items.end(),
+                       [](const PMListItem *item) { return item->isChanged(); });
 }
 
 void GPMAppCore::lockCurrentSafe()

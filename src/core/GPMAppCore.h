@@ -58,6 +58,13 @@ public:
     /// Takes a new item into the safe and saves; null when the safe is locked.
     PMListItem *modelAddItem(std::unique_ptr<PMListItem> item);
 
+    /// Writes what is changed, now. False when something could not be written: it stays marked as
+    /// changed, and no message is sent. True when there is nothing to write.
+    bool saveCurrentSafe();
+
+    /// Whether something changed is not on the disk, as after a save that failed.
+    bool hasUnsavedChanges() const;
+
 public Q_SLOTS:
     /// Starts to unlock the current safe; unlockProgress() and unlockFinished() follow.
     void unlockCurrentSafe(const QString &password);
