@@ -63,7 +63,16 @@ QJsonValue encode(const QMetaProperty &property, const QVariant &value)
     return QJsonValue::fromVariant(value);
 }
 
-/// An invalid variant when the value is not of the property's type.
+/// An invalid variant when a text that is not that of the empty value gives the empty value.
+template <typename Structure>
+QVariant decodeStructure(const QString &text)
+{
+    const Structure value = Structure::fromText(text);
+    const bool understood = !value.isEmpty() || text.isEmpty() || text == Structure().toText();
+    return understood ? QVariant::fromValue(value) : QVariant();
+}
+
+/// An invalid variant when the value is none of the property's.
 QVariant decode(const QMetaProperty &property, const QJsonValue &value)
 {
     if (property.isEnumType()) {
@@ -92,11 +101,13 @@ QVariant decode(const QMetaProperty &property, const QJsonValue &value)
         return {};
     const QString text = value.toString();
     if (type == qMetaTypeId<Date>())
-        return QVariant::fromValue(Date::fromText(text));
+        return decodeStructure<Date>(text);
     if (type == qMetaTypeId<Phone>())
-        return QVariant::fromValue(Phone::fromText(text));
-    if (type == QMetaType::QDateTime)
-        return QDateTime::fromString(text, Qt::ISODateWithMs).toUTC();
+        return decodeStructure<Phone>(text);
+    if (type == QMetaType::QDateTime) {
+        const QDateTime moment = QDateTime::fromString(text, Qt::ISODateWithMs).toUTC();
+        return moment.isValid() || text.isEmpty() ? QVariant(moment) : QVariant();
+    }
     return text;
 }
 
@@ -106,19 +117,31 @@ QMetaProperty propertyOf(const PMListItem &item, const QString &name)
     return meta->property(meta->indexOfProperty(name.toLatin1().constData()));
 }
 
+QJsonValue defaultValue(const PMListItem &item, const QMetaProperty &property)
+{
+    const std::unique_ptr<PMListItem> fresh = makeItem(item.type());
+    return encode(property, property.read(fresh.get()));
+}
+
 QJsonObject encodeFields(const PMListItem &item, const QStringList &fieldNames,
                          const QStringList &except, const QJsonObject &unknown)
 {
     QJsonObject fields = unknown;
     for (const QString &name : fieldNames) {
         const QMetaProperty property = propertyOf(item, name);
-        if (property.isValid() && !except.contains(name))
-            fields.insert(name, encode(property, property.read(&item)));
+        if (!property.isValid() || except.contains(name))
+            continue;
+        const QJsonValue value = encode(property, property.read(&item));
+        // What was not understood on reading stays until there is a value in its place.
+        const bool keepsUnknown = unknown.contains(name) && value == defaultValue(item, property);
+        if (!keepsUnknown)
+            fields.insert(name, value);
     }
     return fields;
 }
 
-/// Sets the fields that the item knows and returns the others.
+/// Sets the fields that the item knows and returns the others, with those whose value it does not
+/// understand.
 QJsonObject applyFields(PMListItem &item, const QJsonObject &fields)
 {
     QJsonObject unknown;
@@ -133,6 +156,8 @@ QJsonObject applyFields(PMListItem &item, const QJsonObject &fields)
         const QVariant value = decode(property, field.value());
         if (value.isValid())
             property.write(&item, value);
+        else
+            unknown.insert(field.key(), field.value());
     }
     return unknown;
 }

@@ -136,6 +136,30 @@ private Q_SLOTS:
         QCOMPARE(login->fillType(), PMFieldTypes::LoginFillType::GlobalSettings);
     }
 
+    void whatWasNotUnderstoodIsKeptUntilItIsReplaced()
+    {
+        const QByteArray text =
+            json("{'version':2,'type':'CreditCard','public':{'title':5,'created':'yesterday'},"
+                 "'private':{'cardType':'Crystal','expire':'12/29','bankPhone':'0800 1','number':"
+                 "77,'bank':'North'}}");
+        auto item = PMItemDocument::fromJson(text, unshift)->toItem();
+        item->setProperty("number", QStringLiteral("4111"));
+        item->setTitle(QStringLiteral("Card"));
+        const PMItemDocument written = PMItemDocument::fromItem(*item);
+        const auto secret = [&written](const char *name) {
+            return written.privateFields.value(QLatin1String(name)).toVariant().toString();
+        };
+        QCOMPARE(secret("cardType"), QStringLiteral("Crystal"));
+        QCOMPARE(secret("expire"), QStringLiteral("12/29"));
+        QCOMPARE(secret("bankPhone"), QStringLiteral("0800 1"));
+        QCOMPARE(secret("number"), QStringLiteral("4111"));
+        QCOMPARE(secret("bank"), QStringLiteral("North"));
+        QCOMPARE(written.publicFields.value(QStringLiteral("title")).toString(),
+                 QStringLiteral("Card"));
+        QCOMPARE(written.publicFields.value(QStringLiteral("created")).toString(),
+                 QStringLiteral("yesterday"));
+    }
+
     void anItemOfAnotherKindIsLeftAlone()
     {
         PMLogin login;
