@@ -398,20 +398,39 @@ bool GPMSafe::removeItems(const QStringList &ids)
         return false;
     // A write still under way would bring the file back.
     m_writer.waitForDone();
+    bool good = true;
     for (const QString &id : ids) {
-        const std::optional<ItemFileName> name = m_items.fileName(id);
-        if (!name)
+        if (!m_items.item(id))
             continue;
-        for (const QString &file : {m_folder.contentPath(*name), m_folder.attachmentPath(*name)}) {
-            if (!m_environment.files->remove(file))
-                qWarning() << "GPMSafe::removeItems"
-                           << "Can't remove item file:" << file;
+        if (!removeFiles(id)) {
+            good = false;
+            continue;
         }
         Q_EMIT itemAboutToBeRemoved(id);
         m_items.remove(id);
         Q_EMIT itemRemoved(id);
     }
-    return true;
+    return good;
+}
+
+bool GPMSafe::removeFiles(const QString &id)
+{
+    // Every generation: one that an earlier change of password left could come to life again.
+    bool good = true;
+    for (const char *inner : {SafeLayout::content, SafeLayout::attachment}) {
+        const QDir place(m_folder.path(inner));
+        const QStringList names = place.entryList(QDir::Files);
+        for (const QString &name : names) {
+            if (ItemFileName::parse(name).id != id)
+                continue;
+            if (m_environment.files->remove(place.filePath(name)))
+                continue;
+            qWarning() << "GPMSafe::removeItems"
+                       << "Can't remove item file:" << place.filePath(name);
+            good = false;
+        }
+    }
+    return good;
 }
 
 bool GPMSafe::commitDeleted(const QStringList &ids)

@@ -107,7 +107,7 @@ public:
     void touchItem(PMListItem &item);
 
     /// Deletes items for good: notes them in the list of deleted items, then removes their files.
-    /// False, with the items still there, when the note cannot be written.
+    /// False when the note cannot be written, or a file not removed: its item is still there.
     bool removeItems(const QStringList &ids);
 
     /// Notes ids in the list of deleted items.
@@ -132,6 +132,7 @@ private:
     void takeUnlocked(SafeUnlock &unlock);
     void onUnlockFinished(SafeUnlock::Outcome outcome);
     SaveJob makeSaveJob();
+    bool removeFiles(const QString &id);
 
     SafeEnvironment m_environment;
     SafeFolder m_folder;

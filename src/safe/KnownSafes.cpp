@@ -21,7 +21,7 @@ KnownSafes::KnownSafes(GPMAppSettings &settings, const QString &safesFolder,
 QVector<KnownSafes::Entry> KnownSafes::entries() const
 {
     QVector<Entry> list;
-    const QStringList folders = m_settings.recentList();
+    const QStringList folders = m_settings.recentList() + unlistedFolders();
     for (const QString &folder : folders) {
         const auto description = readDescription(*m_environment.files, folder);
         Entry entry{folder, QDir(folder).dirName(), {}, description.has_value()};
@@ -32,6 +32,20 @@ QVector<KnownSafes::Entry> KnownSafes::entries() const
         list.append(entry);
     }
     return list;
+}
+
+QStringList KnownSafes::unlistedFolders() const
+{
+    QStringList folders;
+    const QStringList known = m_settings.recentList();
+    const QDir standardPlace(m_safesFolder);
+    const QStringList names = standardPlace.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &name : names) {
+        const QString folder = m_safesFolder + QLatin1Char('/') + name;
+        if (!known.contains(folder) && SafeFolder(folder).holdsSafe())
+            folders.append(folder);
+    }
+    return folders;
 }
 
 std::shared_ptr<GPMSafe> KnownSafes::create(const QString &name, const QString &password,

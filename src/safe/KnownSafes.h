@@ -10,7 +10,8 @@
 #include <optional>
 
 /// The safes that this installation knows: the folders in the settings' `recentList`, most recently
-/// opened first.
+/// opened first, and behind them those in the standard place that the list has lost, as it does
+/// when the settings have to start anew.
 class KnownSafes : public QObject
 {
     Q_OBJECT
@@ -45,6 +46,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    QStringList unlistedFolders() const;
+
     GPMAppSettings &m_settings;
     QString m_safesFolder;
     SafeEnvironment m_environment;

@@ -461,6 +461,13 @@ private Q_SLOTS:
         QVERIFY(safe.item(loginId));
         QCOMPARE(snapshot(m_folder), before);
 
+        // A file that cannot be removed keeps its item, and so does not bring it back unnoticed.
+        files->failAt = files->operations + 2;
+        QVERIFY(!safe.removeItems({loginId}));
+        QVERIFY(safe.item(loginId));
+
+        // What an interrupted change of password left of an item goes with it.
+        writeFile(content(loginId + QStringLiteral(".3")), "left behind");
         QVERIFY(safe.removeItems({loginId}));
         QVERIFY(safe.removeItems({attachment}));
         QCOMPARE(safe.itemCount(), 20);

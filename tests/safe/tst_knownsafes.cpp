@@ -39,6 +39,26 @@ private Q_SLOTS:
         QVERIFY(entries.at(1).available);
     }
 
+    void safesSurviveTheLossOfTheSettings()
+    {
+        const QTemporaryDir home;
+        const QString safes = home.filePath(QStringLiteral("safes"));
+        QString folder;
+        {
+            GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
+            KnownSafes known(settings, safes);
+            folder = known.create(QStringLiteral("One"), QStringLiteral("p"), QStringLiteral("h"))
+                         ->folder();
+            QCOMPARE(known.entries().size(), 1);
+        }
+        QVERIFY(QDir().mkpath(safes + QStringLiteral("/no safe")));
+        GPMAppSettings settings(home.filePath(QStringLiteral("other config")), home.path());
+        const KnownSafes known(settings, safes);
+        QCOMPARE(known.entries().size(), 1);
+        QCOMPARE(known.entries().at(0).name, QStringLiteral("One"));
+        QCOMPARE(known.entries().at(0).folder, folder);
+    }
+
     void aSafeThatCannotBeMadeLeavesNothing()
     {
         const QTemporaryDir home;
