@@ -141,6 +141,8 @@ bool GPMAppCore::hasUnsavedChanges() const
 
 void GPMAppCore::lockCurrentSafe()
 {
+    // At the end of the program nobody waits for an unlocking that still runs.
+    cancelUnlock();
     if (!m_safe || !m_safe->isUnlocked())
         return;
     Q_EMIT requestLock();
