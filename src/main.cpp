@@ -114,6 +114,10 @@ int main(int argc, char *argv[])
                      &PMUiProvider::bringToFront);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &core,
                      &GPMAppCore::lockCurrentSafe);
+    // The end of the session would otherwise be tried by closing windows, which only hide.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &core,
+                     [&core] { core.saveCurrentSafe(); });
 
     qDebug() << "main"
              << "Check first start condition...";
