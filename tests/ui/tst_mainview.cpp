@@ -23,6 +23,7 @@ private Q_SLOTS:
     void selectionSurvivesChanges();
     void searchKeepsWhatIsEdited();
     void removeAndRestore();
+    void enterOnAQuestionPressesTheFocusedButton();
     void lockDropsWhatIsShown();
     void lockWhileAQuestionIsOpen();
     void lockByItselfDropsTheEdit();
@@ -268,6 +269,44 @@ void TestMainView::removeAndRestore()
     QCOMPARE(shown.asker.asked.last().buttons.first(), QStringLiteral("Delete forever"));
     QCOMPARE(shown.test.core.currentSafe()->itemCount(), 0);
     QVERIFY(!shown.shows(QStringLiteral("Shop")));
+}
+
+void TestMainView::enterOnAQuestionPressesTheFocusedButton()
+{
+    const auto answer = [](int standard, const QVector<Qt::Key> &keys) {
+        QuestionDialog dialog(
+            {QStringLiteral("Title"),
+             QStringLiteral("Text"),
+             {QStringLiteral("On"), QStringLiteral("Other"), QStringLiteral("Cancel")},
+             standard},
+            nullptr);
+        dialog.show();
+        if (!QTest::qWaitForWindowActive(&dialog))
+            return -1;
+        for (Qt::Key key : keys)
+            QTest::keyClick(dialog.focusWidget(), key);
+        return dialog.result() == QDialog::Accepted ? dialog.answer() : -1;
+    };
+    QCOMPARE(answer(0, {Qt::Key_Return}), 0);
+    QCOMPARE(answer(0, {Qt::Key_Tab, Qt::Key_Return}), 1);
+    QCOMPARE(answer(0, {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Enter}), 2);
+    QCOMPARE(answer(2, {Qt::Key_Return}), 2);
+
+    View shown;
+    const QString id = shown.test.addLogin(QStringLiteral("Shop"));
+    shown.asker.answer = 1;
+    shown.choose(QStringLiteral("Shop"));
+    shown.click("removeButton");
+    QCOMPARE(shown.asker.asked.last().standard, 1);
+    shown.test.core.modelItemDeleted(id);
+    QCoreApplication::processEvents();
+    auto *categories = shown.field<QListView>("categoryList");
+    categories->setCurrentIndex(categories->model()->index(categories->model()->rowCount() - 1, 0));
+    shown.click("removeButton");
+    QCOMPARE(shown.asker.asked.last().standard, 1);
+    shown.click("emptyTrashButton");
+    QCOMPARE(shown.asker.asked.last().standard, 1);
+    QCOMPARE(shown.asker.asked.size(), 3);
 }
 
 void TestMainView::lockDropsWhatIsShown()

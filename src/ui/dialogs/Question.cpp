@@ -32,13 +32,14 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
     row->setSpacing(Style::spacing);
     row->addStretch();
     for (int i = 0; i < question.buttons.size(); ++i) {
-        auto *button = makeButton(question.buttons.at(i), i == 0 ? "primary" : "plain", this);
+        const bool standard = i == question.standard;
+        auto *button = makeButton(question.buttons.at(i), standard ? "primary" : "plain", this);
         connect(button, &QPushButton::clicked, this, [this, i] {
             m_answer = i;
             accept();
         });
         row->insertWidget(1, button);
-        if (i == 0) {
+        if (standard) {
             button->setDefault(true);
             button->setFocus();
         }

@@ -10,7 +10,8 @@ struct Question
 {
     QString title;
     QString text;
-    QStringList buttons; ///< the first is the one that Enter presses, the last that Esc does
+    QStringList buttons; ///< the first is the way on, the last is the one that Esc presses
+    int standard = 0;    ///< the button that Enter presses; a harmless one where much can be lost
 };
 
 /// Puts a question and returns the number of the chosen button.

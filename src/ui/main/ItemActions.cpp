@@ -67,10 +67,12 @@ bool ItemActions::remove(const QString &id)
     const Question question =
         forever ? Question{tr("Confirmation"),
                            tr("Do you want to delete the item forever?\nIt can not be restored."),
-                           {tr("Delete forever"), tr("Cancel")}}
+                           {tr("Delete forever"), tr("Cancel")},
+                           1}
                 : Question{tr("Confirmation"),
                            tr("Do you want to remove item?"),
-                           {tr("Remove"), tr("Cancel")}};
+                           {tr("Remove"), tr("Cancel")},
+                           1};
     if (m_asker(question) != 0)
         return false;
     if (forever)
@@ -95,7 +97,8 @@ void ItemActions::emptyTrash()
     const Question question{
         tr("Confirmation"),
         tr("Do you want to delete all items in the trash forever?\nThey can not be restored."),
-        {tr("Delete forever"), tr("Cancel")}};
+        {tr("Delete forever"), tr("Cancel")},
+        1};
     if (m_asker(question) == 0)
         m_core.modelClearTrash();
 }

@@ -20,7 +20,8 @@ QPushButton *makeButton(const QString &text, const char *look, QWidget *parent)
     // Wider than the icon, which is drawn at its front: that is the space before the text.
     button->setIconSize(QSize(Style::iconSize + 6, Style::iconSize));
     button->setCursor(Qt::PointingHandCursor);
-    button->setAutoDefault(false);
+    // Enter presses the button that has the keyboard, in a dialog and elsewhere.
+    button->setAutoDefault(true);
     return button;
 }
 
