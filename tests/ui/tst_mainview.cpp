@@ -2,6 +2,7 @@
 #include "main/MainView.h"
 #include "style/Theme.h"
 
+#include <QClipboard>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -24,6 +25,10 @@ private Q_SLOTS:
     void searchKeepsWhatIsEdited();
     void removeAndRestore();
     void enterOnAQuestionPressesTheFocusedButton();
+    void removeAsksAboutANewItemFirst();
+    void removeAsksAboutAnotherEditFirst();
+    void enterPressesSave();
+    void nothingIsCopiedWhileEditing();
     void lockDropsWhatIsShown();
     void lockWhileAQuestionIsOpen();
     void lockByItselfDropsTheEdit();
@@ -307,6 +312,90 @@ void TestMainView::enterOnAQuestionPressesTheFocusedButton()
     shown.click("emptyTrashButton");
     QCOMPARE(shown.asker.asked.last().standard, 1);
     QCOMPARE(shown.asker.asked.size(), 3);
+}
+
+void TestMainView::removeAsksAboutANewItemFirst()
+{
+    View shown;
+    const QString id = shown.test.addLogin(QStringLiteral("Beta"));
+    shown.choose(QStringLiteral("Beta"));
+    shown.press(Qt::Key_N, Qt::ControlModifier);
+    shown.field("titleField")->setText(QStringLiteral("Gamma"));
+    QTest::mouseClick(shown.list()->viewport(), Qt::LeftButton, {},
+                      shown.list()->visualRect(shown.list()->currentIndex()).center());
+    shown.asker.answer = 2;
+    QTest::keyClick(shown.list(), Qt::Key_Delete);
+    QCOMPARE(shown.asker.asked.size(), 1);
+    QCOMPARE(shown.field("titleField")->text(), QStringLiteral("Gamma"));
+    QVERIFY(!shown.test.login(id)->deleted());
+
+    // Saved first, removed then.
+    shown.asker.answer = 0;
+    QTest::keyClick(shown.list(), Qt::Key_Delete);
+    QCOMPARE(shown.asker.asked.size(), 3);
+    QCOMPARE(shown.test.core.currentSafe()->itemCount(), 2);
+    QVERIFY(shown.test.login(id)->deleted());
+}
+
+void TestMainView::removeAsksAboutAnotherEditFirst()
+{
+    View shown;
+    const QString alpha = shown.test.addLogin(QStringLiteral("Alpha"));
+    const QString beta = shown.test.addLogin(QStringLiteral("Beta"));
+    shown.choose(QStringLiteral("Alpha"));
+    shown.click("editButton");
+    shown.field("loginField")->setText(QStringLiteral("bea"));
+    shown.field("searchField")->setText(QStringLiteral("Beta"));
+    shown.asker.answer = 2;
+    QTest::keyClick(shown.field("searchField"), Qt::Key_Down);
+    QCOMPARE(shown.current(), QStringLiteral("Beta"));
+    QTest::keyClick(shown.list(), Qt::Key_Delete);
+    QCOMPARE(shown.asker.asked.size(), 1);
+    QCOMPARE(shown.field("loginField")->text(), QStringLiteral("bea"));
+    QVERIFY(!shown.test.login(beta)->deleted());
+
+    shown.asker.answer = 0;
+    QTest::keyClick(shown.list(), Qt::Key_Delete);
+    QCOMPARE(shown.asker.asked.size(), 3);
+    QCOMPARE(shown.test.login(alpha)->login(), QStringLiteral("bea"));
+    QVERIFY(!shown.test.login(alpha)->deleted());
+    QVERIFY(shown.test.login(beta)->deleted());
+}
+
+void TestMainView::enterPressesSave()
+{
+    View shown;
+    shown.press(Qt::Key_N, Qt::ControlModifier);
+    shown.field("titleField")->setText(QStringLiteral("Shop"));
+    shown.field<QPushButton>("saveButton")->setFocus();
+    shown.press(Qt::Key_Return);
+    QVERIFY(!shown.isEditing());
+    QCOMPARE(shown.shownTitle(), QStringLiteral("Shop"));
+}
+
+void TestMainView::nothingIsCopiedWhileEditing()
+{
+    View shown;
+    shown.test.addLogin(QStringLiteral("Shop"));
+    shown.choose(QStringLiteral("Shop"));
+    const auto copies = [&shown] {
+        QStringList texts;
+        for (const auto &keys : {qMakePair(Qt::Key_B, Qt::KeyboardModifiers(Qt::ControlModifier)),
+                                 qMakePair(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier)}) {
+            QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+            shown.press(keys.first, keys.second);
+            texts.append(QGuiApplication::clipboard()->text());
+        }
+        return texts;
+    };
+    const QStringList nothing{QStringLiteral("before"), QStringLiteral("before")};
+    QCOMPARE(copies(), QStringList({QStringLiteral("ana"), QStringLiteral("secret of Shop")}));
+    shown.press(Qt::Key_N, Qt::ControlModifier);
+    QVERIFY(shown.isEditing());
+    QCOMPARE(copies(), nothing);
+    shown.click("discardButton");
+    shown.click("editButton");
+    QCOMPARE(copies(), nothing);
 }
 
 void TestMainView::lockDropsWhatIsShown()

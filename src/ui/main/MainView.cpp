@@ -247,6 +247,13 @@ void MainView::onSaved(const QString &id)
 void MainView::remove(const QString &id)
 {
     const bool editing = m_pane->isEditing() && id == m_pane->editedId();
+    if (m_pane->isEditing() && !editing) {
+        // Another item is in the editor: that one is decided about first.
+        if (!m_pane->mayLeave())
+            return;
+        m_list->setCurrent(id);
+        showCurrent();
+    }
     if (!m_actions->remove(id))
         return;
     if (editing)
@@ -286,12 +293,14 @@ void MainView::logIn()
 
 void MainView::copyUserName()
 {
-    m_actions->copyUserName(m_pane->shownId());
+    if (!m_pane->isEditing())
+        m_actions->copyUserName(m_pane->shownId());
 }
 
 void MainView::copyPassword()
 {
-    m_actions->copyPassword(m_pane->shownId());
+    if (!m_pane->isEditing())
+        m_actions->copyPassword(m_pane->shownId());
 }
 
 void MainView::focusSearch()
