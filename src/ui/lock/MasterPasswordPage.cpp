@@ -210,10 +210,10 @@ void MasterPasswordPage::showState()
 void MasterPasswordPage::showProgress(bool unlocking)
 {
     const int total = m_logic.itemsTotal();
+    const bool starting = unlocking && m_progress->isHidden();
     m_progress->setVisible(unlocking);
     m_progress->setRange(0, total);
     m_progress->setValue(m_logic.itemsDone());
-    const bool hadFocus = m_unlock->hasFocus();
     m_unlock->setText(unlocking ? tr("Cancel") : tr("Unlock"));
     setStyleProperty(*m_unlock, "look",
                      unlocking ? QStringLiteral("plain") : QStringLiteral("primary"));
@@ -221,8 +221,9 @@ void MasterPasswordPage::showProgress(bool unlocking)
         m_subtitle->setText(tr("Unlocking: %1 of %2 items").arg(m_logic.itemsDone()).arg(total));
     else if (unlocking)
         m_subtitle->setText(tr("Unlocking…"));
-    if (unlocking && !hadFocus && isVisible())
-        m_unlock->setFocus();
+    // Not to a button: a second Enter would cancel what the first one began.
+    if (starting && isVisible())
+        setFocus();
 }
 
 bool MasterPasswordPage::eventFilter(QObject *watched, QEvent *event)
