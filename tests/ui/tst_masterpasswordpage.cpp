@@ -17,6 +17,8 @@ private Q_SLOTS:
     void noSafeYet();
     void nothingChosen();
     void wrongPasswordThenRight();
+    void emptyPasswordIsWrong();
+    void doubleEnterDoesNotCancel();
     void missingFolderIsUnavailable();
     void lastUsedSafeComesFirst();
     void cancelledUnlockLeavesItLocked();
@@ -101,6 +103,51 @@ void TestMasterPasswordPage::wrongPasswordThenRight()
     QVERIFY(finished.wait());
     QVERIFY(test.core.currentSafe()->isUnlocked());
     QCOMPARE(page.message(), QString());
+}
+
+void TestMasterPasswordPage::emptyPasswordIsWrong()
+{
+    TestCore test;
+    QVERIFY(test.createSafe());
+    test.core.lockCurrentSafe();
+    Page page(test);
+    page.logic.chooseFirst({});
+    QVERIFY(QTest::qWaitForWindowActive(&page.page));
+    page.page.takeFocus();
+    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+    for (QWidget *pressed :
+         {static_cast<QWidget *>(page.password()), static_cast<QWidget *>(page.unlock())}) {
+        pressed->setFocus();
+        QTest::keyClick(pressed, Qt::Key_Return);
+        QCOMPARE(page.message(), QStringLiteral("Wrong Password! Try again"));
+        QCOMPARE(page.logic.state(), State::Ready);
+        QCOMPARE(QApplication::focusWidget(), page.password());
+    }
+    QCOMPARE(finished.count(), 0);
+}
+
+void TestMasterPasswordPage::doubleEnterDoesNotCancel()
+{
+    TestCore test;
+    QVERIFY(test.createSafe());
+    test.core.lockCurrentSafe();
+    Page page(test);
+    page.logic.chooseFirst({});
+    QVERIFY(QTest::qWaitForWindowActive(&page.page));
+    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+    for (QWidget *pressed :
+         {static_cast<QWidget *>(page.password()), static_cast<QWidget *>(page.unlock())}) {
+        page.password()->setText(testPassword);
+        pressed->setFocus();
+        QTest::keyClick(pressed, Qt::Key_Return);
+        QCOMPARE(page.logic.state(), State::Unlocking);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(finished.wait());
+        QCOMPARE(finished.last().first().value<SafeUnlock::Outcome>(),
+                 SafeUnlock::Outcome::Unlocked);
+        test.core.lockCurrentSafe();
+        page.page.takeFocus();
+    }
 }
 
 void TestMasterPasswordPage::missingFolderIsUnavailable()

@@ -79,6 +79,12 @@ void UnlockLogic::unlock(const QString &password)
         setMessage(m_folder.isEmpty() ? tr("No any safe is selected") : m_message);
         return;
     }
+    if (password.isEmpty()) {
+        // No safe has an empty password.
+        setMessage(tr("Wrong Password! Try again"));
+        Q_EMIT refused();
+        return;
+    }
     m_message.clear();
     m_unlocking = true;
     m_done = 0;
