@@ -4,6 +4,7 @@
 #include "main/MainView.h"
 #include "style/Theme.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -18,15 +19,18 @@ private Q_SLOTS:
     void withoutMotionTheyAreThereAtOnce();
     void typedKeysReachThePasswordWhileShuttersClose();
     void closingHides();
+    void failedSaveAsks_data();
+    void failedSaveAsks();
+    void retriedSaveLocks();
 };
 
 namespace {
 
 struct Window
 {
-    explicit Window(TestCore &test, bool motion = true)
+    explicit Window(TestCore &test, bool motion = true, const Asker &asker = {})
         : theme(makeTheme(motion))
-        , window(test.core, *theme, new MainView(test.core, *theme))
+        , window(test.core, *theme, new MainView(test.core, *theme), asker)
     {
         window.pages().showFirstPage();
         window.show();
@@ -43,6 +47,31 @@ struct Window
     std::unique_ptr<Theme> theme;
     SecureWindow window;
 };
+
+QString contentFolder(const TestCore &test)
+{
+    return test.core.currentSafe()->folder() + QStringLiteral("/content");
+}
+
+/// Leaves an open safe with a change that cannot be written.
+QString changeAndTakeFolderAway(TestCore &test)
+{
+    if (!test.createSafe())
+        qFatal("No safe to test with");
+    const QString id = test.addLogin(QStringLiteral("Shop"));
+    if (!test.core.saveCurrentSafe() ||
+        !QDir().rename(contentFolder(test), contentFolder(test) + QStringLiteral(".away")))
+        qFatal("The safe could not be prepared");
+    test.login(id)->setNote(QStringLiteral("changed"));
+    return id;
+}
+
+void putFolderBack(const TestCore &test)
+{
+    QDir(contentFolder(test)).removeRecursively();
+    if (!QDir().rename(contentFolder(test) + QStringLiteral(".away"), contentFolder(test)))
+        qFatal("The folder is lost");
+}
 
 void type(const QString &text)
 {
@@ -137,6 +166,58 @@ void TestSecureWindow::closingHides()
     find<QPushButton>(shown.window, "notNowButton")->click();
     QVERIFY(!shown.window.isVisible());
     QCOMPARE(hidden.count(), 1);
+}
+
+void TestSecureWindow::failedSaveAsks_data()
+{
+    QTest::addColumn<bool>("ends");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("locked");
+    QTest::newRow("lock, lose") << false << 1 << true;
+    QTest::newRow("lock, cancel") << false << 2 << false;
+    QTest::newRow("exit, lose") << true << 1 << true;
+    QTest::newRow("exit, cancel") << true << 2 << false;
+}
+
+void TestSecureWindow::failedSaveAsks()
+{
+    QFETCH(bool, ends);
+    QFETCH(bool, locked);
+    TestCore test;
+    TestAsker asker;
+    QFETCH(int, answer);
+    asker.answer = answer;
+    Window shown(test, false, asker.asker());
+    changeAndTakeFolderAway(test);
+    QSignalSpy quit(&test.core, &GPMAppCore::quitRequested);
+    if (ends)
+        shown.window.exitByUser();
+    else
+        shown.window.lockByUser();
+    QCOMPARE(asker.asked.size(), 1);
+    QCOMPARE(asker.asked.first().title, QStringLiteral("Can't save changes."));
+    QCOMPARE(asker.asked.first().standard, 2);
+    QCOMPARE(test.core.currentSafe()->isUnlocked(), !locked);
+    QCOMPARE(quit.count(), ends && locked ? 1 : 0);
+    QVERIFY(!shown.window.isLosingChanges());
+    putFolderBack(test);
+}
+
+void TestSecureWindow::retriedSaveLocks()
+{
+    TestCore test;
+    int asked = 0;
+    Window shown(test, false, [&](const Question &) {
+        if (++asked == 2)
+            putFolderBack(test);
+        return 0;
+    });
+    const QString id = changeAndTakeFolderAway(test);
+    shown.window.lockByUser();
+    QCOMPARE(asked, 2);
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
+    QVERIFY(test.core.currentSafe()->unlock(testPassword));
+    QCOMPARE(test.login(id)->note(), QStringLiteral("changed"));
 }
 
 QTEST_MAIN(TestSecureWindow)

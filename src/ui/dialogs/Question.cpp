@@ -58,9 +58,11 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
 Asker dialogAsker(QWidget *widget)
 {
     return [widget](const Question &question) {
-        // It may have been hidden in the tray.
-        widget->window()->show();
-        const QPointer<QuestionDialog> dialog(new QuestionDialog(question, widget->window()));
+        // It may have been hidden in the tray, or minimised.
+        QWidget *window = widget->window();
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->show();
+        const QPointer<QuestionDialog> dialog(new QuestionDialog(question, window));
         dialog->exec();
         // The window may have gone meanwhile, and the question with it.
         const int answer = dialog ? dialog->answer() : question.buttons.size() - 1;

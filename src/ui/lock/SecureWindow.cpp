@@ -9,9 +9,13 @@
 
 #include <QCloseEvent>
 #include <QDebug>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QGraphicsOpacityEffect>
 #include <QPropertyAnimation>
+#include <QScopedValueRollback>
+
+#include <utility>
 
 namespace {
 
@@ -20,9 +24,11 @@ const QSize smallestSize(972, 640);
 
 } // namespace
 
-SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *content)
+SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *content,
+                           Asker asker)
     : m_core(core)
     , m_theme(theme)
+    , m_asker(asker ? std::move(asker) : dialogAsker(this))
     , m_content(content)
     , m_shutters(new Shutters(theme, this))
     , m_pages(new PagesStack(core, theme, this))
@@ -121,8 +127,45 @@ void SecureWindow::followSafe()
 
 void SecureWindow::lockByUser()
 {
-    if (m_open && m_content->mayLeave())
-        m_core.lockCurrentSafe();
+    if (m_open)
+        leaveSafe(&GPMAppCore::lockCurrentSafe);
+}
+
+void SecureWindow::exitByUser()
+{
+    leaveSafe(&GPMAppCore::exitPasswordManager);
+}
+
+void SecureWindow::leaveSafe(void (GPMAppCore::*way)())
+{
+    // The tray can ask once more while a question is open.
+    if (m_leaving)
+        return;
+    const QScopedValueRollback<bool> leaving(m_leaving, true);
+    if (!m_content->mayLeave())
+        return;
+    const SaveAnswer answer = saveOrAsk();
+    if (answer == SaveAnswer::Cancel)
+        return;
+    const QScopedValueRollback<bool> losing(m_losingChanges, answer == SaveAnswer::Lose);
+    (m_core.*way)();
+}
+
+SecureWindow::SaveAnswer SecureWindow::saveOrAsk()
+{
+    while (!m_core.saveCurrentSafe()) {
+        const int answer =
+            m_asker({tr("Can't save changes."),
+                     tr("Some changes could not be written; what was there before still is. Check "
+                        "that the folder of the safe can be written to and that there is free "
+                        "space, then try again:\n%1")
+                         .arg(QDir::toNativeSeparators(m_core.currentSafe()->folder())),
+                     {tr("Try again"), tr("Lose changes"), tr("Cancel")},
+                     2});
+        if (answer != 0)
+            return answer == 1 ? SaveAnswer::Lose : SaveAnswer::Cancel;
+    }
+    return SaveAnswer::Saved;
 }
 
 void SecureWindow::resizeEvent(QResizeEvent *)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialogs/Question.h"
+
 #include <QStateMachine>
 #include <QWidget>
 
@@ -19,7 +21,8 @@ class SecureWindow : public QWidget
 
 public:
     /// @param content what an open safe is shown with; the window becomes its owner
-    SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *content);
+    /// @param asker puts questions to the user; the default one shows dialogs
+    SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *content, Asker asker = {});
 
     /// 0 when the shutters are closed, 1 when they are open.
     qreal openProgress() const { return m_openProgress; }
@@ -28,8 +31,13 @@ public:
     PagesStack &pages() { return *m_pages; }
     SecureContent &content() { return *m_content; }
 
-    /// Locks the safe for the user, who may first decide about unsaved changes.
+    /// Locks the safe, or ends the program, for the user, who first decides about what is edited
+    /// and about what cannot be written.
     void lockByUser();
+    void exitByUser();
+
+    /// Whether the safe is being locked although the user knows that changes get lost.
+    bool isLosingChanges() const { return m_losingChanges; }
 
 Q_SIGNALS:
     void hidden();
@@ -42,13 +50,18 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    enum class SaveAnswer { Saved, Lose, Cancel };
+
     void configureStateMachine();
+    void leaveSafe(void (GPMAppCore::*way)());
+    SaveAnswer saveOrAsk();
     void followSafe();
     void showLayers();
     void showTitle();
 
     GPMAppCore &m_core;
     const Theme &m_theme;
+    Asker m_asker;
     SecureContent *m_content;
     Shutters *m_shutters;
     PagesStack *m_pages;
@@ -56,4 +69,6 @@ private:
     QStateMachine m_machine;
     qreal m_openProgress = 0;
     bool m_open = false;
+    bool m_leaving = false;
+    bool m_losingChanges = false;
 };
