@@ -3,6 +3,7 @@
 #include "style/Theme.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void removeAsksAboutAnotherEditFirst();
     void enterPressesSave();
     void nothingIsCopiedWhileEditing();
+    void saveKeyRetriesAFailedSave();
     void lockDropsWhatIsShown();
     void lockWhileAQuestionIsOpen();
     void lockByItselfDropsTheEdit();
@@ -396,6 +398,27 @@ void TestMainView::nothingIsCopiedWhileEditing()
     shown.click("discardButton");
     shown.click("editButton");
     QCOMPARE(copies(), nothing);
+}
+
+void TestMainView::saveKeyRetriesAFailedSave()
+{
+    View shown;
+    GPMAppCore &core = shown.test.core;
+    const QString id = shown.test.addLogin(QStringLiteral("Shop"));
+    QVERIFY(core.saveCurrentSafe());
+    const QString content = core.currentSafe()->folder() + QStringLiteral("/content");
+    QVERIFY(QDir().rename(content, content + QStringLiteral(".away")));
+    shown.test.login(id)->setNote(QStringLiteral("changed"));
+    QVERIFY(core.hasUnsavedChanges());
+    QSignalSpy messages(&core, &GPMAppCore::message);
+    shown.press(Qt::Key_S, Qt::ControlModifier);
+    QTRY_COMPARE(messages.count(), 1);
+    QCOMPARE(messages.first().first().toString(), QStringLiteral("Can't save changes."));
+
+    QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
+    shown.press(Qt::Key_S, Qt::ControlModifier);
+    QTRY_VERIFY(!core.hasUnsavedChanges());
+    QCOMPARE(messages.count(), 1);
 }
 
 void TestMainView::lockDropsWhatIsShown()

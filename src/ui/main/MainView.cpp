@@ -274,7 +274,10 @@ void MainView::editItem()
 
 void MainView::saveItem()
 {
-    m_pane->save();
+    if (m_pane->isEditing())
+        m_pane->save();
+    else if (m_core.hasUnsavedChanges())
+        m_core.currentSafe()->saveChangesAsync();
 }
 
 void MainView::leaveEditor()
