@@ -16,6 +16,8 @@
 #include <QScreen>
 #include <QUrl>
 
+#include <utility>
+
 PMUiProvider::PMUiProvider(GPMAppCore &core, QObject *parent)
     : QObject(parent)
     , m_core(core)
@@ -35,6 +37,7 @@ void PMUiProvider::connectCore()
         bringToFront();
         openMainView(url);
     });
+    connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closeMessages);
     connect(&m_core, &GPMAppCore::safeLockedChanged, this, &PMUiProvider::onLockedChanged);
     connect(&m_core, &GPMAppCore::quitRequested, this, [this] {
         saveWindowState();
@@ -110,9 +113,21 @@ void PMUiProvider::showMessage(const QString &title, const QString &text)
     auto *dialog = new QuestionDialog({title, text, {tr("OK")}}, m_window.get());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setModal(false);
-    if (m_window)
-        bringToFront();
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    if (safe && safe->isUnlocked())
+        m_safeMessages.append(dialog);
+    bringToFront();
     dialog->show();
+}
+
+void PMUiProvider::closeMessages()
+{
+    // They may name items. What goes wrong while the safe is being locked comes later and stays.
+    const QVector<QPointer<QWidget>> messages = std::exchange(m_safeMessages, {});
+    for (const QPointer<QWidget> &message : messages) {
+        if (message)
+            message->close();
+    }
 }
 
 void PMUiProvider::openAddress(const QUrl &url)

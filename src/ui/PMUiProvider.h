@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QVector>
 
 #include <memory>
 
@@ -46,6 +47,7 @@ public Q_SLOTS:
 
 private:
     void showMessage(const QString &title, const QString &text);
+    void closeMessages();
     void openAddress(const QUrl &url);
     void showAbout();
     void lock();
@@ -59,4 +61,5 @@ private:
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<TrayIcon> m_tray;
+    QVector<QPointer<QWidget>> m_safeMessages; ///< those shown while the safe was open
 };

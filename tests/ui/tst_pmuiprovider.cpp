@@ -16,6 +16,7 @@ private Q_SLOTS:
     void stateIsKept();
     void firstLaunchForgetsOldWindows();
     void failedSaveOnLockIsTold();
+    void lockClosesMessagesAboutItems();
     void splashStaysItsTime();
 };
 
@@ -124,6 +125,32 @@ void TestPMUiProvider::failedSaveOnLockIsTold()
     const auto *dialog = ui.window().findChild<QuestionDialog *>();
     QVERIFY(dialog && dialog->isVisible());
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Can't save changes."));
+}
+
+void TestPMUiProvider::lockClosesMessagesAboutItems()
+{
+    TestCore test;
+    Ui ui(test);
+    const auto titles = [&ui] {
+        QStringList shown;
+        for (const auto *dialog : ui.window().findChildren<QuestionDialog *>()) {
+            if (dialog->isVisible())
+                shown.append(dialog->windowTitle());
+        }
+        return shown;
+    };
+    Q_EMIT test.core.message(QStringLiteral("Warning"), QStringLiteral("Before"));
+    QVERIFY(test.createSafe());
+    const QString id = test.addLogin(QStringLiteral("Shop"));
+    QVERIFY(test.core.saveCurrentSafe());
+    Q_EMIT test.core.message(QStringLiteral("Can't login."), QStringLiteral("Shop"));
+    QCOMPARE(titles(), QStringList({QStringLiteral("Warning"), QStringLiteral("Can't login.")}));
+
+    QVERIFY(QDir(test.core.currentSafe()->folder()).removeRecursively());
+    test.login(id)->setNote(QStringLiteral("changed"));
+    test.core.lockCurrentSafe();
+    QCOMPARE(titles(),
+             QStringList({QStringLiteral("Warning"), QStringLiteral("Can't save changes.")}));
 }
 
 void TestPMUiProvider::splashStaysItsTime()
