@@ -33,10 +33,7 @@ void PMUiProvider::connectCore()
 {
     connect(&m_core, &GPMAppCore::message, this, &PMUiProvider::showMessage);
     connect(&m_core, &GPMAppCore::openAddress, this, &PMUiProvider::openAddress);
-    connect(&m_core, &GPMAppCore::requestShowMainWindow, this, [this](const QString &url) {
-        bringToFront();
-        openMainView(url);
-    });
+    connect(&m_core, &GPMAppCore::requestShowMainWindow, this, &PMUiProvider::bringToFront);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closeMessages);
     connect(&m_core, &GPMAppCore::safeLockedChanged, this, &PMUiProvider::onLockedChanged);
     connect(&m_core, &GPMAppCore::quitRequested, this, [this] {
@@ -83,15 +80,21 @@ void PMUiProvider::openMainView(const QString &url)
 {
     if (!m_window)
         return;
-    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
-    if (!safe || !safe->isUnlocked()) {
-        PagesStack &pages = m_window->pages();
-        if (!safe)
-            pages.unlockLogic().chooseFirst(m_settings.lastUsedSafe());
-        pages.showFirstPage();
-    }
+    if (!std::exchange(m_firstPageChosen, true))
+        showFirstPage();
     if (!url.isEmpty())
         bringToFront();
+}
+
+void PMUiProvider::showFirstPage()
+{
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    if (safe && safe->isUnlocked())
+        return;
+    PagesStack &pages = m_window->pages();
+    if (!safe)
+        pages.unlockLogic().chooseFirst(m_settings.lastUsedSafe());
+    pages.showFirstPage();
 }
 
 void PMUiProvider::bringToFront()

@@ -38,8 +38,8 @@ public:
     void createMainWindow();
     QWidget *mainWindow() const;
 
-    /// Brings the page up that comes first. With the address of a browser's page the window comes
-    /// to the front as well.
+    /// Brings the page up that comes first; once, later it would wipe what the user entered. With
+    /// the address of a browser's page the window comes to the front as well.
     void openMainView(const QString &url);
 
 public Q_SLOTS:
@@ -52,6 +52,7 @@ private:
     void showAbout();
     void lock();
     void exitByUser();
+    void showFirstPage();
     void saveWindowState();
     void onLockedChanged(bool locked);
 
@@ -61,5 +62,6 @@ private:
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<TrayIcon> m_tray;
+    bool m_firstPageChosen = false;
     QVector<QPointer<QWidget>> m_safeMessages; ///< those shown while the safe was open
 };

@@ -2,8 +2,10 @@
 #include "SplashScreen.h"
 #include "UiTesting.h"
 
+#include <QComboBox>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSettings>
 
 class TestPMUiProvider : public QObject
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void firstLaunchForgetsOldWindows();
     void failedSaveOnLockIsTold();
     void lockClosesMessagesAboutItems();
+    void requestsKeepWhatIsEntered();
     void splashStaysItsTime();
 };
 
@@ -151,6 +154,33 @@ void TestPMUiProvider::lockClosesMessagesAboutItems()
     test.core.lockCurrentSafe();
     QCOMPARE(titles(),
              QStringList({QStringLiteral("Warning"), QStringLiteral("Can't save changes.")}));
+}
+
+void TestPMUiProvider::requestsKeepWhatIsEntered()
+{
+    TestCore test;
+    Ui ui(test);
+    ui.provider.openMainView(QString());
+    ui.provider.bringToFront();
+    auto *name = find<QLineEdit>(ui.window(), "newSafeName");
+    name->setText(QStringLiteral("Half"));
+    const QString address = QStringLiteral("https://shop.example");
+    Q_EMIT test.core.requestShowMainWindow(address);
+    ui.provider.openMainView(address);
+    QCOMPARE(name->text(), QStringLiteral("Half"));
+
+    QVERIFY(test.createSafe(QStringLiteral("First")));
+    const QString first = test.core.currentSafe()->folder();
+    QVERIFY(test.createSafe(QStringLiteral("Second")));
+    test.core.lockCurrentSafe();
+    auto *selector = find<QComboBox>(ui.window(), "safeSelector");
+    const int index = selector->findData(first);
+    selector->setCurrentIndex(index);
+    Q_EMIT selector->activated(index);
+    find<QLineEdit>(ui.window(), "masterPassword")->setText(QStringLiteral("half"));
+    Q_EMIT test.core.requestShowMainWindow(address);
+    QCOMPARE(test.core.currentSafe()->folder(), first);
+    QCOMPARE(find<QLineEdit>(ui.window(), "masterPassword")->text(), QStringLiteral("half"));
 }
 
 void TestPMUiProvider::splashStaysItsTime()
