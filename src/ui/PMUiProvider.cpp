@@ -18,9 +18,10 @@
 
 #include <utility>
 
-PMUiProvider::PMUiProvider(GPMAppCore &core, QObject *parent)
+PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray, QObject *parent)
     : QObject(parent)
     , m_core(core)
+    , m_hasTray(std::move(hasTray))
     , m_settings(QFileInfo(core.settings().filePath()).path())
     , m_translator(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"))
     , m_theme(std::make_unique<Theme>())
@@ -58,7 +59,11 @@ void PMUiProvider::createMainWindow()
     m_theme->apply();
     auto *view = new MainView(m_core, *m_theme);
     m_window = std::make_unique<SecureWindow>(m_core, *m_theme, view);
+    m_window->setTrayCheck(m_hasTray);
     connect(view, &MainView::lockRequested, this, &PMUiProvider::lock);
+    connect(view, &MainView::helpRequested, this, &PMUiProvider::showAbout);
+    connect(view, &MainView::exitRequested, this, &PMUiProvider::exitByUser);
+    connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
     m_settings.restoreGeometry(*m_window);
     view->restoreSplitter(m_settings.splitter(m_window->objectName()));
@@ -84,6 +89,8 @@ void PMUiProvider::openMainView(const QString &url)
         showFirstPage();
     if (!url.isEmpty())
         bringToFront();
+    else if (!m_window->isVisible() && !m_hasTray())
+        m_window->showMinimized();
 }
 
 void PMUiProvider::showFirstPage()
@@ -147,8 +154,8 @@ void PMUiProvider::showAbout()
     showMessage(tr("Glaceron Password Manager"),
                 tr("Version %1\n\nCtrl+N adds a login, Ctrl+F searches, Ctrl+E edits, Ctrl+S "
                    "saves.\nCtrl+B copies the user name, Ctrl+Shift+C the password.\nCtrl+Return "
-                   "logs in, Ctrl+L locks the safe.\n\nThe typeface is Inter (SIL Open Font "
-                   "License), the icons are Tabler Icons (MIT License).")
+                   "logs in, Ctrl+L locks the safe, Ctrl+Q ends the program.\n\nThe typeface is "
+                   "Inter (SIL Open Font License), the icons are Tabler Icons (MIT License).")
                     .arg(QCoreApplication::applicationVersion()));
 }
 

@@ -5,8 +5,10 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSystemTrayIcon>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 
 class GPMAppCore;
@@ -22,7 +24,10 @@ class PMUiProvider : public QObject
     Q_OBJECT
 
 public:
-    explicit PMUiProvider(GPMAppCore &core, QObject *parent = nullptr);
+    /// @param hasTray tells whether the system shows tray icons now
+    explicit PMUiProvider(GPMAppCore &core,
+                          std::function<bool()> hasTray = &QSystemTrayIcon::isSystemTrayAvailable,
+                          QObject *parent = nullptr);
     ~PMUiProvider() override;
 
     PMTranslator &translator() { return m_translator; }
@@ -39,7 +44,8 @@ public:
     QWidget *mainWindow() const;
 
     /// Brings the page up that comes first; once, later it would wipe what the user entered. With
-    /// the address of a browser's page the window comes to the front as well.
+    /// the address of a browser's page the window comes to the front as well. Without a tray a
+    /// hidden window is shown minimised, as nothing else could bring it back.
     void openMainView(const QString &url);
 
 public Q_SLOTS:
@@ -57,6 +63,7 @@ private:
     void onLockedChanged(bool locked);
 
     GPMAppCore &m_core;
+    std::function<bool()> m_hasTray;
     UiSettings m_settings;
     PMTranslator m_translator;
     std::unique_ptr<Theme> m_theme;

@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QSettings>
+#include <QToolButton>
 
 class TestPMUiProvider : public QObject
 {
@@ -20,6 +22,8 @@ private Q_SLOTS:
     void failedSaveOnLockIsTold();
     void lockClosesMessagesAboutItems();
     void requestsKeepWhatIsEntered();
+    void withoutATrayNothingIsHidden();
+    void menuEndsTheProgram();
     void splashStaysItsTime();
 };
 
@@ -32,8 +36,8 @@ QString storePath(const TestCore &test)
 
 struct Ui
 {
-    explicit Ui(TestCore &test)
-        : provider(test.core)
+    explicit Ui(TestCore &test, bool hasTray = true)
+        : provider(test.core, [hasTray] { return hasTray; })
     {
         provider.connectCore();
         provider.createMainWindow();
@@ -181,6 +185,29 @@ void TestPMUiProvider::requestsKeepWhatIsEntered()
     Q_EMIT test.core.requestShowMainWindow(address);
     QCOMPARE(test.core.currentSafe()->folder(), first);
     QCOMPARE(find<QLineEdit>(ui.window(), "masterPassword")->text(), QStringLiteral("half"));
+}
+
+void TestPMUiProvider::withoutATrayNothingIsHidden()
+{
+    TestCore test;
+    Ui ui(test, false);
+    ui.provider.openMainView(QString());
+    QVERIFY(ui.window().isVisible() && ui.window().isMinimized());
+    ui.provider.bringToFront();
+    QVERIFY(!ui.window().isMinimized());
+    ui.window().close();
+    QVERIFY(ui.window().isVisible() && ui.window().isMinimized());
+}
+
+void TestPMUiProvider::menuEndsTheProgram()
+{
+    TestCore test;
+    Ui ui(test, false);
+    QVERIFY(test.createSafe());
+    QSignalSpy quit(&test.core, &GPMAppCore::quitRequested);
+    find<QToolButton>(ui.window(), "menuButton")->menu()->actions().last()->trigger();
+    QCOMPARE(quit.count(), 1);
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
 }
 
 void TestPMUiProvider::splashStaysItsTime()

@@ -19,6 +19,9 @@ private Q_SLOTS:
     void withoutMotionTheyAreThereAtOnce();
     void typedKeysReachThePasswordWhileShuttersClose();
     void closingHides();
+    void closingWithoutATrayMinimises();
+    void endOfSessionClosesTheWindow();
+    void exitKey();
     void failedSaveAsks_data();
     void failedSaveAsks();
     void retriedSaveLocks();
@@ -32,6 +35,7 @@ struct Window
         : theme(makeTheme(motion))
         , window(test.core, *theme, new MainView(test.core, *theme), asker)
     {
+        window.setTrayCheck([this] { return hasTray; });
         window.pages().showFirstPage();
         window.show();
         window.activateWindow();
@@ -45,6 +49,7 @@ struct Window
     }
 
     std::unique_ptr<Theme> theme;
+    bool hasTray = true;
     SecureWindow window;
 };
 
@@ -166,6 +171,40 @@ void TestSecureWindow::closingHides()
     find<QPushButton>(shown.window, "notNowButton")->click();
     QVERIFY(!shown.window.isVisible());
     QCOMPARE(hidden.count(), 1);
+}
+
+void TestSecureWindow::closingWithoutATrayMinimises()
+{
+    TestCore test;
+    Window shown(test);
+    shown.hasTray = false;
+    find<QPushButton>(shown.window, "notNowButton")->click();
+    QVERIFY(shown.window.isVisible() && shown.window.isMinimized());
+    shown.window.showNormal();
+    QVERIFY(!shown.window.close());
+    QVERIFY(shown.window.isVisible() && shown.window.isMinimized());
+}
+
+void TestSecureWindow::endOfSessionClosesTheWindow()
+{
+    using Way = SecureWindow::CloseWay;
+    QCOMPARE(SecureWindow::closeWay(true, true), Way::Close);
+    QCOMPARE(SecureWindow::closeWay(true, false), Way::Close);
+    QCOMPARE(SecureWindow::closeWay(false, true), Way::Hide);
+    QCOMPARE(SecureWindow::closeWay(false, false), Way::Minimise);
+}
+
+void TestSecureWindow::exitKey()
+{
+    TestCore test;
+    Window shown(test, false);
+    QVERIFY(QTest::qWaitForWindowActive(&shown.window));
+    QSignalSpy wanted(&shown.window, &SecureWindow::exitRequested);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q, Qt::ControlModifier);
+    QCOMPARE(wanted.count(), 1);
+    QVERIFY(test.createSafe());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q, Qt::ControlModifier);
+    QCOMPARE(wanted.count(), 2);
 }
 
 void TestSecureWindow::failedSaveAsks_data()

@@ -7,6 +7,7 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
 #include <QDir>
@@ -14,6 +15,7 @@
 #include <QGraphicsOpacityEffect>
 #include <QPropertyAnimation>
 #include <QScopedValueRollback>
+#include <QShortcut>
 
 #include <utility>
 
@@ -45,6 +47,8 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     m_pages->raise();
     setOpenProgress(0);
     configureStateMachine();
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this), &QShortcut::activated,
+            this, &SecureWindow::exitRequested);
     connect(m_pages, &PagesStack::dismissed, this, &QWidget::close);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
@@ -177,8 +181,22 @@ void SecureWindow::resizeEvent(QResizeEvent *)
 
 void SecureWindow::closeEvent(QCloseEvent *event)
 {
-    event->ignore();
-    hide();
+    const CloseWay way = closeWay(qApp->isSavingSession(), m_hasTray());
+    // To refuse would stop the user from logging out.
+    event->setAccepted(way == CloseWay::Close);
+    if (way == CloseWay::Hide)
+        hide();
+    if (way == CloseWay::Minimise) {
+        setWindowState(windowState() | Qt::WindowMinimized);
+        Q_EMIT hidden();
+    }
+}
+
+SecureWindow::CloseWay SecureWindow::closeWay(bool sessionEnds, bool hasTray)
+{
+    if (sessionEnds)
+        return CloseWay::Close;
+    return hasTray ? CloseWay::Hide : CloseWay::Minimise;
 }
 
 void SecureWindow::hideEvent(QHideEvent *event)

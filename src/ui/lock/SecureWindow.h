@@ -3,6 +3,7 @@
 #include "dialogs/Question.h"
 
 #include <QStateMachine>
+#include <QSystemTrayIcon>
 #include <QWidget>
 
 class GPMAppCore;
@@ -13,7 +14,8 @@ class Shutters;
 class Theme;
 
 /// The main window: the lock pages behind closed shutters while the safe is locked, its content
-/// while it is open. Closing it hides it, the program lives on in the tray.
+/// while it is open. Closing it hides it, the program lives on in the tray; where there is none it
+/// is minimised.
 class SecureWindow : public QWidget
 {
     Q_OBJECT
@@ -23,6 +25,14 @@ public:
     /// @param content what an open safe is shown with; the window becomes its owner
     /// @param asker puts questions to the user; the default one shows dialogs
     SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *content, Asker asker = {});
+
+    /// Whether there is a tray to bring the window back from. It may come and go.
+    using TrayCheck = std::function<bool()>;
+    void setTrayCheck(const TrayCheck &hasTray) { m_hasTray = hasTray; }
+
+    /// What becomes of the window when it is closed.
+    enum class CloseWay { Close, Hide, Minimise };
+    static CloseWay closeWay(bool sessionEnds, bool hasTray);
 
     /// 0 when the shutters are closed, 1 when they are open.
     qreal openProgress() const { return m_openProgress; }
@@ -40,7 +50,9 @@ public:
     bool isLosingChanges() const { return m_losingChanges; }
 
 Q_SIGNALS:
+    /// The window was put away.
     void hidden();
+    void exitRequested();
     void _requestOpenShuttersPrivate(QPrivateSignal);
     void _requestCloseShuttersPrivate(QPrivateSignal);
 
@@ -62,6 +74,7 @@ private:
     GPMAppCore &m_core;
     const Theme &m_theme;
     Asker m_asker;
+    TrayCheck m_hasTray = &QSystemTrayIcon::isSystemTrayAvailable;
     SecureContent *m_content;
     Shutters *m_shutters;
     PagesStack *m_pages;

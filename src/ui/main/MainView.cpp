@@ -76,6 +76,8 @@ void MainView::connectParts()
 {
     connect(m_sidebar, &Sidebar::categoryChosen, this, &MainView::onCategoryChosen);
     connect(m_sidebar, &Sidebar::lockRequested, this, &MainView::lockRequested);
+    connect(m_sidebar, &Sidebar::helpRequested, this, &MainView::helpRequested);
+    connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
     connect(&m_items, &ItemListModel::contentChanged, this, &MainView::onContentChanged);
     connect(m_list, &ItemListPane::currentChosen, this, &MainView::onCurrentChosen);
     connect(m_list, &ItemListPane::searched, this, &MainView::onSearched);

@@ -32,6 +32,8 @@ public:
 
 Q_SIGNALS:
     void lockRequested();
+    void helpRequested();
+    void exitRequested();
 
 private:
     void layOut();

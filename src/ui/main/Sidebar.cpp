@@ -10,6 +10,7 @@
 
 #include <QBoxLayout>
 #include <QListView>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QSvgWidget>
 
@@ -52,22 +53,39 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &Sidebar::onCurrentChanged);
 
-    auto *lock = makeIconButton(theme.icon(QStringLiteral("lock"), Palette::SidebarText),
-                                tr("Lock"), "tool", this);
-    lock->setObjectName(QStringLiteral("lockButton"));
-    lock->setToolTip(tr("Lock (Ctrl+L)"));
-    connect(lock, &QToolButton::clicked, this, &Sidebar::lockRequested);
-    auto *foot = new QHBoxLayout;
-    foot->setContentsMargins(14, 4, 14, 12);
-    foot->addWidget(lock);
-    foot->addStretch();
-
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins({});
     all->setSpacing(0);
     all->addLayout(head);
     all->addWidget(m_list, 1);
-    all->addLayout(foot);
+    all->addLayout(makeFoot(theme));
+}
+
+QBoxLayout *Sidebar::makeFoot(const Theme &theme)
+{
+    auto *lock = makeIconButton(theme.icon(QStringLiteral("lock"), Palette::SidebarText),
+                                tr("Lock"), "tool", this);
+    lock->setObjectName(QStringLiteral("lockButton"));
+    lock->setToolTip(tr("Lock (Ctrl+L)"));
+    connect(lock, &QToolButton::clicked, this, &Sidebar::lockRequested);
+
+    auto *more = makeIconButton(theme.icon(QStringLiteral("chevron-down"), Palette::SidebarText),
+                                tr("Menu"), "tool", this);
+    more->setObjectName(QStringLiteral("menuButton"));
+    more->setPopupMode(QToolButton::InstantPopup);
+    auto *menu = new QMenu(more);
+    menu->addAction(tr("Help"), this, &Sidebar::helpRequested);
+    menu->addSeparator();
+    // The window knows the key, it holds on the lock pages too; here it is only told.
+    menu->addAction(tr("Exit") + QStringLiteral("\tCtrl+Q"), this, &Sidebar::exitRequested);
+    more->setMenu(menu);
+
+    auto *foot = new QHBoxLayout;
+    foot->setContentsMargins(14, 4, 14, 12);
+    foot->addWidget(lock);
+    foot->addStretch();
+    foot->addWidget(more);
+    return foot;
 }
 
 void Sidebar::setSafeName(const QString &name)

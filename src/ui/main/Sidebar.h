@@ -6,11 +6,13 @@
 
 class CategoryModel;
 class ElidedLabel;
+class QBoxLayout;
 class QLabel;
 class QListView;
 class Theme;
 
-/// The name of the safe, the categories of its items, and the lock.
+/// The name of the safe, the categories of its items, the lock and the
+/// program's menu.
 class Sidebar : public QWidget
 {
     Q_OBJECT
@@ -30,8 +32,11 @@ public:
 Q_SIGNALS:
     void categoryChosen(const ItemCategory &category);
     void lockRequested();
+    void helpRequested();
+    void exitRequested();
 
 private:
+    QBoxLayout *makeFoot(const Theme &theme);
     void onCurrentChanged(const QModelIndex &index);
 
     CategoryModel *m_model;
