@@ -1,4 +1,5 @@
 #include "UiTesting.h"
+#include "main/ItemListPane.h"
 #include "main/MainView.h"
 #include "style/Theme.h"
 
@@ -370,9 +371,15 @@ void TestMainView::enterPressesSave()
     shown.press(Qt::Key_N, Qt::ControlModifier);
     shown.field("titleField")->setText(QStringLiteral("Shop"));
     shown.field<QPushButton>("saveButton")->setFocus();
+    QSignalSpy activated(shown.view.findChild<ItemListPane *>(), &ItemListPane::activated);
     shown.press(Qt::Key_Return);
     QVERIFY(!shown.isEditing());
     QCOMPARE(shown.shownTitle(), QStringLiteral("Shop"));
+    // The key is held a little too long, and the list has the keyboard now.
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"),
+                       true);
+    QCoreApplication::sendEvent(shown.list(), &repeated);
+    QVERIFY(activated.isEmpty());
 }
 
 void TestMainView::nothingIsCopiedWhileEditing()

@@ -293,6 +293,10 @@ bool ItemListPane::eventFilter(QObject *watched, QEvent *event)
         placeSearchKey();
     if (event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);
+        const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        // An Enter still held from a button elsewhere is not meant for the item.
+        if (isEnter && key->isAutoRepeat())
+            return true;
         const Qt::KeyboardModifiers modifiers = key->modifiers() & ~Qt::KeypadModifier;
         if (modifiers == Qt::NoModifier &&
             (watched == m_search ? onSearchKey(key->key()) : onListKey(key->key())))
