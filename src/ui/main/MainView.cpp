@@ -76,6 +76,8 @@ void MainView::connectParts()
 {
     connect(m_sidebar, &Sidebar::categoryChosen, this, &MainView::onCategoryChosen);
     connect(m_sidebar, &Sidebar::lockRequested, this, &MainView::lockRequested);
+    connect(m_sidebar, &Sidebar::generatorRequested, this, &MainView::generatorRequested);
+    connect(m_sidebar, &Sidebar::settingsRequested, this, &MainView::settingsRequested);
     connect(m_sidebar, &Sidebar::helpRequested, this, &MainView::helpRequested);
     connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
     connect(&m_items, &ItemListModel::contentChanged, this, &MainView::onContentChanged);
@@ -119,7 +121,7 @@ void MainView::addShortcuts()
         {"Ctrl+E", &MainView::editItem},      {"Ctrl+S", &MainView::saveItem},
         {"Ctrl+Return", &MainView::logIn},    {"Ctrl+Enter", &MainView::logIn},
         {"Ctrl+B", &MainView::copyUserName},  {"Ctrl+Shift+C", &MainView::copyPassword},
-        {"Ctrl+L", &MainView::lockRequested},
+        {"Ctrl+L", &MainView::lockRequested}, {"Ctrl+,", &MainView::settingsRequested},
     };
     for (const Shortcut &shortcut : shortcuts)
         connect(new QShortcut(QKeySequence(QLatin1String(shortcut.keys)), this),

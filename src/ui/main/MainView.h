@@ -32,6 +32,8 @@ public:
 
 Q_SIGNALS:
     void lockRequested();
+    void generatorRequested();
+    void settingsRequested();
     void helpRequested();
     void exitRequested();
 

@@ -63,13 +63,42 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
 
 QBoxLayout *Sidebar::makeFoot(const Theme &theme)
 {
-    auto *lock = makeIconButton(theme.icon(QStringLiteral("lock"), Palette::SidebarText),
-                                tr("Lock"), "tool", this);
-    lock->setObjectName(QStringLiteral("lockButton"));
-    lock->setToolTip(tr("Lock (Ctrl+L)"));
-    connect(lock, &QToolButton::clicked, this, &Sidebar::lockRequested);
+    struct Button
+    {
+        const char *name;
+        const char *icon;
+        QString text;
+        const char *keys; ///< told in the tool tip
+        void (Sidebar::*signal)();
+    };
+    const Button buttons[] = {
+        {"lockButton", "lock", tr("Lock"), "Ctrl+L", &Sidebar::lockRequested},
+        {"generatorButton", "wand", tr("Password generator"), "", &Sidebar::generatorRequested},
+        {"healthButton", "heartbeat", tr("Health"), "", &Sidebar::healthRequested},
+        {"settingsButton", "settings", tr("Settings"), "Ctrl+,", &Sidebar::settingsRequested},
+    };
+    auto *foot = new QHBoxLayout;
+    foot->setContentsMargins(14, 4, 14, 12);
+    foot->setSpacing(0);
+    for (const Button &button : buttons) {
+        auto *tool = makeIconButton(theme.icon(QLatin1String(button.icon), Palette::SidebarText),
+                                    button.text, "tool", this);
+        tool->setObjectName(QLatin1String(button.name));
+        if (*button.keys)
+            tool->setToolTip(tr("%1 (%2)").arg(
+                button.text,
+                QKeySequence(QLatin1String(button.keys)).toString(QKeySequence::NativeText)));
+        connect(tool, &QToolButton::clicked, this, button.signal);
+        foot->addWidget(tool);
+        foot->addStretch();
+    }
+    foot->addWidget(makeMenuButton(theme));
+    return foot;
+}
 
-    auto *more = makeIconButton(theme.icon(QStringLiteral("chevron-down"), Palette::SidebarText),
+QWidget *Sidebar::makeMenuButton(const Theme &theme)
+{
+    auto *more = makeIconButton(theme.icon(QStringLiteral("menu-2"), Palette::SidebarText),
                                 tr("Menu"), "tool", this);
     more->setObjectName(QStringLiteral("menuButton"));
     more->setPopupMode(QToolButton::InstantPopup);
@@ -79,13 +108,7 @@ QBoxLayout *Sidebar::makeFoot(const Theme &theme)
     // The window knows the key, it holds on the lock pages too; here it is only told.
     menu->addAction(tr("Exit") + QStringLiteral("\tCtrl+Q"), this, &Sidebar::exitRequested);
     more->setMenu(menu);
-
-    auto *foot = new QHBoxLayout;
-    foot->setContentsMargins(14, 4, 14, 12);
-    foot->addWidget(lock);
-    foot->addStretch();
-    foot->addWidget(more);
-    return foot;
+    return more;
 }
 
 void Sidebar::setSafeName(const QString &name)

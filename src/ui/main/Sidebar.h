@@ -11,8 +11,7 @@ class QLabel;
 class QListView;
 class Theme;
 
-/// The name of the safe, the categories of its items, the lock and the
-/// program's menu.
+/// The name of the safe, the categories of its items, and the ways to what is not about one item.
 class Sidebar : public QWidget
 {
     Q_OBJECT
@@ -32,11 +31,15 @@ public:
 Q_SIGNALS:
     void categoryChosen(const ItemCategory &category);
     void lockRequested();
+    void generatorRequested();
+    void healthRequested();
+    void settingsRequested();
     void helpRequested();
     void exitRequested();
 
 private:
     QBoxLayout *makeFoot(const Theme &theme);
+    QWidget *makeMenuButton(const Theme &theme);
     void onCurrentChanged(const QModelIndex &index);
 
     CategoryModel *m_model;
