@@ -1,9 +1,8 @@
+#include "Contrast.h"
 #include "style/Palette.h"
 #include "style/TilePainter.h"
 
 #include <QtTest>
-
-#include <cmath>
 
 class TestPalette : public QObject
 {
@@ -16,28 +15,6 @@ private Q_SLOTS:
     void tileLetters_data();
     void tileLetters();
 };
-
-namespace {
-
-qreal luminance(const QColor &color)
-{
-    const auto part = [](qreal value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
-           0.0722 * part(color.blueF());
-}
-
-qreal contrast(const QColor &a, const QColor &b)
-{
-    const qreal first = luminance(a) + 0.05;
-    const qreal second = luminance(b) + 0.05;
-    return qMax(first, second) / qMin(first, second);
-}
-
-const qreal readable = 4.5;
-
-} // namespace
 
 void TestPalette::textIsReadable_data()
 {
@@ -72,14 +49,14 @@ void TestPalette::textIsReadable()
 {
     QFETCH(QColor, text);
     QFETCH(QColor, ground);
-    QVERIFY2(contrast(text, ground) >= readable,
+    QVERIFY2(contrast(text, ground) >= readableContrast,
              qPrintable(QString::number(contrast(text, ground))));
 }
 
 void TestPalette::lettersOnTilesAreReadable()
 {
     for (char letter = 'A'; letter <= 'Z'; ++letter)
-        QVERIFY(contrast(Qt::white, tileColor(QString(QLatin1Char(letter)))) >= readable);
+        QVERIFY(contrast(Qt::white, tileColor(QString(QLatin1Char(letter)))) >= readableContrast);
 }
 
 void TestPalette::tileLetters_data()

@@ -1,0 +1,255 @@
+#include "EveryWindow.h"
+
+#include "ItemListModel.h"
+#include "PMBankAccount.h"
+#include "PMCreditCard.h"
+#include "PMDriverLicense.h"
+#include "PMFtpAccount.h"
+#include "PMIdentity.h"
+#include "PMItemFactory.h"
+#include "PMPassport.h"
+#include "PMSSN.h"
+#include "PMSecureNote.h"
+#include "PMSoftwareLicense.h"
+#include "PasswordStrength.h"
+#include "lock/PagesStack.h"
+#include "style/Style.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDate>
+#include <QFontDatabase>
+#include <QPushButton>
+
+namespace {
+
+using Fields = std::initializer_list<std::pair<const char *, QVariant>>;
+
+void add(GPMAppCore &core, PMListItem::Type type, const Fields &fields)
+{
+    std::unique_ptr<PMListItem> item = core.modelCreateItem(type);
+    for (const auto &field : fields)
+        item->setProperty(field.first, field.second);
+    core.modelAddItem(std::move(item));
+}
+
+PMFieldTypes::Date date(const QDate &day)
+{
+    return {day.year(), day.month(), day.day()};
+}
+
+struct DemoLogin
+{
+    const char *title;
+    const char *userName;
+    const char *password;
+    int uses;
+    bool favorite;
+};
+
+const DemoLogin demoLogins[] = {
+    {"Alpine Club", "ana.martin@example.org", "martin1984", 3, false},
+    {"Bank of the North", "ana-m-4471", "q7V<m2X,8Rz!Kd", 12, true},
+    {"Cloudmail", "ana.martin", "tW4:nB9pQz;r7X", 37, false},
+    {"Design Tools", "ana@studio.example", "sunshine", 1, false},
+    {"Every Books", "ana.martin", "sunshine", 0, false},
+    {"Ferry Tickets", "ana.martin@example.org", "Lr5%kQ2w(Hn8", 2, false},
+    {"Git Forge", "anam", "03/05/1999", 21, true},
+    {"Harbour Health", "AM-204118", "vY8#dM3s)Jp6", 4, false},
+    {"Island Coffee", "ana.martin@example.org", "Zc9&bT4f,Gx2", 8, false}};
+
+std::unique_ptr<QWidget> shown(std::unique_ptr<QWidget> window)
+{
+    window->show();
+    return window;
+}
+
+std::unique_ptr<QWidget> showItem(Stage &stage, const char *title)
+{
+    auto window = stage.mainWindow();
+    stage.choose(*window, QLatin1String(title));
+    return window;
+}
+
+std::unique_ptr<QWidget> plainWindow(Stage &stage)
+{
+    return stage.mainWindow();
+}
+
+std::unique_ptr<QWidget> createSafeWindow(Stage &stage)
+{
+    auto window = stage.mainWindow();
+    window->pages().showCreatePage();
+    return window;
+}
+
+std::unique_ptr<QWidget> editItem(Stage &stage, const char *title)
+{
+    auto window = showItem(stage, title);
+    find<QPushButton>(*window, "editButton")->click();
+    return window;
+}
+
+std::unique_ptr<QWidget> question(Stage &)
+{
+    return shown(std::make_unique<QuestionDialog>(
+        Question{QStringLiteral("The object has been modified"),
+                 QStringLiteral("You have not saved changes yet"),
+                 {QStringLiteral("Save"), QStringLiteral("Discard changes"),
+                  QStringLiteral("Continue editing")}},
+        nullptr));
+}
+
+/// The windows that show an item, or edit it, differ in the item alone.
+std::function<std::unique_ptr<QWidget>(Stage &)>
+itemCase(std::unique_ptr<QWidget> (*show)(Stage &, const char *), const char *title)
+{
+    return [show, title](Stage &stage) { return show(stage, title); };
+}
+
+} // namespace
+
+Stage::Stage(Safe safe)
+{
+    const int font = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/SG-R.TTF"));
+    QApplication::setFont(
+        {QFontDatabase::applicationFontFamilies(font).value(0), Style::basePointSize()});
+    // What moves would be met half way.
+    theme.setReducedMotion(true);
+    theme.apply();
+    test.createSafe();
+    if (safe == Filled)
+        fillSafe();
+    if (safe == Locked)
+        test.core.lockCurrentSafe();
+}
+
+void Stage::fillSafe()
+{
+    GPMAppCore &core = test.core;
+    const QDate today = QDate::currentDate();
+    for (const DemoLogin &login : demoLogins) {
+        const QString title = QLatin1String(login.title);
+        const QString host = title.toLower().remove(QLatin1Char(' '));
+        const QString password = QLatin1String(login.password);
+        add(core, PMListItem::Login,
+            {{"title", title},
+             {"login", QLatin1String(login.userName)},
+             {"secondaryText", QLatin1String(login.userName)},
+             {"password", password},
+             {"strength", QVariant::fromValue(static_cast<PMFieldTypes::PasswordStrength>(
+                              passwordStrengthLevel(password)))},
+             {"url", QStringLiteral("https://www.%1.example/login").arg(host)},
+             {"useCount", login.uses},
+             {"favorite", login.favorite}});
+    }
+    if (PMListItem *mail = core.currentSafe()->item(id(QStringLiteral("Cloudmail"))))
+        mail->setNote(QStringLiteral("Recovery codes are in the attachment.\nSecond factor on the "
+                                     "phone."));
+    add(core, PMListItem::CreditCard,
+        {{"title", QStringLiteral("Travel card")},
+         {"bank", QStringLiteral("Bank of the North")},
+         {"secondaryText", QStringLiteral("Bank of the North")},
+         {"number", QStringLiteral("5555 5555 5555 4444")},
+         {"cardholder", QStringLiteral("ANA MARTIN")},
+         {"cardType", PMCreditCard::MasterCard},
+         {"code", QStringLiteral("123")},
+         {"expire", QVariant::fromValue(date(today.addDays(40)))},
+         {"bankPhone", QVariant::fromValue(PMFieldTypes::Phone{QStringLiteral("44"),
+                                                               QStringLiteral("2079 460000")})},
+         {"useCount", 8}});
+    add(core, PMListItem::BankAccount,
+        {{"title", QStringLiteral("Household")},
+         {"bankName", QStringLiteral("Bank of the North")},
+         {"secondaryText", QStringLiteral("Bank of the North")},
+         {"name", QStringLiteral("Ana Martin")},
+         {"iban", QStringLiteral("GB33 BUKB 2020 1555 5555 55")},
+         {"pin", QStringLiteral("4711")}});
+    add(core, PMListItem::Identity,
+        {{"title", QStringLiteral("Ana at home")},
+         {"secondaryText", QStringLiteral("ana.martin@example.org")},
+         {"firstName", QStringLiteral("Ana")},
+         {"lastName", QStringLiteral("Martin")},
+         {"birthDate", QVariant::fromValue(PMFieldTypes::Date{1984, 2, 29})},
+         {"gender", QVariant::fromValue(PMFieldTypes::Gender::Female)},
+         {"email", QStringLiteral("ana.martin@example.org")},
+         {"phone", QVariant::fromValue(
+                       PMFieldTypes::Phone{QStringLiteral("44"), QStringLiteral("7700 900123")})},
+         {"addressLine1", QStringLiteral("12 Harbour Street")},
+         {"city", QStringLiteral("Bristol")},
+         {"zipCode", QStringLiteral("BS1 4DJ")},
+         {"country", QStringLiteral("United Kingdom")}});
+    add(core, PMListItem::Passport,
+        {{"title", QStringLiteral("Ana's passport")},
+         {"fullName", QStringLiteral("Ana Martin")},
+         {"number", QStringLiteral("533401372")},
+         {"expireDate", QVariant::fromValue(date(today.addYears(4)))}});
+    add(core, PMListItem::SSN,
+        {{"title", QStringLiteral("National insurance")},
+         {"name", QStringLiteral("Ana Martin")},
+         {"number", QStringLiteral("QQ 12 34 56 C")}});
+    add(core, PMListItem::DriverLicense,
+        {{"title", QStringLiteral("Driving licence")},
+         {"fullName", QStringLiteral("Ana Martin")},
+         {"number", QStringLiteral("MARTI 852298 A99HB")},
+         {"height", 171},
+         {"expireDate", QVariant::fromValue(date(today.addDays(-20)))}});
+    add(core, PMListItem::SecureNote,
+        {{"title", QStringLiteral("Alarm code")},
+         {"text", QStringLiteral("Front door: the year we moved in.\nShed: none.")}});
+    add(core, PMListItem::FtpAccount,
+        {{"title", QStringLiteral("Photo archive")},
+         {"server", QStringLiteral("ftp.photos.example")},
+         {"username", QStringLiteral("ana")},
+         {"password", QStringLiteral("Wm3!xQ7:pLs2")}});
+    add(core, PMListItem::SoftwareLicense,
+        {{"title", QStringLiteral("Page layout")},
+         {"version", QStringLiteral("7.2")},
+         {"licenseKey", QStringLiteral("AB12-CD34-EF56-GH78")}});
+}
+
+std::unique_ptr<SecureWindow> Stage::mainWindow()
+{
+    auto window = std::make_unique<SecureWindow>(test.core, theme, new MainView(test.core, theme));
+    window->pages().showFirstPage();
+    window->show();
+    window->activateWindow();
+    return window;
+}
+
+QString Stage::id(const QString &title) const
+{
+    for (const PMListItem *item : test.core.currentSafe()->items()) {
+        if (item->title() == title)
+            return item->id();
+    }
+    return {};
+}
+
+void Stage::choose(QWidget &window, const QString &title) const
+{
+    auto *list = find<QAbstractItemView>(window, "itemList");
+    const QAbstractItemModel &model = *list->model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex index = model.index(row, 0);
+        if (index.data().toString() == title)
+            list->setCurrentIndex(index);
+    }
+}
+
+const QVector<WindowCase> &everyWindow()
+{
+    static const QVector<WindowCase> cases{
+        {"lock", plainWindow, Stage::Locked},
+        {"create-safe", createSafeWindow, Stage::Locked},
+        {"empty-safe", plainWindow, Stage::Empty},
+        {"main", itemCase(showItem, "Cloudmail")},
+        {"card", itemCase(showItem, "Travel card")},
+        {"bank-account", itemCase(showItem, "Household")},
+        {"identity", itemCase(showItem, "Ana at home")},
+        {"passport", itemCase(showItem, "Ana's passport")},
+        {"driver-licence", itemCase(showItem, "Driving licence")},
+        {"edit-login", itemCase(editItem, "Cloudmail")},
+        {"question", question}};
+    return cases;
+}

@@ -1,0 +1,230 @@
+#include "WindowChecks.h"
+
+#include "Contrast.h"
+#include "widgets/ElidedLabel.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPixmap>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QtTest>
+
+namespace {
+
+QString describe(const QWidget &widget, const QString &fault)
+{
+    return QStringLiteral("%1 %2 “%3”: %4")
+        .arg(QLatin1String(widget.metaObject()->className()), widget.objectName(),
+             widget.property("text").toString().left(40), fault);
+}
+
+/// The controls of a window that are in sight, or would be after scrolling.
+QVector<QWidget *> controls(QWidget &window)
+{
+    QVector<QWidget *> shown;
+    for (QWidget *widget : window.findChildren<QWidget *>()) {
+        if (widget->isVisible() && widget->window() == &window)
+            shown.append(widget);
+    }
+    return shown;
+}
+
+bool takesTab(const QWidget &widget)
+{
+    return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy();
+}
+
+QRect place(const QWidget &widget)
+{
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
+QString shownText(const QWidget &widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        return label->text();
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget)) {
+        const auto *tool = qobject_cast<const QToolButton *>(button);
+        const bool iconOnly =
+            tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull();
+        return iconOnly ? QString() : button->text();
+    }
+    if (const auto *line = qobject_cast<const QLineEdit *>(&widget))
+        return line->text().isEmpty() ? line->placeholderText() : line->text();
+    return {};
+}
+
+bool isClipped(const QWidget &widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
+        if (label->wordWrap())
+            return label->heightForWidth(label->width()) > label->height();
+        return label->sizeHint().width() > label->width() ||
+               label->sizeHint().height() > label->height();
+    }
+    if (qobject_cast<const QAbstractButton *>(&widget))
+        return widget.sizeHint().width() > widget.width() ||
+               widget.sizeHint().height() > widget.height();
+    if (const auto *line = qobject_cast<const QLineEdit *>(&widget)) {
+        // What the user typed may be longer than the field; what the program says may not.
+        const int room = line->contentsRect().width() - line->textMargins().left() -
+                         line->textMargins().right() - 2 * 9;
+        return line->fontMetrics().horizontalAdvance(line->placeholderText()) > room ||
+               line->fontMetrics().height() > line->contentsRect().height();
+    }
+    if (const auto *box = qobject_cast<const QComboBox *>(&widget))
+        return box->fontMetrics().height() > box->contentsRect().height();
+    return false;
+}
+
+bool scrolls(const QWidget &widget)
+{
+    return widget.parentWidget() && qobject_cast<QAbstractScrollArea *>(widget.parentWidget());
+}
+
+/// Whether a part of the widget lies outside of a parent that does not scroll.
+bool isCutOff(const QWidget &widget)
+{
+    for (const QWidget *inner = &widget; !inner->isWindow(); inner = inner->parentWidget()) {
+        const QWidget *parent = inner->parentWidget();
+        if (scrolls(*inner) || scrolls(*parent))
+            return false;
+        const QRect all(widget.mapTo(parent, QPoint()), widget.size());
+        if (!parent->rect().contains(all))
+            return true;
+    }
+    return false;
+}
+
+/// The contrast of the ink of a text with its ground: the most frequent colour of an area, and the
+/// one that differs most from it and is more than a speck.
+qreal paintedContrast(const QImage &image)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    }
+    QRgb ground = 0;
+    for (auto it = counts.constBegin(); it != counts.constEnd(); ++it) {
+        if (it.value() > counts.value(ground))
+            ground = it.key();
+    }
+    qreal best = 1;
+    for (auto it = counts.constBegin(); it != counts.constEnd(); ++it) {
+        if (it.value() >= 4)
+            best = qMax(best, contrast(QColor(it.key()), QColor(ground)));
+    }
+    return best;
+}
+
+} // namespace
+
+QStringList WindowChecks::nameFaults(QWidget &window)
+{
+    QStringList faults;
+    for (QWidget *widget : controls(window)) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget->focusProxy())
+            continue;
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+        if (!interface)
+            faults << describe(*widget, QStringLiteral("assistive tools do not see it"));
+        else if (interface->text(QAccessible::Name).trimmed().isEmpty())
+            faults << describe(*widget, QStringLiteral("has no name"));
+        else if (interface->role() == QAccessible::NoRole)
+            faults << describe(*widget, QStringLiteral("has no role"));
+    }
+    return faults;
+}
+
+QStringList WindowChecks::tabFaults(QWidget &window)
+{
+    QStringList faults;
+    QVector<QWidget *> open;
+    for (QWidget *widget : controls(window)) {
+        if (takesTab(*widget))
+            open.append(widget);
+    }
+    if (open.isEmpty())
+        return faults;
+    window.activateWindow();
+    open.first()->setFocus(Qt::TabFocusReason);
+    QVector<QWidget *> way;
+    for (int i = 0; i <= 2 * open.size() && window.focusWidget(); ++i) {
+        QWidget *at = window.focusWidget();
+        if (way.contains(at))
+            break;
+        way.append(at);
+        QTest::keyClick(at, Qt::Key_Tab);
+        if (window.focusWidget() == at && open.size() > 1)
+            faults << describe(*at, QStringLiteral("Tab does not get out of it"));
+    }
+    for (QWidget *widget : open) {
+        if (!way.contains(widget) && !widget->isAncestorOf(way.last()))
+            faults << describe(*widget, QStringLiteral("Tab does not reach it"));
+    }
+    int rises = 0;
+    for (int i = 1; i < way.size(); ++i) {
+        const QRect before = place(*way.at(i - 1));
+        const QRect next = place(*way.at(i));
+        const bool sameColumn = next.left() < before.right() && before.left() < next.right();
+        // The way round from the last to the first goes up once.
+        if (sameColumn && next.bottom() < before.top() && ++rises > 1)
+            faults << describe(*way.at(i), QStringLiteral("Tab goes up to it from ") +
+                                               way.at(i - 1)->objectName());
+    }
+    return faults;
+}
+
+QStringList WindowChecks::clippingFaults(QWidget &window)
+{
+    QStringList faults;
+    for (QWidget *widget : controls(window)) {
+        if (shownText(*widget).isEmpty() && !qobject_cast<QComboBox *>(widget))
+            continue;
+        // It shortens what is too long, with an ellipsis, and has it all in its tool tip.
+        if (qobject_cast<ElidedLabel *>(widget))
+            continue;
+        if (isClipped(*widget))
+            faults << describe(*widget, QStringLiteral("has %1×%2, needs %3×%4")
+                                            .arg(widget->width())
+                                            .arg(widget->height())
+                                            .arg(widget->sizeHint().width())
+                                            .arg(widget->sizeHint().height()));
+        else if (isCutOff(*widget))
+            faults << describe(*widget, QStringLiteral("reaches out of its parent"));
+    }
+    return faults;
+}
+
+QStringList WindowChecks::contrastFaults(QWidget &window)
+{
+    QStringList faults;
+    // Twice the size, so that strokes have a core in their own colour.
+    const int scale = 2;
+    QPixmap pixmap(window.size() * scale);
+    pixmap.setDevicePixelRatio(scale);
+    window.render(&pixmap);
+    const QImage image = pixmap.toImage();
+    for (QWidget *widget : controls(window)) {
+        const QRect seen = widget->visibleRegion().boundingRect();
+        // Of what is scrolled half out of sight there may be no letter to see.
+        if (!widget->isEnabled() || shownText(*widget).trimmed().isEmpty() ||
+            seen.height() < widget->height())
+            continue;
+        const QRect area(seen.translated(widget->mapTo(&window, QPoint())));
+        const qreal found =
+            paintedContrast(image.copy(QRect(area.topLeft() * scale, area.size() * scale)));
+        if (found < readableContrast)
+            faults << describe(*widget, QStringLiteral("contrast %1").arg(found, 0, 'f', 2));
+    }
+    return faults;
+}
