@@ -46,6 +46,9 @@ public:
     /// The open safe, locked or not; null while none is chosen.
     const std::shared_ptr<GPMSafe> &currentSafe() const { return m_safe; }
 
+    /// Whether a browser's extension is connected, which can be asked to fill.
+    bool hasExtension() const { return m_server && m_server->hasConnections(); }
+
     /// Makes a safe and opens it. False, with nothing left behind, when it cannot be made.
     bool createSafe(const QString &name, const QString &password, const QString &hint);
 

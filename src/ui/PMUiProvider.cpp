@@ -1,6 +1,7 @@
 #include "PMUiProvider.h"
 
 #include "GPMAppCore.h"
+#include "SideWindows.h"
 #include "TrayIcon.h"
 #include "dialogs/Question.h"
 #include "lock/PagesStack.h"
@@ -60,6 +61,8 @@ void PMUiProvider::createMainWindow()
     auto *view = new MainView(m_core, *m_theme);
     m_window = std::make_unique<SecureWindow>(m_core, *m_theme, view);
     m_window->setTrayCheck(m_hasTray);
+    m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, *m_window);
+    connect(view, &MainView::generatorRequested, m_sideWindows.get(), &SideWindows::openGenerator);
     connect(view, &MainView::lockRequested, this, &PMUiProvider::lock);
     connect(view, &MainView::helpRequested, this, &PMUiProvider::showAbout);
     connect(view, &MainView::exitRequested, this, &PMUiProvider::exitByUser);
@@ -70,6 +73,8 @@ void PMUiProvider::createMainWindow()
 
     m_tray = std::make_unique<TrayIcon>();
     connect(m_tray.get(), &TrayIcon::openRequested, this, &PMUiProvider::bringToFront);
+    connect(m_tray.get(), &TrayIcon::generatorRequested, m_sideWindows.get(),
+            &SideWindows::openGenerator);
     connect(m_tray.get(), &TrayIcon::helpRequested, this, &PMUiProvider::showAbout);
     connect(m_tray.get(), &TrayIcon::lockRequested, this, &PMUiProvider::lock);
     connect(m_tray.get(), &TrayIcon::exitRequested, this, &PMUiProvider::exitByUser);

@@ -14,6 +14,7 @@
 class GPMAppCore;
 class QUrl;
 class SecureWindow;
+class SideWindows;
 class Theme;
 class TrayIcon;
 
@@ -68,6 +69,7 @@ private:
     PMTranslator m_translator;
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<SecureWindow> m_window;
+    std::unique_ptr<SideWindows> m_sideWindows;
     std::unique_ptr<TrayIcon> m_tray;
     bool m_firstPageChosen = false;
     QVector<QPointer<QWidget>> m_safeMessages; ///< those shown while the safe was open

@@ -15,6 +15,7 @@ public:
 
 Q_SIGNALS:
     void openRequested();
+    void generatorRequested();
     void helpRequested();
     void lockRequested();
     void exitRequested();

@@ -8,6 +8,8 @@ const QString lastUsedSafeKey = QStringLiteral("LastUsedSafe");
 const QString screenNumberKey = QStringLiteral("LastMainWindowScreenNumber");
 const QString geometrySuffix = QStringLiteral("_Geometry");
 const QString splitterSuffix = QStringLiteral("_Splitter");
+const QString lengthSuffix = QStringLiteral("_Length");
+const QString specialCountSuffix = QStringLiteral("_SpecialCharsCount");
 
 } // namespace
 
@@ -54,6 +56,19 @@ void UiSettings::saveSplitter(const QString &windowName, const QByteArray &state
 QByteArray UiSettings::splitter(const QString &windowName) const
 {
     return m_store.value(windowName + splitterSuffix).toByteArray();
+}
+
+UiSettings::PasswordShape UiSettings::passwordShape(const QString &windowName) const
+{
+    const PasswordShape usual;
+    return {m_store.value(windowName + lengthSuffix, usual.length).toInt(),
+            m_store.value(windowName + specialCountSuffix, usual.specialCount).toInt()};
+}
+
+void UiSettings::setPasswordShape(const QString &windowName, const PasswordShape &shape)
+{
+    m_store.setValue(windowName + lengthSuffix, shape.length);
+    m_store.setValue(windowName + specialCountSuffix, shape.specialCount);
 }
 
 void UiSettings::forgetWindows()

@@ -23,6 +23,16 @@ public:
     void restoreGeometry(QWidget &window) const;
     void saveSplitter(const QString &windowName, const QByteArray &state);
     QByteArray splitter(const QString &windowName) const;
+
+    /// What the generator's window was set to.
+    struct PasswordShape
+    {
+        int length = 8;
+        int specialCount = 4;
+    };
+    PasswordShape passwordShape(const QString &windowName) const;
+    void setPasswordShape(const QString &windowName, const PasswordShape &shape);
+
     /// Forgets where all windows were and how they were divided.
     void forgetWindows();
 

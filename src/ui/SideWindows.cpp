@@ -1,0 +1,68 @@
+#include "SideWindows.h"
+
+#include "GPMAppCore.h"
+#include "RandomSource.h"
+#include "lock/SecureWindow.h"
+
+SideWindows::SideWindows(GPMAppCore &core, UiSettings &uiSettings, const Theme &theme,
+                         SecureWindow &main)
+    : m_core(core)
+    , m_uiSettings(uiSettings)
+    , m_theme(theme)
+    , m_main(main)
+{
+    connect(&core, &GPMAppCore::requestLock, this, &SideWindows::closeForLock);
+    connect(&core, &GPMAppCore::safeLockedChanged, &m_recent,
+            [this](bool locked) { m_recent.setKeeping(!locked); });
+    const std::shared_ptr<GPMSafe> &safe = core.currentSafe();
+    m_recent.setKeeping(safe && safe->isUnlocked());
+}
+
+SideWindows::~SideWindows()
+{
+    delete m_generator;
+}
+
+void SideWindows::openGenerator()
+{
+    showGenerator({[this](const QString &password) { m_core.placePasswordValue(password); },
+                   [this] {
+                       return m_core.hasExtension()
+                                  ? QString()
+                                  : tr("No browser with the extension is connected");
+                   }});
+}
+
+void SideWindows::openGeneratorFor(QObject *owner,
+                                   const std::function<void(const QString &)> &place)
+{
+    const QPointer<QObject> alive(owner);
+    showGenerator(
+        {[alive, place](const QString &password) {
+             if (alive)
+                 place(password);
+         },
+         [alive] { return alive ? QString() : tr("What it was made for is no longer edited"); }});
+    connect(owner, &QObject::destroyed, m_generator, &PasswordGeneratorDialog::updatePlace,
+            Qt::QueuedConnection);
+}
+
+void SideWindows::showGenerator(const PasswordTarget &target)
+{
+    if (!m_generator) {
+        m_generator = new PasswordGeneratorDialog(
+            {m_uiSettings, m_core.settings(), m_core.clipboard(), m_recent, &systemRandom}, m_theme,
+            &m_main);
+    }
+    m_generator->setTarget(target);
+    m_generator->show();
+    m_generator->raise();
+    m_generator->activateWindow();
+}
+
+void SideWindows::closeForLock()
+{
+    // It may show a password that is in use by now.
+    if (m_generator)
+        m_generator->close();
+}
