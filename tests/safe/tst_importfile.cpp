@@ -1,0 +1,219 @@
+#include "ImportFile.h"
+
+#include "CsvText.h"
+#include "PMCreditCard.h"
+#include "PMFieldTypes.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(ImportFile::Format)
+Q_DECLARE_METATYPE(ImportEntry::Fault)
+
+class TestImportFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void csv_data();
+    void csv();
+    void formats_data();
+    void formats();
+    void faults_data();
+    void faults();
+    void jsonKinds();
+    void nothingIsLost();
+    void duplicates();
+};
+
+void TestImportFile::csv_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("records"); // the line, then the cells, joined by "|"
+    const auto row = [](const char *name, const QByteArray &bytes, const QStringList &records) {
+        QTest::newRow(name) << bytes << records;
+    };
+    const auto text = [](const char *utf8) { return QString::fromUtf8(utf8); };
+    row("plain", "a,b\r\nc,d\r\n", {text("1|a|b"), text("2|c|d")});
+    row("no final line end", "a,b\nc,d", {text("1|a|b"), text("2|c|d")});
+    row("quotes", "\"a,b\",\"say \"\"hi\"\"\"\n", {text("1|a,b|say \"hi\"")});
+    row("lines in a field", "a,\"b\r\nc\"\nd,e\n", {text("1|a|b\r\nc"), text("3|d|e")});
+    row("empty cells and lines", ",\n\n\n\"\",x\n", {text("1||"), text("4||x")});
+    row("semicolons", "a;b\nc;d,e\n", {text("1|a|b"), text("2|c|d,e")});
+    row("tabs", "a\tb\n", {text("1|a|b")});
+    row("mark of UTF-8",
+        "\xEF\xBB\xBF"
+        "a,\xC3\xA4\n",
+        {text("1|a|ä")});
+    row("UTF-16",
+        QByteArray("\xFF\xFE"
+                   "a\0,\0\xE4\0\n\0",
+                   10),
+        {text("1|a|ä")});
+    row("Windows-1252", "a,\xE4\x80\n", {text("1|a|ä€")});
+    row("a quote that does not end", "a,\"b\nc", {});
+    row("NUL", QByteArray("a,\0b\n", 5), {});
+}
+
+void TestImportFile::csv()
+{
+    QFETCH(QByteArray, bytes);
+    QStringList read;
+    if (const auto records = parseCsv(bytes)) {
+        for (const CsvRecord &record : *records)
+            read << QString::number(record.line) + QLatin1Char('|') +
+                        record.cells.join(QLatin1Char('|'));
+    }
+    QTEST(read, "records");
+}
+
+void TestImportFile::formats_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<ImportFile::Format>("format");
+    const auto row = [](const char *name, const QByteArray &bytes, ImportFile::Format format) {
+        QTest::newRow(name) << bytes << format;
+    };
+    row("Chromium",
+        "name,url,username,password,note\nMail,https://www.mail.example/in,ana,pw 1,n\n",
+        ImportFile::Chromium);
+    row("older Chromium", "name,url,username,password\nMail,https://www.mail.example/in,ana,pw 1\n",
+        ImportFile::Chromium);
+    row("Firefox",
+        "\"url\",\"username\",\"password\",\"httpRealm\",\"formActionOrigin\",\"guid\","
+        "\"timeCreated\",\"timeLastUsed\",\"timePasswordChanged\"\n"
+        "\"https://www.mail.example/in\",\"ana\",\"pw 1\",,\"\",\"{1}\",\"1600000000000\","
+        "\"1600000000001\",\"1600000000002\"\n",
+        ImportFile::Firefox);
+    row("Safari",
+        "Title,URL,Username,Password,Notes,OTPAuth\n"
+        "Mail,https://www.mail.example/in,ana,pw 1,,\n",
+        ImportFile::Safari);
+    row("Bitwarden",
+        "folder,favorite,type,name,notes,fields,reprompt,login_uri,login_username,login_password,"
+        "login_totp\n,1,login,Mail,,,0,www.mail.example/in,ana,pw 1,\n",
+        ImportFile::Bitwarden);
+    row("KeePassXC",
+        "\"Group\",\"Title\",\"Username\",\"Password\",\"URL\",\"Notes\",\"TOTP\",\"Icon\","
+        "\"Last Modified\",\"Created\"\n\"Root\",\"Mail\",\"ana\",\"pw "
+        "1\",\"https://www.mail.example/in\",\"\",\"\",\"0\",\"2024-05-01T10:00:00Z\","
+        "\"2020-09-13T12:26:40Z\"\n",
+        ImportFile::KeePassXC);
+    row("JSON",
+        "{\"encrypted\":false,\"items\":[{\"type\":1,\"name\":\"Mail\",\"login\":{\"username\":"
+        "\"ana\",\"password\":\"pw 1\",\"uris\":[{\"uri\":\"https://www.mail.example/in\"}]}}]}",
+        ImportFile::BitwardenJson);
+}
+
+void TestImportFile::formats()
+{
+    QFETCH(QByteArray, bytes);
+    const ImportFile file = readImportFile(bytes);
+    QTEST(file.format, "format");
+    QCOMPARE(file.entries.size(), std::size_t(1));
+    QCOMPARE(file.entries[0].fault, ImportEntry::None);
+    const std::unique_ptr<PMListItem> item = file.entries[0].toItem();
+    QCOMPARE(item->type(), PMListItem::Login);
+    QVERIFY(item->title() == QLatin1String("Mail") ||
+            (file.format == ImportFile::Firefox && item->title() == QLatin1String("mail.example")));
+    QCOMPARE(item->url(), QStringLiteral("https://www.mail.example/in"));
+    QCOMPARE(item->property("login").toString(), QStringLiteral("ana"));
+    QCOMPARE(item->property("password").toString(), QStringLiteral("pw 1"));
+    QCOMPARE(item->secondaryText(), QStringLiteral("ana"));
+    QCOMPARE(item->favorite(), file.format == ImportFile::Bitwarden);
+    if (file.format == ImportFile::Firefox || file.format == ImportFile::KeePassXC)
+        QCOMPARE(item->created(), QDateTime::fromSecsSinceEpoch(1600000000, Qt::UTC));
+}
+
+void TestImportFile::faults_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QVector<ImportEntry::Fault>>("faults");
+    const QByteArray head = "name,url,username,password\n";
+    using Faults = QVector<ImportEntry::Fault>;
+    QTest::newRow("address of an app")
+        << head + "Shop,android://key@com.shop/,ana,pw\nOk,shop.example,ana,pw\n"
+        << Faults{ImportEntry::NotAWebAddress, ImportEntry::None};
+    QTest::newRow("scripts and files")
+        << head + "a,javascript://x/%0aalert(1),b,c\na,file:///etc,b,c\n"
+        << Faults{ImportEntry::NotAWebAddress, ImportEntry::NotAWebAddress};
+    QTest::newRow("cells missing") << head + "a,b\nMail,,ana,pw\n"
+                                   << Faults{ImportEntry::WrongColumns, ImportEntry::None};
+    QTest::newRow("nothing in it") << head + ",,,\nOnly a name,,,\n"
+                                   << Faults{ImportEntry::Empty, ImportEntry::Empty};
+    QTest::newRow("kind of Bitwarden")
+        << QByteArray("type,name,notes,login_uri,login_username,login_password\nssh,a,b,,,\n")
+        << Faults{ImportEntry::UnknownKind};
+    QTest::newRow("other columns") << QByteArray("a,b,c\n1,2,3\n") << Faults{};
+    QTest::newRow("random bytes") << QByteArray("\x89PNG\r\n\x1a\n\"\0\x01", 11) << Faults{};
+    QTest::newRow("JSON of another kind") << QByteArray("{\"items\":7}") << Faults{};
+    QTest::newRow("encrypted JSON")
+        << QByteArray("{\"encrypted\":true,\"items\":[{\"type\":1,\"name\":\"2.x|y\"}]}")
+        << Faults{};
+    QTest::newRow("JSON entries of any shape")
+        << QByteArray("{\"items\":[7,null,{\"type\":99,\"name\":\"k\"},{\"type\":1,\"login\":[]}]}")
+        << Faults{ImportEntry::UnknownKind, ImportEntry::UnknownKind, ImportEntry::UnknownKind,
+                  ImportEntry::Empty};
+}
+
+void TestImportFile::faults()
+{
+    QFETCH(QByteArray, bytes);
+    QVector<ImportEntry::Fault> found;
+    for (const ImportEntry &entry : readImportFile(bytes).entries)
+        found.append(entry.fault);
+    QTEST(found, "faults");
+}
+
+void TestImportFile::jsonKinds()
+{
+    const ImportFile file = readImportFile(
+        "{\"items\":["
+        "{\"type\":3,\"name\":\"Card\",\"card\":{\"cardholderName\":\"ANA "
+        "MARTIN\",\"brand\":\"Mastercard\",\"number\":\"5555555555554444\",\"expMonth\":\"1\","
+        "\"expYear\":\"2027\",\"code\":\"123\"}},"
+        "{\"type\":4,\"name\":\"Ana\",\"identity\":{\"firstName\":\"Ana\",\"postalCode\":\"BS1 "
+        "4DJ\",\"phone\":\"+44 7700 900123\",\"passportNumber\":\"533\"}},"
+        "{\"type\":2,\"name\":\"Alarm\",\"notes\":\"1984\"}]}");
+    QCOMPARE(file.entries.size(), std::size_t(3));
+    const auto card = file.entries[0].toItem();
+    QCOMPARE(card->type(), PMListItem::CreditCard);
+    QCOMPARE(card->property("number").toString(), QStringLiteral("5555555555554444"));
+    QCOMPARE(card->property("expire").value<PMFieldTypes::Date>().toText(),
+             QStringLiteral("20270101"));
+    QCOMPARE(card->property("cardType").toInt(), int(PMCreditCard::MasterCard));
+    const auto identity = file.entries[1].toItem();
+    QCOMPARE(identity->property("zipCode").toString(), QStringLiteral("BS1 4DJ"));
+    QCOMPARE(identity->property("phone").value<PMFieldTypes::Phone>().number,
+             QStringLiteral("+44 7700 900123"));
+    QCOMPARE(identity->note(), QStringLiteral("passportNumber: 533"));
+    QCOMPARE(file.entries[2].toItem()->property("text").toString(), QStringLiteral("1984"));
+}
+
+void TestImportFile::nothingIsLost()
+{
+    const ImportFile file = readImportFile(
+        "{\"items\":[{\"type\":1,\"name\":\"Mail\",\"notes\":\"first\",\"fields\":[{\"name\":"
+        "\"PIN\",\"value\":\"4711\"}],\"login\":{\"password\":\"p\",\"totp\":\"JBSW\",\"uris\":[{"
+        "\"uri\":\"https://a.example\"},{\"uri\":\"https://b.example\"}]}}]}");
+    QCOMPARE(file.entries[0].toItem()->note(),
+             QStringLiteral("first\ntotp: JBSW\nuri: https://b.example\nPIN: 4711"));
+}
+
+void TestImportFile::duplicates()
+{
+    const ImportFile file = readImportFile("name,url,username,password\n"
+                                           "Mail,https://mail.example/a,ana,pw\n"
+                                           "Other name,http://www.mail.example,ana,pw\n"
+                                           "Mail,https://mail.example,ana,other\n"
+                                           "Mail,https://mail.example,bob,pw\n"
+                                           "Shop,https://shop.example,ana,pw\n"
+                                           "Gone,https://gone.example,ana,pw\n");
+    const auto shop = file.entries[4].toItem();
+    const auto gone = file.entries[5].toItem();
+    gone->setDeleted(true);
+    const std::vector<bool> expected{false, true, false, false, true, false};
+    QCOMPARE(findDuplicates(file.entries, {shop.get(), gone.get()}), expected);
+}
+
+QTEST_GUILESS_MAIN(TestImportFile)
+#include "tst_importfile.moc"
