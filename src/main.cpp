@@ -117,7 +117,7 @@ int main(int argc, char *argv[])
     // The end of the session would otherwise be tried by closing windows, which only hide.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &core,
-                     [&core] { core.saveCurrentSafe(); });
+                     [&core] { core.prepareForSessionEnd(); });
 
     qDebug() << "main"
              << "Check first start condition...";

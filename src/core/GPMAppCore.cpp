@@ -6,6 +6,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QGuiApplication>
+#include <QSet>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -19,7 +20,15 @@ GPMAppCore::Places standardPlaces()
     places.dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     places.hiddenFolder =
         QDir::homePath() + QStringLiteral("/.") + QCoreApplication::applicationName();
+    places.runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return places;
+}
+
+SafeEnvironment safeEnvironment(const QString &dataFolder)
+{
+    SafeEnvironment environment;
+    environment.draftsFolder = dataFolder + QStringLiteral("/drafts");
+    return environment;
 }
 
 } // namespace
@@ -28,9 +37,13 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     : QObject(parent)
     , m_platform(Platform::create())
     , m_settings(places.configFolder, places.hiddenFolder)
-    , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"))
+    , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
+                   safeEnvironment(places.dataFolder))
+    , m_privateFiles(PrivateFiles::places(places.runtimeFolder, places.dataFolder))
     , m_port(places.port)
 {
+    // What a run that did not end well left behind.
+    m_privateFiles.wipe();
 }
 
 GPMAppCore::~GPMAppCore()
@@ -145,10 +158,19 @@ void GPMAppCore::lockCurrentSafe()
     cancelUnlock();
     if (!m_safe || !m_safe->isUnlocked())
         return;
+    Q_EMIT requestKeepDraft();
     Q_EMIT requestLock();
     if (m_flow)
         m_flow->clear();
     m_safe->lock();
+    m_privateFiles.wipe();
+}
+
+void GPMAppCore::prepareForSessionEnd()
+{
+    Q_EMIT requestKeepDraft();
+    saveCurrentSafe();
+    m_privateFiles.wipe();
 }
 
 void GPMAppCore::doItemDefaultAction(const QString &itemId, const QString &callerId,
@@ -261,9 +283,56 @@ QStringList GPMAppCore::trashedIds() const
     return ids;
 }
 
+QStringList GPMAppCore::attachmentsGoingWith(const QStringList &itemIds) const
+{
+    QStringList going;
+    QSet<QString> kept;
+    if (!m_safe)
+        return going;
+    for (const PMListItem *item : m_safe->items()) {
+        const QStringList refs = item->refs();
+        if (!itemIds.contains(item->id())) {
+            kept.unite(QSet<QString>(refs.begin(), refs.end()));
+            continue;
+        }
+        for (const QString &id : refs) {
+            const PMListItem *other = m_safe->item(id);
+            if (other && other->type() == PMListItem::Attachment && !itemIds.contains(id))
+                going.append(id);
+        }
+    }
+    const auto isKept = [&kept](const QString &id) { return kept.contains(id); };
+    going.erase(std::remove_if(going.begin(), going.end(), isKept), going.end());
+    going.removeDuplicates();
+    return going;
+}
+
+void GPMAppCore::dropReferences(const QStringList &ids)
+{
+    bool changed = false;
+    for (PMListItem *item : m_safe->items()) {
+        QStringList refs = item->refs();
+        for (const QString &id : ids) {
+            if (!m_safe->item(id))
+                refs.removeAll(id);
+        }
+        if (refs == item->refs())
+            continue;
+        item->setRefs(refs);
+        changed = true;
+    }
+    if (changed)
+        m_safe->saveChangesAsync();
+}
+
 void GPMAppCore::purge(const QStringList &ids)
 {
-    if (!m_safe || ids.isEmpty() || m_safe->removeItems(ids))
+    if (!m_safe || ids.isEmpty())
+        return;
+    const QStringList all = ids + attachmentsGoingWith(ids);
+    const bool removed = m_safe->removeItems(all);
+    dropReferences(all);
+    if (removed)
         return;
     Q_EMIT message(tr("Can't delete."),
                    tr("The items are still there. Check that the folder of the safe can be "
@@ -274,6 +343,8 @@ void GPMAppCore::purge(const QStringList &ids)
 void GPMAppCore::exitPasswordManager()
 {
     lockCurrentSafe();
+    // What another program still held open when the safe was locked.
+    m_privateFiles.wipe();
     if (m_settings.clearClipboard())
         m_clipboard.clear();
     Q_EMIT quitRequested();

@@ -6,6 +6,7 @@
 #include "GPMWebSocketServer.h"
 #include "KnownSafes.h"
 #include "Platform.h"
+#include "PrivateFiles.h"
 
 #include <QObject>
 #include <QUrl>
@@ -22,10 +23,11 @@ public:
     /// Where the program keeps its files and listens.
     struct Places
     {
-        QString configFolder; ///< "config.json"
-        QString dataFolder;   ///< new safes, in its folder "safes"
-        QString hiddenFolder; ///< log and backups
-        quint16 port = 7899;  ///< of the browser link on 127.0.0.1
+        QString configFolder;       ///< "config.json"
+        QString dataFolder;         ///< new safes, in its folder "safes"
+        QString hiddenFolder;       ///< log and backups
+        quint16 port = 7899;        ///< of the browser link on 127.0.0.1
+        QString runtimeFolder = {}; ///< for files that end with the session; may be empty
     };
 
     explicit GPMAppCore(const Places &places, QObject *parent = nullptr);
@@ -42,6 +44,8 @@ public:
     KnownSafes &knownSafes() { return m_knownSafes; }
     ClipboardKeeper &clipboard() { return m_clipboard; }
     Platform &platform() { return *m_platform; }
+    /// Copies of attachments for other programs; wiped when the safe locks and at the end.
+    PrivateFiles &privateFiles() { return m_privateFiles; }
 
     /// The open safe, locked or not; null while none is chosen.
     const std::shared_ptr<GPMSafe> &currentSafe() const { return m_safe; }
@@ -67,6 +71,16 @@ public:
 
     /// Whether something changed is not on the disk, as after a save that failed.
     bool hasUnsavedChanges() const;
+
+    /// The items in the trash.
+    QStringList trashedIds() const;
+    /// The attachments that go with items when these are deleted for good: those that no other item
+    /// refers to.
+    QStringList attachmentsGoingWith(const QStringList &itemIds) const;
+
+    /// Keeps and saves what there is, as the session is about to end; the safe stays open, since
+    /// that can still be called off.
+    void prepareForSessionEnd();
 
 public Q_SLOTS:
     /// Starts to unlock the current safe; unlockProgress() and unlockFinished() follow.
@@ -102,7 +116,10 @@ Q_SIGNALS:
     void unlockProgress(int done, int total);
     void unlockFinished(SafeUnlock::Outcome outcome);
     void safeLockedChanged(bool locked);
+    /// The safe is about to be locked; it is still open.
     void requestLock();
+    /// What is being edited is to be kept now.
+    void requestKeepDraft();
     /// The main window is to come to the front; the address is that of the browser's page, if any.
     void requestShowMainWindow(const QString &url);
     /// Something that the user has to know.
@@ -118,13 +135,14 @@ private:
     void tellSaveResult(bool good, const QStringList &failedPaths);
     void countUse(const QString &itemId);
     void setDeleted(const QString &itemId, bool deleted);
-    QStringList trashedIds() const;
     void purge(const QStringList &ids);
+    void dropReferences(const QStringList &ids);
 
     std::unique_ptr<Platform> m_platform;
     GPMAppSettings m_settings;
     KnownSafes m_knownSafes;
     ClipboardKeeper m_clipboard;
+    PrivateFiles m_privateFiles;
     quint16 m_port;
     std::unique_ptr<GPMWebSocketServer> m_server;
     std::unique_ptr<FormFillFlow> m_flow;

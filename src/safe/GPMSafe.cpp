@@ -20,6 +20,9 @@
 GPMSafe::GPMSafe(SafeEnvironment environment, QObject *parent)
     : QObject(parent)
     , m_environment(std::move(environment))
+    , m_intake(m_writer,
+               [this](AttachmentIntake::Arrival arrival) { takeAttachment(std::move(arrival)); })
+    , m_drafts(m_environment)
 {
     m_writer.setMaxThreadCount(1);
 }
@@ -68,6 +71,7 @@ bool GPMSafe::init(const QString &folder, const QString &password, const QString
     m_folder = newFolder;
     m_description = description;
     m_password = secret;
+    m_drafts.open(id(), m_password);
     Q_EMIT itemsReset();
     Q_EMIT lockedChanged(false);
     return true;
@@ -190,6 +194,7 @@ void GPMSafe::logFailure(SafeUnlock::Outcome outcome) const
 void GPMSafe::takeUnlocked(SafeUnlock &attempt)
 {
     m_password = attempt.password();
+    m_drafts.open(id(), m_password);
     m_unreadableFiles = attempt.items().unreadableFiles();
     m_items.exchange(attempt.items().takeEntries());
     for (const QString &name : std::as_const(m_unreadableFiles))
@@ -218,9 +223,12 @@ void GPMSafe::lock()
     m_writer.waitForDone();
     if (!isUnlocked())
         return;
+    m_intake.handOn();
+    m_writer.waitForDone();
     const SaveJob::Result result = makeSaveJob().run();
     if (!result.good())
         Q_EMIT saved(false, result.failedPaths);
+    m_drafts.close();
     m_password.reset();
     m_unreadableFiles.clear();
     // Views let go of the items before these go.
@@ -289,6 +297,8 @@ bool GPMSafe::changePassword(const QString &newPassword,
         return false;
     }
     m_writer.waitForDone();
+    m_intake.handOn();
+    m_writer.waitForDone();
     qDebug() << operation << "Starting password change, safe id:" << id() << " name:" << name();
 
     QVector<PasswordChange::Item> items = m_items.planPasswordChange(m_folder);
@@ -303,8 +313,13 @@ bool GPMSafe::changePassword(const QString &newPassword,
     PasswordChange change(m_environment, m_folder, m_password->view(), password->view(),
                           std::move(items));
     const auto report = [&](int done) { progress(done, total); };
-    if (!change.run(progress ? std::function<void(int)>(report) : nullptr))
+    if (!m_drafts.prepareChange(password->view()))
         return false;
+    if (!change.run(progress ? std::function<void(int)>(report) : nullptr)) {
+        m_drafts.rollBackChange();
+        return false;
+    }
+    m_drafts.commitChange(password);
     qDebug() << operation << "Write new items to the safe";
     m_items.takePasswordChange(change.items());
     change.removeOldFiles();
@@ -351,18 +366,24 @@ PMListItem *GPMSafe::addItem(std::unique_ptr<PMListItem> item)
     return added;
 }
 
+bool GPMSafe::prepareAttachment(PMListItem &item) const
+{
+    if (!isUnlocked() || item.type() != PMListItem::Attachment)
+        return false;
+    if (item.id().isEmpty())
+        item.setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
+    return !m_items.item(item.id());
+}
+
 PMListItem *GPMSafe::addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes)
 {
-    if (!isUnlocked() || !item || item->type() != PMListItem::Attachment)
+    if (!item || !prepareAttachment(*item))
         return nullptr;
-    if (item->id().isEmpty())
-        item->setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
     const QString target = m_folder.attachmentPath({item->id(), 0});
-    const bool written = !m_items.item(item->id()) &&
-                         m_environment.files->write(target, [&](QIODevice &destination) {
-                             return cryptStream(m_password->view(), bytes, destination,
-                                                CryptDirection::Encrypt, m_environment.random);
-                         });
+    const bool written = m_environment.files->write(target, [&](QIODevice &destination) {
+        return cryptStream(m_password->view(), bytes, destination, CryptDirection::Encrypt,
+                           m_environment.random);
+    });
     if (!written) {
         qWarning() << "GPMSafe::addAttachment"
                    << "Can't save attachment to file:" << target;
@@ -372,18 +393,50 @@ PMListItem *GPMSafe::addAttachment(std::unique_ptr<PMListItem> item, QIODevice &
     return addItem(std::move(item));
 }
 
+void GPMSafe::addAttachmentAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
+                                 const QString &parentId)
+{
+    if (!item || !prepareAttachment(*item))
+        return;
+    const QString target = m_folder.attachmentPath({item->id(), 0});
+    m_intake.add(std::move(item), parentId, {m_environment, target, m_password, source});
+}
+
+void GPMSafe::takeAttachment(AttachmentIntake::Arrival arrival)
+{
+    const AttachmentJob::Result result = arrival.result.result();
+    const QString id = arrival.item->id();
+    const QString title = arrival.item->title();
+    if (result.fault == AttachmentFault::None) {
+        arrival.item->setProperty("hash", result.hash);
+        addItem(std::move(arrival.item));
+        if (PMListItem *parent = m_items.item(arrival.parentId)) {
+            parent->setRefs(parent->refs() + QStringList{id});
+            touchItem(*parent);
+        }
+        saveChangesAsync();
+    }
+    Q_EMIT attachmentDone(id, title, result.fault);
+}
+
 bool GPMSafe::readAttachment(const QString &id, QIODevice &destination) const
+{
+    const std::optional<AttachmentReader> reader = attachmentReader(id);
+    return reader && reader->read(destination);
+}
+
+std::optional<AttachmentReader> GPMSafe::attachmentReader(const QString &id) const
 {
     const std::optional<ItemFileName> name = m_items.fileName(id);
     if (!name)
-        return false;
-    QFile source(m_folder.attachmentPath(*name));
-    const bool good = source.open(QIODevice::ReadOnly) &&
-                      cryptStream(m_password->view(), source, destination, CryptDirection::Decrypt);
-    if (!good)
-        qWarning() << "GPMSafe::readAttachment"
-                   << "Can't read attachment file:" << source.fileName();
-    return good;
+        return std::nullopt;
+    return AttachmentReader(m_folder.attachmentPath(*name), m_password);
+}
+
+qint64 GPMSafe::attachmentSize(const QString &id) const
+{
+    const std::optional<ItemFileName> name = m_items.fileName(id);
+    return name ? plainSize(m_folder.attachmentPath(*name)) : -1;
 }
 
 void GPMSafe::touchItem(PMListItem &item)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AttachmentIntake.h"
+#include "DraftStore.h"
 #include "ItemStore.h"
 #include "SafeDescription.h"
 #include "SafeEnvironment.h"
@@ -100,8 +102,20 @@ public:
     /// Takes a new attachment in with the bytes of an open device, which are encrypted at once.
     PMListItem *addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes);
 
+    /// The same on a worker, in the order of the calls; attachmentDone() follows. Once it is in,
+    /// the item of the given id refers to it, and everything is saved. Locking waits for it.
+    void addAttachmentAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
+                            const QString &parentId = {});
+
     /// Decrypts an attachment's bytes into an open device, which is to be thrown away on failure.
     bool readAttachment(const QString &id, QIODevice &destination) const;
+    /// What does so on another thread; nothing when there is no such item.
+    std::optional<AttachmentReader> attachmentReader(const QString &id) const;
+    /// The size of an attachment's bytes, up to 15 above the true one; -1 when they are missing.
+    qint64 attachmentSize(const QString &id) const;
+
+    /// The edits of this safe that were not saved.
+    DraftStore &drafts() { return m_drafts; }
 
     /// Marks an item as changed now.
     void touchItem(PMListItem &item);
@@ -117,6 +131,8 @@ Q_SIGNALS:
     void unlockProgress(int done, int total);
     void unlockFinished(SafeUnlock::Outcome outcome);
     void saved(bool good, const QStringList &failedPaths);
+    /// A new attachment is in, or is not because of a fault; its title is that of the given item.
+    void attachmentDone(const QString &id, const QString &title, AttachmentFault fault);
     void itemsReset();
     void itemAdded(const QString &id);
     /// The item is still there; views let go of it now.
@@ -133,6 +149,8 @@ private:
     void onUnlockFinished(SafeUnlock::Outcome outcome);
     SaveJob makeSaveJob();
     bool removeFiles(const QString &id);
+    bool prepareAttachment(PMListItem &item) const;
+    void takeAttachment(AttachmentIntake::Arrival arrival);
 
     SafeEnvironment m_environment;
     SafeFolder m_folder;
@@ -144,4 +162,6 @@ private:
     std::shared_ptr<QMutex> m_mutex = std::make_shared<QMutex>();
     std::unique_ptr<SafeUnlock> m_unlock;
     QThreadPool m_writer; ///< one thread, so that writes keep their order
+    AttachmentIntake m_intake;
+    DraftStore m_drafts;
 };

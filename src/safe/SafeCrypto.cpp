@@ -284,3 +284,12 @@ QString fileHash(const QString &path)
         return {};
     return QString::fromLatin1(hash.result().toBase64());
 }
+
+qint64 plainSize(const QString &path)
+{
+    QFile file(path);
+    Header header;
+    if (!file.open(QIODevice::ReadOnly) || !header.read(file))
+        return -1;
+    return qMax<qint64>(0, file.size() - header.size() - 1);
+}

@@ -49,3 +49,7 @@ bool reencryptFile(const QString &sourcePath, const QString &destinationPath,
 
 /// Base64 of the SHA-256 of a file's content; empty when it cannot be read.
 QString fileHash(const QString &path);
+
+/// The size of what an encrypted file holds, up to 15 above the true one, as the padding is not
+/// looked at; -1 when it cannot be read.
+qint64 plainSize(const QString &path);

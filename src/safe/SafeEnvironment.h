@@ -4,6 +4,8 @@
 #include "FileLayer.h"
 #include "RandomSource.h"
 
+#include <QString>
+
 #include <memory>
 
 /// What a safe takes from the world around it. The defaults are the real ones.
@@ -13,4 +15,5 @@ struct SafeEnvironment
     Clock clock = systemTime;
     std::shared_ptr<FileLayer> files = std::make_shared<FileLayer>();
     int lockWaitMs = 10000; ///< how long to wait for the lock file of a safe
+    QString draftsFolder;   ///< where edits that were not saved are kept; empty: nowhere
 };

@@ -1,6 +1,8 @@
 #include "GPMAppCore.h"
+#include "PMItemFactory.h"
 #include "PMLogin.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -129,6 +131,66 @@ private Q_SLOTS:
 
         QVERIFY(!m_core->selectSafe(m_home->filePath(QStringLiteral("none"))));
         QVERIFY(!m_core->currentSafe());
+    }
+
+    void attachmentsGoWithTheLastItemThatHasThem()
+    {
+        QVERIFY(m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), {}));
+        const std::shared_ptr<GPMSafe> safe = m_core->currentSafe();
+        const auto attach = [&safe] {
+            QBuffer bytes;
+            bytes.open(QIODevice::ReadOnly);
+            return safe->addAttachment(makeItem(PMListItem::Attachment), bytes)->id();
+        };
+        const QString own = attach();
+        const QString shared = attach();
+        const QString single = attach();
+        PMLogin *parent = addLogin("Parent");
+        PMLogin *other = addLogin("Other");
+        const QString parentId = parent->id();
+        parent->setRefs({own, shared, other->id()});
+        other->setRefs({shared, single});
+        m_core->modelItemDeleted(parentId);
+        m_core->modelItemDeleted(single);
+        QCOMPARE(m_core->attachmentsGoingWith({parentId}), QStringList{own});
+        m_core->modelItemPurged(single);
+        // What was deleted by itself is no longer referred to.
+        QCOMPARE(other->refs(), QStringList{shared});
+        m_core->modelClearTrash();
+        QVERIFY(!safe->item(parentId) && !safe->item(own) && !safe->item(single));
+        QVERIFY(safe->item(shared) && safe->item(other->id()));
+        const QDir files(safe->folder() + QStringLiteral("/attachment"));
+        QCOMPARE(files.entryList(QDir::Files), QStringList{shared});
+        const QString otherId = other->id();
+        m_core->lockCurrentSafe();
+        QCOMPARE(reopened(otherId, "title"), QStringLiteral("Other"));
+    }
+
+    void privateFilesEndWithTheSafe()
+    {
+        const auto write = [](QIODevice &device) { return device.write("secret") == 6; };
+        QVERIFY(m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), {}));
+        const auto privateFile = [&] {
+            return m_core->privateFiles()
+                .create(QStringLiteral("a.txt"), write)
+                .value_or(QString());
+        };
+        QString path = privateFile();
+        QVERIFY(QFile::exists(path));
+        m_core->lockCurrentSafe();
+        QVERIFY(!QFile::exists(path));
+        path = privateFile();
+        m_core->exitPasswordManager();
+        QVERIFY(!QFile::exists(path));
+        path = privateFile();
+        m_core->prepareForSessionEnd();
+        QVERIFY(!QFile::exists(path));
+        // As a crash leaves it: the next start wipes, whichever safe is opened then.
+        path = privateFile();
+        const QString data = m_home->filePath(QStringLiteral("data"));
+        const GPMAppCore next({m_home->filePath(QStringLiteral("config")), data,
+                               m_home->filePath(QStringLiteral("hidden")), freePort()});
+        QVERIFY(!QFile::exists(path));
     }
 
     void commandsOnItemsReachTheDisk()

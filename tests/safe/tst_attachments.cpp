@@ -1,0 +1,301 @@
+#include "FileNames.h"
+#include "PMAttachment.h"
+#include "PMLogin.h"
+#include "PrivateFiles.h"
+#include "SafeTesting.h"
+
+#include <QBuffer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <unistd.h>
+
+namespace {
+
+struct Safe
+{
+    Safe()
+    {
+        QDir().mkpath(folder.filePath(QStringLiteral("safe")));
+        qRegisterMetaType<AttachmentFault>("AttachmentFault");
+        environment.files = files;
+        safe = std::make_unique<GPMSafe>(environment);
+        if (!safe->init(path(), samplePassword, QStringLiteral("Safe"), {}))
+            qFatal("no safe to test with");
+        auto login = std::make_unique<PMLogin>();
+        login->setTitle(QStringLiteral("Cloudmail"));
+        parentId = safe->addItem(std::move(login))->id();
+    }
+
+    QString path() const { return folder.filePath(QStringLiteral("safe")); }
+    QString file(const QString &name, const QByteArray &content)
+    {
+        const QString filePath = folder.filePath(name);
+        writeFile(filePath, content);
+        return filePath;
+    }
+    void add(const QString &title, const AttachmentSource &source)
+    {
+        auto item = std::make_unique<PMAttachment>();
+        item->setTitle(title);
+        item->setFilename(title);
+        safe->addAttachmentAsync(std::move(item), source, parentId);
+    }
+    QByteArray bytesOf(const QString &id) const
+    {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        return safe->readAttachment(id, buffer) ? buffer.data() : QByteArray("unreadable");
+    }
+    QStringList titles() const
+    {
+        QStringList list;
+        for (const QString &id : safe->item(parentId)->refs())
+            list.append(safe->item(id)->title());
+        return list;
+    }
+
+    QTemporaryDir folder;
+    std::shared_ptr<FaultyFiles> files = std::make_shared<FaultyFiles>();
+    SafeEnvironment environment;
+    std::unique_ptr<GPMSafe> safe;
+    QString parentId;
+};
+
+QStringList filesBelow(const QString &folder)
+{
+    return snapshot(folder).keys();
+}
+
+/// The rights of owner, group and others; what the user of this test may do is another thing.
+QFile::Permissions rightsOf(const QString &path)
+{
+    return QFile::permissions(path) & ~QFile::Permissions(0x0700);
+}
+
+bool produceSecret(QIODevice &device)
+{
+    return device.write("secret") == 6;
+}
+
+} // namespace
+
+class TestAttachments : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesFilesAndBytesInOrder()
+    {
+        Safe test;
+        QSignalSpy done(test.safe.get(), &GPMSafe::attachmentDone);
+        const QByteArray large(3000000, 'x');
+        test.add(QStringLiteral("large"), {test.file(QStringLiteral("large"), large), {}});
+        test.add(QStringLiteral("empty"), {test.file(QStringLiteral("empty"), {}), {}});
+        test.add(QStringLiteral("picture"), {{}, QByteArray("\x89PNG")});
+        while (done.size() < 3)
+            QVERIFY(done.wait());
+        QCOMPARE(test.titles(), QStringList({QStringLiteral("large"), QStringLiteral("empty"),
+                                             QStringLiteral("picture")}));
+        const QStringList refs = test.safe->item(test.parentId)->refs();
+        QCOMPARE(test.bytesOf(refs.at(0)), large);
+        QCOMPARE(test.bytesOf(refs.at(1)), QByteArray());
+        QCOMPARE(test.bytesOf(refs.at(2)), QByteArray("\x89PNG"));
+        const qint64 shown = test.safe->attachmentSize(refs.at(0)) - large.size();
+        QVERIFY(shown >= 0 && shown <= 15);
+    }
+
+    void lockingLosesNoneThatIsUnderWay()
+    {
+        Safe test;
+        const QByteArray content(2000000, 'y');
+        for (const QString &name : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")})
+            test.add(name, {test.file(name, content), {}});
+        test.safe->lock();
+        QVERIFY(test.safe->unlock(samplePassword));
+        QCOMPARE(test.titles(),
+                 QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+        QCOMPARE(test.bytesOf(test.safe->item(test.parentId)->refs().last()), content);
+        // Those behind a change of password are under the new one.
+        test.add(QStringLiteral("d"), {{}, QByteArray("later")});
+        QVERIFY(test.safe->changePassword(QStringLiteral("other")));
+        test.safe->lock();
+        QVERIFY(test.safe->unlock(QStringLiteral("other")));
+        QCOMPARE(test.bytesOf(test.safe->item(test.parentId)->refs().last()), QByteArray("later"));
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("fault");
+        const QString none;
+        QTest::newRow("largest") << qint64(10485760) << none << int(AttachmentFault::None);
+        QTest::newRow("larger") << qint64(10485761) << none << int(AttachmentFault::TooLarge);
+        QTest::newRow("folder") << qint64(-1) << QDir::tempPath()
+                                << int(AttachmentFault::Unreadable);
+        QTest::newRow("missing") << qint64(-1) << QStringLiteral("/no/such/file")
+                                 << int(AttachmentFault::Unreadable);
+        QTest::newRow("endless") << qint64(-1) << QStringLiteral("/dev/zero")
+                                 << int(AttachmentFault::Unreadable);
+        // Says that it is empty and is not.
+        QTest::newRow("grows") << qint64(-1) << QStringLiteral("/proc/self/status")
+                               << int(AttachmentFault::None);
+    }
+
+    void refuses()
+    {
+        QFETCH(qint64, size);
+        QFETCH(QString, path);
+        QFETCH(int, fault);
+        Safe test;
+        if (size >= 0) {
+            path = test.file(QStringLiteral("big"), {});
+            QVERIFY(QFile::resize(path, size));
+        }
+        QSignalSpy done(test.safe.get(), &GPMSafe::attachmentDone);
+        test.add(QStringLiteral("file"), {path, {}});
+        QVERIFY(done.wait());
+        QCOMPARE(int(done.first().at(2).value<AttachmentFault>()), fault);
+        const bool taken = fault == int(AttachmentFault::None);
+        QCOMPARE(test.titles().size(), taken ? 1 : 0);
+        QCOMPARE(filesBelow(test.path() + QStringLiteral("/attachment")).size(), taken ? 1 : 0);
+        if (size >= 0 && taken)
+            QCOMPARE(qint64(test.bytesOf(test.safe->item(test.parentId)->refs().first()).size()),
+                     size);
+    }
+
+    void fullDiskLeavesNothing()
+    {
+        Safe test;
+        QSignalSpy done(test.safe.get(), &GPMSafe::attachmentDone);
+        test.files->failAt = test.files->operations + 1;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("addAttachment")));
+        test.add(QStringLiteral("lost"), {{}, QByteArray("lost")});
+        test.add(QStringLiteral("next"), {{}, QByteArray("next")});
+        while (done.size() < 2)
+            QVERIFY(done.wait());
+        QCOMPARE(int(done.first().at(2).value<AttachmentFault>()),
+                 int(AttachmentFault::NotWritten));
+        QCOMPARE(test.titles(), QStringList(QStringLiteral("next")));
+        QCOMPARE(filesBelow(test.path() + QStringLiteral("/attachment")).size(), 1);
+    }
+
+    void fileNames_data()
+    {
+        QTest::addColumn<QString>("given");
+        QTest::addColumn<QString>("clean");
+        QTest::addColumn<bool>("risky");
+        const auto row = [](const char *name, const char16_t *given, const char16_t *clean,
+                            bool risky) {
+            QTest::newRow(name) << QString::fromUtf16(given) << QString::fromUtf16(clean) << risky;
+        };
+        row("plain", u"recovery-codes.txt", u"recovery-codes.txt", false);
+        row("letters", u"Überweisung 東京.pdf", u"Überweisung 東京.pdf", false);
+        row("above the first plane", u"\U0001F511 keys.txt", u"\U0001F511 keys.txt", false);
+        row("path", u"../../etc/passwd", u"passwd", false);
+        row("other path", u"C:\\Windows\\x.txt", u"x.txt", false);
+        row("parent", u"..", u"attachment", false);
+        row("folder", u"a/", u"attachment", false);
+        row("empty", u"", u"attachment", false);
+        row("stream", u"a.txt:b.exe", u"a.txt_b.exe", true);
+        row("control", u"a\n\r\tb\u0000.txt", u"ab", false);
+        row("turned", u"invoice\u202Efdp.exe", u"invoicefdp.exe", true);
+        row("isolated", u"\u2066x\u2069.txt", u"x.txt", false);
+        row("invisible", u"a\u200b\ufeff.sh", u"a.sh", true);
+        row("trailing dot", u"run.EXE. .", u"run.EXE", true);
+        row("device", u"nul.txt", u"_nul.txt", false);
+        row("hidden", u".bashrc", u".bashrc", false);
+        row("launcher", u"x.desktop", u"x.desktop", true);
+        row("page", u"x.html", u"x.html", true);
+        row("no ending", u"exe", u"exe", false);
+    }
+
+    void fileNames()
+    {
+        QFETCH(QString, given);
+        QTEST(cleanFileName(given), "clean");
+        QTEST(isRiskyFileName(given), "risky");
+    }
+
+    void longFileNamesKeepTheirEnding()
+    {
+        const QString name = cleanFileName(QString(400, QChar(0x6771)) + QStringLiteral(".txt"));
+        QVERIFY(name.toUtf8().size() <= 200);
+        QVERIFY(name.endsWith(QStringLiteral(".txt")));
+        const QString keys = QString::fromUcs4(U"\U0001F511");
+        const QString cut = cleanFileName(keys.repeated(300));
+        QVERIFY(cut.at(cut.size() - 1).isLowSurrogate());
+    }
+
+    void privateFilesAreTheOwnersAlone()
+    {
+        QTemporaryDir folder;
+        const QString runtime = folder.filePath(QStringLiteral("run"));
+        QDir().mkpath(runtime);
+        const QString data = folder.filePath(QStringLiteral("data"));
+        const QFile::Permissions read = QFile::ReadOwner;
+        const QFile::Permissions whole = read | QFile::WriteOwner | QFile::ExeOwner;
+        for (const QString &place : {runtime, QString()}) {
+            PrivateFiles files(PrivateFiles::places(place, data));
+            const auto first = files.create(QStringLiteral("codes.txt"), produceSecret);
+            const auto second = files.create(QStringLiteral("codes.txt"), produceSecret);
+            QVERIFY(first && second && *first != *second);
+            QVERIFY(first->startsWith(place.isEmpty() ? data : runtime));
+            QVERIFY(first->endsWith(QStringLiteral("/codes.txt")));
+            QCOMPARE(contentOf(*first), QByteArray("secret"));
+            QCOMPARE(rightsOf(*first), read);
+            const QString inner = QFileInfo(*first).path();
+            QCOMPARE(rightsOf(inner), whole);
+            QCOMPARE(rightsOf(QFileInfo(inner).path()), whole);
+            QVERIFY(files.wipe());
+            QCOMPARE(filesBelow(folder.path()), QStringList());
+            QVERIFY(!QFile::exists(QFileInfo(inner).path()));
+        }
+    }
+
+    void privateFilesOfAnEarlierRunAreWiped()
+    {
+        QTemporaryDir folder;
+        const QString runtime = folder.filePath(QStringLiteral("run"));
+        QDir().mkpath(runtime);
+        const QStringList places = PrivateFiles::places(runtime, folder.path());
+        const QString outside = folder.filePath(QStringLiteral("outside"));
+        writeFile(outside, "kept");
+        for (const QString &place : places) {
+            const QString inner = place + QStringLiteral("/0123");
+            QDir().mkpath(inner);
+            writeFile(inner + QStringLiteral("/left.txt"), "secret");
+            QFile::setPermissions(inner + QStringLiteral("/left.txt"), QFile::ReadOwner);
+            QVERIFY(QFile::link(outside, inner + QStringLiteral("/link")));
+            // A second name of the file shows what becomes of its bytes.
+            QCOMPARE(::link(qPrintable(inner + QStringLiteral("/left.txt")),
+                            qPrintable(place + QStringLiteral(".bytes"))),
+                     0);
+        }
+        QVERIFY(PrivateFiles(places).wipe());
+        for (const QString &place : places) {
+            QVERIFY(!QFile::exists(place));
+            QCOMPARE(contentOf(place + QStringLiteral(".bytes")), QByteArray(6, '\0'));
+        }
+        QCOMPARE(contentOf(outside), QByteArray("kept"));
+        // Not those of a program with other data.
+        QVERIFY(PrivateFiles::places(runtime, QStringLiteral("/other")).first() != places.first());
+    }
+
+    void aWipeStopsAFileThatIsBeingWritten()
+    {
+        QTemporaryDir folder;
+        PrivateFiles files(PrivateFiles::places({}, folder.path()));
+        const auto path = files.create(QStringLiteral("late"), [&files](QIODevice &device) {
+            files.wipe();
+            return produceSecret(device);
+        });
+        QVERIFY(!path);
+        QCOMPARE(filesBelow(folder.path()), QStringList());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAttachments)
+#include "tst_attachments.moc"
