@@ -7,6 +7,7 @@ export CMAKE_COLOR_DIAGNOSTICS=${CMAKE_COLOR_DIAGNOSTICS:-ON}
 build_packages=(
   build-essential cmake ninja-build ccache pkg-config
   qtbase5-dev libqt5websockets5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
+  qttranslations5-l10n
   libssl-dev libquazip1-qt5-dev libzxcvbn-dev libpsl-dev libx11-dev
 )
 display_packages=(xvfb)

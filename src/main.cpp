@@ -34,6 +34,8 @@ void translate(PMTranslator &translator, GPMAppSettings &settings)
         settings.setLanguageFile(translator.translate(code, false));
         return;
     }
+    // English too has plural forms of its own.
+    translator.translate({}, true);
 }
 
 /// The version that the installer wrote; without a registry that of the build.

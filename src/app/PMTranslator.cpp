@@ -3,10 +3,12 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
+#include <QLibraryInfo>
 
 namespace {
 
 const QString prefix = QStringLiteral("passwordmanager_");
+const QString qtPrefix = QStringLiteral("qtbase_");
 const QString builtIn = QStringLiteral("passwordmanager_en");
 
 } // namespace
@@ -52,7 +54,7 @@ QString PMTranslator::translate(const QString &target, bool fromSettings)
     const QString language = fromSettings ? target : prefix + target;
     const bool source = language.isEmpty() || language == builtIn;
     if (source && !QFile::exists(filePath(builtIn))) {
-        m_installed.reset();
+        install(nullptr, builtIn);
         return builtIn;
     }
     const QString path = filePath(source ? builtIn : language);
@@ -61,11 +63,26 @@ QString PMTranslator::translate(const QString &target, bool fromSettings)
         qDebug() << "Translator: Failed load translations from" << path;
         return {};
     }
-    // Destroying the previous translator removes it from the application.
-    m_installed = std::move(translator);
-    QCoreApplication::installTranslator(m_installed.get());
+    install(std::move(translator), source ? builtIn : language);
     qDebug() << "Translator: Successful load translation from" << path;
     return source ? builtIn : language;
+}
+
+void PMTranslator::install(std::unique_ptr<QTranslator> translator, const QString &language)
+{
+    // Destroying a translator removes it from the application. The new one comes first, so that
+    // nobody sees the source language in between.
+    auto ofQt = std::make_unique<QTranslator>();
+    const QString name = qtPrefix + language.mid(prefix.size());
+    if (!ofQt->load(name, m_folder) &&
+        !ofQt->load(name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        ofQt.reset();
+    if (ofQt)
+        QCoreApplication::installTranslator(ofQt.get());
+    if (translator)
+        QCoreApplication::installTranslator(translator.get());
+    m_installedOfQt = std::move(ofQt);
+    m_installed = std::move(translator);
 }
 
 QString PMTranslator::filePath(const QString &language) const

@@ -33,7 +33,9 @@ public:
 
 private:
     QString filePath(const QString &language) const;
+    void install(std::unique_ptr<QTranslator> translator, const QString &language);
 
     QString m_folder;
     std::unique_ptr<QTranslator> m_installed;
+    std::unique_ptr<QTranslator> m_installedOfQt; ///< the texts of Qt's own menus and dialogs
 };

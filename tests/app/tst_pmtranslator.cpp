@@ -80,6 +80,20 @@ private Q_SLOTS:
         QCOMPARE(translator.translate(QString(), true), QStringLiteral("passwordmanager_en"));
         QCOMPARE(shown(), source);
     }
+
+    void shippedLanguages()
+    {
+        PMTranslator translator(QStringLiteral(SHIPPED_TRANSLATIONS));
+        QStringList names;
+        for (const QString &language : translator.availableLanguages())
+            names.append(translator.displayName(language));
+        names.sort();
+        QCOMPARE(names.join(QLatin1Char(' ')),
+                 QString::fromUtf8("Deutsch English Español Français Русский"));
+        QCOMPARE(translator.translate({}, true), QStringLiteral("passwordmanager_en"));
+        QCOMPARE(QCoreApplication::translate("ItemKinds", "%n items", nullptr, 1),
+                 QStringLiteral("1 item"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestPmTranslator)
