@@ -95,11 +95,17 @@ export function createRequests({ tabs, documents, logins, send }) {
     });
   }
 
+  // A login's request says which site it is for. The program decides, but what it must refuse it need not see.
+  function admitted({ reason, url }, page) {
+    if (reason !== 'login' || (sameSite(url, page.tabUrl) && !losesEncryption(url, page.tabUrl))) return page;
+    return { ...page, docinfo: { ...page.docinfo, forms: [], elements: [] } };
+  }
+
   async function run(request, work) {
     const job = begin(request);
     try {
       const found = await work(job);
-      if (found?.page && !job.signal.aborted) await answer(found.action, request, found.tabId, found.page);
+      if (found?.page && !job.signal.aborted) await answer(found.action, request, found.tabId, admitted(request, found.page));
     } finally {
       running.delete(job);
     }

@@ -1,10 +1,10 @@
 #include "SiteAddress.h"
 
+#include "PublicSuffixes.h"
+
 #include <QHostAddress>
 #include <QRegularExpression>
 #include <QUrl>
-
-#include <libpsl.h>
 
 namespace {
 
@@ -64,8 +64,7 @@ QString registrableDomainOf(const QString &host)
     const bool isLocal = lastLabel(host) == QLatin1String("localhost");
     if (isLocal || !QHostAddress(host).isNull())
         return {};
-    const QByteArray name = host.toLatin1();
-    return QString::fromLatin1(psl_registrable_domain(psl_builtin(), name.constData()));
+    return PublicSuffixes::shipped().registrableDomain(host);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
+#include "PublicSuffixes.h"
 #include "SiteAddress.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 class TestSiteAddress : public QObject
@@ -13,6 +15,7 @@ private Q_SLOTS:
     void host();
     void mayFill_data();
     void mayFill();
+    void unreadableList();
 };
 
 void TestSiteAddress::withScheme_data()
@@ -136,6 +139,13 @@ void TestSiteAddress::mayFill_data()
     row("https://me.github.io", "https://evil.github.io/", false);
     row("https://github.io", "https://evil.github.io/", false);
     row("https://me.github.io", "https://github.io/", false);
+    row("https://alice.replit.app", "https://mallory.replit.app/", false);
+    row("https://alice.replit.app", "https://www.alice.replit.app/", true);
+    row("https://me.hf.space", "https://evil.hf.space/", false);
+    row("https://me.lovable.app", "https://evil.lovable.app/", false);
+    row("https://me.deno.net", "https://evil.deno.net/", false);
+    row("https://www.city.kawasaki.jp", "https://city.kawasaki.jp/", true);
+    row("https://a.b.kawasaki.jp", "https://c.b.kawasaki.jp/", false);
 
     row("127.0.0.1", "http://127.0.0.1/", true);
     row("127.0.0.1", "http://10.20.0.1/", false);
@@ -166,6 +176,14 @@ void TestSiteAddress::mayFill()
     QFETCH(QString, login);
     QFETCH(QString, page);
     QTEST(mayFillLogin(login, page), "expected");
+}
+
+void TestSiteAddress::unreadableList()
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Can't read the list")));
+    const PublicSuffixes suffixes(QStringLiteral(":/absent"));
+    QCOMPARE(suffixes.registrableDomain(QStringLiteral("www.bank.co.uk")),
+             QStringLiteral("bank.co.uk"));
 }
 
 QTEST_APPLESS_MAIN(TestSiteAddress)

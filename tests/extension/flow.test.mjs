@@ -16,7 +16,7 @@ const WEB = {
 };
 const SHOP = 'https://shop.example/login';
 
-const request = (openmode, url, more) => ({ reason: 'login', itemid: 'i1', timestamp: '1700000000001', url, openmode, ...more });
+const request = (openmode, url = SHOP, more = {}) => ({ reason: 'login', itemid: 'i1', timestamp: '1700000000001', url, openmode, ...more });
 const fieldsOf = ({ result: { docinfo } }) => [...docinfo.forms.flatMap(({ fields }) => fields), ...docinfo.elements];
 
 function fillOf({ payload }, values, more) {
@@ -52,7 +52,7 @@ async function reportOf(browser, payload) {
 
 test('a report answers its request and describes the page', async () => {
   const { browser, id } = await browserAt(SHOP);
-  const { action, payload } = await reportOf(browser, request('currentNoReload', '', { request_id: 'r7' }));
+  const { action, payload } = await reportOf(browser, request('currentNoReload', SHOP, { request_id: 'r7' }));
   const { result, ...about } = payload;
   assert.equal(action, 'collectDocumentResults');
   assert.deepEqual(about, { reason: 'login', itemid: 'i1', timestamp: '1700000000001', request_id: 'r7', openmode: 'currentNoReload', tabUrl: SHOP });
@@ -74,6 +74,14 @@ test('each open mode reports the tab that it names', async () => {
     const { browser } = await browserAt('https://shop.example/');
     const { payload } = await reportOf(browser, request(openmode, url));
     assert.deepEqual([payload.tabUrl, browser.address(tabId), fieldsOf(payload).length], [address, address, count], openmode);
+  }
+});
+
+test('a page of another site, or without the encryption of the login\'s, shows the program no field', async () => {
+  for (const address of ['https://other.example/', 'http://shop.example/login']) {
+    const { browser } = await browserAt(address);
+    const { payload } = await reportOf(browser, request('currentNoReload'));
+    assert.deepEqual([payload.tabUrl, fieldsOf(payload)], [address, []]);
   }
 });
 
@@ -170,7 +178,7 @@ const STEPS = [
   ['another site', 0, ({ go }) => go('https://other.example/')],
   ['another tab', 0, async ({ browser }) => { browser.addTab(NEXT); await idle(); }],
   ['too late', 0, async ({ browser, go }) => { await browser.clock.advance(60001); await go(NEXT); }],
-  ['after a newer request', 0, async ({ browser, go }) => { await reportOf(browser, request('currentNoReload', '', { timestamp: '2' })); await go(NEXT); }],
+  ['after a newer request', 0, async ({ browser, go }) => { await reportOf(browser, request('currentNoReload', SHOP, { timestamp: '2' })); await go(NEXT); }],
   ['after another item took the tab', 0, async ({ browser }) => { await reportOf(browser, request('current', NEXT, { itemid: 'i2' })); }],
 ];
 

@@ -1,12 +1,16 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { losesEncryption, sameDocument, sameSite } from '../../extension/src/site.js';
+import { shippedList, suffixList } from '../../scripts/refresh-suffixes.mjs';
 
 const PAIRS = [
   ['https://www.example.com/a', 'http://login.example.com:8080/b', true],
   ['https://example.co.uk', 'https://other.co.uk', false],
   ['https://alice.github.io', 'https://bob.github.io', false],
   ['https://github.io', 'https://bob.github.io', false],
+  ['https://alice.replit.app', 'https://mallory.replit.app', false],
+  ['https://me.hf.space', 'https://evil.hf.space', false],
+  ['https://me.deno.net', 'https://www.me.deno.net', true],
   ['https://example.com', 'https://notexample.com', false],
   ['https://example.com', 'https://example.com.evil.net', false],
   ['https://xn--85x722f.xn--55qx5d.cn', 'https://食狮.公司.cn/', true],
@@ -46,4 +50,8 @@ test('the same document differs at most in what follows the #', () => {
   assert.equal(sameDocument('https://a.de', 'https://a.de/#top'), true);
   assert.equal(sameDocument('https://a.de/?a', 'https://a.de/?b'), false);
   assert.equal(sameDocument('chrome://newtab/', 'chrome://newtab/'), false);
+});
+
+test('the program tells sites apart by the same list', () => {
+  assert.ok(shippedList() === suffixList(), 'run scripts/refresh-suffixes.mjs');
 });
