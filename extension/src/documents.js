@@ -4,6 +4,8 @@ import { losesEncryption, sameSite } from './site.js';
 const MOST_FIELDS = 500;
 const LONGEST_ADDRESS = 4096;
 const TOP = 0;
+// One frame that is busy, such as an advertisement, must not keep the page from being filled.
+const FRAME_LIMIT = 1000;
 
 // The next two run inside the page and can use nothing from around them.
 function describeFrame() {
@@ -19,7 +21,9 @@ async function callPage(name, argument) {
  * The documents of a tab, and nothing of another site. A frame counts when it and every frame around it
  * belong to the site of the tab and none of them gives up the tab's encryption.
  */
-export function createDocuments(api) {
+export function createDocuments({ api, timers }) {
+  const reported = new Map(); // tab → the documents of its latest description
+
   async function run(target, injection) {
     try {
       return await api.scripting.executeScript({ target, injectImmediately: true, ...injection });
@@ -28,18 +32,29 @@ export function createDocuments(api) {
     }
   }
 
+  /** What the promise brings, undefined when it takes longer. */
+  function within(milliseconds, promise) {
+    return new Promise((resolve) => {
+      const limit = timers.setTimeout(resolve, milliseconds);
+      promise.then((result) => {
+        timers.clearTimeout(limit);
+        resolve(result);
+      });
+    });
+  }
+
   // Where the browser names documents, a document that replaced the one that was looked at is never reached.
   const targetOf = ({ tabId, frameId, documentId }) =>
     documentId ? { tabId, documentIds: [documentId] } : { tabId, frameIds: [frameId] };
 
   /** The tab's top document and the frames of its site, the top one first; empty when the page is out of reach. */
   async function list(tabId) {
-    const frames = await run({ tabId, allFrames: true }, { func: describeFrame });
-    const top = frames.find(({ frameId, result }) => frameId === TOP && result);
-    if (!top) return [];
+    const [top] = await run({ tabId, frameIds: [TOP] }, { func: describeFrame });
+    if (!top?.result) return [];
+    const all = (await within(FRAME_LIMIT, run({ tabId, allFrames: true }, { func: describeFrame }))) ?? [];
     const { origin: site } = top.result;
     const belongs = (origin) => sameSite(origin, site) && !losesEncryption(site, origin);
-    return frames
+    return [top, ...all.filter(({ frameId }) => frameId !== TOP)]
       .filter(({ result }) => result && [result.origin, ...result.around].every(belongs))
       .map(({ frameId, documentId, result }) => ({ tabId, frameId, documentId, origin: result.origin }))
       .sort((a, b) => a.frameId - b.frameId);
@@ -53,9 +68,17 @@ export function createDocuments(api) {
     return answer?.result ?? undefined;
   }
 
+  // Without the top document there is no page; for the others it does not wait longer than the limit.
+  function askAll(frames, name, argument, limit) {
+    return frames.map((frame) => {
+      const answer = call(frame, name, argument);
+      return frame.frameId === TOP ? answer : within(limit, answer);
+    });
+  }
+
   /** Waits until one of the documents shows a field of the kind; undefined when the top document went away. */
   async function waitFor(frames, kind, milliseconds) {
-    const answers = frames.map((frame) => call(frame, 'waitFor', { kind, milliseconds }));
+    const answers = askAll(frames, 'waitFor', { kind, milliseconds }, milliseconds + FRAME_LIMIT);
     const shown = answers.map(async (answer) => (await answer) || Promise.reject());
     const first = await Promise.any(shown).catch(() => false);
     return first || answers[0];
@@ -64,8 +87,10 @@ export function createDocuments(api) {
   /** The description of a tab's page: {docinfo, tabUrl, icon, password: a visible password field is there}. */
   async function describe(tabId) {
     const frames = await list(tabId);
-    const reports = await Promise.all(frames.map((frame) => call(frame, 'collect')));
+    const reports = await Promise.all(askAll(frames, 'collect', {}, FRAME_LIMIT));
     if (!reports[0]) return undefined;
+    const known = new Map();
+    reported.set(tabId, known);
     const docinfo = { title: reports[0].title, url: reports[0].url.slice(0, LONGEST_ADDRESS), forms: [], elements: [] };
     let room = MOST_FIELDS;
     let password = false;
@@ -80,6 +105,7 @@ export function createDocuments(api) {
     frames.forEach((frame, index) => {
       const report = reports[index];
       if (!report || report.origin !== frame.origin) return;
+      known.set(report.token, frame);
       const forms = report.forms.map((form) => ({ ...form, fields: take(form.fields, frame) }));
       docinfo.forms.push(...forms.filter((form) => form.fields.length > 0));
       docinfo.elements.push(...take(report.elements, frame));
@@ -87,5 +113,14 @@ export function createDocuments(api) {
     return { docinfo, tabUrl: docinfo.url, icon: reports[0].icon, password };
   }
 
-  return { list, call, waitFor, describe };
+  /** The document that described itself under the token, while it is there; undefined for any other in its place. */
+  async function reportedAs({ tabId, frameId, token }) {
+    const frame = reported.get(tabId)?.get(token);
+    if (frame?.frameId !== frameId) return undefined;
+    if (frame.documentId) return frame;
+    const there = (await list(tabId)).find((one) => one.frameId === frameId && one.origin === frame.origin);
+    return there && (await call(there, 'token')) === token ? there : undefined;
+  }
+
+  return { list, call, waitFor, describe, reportedAs, forget: (tabId) => reported.delete(tabId) };
 }

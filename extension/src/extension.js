@@ -23,7 +23,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
   });
 
   const tabs = createTabs({ api, timers });
-  const documents = createDocuments(api);
+  const documents = createDocuments({ api, timers });
   const logins = createLogins({ storage: api.storage.session, now });
   const requests = createRequests({ tabs, documents, logins, send: link.send });
   const fills = createFills({ documents, logins, answer: requests.answer, send: link.send });
@@ -40,6 +40,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
   api.tabs.onUpdated.addListener((tabId, { status }) => {
     if (status === 'complete') fills.awaitPassword(tabId);
   });
+  api.tabs.onRemoved.addListener(documents.forget);
   api.tabs.onRemoved.addListener(whenReady(logins.dropTab));
   api.action.onClicked.addListener((tab) => {
     link.connect();

@@ -9,15 +9,17 @@ export function createFills({ documents, logins, answer, send }) {
     for (const { opid, gpmid, value } of elements) {
       const route = parseOpid(opid);
       if (!route) continue;
-      const key = `${route.tabId}:${route.frameId}`;
+      const key = `${route.tabId}:${route.frameId}:${route.token}`;
       if (!groups.has(key)) groups.set(key, { ...route, elements: [] });
       groups.get(key).elements.push({ opid: route.opid, gpmid, value });
     }
     return [...groups.values()];
   }
 
-  async function fillGroup({ tabId, frameId, elements }, formUid) {
-    const frame = (await documents.list(tabId)).find((one) => one.frameId === frameId);
+  // The values leave this script only for the document that reported their fields: whatever is now in its place may be
+  // another site's.
+  async function fillGroup({ elements, ...route }, formUid) {
+    const frame = await documents.reportedAs(route);
     if (!frame) return undefined;
     const done = await documents.call(frame, 'fill', { formUid, elements });
     return done && { ...done, frame, last: elements.at(-1) };

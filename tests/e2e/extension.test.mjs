@@ -163,7 +163,7 @@ test('a page that does not load is not answered for', limit, async () => {
   program.send('getDocumentData', { reason: 'login', itemid: 'gone', timestamp: '5', url: 'http://127.0.0.1:1/', openmode: 'newtab' });
   const next = await ask('newtab', at('/plain'));
   assert.equal(next.tabUrl, at('/plain'));
-  const again = await ask('currentNoReload', '');
+  const again = await ask('currentNoReload', at('/plain'));
   assert.equal(again.itemid, 'item');
 });
 
@@ -171,11 +171,11 @@ test('a document that was left gets nothing, nor does the one in its place', lim
   const payload = await ask('newtab', at('/plain'));
   const page = await pageAt(at('/plain'));
   await page.bringToFront();
-  const here = await ask('currentNoReload', '');
+  const here = await ask('currentNoReload', at('/plain'));
   await page.reload();
   fill(here, { user: 'late', pw: 'late' });
   fill(payload, { user: 'late', pw: 'late' });
-  fill(await ask('currentNoReload', ''), { user: 'ana' });
+  fill(await ask('currentNoReload', at('/plain')), { user: 'ana' });
   await page.waitForFunction(() => document.querySelector('[name=user]').value !== '');
   assert.deepEqual(await page.$$eval('input', (inputs) => inputs.map(({ value }) => value)), ['ana', '']);
 });

@@ -13,14 +13,16 @@ function createEvent() {
 
 /**
  * A browser with one window and the extension running in it, connected to a stand-in for the program.
- * web: address → page text, or {html, frames: [[address, ...addresses around it]]}; one that is missing fails to load.
- * With manual set, a navigation stays under way until arrive() is called.
+ * web: address → page text, or {html, busy, frames: [[address, ...addresses around it]]}; one that is missing fails to
+ * load, one that is busy answers no script. With manual set, a navigation stays under way until arrive() is called.
+ * documentIds: whether the browser names documents, or knows them by their frame alone.
  */
-export async function startBrowser(web, { manual = false } = {}) {
+export async function startBrowser(web, { manual = false, documentIds = true } = {}) {
   const clock = createClock();
   const tabs = new Map();
   const session = {};
   const looks = {};
+  const injections = [];
   let lastDocument = 0;
   let onUpdated = createEvent();
   let onRemoved = createEvent();
@@ -32,7 +34,7 @@ export async function startBrowser(web, { manual = false } = {}) {
 
   function open(url, frameId, around) {
     const window = openPage(htmlOf(web[url]), { url, clock, ancestors: around.map((address) => new URL(address).origin) });
-    return { frameId, documentId: `D${(lastDocument += 1)}`, window };
+    return { frameId, documentId: `D${(lastDocument += 1)}`, window, busy: web[url].busy };
   }
 
   function arrive(tab) {
@@ -66,13 +68,22 @@ export async function startBrowser(web, { manual = false } = {}) {
     return idle();
   }
 
+  function targetsOf({ tabId, allFrames, frameIds, documentIds: ids }) {
+    if (ids && !documentIds) throw new Error('Unexpected property: documentIds');
+    const { documents } = tabs.get(tabId);
+    if (allFrames) return documents;
+    return documents.filter(({ frameId, documentId }) => (ids ? ids.includes(documentId) : frameIds.includes(frameId)));
+  }
+
   async function executeScript({ target, func, files, args = [] }) {
-    const { documents } = tabs.get(target.tabId);
-    const wanted = target.allFrames ? documents : documents.filter(({ documentId }) => target.documentIds.includes(documentId));
+    const wanted = targetsOf(target);
     if (wanted.length === 0) throw new Error('No such document');
-    return Promise.all(wanted.map(async ({ frameId, documentId, window }) => {
+    return Promise.all(wanted.map(async ({ frameId, documentId, window, busy }) => {
+      injections.push({ document: window.document, args });
+      if (busy) await new Promise(() => {});
       const result = files ? window.eval(pageScript) : await window.eval(`(${func})`)(...structuredClone(args));
-      return { frameId, documentId, result: files || result === undefined ? null : JSON.parse(JSON.stringify(result)) };
+      const plain = files || result === undefined ? null : JSON.parse(JSON.stringify(result));
+      return { frameId, ...(documentIds && { documentId }), result: plain };
     }));
   }
 
@@ -123,7 +134,7 @@ export async function startBrowser(web, { manual = false } = {}) {
 
   await startBackground();
   return {
-    clock, looks, session, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, startBackground,
+    clock, looks, session, injections, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, startBackground,
     click: (tab) => onClicked.fire(tab),
     documentOf: (tabId, frame = 0) => tabs.get(tabId).documents[frame].window.document,
     go: (tabId, url) => { navigate(tabs.get(tabId), url); return idle(); },

@@ -142,17 +142,47 @@ test('frames of another site or without encryption are neither reported nor fill
   assert.equal(browser.documentOf(id, 2).querySelector('input').value, '');
 });
 
-test('values reach the reported document and no later one in its place', async () => {
-  const { browser, id } = await browserAt(SHOP);
-  const report = await reportOf(browser, request('currentNoReload'));
-  await browser.command('fillForm', fillOf(report, { user: 'ana', pw: 'secret' }));
-  assert.deepEqual([...browser.documentOf(id).querySelectorAll('input')].map(({ value }) => value), ['ana', 'secret']);
-  for (const next of [SHOP, 'https://other.example/']) {
-    await browser.go(id, next);
-    await browser.command('fillForm', fillOf(report, { user: 'ana', pw: 'secret' }));
-    assert.ok([...browser.documentOf(id).querySelectorAll('input')].every(({ value }) => value === ''), next);
+const HIDDEN = 'https://shop.example/hidden';
+const PLACED = {
+  [HIDDEN]: { html: '', frames: [['https://shop.example/password', HIDDEN]] },
+  'https://other.example/framed': { html: '', frames: [['https://other.example/', 'https://other.example/framed']] },
+};
+
+test('values reach the reported document alone, and no later one in its place', async () => {
+  for (const documentIds of [true, false]) {
+    for (const [start, ...later] of [[SHOP, SHOP, 'https://other.example/'], [HIDDEN, HIDDEN, 'https://other.example/framed']]) {
+      const { browser, id } = await browserAt(start, PLACED, { documentIds });
+      const report = await reportOf(browser, request('currentNoReload'));
+      const fill = fillOf(report, { user: 'ana', pw: 'secret' });
+      const holders = () => new Set(browser.injections.splice(0).filter(({ args }) => /secret|ana/.test(JSON.stringify(args))).map(({ document }) => document));
+      const reported = browser.documentOf(id, start === HIDDEN ? 1 : 0);
+      await browser.command('fillForm', fill);
+      assert.equal(reported.querySelector('[name=pw]').value, 'secret');
+      assert.deepEqual(holders(), new Set([reported]));
+      for (const next of later) {
+        await browser.go(id, next);
+        await browser.command('fillForm', fill);
+        assert.equal(holders().size, 0, `${documentIds} ${next}`);
+      }
+      assert.doesNotMatch(JSON.stringify(browser.session), /secret|ana/);
+    }
   }
-  assert.doesNotMatch(JSON.stringify(browser.session), /secret|ana/);
+});
+
+test('a frame that answers nothing keeps no other from being reported and filled', async () => {
+  const frames = [['https://ads.example/', FRAMED], ['https://shop.example/password', FRAMED], ['https://shop.example/stuck', FRAMED]];
+  const busy = { html: PASSWORD, busy: true };
+  const web = { 'https://ads.example/': busy, 'https://shop.example/stuck': busy };
+  for (const [at, expected] of [[frames.slice(0, 2), ['user', 'pw']], [frames.slice(1), ['user', 'pw']]]) {
+    const { browser, id } = await browserAt(FRAMED, { ...web, [FRAMED]: { html: LOGIN, frames: at } });
+    await browser.command('getDocumentData', request('currentNoReload'));
+    await browser.clock.advance(1000);
+    await idle();
+    const [report] = browser.received();
+    assert.deepEqual(fieldsOf(report.payload).map(({ name }) => name), expected);
+    await browser.command('fillForm', fillOf(report, { user: 'ana', pw: 'secret' }));
+    assert.equal(browser.documentOf(id).querySelector('[name=pw]').value, 'secret');
+  }
 });
 
 test('a submit goes out only when every field took its value', async () => {

@@ -33,7 +33,7 @@ function createPage(doc) {
 
   return {
     token: () => token,
-    collect: () => ({ ...look(), origin: self.origin }),
+    collect: () => ({ ...look(), origin: self.origin, token }),
     shows: ({ kind }) => shows(doc, kind),
     waitFor: ({ kind, milliseconds }) => waitUntil(doc, () => shows(doc, kind), milliseconds),
 
