@@ -1,5 +1,5 @@
 import { parseOpid } from './route.js';
-import { siteOf } from './site.js';
+import { losesEncryption, sameSite, siteOf } from './site.js';
 
 /** The program's values, each to the one document that reported its field, and what follows a filled login. */
 export function createFills({ documents, logins, answer, send }) {
@@ -16,11 +16,19 @@ export function createFills({ documents, logins, answer, send }) {
     return [...groups.values()];
   }
 
+  // Where the fields' forms may be sent: the addresses, or undefined when one is of another site or gives up encryption.
+  async function safeTargets(frame, formUid, elements) {
+    const addresses = await documents.call(frame, 'targets', { formUid, elements });
+    const isSafe = (address) => sameSite(address, frame.origin) && !losesEncryption(frame.origin, address);
+    return addresses?.every(isSafe) ? addresses : undefined;
+  }
+
   // The values leave this script only for the document that reported their fields: whatever is now in its place may be
   // another site's.
   async function fillGroup({ elements, ...route }, formUid) {
     const frame = await documents.reportedAs(route);
-    if (!frame) return undefined;
+    const fields = elements.map(({ opid, gpmid }) => ({ opid, gpmid }));
+    if (!frame || !(await safeTargets(frame, formUid, fields))) return undefined;
     const done = await documents.call(frame, 'fill', { formUid, elements });
     return done && { ...done, frame, last: elements.at(-1) };
   }
@@ -51,8 +59,9 @@ export function createFills({ documents, logins, answer, send }) {
     const complete = results.every((result) => result?.all);
     if (submit && complete) {
       const { frame, last } = done.find(({ password }) => password) ?? done.at(-1);
-      const needsKey = await documents.call(frame, 'submit', { formUid, element: { opid: last.opid, gpmid: last.gpmid } });
-      if (needsKey) send('pressEnterKey');
+      const element = { opid: last.opid, gpmid: last.gpmid };
+      const allowed = await safeTargets(frame, formUid, [element]);
+      if (allowed && (await documents.call(frame, 'submit', { formUid, element, allowed }))) send('pressEnterKey');
     }
     awaitPassword(tabId);
   }

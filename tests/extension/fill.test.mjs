@@ -12,7 +12,11 @@ async function fill(window, values, change = () => {}) {
   change(window.document);
   const request = { formUid: group.formUid, elements: elements.filter(({ value }) => value !== null) };
   const done = await callPage(window, 'fill', request);
-  return { ...done, request, submit: () => callPage(window, 'submit', { ...request, element: request.elements.at(-1) }) };
+  async function submit() {
+    const allowed = await callPage(window, 'targets', request);
+    return callPage(window, 'submit', { ...request, element: request.elements.at(-1), allowed });
+  }
+  return { ...done, request, submit };
 }
 
 const options = (...list) => `<select><option value="">-</option>${list.map(([value, text]) => `<option value="${value}">${text}</option>`).join('')}</select>`;
@@ -126,6 +130,13 @@ const SUBMITS = [
   ['<form><input></form>', ['keydown', 'submit']],
   ['<form><input pattern=x></form>', ['keydown']],
   ['<button name=far>Login</button><div><input><button name=eye></button><div role=button>Weiter</div></div>', ['click Weiter']],
+  ['<main><input></main><div><button name=b>OK</button></div>', ['keydown']],
+  ['<div><p><input></p><div class=cookie-bar><button name=b>OK</button></div></div>', ['keydown']],
+  ['<div><p><input></p><div style="position:fixed"><button name=b>Continue</button></div></div>', ['keydown']],
+  ['<div><nav></nav><p><input></p><button name=b>Go</button></div>', ['keydown']],
+  ['<div><nav></nav><p><input></p><button name=b>Go</button><button name=s>Sign in</button></div>', ['click s']],
+  ['<div><b><b><b><b><input></b></b></b></b><button name=b>OK</button></div>', ['click b']],
+  ['<div><b><b><b><b><b><input></b></b></b></b></b><button name=b>OK</button></div>', ['keydown']],
   ['<div><input><button name=b>Create account</button></div>', ['keydown']],
   ['<div><input><button name=b disabled>Sign in</button></div>', ['click b'], (document) => { document.querySelector('button').disabled = false; }],
 ];
@@ -150,6 +161,42 @@ test('sending uses the way that the page offers', async () => {
     await clock.advance(1000);
     assert.equal(await sent, false);
     assert.deepEqual(seen, expected, html);
+  }
+});
+
+const PW = '<input name=p type=password>';
+const SENT = [
+  [`<form method=post>${PW}<button>Log in</button></form>`, true],
+  [`<form method=post action="/in">${PW}</form>`, true],
+  [`<form method=post action="/in">${PW}<button type=button onclick>Log in</button></form>`, true, (form) => form.requestSubmit()],
+  [`<form>${PW}<button>Log in</button></form>`, false],
+  [`<form>${PW}</form>`, false],
+  [`<form><input name=u><button>Next</button></form>`, true],
+  [`<form method=post>${PW}<button formmethod=get>Log in</button></form>`, false],
+  [`<form>${PW.replace('name=p', '')}<button>Log in</button></form>`, true],
+  [`<form method=post action="/in">${PW}<button type=button onclick>Log in</button></form>`, false, (form) => {
+    form.action = 'https://other.example/';
+    form.requestSubmit();
+  }],
+];
+
+test('a page that leaves the sending to the browser sends no password in an address, nor elsewhere than was allowed', async () => {
+  for (const [html, expected, onClick] of SENT) {
+    const clock = createClock();
+    const window = openPage(html, { clock });
+    window.document.querySelector('[onclick]')?.addEventListener('click', ({ target }) => onClick(target.form));
+    let sent;
+    const look = () => window.addEventListener('submit', (event) => {
+      sent = !event.defaultPrevented;
+      event.preventDefault();
+    }, { once: true });
+    const { submit } = await fill(window, ['secret']);
+    window.document.addEventListener('submit', look); // runs when the extension listens already
+    const done = submit();
+    await flush();
+    await clock.advance(1000);
+    await done;
+    assert.equal(sent, expected, html);
   }
 });
 

@@ -196,6 +196,31 @@ test('a submit goes out only when every field took its value', async () => {
   }
 });
 
+const TARGETS = [
+  ['', '', true],
+  ['action="/in"', 'formaction="https://id.shop.example/in"', true],
+  ['action="javascript:void(0)"', '', true],
+  ['method=dialog action="https://other.example/"', '', true],
+  ['action="https://other.example/in"', '', false],
+  ['action="//other.example"', '', false],
+  ['action="http://shop.example/in"', '', false],
+  ['action="mailto:me@shop.example"', '', false],
+  ['action="https://"', '', false],
+  ['action="/in"', 'formaction="https://other.example/in"', false],
+  ['action="/in"><input name=action', '', true],
+  ['action="https://other.example/"><input name=action', '', false],
+];
+
+test('a form that goes to another site, or gives up encryption, gets no value', async () => {
+  for (const [form, button, expected] of TARGETS) {
+    const html = `<form ${form}><input name=pw type=password><button ${button}>Log in</button></form>`;
+    const { browser, id } = await browserAt(SHOP, { [SHOP]: html });
+    const report = await reportOf(browser, request('currentNoReload'));
+    await browser.command('fillForm', fillOf(report, { pw: 'secret' }));
+    assert.equal(browser.documentOf(id).querySelector('[name=pw]').value, expected ? 'secret' : '', html);
+  }
+});
+
 const NEXT = 'https://shop.example/password';
 const STEPS = [
   ['the next page', 1, ({ go }) => go(NEXT)],

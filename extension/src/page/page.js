@@ -2,7 +2,7 @@ import { collect } from './collect.js';
 import { fillField } from './fill.js';
 import { shows } from './presence.js';
 import { waysToSignIn } from './signin.js';
-import { submitFrom } from './submit.js';
+import { submitFrom, targetsOf } from './submit.js';
 import { waitUntil } from './wait.js';
 
 function createPage(doc) {
@@ -37,6 +37,12 @@ function createPage(doc) {
     shows: ({ kind }) => shows(doc, kind),
     waitFor: ({ kind, milliseconds }) => waitUntil(doc, () => shows(doc, kind), milliseconds),
 
+    /** Where the forms of the fields would be sent to. */
+    targets({ formUid, elements }) {
+      const fields = elements.map((element) => findField(element, formUid)).filter(Boolean);
+      return [...new Set(fields.flatMap(targetsOf))];
+    },
+
     /** What was filled: {all: every field took its value, some, password: a password field is among them}. */
     fill({ formUid, elements }) {
       const filled = elements.map((element) => {
@@ -52,9 +58,9 @@ function createPage(doc) {
     },
 
     /** Sends the form of the given field; true when only a real press of the Enter key can do it. */
-    async submit({ formUid, element }) {
+    async submit({ formUid, element, allowed }) {
       const field = findField(element, formUid);
-      return field ? submitFrom(field) : false;
+      return field ? submitFrom(field, allowed) : false;
     },
 
     waysToSignIn() {
