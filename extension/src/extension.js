@@ -5,7 +5,7 @@ import { createLink } from './link.js';
 import { createLogins } from './logins.js';
 import { createRequests } from './requests.js';
 import { createTabs } from './tabs.js';
-import { showState } from './toolbar.js';
+import { createWish, showState } from './toolbar.js';
 
 const ALARM = 'link';
 
@@ -19,37 +19,36 @@ export function startExtension({ api, WebSocket, timers, now }) {
     touchBrowser: () => api.runtime.getPlatformInfo(),
     parseFrame,
     onFrame: ({ action, payload }) => actions[action](payload),
-    onState: (state) => showState(api, state),
+    onState: (state) => {
+      showState(api, state);
+      wish.deliver();
+    },
   });
+  const wish = createWish({ send: link.send, now });
 
   const tabs = createTabs({ api, timers });
   const documents = createDocuments({ api, timers });
-  const logins = createLogins({ storage: api.storage.session, now });
+  const logins = createLogins({ now });
   const requests = createRequests({ tabs, documents, logins, send: link.send });
   const fills = createFills({ documents, logins, answer: requests.answer, send: link.send });
-  const whenReady = (work) => async (payload) => {
-    await logins.ready;
-    return work(payload);
-  };
   const actions = {
-    getDocumentData: whenReady(requests.getDocumentData),
-    findLoginPage: whenReady(requests.findLoginPage),
-    fillForm: whenReady(fills.fillForm),
+    getDocumentData: requests.getDocumentData,
+    findLoginPage: requests.findLoginPage,
+    fillForm: fills.fillForm,
   };
 
   api.tabs.onUpdated.addListener((tabId, { status }) => {
     if (status === 'complete') fills.awaitPassword(tabId);
   });
   api.tabs.onRemoved.addListener(documents.forget);
-  api.tabs.onRemoved.addListener(whenReady(logins.dropTab));
+  api.tabs.onRemoved.addListener(logins.dropTab);
   api.action.onClicked.addListener((tab) => {
     link.connect();
-    link.send('showWindow', { url: tab.url ?? '' });
+    wish.make(tab.url ?? '');
   });
   // Timers end with the background script; the alarm starts it anew.
   api.alarms.onAlarm.addListener(() => link.connect());
   api.alarms.create(ALARM, { periodInMinutes: 0.5 });
 
   link.connect();
-  logins.ready.then(() => logins.waitingTabs().forEach((tabId) => fills.awaitPassword(tabId)));
 }

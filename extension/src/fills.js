@@ -35,7 +35,6 @@ export function createFills({ documents, logins, answer, send }) {
 
   /** Reports a login's next page, or the password field that appeared, as the answer to the same request. */
   async function awaitPassword(tabId) {
-    await logins.ready;
     const record = logins.waiting(tabId);
     if (!record) return;
     const frames = await documents.list(tabId);

@@ -1,38 +1,27 @@
-const KEY = 'logins';
-const PATIENCE = 60000;
+// A user may be slow on the page in between.
+const PATIENCE = 180000;
 
 /**
- * The logins that were reported, so that a later page can answer the same request. They outlive the background
- * script in the session's storage: addresses and ids only, never a value. At most one record a tab and an item:
- * {request, tabId, site, complete: nothing more will be reported, until: end of the wait for a password or 0}.
+ * The logins that were reported, so that a later page can answer the same request; kept as long as this script runs,
+ * which the open connection sees to: the program takes the answer from that connection alone. At most one record a tab
+ * and an item: {request, tabId, site, complete: nothing more will be reported, until: end of the wait for a password
+ * or 0}.
  */
-export function createLogins({ storage, now }) {
+export function createLogins({ now }) {
   let records = [];
-  const ready = storage.get(KEY).then((stored) => {
-    records = stored[KEY] ?? [];
-  });
 
   function keep(condition) {
     records = records.filter(condition);
-    storage.set({ [KEY]: records });
-  }
-
-  function set(record, changes) {
-    Object.assign(record, changes);
-    storage.set({ [KEY]: records });
   }
 
   const find = (tabId) => records.find((record) => record.tabId === tabId);
-  const isWaiting = (record) => record.until > now();
 
   function waiting(tabId) {
     const record = find(tabId);
-    return record && isWaiting(record) ? record : undefined;
+    return record?.until > now() ? record : undefined;
   }
 
   return {
-    ready,
-
     /** Notes the latest report of a tab; complete when a visible password field was in it. */
     reported(request, tabId, site, complete) {
       records.push({ request, tabId, site, complete, until: 0 });
@@ -50,11 +39,10 @@ export function createLogins({ storage, now }) {
       const record = find(tabId);
       if (!record) return;
       const complete = record.complete || withPassword;
-      set(record, { complete, until: complete ? 0 : now() + PATIENCE });
+      Object.assign(record, { complete, until: complete ? 0 : now() + PATIENCE });
     },
 
     waiting,
-    waitingTabs: () => records.filter(isWaiting).map(({ tabId }) => tabId),
     timeLeft: (record) => record.until - now(),
 
     /** Hands the waiting record out, once; undo gives it back. */
@@ -62,8 +50,8 @@ export function createLogins({ storage, now }) {
       const record = waiting(tabId);
       if (!record) return undefined;
       const { until } = record;
-      set(record, { complete: true, until: 0 });
-      return { ...record, undo: () => set(record, { complete: false, until }) };
+      Object.assign(record, { complete: true, until: 0 });
+      return { ...record, undo: () => Object.assign(record, { complete: false, until }) };
     },
 
     dropItem: (itemid) => keep(({ request }) => request.itemid !== itemid),

@@ -138,9 +138,10 @@ export function createRequests({ tabs, documents, logins, send }) {
   }
 
   function findLoginPage(request) {
-    const earlier = logins.tabOf(request);
+    const answered = logins.tabOf(request);
     return run(request, async (job) => {
-      const tab = (earlier !== undefined && (await tabs.get(earlier))) || (await tabs.active());
+      // A user who closed that tab is somewhere else by now, and no other tab is taken from him.
+      const tab = answered === undefined ? undefined : await tabs.get(answered);
       if (!tab || !isWebAddress(request.url)) return undefined;
       job.tabId = tab.id;
       const there = sameSite(tab.url, request.url) && !losesEncryption(request.url, tab.url);

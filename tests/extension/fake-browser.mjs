@@ -20,13 +20,12 @@ function createEvent() {
 export async function startBrowser(web, { manual = false, documentIds = true } = {}) {
   const clock = createClock();
   const tabs = new Map();
-  const session = {};
   const looks = {};
   const injections = [];
   let lastDocument = 0;
-  let onUpdated = createEvent();
-  let onRemoved = createEvent();
-  let onClicked = createEvent();
+  const onUpdated = createEvent();
+  const onRemoved = createEvent();
+  const onClicked = createEvent();
   let program;
 
   const view = ({ id, windowId, url, status }) => ({ id, windowId, url, status });
@@ -91,12 +90,6 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
   const api = () => ({
     runtime: { getURL: () => 'chrome-extension://id/', getManifest: () => ({ version: '1.1.32' }), getPlatformInfo: async () => ({}) },
     scripting: { executeScript },
-    storage: {
-      session: {
-        get: async (key) => structuredClone(key in session ? { [key]: session[key] } : {}),
-        set: async (values) => { Object.assign(session, structuredClone(values)); },
-      },
-    },
     tabs: {
       onUpdated, onRemoved, get: getTab,
       query: async () => [...tabs.values()].filter(({ active }) => active).map(view),
@@ -118,23 +111,22 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
     alarms: { onAlarm: createEvent(), create: () => {} },
   });
 
-  /** Starts the extension's background script, as the browser does again after it ended it. */
-  async function startBackground() {
-    [onUpdated, onRemoved, onClicked] = [createEvent(), createEvent(), createEvent()];
-    class Socket {
-      sent = [];
-      constructor() { program = this; }
-      send(text) { this.sent.push(JSON.parse(text)); }
-    }
-    startExtension({ api: api(), WebSocket: Socket, timers: clock.timers, now: clock.now });
+  class Socket {
+    sent = [];
+    constructor() { program = this; }
+    send(text) { this.sent.push(JSON.parse(text)); }
+  }
+
+  async function greet() {
     program.onopen();
     program.onmessage({ data: '{"action":"hello","callerId":"{1}"}' });
     await idle();
   }
 
-  await startBackground();
+  startExtension({ api: api(), WebSocket: Socket, timers: clock.timers, now: clock.now });
+  await greet();
   return {
-    clock, looks, session, injections, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, startBackground,
+    clock, looks, injections, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, greet, hangUp: () => program.onclose(),
     click: (tab) => onClicked.fire(tab),
     documentOf: (tabId, frame = 0) => tabs.get(tabId).documents[frame].window.document,
     go: (tabId, url) => { navigate(tabs.get(tabId), url); return idle(); },
