@@ -38,4 +38,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>LockReason</name>
+    <message numerus="yes">
+        <source>Locked after %n minutes without input</source>
+        <translation>
+            <numerusform>Locked after %n minute without input</numerusform>
+            <numerusform>Locked after %n minutes without input</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

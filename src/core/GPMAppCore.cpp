@@ -40,10 +40,13 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
                    safeEnvironment(places.dataFolder))
     , m_privateFiles(PrivateFiles::places(places.runtimeFolder, places.dataFolder))
+    , m_guard(
+          m_settings, [this] { return m_safe && m_safe->isUnlocked(); }, places.activity())
     , m_port(places.port)
 {
     // What a run that did not end well left behind.
     m_privateFiles.wipe();
+    startGuard();
 }
 
 GPMAppCore::~GPMAppCore()
@@ -56,6 +59,15 @@ GPMAppCore &GPMAppCore::instance()
     // Lives until the process ends: its sockets must not go after the application object.
     static GPMAppCore *core = new GPMAppCore(standardPlaces());
     return *core;
+}
+
+void GPMAppCore::startGuard()
+{
+    connect(&m_guard, &LockGuard::lockDue, this, &GPMAppCore::lockBecause);
+    connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkInactivity);
+    connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkScreenSaverRunning);
+    connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkBackupJob);
+    m_guardTimer.start(LockGuard::checkMs);
 }
 
 void GPMAppCore::startServer()
@@ -110,6 +122,7 @@ void GPMAppCore::setSafe(const std::shared_ptr<GPMSafe> &safe)
     if (m_safe == safe)
         return;
     lockCurrentSafe();
+    m_lockReason.clear();
     if (m_safe)
         m_safe->disconnect(this);
     m_safe = safe;
@@ -154,10 +167,16 @@ bool GPMAppCore::hasUnsavedChanges() const
 
 void GPMAppCore::lockCurrentSafe()
 {
+    lockBecause(LockReason::User);
+}
+
+void GPMAppCore::lockBecause(LockReason reason)
+{
     // At the end of the program nobody waits for an unlocking that still runs.
     cancelUnlock();
     if (!m_safe || !m_safe->isUnlocked())
         return;
+    m_lockReason = lockReasonText(reason, m_guard.inactivityLimit());
     Q_EMIT requestKeepDraft();
     Q_EMIT requestLock();
     if (m_flow)

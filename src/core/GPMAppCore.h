@@ -5,12 +5,15 @@
 #include "GPMAppSettings.h"
 #include "GPMWebSocketServer.h"
 #include "KnownSafes.h"
+#include "LockGuard.h"
 #include "Platform.h"
 #include "PrivateFiles.h"
 
 #include <QObject>
+#include <QTimer>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 
 /// The application's controller: owns the current safe, the browser link and the settings, and
@@ -20,7 +23,7 @@ class GPMAppCore : public QObject
     Q_OBJECT
 
 public:
-    /// Where the program keeps its files and listens.
+    /// Where the program keeps its files and listens, and whom it asks about the user.
     struct Places
     {
         QString configFolder;       ///< "config.json"
@@ -28,6 +31,7 @@ public:
         QString hiddenFolder;       ///< log and backups
         quint16 port = 7899;        ///< of the browser link on 127.0.0.1
         QString runtimeFolder = {}; ///< for files that end with the session; may be empty
+        std::function<std::unique_ptr<UserActivity>()> activity = &UserActivity::create;
     };
 
     explicit GPMAppCore(const Places &places, QObject *parent = nullptr);
@@ -46,6 +50,10 @@ public:
     Platform &platform() { return *m_platform; }
     /// Copies of attachments for other programs; wiped when the safe locks and at the end.
     PrivateFiles &privateFiles() { return m_privateFiles; }
+    LockGuard &guard() { return m_guard; }
+
+    /// Why the safe was locked, for the user; empty when the user did it or none was open.
+    const QString &lockReason() const { return m_lockReason; }
 
     /// The open safe, locked or not; null while none is chosen.
     const std::shared_ptr<GPMSafe> &currentSafe() const { return m_safe; }
@@ -87,6 +95,11 @@ public Q_SLOTS:
     void unlockCurrentSafe(const QString &password);
     void cancelUnlock();
     void lockCurrentSafe();
+
+    /// Made once a second, in this order.
+    void checkInactivity() { m_guard.checkInactivity(); }
+    void checkScreenSaverRunning() { m_guard.checkScreenSaverRunning(); }
+    void checkBackupJob() { m_guard.checkBackupJob(); }
 
     void doItemDefaultAction(const QString &itemId, const QString &callerId, const QString &option);
     void doLoginDefaultAction(const QString &itemId, const QString &callerId,
@@ -130,6 +143,8 @@ Q_SIGNALS:
 
 private:
     void setSafe(const std::shared_ptr<GPMSafe> &safe);
+    void startGuard();
+    void lockBecause(LockReason reason);
     void connectServer();
     void connectFlow();
     void tellSaveResult(bool good, const QStringList &failedPaths);
@@ -143,6 +158,9 @@ private:
     KnownSafes m_knownSafes;
     ClipboardKeeper m_clipboard;
     PrivateFiles m_privateFiles;
+    LockGuard m_guard;
+    QTimer m_guardTimer;
+    QString m_lockReason;
     quint16 m_port;
     std::unique_ptr<GPMWebSocketServer> m_server;
     std::unique_ptr<FormFillFlow> m_flow;

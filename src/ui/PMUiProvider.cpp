@@ -37,6 +37,7 @@ void PMUiProvider::connectCore()
     connect(&m_core, &GPMAppCore::openAddress, this, &PMUiProvider::openAddress);
     connect(&m_core, &GPMAppCore::requestShowMainWindow, this, &PMUiProvider::bringToFront);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closeMessages);
+    connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closePopups);
     connect(&m_core, &GPMAppCore::safeLockedChanged, this, &PMUiProvider::onLockedChanged);
     connect(&m_core, &GPMAppCore::quitRequested, this, [this] {
         saveWindowState();
@@ -142,6 +143,15 @@ void PMUiProvider::closeMessages()
     for (const QPointer<QWidget> &message : messages) {
         if (message)
             message->close();
+    }
+}
+
+void PMUiProvider::closePopups()
+{
+    // An open menu would keep mouse and keyboard to itself, in front of the lock page.
+    while (QWidget *popup = QApplication::activePopupWidget()) {
+        if (!popup->close())
+            return;
     }
 }
 

@@ -55,6 +55,7 @@ public Q_SLOTS:
 private:
     void showMessage(const QString &title, const QString &text);
     void closeMessages();
+    void closePopups();
     void openAddress(const QUrl &url);
     void showAbout();
     void lock();

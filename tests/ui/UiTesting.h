@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../guard/FakeActivity.h"
 #include "GPMAppCore.h"
 #include "PMFieldTypes.h"
 #include "PMLogin.h"
@@ -16,18 +17,22 @@ const QString testPassword = QStringLiteral("master password 1");
 struct TestCore
 {
     TestCore()
-        : core(places(folder.path()))
+        : core(places(folder.path(), user))
     {
         PMFieldTypes::registerMetaTypes();
         qRegisterMetaType<SafeUnlock::Outcome>("SafeUnlock::Outcome");
     }
 
-    static GPMAppCore::Places places(const QString &folder)
+    using User = std::shared_ptr<FakeActivity::State>;
+
+    static GPMAppCore::Places places(const QString &folder,
+                                     const User &user = std::make_shared<FakeActivity::State>())
     {
         GPMAppCore::Places places;
         places.configFolder = folder + QStringLiteral("/config");
         places.dataFolder = folder + QStringLiteral("/data");
         places.hiddenFolder = folder + QStringLiteral("/hidden");
+        places.activity = [user] { return std::make_unique<FakeActivity>(user); };
         return places;
     }
 
@@ -53,6 +58,7 @@ struct TestCore
     }
 
     QTemporaryDir folder;
+    User user = std::make_shared<FakeActivity::State>();
     GPMAppCore core;
 };
 

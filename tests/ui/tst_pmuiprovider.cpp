@@ -21,6 +21,7 @@ private Q_SLOTS:
     void firstLaunchForgetsOldWindows();
     void failedSaveOnLockIsTold();
     void lockClosesMessagesAboutItems();
+    void guardLocksThroughMenuAndDialog();
     void requestsKeepWhatIsEntered();
     void withoutATrayNothingIsHidden();
     void menuEndsTheProgram();
@@ -158,6 +159,35 @@ void TestPMUiProvider::lockClosesMessagesAboutItems()
     test.core.lockCurrentSafe();
     QCOMPARE(titles(),
              QStringList({QStringLiteral("Warning"), QStringLiteral("Can't save changes.")}));
+}
+
+void TestPMUiProvider::guardLocksThroughMenuAndDialog()
+{
+    TestCore test;
+    Ui ui(test);
+    QVERIFY(test.createSafe());
+    ui.window().show();
+    auto *dialog =
+        new QuestionDialog({QStringLiteral("Sure?"), {}, {QStringLiteral("OK")}}, &ui.window());
+    dialog->open();
+    QMenu menu;
+    menu.addAction(QStringLiteral("Copy"));
+    menu.popup(QPoint());
+    QCOMPARE(QApplication::activePopupWidget(), &menu);
+    QSignalSpy locked(&test.core, &GPMAppCore::safeLockedChanged);
+    test.user->idleMs = 180001;
+    QVERIFY(locked.wait());
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
+    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(!dialog->isVisible());
+    const auto *subtitle = find<QLabel>(ui.window(), "unlockSubtitle");
+    QCOMPARE(subtitle->text(), QStringLiteral("Locked after 3 minutes without input"));
+
+    // A lock by the user needs no reason.
+    QVERIFY(test.core.currentSafe()->unlock(testPassword));
+    test.core.lockCurrentSafe();
+    QCOMPARE(subtitle->text(), QStringLiteral("Unlock your safe to go on"));
+    QCOMPARE(locked.count(), 3);
 }
 
 void TestPMUiProvider::requestsKeepWhatIsEntered()

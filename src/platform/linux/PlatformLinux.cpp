@@ -1,32 +1,10 @@
 #include "Platform.h"
+#include "XConnection.h"
 
 #include <X11/XKBlib.h>
-#include <X11/Xlib.h>
 #include <X11/keysym.h>
 
 namespace {
-
-/// One connection to the X server for one call: the calls are rare, and a connection kept open
-/// would end the program together with the server.
-class XConnection
-{
-public:
-    XConnection()
-        : m_display(XOpenDisplay(nullptr))
-    {
-    }
-    ~XConnection()
-    {
-        if (m_display)
-            XCloseDisplay(m_display);
-    }
-    XConnection(const XConnection &) = delete;
-    XConnection &operator=(const XConnection &) = delete;
-    operator Display *() const { return m_display; }
-
-private:
-    Display *m_display;
-};
 
 class PlatformLinux : public Platform
 {
@@ -35,7 +13,8 @@ public:
     /// would repeat for ever without its key-up.
     bool pressEnterKey() override
     {
-        const XConnection display;
+        const XConnection server;
+        Display *display = server.display();
         if (!display)
             return false;
         Window focus = None;
@@ -48,7 +27,7 @@ public:
         event.xkey.type = KeyPress;
         event.xkey.display = display;
         event.xkey.window = focus;
-        event.xkey.root = DefaultRootWindow(static_cast<Display *>(display));
+        event.xkey.root = server.root();
         event.xkey.time = CurrentTime;
         event.xkey.same_screen = True;
         event.xkey.keycode = XKeysymToKeycode(display, XK_Return);
@@ -59,7 +38,8 @@ public:
 
     bool capsLockOn() override
     {
-        const XConnection display;
+        const XConnection server;
+        Display *display = server.display();
         XkbStateRec state = {};
         if (!display || XkbGetState(display, XkbUseCoreKbd, &state) != Success)
             return false;

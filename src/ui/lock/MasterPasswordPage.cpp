@@ -194,8 +194,7 @@ void MasterPasswordPage::showState()
     const bool noSafes = state == State::NoSafes;
     const bool unlocking = state == State::Unlocking;
     m_title->setText(noSafes ? tr("Welcome") : tr("Welcome back"));
-    m_subtitle->setText(noSafes ? tr("You have not Safe yet\nCreate one?")
-                                : tr("Unlock your safe to go on"));
+    m_subtitle->setText(noSafes ? tr("You have not Safe yet\nCreate one?") : m_logic.invitation());
     const QString folder = m_logic.chosenFolder();
     m_selector->setCurrentIndex(folder.isEmpty() ? -1 : m_selector->findData(folder));
     m_hint->setText(m_logic.hint().isEmpty() ? QString() : tr("Hint: %1").arg(m_logic.hint()));

@@ -12,6 +12,7 @@ UnlockLogic::UnlockLogic(GPMAppCore &core, QObject *parent)
 {
     connect(&core.knownSafes(), &KnownSafes::changed, this, &UnlockLogic::reload);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &UnlockLogic::takeCurrentSafe);
+    connect(&core, &GPMAppCore::safeLockedChanged, this, &UnlockLogic::changed);
     connect(&core, &GPMAppCore::unlockFinished, this, &UnlockLogic::onFinished);
     connect(&core, &GPMAppCore::unlockProgress, this, [this](int done, int total) {
         m_done = done;
@@ -37,6 +38,12 @@ QString UnlockLogic::hint() const
 {
     const KnownSafes::Entry *entry = chosen();
     return entry ? entry->hint : QString();
+}
+
+QString UnlockLogic::invitation() const
+{
+    const QString &reason = m_core.lockReason();
+    return reason.isEmpty() ? tr("Unlock your safe to go on") : reason;
 }
 
 void UnlockLogic::chooseFirst(const QString &preferredFolder)

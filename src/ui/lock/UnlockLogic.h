@@ -24,6 +24,8 @@ public:
     /// The chosen safe's folder; empty when none is.
     QString chosenFolder() const { return m_folder; }
     QString hint() const;
+    /// Why the safe is locked, or what to do about it.
+    QString invitation() const;
     /// What went wrong last; empty when nothing did.
     QString message() const { return m_message; }
     int itemsDone() const { return m_done; }
