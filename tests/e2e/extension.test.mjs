@@ -32,11 +32,27 @@ const INVISIBLE = [
   '<div inert><input name=x></div>',
   '<input name=x style="clip-path:inset(100%)">',
   '<iframe srcdoc="<input name=x>" style="visibility:hidden"></iframe>',
+  '<div style="filter:blur(1px) opacity(0)"><input name=x></div>',
+  '<div style="-webkit-mask-image:linear-gradient(transparent, transparent)"><input name=x></div>',
+  '<div><template shadowrootmode=open><p style="opacity:0"><slot></slot></p></template><input name=x></div>',
+  '<div><template shadowrootmode=closed><p style="opacity:0"><slot></slot></p></template><input name=x></div>',
+  '<div style="position:relative"><input name=x><b style="position:absolute;inset:-9px;background:white"></b></div>',
+  '<div style="background:white"><input name=x style="position:relative;z-index:-1"></div>',
 ];
+const RIGHT_TO_LEFT = `<div style="width:4000px"></div><input name=reached style="position:absolute;left:-1500px">
+  <input name=x style="position:absolute;left:5000px">`;
+const REACHED = {
+  '/invisible': `${INVISIBLE.join('')}<div style="height:3000px"></div><input name=reached>`,
+  '/body': `<!doctype html><html style="height:100%;overflow:hidden"><body style="height:100%;overflow:auto">
+    <div style="height:3000px"></div><input name=reached><input name=x style="position:absolute;top:-900px">`,
+  '/right': `<!doctype html><html dir=rtl><body>${RIGHT_TO_LEFT}`,
+  '/right-body': `<!doctype html><html><body dir=rtl>${RIGHT_TO_LEFT}`,
+  '/dialog': `<input name=reached><div style="position:fixed;inset:0;background:white;opacity:.95">Cookies?</div>`,
+};
 
 const PAGES = {
   '/plain': `<title>Shop</title><link rel=icon href=/icon.png>${FORM}`,
-  '/invisible': `${INVISIBLE.join('')}<div style="height:3000px"></div><input name=below>`,
+  ...REACHED,
   '/react': '<div id=app></div><script src=/react.js></script>',
   '/react.js': buildSync({
     stdin: { contents: REACT_APP, resolveDir: new URL('.', import.meta.url).pathname },
@@ -124,11 +140,13 @@ test('the report names the page and its icon', limit, async () => {
   assert.deepEqual([fieldsOf({ result })[0].sourceLabelFor, result.docinfo.forms[0].action], ['User', at('/done')]);
 });
 
-test('only what a person can see is visible', limit, async () => {
-  const fields = fieldsOf(await ask('newtab', at('/invisible')));
-  assert.equal(fields.length, INVISIBLE.length + 1);
-  assert.deepEqual(fields.filter(({ visible }) => visible).map(({ name }) => name), ['below']);
-});
+for (const path of Object.keys(REACHED)) {
+  test(`only what a person can see is visible at ${path}`, limit, async () => {
+    const fields = fieldsOf(await ask('newtab', at(path)));
+    assert.equal(fields.length, PAGES[path].split('<input').length - 1);
+    assert.deepEqual(fields.filter(({ visible }) => visible).map(({ name }) => name), ['reached']);
+  });
+}
 
 test('frames of the site are filled, all others stay unknown', limit, async () => {
   const payload = await ask('newtab', at('/frames'));

@@ -102,6 +102,7 @@ const CHANGES = [
   ['the form was drawn again', (document) => { document.body.innerHTML = FORM; }, ['ana', 'pw']],
   ['another field took the place', (document) => { document.body.innerHTML = FORM.replace('name=p type=password', 'name=q'); }, ['ana', '']],
   ['a form was put before it', (document) => { document.body.innerHTML = `<form><input name=u></form>${FORM}`; }, ['', '', '']],
+  ['a field was hidden', (document) => { document.querySelector('[name=p]').style.opacity = 0; }, ['ana', '']],
   ['the fields were moved', (document) => { document.body.append(document.querySelector('[name=p]')); }, ['ana', 'pw']],
 ];
 

@@ -87,7 +87,7 @@ function describeForm(form, token, place) {
 
 /**
  * The fields of one document: {report: {title, url, icon, forms, elements}, fields}, where fields maps the opid of
- * each reported field to {field, formUid, gpmid}.
+ * each reported field to {field, formUid, gpmid, visible}.
  * numberOf gives an element the same number for as long as it lives; token names the document.
  */
 export function collect(doc, token, numberOf) {
@@ -106,7 +106,7 @@ export function collect(doc, token, numberOf) {
     const group = groupOf(field.form);
     const entry = describeField(field, `${token}:${numberOf(field)}`, group.fields.length);
     group.fields.push(entry);
-    fields.set(entry.opid, { field, formUid: group.formUid, gpmid: entry.gpmid });
+    fields.set(entry.opid, { field, formUid: group.formUid, gpmid: entry.gpmid, visible: entry.visible });
   }
   const report = {
     title: clean(doc.title),

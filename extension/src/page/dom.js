@@ -3,6 +3,7 @@
 const getter = (prototype, name) => Object.getOwnPropertyDescriptor(prototype, name).get;
 const nodeType = getter(Node.prototype, 'nodeType');
 const parentNode = getter(Node.prototype, 'parentNode');
+const assignedSlot = getter(Element.prototype, 'assignedSlot');
 const FIND = {
   [Node.ELEMENT_NODE]: Element.prototype.querySelectorAll,
   [Node.DOCUMENT_NODE]: Document.prototype.querySelectorAll,
@@ -34,3 +35,6 @@ export function parentOf(element) {
   if (isElement(parent)) return parent;
   return parent?.host ?? null;
 }
+
+/** The element around this one as it is painted: what fills a slot of a shadow tree lies in that slot. */
+export const flatParentOf = (element) => assignedSlot.call(element) ?? parentOf(element);

@@ -3,6 +3,7 @@ import { fillField } from './fill.js';
 import { shows } from './presence.js';
 import { waysToSignIn } from './signin.js';
 import { submitFrom, targetsOf } from './submit.js';
+import { isVisible } from './visible.js';
 import { waitUntil } from './wait.js';
 
 function createPage(doc) {
@@ -47,7 +48,8 @@ function createPage(doc) {
     fill({ formUid, elements }) {
       const filled = elements.map((element) => {
         const field = findField(element, formUid);
-        return field && fillField(field, element.value) ? field : undefined;
+        const isStillThere = field && (!reported.get(element.opid).visible || isVisible(field));
+        return isStillThere && fillField(field, element.value) ? field : undefined;
       });
       const fields = filled.filter(Boolean);
       return {

@@ -1,4 +1,6 @@
-import { boxOf, hasAttr, parentOf } from './dom.js';
+import { isCovered } from './covered.js';
+import { boxOf, flatParentOf, hasAttr } from './dom.js';
+import { pageReaches, scrollerReaches } from './reach.js';
 
 const SMALLEST = 3;
 const FAINTEST = 0.1;
@@ -19,21 +21,31 @@ function overlap(a, b) {
   };
 }
 
-// What lies left of or above the page can never be scrolled to; to the right and below, the page has its end.
-function outsidePage(box, view) {
-  const page = view.document.documentElement;
-  const width = Math.max(page.scrollWidth, view.innerWidth);
-  const height = Math.max(page.scrollHeight, view.innerHeight);
-  const [x, y] = [view.scrollX, view.scrollY];
-  return box.right + x <= 0 || box.bottom + y <= 0 || box.left + x >= width || box.top + y >= height;
-}
-
 function clippedAway(style) {
   if (EMPTY_SHAPES.some((shape) => shape.test(style.clipPath))) return true;
   const clip = /^rect\((.*)\)$/.exec(style.clip ?? '');
   if (!clip || !['absolute', 'fixed'].includes(style.position)) return false;
   const [top, right, bottom, left] = clip[1].split(/[\s,]+/).map(parseFloat);
   return right - left < SMALLEST || bottom - top < SMALLEST;
+}
+
+function opacityOf({ opacity, filter = '' }) {
+  const filters = [...filter.matchAll(/opacity\(([\d.]+)(%?)\)/g)].map(([, value, percent]) => Number(value) / (percent ? 100 : 1));
+  return filters.reduce((product, value) => product * value, opacity === '' ? 1 : Number(opacity));
+}
+
+function maskedAway(style) {
+  const mask = style.maskImage || style.webkitMaskImage || '';
+  const colors = mask.match(/rgba?\([^)]*\)|\btransparent\b/g) ?? [];
+  return !mask.includes('url(') && colors.length > 0 && colors.every((color) => /^(transparent|rgba\(.*,\s*0\))$/.test(color));
+}
+
+// What is said of the body's scrolling goes for the window, unless the element around it says something.
+function scrollsWithWindow(node, view) {
+  const page = view.document.documentElement;
+  if (node === page) return true;
+  const { overflowX, overflowY } = view.getComputedStyle(page);
+  return node === view.document.body && ![overflowX, overflowY].some((word) => /auto|scroll|hidden|clip/.test(word));
 }
 
 function inHiddenFrame(view) {
@@ -48,26 +60,27 @@ function inHiddenFrame(view) {
 /** Whether a person who scrolls through the page can see the element. */
 export function isVisible(element, view = window) {
   let box = boxOf(element);
-  if (tooSmall(box) || (element.checkVisibility && !element.checkVisibility())) return false;
+  if (tooSmall(box) || (element.checkVisibility && !element.checkVisibility({ opacityProperty: true }))) return false;
   if (view.getComputedStyle(element).visibility !== 'visible') return false;
 
   let opacity = 1;
   let position; // of the box that the ancestors clip
-  for (let node = element; node; node = parentOf(node)) {
+  for (let node = element; node; node = flatParentOf(node)) {
     const style = view.getComputedStyle(node);
     if (style.display === 'none' || style.contentVisibility === 'hidden' || hasAttr(node, 'inert')) return false;
-    if (style.opacity !== '') opacity *= Number(style.opacity);
-    if (opacity < FAINTEST || clippedAway(style)) return false;
+    opacity *= opacityOf(style);
+    if (opacity < FAINTEST || clippedAway(style) || maskedAway(style)) return false;
 
     const clips = position !== 'fixed' && (position !== 'absolute' || style.position !== 'static');
-    const isInner = node !== element && node !== view.document.documentElement && node !== view.document.body;
-    if (isInner && clips) {
+    if (node !== element && clips && !scrollsWithWindow(node, view)) {
       const overflow = `${style.overflow} ${style.overflowX} ${style.overflowY}`;
-      if (/auto|scroll/.test(overflow)) box = boxOf(node);
-      else if (/hidden|clip/.test(overflow)) box = overlap(box, boxOf(node));
+      if (/auto|scroll/.test(overflow)) {
+        if (!scrollerReaches(node, box, style)) return false;
+        box = boxOf(node);
+      } else if (/hidden|clip/.test(overflow)) box = overlap(box, boxOf(node));
     }
     if (tooSmall(box)) return false;
     if (clips) position = style.position;
   }
-  return !outsidePage(box, view) && !inHiddenFrame(view);
+  return pageReaches(view, box) && !isCovered(element, view) && !inHiddenFrame(view);
 }

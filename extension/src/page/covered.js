@@ -1,0 +1,46 @@
+import { boxOf, flatParentOf, matches } from './dom.js';
+
+const OPAQUE = 0.9;
+const PICTURES = new Set(['IMG', 'VIDEO', 'CANVAS', 'IFRAME', 'OBJECT', 'EMBED']);
+const PLACES = [[0.5, 0.5], [0.25, 0.25], [0.75, 0.25], [0.25, 0.75], [0.75, 0.75]];
+
+function alphaOf(color) {
+  const [, alpha] = /^rgba\(.*,\s*([\d.]+)\)$/.exec(color) ?? /\/\s*([\d.]+)\)$/.exec(color) ?? [];
+  if (alpha !== undefined) return Number(alpha);
+  return ['', 'transparent'].includes(color) ? 0 : 1;
+}
+
+function paintsOver({ tagName }, style) {
+  return PICTURES.has(tagName) || style.backgroundImage.includes('(') || alphaOf(style.backgroundColor) >= OPAQUE;
+}
+
+function surrounds(outer, element) {
+  for (let node = element; node; node = flatParentOf(node)) {
+    if (node === outer) return true;
+  }
+  return false;
+}
+
+// What floats above the page, such as a dialog or the question about cookies, is closed by the user or goes by itself;
+// what lies behind it is no less there. A field's own label often lies over it as long as it is empty.
+function hides(above, element, view) {
+  if (surrounds(element, above) || [...(element.labels ?? [])].some((label) => surrounds(label, above))) return false;
+  if (!paintsOver(above, view.getComputedStyle(above))) return false;
+  let opacity = 1;
+  for (let node = above; node && !surrounds(node, element); node = flatParentOf(node)) {
+    const style = view.getComputedStyle(node);
+    if (style.position === 'fixed' || matches(node, 'dialog, [popover]')) return false;
+    if (style.opacity !== '') opacity *= Number(style.opacity);
+  }
+  return opacity >= OPAQUE;
+}
+
+/** Whether other parts of the page are painted over the element everywhere, as far as it is on the screen. */
+export function isCovered(element, view) {
+  const root = element.getRootNode();
+  const box = boxOf(element);
+  return PLACES.every(([x, y]) => {
+    const stack = root.elementsFromPoint?.(box.left + (box.right - box.left) * x, box.top + (box.bottom - box.top) * y) ?? [];
+    return stack.slice(0, Math.max(stack.indexOf(element), 0)).some((above) => hides(above, element, view));
+  });
+}
