@@ -4,6 +4,7 @@
 #include "GPMAppSettings.h"
 #include "PMFieldTypes.h"
 #include "PasswordStrength.h"
+#include "drafts/DraftDocument.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
@@ -47,7 +48,7 @@ bool SafeItemEditor::canEdit(PMListItem::Type type)
     return type == PMListItem::Login;
 }
 
-void SafeItemEditor::setItem(const PMListItem *item, bool isNew)
+void SafeItemEditor::setItem(const PMListItem *item, bool isNew, const KeptDraft *kept)
 {
     if (m_item)
         m_item->disconnect(this);
@@ -58,6 +59,8 @@ void SafeItemEditor::setItem(const PMListItem *item, bool isNew)
         return;
     connect(item, &QObject::destroyed, this, &SafeItemEditor::onDestroyed);
     m_draft = ItemDraft(*item, QVector<ItemField>{titleField} + itemFields(item->type()), isNew);
+    if (kept)
+        restoreDraft(m_draft, *kept);
 
     m_body = new QWidget;
     m_body->setObjectName(QStringLiteral("editorBody"));

@@ -7,6 +7,7 @@
 #include <functional>
 
 class GPMAppSettings;
+struct KeptDraft;
 class QLabel;
 class QScrollArea;
 class QVBoxLayout;
@@ -25,7 +26,8 @@ public:
     static bool canEdit(PMListItem::Type type);
 
     /// Shows an item's fields; it is only watched, not changed. The empty item is null.
-    void setItem(const PMListItem *item, bool isNew);
+    /// @param kept what an earlier edit had made of it; null for none
+    void setItem(const PMListItem *item, bool isNew, const KeptDraft *kept = nullptr);
     const ItemDraft &draft() const { return m_draft; }
     bool isModified() const { return m_draft.isModified(); }
 

@@ -4,6 +4,7 @@
 #include "EmptyState.h"
 #include "GPMAppCore.h"
 #include "ItemPage.h"
+#include "drafts/DraftDocument.h"
 #include "editor/SafeItemEditor.h"
 #include "style/Style.h"
 #include "style/Theme.h"
@@ -45,8 +46,16 @@ ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_empty->setContent(QStringLiteral("layout-grid"), tr("No items selected"),
                         tr("Choose an item on the left, or press Ctrl+N to add a login."));
     connect(m_editor, &SafeItemEditor::modifiedChanged, this, &ItemPane::showButtons);
+    connect(m_editor, &SafeItemEditor::modifiedChanged, this, &ItemPane::edited);
     connect(m_editor, &SafeItemEditor::itemGone, this, &ItemPane::drop);
     showNothing();
+}
+
+ItemPane::~ItemPane()
+{
+    // A new item goes before the editor does, which would call back.
+    m_editor->disconnect(this);
+    m_editor->setItem(nullptr, false);
 }
 
 void ItemPane::makeFooter()
@@ -119,7 +128,43 @@ void ItemPane::startEdit()
     if (isEditing() || !canEdit())
         return;
     m_editedId = shownId();
+    m_baseModified = m_page->item()->modified();
     m_editor->setItem(m_page->item(), false);
+    m_stack->setCurrentWidget(m_editor);
+    m_editor->takeFocus();
+    showButtons();
+}
+
+std::optional<KeptDraft> ItemPane::draft() const
+{
+    if (!isEditing() || !m_editor->isModified())
+        return std::nullopt;
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    const PMListItem *item = m_newItem ? m_newItem.get() : safe->item(m_editedId);
+    if (!item)
+        return std::nullopt;
+    KeptDraft kept = keptDraft(*item, m_editor->draft());
+    if (!m_newItem)
+        kept.baseModified = m_baseModified;
+    return kept;
+}
+
+void ItemPane::continueDraft(const KeptDraft &draft, const PMListItem *item)
+{
+    showItem(item);
+    if (item) {
+        m_editedId = item->id();
+        m_baseModified = item->modified();
+        m_editor->setItem(item, false, &draft);
+    } else {
+        const std::unique_ptr<PMListItem> kept = draft.document.toItem();
+        m_newItem = m_core.modelCreateItem(kept->type());
+        // What no editor shows.
+        m_newItem->setFavorite(kept->favorite());
+        m_newItem->setRefs(kept->refs());
+        m_newItem->setUnknownKeys(kept->unknownKeys());
+        m_editor->setItem(m_newItem.get(), true, &draft);
+    }
     m_stack->setCurrentWidget(m_editor);
     m_editor->takeFocus();
     showButtons();
@@ -186,9 +231,12 @@ void ItemPane::drop()
 
 void ItemPane::closeEditor()
 {
+    const bool editing = isEditing();
     m_editor->setItem(nullptr, false);
     m_newItem.reset();
     m_editedId.clear();
+    if (editing)
+        Q_EMIT editEnded();
 }
 
 bool ItemPane::mayLeave()

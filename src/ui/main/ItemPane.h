@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DraftStore.h"
 #include "PMListItem.h"
 #include "dialogs/Question.h"
 
@@ -24,6 +25,7 @@ class ItemPane : public QWidget
 
 public:
     ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent);
+    ~ItemPane() override;
 
     /// Shows an item's page; null shows that none is selected.
     void showItem(const PMListItem *item);
@@ -36,6 +38,11 @@ public:
     /// The id of the item in the editor; empty for a new one.
     QString editedId() const { return m_editedId; }
     bool canEdit() const;
+
+    /// What is edited, to be kept; nothing unless something was changed.
+    std::optional<KeptDraft> draft() const;
+    /// Edits an item on from what was kept. Null: as a new item.
+    void continueDraft(const KeptDraft &draft, const PMListItem *item);
 
     /// Writes the edited values to the safe. False when they may not be written; the user was told.
     bool save();
@@ -50,6 +57,10 @@ public:
 Q_SIGNALS:
     /// The edited values are in the safe.
     void saved(const QString &id);
+    /// A value was changed in the editor.
+    void edited();
+    /// The editor lets go of what was edited: it was discarded, or the item has gone.
+    void editEnded();
     /// The editor closed without saving.
     void discarded();
     void removeRequested(const QString &id);
@@ -83,4 +94,5 @@ private:
     QPushButton *m_save;
     std::unique_ptr<PMListItem> m_newItem;
     QString m_editedId;
+    QDateTime m_baseModified; ///< when the edited item had last changed as editing began
 };

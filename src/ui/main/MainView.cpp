@@ -6,8 +6,11 @@
 #include "ItemListPane.h"
 #include "ItemPage.h"
 #include "ItemPane.h"
+#include "NoticeBanner.h"
 #include "SafeLayout.h"
 #include "Sidebar.h"
+#include "drafts/DraftKeeper.h"
+#include "drafts/DraftOffer.h"
 #include "style/Theme.h"
 
 #include <QBoxLayout>
@@ -45,6 +48,8 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_splitter = new QSplitter(this);
     m_list = new ItemListPane(m_items, theme, m_splitter);
     m_pane = new ItemPane(core, theme, asker, m_splitter);
+    m_keeper = new DraftKeeper(core, *m_pane, this);
+    m_offer = new DraftOffer(*m_pane, *m_keeper, theme, asker, this);
     layOut();
     connectParts();
     connectItemPane();
@@ -64,6 +69,7 @@ void MainView::layOut()
     auto *right = new QVBoxLayout;
     right->setSpacing(0);
     right->addWidget(m_banner);
+    right->addWidget(m_offer->banner());
     right->addWidget(m_splitter, 1);
     auto *all = new QHBoxLayout(this);
     all->setContentsMargins({});
@@ -97,6 +103,7 @@ void MainView::connectItemPane()
         showCurrent();
         m_list->takeFocus();
     });
+    connect(m_offer, &DraftOffer::continued, m_list, &ItemListPane::setCurrent);
     connect(m_pane, &ItemPane::removeRequested, this, &MainView::remove);
     connect(m_pane, &ItemPane::restoreRequested, m_actions, &ItemActions::restore);
     const ItemPage &page = m_pane->page();
@@ -141,6 +148,7 @@ void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
     onContentChanged();
     m_list->setCurrent(m_list->firstId());
     showCurrent();
+    m_offer->openSafe(safe);
 }
 
 void MainView::closeSafe()
@@ -152,6 +160,7 @@ void MainView::closeSafe()
             dialog->reject();
     }
     m_splitter->hide();
+    m_offer->closeSafe();
     m_pane->showNothing();
     m_items.setSafe(nullptr);
     m_list->clearSearch();

@@ -6,6 +6,8 @@
 #include "lock/SecureContent.h"
 
 class Banner;
+class DraftKeeper;
+class DraftOffer;
 class GPMAppCore;
 class ItemActions;
 class ItemListPane;
@@ -67,4 +69,6 @@ private:
     QSplitter *m_splitter;
     ItemListPane *m_list;
     ItemPane *m_pane;
+    DraftKeeper *m_keeper;
+    DraftOffer *m_offer;
 };

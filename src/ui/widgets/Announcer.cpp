@@ -8,8 +8,9 @@ namespace {
 
 QAccessibleInterface *makeAlert(const QString &className, QObject *object)
 {
-    const bool announces =
-        className == QLatin1String("SnackBar") || className == QLatin1String("MessageLabel");
+    const bool announces = className == QLatin1String("SnackBar") ||
+                           className == QLatin1String("MessageLabel") ||
+                           className == QLatin1String("NoticeBanner");
     if (!announces || !object || !object->isWidgetType())
         return nullptr;
     return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::AlertMessage);
