@@ -43,6 +43,11 @@ void registerMetaTypes()
 {
     qRegisterMetaType<Date>("PMFieldTypesDate");
     qRegisterMetaType<Phone>("PMFieldTypesPhone");
+    // Without these, variants compare the addresses of the values.
+    if (QMetaType::hasRegisteredComparators<Date>())
+        return;
+    QMetaType::registerEqualsComparator<Date>();
+    QMetaType::registerEqualsComparator<Phone>();
 }
 
 } // namespace PMFieldTypes

@@ -62,7 +62,8 @@ struct Phone
 };
 
 /// Makes the two structures known to the meta-type system as "PMFieldTypesDate" and
-/// "PMFieldTypesPhone". Called once at start-up, before the first item is made.
+/// "PMFieldTypesPhone", so that variants of them compare by value. Called once at start-up, before
+/// the first item is made.
 void registerMetaTypes();
 
 } // namespace PMFieldTypes

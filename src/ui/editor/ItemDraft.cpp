@@ -1,6 +1,10 @@
 #include "ItemDraft.h"
 
+#include "CardNumber.h"
 #include "FieldRules.h"
+#include "FieldText.h"
+#include "ItemSummary.h"
+#include "PMCreditCard.h"
 #include "PMLogin.h"
 #include "PasswordStrength.h"
 
@@ -26,30 +30,42 @@ void writeProperty(PMListItem &item, const char *name, const QVariant &value)
         qWarning() << "! Ui: Field write failed:" << name << item.id();
 }
 
-/// What lists show of a login follows from its fields.
+/// What lists show of an item, and other fields that follow from those that are edited.
 void deriveFields(PMListItem &item)
 {
-    auto *login = qobject_cast<PMLogin *>(&item);
-    if (!login)
-        return;
-    login->setSecondaryText(login->login());
-    const int level = passwordStrengthLevel(login->password());
-    login->setStrength(static_cast<PMFieldTypes::PasswordStrength>(level));
+    item.setSecondaryText(itemSummary(item));
+    if (auto *login = qobject_cast<PMLogin *>(&item)) {
+        const int level = passwordStrengthLevel(login->password());
+        login->setStrength(static_cast<PMFieldTypes::PasswordStrength>(level));
+    } else if (auto *card = qobject_cast<PMCreditCard *>(&item)) {
+        // A card of which only the type is known keeps it.
+        if (!card->number().isEmpty())
+            card->setCardType(CardNumber::brand(card->number()));
+    }
 }
 
 } // namespace
 
 ItemDraft::ItemDraft(const PMListItem &item, const QVector<ItemField> &fields, bool isNew)
-    : m_fields(fields)
-    , m_isNew(isNew)
+    : m_isNew(isNew)
 {
     for (const ItemField &field : fields) {
+        if (field.form == ItemField::CardType)
+            continue; // follows from the number
         const QVariant value = item.property(field.property);
         // Editors choose enumerations by number.
-        m_original.insert(field.property,
-                          field.form == ItemField::FillType ? QVariant(value.toInt()) : value);
+        const bool isChoice = field.form == ItemField::FillType || field.form == ItemField::Gender;
+        m_original.insert(field.property, isChoice ? QVariant(value.toInt()) : value);
+        m_fields.append(field);
     }
     m_values = m_original;
+}
+
+void ItemDraft::suggest(const char *property, const QVariant &value)
+{
+    setValue(property, value);
+    if (m_original.contains(property))
+        m_original.insert(property, value);
 }
 
 void ItemDraft::setValue(const char *property, const QVariant &value)
@@ -64,7 +80,14 @@ void ItemDraft::setValue(const char *property, const QVariant &value)
 bool ItemDraft::hasEmptyRequired() const
 {
     return std::any_of(m_fields.begin(), m_fields.end(), [this](const ItemField &field) {
-        return field.required && value(field.property).toString().isEmpty();
+        return field.has(ItemField::Required) && value(field.property).toString().isEmpty();
+    });
+}
+
+bool ItemDraft::hasUnreadable() const
+{
+    return std::any_of(m_fields.begin(), m_fields.end(), [this](const ItemField &field) {
+        return !FieldText::isUnderstood(field, value(field.property));
     });
 }
 
@@ -72,6 +95,9 @@ void ItemDraft::writeTo(PMListItem &item) const
 {
     for (const ItemField &field : m_fields) {
         QVariant value = this->value(field.property);
+        // What the browser changed in the meantime is not set back.
+        if (!m_isNew && value == m_original.value(field.property))
+            continue;
         if (field.form == ItemField::Link)
             value = FieldRules::completeUrl(value.toString());
         writeProperty(item, field.property, value);

@@ -21,8 +21,13 @@ public:
     QVariant value(const char *property) const { return m_values.value(property); }
     void setValue(const char *property, const QVariant &value);
 
+    /// What the editor suggests for a field; it does not count as a change.
+    void suggest(const char *property, const QVariant &value);
+
     bool isModified() const { return m_values != m_original; }
     bool hasEmptyRequired() const;
+    /// Whether a value was typed that the item cannot keep, as a date that is none.
+    bool hasUnreadable() const;
 
     /// Sets the item's properties, and those that follow from them. A property that cannot be set
     /// is logged.

@@ -1,37 +1,29 @@
 #include "SafeItemEditor.h"
 
 #include "FieldRules.h"
-#include "GPMAppSettings.h"
-#include "PMFieldTypes.h"
-#include "PasswordStrength.h"
+#include "FieldText.h"
 #include "drafts/DraftDocument.h"
+#include "main/ItemKinds.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
-#include "widgets/PasswordField.h"
-#include "widgets/SelectBox.h"
-#include "widgets/StrengthMeter.h"
-#include "widgets/TextField.h"
 
 #include <QBoxLayout>
 #include <QDebug>
-#include <QPlainTextEdit>
+#include <QPointer>
 #include <QScrollArea>
 
 namespace {
 
 const int pageMargin = 28;
-const int noteHeight = 96;
-
-const ItemField titleField = {"title", QT_TRANSLATE_NOOP("ItemFields", "Title"), ItemField::Line,
-                              true};
+const int columnGap = 14;
+const int foldedNames = 4;
 
 } // namespace
 
 SafeItemEditor::SafeItemEditor(const GPMAppSettings &settings, const Theme &theme, QWidget *parent)
     : QWidget(parent)
-    , m_settings(settings)
-    , m_theme(theme)
+    , m_context{settings, theme, EditorDefaults::fromLocale(QLocale::system()), QLocale::system()}
     , m_scroll(new QScrollArea(this))
 {
     setObjectName(QStringLiteral("itemEditor"));
@@ -41,11 +33,6 @@ SafeItemEditor::SafeItemEditor(const GPMAppSettings &settings, const Theme &them
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins({});
     all->addWidget(m_scroll);
-}
-
-bool SafeItemEditor::canEdit(PMListItem::Type type)
-{
-    return type == PMListItem::Login;
 }
 
 void SafeItemEditor::setItem(const PMListItem *item, bool isNew, const KeptDraft *kept)
@@ -58,23 +45,13 @@ void SafeItemEditor::setItem(const PMListItem *item, bool isNew, const KeptDraft
     if (!item)
         return;
     connect(item, &QObject::destroyed, this, &SafeItemEditor::onDestroyed);
-    m_draft = ItemDraft(*item, QVector<ItemField>{titleField} + itemFields(item->type()), isNew);
+    m_draft =
+        ItemDraft(*item, QVector<ItemField>{itemTitleField()} + itemFields(item->type()), isNew);
+    if (isNew && item->type() == PMListItem::Identity)
+        m_draft.suggest("country", m_context.defaults.country);
     if (kept)
         restoreDraft(m_draft, *kept);
-
-    m_body = new QWidget;
-    m_body->setObjectName(QStringLiteral("editorBody"));
-    m_column = new QVBoxLayout(m_body);
-    m_column->setContentsMargins(pageMargin, 24, pageMargin, 16);
-    m_column->setSpacing(4);
-    m_column->addWidget(makeLabel(isNew ? tr("New login") : tr("Edit login"), "title", m_body));
-    m_column->addSpacing(Style::gap);
-    for (const ItemField &field : m_draft.fields())
-        addRow(field);
-    m_column->addStretch();
-    m_scroll->setWidget(m_body);
-    for (int i = 1; i < m_rows.size(); ++i)
-        setTabOrder(m_rows.at(i - 1).input, m_rows.at(i).input);
+    makeRows(*item);
 }
 
 void SafeItemEditor::onDestroyed()
@@ -88,130 +65,156 @@ void SafeItemEditor::onDestroyed()
 void SafeItemEditor::clearRows()
 {
     // At once: what was typed must not stay on the screen until the next turn of the event loop.
-    m_rows.clear();
+    m_inputs.clear();
     delete m_scroll->takeWidget();
     m_body = nullptr;
     m_column = nullptr;
+    m_more = nullptr;
 }
 
-void SafeItemEditor::addRow(const ItemField &field)
+void SafeItemEditor::makeRows(const PMListItem &item)
 {
-    const QString label = itemFieldLabel(field);
-    auto *caption = makeLabel(label, "muted", m_body);
-    m_column->addWidget(caption);
-    Row row{field, makeInput(field), makeLabel({}, "error", m_body)};
-    row.input->setObjectName(QLatin1String(field.property) + QStringLiteral("Field"));
-    row.input->setAccessibleName(label);
-    caption->setBuddy(row.input);
-    row.message->setObjectName(QLatin1String(field.property) + QStringLiteral("Message"));
-    row.message->setMinimumHeight(18);
-    if (field.form == ItemField::Secret) {
-        auto *meter = new StrengthMeter(m_theme, m_body);
-        auto *line = static_cast<PasswordField *>(row.input);
-        const auto show = [meter](const QString &text) {
-            meter->setLevel(text.isEmpty() ? 0 : passwordStrengthLevel(text));
-        };
-        connect(line, &QLineEdit::textChanged, meter, show);
-        show(line->text());
-        m_column->addWidget(row.input);
-        m_column->addWidget(meter, 0, Qt::AlignLeft);
-        row.message->hide();
-        m_column->addSpacing(4);
-    } else {
-        m_column->addWidget(row.input);
-        m_column->addWidget(row.message);
+    m_body = new QWidget;
+    m_body->setObjectName(QStringLiteral("editorBody"));
+    m_column = new QVBoxLayout(m_body);
+    m_column->setContentsMargins(pageMargin, 24, pageMargin, 16);
+    m_column->setSpacing(4);
+    auto *heading = makeLabel(
+        m_draft.isNew() ? newItemText(item.type())
+                        //: the title of an item and its kind
+                        : tr("Editing “%1” · %2").arg(item.title(), itemKindName(item.type())),
+        "heading", m_body);
+    heading->setObjectName(QStringLiteral("editorHeading"));
+    heading->setWordWrap(true);
+    m_column->addWidget(heading);
+    m_column->addSpacing(Style::gap);
+    QHBoxLayout *row = nullptr;
+    for (const ItemField &field : m_draft.fields()) {
+        if (!row || !field.has(ItemField::Beside)) {
+            row = new QHBoxLayout;
+            row->setSpacing(columnGap);
+            m_column->addLayout(row);
+        }
+        row->addWidget(addInput(field), 1);
     }
-    m_rows.append(row);
+    addMoreButton();
+    m_column->addStretch(1);
+    m_scroll->setWidget(m_body);
 }
 
-QWidget *SafeItemEditor::makeInput(const ItemField &field)
+FieldInput *SafeItemEditor::addInput(const ItemField &field)
 {
-    switch (field.form) {
-    case ItemField::Secret:
-        return makeSecret(field);
-    case ItemField::FillType:
-        return makeFillType(field);
-    case ItemField::Multiline:
-        return makeMultiline(field);
-    default:
-        return makeLine(field);
+    FieldInput *made = makeFieldInput(field, m_context, m_body);
+    made->setValue(m_draft.value(field.property));
+    connect(made, &FieldInput::edited, this, [this, made] { onEdited(*made); });
+    connect(made, &FieldInput::copyRequested, this, &SafeItemEditor::copyRequested);
+    connect(made, &FieldInput::openRequested, this, &SafeItemEditor::openRequested);
+    connect(made, &FieldInput::generatorRequested, this, [this, made] {
+        Q_EMIT generatorRequested([place = QPointer<FieldInput>(made)](const QString &password) {
+            if (!place)
+                return;
+            place->setValue(password);
+            Q_EMIT place->edited();
+        });
+    });
+    m_inputs.append(made);
+    return made;
+}
+
+void SafeItemEditor::addMoreButton()
+{
+    for (FieldInput *folded : qAsConst(m_inputs)) {
+        if (folded->field().has(ItemField::Folded))
+            folded->setVisible(
+                !FieldText::isEmpty(folded->field(), m_draft.value(folded->field().property)));
     }
+    const QString text = moreText();
+    if (text.isEmpty())
+        return;
+    m_more = makeButton(text, "link", m_body);
+    m_more->setObjectName(QStringLiteral("moreFieldsButton"));
+    m_more->setIcon(m_context.theme.icon(QStringLiteral("plus"), Palette::Accent));
+    connect(m_more, &QPushButton::clicked, this, &SafeItemEditor::showFolded);
+    m_column->addWidget(m_more, 0, Qt::AlignLeft);
 }
 
-QWidget *SafeItemEditor::makeLine(const ItemField &field)
+QString SafeItemEditor::moreText() const
 {
-    auto *line = new TextField(m_draft.value(field.property).toString(), m_body);
-    if (field.form == ItemField::Link)
-        line->setPlaceholderText(QStringLiteral("https://"));
-    connect(line, &QLineEdit::textChanged, this,
-            [this, field](const QString &text) { onEdited(field, text); });
-    return line;
-}
-
-QWidget *SafeItemEditor::makeSecret(const ItemField &field)
-{
-    auto *line = new PasswordField(m_theme.icon(QStringLiteral("eye"), Palette::Muted),
-                                   m_theme.icon(QStringLiteral("eye-off"), Palette::Muted), m_body);
-    line->setText(m_draft.value(field.property).toString());
-    connect(line, &QLineEdit::textChanged, this,
-            [this, field](const QString &text) { onEdited(field, text); });
-    return line;
-}
-
-QWidget *SafeItemEditor::makeFillType(const ItemField &field)
-{
-    auto *box = new SelectBox(m_theme.icon(QStringLiteral("chevron-down"), Palette::Muted), m_body);
-    using Type = PMFieldTypes::LoginFillType;
-    for (const Type type : {Type::GlobalSettings, Type::FillAndSubmit, Type::OnlyFill})
-        box->addItem(fillTypeText(static_cast<int>(type), m_settings), static_cast<int>(type));
-    box->setCurrentIndex(box->findData(m_draft.value(field.property)));
-    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this, field, box] { onEdited(field, box->currentData()); });
-    return box;
-}
-
-QWidget *SafeItemEditor::makeMultiline(const ItemField &field)
-{
-    auto *text = new QPlainTextEdit(m_draft.value(field.property).toString(), m_body);
-    text->setTabChangesFocus(true);
-    text->setFixedHeight(noteHeight);
-    connect(text, &QPlainTextEdit::textChanged, this,
-            [this, field, text] { onEdited(field, text->toPlainText()); });
-    return text;
-}
-
-void SafeItemEditor::onEdited(const ItemField &field, const QVariant &value)
-{
-    m_draft.setValue(field.property, value);
-    for (const Row &row : qAsConst(m_rows)) {
-        if (row.field.property == field.property)
-            showFault(row);
+    QStringList names;
+    for (const FieldInput *folded : m_inputs) {
+        if (folded->isHidden())
+            names.append(itemFieldLabel(folded->field()));
     }
+    if (names.isEmpty())
+        return {};
+    //: "small" where a language writes names inside a sentence small, else "as they are"
+    if (tr("small") == QLatin1String("small")) {
+        for (QString &name : names)
+            name = name.toLower();
+    }
+    const bool all = names.size() <= foldedNames;
+    const QString list = QStringList(names.mid(0, foldedNames)).join(tr(", "));
+    //: names of fields
+    return all ? tr("More fields: %1").arg(list) : tr("More fields: %1…").arg(list);
+}
+
+void SafeItemEditor::showFolded()
+{
+    FieldInput *first = nullptr;
+    for (FieldInput *folded : qAsConst(m_inputs)) {
+        if (!folded->isHidden())
+            continue;
+        folded->show();
+        if (!first)
+            first = folded;
+    }
+    m_more->hide();
+    first->control()->setFocus();
+}
+
+void SafeItemEditor::onEdited(const FieldInput &edited)
+{
+    m_draft.setValue(edited.field().property, edited.value());
+    showFault(*input(edited.field().property));
+    // Which code is right depends on the card's number.
+    FieldInput *code = input("code");
+    if (code && code->hasFault() && edited.field().form == ItemField::CardNumber)
+        showFault(*code);
     Q_EMIT modifiedChanged();
 }
 
-void SafeItemEditor::showFault(const Row &row)
+FieldInput *SafeItemEditor::input(const char *property) const
 {
-    const QString fault = FieldRules::message(row.field, m_draft.value(row.field.property));
-    row.message->setText(fault);
-    setStyleProperty(*row.input, "wrong", !fault.isEmpty());
+    for (FieldInput *each : m_inputs) {
+        if (qstrcmp(each->field().property, property) == 0)
+            return each;
+    }
+    return nullptr;
+}
+
+void SafeItemEditor::showFault(FieldInput &input)
+{
+    const ItemField &field = input.field();
+    const QString cardNumber =
+        field.rule == ItemField::CardCode ? m_draft.value("number").toString() : QString();
+    input.setFault(FieldRules::message(field, m_draft.value(field.property), cardNumber));
 }
 
 void SafeItemEditor::takeFocus()
 {
-    if (!m_rows.isEmpty())
-        m_rows.first().input->setFocus();
+    if (!m_inputs.isEmpty())
+        m_inputs.first()->control()->setFocus();
 }
 
 void SafeItemEditor::showFaults()
 {
-    for (const Row &row : qAsConst(m_rows))
-        showFault(row);
-    for (const Row &row : qAsConst(m_rows)) {
-        if (row.message->text().isEmpty())
+    for (FieldInput *each : qAsConst(m_inputs))
+        showFault(*each);
+    for (const FieldInput *each : qAsConst(m_inputs)) {
+        if (!each->hasFault())
             continue;
-        row.input->setFocus();
-        m_scroll->ensureWidgetVisible(row.input);
+        each->control()->setFocus();
+        m_scroll->ensureWidgetVisible(each->control());
         return;
     }
 }

@@ -1,29 +1,27 @@
 #pragma once
 
+#include "FieldInput.h"
 #include "ItemDraft.h"
-
-#include <QWidget>
 
 #include <functional>
 
-class GPMAppSettings;
 struct KeptDraft;
 class QLabel;
+class QPushButton;
 class QScrollArea;
 class QVBoxLayout;
-class StrengthMeter;
-class Theme;
 
-/// Edits the fields of one item. The values stay in its draft until someone writes them.
+/// Edits the fields of one item of any kind. The values stay in its draft until someone writes
+/// them.
 class SafeItemEditor : public QWidget
 {
     Q_OBJECT
 
 public:
-    SafeItemEditor(const GPMAppSettings &settings, const Theme &theme, QWidget *parent);
+    /// Puts a made password into the field that asked for one, if that is still being edited.
+    using Place = std::function<void(const QString &password)>;
 
-    /// Whether items of a kind can be edited.
-    static bool canEdit(PMListItem::Type type);
+    SafeItemEditor(const GPMAppSettings &settings, const Theme &theme, QWidget *parent);
 
     /// Shows an item's fields; it is only watched, not changed. The empty item is null.
     /// @param kept what an earlier edit had made of it; null for none
@@ -40,32 +38,28 @@ Q_SIGNALS:
     void modifiedChanged();
     /// The item was destroyed while its fields were edited.
     void itemGone();
+    void copyRequested(const QString &value);
+    void openRequested(const QString &address);
+    void generatorRequested(const SafeItemEditor::Place &place);
 
 private:
-    struct Row
-    {
-        ItemField field;
-        QWidget *input = nullptr;
-        QLabel *message = nullptr;
-    };
-
     void onDestroyed();
     void clearRows();
-    void addRow(const ItemField &field);
-    QWidget *makeInput(const ItemField &field);
-    QWidget *makeLine(const ItemField &field);
-    QWidget *makeSecret(const ItemField &field);
-    QWidget *makeFillType(const ItemField &field);
-    QWidget *makeMultiline(const ItemField &field);
-    void onEdited(const ItemField &field, const QVariant &value);
-    void showFault(const Row &row);
+    void makeRows(const PMListItem &item);
+    FieldInput *addInput(const ItemField &field);
+    void addMoreButton();
+    QString moreText() const;
+    void showFolded();
+    void onEdited(const FieldInput &input);
+    void showFault(FieldInput &input);
+    FieldInput *input(const char *property) const;
 
-    const GPMAppSettings &m_settings;
-    const Theme &m_theme;
+    InputContext m_context;
     const PMListItem *m_item = nullptr;
     ItemDraft m_draft;
-    QVector<Row> m_rows;
+    QVector<FieldInput *> m_inputs;
     QScrollArea *m_scroll;
     QWidget *m_body = nullptr;
     QVBoxLayout *m_column = nullptr;
+    QPushButton *m_more = nullptr;
 };

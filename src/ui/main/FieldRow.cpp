@@ -62,7 +62,7 @@ FieldRow::FieldRow(const ItemField &field, const QString &value, const Theme &th
 
 QWidget *FieldRow::makeValue()
 {
-    if (m_field.form == ItemField::Secret) {
+    if (m_field.isSecret()) {
         m_secret = makeLabel({}, "value", this);
         m_secret->setWordWrap(true);
         m_secret->setAccessibleName(tr("%1, hidden").arg(itemFieldLabel(m_field)));
@@ -78,7 +78,7 @@ QWidget *FieldRow::makeValue()
 
 void FieldRow::addButtons(QHBoxLayout &row)
 {
-    if (m_field.form == ItemField::FillType)
+    if (m_field.has(ItemField::NoCopy))
         return;
     const QString label = itemFieldLabel(m_field);
     const QString name = QLatin1String(m_field.property);

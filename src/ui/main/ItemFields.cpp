@@ -3,6 +3,8 @@
 #include "GPMAppSettings.h"
 #include "PMCreditCard.h"
 #include "PMFieldTypes.h"
+#include "editor/CardNumber.h"
+#include "editor/DateText.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -15,95 +17,101 @@ using Fields = QVector<ItemField>;
 // The labels are a context of their own for translators.
 #define LABEL(text) QT_TRANSLATE_NOOP("ItemFields", text)
 
-const ItemField noteField = {"note", LABEL("Note"), ItemField::Multiline};
+using F = ItemField;
+
+const F titleField = {"title", LABEL("Title"), F::Line, F::Required};
+const F noteField = {"note", LABEL("Note"), F::Multiline};
+const F foldedNote = {"note", LABEL("Note"), F::Multiline, F::Folded};
 
 const Fields loginFields = {{"login", LABEL("User name")},
-                            {"password", LABEL("Password"), ItemField::Secret},
-                            {"url", LABEL("Web site"), ItemField::Link},
-                            {"fillType", LABEL("When logging in"), ItemField::FillType},
+                            {"password", LABEL("Password"), F::Password},
+                            {"url", LABEL("Web site"), F::Link, F::None, F::Url},
+                            {"fillType", LABEL("When logging in"), F::FillType, F::NoCopy},
                             noteField};
 
-const Fields cardFields = {{"number", LABEL("Card number")},
-                           {"cardholder", LABEL("Card holder")},
-                           {"expire", LABEL("Expires"), ItemField::Month},
-                           {"code", LABEL("Security code"), ItemField::Secret},
-                           {"cardType", LABEL("Card type"), ItemField::CardType},
-                           {"bank", LABEL("Bank")},
-                           {"bankSite", LABEL("Bank web site"), ItemField::Link},
-                           {"bankPhone", LABEL("Bank phone"), ItemField::Phone},
-                           noteField};
+const Fields cardFields = {
+    {"number", LABEL("Card number"), F::CardNumber, F::None, F::CardNumberDigits},
+    {"cardType", LABEL("Card type"), F::CardType, F::NoCopy | F::OnFace},
+    {"cardholder", LABEL("Card holder"), F::Line, F::None, F::CardHolder},
+    {"expire", LABEL("Expires"), F::Month},
+    {"code", LABEL("Security code"), F::SecurityCode, F::Beside, F::CardCode},
+    {"bank", LABEL("Bank"), F::Line, F::OnFace},
+    {"bankPhone", LABEL("Bank phone"), F::Phone},
+    {"bankSite", LABEL("Bank web site"), F::Link, F::Folded, F::Url},
+    noteField};
 
 const Fields accountFields = {{"bankName", LABEL("Bank")},
+                              {"accountType", LABEL("Account type"), F::Line, F::Beside},
                               {"name", LABEL("Account holder")},
-                              {"accountType", LABEL("Account type")},
                               {"number", LABEL("Account number")},
-                              {"routing", LABEL("Routing number")},
+                              {"routing", LABEL("Routing number"), F::Line, F::Beside},
                               {"iban", LABEL("IBAN")},
                               {"swift", LABEL("SWIFT")},
-                              {"pin", LABEL("PIN"), ItemField::Secret},
-                              {"phone", LABEL("Phone"), ItemField::Phone},
-                              {"address", LABEL("Address"), ItemField::Multiline},
-                              {"url", LABEL("Web site"), ItemField::Link},
+                              {"pin", LABEL("PIN"), F::Secret, F::Beside},
+                              {"phone", LABEL("Phone"), F::Phone},
+                              {"url", LABEL("Web site"), F::Link, F::Folded, F::Url},
+                              {"address", LABEL("Address"), F::Multiline, F::Folded},
                               noteField};
 
 const Fields identityFields = {{"firstName", LABEL("First name")},
-                               {"lastName", LABEL("Last name")},
-                               {"birthDate", LABEL("Birth date"), ItemField::Date},
-                               {"gender", LABEL("Gender"), ItemField::Gender},
-                               {"email", LABEL("E-mail")},
-                               {"phone", LABEL("Phone"), ItemField::Phone},
-                               {"phoneCell", LABEL("Mobile phone"), ItemField::Phone},
-                               {"phoneBusiness", LABEL("Business phone"), ItemField::Phone},
+                               {"lastName", LABEL("Last name"), F::Line, F::Beside},
+                               {"birthDate", LABEL("Birth date"), F::Date},
+                               {"gender", LABEL("Gender"), F::Gender, F::Beside},
+                               {"email", LABEL("E-mail"), F::Line, F::None, F::Email},
+                               {"phone", LABEL("Phone"), F::Phone},
                                {"addressLine1", LABEL("Address line 1")},
-                               {"addressLine2", LABEL("Address line 2")},
                                {"city", LABEL("City")},
-                               {"zipCode", LABEL("Postal code")},
-                               {"state", LABEL("State")},
-                               {"country", LABEL("Country")},
-                               {"company", LABEL("Company")},
-                               {"jobTitle", LABEL("Job title")},
-                               {"website", LABEL("Web site"), ItemField::Link},
-                               {"skype", LABEL("Skype")},
-                               noteField};
+                               {"zipCode", LABEL("Postal code"), F::Line, F::Beside},
+                               {"country", LABEL("Country"), F::Country, F::Beside},
+                               {"company", LABEL("Company"), F::Line, F::Folded},
+                               {"jobTitle", LABEL("Job title"), F::Line, F::Folded | F::Beside},
+                               {"website", LABEL("Website"), F::Link, F::Folded, F::Url},
+                               {"state", LABEL("State"), F::Line, F::Folded},
+                               {"addressLine2", LABEL("Address line 2"), F::Line, F::Folded},
+                               {"phoneCell", LABEL("Mobile phone"), F::Phone, F::Folded},
+                               {"phoneBusiness", LABEL("Business phone"), F::Phone, F::Folded},
+                               {"skype", LABEL("Skype"), F::Line, F::Folded},
+                               foldedNote};
 
 const Fields passportFields = {{"number", LABEL("Passport number")},
+                               {"passportType", LABEL("Passport type"), F::Line, F::Beside},
                                {"fullName", LABEL("Full name")},
+                               {"birthDate", LABEL("Birth date"), F::Date},
+                               {"birthPlace", LABEL("Birth place"), F::Line, F::Beside},
                                {"nationality", LABEL("Nationality")},
-                               {"passportType", LABEL("Passport type")},
-                               {"birthDate", LABEL("Birth date"), ItemField::Date},
-                               {"birthPlace", LABEL("Birth place")},
-                               {"country", LABEL("Country")},
+                               {"country", LABEL("Country"), F::Country, F::Beside},
                                {"authority", LABEL("Authority")},
-                               {"issuedDate", LABEL("Issued"), ItemField::Date},
-                               {"expireDate", LABEL("Expires"), ItemField::Date},
+                               {"issuedDate", LABEL("Issued"), F::Date},
+                               {"expireDate", LABEL("Expires"), F::Date, F::Beside},
                                noteField};
 
-const Fields ssnFields = {
-    {"name", LABEL("Name")}, {"number", LABEL("Number"), ItemField::Secret}, noteField};
+const Fields ssnFields = {{"name", LABEL("Name")},
+                          {"number", LABEL("Number"), F::Secret},
+                          {"note", LABEL("Note"), F::LongText}};
 
 const Fields licenceFields = {{"number", LABEL("Licence number")},
+                              {"licenseClass", LABEL("Class"), F::Line, F::Beside},
                               {"fullName", LABEL("Full name")},
-                              {"birthDate", LABEL("Birth date"), ItemField::Date},
-                              {"gender", LABEL("Gender"), ItemField::Gender},
-                              {"height", LABEL("Height"), ItemField::Number},
-                              {"adress", LABEL("Address"), ItemField::Multiline},
+                              {"birthDate", LABEL("Birth date"), F::Date},
+                              {"gender", LABEL("Gender"), F::Gender, F::Beside},
+                              {"expireDate", LABEL("Expires"), F::Date},
+                              {"height", LABEL("Height"), F::Number, F::Beside},
+                              {"adress", LABEL("Address"), F::Multiline},
                               {"state", LABEL("State")},
-                              {"country", LABEL("Country")},
-                              {"licenseClass", LABEL("Class")},
-                              {"conditions", LABEL("Conditions")},
-                              {"expireDate", LABEL("Expires"), ItemField::Date},
+                              {"country", LABEL("Country"), F::Country, F::Beside},
+                              {"conditions", LABEL("Conditions"), F::Line, F::Folded},
                               noteField};
 
-const Fields noteFields = {{"text", LABEL("Text"), ItemField::Multiline}, noteField};
+const Fields noteFields = {{"text", LABEL("Text"), F::LongText}, foldedNote};
 
 const Fields ftpFields = {{"server", LABEL("Server")},
                           {"username", LABEL("User name")},
-                          {"password", LABEL("Password"), ItemField::Secret},
+                          {"password", LABEL("Password"), F::Password},
                           noteField};
 
-const Fields softwareFields = {{"version", LABEL("Version")},
-                               {"licenseKey", LABEL("Licence key"), ItemField::Secret},
-                               {"url", LABEL("Web site"), ItemField::Link},
+const Fields softwareFields = {{"licenseKey", LABEL("Licence key"), F::Secret},
+                               {"version", LABEL("Version")},
+                               {"url", LABEL("Web site"), F::Link, F::None, F::Url},
                                noteField};
 
 const Fields attachmentFields = {{"filename", LABEL("File name")}, noteField};
@@ -118,33 +126,13 @@ QString text(const char *source)
     return QCoreApplication::translate("ItemFields", source);
 }
 
-QString dateText(const PMFieldTypes::Date &date, bool withDay)
-{
-    if (date.isEmpty())
-        return {};
-    const QLocale locale = QLocale::system();
-    const QDate day(date.year, date.month, withDay ? date.day : 1);
-    if (!day.isValid())
-        return date.toText();
-    if (withDay)
-        return locale.toString(day, QLocale::LongFormat);
-    //: a month and its year
-    return text(LABEL("%1 %2"))
-        .arg(locale.standaloneMonthName(date.month), QString::number(date.year));
-}
-
 QString phoneText(const PMFieldTypes::Phone &phone)
 {
-    if (phone.isEmpty())
+    // A dialling code alone leads nowhere.
+    if (phone.number.isEmpty())
         return {};
     return phone.code.isEmpty() ? phone.number
                                 : QStringLiteral("+%1 %2").arg(phone.code, phone.number);
-}
-
-QString genderText(int gender)
-{
-    static const char *const names[] = {"", LABEL("Male"), LABEL("Female")};
-    return gender >= 1 && gender <= 2 ? text(names[gender]) : QString();
 }
 
 QString cardTypeText(int type)
@@ -161,6 +149,11 @@ const QVector<ItemField> &itemFields(PMListItem::Type type)
     return type >= PMListItem::Login && type < PMListItem::UndefinedItem ? *allFields[type] : none;
 }
 
+const ItemField &itemTitleField()
+{
+    return titleField;
+}
+
 QString itemFieldLabel(const ItemField &field)
 {
     return text(field.label);
@@ -172,25 +165,33 @@ QString itemFieldText(const PMListItem &item, const ItemField &field,
     const QVariant value = item.property(field.property);
     switch (field.form) {
     case ItemField::Date:
+        return DateText::day(value.value<PMFieldTypes::Date>(), QLocale::system());
     case ItemField::Month:
-        return dateText(value.value<PMFieldTypes::Date>(), field.form == ItemField::Date);
+        return DateText::monthName(value.value<PMFieldTypes::Date>(), QLocale::system());
     case ItemField::Phone:
         return phoneText(value.value<PMFieldTypes::Phone>());
     case ItemField::Gender:
         return genderText(value.toInt());
+    case ItemField::CardNumber:
+        return CardNumber::grouped(value.toString());
     case ItemField::CardType:
         return cardTypeText(value.toInt());
     case ItemField::FillType:
         return fillTypeText(value.toInt(), settings);
     case ItemField::Number:
         return value.toInt() == 0 ? QString() : QString::number(value.toInt());
-    case ItemField::Line:
-    case ItemField::Multiline:
-    case ItemField::Secret:
-    case ItemField::Link:
-        break;
+    default:
+        return value.toString();
     }
-    return value.toString();
+}
+
+QString itemFieldCopyText(const PMListItem &item, const ItemField &field,
+                          const GPMAppSettings &settings)
+{
+    // The groups are for the eye; many pages refuse them.
+    if (field.form == ItemField::CardNumber)
+        return CardNumber::digits(item.property(field.property).toString());
+    return itemFieldText(item, field, settings);
 }
 
 QString fillTypeText(int fillType, const GPMAppSettings &settings)
@@ -206,4 +207,10 @@ QString fillTypeText(int fillType, const GPMAppSettings &settings)
     return settings.loginMode() == GPMAppSettings::FillAndSubmit
                ? text(LABEL("Use application setting (fill and submit)"))
                : text(LABEL("Use application setting (only fill)"));
+}
+
+QString genderText(int gender)
+{
+    static const char *const names[] = {"", LABEL("Male"), LABEL("Female")};
+    return gender >= 1 && gender <= 2 ? text(names[gender]) : QString();
 }

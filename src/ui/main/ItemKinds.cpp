@@ -9,33 +9,39 @@ struct Kind
     const char *name;
     const char *plural;
     const char *icon;
+    const char *create = "";
 };
 
 // In the order of PMListItem::Type.
 const Kind kinds[] = {
-    {QT_TRANSLATE_NOOP("ItemKinds", "Login"), QT_TRANSLATE_NOOP("ItemKinds", "Logins"), "key"},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Login"), QT_TRANSLATE_NOOP("ItemKinds", "Logins"), "key",
+     QT_TRANSLATE_NOOP("ItemKinds", "New login")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Credit card"), QT_TRANSLATE_NOOP("ItemKinds", "Credit cards"),
-     "credit-card"},
+     "credit-card", QT_TRANSLATE_NOOP("ItemKinds", "New credit card")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Bank account"),
-     QT_TRANSLATE_NOOP("ItemKinds", "Bank accounts"), "building-bank"},
-    {QT_TRANSLATE_NOOP("ItemKinds", "Identity"), QT_TRANSLATE_NOOP("ItemKinds", "Identities"),
-     "id"},
+     QT_TRANSLATE_NOOP("ItemKinds", "Bank accounts"), "building-bank",
+     QT_TRANSLATE_NOOP("ItemKinds", "New bank account")},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Identity"), QT_TRANSLATE_NOOP("ItemKinds", "Identities"), "id",
+     QT_TRANSLATE_NOOP("ItemKinds", "New identity")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Passport"), QT_TRANSLATE_NOOP("ItemKinds", "Passports"),
-     "book"},
+     "book", QT_TRANSLATE_NOOP("ItemKinds", "New passport")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Social security"),
-     QT_TRANSLATE_NOOP("ItemKinds", "Social security"), "shield-lock"},
+     QT_TRANSLATE_NOOP("ItemKinds", "Social security"), "shield-lock",
+     QT_TRANSLATE_NOOP("ItemKinds", "New social security number")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Driver licence"),
-     QT_TRANSLATE_NOOP("ItemKinds", "Driver licences"), "steering-wheel"},
+     QT_TRANSLATE_NOOP("ItemKinds", "Driver licences"), "steering-wheel",
+     QT_TRANSLATE_NOOP("ItemKinds", "New driver licence")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Secure note"), QT_TRANSLATE_NOOP("ItemKinds", "Secure notes"),
-     "note"},
+     "note", QT_TRANSLATE_NOOP("ItemKinds", "New secure note")},
     {QT_TRANSLATE_NOOP("ItemKinds", "FTP account"), QT_TRANSLATE_NOOP("ItemKinds", "FTP accounts"),
-     "server-2"},
+     "server-2", QT_TRANSLATE_NOOP("ItemKinds", "New FTP account")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Software licence"),
-     QT_TRANSLATE_NOOP("ItemKinds", "Software licences"), "license"},
+     QT_TRANSLATE_NOOP("ItemKinds", "Software licences"), "license",
+     QT_TRANSLATE_NOOP("ItemKinds", "New software licence")},
     {QT_TRANSLATE_NOOP("ItemKinds", "Attachment"), QT_TRANSLATE_NOOP("ItemKinds", "Attachments"),
-     "paperclip"},
-    {QT_TRANSLATE_NOOP("ItemKinds", "Item"), QT_TRANSLATE_NOOP("ItemKinds", "Items"),
-     "layout-grid"},
+     "paperclip", QT_TRANSLATE_NOOP("ItemKinds", "New attachment")},
+    {QT_TRANSLATE_NOOP("ItemKinds", "Item"), QT_TRANSLATE_NOOP("ItemKinds", "Items"), "layout-grid",
+     QT_TRANSLATE_NOOP("ItemKinds", "New item")},
 };
 
 // In the order of ItemCategory::Kind; the kind of items has a table of its own.
@@ -68,6 +74,11 @@ QString itemKindName(PMListItem::Type type)
 QString itemKindIcon(PMListItem::Type type)
 {
     return QLatin1String(kindOf(type).icon);
+}
+
+QString newItemText(PMListItem::Type type)
+{
+    return QCoreApplication::translate("ItemKinds", kindOf(type).create);
 }
 
 QString categoryName(const ItemCategory &category)

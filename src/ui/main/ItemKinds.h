@@ -8,6 +8,9 @@
 QString itemKindName(PMListItem::Type type);
 QString itemKindIcon(PMListItem::Type type);
 
+/// "New login", "New credit card", …
+QString newItemText(PMListItem::Type type);
+
 /// "All items", "Logins", …
 QString categoryName(const ItemCategory &category);
 QString categoryIcon(const ItemCategory &category);

@@ -4,6 +4,7 @@
 #include "ItemDelegate.h"
 #include "ItemKinds.h"
 #include "ItemListModel.h"
+#include "NewItemMenu.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
@@ -27,9 +28,7 @@ QString emptyAdvice(const ItemCategory &category)
         return ItemListPane::tr("Mark an item with the star, and it appears here.");
     if (category.kind == ItemCategory::MostUsed)
         return ItemListPane::tr("Items appear here once you have logged in with them.");
-    if (category.type == PMListItem::Login)
-        return ItemListPane::tr("Press Ctrl+N to add a login.");
-    return ItemListPane::tr("Items of this kind appear here.");
+    return ItemListPane::tr("Press Ctrl+N to add the first one.");
 }
 
 } // namespace
@@ -76,11 +75,14 @@ void ItemListPane::makeSearch()
         Q_EMIT searched();
     });
 
-    m_new = makeIconButton(m_theme.icon(QStringLiteral("plus"), Palette::OnAccent), tr("New login"),
+    m_new = makeIconButton(m_theme.icon(QStringLiteral("plus"), Palette::OnAccent), tr("New item"),
                            "primary", this);
     m_new->setObjectName(QStringLiteral("newItemButton"));
-    m_new->setToolTip(tr("New login (Ctrl+N)"));
-    connect(m_new, &QToolButton::clicked, this, &ItemListPane::createRequested);
+    m_new->setToolTip(tr("New item (Ctrl+N)"));
+    auto *kinds = new NewItemMenu(m_theme, m_new);
+    m_new->setMenu(kinds);
+    m_new->setPopupMode(QToolButton::InstantPopup);
+    connect(kinds, &NewItemMenu::chosen, this, &ItemListPane::createRequested);
 }
 
 void ItemListPane::makeList()
@@ -105,7 +107,8 @@ void ItemListPane::makeList()
     });
     m_empty = new EmptyState(m_theme, this);
     m_empty->button()->setObjectName(QStringLiteral("addFirstLoginButton"));
-    connect(m_empty, &EmptyState::pressed, this, &ItemListPane::createRequested);
+    connect(m_empty, &EmptyState::pressed, this,
+            [this] { Q_EMIT createRequested(PMListItem::Login); });
     m_stack = new QStackedWidget(this);
     m_stack->addWidget(m_list);
     m_stack->addWidget(m_empty);

@@ -48,7 +48,7 @@ Q_SIGNALS:
     void searched();
     void activated(const QString &id);
     void removeRequested(const QString &id);
-    void createRequested();
+    void createRequested(PMListItem::Type type);
     void restoreAllRequested();
     void emptyTrashRequested();
 

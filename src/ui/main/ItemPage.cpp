@@ -158,10 +158,10 @@ void ItemPage::showFields()
         connect(row, &FieldRow::copyRequested, this, &ItemPage::copyRequested);
         connect(row, &FieldRow::openRequested, this, &ItemPage::openRequested);
         const auto *login = qobject_cast<const PMLogin *>(m_item.data());
-        if (login && field.form == ItemField::Secret)
+        if (login && field.form == ItemField::Password)
             row->setStrength(static_cast<int>(login->strength()));
         // Longer texts stand apart.
-        if (!card || field.form == ItemField::Multiline)
+        if (!card || field.isText())
             card = addCard();
         addToCard(row, card);
     }

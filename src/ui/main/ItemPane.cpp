@@ -44,10 +44,13 @@ ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     all->addWidget(m_stack, 1);
     all->addWidget(m_footer);
     m_empty->setContent(QStringLiteral("layout-grid"), tr("No items selected"),
-                        tr("Choose an item on the left, or press Ctrl+N to add a login."));
+                        tr("Choose an item on the left, or press Ctrl+N to add one."));
     connect(m_editor, &SafeItemEditor::modifiedChanged, this, &ItemPane::showButtons);
     connect(m_editor, &SafeItemEditor::modifiedChanged, this, &ItemPane::edited);
     connect(m_editor, &SafeItemEditor::itemGone, this, &ItemPane::drop);
+    connect(m_editor, &SafeItemEditor::copyRequested, m_page, &ItemPage::copyRequested);
+    connect(m_editor, &SafeItemEditor::openRequested, m_page, &ItemPage::openRequested);
+    connect(m_editor, &SafeItemEditor::generatorRequested, this, &ItemPane::generatorRequested);
     showNothing();
 }
 
@@ -71,7 +74,7 @@ void ItemPane::makeFooter()
     m_restore->setIcon(m_theme.icon(QStringLiteral("arrow-back-up"), Palette::Text));
     m_edit = footerButton(tr("Edit"), "plain", "editButton", &ItemPane::startEdit);
     m_edit->setIcon(m_theme.icon(QStringLiteral("pencil"), Palette::Text));
-    m_edit->setToolTip(tr("Edit (Ctrl+E)"));
+    m_edit->setToolTip(tr("Edit (F2)"));
     m_discard = footerButton(tr("Discard changes"), "plain", "discardButton", &ItemPane::discard);
     m_save = footerButton(tr("Save"), "primary", "saveButton", &ItemPane::saveByUser);
     m_save->setToolTip(tr("Save (Ctrl+S)"));
@@ -110,7 +113,7 @@ QString ItemPane::shownId() const
 bool ItemPane::canEdit() const
 {
     const PMListItem *item = m_page->item();
-    return item && !item->deleted() && SafeItemEditor::canEdit(item->type());
+    return item && !item->deleted();
 }
 
 void ItemPane::startNew(PMListItem::Type type)
@@ -177,12 +180,16 @@ bool ItemPane::isEditing() const
 
 bool ItemPane::refuseSaving()
 {
-    if (!m_editor->draft().hasEmptyRequired())
+    const ItemDraft &draft = m_editor->draft();
+    if (!draft.hasEmptyRequired() && !draft.hasUnreadable())
         return false;
+    // What is wrong otherwise is said below its row and can be saved: the value is the user's.
+    const QString text = draft.hasEmptyRequired()
+                             ? tr("There are empty required values.\nFill and try again.")
+                             : tr("There are values that are no date or no number.\n"
+                                  "Correct them and try again.");
     m_editor->showFaults();
-    m_asker({tr("Can't save changes."),
-             tr("There are empty required values.\nFill and try again."),
-             {tr("OK")}});
+    m_asker({tr("Can't save changes."), text, {tr("OK")}});
     return true;
 }
 

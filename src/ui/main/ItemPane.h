@@ -3,6 +3,7 @@
 #include "DraftStore.h"
 #include "PMListItem.h"
 #include "dialogs/Question.h"
+#include "editor/SafeItemEditor.h"
 
 #include <QWidget>
 
@@ -14,7 +15,6 @@ class GPMAppCore;
 class ItemPage;
 class QPushButton;
 class QStackedWidget;
-class SafeItemEditor;
 class Theme;
 
 /// The right side of the main view: nothing, the page of an item, or its editor, above the buttons
@@ -65,6 +65,8 @@ Q_SIGNALS:
     void discarded();
     void removeRequested(const QString &id);
     void restoreRequested(const QString &id);
+    /// A made password is wanted for a field of the editor.
+    void generatorRequested(const SafeItemEditor::Place &place);
 
 private:
     void makeFooter();

@@ -124,11 +124,17 @@ void MainView::addShortcuts()
         void (MainView::*slot)();
     };
     static const Shortcut shortcuts[] = {
-        {"Ctrl+F", &MainView::focusSearch},   {"Ctrl+N", &MainView::createItem},
-        {"Ctrl+E", &MainView::editItem},      {"Ctrl+S", &MainView::saveItem},
-        {"Ctrl+Return", &MainView::logIn},    {"Ctrl+Enter", &MainView::logIn},
-        {"Ctrl+B", &MainView::copyUserName},  {"Ctrl+Shift+C", &MainView::copyPassword},
-        {"Ctrl+L", &MainView::lockRequested}, {"Ctrl+,", &MainView::settingsRequested},
+        {"Ctrl+F", &MainView::focusSearch},
+        {"Ctrl+N", &MainView::createItemHere},
+        {"F2", &MainView::editItem},
+        {"Ctrl+E", &MainView::editItem},
+        {"Ctrl+S", &MainView::saveItem},
+        {"Ctrl+Return", &MainView::logIn},
+        {"Ctrl+Enter", &MainView::logIn},
+        {"Ctrl+B", &MainView::copyUserName},
+        {"Ctrl+Shift+C", &MainView::copyPassword},
+        {"Ctrl+L", &MainView::lockRequested},
+        {"Ctrl+,", &MainView::settingsRequested},
     };
     for (const Shortcut &shortcut : shortcuts)
         connect(new QShortcut(QKeySequence(QLatin1String(shortcut.keys)), this),
@@ -274,10 +280,16 @@ void MainView::remove(const QString &id)
     showCurrent();
 }
 
-void MainView::createItem()
+void MainView::createItem(PMListItem::Type type)
 {
     if (m_pane->mayLeave())
-        m_pane->startNew(PMListItem::Login);
+        m_pane->startNew(type);
+}
+
+void MainView::createItemHere()
+{
+    const ItemCategory &category = m_list->category();
+    createItem(category.kind == ItemCategory::OfType ? category.type : PMListItem::Login);
 }
 
 void MainView::editItem()

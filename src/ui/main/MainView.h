@@ -32,6 +32,9 @@ public:
     QByteArray splitterState() const override;
     void restoreSplitter(const QByteArray &state) override;
 
+    /// Opens the editor of a new item, after a question about what is edited now.
+    void createItem(PMListItem::Type type);
+
 Q_SIGNALS:
     void lockRequested();
     void generatorRequested();
@@ -52,7 +55,7 @@ private:
     void onSaved(const QString &id);
     void remove(const QString &id);
     void showCurrent();
-    void createItem();
+    void createItemHere();
     void editItem();
     void saveItem();
     void leaveEditor();

@@ -1,0 +1,106 @@
+#include "MonthPopup.h"
+
+#include "DatePopup.h"
+#include "style/Style.h"
+#include "style/Theme.h"
+#include "widgets/Controls.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+
+namespace {
+
+const int columns = 4;
+const int months = 12;
+const int monthWidth = 56;
+
+} // namespace
+
+MonthPopup::MonthPopup(const Theme &theme, const QLocale &locale, QWidget *parent)
+    : QFrame(parent, Qt::Popup)
+    , m_title(makeLabel({}, "heading", this))
+{
+    setObjectName(QStringLiteral("popup"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_StyledBackground);
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(Style::spacing, Style::spacing, Style::spacing, Style::spacing);
+    grid->setSpacing(4);
+    m_title->setAlignment(Qt::AlignCenter);
+    grid->addWidget(makeArrow(theme, QStringLiteral("chevron-left"), tr("Previous year"), -1), 0,
+                    0);
+    grid->addWidget(m_title, 0, 1, 1, columns - 2);
+    grid->addWidget(makeArrow(theme, QStringLiteral("chevron-right"), tr("Next year"), 1), 0,
+                    columns - 1, Qt::AlignRight);
+    for (int month = 1; month <= months; ++month) {
+        auto *button = new QToolButton(this);
+        button->setText(locale.standaloneMonthName(month, QLocale::ShortFormat));
+        button->setAccessibleName(locale.standaloneMonthName(month));
+        button->setCheckable(true);
+        button->setFixedSize(monthWidth, Style::controlHeight);
+        connect(button, &QToolButton::clicked, this, [this, month] {
+            close();
+            Q_EMIT chosen(QDate(m_year, month, 1));
+        });
+        grid->addWidget(button, 1 + (month - 1) / columns, (month - 1) % columns);
+        m_months.append(button);
+    }
+}
+
+QToolButton *MonthPopup::makeArrow(const Theme &theme, const QString &icon, const QString &name,
+                                   int step)
+{
+    QToolButton *arrow = makeIconButton(theme.icon(icon, Palette::Text), name, "plain", this);
+    connect(arrow, &QToolButton::clicked, this, [this, step] { this->step(step); });
+    return arrow;
+}
+
+void MonthPopup::open(const QDate &date, const QWidget &at)
+{
+    m_date = date.isValid() ? date : QDate::currentDate();
+    m_year = m_date.year();
+    mark();
+    placePopup(*this, at);
+    show();
+    m_months.at(m_date.month() - 1)->setFocus();
+}
+
+void MonthPopup::step(int years)
+{
+    m_year = qBound(1, m_year + years, 9999);
+    mark();
+}
+
+void MonthPopup::mark()
+{
+    m_title->setText(QString::number(m_year));
+    for (int month = 1; month <= months; ++month)
+        m_months.at(month - 1)->setChecked(m_date.year() == m_year && m_date.month() == month);
+}
+
+void MonthPopup::keyPressEvent(QKeyEvent *event)
+{
+    const int here = m_months.indexOf(qobject_cast<QToolButton *>(focusWidget()));
+    const auto go = [this](int month) { m_months.at(qBound(0, month, months - 1))->setFocus(); };
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+        return step(-1);
+    case Qt::Key_PageDown:
+        return step(1);
+    case Qt::Key_Left:
+        return go(here - 1);
+    case Qt::Key_Right:
+        return go(here + 1);
+    case Qt::Key_Up:
+        return go(here - columns);
+    case Qt::Key_Down:
+        return go(here + columns);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (here >= 0)
+            m_months.at(here)->click();
+        return;
+    default:
+        QFrame::keyPressEvent(event);
+    }
+}
