@@ -2,13 +2,18 @@
 
 #include <algorithm>
 
-qint64 FillRequests::add(const QString &itemId, FillRequest request, qint64 now)
+qint64 FillRequests::nextTimestamp(qint64 now)
 {
     // Two requests in one millisecond, or a clock set back, must not share a stamp.
     m_lastTimestamp = std::max(now, m_lastTimestamp + 1);
-    request.timestamp = m_lastTimestamp;
-    m_requests.insert(itemId, request);
     return m_lastTimestamp;
+}
+
+qint64 FillRequests::add(const QString &itemId, FillRequest request, qint64 now)
+{
+    request.timestamp = nextTimestamp(now);
+    m_requests.insert(itemId, request);
+    return request.timestamp;
 }
 
 std::optional<FillRequest> FillRequests::find(const QString &itemId, qint64 timestamp) const

@@ -32,6 +32,9 @@ public:
     /// @return the time stamp that names it: now, or later when an earlier request took that
     qint64 add(const QString &itemId, FillRequest request, qint64 now);
 
+    /// The time stamp of a request made now that belongs to no item.
+    qint64 nextTimestamp(qint64 now);
+
     /// The pending request that an answer belongs to; none when there is none such.
     std::optional<FillRequest> find(const QString &itemId, qint64 timestamp) const;
 

@@ -10,12 +10,14 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <chrono>
 
 namespace {
 
 const QLatin1String reasonLogin("login");
 const QLatin1String reasonPlacePassword("placepwd");
 const QLatin1String currentNoReload("currentNoReload");
+constexpr std::chrono::milliseconds passwordPatience = std::chrono::seconds(30);
 
 QString textOf(const QJsonObject &object, const char *key)
 {
@@ -64,6 +66,9 @@ FormFillFlow::FormFillFlow(GPMWebSocketServer &server, FindItem findItem,
     , m_settings(settings)
     , m_clock(std::move(clock))
 {
+    m_forgetTimer.setSingleShot(true);
+    m_forgetTimer.setInterval(passwordPatience);
+    connect(&m_forgetTimer, &QTimer::timeout, this, &FormFillFlow::forgetWaitingPassword);
 }
 
 FormFillFlow::~FormFillFlow()
@@ -79,8 +84,9 @@ void FormFillFlow::clear()
 
 void FormFillFlow::forgetWaitingPassword()
 {
-    wipe(m_waitingPassword);
-    m_waitingPasswordCaller.clear();
+    m_forgetTimer.stop();
+    wipe(m_waiting.password);
+    m_waiting = WaitingPassword();
 }
 
 void FormFillFlow::doLoginDefaultAction(const QString &itemId, const QString &callerId,
@@ -137,11 +143,15 @@ void FormFillFlow::placePasswordValue(const QString &password)
         qWarning() << "No connected extension: it seems like plugins are not installed";
         return;
     }
-    m_waitingPassword = password;
-    m_waitingPasswordCaller = m_server.targetCaller({});
-    m_server.sendDocumentRequest(m_waitingPasswordCaller,
-                                 {{QStringLiteral("reason"), reasonPlacePassword},
-                                  {QStringLiteral("openmode"), currentNoReload}});
+    forgetWaitingPassword();
+    m_waiting.password = password;
+    m_waiting.callerId = m_server.targetCaller({});
+    m_waiting.timestamp = m_requests.nextTimestamp(m_clock().toMSecsSinceEpoch());
+    m_forgetTimer.start();
+    m_server.sendDocumentRequest(
+        m_waiting.callerId, {{QStringLiteral("reason"), reasonPlacePassword},
+                             {QStringLiteral("timestamp"), QString::number(m_waiting.timestamp)},
+                             {QStringLiteral("openmode"), currentNoReload}});
 }
 
 void FormFillFlow::parsePluginReplay(const QString &callerId, const QJsonObject &payload)
@@ -173,11 +183,24 @@ void FormFillFlow::fillLoginPage(const QString &callerId, const QJsonObject &pay
     continueFill(callerId, reasonLogin, payload, LoginPage::IsThis);
 }
 
+/// Whether the answer is to the request for the waiting password. A late one describes a page that
+/// the user may have left. An extension need not name the request that it answers.
+bool FormFillFlow::isWaitedFor(const QString &callerId, const QJsonObject &payload) const
+{
+    if (m_waiting.password.isEmpty() || m_waiting.callerId != callerId)
+        return false;
+    // A timer stands still while the computer sleeps.
+    if (m_clock().toMSecsSinceEpoch() - m_waiting.timestamp > passwordPatience.count())
+        return false;
+    const QJsonValue timestamp = payload.value(QLatin1String("timestamp"));
+    return timestamp.isUndefined() || timestamp.toString().toLongLong() == m_waiting.timestamp;
+}
+
 void FormFillFlow::placeWaitingPassword(const QString &callerId, const QJsonObject &payload)
 {
-    if (m_waitingPassword.isEmpty() || m_waitingPasswordCaller != callerId)
+    if (!isWaitedFor(callerId, payload))
         return;
-    const QVector<FilledForm> forms = fillPasswordForms(documentOf(payload), m_waitingPassword);
+    const QVector<FilledForm> forms = fillPasswordForms(documentOf(payload), m_waiting.password);
     for (const FilledForm &form : forms) {
         QJsonObject instruction = toFillInstruction(form);
         instruction.insert(QStringLiteral("reason"), reasonPlacePassword);

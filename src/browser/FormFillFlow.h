@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QUrl>
 #include <QVector>
 
@@ -45,7 +46,8 @@ public Q_SLOTS:
     void doLoginDefaultAction(const QString &itemId, const QString &callerId,
                               const QString &option);
 
-    /// Starts putting the password into the page that the user sees.
+    /// Starts putting the password into the page that the user sees; forgotten when that page is
+    /// not described within half a minute.
     void placePasswordValue(const QString &password);
 
     /// The extension's answer to a request; dropped when it is not one that is waited for.
@@ -68,6 +70,15 @@ private:
     /// Whether the extension may still be asked for the login page when this one does not do.
     enum class LoginPage { MayBeAskedFor, IsThis };
 
+    /// A password on its way into a page. Wiped when it is forgotten.
+    struct WaitingPassword
+    {
+        QString password;
+        QString callerId;
+        qint64 timestamp = 0;
+    };
+
+    bool isWaitedFor(const QString &callerId, const QJsonObject &payload) const;
     void placeWaitingPassword(const QString &callerId, const QJsonObject &payload);
     void continueFill(const QString &callerId, const QString &reason, const QJsonObject &payload,
                       LoginPage loginPage);
@@ -87,6 +98,6 @@ private:
     const GPMAppSettings &m_settings;
     Clock m_clock;
     FillRequests m_requests;
-    QString m_waitingPassword;
-    QString m_waitingPasswordCaller;
+    WaitingPassword m_waiting;
+    QTimer m_forgetTimer{this};
 };

@@ -8,6 +8,7 @@
 
 #include <QJsonArray>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <memory>
 
@@ -102,11 +103,14 @@ private Q_SLOTS:
     void itemThatHasGone();
     void siteIcon();
     void placesPassword();
+    void passwordWaitsForItsOwnAnswer();
+    void passwordIsForgotten();
     void clearForgetsAll();
 
 private:
     void requestLogin(const QString &callerId = QString(), const QString &option = QString());
     QJsonObject reply(const QString &forms, const QString &tabUrl = site) const;
+    QJsonObject placeReply();
     QString answer(const QJsonObject &payload,
                    const QString &action = QStringLiteral("collectDocumentResults"));
 
@@ -120,6 +124,7 @@ private:
     std::unique_ptr<ExtensionClient> m_client;
     QString m_callerId;
     QJsonObject m_request;
+    qint64 m_now = 0;
 };
 
 void TestFormFillFlow::initTestCase()
@@ -138,11 +143,13 @@ void TestFormFillFlow::init()
     m_login->setLogin(QStringLiteral("anna"));
     m_login->setPassword(QStringLiteral("secret"));
     m_item = std::move(login);
+    m_now = 1700000000000;
+    m_request = {};
     m_settings = std::make_unique<GPMAppSettings>(m_folder.path(), m_folder.path());
     m_server = std::make_unique<GPMWebSocketServer>(quint16(0), false, m_platform);
     m_flow = std::make_unique<FormFillFlow>(
         *m_server, [this](const QString &id) { return id == itemId ? m_item.get() : nullptr; },
-        *m_settings, [] { return QDateTime::fromMSecsSinceEpoch(1700000000000, Qt::UTC); });
+        *m_settings, [this] { return QDateTime::fromMSecsSinceEpoch(m_now, Qt::UTC); });
     connect(m_server.get(), &GPMWebSocketServer::collectedDocumentInfo, m_flow.get(),
             &FormFillFlow::parsePluginReplay);
     connect(m_server.get(), &GPMWebSocketServer::loginPageLoaded, m_flow.get(),
@@ -464,7 +471,8 @@ void TestFormFillFlow::placesPassword()
 {
     m_flow->placePasswordValue(QStringLiteral("n3w"));
     m_client->sayHello();
-    const QJsonValue asked = json(R"({"reason":"placepwd","openmode":"currentNoReload"})");
+    const QJsonValue asked =
+        json(R"({"reason":"placepwd","timestamp":"1700000000000","openmode":"currentNoReload"})");
     QCOMPARE(m_client->frames.value(0).value(QLatin1String("payload")), asked);
 
     QJsonObject payload = reply(QStringLiteral("name+login+password"));
@@ -479,6 +487,45 @@ void TestFormFillFlow::placesPassword()
     QTRY_VERIFY(!m_server->hasConnections());
     expectWarning("^No connected extension: it seems like plugins are not installed$");
     m_flow->placePasswordValue(QStringLiteral("n3w"));
+}
+
+/// The payload that answers the request for a password's page, with the request's own stamp.
+QJsonObject TestFormFillFlow::placeReply()
+{
+    m_client->sayHello();
+    QJsonObject payload = reply(QStringLiteral("password"));
+    payload.insert(QStringLiteral("reason"), QStringLiteral("placepwd"));
+    payload.insert(QStringLiteral("timestamp"),
+                   payloadOf(m_client->frames.last()).value(QLatin1String("timestamp")));
+    return payload;
+}
+
+void TestFormFillFlow::passwordWaitsForItsOwnAnswer()
+{
+    m_flow->placePasswordValue(QStringLiteral("old"));
+    const QJsonObject late = placeReply();
+    m_flow->placePasswordValue(QStringLiteral("n3w"));
+    const QJsonObject payload = placeReply();
+    QCOMPARE(answer(late), QString());
+    QCOMPARE(answer(payload), QStringLiteral("password(n3w)"));
+}
+
+void TestFormFillFlow::passwordIsForgotten()
+{
+    m_flow->placePasswordValue(QStringLiteral("n3w"));
+    QJsonObject payload = placeReply();
+    m_now += 30001;
+    QCOMPARE(answer(payload), QString());
+
+    // And by itself, without an answer.
+    m_flow->placePasswordValue(QStringLiteral("n3w"));
+    payload = placeReply();
+    auto *timer = m_flow->findChild<QTimer *>();
+    QSignalSpy forgotten(timer, &QTimer::timeout);
+    QVERIFY(timer->isActive());
+    timer->start(0);
+    QVERIFY(forgotten.wait());
+    QCOMPARE(answer(payload), QString());
 }
 
 void TestFormFillFlow::clearForgetsAll()
