@@ -5,6 +5,7 @@
 #include <QDebug>
 #include <QHash>
 #include <QJsonDocument>
+#include <QTimer>
 #include <QUuid>
 #include <QWebSocket>
 #include <QWebSocketCorsAuthenticator>
@@ -21,7 +22,7 @@ const QLatin1String extensionOrigins[] = {QLatin1String("chrome-extension://"),
 
 bool isAllowedOrigin(const QString &origin)
 {
-    // Browsers always send an origin; what sends none is a program of the user's own.
+    // Browsers always send an origin; what sends none is another program.
     if (origin.isEmpty())
         return true;
     return std::any_of(std::begin(extensionOrigins), std::end(extensionOrigins),
@@ -55,11 +56,12 @@ void sendFrame(QWebSocket *socket, const QJsonObject &frame)
 } // namespace
 
 GPMWebSocketServer::GPMWebSocketServer(quint16 port, bool debug, Platform &platform,
-                                       QObject *parent)
+                                       std::chrono::milliseconds helloLimit, QObject *parent)
     : QObject(parent)
     , m_server(new QWebSocketServer(QStringLiteral("Echo Server"), QWebSocketServer::NonSecureMode,
                                     this))
     , m_debug(debug)
+    , m_helloLimit(helloLimit)
     , m_platform(platform)
 {
     qDebug() << "GPMWebSocketServer::GPMWebSocketServer"
@@ -114,12 +116,37 @@ void GPMWebSocketServer::onNewConnection()
     QWebSocket *socket = m_server->nextPendingConnection();
     if (!socket)
         return;
+    if (isForeign(*socket)) {
+        qWarning() << "Refused the connection of another user's program";
+        socket->abort();
+        socket->deleteLater();
+        return;
+    }
+    QTimer::singleShot(m_helloLimit, socket, [this, socket] {
+        if (!hasSaidHello(socket))
+            socket->abort();
+    });
     socket->setMaxAllowedIncomingFrameSize(maxFrameSize);
     socket->setMaxAllowedIncomingMessageSize(maxFrameSize);
     if (m_sockets.isEmpty())
         serve(socket);
     else
         keepWaiting(socket);
+}
+
+bool GPMWebSocketServer::isForeign(const QWebSocket &socket) const
+{
+    return m_platform.isForeignConnection(socket.peerPort(), m_server->serverPort());
+}
+
+/// Also of a connection that waits.
+bool GPMWebSocketServer::hasSaidHello(QWebSocket *socket) const
+{
+    const auto isGreeting = [socket](const Waiting &waiting) {
+        return waiting.socket == socket && !waiting.hello.isEmpty();
+    };
+    return m_stages.value(m_sockets.key(socket)) == SaidHello ||
+           std::any_of(m_waiting.begin(), m_waiting.end(), isGreeting);
 }
 
 void GPMWebSocketServer::serve(QWebSocket *socket)

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QVector>
 
+#include <chrono>
 #include <optional>
 
 class Platform;
@@ -32,8 +33,12 @@ public:
     /// Listens on 127.0.0.1. When the port is taken the link is simply absent.
     /// @param port 0 for any free port
     /// @param debug whether each frame and the port go to the debug log
-    /// @param platform presses the Enter key; must outlive the server
-    GPMWebSocketServer(quint16 port, bool debug, Platform &platform, QObject *parent = nullptr);
+    /// @param platform presses the Enter key, and knows whose a connection is; must outlive the
+    /// server
+    /// @param helloLimit how long a connection may be silent before its "hello"
+    GPMWebSocketServer(quint16 port, bool debug, Platform &platform,
+                       std::chrono::milliseconds helloLimit = std::chrono::seconds(5),
+                       QObject *parent = nullptr);
     ~GPMWebSocketServer() override;
 
     bool isListening() const;
@@ -92,6 +97,8 @@ private:
     };
 
     void checkOrigin(QWebSocketCorsAuthenticator *authenticator) const;
+    bool isForeign(const QWebSocket &socket) const;
+    bool hasSaidHello(QWebSocket *socket) const;
     void serve(QWebSocket *socket);
     void keepWaiting(QWebSocket *socket);
     void rememberHello(QWebSocket *socket, const QString &message);
@@ -106,6 +113,7 @@ private:
     QMap<QString, QWebSocket *> m_sockets;
     QMap<QString, Stage> m_stages;
     bool m_debug;
+    std::chrono::milliseconds m_helloLimit;
     QString m_extensionVersion;
     QString m_extensionBundleId;
     QVector<Waiting> m_waiting;

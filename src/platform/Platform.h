@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -27,6 +28,10 @@ public:
     /// Version code of Windows: 0x90 for 7, 0xA0 for 8, 0xB0 for 8.1, 0xC0 for 10, 0xD0 for later
     /// ones, 0x20 to 0x80 for older ones, 0x10 for an unknown one. 0 on other systems.
     virtual int windowsVersionCode() = 0;
+
+    /// Whether another user is at the end 127.0.0.1:`port` of a connection to 127.0.0.1:`toPort`.
+    /// False also where the system does not tell.
+    virtual bool isForeignConnection(std::uint16_t port, std::uint16_t toPort) = 0;
 
 protected:
     Platform() = default;

@@ -6,6 +6,7 @@ class FakePlatform : public Platform
 {
 public:
     int enterPresses = 0;
+    bool foreignConnections = false;
 
     bool pressEnterKey() override
     {
@@ -18,4 +19,5 @@ public:
         return {};
     }
     int windowsVersionCode() override { return 0; }
+    bool isForeignConnection(std::uint16_t, std::uint16_t) override { return foreignConnections; }
 };

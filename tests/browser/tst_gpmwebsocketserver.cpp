@@ -38,6 +38,8 @@ private Q_SLOTS:
     void oversizedMessage();
     void servesOneAtATime();
     void waitingOnesThatLeftAreSkipped();
+    void silentOnesAreClosed();
+    void otherUsersAreRefused();
     void commandTargets();
     void replyTags();
     void portTaken();
@@ -253,6 +255,32 @@ void TestGPMWebSocketServer::waitingOnesThatLeftAreSkipped()
     QVERIFY(!first.sayHello().isEmpty());
     first.close();
     QVERIFY(!third.sayHello().isEmpty());
+}
+
+void TestGPMWebSocketServer::silentOnesAreClosed()
+{
+    m_server = std::make_unique<GPMWebSocketServer>(quint16(0), false, m_platform,
+                                                    std::chrono::milliseconds(400));
+    ExtensionClient silent(m_server->port());
+    QTRY_VERIFY(silent.isOpen());
+    ExtensionClient extension(m_server->port());
+    ExtensionClient silentBehind(m_server->port());
+    QSignalSpy gone(&silentBehind, &QWebSocket::disconnected);
+    QVERIFY(!extension.sayHello().isEmpty());
+    QVERIFY(!silent.isOpen());
+    QVERIFY(!gone.isEmpty() || gone.wait());
+    QVERIFY(!extension.sayHello().isEmpty());
+}
+
+void TestGPMWebSocketServer::otherUsersAreRefused()
+{
+    m_platform.foreignConnections = true;
+    QTest::ignoreMessage(QtWarningMsg, "Refused the connection of another user's program");
+    ExtensionClient client(m_server->port());
+    QSignalSpy closed(&client, &QWebSocket::disconnected);
+    QVERIFY(closed.wait());
+    m_platform.foreignConnections = false;
+    QVERIFY(!ExtensionClient(m_server->port()).sayHello().isEmpty());
 }
 
 void TestGPMWebSocketServer::commandTargets()

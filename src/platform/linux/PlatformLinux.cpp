@@ -1,8 +1,13 @@
+#include "ConnectionOwner.h"
 #include "Platform.h"
 #include "XConnection.h"
 
 #include <X11/XKBlib.h>
 #include <X11/keysym.h>
+
+#include <fstream>
+
+#include <unistd.h>
 
 namespace {
 
@@ -52,6 +57,17 @@ public:
     }
 
     int windowsVersionCode() override { return 0; }
+
+    bool isForeignConnection(std::uint16_t port, std::uint16_t toPort) override
+    {
+        for (const char *path : {"/proc/net/tcp", "/proc/net/tcp6"}) {
+            std::ifstream table(path);
+            const std::optional<unsigned> owner = connectionOwner(table, port, toPort);
+            if (owner)
+                return *owner != getuid();
+        }
+        return false;
+    }
 };
 
 } // namespace

@@ -84,6 +84,9 @@ public:
             return info.dwBuildNumber < firstBuildOfEleven ? 0xC0 : 0xD0;
         return info.dwMajorVersion > 10 ? 0xD0 : 0x10;
     }
+
+    /// Not asked: a connection leads to its owner only by way of a process that may have ended.
+    bool isForeignConnection(std::uint16_t, std::uint16_t) override { return false; }
 };
 
 } // namespace
