@@ -2,6 +2,7 @@
 
 #include "style/Style.h"
 #include "widgets/Controls.h"
+#include "widgets/WindowFrame.h"
 
 #include <QBoxLayout>
 #include <QPointer>
@@ -19,7 +20,8 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
     setObjectName(QStringLiteral("questionDialog"));
     setWindowTitle(question.title);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    setMinimumWidth(smallestWidth);
+    const auto *frame = new WindowFrame(*this, WindowFrame::Fixed);
+    setMinimumWidth(smallestWidth + frame->addition().width());
 
     auto *heading = makeLabel(question.title, "heading", this);
     heading->setWordWrap(true);

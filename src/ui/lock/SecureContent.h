@@ -23,6 +23,9 @@ public:
     /// Asks about unsaved changes; false when the user wants to go on editing.
     virtual bool mayLeave() = 0;
 
+    /// Keeps controls out of the way of the window's buttons, which take a place at the top right.
+    virtual void leaveRoom(const QSize &buttons) = 0;
+
     virtual QByteArray splitterState() const = 0;
     virtual void restoreSplitter(const QByteArray &state) = 0;
 };

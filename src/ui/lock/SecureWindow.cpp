@@ -6,6 +6,8 @@
 #include "Shutters.h"
 #include "style/Style.h"
 #include "style/Theme.h"
+#include "widgets/TitleBar.h"
+#include "widgets/WindowFrame.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -35,16 +37,23 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     , m_shutters(new Shutters(theme, this))
     , m_pages(new PagesStack(core, theme, this))
     , m_fade(new QGraphicsOpacityEffect(this))
+    , m_frame(new WindowFrame(*this, WindowFrame::Resizable))
+    , m_titleBar(new TitleBar(theme, TitleBar::All, this))
 {
     setObjectName(QStringLiteral("SecureWindow"));
     setWindowIcon(QIcon(QStringLiteral(":/trayicon.png")));
-    setMinimumSize(smallestSize);
-    resize(usualSize);
+    setMinimumSize(smallestSize + m_frame->addition());
+    resize(usualSize + m_frame->addition());
     showTitle();
     m_pages->setGraphicsEffect(m_fade);
     m_content->setParent(this);
     m_content->lower();
     m_pages->raise();
+    m_titleBar->setVisible(m_frame->isOurs());
+    connect(m_frame, &WindowFrame::changed, this, &SecureWindow::layOut);
+    if (m_frame->isOurs())
+        m_content->leaveRoom(m_titleBar->sizeHint());
+    layOut();
     setOpenProgress(0);
     configureStateMachine();
     connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this), &QShortcut::activated,
@@ -95,6 +104,7 @@ void SecureWindow::showLayers()
     // The keyboard goes where it belongs at once, not when the shutters have arrived.
     m_content->setVisible(m_open || m_openProgress > 0);
     m_pages->setVisible(!m_open);
+    m_titleBar->setOnDark(!m_open || m_openProgress < 0.5);
     m_fade->setEnabled(m_openProgress > 0);
     // They come up when the gap is nearly closed; the keyboard reaches them before.
     m_fade->setOpacity(qMax(0.0, 1 - 4 * m_openProgress));
@@ -174,9 +184,20 @@ SecureWindow::SaveAnswer SecureWindow::saveOrAsk()
 
 void SecureWindow::resizeEvent(QResizeEvent *)
 {
+    layOut();
+}
+
+void SecureWindow::layOut()
+{
+    const QRect seen = contentsRect();
+    const QSize buttons = m_titleBar->sizeHint();
+    m_titleBar->setGeometry(seen.right() + 1 - buttons.width(), seen.top(), buttons.width(),
+                            buttons.height());
+    m_titleBar->raise();
+    m_frame->raise();
     for (QWidget *layer : {static_cast<QWidget *>(m_content), static_cast<QWidget *>(m_shutters),
                            static_cast<QWidget *>(m_pages)})
-        layer->setGeometry(rect());
+        layer->setGeometry(seen);
 }
 
 void SecureWindow::closeEvent(QCloseEvent *event)

@@ -12,6 +12,8 @@ class QGraphicsOpacityEffect;
 class SecureContent;
 class Shutters;
 class Theme;
+class TitleBar;
+class WindowFrame;
 
 /// The main window: the lock pages behind closed shutters while the safe is locked, its content
 /// while it is open. Closing it hides it, the program lives on in the tray; where there is none it
@@ -69,6 +71,7 @@ private:
     SaveAnswer saveOrAsk();
     void followSafe();
     void showLayers();
+    void layOut();
     void showTitle();
 
     GPMAppCore &m_core;
@@ -79,6 +82,8 @@ private:
     Shutters *m_shutters;
     PagesStack *m_pages;
     QGraphicsOpacityEffect *m_fade;
+    WindowFrame *m_frame;
+    TitleBar *m_titleBar;
     QStateMachine m_machine;
     qreal m_openProgress = 0;
     bool m_open = false;

@@ -185,6 +185,14 @@ bool MainView::mayLeave()
     return m_pane->mayLeave();
 }
 
+void MainView::leaveRoom(const QSize &buttons)
+{
+    // The item's own margin adds to it.
+    const int above = 10;
+    m_pane->setContentsMargins(0, qMax(0, buttons.height() - above), 0, 0);
+    m_banner->setContentsMargins(0, 0, buttons.width(), 0);
+}
+
 QByteArray MainView::splitterState() const
 {
     return m_splitter->saveState();

@@ -29,6 +29,7 @@ public:
     void closeSafe() override;
     void takeFocus() override;
     bool mayLeave() override;
+    void leaveRoom(const QSize &buttons) override;
     QByteArray splitterState() const override;
     void restoreSplitter(const QByteArray &state) override;
 

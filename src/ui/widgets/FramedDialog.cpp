@@ -1,38 +1,51 @@
 #include "FramedDialog.h"
 
-#include "Controls.h"
+#include "TitleBar.h"
+#include "WindowFrame.h"
 #include "style/Style.h"
-#include "style/Theme.h"
 
-#include <QEvent>
+#include <QBoxLayout>
 
 FramedDialog::FramedDialog(const QString &title, const Theme &theme, QWidget *parent)
     : QDialog(parent)
-    , m_title(makeLabel(title, "heading", this))
+    , m_frame(new WindowFrame(*this, WindowFrame::Resizable))
     , m_body(new QVBoxLayout)
 {
     setWindowTitle(title);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    auto *close =
-        makeIconButton(theme.icon(QStringLiteral("x"), Palette::Muted), tr("Close"), "tool", this);
-    close->setObjectName(QStringLiteral("closeButton"));
-    connect(close, &QToolButton::clicked, this, &QDialog::reject);
-    auto *head = new QHBoxLayout;
-    head->setContentsMargins(Style::margin, Style::gap, Style::spacing, 0);
-    head->addWidget(m_title, 1);
-    head->addWidget(close);
+    auto *bar = new TitleBar(theme, TitleBar::CloseOnly, this);
+    bar->showTitle();
+    bar->setVisible(m_frame->isOurs());
     m_body->setContentsMargins(Style::margin, Style::spacing, Style::margin, Style::margin);
     m_body->setSpacing(Style::spacing);
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins({});
     all->setSpacing(0);
-    all->addLayout(head);
+    all->addWidget(bar);
     all->addLayout(m_body, 1);
 }
 
-void FramedDialog::changeEvent(QEvent *event)
+void FramedDialog::resize(const QSize &size)
 {
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::WindowTitleChange)
-        m_title->setText(windowTitle());
+    QDialog::resize(size + m_frame->addition());
+}
+
+void FramedDialog::setMinimumSize(const QSize &size)
+{
+    QDialog::setMinimumSize(size + m_frame->addition());
+}
+
+void FramedDialog::setMinimumWidth(int width)
+{
+    QDialog::setMinimumWidth(width + m_frame->addition().width());
+}
+
+void FramedDialog::setFixedSize(const QSize &size)
+{
+    QDialog::setFixedSize(size + m_frame->addition());
+}
+
+void FramedDialog::setFixedWidth(int width)
+{
+    QDialog::setFixedWidth(width + m_frame->addition().width());
 }

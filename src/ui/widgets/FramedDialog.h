@@ -2,11 +2,12 @@
 
 #include <QDialog>
 
-class QLabel;
 class QVBoxLayout;
 class Theme;
+class WindowFrame;
 
-/// A window beside the main one: its title and a button that closes it above its content.
+/// A window beside the main one: its title and a button that closes it above its content. The sizes
+/// that are set are those of what is seen; a shadow comes on top.
 class FramedDialog : public QDialog
 {
     Q_OBJECT
@@ -17,10 +18,16 @@ public:
     /// Where the content goes, below the title, within the usual margins.
     QVBoxLayout &body() { return *m_body; }
 
-protected:
-    void changeEvent(QEvent *event) override;
+    void resize(const QSize &size);
+    void resize(int width, int height) { resize(QSize(width, height)); }
+    void setMinimumSize(const QSize &size);
+    void setMinimumSize(int width, int height) { setMinimumSize(QSize(width, height)); }
+    void setMinimumWidth(int width);
+    void setFixedSize(const QSize &size);
+    void setFixedSize(int width, int height) { setFixedSize(QSize(width, height)); }
+    void setFixedWidth(int width);
 
 private:
-    QLabel *m_title;
+    WindowFrame *m_frame;
     QVBoxLayout *m_body;
 };
