@@ -46,6 +46,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
 {
     // What a run that did not end well left behind.
     m_privateFiles.wipe();
+    m_clipboard.adoptOtherCopies([this] { return m_settings.clearClipboard(); });
     startGuard();
 }
 
@@ -174,6 +175,8 @@ void GPMAppCore::lockBecause(LockReason reason)
 {
     // At the end of the program nobody waits for an unlocking that still runs.
     cancelUnlock();
+    if (m_settings.clearClipboard())
+        m_clipboard.clear();
     if (!m_safe || !m_safe->isUnlocked())
         return;
     m_lockReason = lockReasonText(reason, m_guard.inactivityLimit());
@@ -364,8 +367,6 @@ void GPMAppCore::exitPasswordManager()
     lockCurrentSafe();
     // What another program still held open when the safe was locked.
     m_privateFiles.wipe();
-    if (m_settings.clearClipboard())
-        m_clipboard.clear();
     Q_EMIT quitRequested();
 }
 

@@ -2,6 +2,7 @@
 #include "SplashScreen.h"
 #include "UiTesting.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QLabel>
@@ -175,8 +176,10 @@ void TestPMUiProvider::guardLocksThroughMenuAndDialog()
     menu.popup(QPoint());
     QCOMPARE(QApplication::activePopupWidget(), &menu);
     QSignalSpy locked(&test.core, &GPMAppCore::safeLockedChanged);
+    test.core.clipboard().copy(QStringLiteral("secret"), true);
     test.user->idleMs = 180001;
     QVERIFY(locked.wait());
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString());
     QVERIFY(!test.core.currentSafe()->isUnlocked());
     QVERIFY(!QApplication::activePopupWidget());
     QVERIFY(!dialog->isVisible());

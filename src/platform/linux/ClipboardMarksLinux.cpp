@@ -1,0 +1,6 @@
+#include "ClipboardMarks.h"
+
+std::vector<ClipboardMark> secretClipboardMarks()
+{
+    return {{"x-kde-passwordManagerHint", "secret"}};
+}
