@@ -73,6 +73,14 @@ const PAGES = {
   '/moved': '<script>location.replace("/plain")</script>',
   '/front': '<a href="/logout">Sign out</a><a href="/plain">Sign in</a>',
   '/keys': '<input name=user>',
+  // The listener is added after that of the extension, and so sees what it decided.
+  '/address': `<form action=/done><input name=pw type=password><button>Log in</button></form><script>
+    onclick = () => addEventListener('submit', (event) => { document.title = event.defaultPrevented ? 'stopped' : 'sent'; });
+  </script>`,
+  '/elsewhere': (port) => `<form method=post action="http://127.0.0.1:${port}/done"><input name=pw type=password></form>
+    <form method=post action=/done><input name=pw type=password></form>`,
+  '/busy': (port) => `${FORM}<iframe src="http://127.0.0.1:${port}/loop"></iframe>`,
+  '/loop': '<script>onmessage = () => { for (;;); };</script>',
   '/done': 'done',
 };
 
@@ -87,8 +95,7 @@ const fieldsOf = ({ result: { docinfo } }) => [...docinfo.forms.flatMap(({ field
 const names = (payload) => fieldsOf(payload).map(({ name, id }) => name || id);
 const pageAt = async (url) => (await chromium.browser.pages()).find((page) => page.url() === url);
 
-async function ask(openmode, url, action = 'getDocumentData') {
-  const timestamp = String((lastTime += 1));
+async function ask(openmode, url, action = 'getDocumentData', timestamp = String((lastTime += 1))) {
   program.send(action, { reason: 'login', itemid: 'item', timestamp, url, openmode });
   const { payload } = await program.next(action === 'getDocumentData' ? 'collectDocumentResults' : 'loginPageLoaded');
   assert.equal(payload.timestamp, timestamp);
@@ -165,15 +172,39 @@ test('a login in two steps is reported again when the password is asked for', li
   assert.deepEqual(await site.nextPost(), { path: '/done', fields: { pw: 'second' } });
 });
 
+test('no password gets into an address', limit, async () => {
+  fill(await ask('newtab', at('/address')), { pw: 'secret' }, true);
+  const page = await pageAt(at('/address'));
+  await page.waitForFunction(() => document.title === 'stopped');
+  assert.equal(page.url(), at('/address'));
+});
+
+test('a form that goes to another site gets nothing', limit, async () => {
+  fill(await ask('newtab', at('/elsewhere')), { pw: 'secret' }, false);
+  const page = await pageAt(at('/elsewhere'));
+  await page.waitForFunction(() => document.querySelectorAll('input')[1].value === 'secret');
+  assert.equal(await page.$eval('input', ({ value }) => value), '');
+});
+
+test('a frame of another site that answers nothing holds up nobody', limit, async () => {
+  await ask('newtab', at('/busy'));
+  const page = await pageAt(at('/busy'));
+  await page.bringToFront();
+  await page.evaluate(() => frames[0].postMessage('', '*'));
+  const payload = await ask('currentNoReload', at('/busy'));
+  fill(payload, { user: 'ana', pw: 'secret' }, true);
+  assert.deepEqual(await site.nextPost(), { path: '/done', fields: { user: 'ana', pw: 'secret' } });
+});
+
 test('a page that sends the browser on is followed', limit, async () => {
   const { tabUrl } = await ask('current', at('/moved'));
   assert.equal(tabUrl, at('/plain'));
 });
 
 test('the login page is found behind the sign-in link', limit, async () => {
-  const { tabUrl } = await ask('newtab', at('/front'));
+  const { tabUrl, timestamp } = await ask('newtab', at('/front'));
   assert.equal(tabUrl, at('/front'));
-  const found = await ask('getLoginPageData', at('/front'), 'findLoginPage');
+  const found = await ask('getLoginPageData', at('/front'), 'findLoginPage', timestamp);
   assert.deepEqual([found.tabUrl, names(found)], [at('/plain'), ['user', 'pw']]);
 });
 
