@@ -252,28 +252,64 @@ void GPMAppCore::modelItemChanged(const QString &itemId)
     m_safe->saveChangesAsync();
 }
 
-void GPMAppCore::setDeleted(const QString &itemId, bool deleted)
+void GPMAppCore::setDeleted(const QStringList &itemIds, bool deleted)
 {
-    PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
-    if (!item)
-        return;
-    item->setDeleted(deleted);
-    modelItemChanged(itemId);
+    bool found = false;
+    for (const QString &id : itemIds) {
+        PMListItem *item = m_safe ? m_safe->item(id) : nullptr;
+        if (!item || item->deleted() == deleted)
+            continue;
+        item->setDeleted(deleted);
+        m_safe->touchItem(*item);
+        found = true;
+    }
+    if (found)
+        m_safe->saveChangesAsync();
 }
 
 void GPMAppCore::modelItemDeleted(const QString &itemId)
 {
-    setDeleted(itemId, true);
+    modelItemsDeleted({itemId});
+}
+
+void GPMAppCore::modelItemsDeleted(const QStringList &itemIds)
+{
+    setDeleted(itemIds, true);
 }
 
 void GPMAppCore::modelItemRestored(const QString &itemId)
 {
-    setDeleted(itemId, false);
+    modelItemsRestored({itemId});
+}
+
+void GPMAppCore::modelItemsRestored(const QStringList &itemIds)
+{
+    setDeleted(itemIds, false);
+}
+
+void GPMAppCore::modelItemsMarked(const QStringList &itemIds, bool favorite)
+{
+    bool found = false;
+    for (const QString &id : itemIds) {
+        PMListItem *item = m_safe ? m_safe->item(id) : nullptr;
+        if (!item || item->favorite() == favorite)
+            continue;
+        item->setFavorite(favorite);
+        m_safe->touchItem(*item);
+        found = true;
+    }
+    if (found)
+        m_safe->saveChangesAsync();
 }
 
 void GPMAppCore::modelItemPurged(const QString &itemId)
 {
-    purge({itemId});
+    modelItemsPurged({itemId});
+}
+
+void GPMAppCore::modelItemsPurged(const QStringList &itemIds)
+{
+    purge(itemIds);
 }
 
 void GPMAppCore::modelClearTrash()
@@ -283,14 +319,7 @@ void GPMAppCore::modelClearTrash()
 
 void GPMAppCore::modelRestoreAll()
 {
-    const QStringList ids = trashedIds();
-    for (const QString &id : ids) {
-        PMListItem *item = m_safe->item(id);
-        item->setDeleted(false);
-        m_safe->touchItem(*item);
-    }
-    if (!ids.isEmpty())
-        m_safe->saveChangesAsync();
+    setDeleted(trashedIds(), false);
 }
 
 QStringList GPMAppCore::trashedIds() const

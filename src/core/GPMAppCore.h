@@ -114,8 +114,14 @@ public Q_SLOTS:
     /// Moves an item to the trash, or back.
     void modelItemDeleted(const QString &itemId);
     void modelItemRestored(const QString &itemId);
-    /// Deletes an item for good.
+    /// The same for many at once, with one save.
+    void modelItemsDeleted(const QStringList &itemIds);
+    void modelItemsRestored(const QStringList &itemIds);
+    /// Makes items favourites, or no longer so.
+    void modelItemsMarked(const QStringList &itemIds, bool favorite);
+    /// Deletes items for good.
     void modelItemPurged(const QString &itemId);
+    void modelItemsPurged(const QStringList &itemIds);
     /// Deletes everything in the trash for good.
     void modelClearTrash();
     /// Takes everything out of the trash.
@@ -149,7 +155,7 @@ private:
     void connectFlow();
     void tellSaveResult(bool good, const QStringList &failedPaths);
     void countUse(const QString &itemId);
-    void setDeleted(const QString &itemId, bool deleted);
+    void setDeleted(const QStringList &itemIds, bool deleted);
     void purge(const QStringList &ids);
     void dropReferences(const QStringList &ids);
 

@@ -1,19 +1,26 @@
 #include "ItemCategory.h"
 
+#include "ItemExpiry.h"
 #include "ItemListModel.h"
 
-bool ItemCategory::contains(PMListItem::Type itemType, bool favorite, bool deleted,
-                            int useCount) const
+bool ItemCategory::contains(const PMListItem &item, const QDate &today) const
 {
-    if (deleted != (kind == Trash))
-        return false;
+    return item.deleted() == (kind == Trash) && containsKind(item, today);
+}
+
+bool ItemCategory::containsKind(const PMListItem &item, const QDate &today) const
+{
     switch (kind) {
     case Favourites:
-        return favorite;
+        return item.favorite();
     case MostUsed:
-        return useCount > 0;
+        return item.useCount() > 0;
+    case Expiring: {
+        const std::optional<QDate> last = itemExpiry(item);
+        return last && expiresSoon(*last, today);
+    }
     case OfType:
-        return itemType == type;
+        return item.type() == type;
     case All:
     case Trash:
         break;
@@ -24,7 +31,7 @@ bool ItemCategory::contains(PMListItem::Type itemType, bool favorite, bool delet
 QVector<ItemCategory> ItemCategory::all()
 {
     QVector<ItemCategory> list;
-    for (const Kind kind : {All, Favourites, MostUsed})
+    for (const Kind kind : {All, Favourites, MostUsed, Expiring})
         list.append(ItemCategory{kind});
     for (const PMListItem::Type type :
          {PMListItem::Login, PMListItem::CreditCard, PMListItem::BankAccount, PMListItem::Identity,
@@ -35,17 +42,18 @@ QVector<ItemCategory> ItemCategory::all()
     return list;
 }
 
-QVector<int> categoryCounts(const ItemListModel &model)
+QVector<int> categoryCounts(const ItemListModel &model, const QDate &today)
 {
     const QVector<ItemCategory> categories = ItemCategory::all();
     QVector<int> counts(categories.size(), 0);
     for (int row = 0; row < model.rowCount(); ++row) {
-        const PMListItem *item = model.itemAt(model.index(row));
+        const PMListItem &item = *model.entryAt(row).item;
         for (int i = 0; i < categories.size(); ++i) {
-            if (categories.at(i).contains(item->type(), item->favorite(), item->deleted(),
-                                          item->useCount()))
+            if (categories.at(i).contains(item, today))
                 ++counts[i];
         }
     }
+    int &mostUsed = counts[categories.indexOf({ItemCategory::MostUsed})];
+    mostUsed = qMin(mostUsed, ItemCategory::mostUsedLimit);
     return counts;
 }

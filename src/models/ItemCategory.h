@@ -2,7 +2,7 @@
 
 #include "PMListItem.h"
 
-#include <QMap>
+#include <QDate>
 #include <QVector>
 
 class ItemListModel;
@@ -11,12 +11,19 @@ class ItemListModel;
 /// the trash alone.
 struct ItemCategory
 {
-    enum Kind { All, Favourites, MostUsed, OfType, Trash };
+    enum Kind { All, Favourites, MostUsed, Expiring, OfType, Trash };
+
+    /// How many of the used items the category of the most used ones has.
+    static constexpr int mostUsedLimit = 20;
 
     Kind kind = All;
     PMListItem::Type type = PMListItem::UndefinedItem; ///< of OfType
 
-    bool contains(PMListItem::Type itemType, bool favorite, bool deleted, int useCount) const;
+    /// Whether the item belongs to the category; for the most used ones whether it may, as only the
+    /// first mostUsedLimit do.
+    bool contains(const PMListItem &item, const QDate &today) const;
+    /// The same whether it is in the trash or not.
+    bool containsKind(const PMListItem &item, const QDate &today) const;
 
     bool operator==(const ItemCategory &other) const
     {
@@ -29,4 +36,4 @@ struct ItemCategory
 };
 
 /// How many items each category of ItemCategory::all() has, in that order.
-QVector<int> categoryCounts(const ItemListModel &model);
+QVector<int> categoryCounts(const ItemListModel &model, const QDate &today);

@@ -1,22 +1,52 @@
 #include "ItemFilterModel.h"
 
-#include "ItemListModel.h"
+#include <QMimeData>
 
-ItemFilterModel::ItemFilterModel(QObject *parent)
-    : QSortFilterProxyModel(parent)
+#include <algorithm>
+#include <utility>
+
+const char itemIdsMimeType[] = "application/x-glaceron-item-ids";
+
+ItemFilterModel::ItemFilterModel(QObject *parent, Clock clock)
+    : QAbstractListModel(parent)
+    , m_clock(std::move(clock))
+    , m_today(today())
 {
-    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
-    m_collator.setNumericMode(true);
-    setDynamicSortFilter(true);
-    sort(0);
+}
+
+void ItemFilterModel::setSourceModel(const ItemListModel *source)
+{
+    if (m_source)
+        m_source->disconnect(this);
+    m_source = source;
+    // Rows are let go of while their items are still there.
+    connect(source, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        beginResetModel();
+        m_shown.clear();
+        m_all.clear();
+    });
+    connect(source, &QAbstractItemModel::modelReset, this, [this] {
+        takeAll();
+        endResetModel();
+    });
+    connect(source, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex &, int first, int last) { onInserted(first, last); });
+    connect(source, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this](const QModelIndex &, int first, int last) { onAboutToBeRemoved(first, last); });
+    connect(source, &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex &changed) { onChanged(&m_source->entryAt(changed.row())); });
+    beginResetModel();
+    takeAll();
+    endResetModel();
 }
 
 void ItemFilterModel::setCategory(const ItemCategory &category)
 {
     if (m_category == category)
         return;
+    const SortBy before = order();
     m_category = category;
-    invalidate();
+    reset(order() == before);
 }
 
 void ItemFilterModel::setSearch(const QString &text)
@@ -24,8 +54,22 @@ void ItemFilterModel::setSearch(const QString &text)
     if (m_search == text)
         return;
     m_search = text;
-    m_words = text.toLower().split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    invalidateFilter();
+    m_query = ItemQuery(text, m_terms);
+    reset(true);
+}
+
+void ItemFilterModel::setTerms(const SearchTerms &terms)
+{
+    m_terms = terms;
+    m_query = ItemQuery(m_search, m_terms);
+    refresh();
+}
+
+void ItemFilterModel::refresh()
+{
+    m_today = today();
+    if (filtered() != m_shown)
+        reset(true);
 }
 
 void ItemFilterModel::setSortBy(SortBy sortBy)
@@ -33,41 +77,247 @@ void ItemFilterModel::setSortBy(SortBy sortBy)
     if (m_sortBy == sortBy)
         return;
     m_sortBy = sortBy;
-    invalidate();
+    reset(false);
 }
 
-bool ItemFilterModel::filterAcceptsRow(int row, const QModelIndex &parent) const
+int ItemFilterModel::rowCount(const QModelIndex &parent) const
 {
-    const QModelIndex index = sourceModel()->index(row, 0, parent);
-    const auto type = static_cast<PMListItem::Type>(index.data(ItemListModel::TypeRole).toInt());
-    if (!m_category.contains(type, index.data(ItemListModel::FavoriteRole).toBool(),
-                             index.data(ItemListModel::DeletedRole).toBool(),
-                             index.data(ItemListModel::UseCountRole).toInt()))
-        return false;
-    if (m_words.isEmpty())
-        return true;
-    const QString text = index.data(ItemListModel::SearchTextRole).toString();
-    return std::all_of(m_words.begin(), m_words.end(),
-                       [&text](const QString &word) { return text.contains(word); });
+    return parent.isValid() ? 0 : static_cast<int>(m_shown.size());
 }
 
-bool ItemFilterModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
+QVariant ItemFilterModel::data(const QModelIndex &index, int role) const
+{
+    const PMListItem *item = itemAt(index);
+    return item ? ItemListModel::itemData(*item, role) : QVariant();
+}
+
+Qt::ItemFlags ItemFilterModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QAbstractListModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
+}
+
+QStringList ItemFilterModel::mimeTypes() const
+{
+    return {QLatin1String(itemIdsMimeType)};
+}
+
+QMimeData *ItemFilterModel::mimeData(const QModelIndexList &indexes) const
+{
+    QStringList ids;
+    for (const QModelIndex &index : indexes)
+        ids.append(index.data(ItemListModel::IdRole).toString());
+    auto *data = new QMimeData;
+    data->setData(QLatin1String(itemIdsMimeType), ids.join(QLatin1Char('\n')).toUtf8());
+    return data;
+}
+
+PMListItem *ItemFilterModel::itemAt(const QModelIndex &index) const
+{
+    if (index.model() != this || index.row() < 0 || index.row() >= rowCount())
+        return nullptr;
+    return m_shown[static_cast<std::size_t>(index.row())]->item;
+}
+
+QModelIndex ItemFilterModel::indexOf(const QString &id) const
+{
+    const Entry *entry = m_source ? m_source->entryOf(id) : nullptr;
+    const auto place = std::find(m_shown.begin(), m_shown.end(), entry);
+    return place == m_shown.end() ? QModelIndex() : index(int(place - m_shown.begin()));
+}
+
+ItemFilterModel::SortBy ItemFilterModel::order() const
 {
     // The category of the most used items has an order of its own.
-    const SortBy sortBy = m_category.kind == ItemCategory::MostUsed ? SortBy::MostUsed : m_sortBy;
-    if (sortBy == SortBy::MostUsed) {
-        const int a = left.data(ItemListModel::UseCountRole).toInt();
-        const int b = right.data(ItemListModel::UseCountRole).toInt();
-        if (a != b)
-            return a > b;
-    } else if (sortBy != SortBy::Title) {
-        const int role =
-            sortBy == SortBy::Modified ? ItemListModel::ModifiedRole : ItemListModel::CreatedRole;
-        const QDateTime a = left.data(role).toDateTime();
-        const QDateTime b = right.data(role).toDateTime();
-        if (a != b)
-            return a > b;
+    return m_category.kind == ItemCategory::MostUsed ? SortBy::MostUsed : m_sortBy;
+}
+
+bool ItemFilterModel::less(const Entry *left, const Entry *right) const
+{
+    qint64 difference = 0; // the greater comes first
+    switch (order()) {
+    case SortBy::Title:
+        break;
+    case SortBy::Domain:
+        // What has no domain comes behind what has one.
+        if (left->domain.isEmpty() != right->domain.isEmpty())
+            return right->domain.isEmpty();
+        difference = right->domain.compare(left->domain);
+        break;
+    case SortBy::Modified:
+        difference = left->modified - right->modified;
+        break;
+    case SortBy::Created:
+        difference = left->created - right->created;
+        break;
+    case SortBy::LastUsed:
+        difference = left->lastAccessed - right->lastAccessed;
+        break;
+    case SortBy::MostUsed:
+        difference = left->item->useCount() - right->item->useCount();
+        break;
     }
-    const int order = m_collator.compare(left.data().toString(), right.data().toString());
-    return order != 0 ? order < 0 : left.row() < right.row();
+    if (difference != 0)
+        return difference > 0;
+    const int titles = left->sortKey->compare(*right->sortKey);
+    return titles != 0 ? titles < 0 : left->item->id() < right->item->id();
+}
+
+bool ItemFilterModel::matches(const Entry &entry) const
+{
+    return m_query.isEmpty() ||
+           m_query.matches(*entry.item, entry.searchText,
+                           m_query.wantsWeak() && m_isWeak && m_isWeak(*entry.item), m_today);
+}
+
+bool ItemFilterModel::accepts(const Entry &entry) const
+{
+    const bool belongs = m_query.wantsTrash() && entry.item->deleted()
+                             ? m_category.containsKind(*entry.item, m_today)
+                             : m_category.contains(*entry.item, m_today);
+    return belongs && matches(entry);
+}
+
+ItemFilterModel::Entries ItemFilterModel::filtered() const
+{
+    Entries rows;
+    if (m_category.kind != ItemCategory::MostUsed) {
+        std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(rows),
+                     [this](const Entry *entry) { return accepts(*entry); });
+        return rows;
+    }
+    // They are the first ones whatever is searched for among them.
+    int taken = 0;
+    for (const Entry *entry : m_all) {
+        if (!m_category.contains(*entry->item, m_today))
+            continue;
+        if (matches(*entry))
+            rows.push_back(entry);
+        if (++taken == ItemCategory::mostUsedLimit)
+            break;
+    }
+    return rows;
+}
+
+void ItemFilterModel::sortAll()
+{
+    std::sort(m_all.begin(), m_all.end(),
+              [this](const Entry *left, const Entry *right) { return less(left, right); });
+}
+
+void ItemFilterModel::reset(bool sorted)
+{
+    beginResetModel();
+    m_today = today();
+    if (!sorted)
+        sortAll();
+    m_shown = filtered();
+    endResetModel();
+}
+
+void ItemFilterModel::takeAll()
+{
+    m_all.clear();
+    for (int row = 0; row < m_source->rowCount(); ++row)
+        m_all.push_back(&m_source->entryAt(row));
+    sortAll();
+    m_today = today();
+    m_shown = filtered();
+}
+
+void ItemFilterModel::onInserted(int first, int last)
+{
+    for (int row = first; row <= last; ++row)
+        insert(&m_source->entryAt(row));
+}
+
+void ItemFilterModel::onAboutToBeRemoved(int first, int last)
+{
+    for (int row = first; row <= last; ++row)
+        remove(&m_source->entryAt(row));
+}
+
+ItemFilterModel::Entries::iterator ItemFilterModel::place(Entries::iterator begin,
+                                                          Entries::iterator end, const Entry *entry)
+{
+    return std::lower_bound(begin, end, entry, [this](const Entry *left, const Entry *right) {
+        return less(left, right);
+    });
+}
+
+void ItemFilterModel::insert(const Entry *entry)
+{
+    m_all.insert(place(m_all.begin(), m_all.end(), entry), entry);
+    if (m_category.kind == ItemCategory::MostUsed)
+        refresh();
+    else if (accepts(*entry))
+        show(entry);
+}
+
+void ItemFilterModel::remove(const Entry *entry)
+{
+    m_all.erase(std::find(m_all.begin(), m_all.end(), entry));
+    hide(entry);
+    if (m_category.kind == ItemCategory::MostUsed)
+        refresh();
+}
+
+void ItemFilterModel::onChanged(const Entry *entry)
+{
+    m_all.erase(std::find(m_all.begin(), m_all.end(), entry));
+    m_all.insert(place(m_all.begin(), m_all.end(), entry), entry);
+    if (m_category.kind == ItemCategory::MostUsed) {
+        refresh();
+    } else {
+        const bool shown = std::find(m_shown.begin(), m_shown.end(), entry) != m_shown.end();
+        const bool accepted = accepts(*entry);
+        if (accepted && !shown)
+            show(entry);
+        else if (!accepted)
+            hide(entry);
+        else
+            move(entry);
+    }
+    const QModelIndex now = indexOf(entry->item->id());
+    if (now.isValid())
+        Q_EMIT dataChanged(now, now);
+}
+
+void ItemFilterModel::show(const Entry *entry)
+{
+    const auto target = place(m_shown.begin(), m_shown.end(), entry);
+    const int row = int(target - m_shown.begin());
+    beginInsertRows({}, row, row);
+    m_shown.insert(target, entry);
+    endInsertRows();
+}
+
+void ItemFilterModel::hide(const Entry *entry)
+{
+    const auto old = std::find(m_shown.begin(), m_shown.end(), entry);
+    if (old == m_shown.end())
+        return;
+    const int row = int(old - m_shown.begin());
+    beginRemoveRows({}, row, row);
+    m_shown.erase(old);
+    endRemoveRows();
+}
+
+void ItemFilterModel::move(const Entry *entry)
+{
+    const auto old = std::find(m_shown.begin(), m_shown.end(), entry);
+    // The others are in order on either side of it.
+    auto target = place(m_shown.begin(), old, entry);
+    if (target == old)
+        target = place(old + 1, m_shown.end(), entry);
+    const int from = int(old - m_shown.begin());
+    const int to = int(target - m_shown.begin());
+    if (to == from || to == from + 1)
+        return;
+    beginMoveRows({}, from, from, {}, to);
+    if (to < from)
+        std::rotate(target, old, old + 1);
+    else
+        std::rotate(old, old + 1, target);
+    endMoveRows();
 }

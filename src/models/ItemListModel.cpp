@@ -1,10 +1,38 @@
 #include "ItemListModel.h"
 
+#include "ItemExpiry.h"
+#include "SearchText.h"
+
 #include <QTimer>
+
+namespace {
+
+qint64 milliseconds(const QDateTime &moment)
+{
+    return moment.isValid() ? moment.toMSecsSinceEpoch() : 0;
+}
+
+/// The "C" locale knows nothing of case.
+QLocale sortingLocale()
+{
+    const QLocale locale = QLocale().collation();
+    return locale.language() == QLocale::C ? QLocale(QLocale::English) : locale;
+}
+
+} // namespace
 
 ItemListModel::ItemListModel(QObject *parent)
     : QAbstractListModel(parent)
+    , m_collator(sortingLocale())
 {
+    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
+    m_collator.setNumericMode(true);
+}
+
+ItemListModel::~ItemListModel()
+{
+    // Whoever shows the rows lets go of them.
+    setSafe(nullptr);
 }
 
 void ItemListModel::setSafe(const std::shared_ptr<GPMSafe> &safe)
@@ -24,39 +52,42 @@ void ItemListModel::setSafe(const std::shared_ptr<GPMSafe> &safe)
 
 int ItemListModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_items.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_entries.size());
 }
 
 QVariant ItemListModel::data(const QModelIndex &index, int role) const
 {
     const PMListItem *item = itemAt(index);
-    if (!item)
-        return {};
+    return item ? itemData(*item, role) : QVariant();
+}
+
+QVariant ItemListModel::itemData(const PMListItem &item, int role)
+{
     switch (role) {
     case Qt::DisplayRole:
-        return item->title();
+        return item.title();
     case IdRole:
-        return item->id();
+        return item.id();
     case TypeRole:
-        return item->type();
+        return item.type();
     case SecondaryTextRole:
-        return item->secondaryText();
+        return item.secondaryText();
     case FavoriteRole:
-        return item->favorite();
+        return item.favorite();
     case DeletedRole:
-        return item->deleted();
+        return item.deleted();
     case UseCountRole:
-        return item->useCount();
+        return item.useCount();
     case ModifiedRole:
-        return item->modified();
+        return item.modified();
     case CreatedRole:
-        return item->created();
+        return item.created();
     case IconRole:
-        return item->icon();
-    case SearchTextRole:
-        return QStringList{item->title(), item->secondaryText(), item->url(), item->note()}
-            .join(QLatin1Char('\n'))
-            .toLower();
+        return item.icon();
+    case ExpiryRole: {
+        const std::optional<QDate> last = itemExpiry(item);
+        return last ? QVariant(*last) : QVariant();
+    }
     default:
         return {};
     }
@@ -66,40 +97,41 @@ PMListItem *ItemListModel::itemAt(const QModelIndex &index) const
 {
     if (index.model() != this || index.row() < 0 || index.row() >= rowCount())
         return nullptr;
-    return m_items[static_cast<std::size_t>(index.row())];
+    return entryAt(index.row()).item;
+}
+
+const ItemListModel::Entry *ItemListModel::entryOf(const QString &id) const
+{
+    return m_byItem.value(m_safe ? m_safe->item(id) : nullptr);
 }
 
 QModelIndex ItemListModel::indexOf(const QString &id) const
 {
-    PMListItem *item = m_safe ? m_safe->item(id) : nullptr;
-    const auto row = m_rows.constFind(item);
-    return row == m_rows.constEnd() ? QModelIndex() : index(*row);
+    const Entry *entry = entryOf(id);
+    return entry ? index(entry->row) : QModelIndex();
 }
 
 void ItemListModel::reload()
 {
     beginResetModel();
-    for (PMListItem *item : m_items)
-        item->disconnect(this);
-    m_items = m_safe ? m_safe->items() : std::vector<PMListItem *>();
-    m_rows.clear();
-    for (std::size_t row = 0; row < m_items.size(); ++row) {
-        m_rows.insert(m_items[row], static_cast<int>(row));
-        watch(m_items[row]);
-    }
+    for (const std::unique_ptr<Entry> &entry : m_entries)
+        entry->item->disconnect(this);
+    m_byItem.clear();
+    m_entries.clear();
+    const std::vector<PMListItem *> items = m_safe ? m_safe->items() : std::vector<PMListItem *>();
+    m_entries.reserve(items.size());
+    for (PMListItem *item : items)
+        m_entries.push_back(makeEntry(item, rowCount()));
     endResetModel();
     announceChange();
 }
 
 void ItemListModel::addRow(const QString &id)
 {
-    PMListItem *item = m_safe->item(id);
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    m_items.push_back(item);
-    m_rows.insert(item, row);
+    m_entries.push_back(makeEntry(m_safe->item(id), row));
     endInsertRows();
-    watch(item);
     announceChange();
 }
 
@@ -110,27 +142,43 @@ void ItemListModel::removeRow(const QString &id)
         return;
     const int row = index.row();
     beginRemoveRows({}, row, row);
-    m_items[static_cast<std::size_t>(row)]->disconnect(this);
-    m_rows.remove(m_items[static_cast<std::size_t>(row)]);
-    m_items.erase(m_items.begin() + row);
-    for (int &other : m_rows) {
-        if (other > row)
-            --other;
-    }
+    PMListItem *item = entryAt(row).item;
+    item->disconnect(this);
+    m_byItem.remove(item);
+    m_entries.erase(m_entries.begin() + row);
+    for (auto entry = m_entries.begin() + row; entry != m_entries.end(); ++entry)
+        --(*entry)->row;
     endRemoveRows();
     announceChange();
 }
 
-void ItemListModel::watch(PMListItem *item)
+std::unique_ptr<ItemListModel::Entry> ItemListModel::makeEntry(PMListItem *item, int row)
 {
-    connect(item, &PMListItem::timestampChanged, this, [this, item] { onItemChanged(item); });
+    auto entry = std::make_unique<Entry>();
+    entry->item = item;
+    entry->row = row;
+    fill(*entry);
+    m_byItem.insert(item, entry.get());
+    connect(item, &PMListItem::timestampChanged, this,
+            [this, kept = entry.get()] { onItemChanged(*kept); });
+    return entry;
 }
 
-void ItemListModel::onItemChanged(PMListItem *item)
+void ItemListModel::fill(Entry &entry) const
 {
-    const QModelIndex changed = index(m_rows.value(item, -1));
-    if (!changed.isValid())
-        return;
+    const PMListItem &item = *entry.item;
+    entry.searchText = itemSearchText(item);
+    entry.domain = itemDomain(item);
+    entry.sortKey = m_collator.sortKey(item.title());
+    entry.modified = milliseconds(item.modified());
+    entry.created = milliseconds(item.created());
+    entry.lastAccessed = milliseconds(item.lastAccessed());
+}
+
+void ItemListModel::onItemChanged(Entry &entry)
+{
+    fill(entry);
+    const QModelIndex changed = index(entry.row);
     Q_EMIT dataChanged(changed, changed);
     announceChange();
 }

@@ -3,9 +3,11 @@
 #include "GPMSafe.h"
 
 #include <QAbstractListModel>
+#include <QCollator>
 #include <QHash>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// The items of a safe as rows, kept up to date while the safe changes; empty while it is locked.
@@ -24,19 +26,40 @@ public:
         ModifiedRole,
         CreatedRole,
         IconRole,
-        SearchTextRole ///< everything that a search looks at, in lower case
+        ExpiryRole ///< the last day on which it is valid; invalid when it does not expire
+    };
+
+    /// An item with what lists ask of it again and again, made anew when the item changes. Times
+    /// are milliseconds since the Unix epoch, 0 when there is none.
+    struct Entry
+    {
+        PMListItem *item = nullptr;
+        int row = 0;
+        QString searchText;                      ///< itemSearchText()
+        QString domain;                          ///< itemDomain()
+        std::optional<QCollatorSortKey> sortKey; ///< of the title
+        qint64 modified = 0;
+        qint64 created = 0;
+        qint64 lastAccessed = 0;
     };
 
     explicit ItemListModel(QObject *parent = nullptr);
+    ~ItemListModel() override;
 
     /// Shows another safe, or none.
     void setSafe(const std::shared_ptr<GPMSafe> &safe);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /// The same of an item that is not asked for by its row.
+    static QVariant itemData(const PMListItem &item, int role);
 
     /// Null for an index that is not one of this model's.
     PMListItem *itemAt(const QModelIndex &index) const;
+    /// Stays at its place in memory for as long as the row exists.
+    const Entry &entryAt(int row) const { return *m_entries[static_cast<std::size_t>(row)]; }
+    /// Null when there is no such item.
+    const Entry *entryOf(const QString &id) const;
 
     /// Invalid when there is no such item.
     QModelIndex indexOf(const QString &id) const;
@@ -50,12 +73,14 @@ private:
     void reload();
     void addRow(const QString &id);
     void removeRow(const QString &id);
-    void watch(PMListItem *item);
-    void onItemChanged(PMListItem *item);
+    std::unique_ptr<Entry> makeEntry(PMListItem *item, int row);
+    void fill(Entry &entry) const;
+    void onItemChanged(Entry &entry);
     void announceChange();
 
     std::shared_ptr<GPMSafe> m_safe;
-    std::vector<PMListItem *> m_items;
-    QHash<PMListItem *, int> m_rows;
+    QCollator m_collator;
+    std::vector<std::unique_ptr<Entry>> m_entries;
+    QHash<PMListItem *, Entry *> m_byItem;
     bool m_changeAnnounced = false;
 };

@@ -65,6 +65,11 @@ void PMUiProvider::createMainWindow()
     m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, *m_window);
     connect(view, &MainView::generatorRequested, m_sideWindows.get(), &SideWindows::openGenerator);
     connect(view, &MainView::lockRequested, this, &PMUiProvider::lock);
+    connect(view, &MainView::safeChosen, m_window.get(), &SecureWindow::switchSafe);
+    connect(view, &MainView::createSafeRequested, m_window.get(), &SecureWindow::createSafe);
+    view->setItemOrder(m_settings.itemOrder());
+    connect(view, &MainView::itemOrderChanged, this,
+            [this, view] { m_settings.setItemOrder(view->itemOrder()); });
     connect(view, &MainView::helpRequested, this, &PMUiProvider::showAbout);
     connect(view, &MainView::exitRequested, this, &PMUiProvider::exitByUser);
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);

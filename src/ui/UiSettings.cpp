@@ -6,6 +6,7 @@ namespace {
 
 const QString lastUsedSafeKey = QStringLiteral("LastUsedSafe");
 const QString screenNumberKey = QStringLiteral("LastMainWindowScreenNumber");
+const QString itemOrderKey = QStringLiteral("ItemOrder");
 const QString geometrySuffix = QStringLiteral("_Geometry");
 const QString splitterSuffix = QStringLiteral("_Splitter");
 const QString lengthSuffix = QStringLiteral("_Length");
@@ -69,6 +70,16 @@ void UiSettings::setPasswordShape(const QString &windowName, const PasswordShape
 {
     m_store.setValue(windowName + lengthSuffix, shape.length);
     m_store.setValue(windowName + specialCountSuffix, shape.specialCount);
+}
+
+QString UiSettings::itemOrder() const
+{
+    return m_store.value(itemOrderKey).toString();
+}
+
+void UiSettings::setItemOrder(const QString &name)
+{
+    m_store.setValue(itemOrderKey, name);
 }
 
 void UiSettings::forgetWindows()

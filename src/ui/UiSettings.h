@@ -33,6 +33,10 @@ public:
     PasswordShape passwordShape(const QString &windowName) const;
     void setPasswordShape(const QString &windowName, const PasswordShape &shape);
 
+    /// The name of the order of the items; empty while none was chosen.
+    QString itemOrder() const;
+    void setItemOrder(const QString &name);
+
     /// Forgets where all windows were and how they were divided.
     void forgetWindows();
 

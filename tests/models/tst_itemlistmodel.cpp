@@ -1,4 +1,3 @@
-#include "ItemFilterModel.h"
 #include "ItemListModel.h"
 #include "PMItemFactory.h"
 
@@ -68,56 +67,6 @@ private Q_SLOTS:
         m_safe.reset();
         model.setSafe(nullptr); // the model held the last reference
         QCOMPARE(model.rowCount(), 0);
-    }
-
-    void filtersAndSorts()
-    {
-        PMListItem *zebra = add(PMListItem::Login, "zebra", "ana@example.org");
-        PMListItem *apple = add(PMListItem::Login, "Apple", "bob");
-        PMListItem *note = add(PMListItem::SecureNote, "Émile");
-        PMListItem *gone = add(PMListItem::Login, "gone");
-        zebra->setFavorite(true);
-        zebra->setUseCount(2);
-        apple->setUseCount(5);
-        apple->setUrl(QStringLiteral("https://shop.example"));
-        gone->setDeleted(true);
-        gone->setFavorite(true);
-        note->setModified(QDateTime::currentDateTimeUtc().addDays(1));
-        ItemListModel model;
-        model.setSafe(m_safe);
-        ItemFilterModel list;
-        list.setSourceModel(&model);
-        QCOMPARE(titles(list), QStringLiteral("Apple Émile zebra"));
-
-        const auto shown = [&list](const ItemCategory &category) {
-            list.setCategory(category);
-            return titles(list);
-        };
-        QCOMPARE(shown({ItemCategory::Favourites}), QStringLiteral("zebra"));
-        QCOMPARE(shown({ItemCategory::MostUsed}), QStringLiteral("Apple zebra"));
-        QCOMPARE(shown({ItemCategory::Trash}), QStringLiteral("gone"));
-        QCOMPARE(shown({ItemCategory::OfType, PMListItem::SecureNote}), QStringLiteral("Émile"));
-        QCOMPARE(shown({ItemCategory::OfType, PMListItem::Passport}), QString());
-        QCOMPARE(shown({ItemCategory::All}), QStringLiteral("Apple Émile zebra"));
-
-        const QVector<int> counts = categoryCounts(model);
-        QCOMPARE(counts.mid(0, 4), QVector<int>({3, 1, 2, 2}));
-        QCOMPARE(counts.last(), 1);
-
-        list.setSearch(QStringLiteral(" EXAMPLE zeb "));
-        QCOMPARE(titles(list), QStringLiteral("zebra"));
-        list.setSearch(QStringLiteral("émi"));
-        QCOMPARE(titles(list), QStringLiteral("Émile"));
-        list.setSearch(QStringLiteral("shop"));
-        QCOMPARE(titles(list), QStringLiteral("Apple"));
-        apple->setTitle(QStringLiteral("Shop"));
-        apple->setUrl(QString());
-        QCOMPARE(titles(list), QStringLiteral("Shop"));
-        list.setSearch(QString());
-        list.setSortBy(ItemFilterModel::SortBy::MostUsed);
-        QCOMPARE(titles(list), QStringLiteral("Shop zebra Émile"));
-        list.setSortBy(ItemFilterModel::SortBy::Modified);
-        QVERIFY(titles(list).startsWith(QStringLiteral("Émile")));
     }
 };
 

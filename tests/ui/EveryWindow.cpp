@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QDate>
 #include <QFontDatabase>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace {
@@ -87,6 +88,22 @@ std::unique_ptr<QWidget> editItem(Stage &stage, const char *title)
 {
     auto window = showItem(stage, title);
     find<QPushButton>(*window, "editButton")->click();
+    return window;
+}
+
+std::unique_ptr<QWidget> manySelected(Stage &stage)
+{
+    auto window = showItem(stage, "Cloudmail");
+    auto *list = find<QAbstractItemView>(*window, "itemList");
+    for (int row = 0; row < 3; ++row)
+        list->selectionModel()->select(list->model()->index(row, 0), QItemSelectionModel::Select);
+    return window;
+}
+
+std::unique_ptr<QWidget> nothingFound(Stage &stage)
+{
+    auto window = stage.mainWindow();
+    find<QLineEdit>(*window, "searchField")->setText(QStringLiteral("zeppelin"));
     return window;
 }
 
@@ -250,6 +267,8 @@ const QVector<WindowCase> &everyWindow()
         {"passport", itemCase(showItem, "Ana's passport")},
         {"driver-licence", itemCase(showItem, "Driving licence")},
         {"edit-login", itemCase(editItem, "Cloudmail")},
+        {"many-selected", manySelected},
+        {"nothing-found", nothingFound},
         {"question", question}};
     return cases;
 }

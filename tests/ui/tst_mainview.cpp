@@ -5,10 +5,13 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -37,6 +40,13 @@ private Q_SLOTS:
     void lockByItselfDropsTheEdit();
     void secretsAreHiddenUntilRevealed();
     void unreadableItemsAreNamed();
+    void selectsManyByKeyboard();
+    void selectsManyByMouse();
+    void removalIsTakenBack();
+    void menuOffersWhatApplies_data();
+    void menuOffersWhatApplies();
+    void dropsOnTheSidebar();
+    void duplicates();
 };
 
 namespace {
@@ -86,6 +96,19 @@ struct View
     {
         QWidget *focus = QApplication::focusWidget();
         QTest::keyClick(focus ? focus : &view, key, modifiers);
+    }
+    QStringList selected() const
+    {
+        QModelIndexList rows = list()->selectionModel()->selectedIndexes();
+        std::sort(rows.begin(), rows.end());
+        QStringList titles;
+        for (const QModelIndex &row : qAsConst(rows))
+            titles.append(row.data().toString());
+        return titles;
+    }
+    QPoint rowCentre(int row) const
+    {
+        return list()->visualRect(list()->model()->index(row, 0)).center();
     }
     void click(const char *name) { find<QAbstractButton>(view, name)->click(); }
 
@@ -351,13 +374,15 @@ void TestMainView::removeAsksAboutAnotherEditFirst()
     shown.field("searchField")->setText(QStringLiteral("Beta"));
     shown.asker.answer = 2;
     QTest::keyClick(shown.field("searchField"), Qt::Key_Down);
-    QCOMPARE(shown.current(), QStringLiteral("Beta"));
+    QCOMPARE(shown.asker.asked.size(), 1);
     QTest::keyClick(shown.list(), Qt::Key_Delete);
     QCOMPARE(shown.asker.asked.size(), 1);
     QCOMPARE(shown.field("loginField")->text(), QStringLiteral("bea"));
     QVERIFY(!shown.test.login(beta)->deleted());
 
     shown.asker.answer = 0;
+    QTest::keyClick(shown.field("searchField"), Qt::Key_Down);
+    QCOMPARE(shown.current(), QStringLiteral("Beta"));
     QTest::keyClick(shown.list(), Qt::Key_Delete);
     QCOMPARE(shown.asker.asked.size(), 3);
     QCOMPARE(shown.test.login(alpha)->login(), QStringLiteral("bea"));
@@ -526,6 +551,232 @@ void TestMainView::unreadableItemsAreNamed()
     QCOMPARE(shown.current(), QStringLiteral("Shop"));
     shown.click("bannerCloseButton");
     QVERIFY(!shown.field<QWidget>("banner")->isVisible());
+}
+
+void TestMainView::selectsManyByKeyboard()
+{
+    View shown;
+    for (const char *title : {"Alpha", "Beta", "Gamma", "Delta"})
+        shown.test.addLogin(QLatin1String(title));
+    shown.choose(QStringLiteral("Beta"));
+    shown.list()->setFocus();
+    shown.press(Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(shown.selected(), QStringList({QStringLiteral("Beta"), QStringLiteral("Delta")}));
+    const auto *title = shown.field<QLabel>("selectionTitle");
+    QVERIFY(title->isVisible());
+    QCOMPARE(title->text(), QStringLiteral("2 items selected"));
+    QCOMPARE(shown.shownTitle(), QString());
+
+    shown.click("favoriteSelectedButton");
+    QTRY_COMPARE(shown.field<QPushButton>("favoriteSelectedButton")->text(),
+                 QStringLiteral("Remove from favourites"));
+    for (const PMListItem *item : shown.test.core.currentSafe()->items())
+        QCOMPARE(item->favorite(), shown.selected().contains(item->title()));
+
+    shown.press(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(shown.selected().size(), 4);
+    // What the search hides is no longer selected; what it leaves still is.
+    shown.field("searchField")->setText(QStringLiteral("ta"));
+    QCOMPARE(shown.selected(), QStringList({QStringLiteral("Beta"), QStringLiteral("Delta")}));
+    shown.field("searchField")->clear();
+    QCOMPARE(shown.selected().size(), 2);
+
+    shown.list()->setFocus();
+    shown.press(Qt::Key_Delete);
+    QCOMPARE(shown.asker.asked.last().text, QStringLiteral("Do you want to remove 2 items?"));
+    QCOMPARE(shown.list()->model()->rowCount(), 2);
+    QVERIFY(!title->isVisible());
+    QCOMPARE(shown.selected().size(), 1);
+    QCOMPARE(shown.shownTitle(), shown.selected().first());
+}
+
+void TestMainView::selectsManyByMouse()
+{
+    View shown;
+    for (const char *title : {"Alpha", "Beta", "Gamma", "Delta"})
+        shown.test.addLogin(QLatin1String(title));
+    QWidget *rows = shown.list()->viewport();
+    QTest::mouseClick(rows, Qt::LeftButton, {}, shown.rowCentre(0));
+    QCOMPARE(shown.shownTitle(), QStringLiteral("Alpha"));
+    QTest::mouseClick(rows, Qt::LeftButton, Qt::ControlModifier, shown.rowCentre(2));
+    QCOMPARE(shown.selected(), QStringList({QStringLiteral("Alpha"), QStringLiteral("Delta")}));
+    QCOMPARE(shown.shownTitle(), QString());
+    QTest::mouseClick(rows, Qt::LeftButton, Qt::ControlModifier, shown.rowCentre(2));
+    QCOMPARE(shown.shownTitle(), QStringLiteral("Alpha"));
+    QTest::mouseClick(rows, Qt::LeftButton, {}, shown.rowCentre(0));
+    QTest::mouseClick(rows, Qt::LeftButton, Qt::ShiftModifier, shown.rowCentre(1));
+    QCOMPARE(shown.selected(), QStringList({QStringLiteral("Alpha"), QStringLiteral("Beta")}));
+
+    // Drawn over rows from one that was not selected.
+    QTest::mousePress(rows, Qt::LeftButton, {}, shown.rowCentre(3));
+    for (int row : {3, 2, 1}) {
+        QMouseEvent move(QEvent::MouseMove, shown.rowCentre(row) + QPoint(0, row - 2), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(rows, &move);
+    }
+    QTest::mouseRelease(rows, Qt::LeftButton, {}, shown.rowCentre(1));
+    QCOMPARE(shown.selected(), QStringList({QStringLiteral("Beta"), QStringLiteral("Delta"),
+                                            QStringLiteral("Gamma")}));
+    QCOMPARE(shown.field<QLabel>("selectionTitle")->text(), QStringLiteral("3 items selected"));
+
+    // An edit is asked about before many are selected; refused, the selection goes back.
+    QTest::mouseClick(rows, Qt::LeftButton, {}, shown.rowCentre(0));
+    shown.click("editButton");
+    shown.field("loginField")->setText(QStringLiteral("bea"));
+    shown.asker.answer = 2;
+    QTest::mouseClick(rows, Qt::LeftButton, Qt::ControlModifier, shown.rowCentre(2));
+    QCOMPARE(shown.asker.asked.size(), 1);
+    QCOMPARE(shown.selected(), QStringList{QStringLiteral("Alpha")});
+    QVERIFY(shown.isEditing());
+}
+
+void TestMainView::removalIsTakenBack()
+{
+    View shown;
+    for (const char *title : {"Alpha", "Beta", "Gamma"})
+        shown.test.addLogin(QLatin1String(title));
+    const auto titles = [&shown] {
+        QStringList list;
+        for (int row = 0; row < shown.list()->model()->rowCount(); ++row)
+            list.append(shown.list()->model()->index(row, 0).data().toString());
+        return list.join(QLatin1Char(' '));
+    };
+    const auto removeChosen = [&shown](const char *title) {
+        shown.choose(QLatin1String(title));
+        QTest::keyClick(shown.list(), Qt::Key_Delete);
+    };
+    removeChosen("Beta");
+    auto *bar = shown.field<QWidget>("snackBar");
+    QVERIFY(bar->isVisible());
+    shown.click("snackAction");
+    QCOMPARE(titles(), QStringLiteral("Alpha Beta Gamma"));
+
+    // One after the other, the last one first; what was restored otherwise is passed over.
+    removeChosen("Alpha");
+    removeChosen("Gamma");
+    removeChosen("Beta");
+    QCOMPARE(titles(), QString());
+    shown.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(titles(), QStringLiteral("Beta"));
+    for (const PMListItem *item : shown.test.core.currentSafe()->items()) {
+        if (item->title() == QStringLiteral("Gamma"))
+            shown.test.core.modelItemRestored(item->id());
+    }
+    shown.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(titles(), QStringLiteral("Alpha Beta Gamma"));
+    shown.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(titles(), QStringLiteral("Alpha Beta Gamma"));
+
+    // Nothing is left to take back when the safe is opened again.
+    removeChosen("Beta");
+    shown.test.core.lockCurrentSafe();
+    QTRY_VERIFY(!bar->isVisible());
+    QSignalSpy finished(&shown.test.core, &GPMAppCore::unlockFinished);
+    shown.test.core.unlockCurrentSafe(testPassword);
+    QVERIFY(finished.wait());
+    shown.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(titles(), QStringLiteral("Alpha Gamma"));
+}
+
+void TestMainView::menuOffersWhatApplies_data()
+{
+    QTest::addColumn<QStringList>("titles");
+    QTest::addColumn<QString>("actions");
+    const auto row = [](const char *name, const QStringList &titles, const char *actions) {
+        QTest::newRow(name) << titles << QString::fromLatin1(actions);
+    };
+    const QString shop = QStringLiteral("Shop");
+    const QString card = QStringLiteral("Card");
+    row("login", {shop},
+        "logInAction openAddressAction copyUserNameAction copySecretAction editAction "
+        "duplicateAction favoriteAction removeAction");
+    row("card", {card}, "copySecretAction editAction duplicateAction favoriteAction removeAction");
+    row("both", {card, shop}, "favoriteAction removeAction");
+    row("trash", {QStringLiteral("Gone")}, "restoreAction deleteForeverAction");
+}
+
+void TestMainView::menuOffersWhatApplies()
+{
+    QFETCH(QStringList, titles);
+    View shown;
+    GPMAppCore &core = shown.test.core;
+    shown.test.addLogin(QStringLiteral("Shop"));
+    auto card = core.modelCreateItem(PMListItem::CreditCard);
+    card->setTitle(QStringLiteral("Card"));
+    card->setProperty("number", QStringLiteral("4111"));
+    core.modelAddItem(std::move(card));
+    core.modelItemDeleted(shown.test.addLogin(QStringLiteral("Gone")));
+    shown.field("searchField")
+        ->setText(titles.contains(QStringLiteral("Gone")) ? QStringLiteral("is:trash") : QString());
+    shown.choose(titles.first());
+    if (titles.size() > 1)
+        shown.list()->selectAll();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(shown.list(), &event);
+    const auto *menu = shown.view.findChild<QMenu *>(QStringLiteral("itemMenu"));
+    QVERIFY(menu);
+    QStringList names;
+    for (const QAction *action : menu->actions()) {
+        if (!action->isSeparator())
+            names.append(action->objectName());
+    }
+    QTEST(names.join(QLatin1Char(' ')), "actions");
+}
+
+void TestMainView::dropsOnTheSidebar()
+{
+    View shown;
+    const QString id = shown.test.addLogin(QStringLiteral("Shop"));
+    auto *categories = shown.field<QListView>("categoryList");
+    const std::unique_ptr<QMimeData> data(
+        shown.list()->model()->mimeData({shown.list()->model()->index(0, 0)}));
+    const auto drop = [&](ItemCategory::Kind kind) {
+        const int row = ItemCategory::all().indexOf({kind}) - (kind > ItemCategory::Expiring);
+        const QPoint place =
+            categories->visualRect(categories->model()->index(row, 0)).center() + QPoint(0, 6);
+        QDragEnterEvent enter(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QDragMoveEvent move(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QDropEvent dropped(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        for (QDropEvent *event :
+             {static_cast<QDropEvent *>(&enter), static_cast<QDropEvent *>(&move), &dropped}) {
+            event->ignore();
+            QCoreApplication::sendEvent(categories->viewport(), event);
+        }
+        QCoreApplication::processEvents();
+        return dropped.isAccepted();
+    };
+    QVERIFY(!drop(ItemCategory::All));
+    QVERIFY(!shown.test.login(id)->favorite());
+    QVERIFY(drop(ItemCategory::Favourites));
+    QVERIFY(shown.test.login(id)->favorite());
+    shown.asker.answer = 1;
+    QVERIFY(drop(ItemCategory::Trash));
+    QVERIFY(!shown.test.login(id)->deleted());
+    shown.asker.answer = 0;
+    QVERIFY(drop(ItemCategory::Trash));
+    QVERIFY(shown.test.login(id)->deleted());
+}
+
+void TestMainView::duplicates()
+{
+    View shown;
+    PMLogin *shop = shown.test.login(shown.test.addLogin(QStringLiteral("Shop")));
+    shop->setUseCount(7);
+    shop->setRefs({QStringLiteral("file")});
+    shown.choose(QStringLiteral("Shop"));
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(shown.list(), &event);
+    shown.view.findChild<QAction *>(QStringLiteral("duplicateAction"))->trigger();
+    QVERIFY(shown.isEditing());
+    QCOMPARE(shown.field("titleField")->text(), QStringLiteral("Shop (copy)"));
+    QCOMPARE(shown.current(), QStringLiteral("Shop (copy)"));
+    const auto items = shown.test.core.currentSafe()->items();
+    QCOMPARE(items.size(), std::size_t(2));
+    const PMListItem *copy = items[0] == shop ? items[1] : items[0];
+    QCOMPARE(copy->property("password"), shop->property("password"));
+    QCOMPARE(copy->useCount(), 0);
+    QVERIFY(copy->refs().isEmpty());
+    QVERIFY(copy->id() != shop->id());
 }
 
 QTEST_MAIN(TestMainView)

@@ -4,6 +4,7 @@
 #include "PagesStack.h"
 #include "SecureContent.h"
 #include "Shutters.h"
+#include "UnlockLogic.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/TitleBar.h"
@@ -143,6 +144,20 @@ void SecureWindow::lockByUser()
 {
     if (m_open)
         leaveSafe(&GPMAppCore::lockCurrentSafe);
+}
+
+void SecureWindow::switchSafe(const QString &folder)
+{
+    lockByUser();
+    if (!m_open)
+        m_pages->unlockLogic().choose(folder);
+}
+
+void SecureWindow::createSafe()
+{
+    lockByUser();
+    if (!m_open)
+        m_pages->showCreatePage();
 }
 
 void SecureWindow::exitByUser()

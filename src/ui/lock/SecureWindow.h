@@ -48,6 +48,11 @@ public:
     void lockByUser();
     void exitByUser();
 
+    /// Locks the safe in the same way and goes on to the page that unlocks another one, or that
+    /// makes a new one.
+    void switchSafe(const QString &folder);
+    void createSafe();
+
     /// Whether the safe is being locked although the user knows that changes get lost.
     bool isLosingChanges() const { return m_losingChanges; }
 

@@ -27,19 +27,24 @@ QSize CategoryDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex
     return {0, rowHeight + (startsGroup ? groupGap : 0)};
 }
 
+QRect CategoryDelegate::rowRect(const QRect &item, const QModelIndex &index)
+{
+    const bool startsGroup = index.data(CategoryModel::StartsGroupRole).toBool();
+    return item.adjusted(inset, startsGroup ? groupGap : 0, -inset, 0);
+}
+
 void CategoryDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const
 {
     const Palette &palette = m_theme.palette();
     const bool selected = option.state.testFlag(QStyle::State_Selected);
-    QRect row = option.rect.adjusted(inset, 0, -inset, 0);
+    const QRect row = rowRect(option.rect, index);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (index.data(CategoryModel::StartsGroupRole).toBool()) {
-        const int line = row.top() + groupGap / 2;
+        const int line = option.rect.top() + groupGap / 2;
         painter->fillRect(QRect(row.left() + 6, line, row.width() - 12, 1),
                           palette.color(Palette::SidebarSelection));
-        row.setTop(row.top() + groupGap);
     }
     if (selected || option.state.testFlag(QStyle::State_MouseOver)) {
         QColor ground = palette.color(Palette::SidebarSelection);

@@ -12,6 +12,9 @@ class CategoryDelegate : public QStyledItemDelegate
 public:
     CategoryDelegate(const Theme &theme, QObject *parent);
 
+    /// The part of an item's place that its row is drawn in.
+    static QRect rowRect(const QRect &item, const QModelIndex &index);
+
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;

@@ -1,6 +1,9 @@
 #include "ItemDelegate.h"
 
+#include "ExpiryText.h"
+#include "ItemExpiry.h"
 #include "ItemListModel.h"
+#include "SiteIcons.h"
 #include "style/Style.h"
 #include "style/SvgIcon.h"
 #include "style/Theme.h"
@@ -9,18 +12,25 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <utility>
+
 namespace {
 
 const int rowHeight = 52;
 const int tileSize = 34;
 const int starSize = 16;
 const int inset = 6;
+const int iconInset = 5;
+const int badgeHeight = 18;
+const int badgeTextSize = 11;
 
 } // namespace
 
-ItemDelegate::ItemDelegate(const Theme &theme, QObject *parent)
+ItemDelegate::ItemDelegate(const Theme &theme, SiteIcons *icons, QObject *parent, Clock clock)
     : QStyledItemDelegate(parent)
     , m_theme(theme)
+    , m_icons(icons)
+    , m_clock(std::move(clock))
 {
 }
 
@@ -39,9 +49,8 @@ void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 
     QRectF tile(row.left() + 12, 0, tileSize, tileSize);
     tile.moveTop(row.top() + (row.height() - tileSize) / 2.0);
-    const auto type = static_cast<PMListItem::Type>(index.data(ItemListModel::TypeRole).toInt());
     painter->setFont(option.font);
-    paintTile(*painter, tile, index.data().toString(), type);
+    paintTile(*painter, tile, index);
 
     QRect texts = row.adjusted(58, 8, -12, -8);
     if (index.data(ItemListModel::FavoriteRole).toBool()) {
@@ -82,6 +91,53 @@ void ItemDelegate::paintGround(QPainter &painter, const QRect &row,
     }
 }
 
+void ItemDelegate::paintTile(QPainter &painter, const QRectF &tile, const QModelIndex &index) const
+{
+    const auto type = static_cast<PMListItem::Type>(index.data(ItemListModel::TypeRole).toInt());
+    const int inner = tileSize - 2 * iconInset;
+    const int side = qRound(inner * painter.device()->devicePixelRatioF());
+    const QPixmap icon =
+        m_icons ? m_icons->icon(index.data(ItemListModel::IconRole).toString(), side) : QPixmap();
+    if (icon.isNull()) {
+        ::paintTile(painter, tile, index.data().toString(), type);
+        return;
+    }
+    // Icons are made for a light ground, and come in any shape.
+    painter.setPen(m_theme.palette().color(Palette::Line));
+    painter.setBrush(Qt::white);
+    const qreal radius = tile.width() * 0.22;
+    painter.drawRoundedRect(tile.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    QRectF place({}, QSizeF(icon.size()).scaled(inner, inner, Qt::KeepAspectRatio));
+    place.moveCenter(tile.center());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(place, icon, QRectF(icon.rect()));
+}
+
+int ItemDelegate::paintBadge(QPainter &painter, const QRect &area, const QFont &font,
+                             const QModelIndex &index) const
+{
+    const QDate last = index.data(ItemListModel::ExpiryRole).toDate();
+    const QDate today = m_clock().toLocalTime().date();
+    const QString text = last.isValid() ? expiryText(last, today) : QString();
+    if (text.isEmpty())
+        return 0;
+    QFont small = font;
+    small.setPixelSize(badgeTextSize);
+    small.setWeight(QFont::DemiBold);
+    const int width = QFontMetrics(small).horizontalAdvance(text) + 2 * Style::spacing;
+    const QRect badge(area.right() - width + 1, area.center().y() - badgeHeight / 2, width,
+                      badgeHeight);
+    const Palette &palette = m_theme.palette();
+    const QColor color = palette.color(isExpired(last, today) ? Palette::Terrible : Palette::Weak);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.tint(color));
+    painter.drawRoundedRect(badge, badgeHeight / 2.0, badgeHeight / 2.0);
+    painter.setFont(small);
+    painter.setPen(color);
+    painter.drawText(badge, Qt::AlignCenter, text);
+    return width + Style::spacing;
+}
+
 void ItemDelegate::paintTexts(QPainter &painter, const QRect &area, const QFont &font,
                               const QModelIndex &index) const
 {
@@ -98,11 +154,16 @@ void ItemDelegate::paintTexts(QPainter &painter, const QRect &area, const QFont 
             QFontMetrics(line).elidedText(text.simplified(), Qt::ElideRight, rect.width()));
     };
     QRect upper = area;
+    QRect lower = area;
     if (!second.isEmpty()) {
         upper.setHeight(area.height() / 2);
-        QRect lower = area;
         lower.setTop(upper.bottom() + 1);
-        draw(lower, second, Style::smallTextSize, QFont::Normal, Palette::Muted);
     }
+    const int badge = paintBadge(painter, lower, font, index);
+    lower.setRight(lower.right() - badge);
+    if (second.isEmpty())
+        upper = lower;
+    else
+        draw(lower, second, Style::smallTextSize, QFont::Normal, Palette::Muted);
     draw(upper, index.data().toString(), Style::textSize, QFont::DemiBold, Palette::Text);
 }

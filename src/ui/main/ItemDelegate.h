@@ -1,16 +1,21 @@
 #pragma once
 
+#include "Clock.h"
+
 #include <QStyledItemDelegate>
 
+class SiteIcons;
 class Theme;
 
-/// Draws the rows of the item list: tile, title, second line, star.
+/// Draws the rows of the item list: the icon of the site or a tile, title, second line, star, and
+/// words on what expires.
 class ItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    ItemDelegate(const Theme &theme, QObject *parent);
+    /// @param icons the icons of sites; may be null
+    ItemDelegate(const Theme &theme, SiteIcons *icons, QObject *parent, Clock clock = systemTime);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
@@ -18,8 +23,14 @@ public:
 
 private:
     void paintGround(QPainter &painter, const QRect &row, const QStyleOptionViewItem &option) const;
+    void paintTile(QPainter &painter, const QRectF &tile, const QModelIndex &index) const;
+    /// Returns the width that it took at the right of the area.
+    int paintBadge(QPainter &painter, const QRect &area, const QFont &font,
+                   const QModelIndex &index) const;
     void paintTexts(QPainter &painter, const QRect &area, const QFont &font,
                     const QModelIndex &index) const;
 
     const Theme &m_theme;
+    SiteIcons *m_icons;
+    Clock m_clock;
 };

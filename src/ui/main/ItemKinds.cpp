@@ -44,11 +44,34 @@ const Kind kinds[] = {
      QT_TRANSLATE_NOOP("ItemKinds", "New item")},
 };
 
+struct Secret
+{
+    const char *property;
+    const char *copyText;
+};
+
+// In the order of PMListItem::Type.
+const Secret secrets[] = {
+    {"password", QT_TRANSLATE_NOOP("ItemKinds", "Copy password")},
+    {"number", QT_TRANSLATE_NOOP("ItemKinds", "Copy card number")},
+    {"number", QT_TRANSLATE_NOOP("ItemKinds", "Copy account number")},
+    {"email", QT_TRANSLATE_NOOP("ItemKinds", "Copy email address")},
+    {"number", QT_TRANSLATE_NOOP("ItemKinds", "Copy passport number")},
+    {"number", QT_TRANSLATE_NOOP("ItemKinds", "Copy number")},
+    {"number", QT_TRANSLATE_NOOP("ItemKinds", "Copy licence number")},
+    {"text", QT_TRANSLATE_NOOP("ItemKinds", "Copy text")},
+    {"password", QT_TRANSLATE_NOOP("ItemKinds", "Copy password")},
+    {"licenseKey", QT_TRANSLATE_NOOP("ItemKinds", "Copy licence key")},
+    {"", ""},
+    {"", ""},
+};
+
 // In the order of ItemCategory::Kind; the kind of items has a table of its own.
 const Kind categories[] = {
     {"", QT_TRANSLATE_NOOP("ItemKinds", "All items"), "layout-grid"},
     {"", QT_TRANSLATE_NOOP("ItemKinds", "Favourites"), "star"},
     {"", QT_TRANSLATE_NOOP("ItemKinds", "Most used"), "flame"},
+    {"", QT_TRANSLATE_NOOP("ItemKinds", "Expiring"), "calendar-due"},
     {"", "", ""},
     {"", QT_TRANSLATE_NOOP("ItemKinds", "Trash"), "trash"},
 };
@@ -97,4 +120,19 @@ QString itemCountText(int count)
     if (count == 1)
         return QCoreApplication::translate("ItemKinds", "1 item");
     return QCoreApplication::translate("ItemKinds", "%n items", nullptr, count);
+}
+
+MainSecret mainSecret(PMListItem::Type type)
+{
+    const Secret &secret = secrets[qBound<int>(PMListItem::Login, type, PMListItem::UndefinedItem)];
+    return {secret.property, *secret.copyText
+                                 ? QCoreApplication::translate("ItemKinds", secret.copyText)
+                                 : QString()};
+}
+
+const char *userNameField(PMListItem::Type type)
+{
+    if (type == PMListItem::Login)
+        return "login";
+    return type == PMListItem::FtpAccount ? "username" : "";
 }

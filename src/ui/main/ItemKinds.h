@@ -17,3 +17,14 @@ QString categoryIcon(const ItemCategory &category);
 
 /// "1 item", "12 items".
 QString itemCountText(int count);
+
+/// The field of a kind that is copied first; empty names where there is none.
+struct MainSecret
+{
+    const char *property;
+    QString copyText; ///< "Copy password", …
+};
+MainSecret mainSecret(PMListItem::Type type);
+
+/// The property with the user name of a kind; empty for kinds without one.
+const char *userNameField(PMListItem::Type type);

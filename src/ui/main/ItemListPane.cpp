@@ -3,21 +3,25 @@
 #include "EmptyState.h"
 #include "ItemDelegate.h"
 #include "ItemKinds.h"
-#include "ItemListModel.h"
+#include "ItemListView.h"
 #include "NewItemMenu.h"
+#include "SearchWords.h"
+#include "SiteIcons.h"
+#include "SortButton.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
 #include "widgets/TextField.h"
 
-#include <QActionGroup>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QListView>
-#include <QMenu>
+#include <QMetaEnum>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -35,26 +39,29 @@ QString emptyAdvice(const ItemCategory &category)
 
 ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent)
     : QWidget(parent)
-    , m_items(items)
     , m_theme(theme)
     , m_filter(new ItemFilterModel(this))
+    , m_icons(new SiteIcons(this))
 {
     setObjectName(QStringLiteral("listPane"));
     setAttribute(Qt::WA_StyledBackground);
     m_filter->setSourceModel(&items);
+    m_filter->setTerms(searchTerms());
     // Before the list connects: it moves on from a row that goes, which is not the user's doing.
     connect(m_filter, &QAbstractItemModel::rowsAboutToBeRemoved, this,
             [this] { m_rowsGoing = true; });
-    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, [this] { m_rowsGoing = false; });
+    connect(m_filter, &QAbstractItemModel::modelAboutToBeReset, this, &ItemListPane::keepSelection);
     makeSearch();
     makeList();
-    makeSortMenu();
+    m_categoryName = makeLabel({}, "muted", this);
+    m_sort = new SortButton(theme, this);
+    m_sort->setOrder(m_filter->sortBy());
+    connect(m_sort, &SortButton::orderChosen, this, &ItemListPane::onOrderChosen);
     m_trashBar = makeTrashBar();
     layOut();
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &ItemListPane::showEmptyState);
-    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &ItemListPane::showEmptyState);
-    connect(m_filter, &QAbstractItemModel::modelReset, this, &ItemListPane::showEmptyState);
-    connect(m_filter, &QAbstractItemModel::layoutChanged, this, &ItemListPane::showEmptyState);
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &ItemListPane::onRowsRemoved);
+    connect(m_filter, &QAbstractItemModel::modelReset, this, &ItemListPane::onReset);
     showEmptyState();
 }
 
@@ -63,6 +70,8 @@ void ItemListPane::makeSearch()
     m_search = new TextField(this);
     m_search->setObjectName(QStringLiteral("searchField"));
     m_search->setAccessibleName(tr("Search"));
+    m_search->setToolTip(searchHelp());
+    m_search->setAccessibleDescription(searchHelp());
     m_search->addAction(m_theme.icon(QStringLiteral("search"), Palette::Muted),
                         QLineEdit::LeadingPosition);
     m_search->installEventFilter(this);
@@ -87,24 +96,21 @@ void ItemListPane::makeSearch()
 
 void ItemListPane::makeList()
 {
-    m_list = new QListView(this);
+    m_list = new ItemListView(this);
     m_list->setObjectName(QStringLiteral("itemList"));
     m_list->setAccessibleName(tr("Items"));
     m_list->setModel(m_filter);
-    m_list->setItemDelegate(new ItemDelegate(m_theme, m_list));
-    m_list->setUniformItemSizes(true);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setMouseTracking(true);
+    m_list->setItemDelegate(new ItemDelegate(m_theme, m_icons, m_list));
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->installEventFilter(this);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex &current) {
-                if (!m_marking && !m_rowsGoing && current.isValid())
-                    Q_EMIT currentChosen(current.data(ItemListModel::IdRole).toString());
-            });
+    connect(m_list, &ItemListView::selectionSettled, this, [this] {
+        if (!m_marking && !m_rowsGoing)
+            Q_EMIT selectionChosen();
+    });
     connect(m_list, &QListView::doubleClicked, this, [this](const QModelIndex &index) {
         Q_EMIT activated(index.data(ItemListModel::IdRole).toString());
     });
+    connect(m_list, &QWidget::customContextMenuRequested, this, &ItemListPane::requestMenu);
     m_empty = new EmptyState(m_theme, this);
     m_empty->button()->setObjectName(QStringLiteral("addFirstLoginButton"));
     connect(m_empty, &EmptyState::pressed, this,
@@ -114,40 +120,40 @@ void ItemListPane::makeList()
     m_stack->addWidget(m_empty);
 }
 
-void ItemListPane::makeSortMenu()
+void ItemListPane::requestMenu(const QPoint &position)
 {
-    m_categoryName = makeLabel({}, "muted", this);
-    m_sort = makeButton({}, "quiet", this);
-    m_sort->setObjectName(QStringLiteral("sortButton"));
-    m_sort->setIcon(m_theme.icon(QStringLiteral("chevron-down"), Palette::Muted));
-    m_sort->setIconSize(QSize(14, 14));
-    m_sort->setLayoutDirection(Qt::RightToLeft);
-
-    using SortBy = ItemFilterModel::SortBy;
-    const QVector<QPair<SortBy, QString>> choices = {{SortBy::Title, tr("Title")},
-                                                     {SortBy::MostUsed, tr("Most used")},
-                                                     {SortBy::Modified, tr("Last changed")},
-                                                     {SortBy::Created, tr("Newest")}};
-    auto *menu = new QMenu(m_sort);
-    menu->setLayoutDirection(layoutDirection());
-    auto *group = new QActionGroup(menu);
-    for (const auto &choice : choices) {
-        QAction *action = menu->addAction(choice.second);
-        action->setCheckable(true);
-        action->setChecked(choice.first == m_filter->sortBy());
-        group->addAction(action);
-        connect(action, &QAction::triggered, this,
-                [this, choice] { setSort(choice.first, choice.second); });
-    }
-    m_sort->setMenu(menu);
-    setSort(m_filter->sortBy(), choices.first().second);
+    if (selectedIds().isEmpty())
+        return;
+    // Asked for by a key, it opens at the row.
+    const QModelIndex current = m_list->currentIndex();
+    const bool onRow = m_list->indexAt(position).isValid();
+    const QPoint place = onRow ? position : m_list->visualRect(current).center();
+    Q_EMIT menuRequested(m_list->viewport()->mapToGlobal(place));
 }
 
-void ItemListPane::setSort(ItemFilterModel::SortBy sortBy, const QString &name)
+void ItemListPane::onOrderChosen(ItemFilterModel::SortBy order)
 {
-    m_filter->setSortBy(sortBy);
-    m_sort->setText(tr("Sort: %1").arg(name));
+    m_filter->setSortBy(order);
     m_list->scrollTo(m_list->currentIndex());
+    Q_EMIT orderChosen();
+}
+
+QString ItemListPane::order() const
+{
+    return QString::fromLatin1(
+        QMetaEnum::fromType<ItemFilterModel::SortBy>().valueToKey(int(m_filter->sortBy())));
+}
+
+void ItemListPane::setOrder(const QString &name)
+{
+    bool known = false;
+    const int value = QMetaEnum::fromType<ItemFilterModel::SortBy>().keyToValue(
+        name.toLatin1().constData(), &known);
+    if (!known)
+        return;
+    const auto order = static_cast<ItemFilterModel::SortBy>(value);
+    m_sort->setOrder(order);
+    m_filter->setSortBy(order);
 }
 
 QWidget *ItemListPane::makeTrashBar()
@@ -207,8 +213,14 @@ void ItemListPane::setCategory(const ItemCategory &category)
     showEmptyState();
 }
 
+void ItemListPane::setIconFolder(const QString &folder)
+{
+    m_icons->setFolder(folder);
+}
+
 void ItemListPane::setCount(int inCategory, bool safeIsEmpty)
 {
+    m_icons->retryMissing();
     m_inCategory = inCategory;
     m_safeIsEmpty = safeIsEmpty;
     m_search->setPlaceholderText(tr("Search %1").arg(itemCountText(inCategory)));
@@ -222,12 +234,23 @@ void ItemListPane::clearSearch()
 
 QString ItemListPane::currentId() const
 {
-    return m_list->currentIndex().data(ItemListModel::IdRole).toString();
+    const QStringList ids = selectedIds();
+    return ids.size() == 1 ? ids.first() : QString();
+}
+
+QStringList ItemListPane::selectedIds() const
+{
+    QModelIndexList rows = m_list->selectionModel()->selectedIndexes();
+    std::sort(rows.begin(), rows.end());
+    QStringList ids;
+    for (const QModelIndex &row : qAsConst(rows))
+        ids.append(row.data(ItemListModel::IdRole).toString());
+    return ids;
 }
 
 bool ItemListPane::contains(const QString &id) const
 {
-    return m_filter->mapFromSource(m_items.indexOf(id)).isValid();
+    return m_filter->indexOf(id).isValid();
 }
 
 QString ItemListPane::firstId() const
@@ -238,12 +261,57 @@ QString ItemListPane::firstId() const
 void ItemListPane::setCurrent(const QString &id)
 {
     const QScopedValueRollback<bool> marking(m_marking, true);
-    const QModelIndex index = m_filter->mapFromSource(m_items.indexOf(id));
+    const QModelIndex index = m_filter->indexOf(id);
     m_list->setCurrentIndex(index);
-    if (index.isValid())
+    if (index.isValid()) {
+        m_list->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
         m_list->scrollTo(index);
-    else
+    } else {
         m_list->clearSelection();
+    }
+}
+
+void ItemListPane::selectAll()
+{
+    m_list->selectAll();
+}
+
+void ItemListPane::keepSelection()
+{
+    m_kept = selectedIds();
+    m_keptCurrent = m_list->currentIndex().data(ItemListModel::IdRole).toString();
+}
+
+void ItemListPane::onReset()
+{
+    const QScopedValueRollback<bool> marking(m_marking, true);
+    const QStringList ids = std::exchange(m_kept, {});
+    QItemSelection selection;
+    for (const QString &id : ids) {
+        const QModelIndex index = m_filter->indexOf(id);
+        if (!index.isValid())
+            continue;
+        // Rows that follow each other are one range.
+        if (!selection.isEmpty() && selection.last().bottom() + 1 == index.row())
+            selection.last() = QItemSelectionRange(selection.last().topLeft(), index);
+        else
+            selection.select(index, index);
+    }
+    QModelIndex current = m_filter->indexOf(m_keptCurrent);
+    if (!current.isValid() && !selection.isEmpty())
+        current = selection.first().topLeft();
+    m_list->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    m_list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    showEmptyState();
+}
+
+void ItemListPane::onRowsRemoved()
+{
+    // The row that came to the place of the last selected one is the selected one now.
+    if (!m_list->selectionModel()->hasSelection())
+        m_list->selectionModel()->select(m_list->currentIndex(), QItemSelectionModel::Select);
+    m_rowsGoing = false;
+    showEmptyState();
 }
 
 void ItemListPane::focusSearch()
@@ -276,7 +344,8 @@ void ItemListPane::showEmptyState()
     }
     if (!m_search->text().isEmpty())
         m_empty->setContent(QStringLiteral("search"), tr("No items found"),
-                            tr("Try fewer words, or press Esc to see all items."));
+                            tr("Try fewer words, or press Esc to see all items.") +
+                                QStringLiteral("\n\n") + searchHelp());
     else if (trash)
         m_empty->setContent(QStringLiteral("trash"), tr("No items in this category"),
                             tr("What you remove stays here until you delete it forever."));
@@ -318,7 +387,7 @@ bool ItemListPane::onSearchKey(int key)
         if (m_filter->rowCount() == 0)
             return true;
         focusList();
-        if (!m_list->currentIndex().isValid())
+        if (selectedIds().isEmpty())
             m_list->setCurrentIndex(m_filter->index(0, 0));
         return true;
     case Qt::Key_Return:
@@ -333,16 +402,15 @@ bool ItemListPane::onSearchKey(int key)
 
 bool ItemListPane::onListKey(int key)
 {
-    const QString id = currentId();
     switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!id.isEmpty())
-            Q_EMIT activated(id);
+        if (!currentId().isEmpty())
+            Q_EMIT activated(currentId());
         return true;
     case Qt::Key_Delete:
-        if (!id.isEmpty())
-            Q_EMIT removeRequested(id);
+        if (!selectedIds().isEmpty())
+            Q_EMIT removeRequested(selectedIds());
         return true;
     case Qt::Key_Up:
         if (m_list->currentIndex().row() > 0)

@@ -5,17 +5,17 @@
 #include <QWidget>
 
 class EmptyState;
-class ItemListModel;
+class ItemListView;
 class QLabel;
 class QLineEdit;
-class QListView;
-class QPushButton;
 class QStackedWidget;
 class QToolButton;
+class SiteIcons;
+class SortButton;
 class Theme;
 
-/// The items of one category as a list with search and sorting. One row at a time is the current
-/// one; it stays while the list changes around it.
+/// The items of one category as a list with search and sorting. Any number of them is selected;
+/// they stay so while the list changes around them.
 class ItemListPane : public QWidget
 {
     Q_OBJECT
@@ -28,10 +28,22 @@ public:
     /// @param inCategory how many items the category has without a search
     void setCount(int inCategory, bool safeIsEmpty);
     void clearSearch();
+    /// Where the icons of sites are; empty for nowhere.
+    void setIconFolder(const QString &folder);
 
+    /// The name of the order in which the items stand, and that order by its name.
+    QString order() const;
+    void setOrder(const QString &name);
+
+    ItemFilterModel &filter() { return *m_filter; }
+
+    /// The selected item; empty unless it is exactly one.
     QString currentId() const;
-    /// Makes an item the current row; an empty id, or one that is not in the list, makes none.
+    /// The selected items from top to bottom.
+    QStringList selectedIds() const;
+    /// Selects one item; an empty id, or one that is not in the list, selects none.
     void setCurrent(const QString &id);
+    void selectAll();
     bool contains(const QString &id) const;
     /// The id of the first row; empty when there is none.
     QString firstId() const;
@@ -42,12 +54,15 @@ public:
     void takeFocus();
 
 Q_SIGNALS:
-    /// The user went to another row. The list may change under the current row without this.
-    void currentChosen(const QString &id);
+    /// The user selected other items. The list may change under the selection without this.
+    void selectionChosen();
     /// The search left other rows than before.
     void searched();
     void activated(const QString &id);
-    void removeRequested(const QString &id);
+    void removeRequested(const QStringList &ids);
+    /// A menu for the selected items is to open at a place of the screen.
+    void menuRequested(const QPoint &place);
+    void orderChosen();
     void createRequested(PMListItem::Type type);
     void restoreAllRequested();
     void emptyTrashRequested();
@@ -58,29 +73,34 @@ protected:
 private:
     void makeSearch();
     void makeList();
-    void makeSortMenu();
     QWidget *makeTrashBar();
     void layOut();
     void showEmptyState();
     void placeSearchKey();
     bool onSearchKey(int key);
     bool onListKey(int key);
-    void setSort(ItemFilterModel::SortBy sortBy, const QString &name);
+    void requestMenu(const QPoint &position);
+    void onOrderChosen(ItemFilterModel::SortBy order);
+    void keepSelection();
+    void onReset();
+    void onRowsRemoved();
 
-    ItemListModel &m_items;
     const Theme &m_theme;
     ItemFilterModel *m_filter;
+    SiteIcons *m_icons;
     QLineEdit *m_search;
     QLabel *m_searchKey;
     QToolButton *m_new;
     QLabel *m_categoryName;
-    QPushButton *m_sort;
+    SortButton *m_sort;
     QWidget *m_trashBar;
     QStackedWidget *m_stack;
-    QListView *m_list;
+    ItemListView *m_list;
     EmptyState *m_empty;
+    QStringList m_kept; ///< what was selected before the rows are made anew
+    QString m_keptCurrent;
     int m_inCategory = 0;
     bool m_safeIsEmpty = true;
-    bool m_marking = false;   ///< the current row is being set by setCurrent()
+    bool m_marking = false;   ///< the selection is not being changed by the user
     bool m_rowsGoing = false; ///< rows are being removed
 };

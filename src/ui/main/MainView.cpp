@@ -4,18 +4,23 @@
 #include "GPMAppCore.h"
 #include "ItemActions.h"
 #include "ItemListPane.h"
+#include "ItemMenu.h"
 #include "ItemPage.h"
 #include "ItemPane.h"
 #include "NoticeBanner.h"
 #include "SafeLayout.h"
+#include "SelectionPage.h"
 #include "Sidebar.h"
 #include "drafts/DraftKeeper.h"
 #include "drafts/DraftOffer.h"
 #include "style/Theme.h"
+#include "widgets/SnackBar.h"
 
 #include <QBoxLayout>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStackedWidget>
+#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -23,6 +28,7 @@ namespace {
 const int listWidth = 320;
 const int smallestListWidth = 264;
 const int smallestItemWidth = 490;
+const int undoSeconds = 8;
 
 QStringList unreadablePaths(const GPMSafe &safe)
 {
@@ -38,6 +44,7 @@ QStringList unreadablePaths(const GPMSafe &safe)
 MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent)
     : SecureContent(parent)
     , m_core(core)
+    , m_theme(theme)
 {
     setObjectName(QStringLiteral("mainView"));
     if (!asker)
@@ -47,7 +54,12 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_sidebar = new Sidebar(theme, this);
     m_splitter = new QSplitter(this);
     m_list = new ItemListPane(m_items, theme, m_splitter);
-    m_pane = new ItemPane(core, theme, asker, m_splitter);
+    m_right = new QStackedWidget(m_splitter);
+    m_pane = new ItemPane(core, theme, asker, m_right);
+    m_selection = new SelectionPage(theme, m_right);
+    m_right->addWidget(m_pane);
+    m_right->addWidget(m_selection);
+    m_snack = new SnackBar(theme, this);
     m_keeper = new DraftKeeper(core, *m_pane, this);
     m_offer = new DraftOffer(*m_pane, *m_keeper, theme, asker, this);
     layOut();
@@ -60,7 +72,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
 void MainView::layOut()
 {
     m_list->setMinimumWidth(smallestListWidth);
-    m_pane->setMinimumWidth(smallestItemWidth);
+    m_right->setMinimumWidth(smallestItemWidth);
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setHandleWidth(1);
     m_splitter->setStretchFactor(0, 0);
@@ -86,14 +98,33 @@ void MainView::connectParts()
     connect(m_sidebar, &Sidebar::settingsRequested, this, &MainView::settingsRequested);
     connect(m_sidebar, &Sidebar::helpRequested, this, &MainView::helpRequested);
     connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
+    connect(m_sidebar, &Sidebar::safeChosen, this, &MainView::safeChosen);
+    connect(m_sidebar, &Sidebar::createSafeRequested, this, &MainView::createSafeRequested);
+    connect(m_sidebar, &Sidebar::itemsDropped, this,
+            [this](const ItemCategory &category, const QStringList &ids) {
+                // A question inside the drop would hold the drag up.
+                QTimer::singleShot(0, this, [this, category, ids] { onDropped(category, ids); });
+            });
+    connect(m_sidebar, &Sidebar::restoreAllRequested, m_actions, &ItemActions::restoreAll);
+    connect(m_sidebar, &Sidebar::emptyTrashRequested, m_actions, &ItemActions::emptyTrash);
+    m_sidebar->setKnownSafes([this] { return m_core.knownSafes().entries(); });
     connect(&m_items, &ItemListModel::contentChanged, this, &MainView::onContentChanged);
-    connect(m_list, &ItemListPane::currentChosen, this, &MainView::onCurrentChosen);
+    connect(m_list, &ItemListPane::selectionChosen, this, &MainView::onSelectionChosen);
+    connect(m_list, &ItemListPane::menuRequested, this, &MainView::showMenu);
+    connect(m_list, &ItemListPane::orderChosen, this, &MainView::itemOrderChanged);
     connect(m_list, &ItemListPane::searched, this, &MainView::onSearched);
     connect(m_list, &ItemListPane::activated, m_actions, &ItemActions::runDefault);
     connect(m_list, &ItemListPane::removeRequested, this, &MainView::remove);
     connect(m_list, &ItemListPane::createRequested, this, &MainView::createItem);
     connect(m_list, &ItemListPane::restoreAllRequested, m_actions, &ItemActions::restoreAll);
     connect(m_list, &ItemListPane::emptyTrashRequested, m_actions, &ItemActions::emptyTrash);
+    connect(m_selection, &SelectionPage::favoriteRequested, this,
+            [this](bool favorite) { m_actions->setFavorite(m_list->selectedIds(), favorite); });
+    connect(m_selection, &SelectionPage::removeRequested, this, &MainView::removeSelected);
+    connect(m_selection, &SelectionPage::restoreRequested, this,
+            [this] { m_actions->restore(m_list->selectedIds()); });
+    connect(m_actions, &ItemActions::movedToTrash, this, &MainView::onMovedToTrash);
+    connect(m_snack, &SnackBar::actionChosen, this, &MainView::undo);
 }
 
 void MainView::connectItemPane()
@@ -104,8 +135,9 @@ void MainView::connectItemPane()
         m_list->takeFocus();
     });
     connect(m_offer, &DraftOffer::continued, m_list, &ItemListPane::setCurrent);
-    connect(m_pane, &ItemPane::removeRequested, this, &MainView::remove);
-    connect(m_pane, &ItemPane::restoreRequested, m_actions, &ItemActions::restore);
+    connect(m_pane, &ItemPane::removeRequested, this, &MainView::removeOne);
+    connect(m_pane, &ItemPane::restoreRequested, this,
+            [this](const QString &id) { m_actions->restore({id}); });
     const ItemPage &page = m_pane->page();
     connect(&page, &ItemPage::defaultActionRequested, this, &MainView::logIn);
     connect(&page, &ItemPage::favoriteToggled, this,
@@ -132,7 +164,9 @@ void MainView::addShortcuts()
         {"Ctrl+Return", &MainView::logIn},
         {"Ctrl+Enter", &MainView::logIn},
         {"Ctrl+B", &MainView::copyUserName},
-        {"Ctrl+Shift+C", &MainView::copyPassword},
+        {"Ctrl+Shift+C", &MainView::copySecret},
+        {"Ctrl+C", &MainView::copySecret},
+        {"Ctrl+Z", &MainView::undo},
         {"Ctrl+L", &MainView::lockRequested},
         {"Ctrl+,", &MainView::settingsRequested},
     };
@@ -148,7 +182,8 @@ void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
 {
     m_splitter->show();
     m_items.setSafe(safe);
-    m_sidebar->setSafeName(safe->name());
+    m_sidebar->setSafe(safe->name(), safe->folder());
+    m_list->setIconFolder(SafeFolder(safe->folder()).path(SafeLayout::favicon));
     m_banner->setUnreadableFiles(unreadablePaths(*safe));
     showCategory({});
     onContentChanged();
@@ -170,7 +205,10 @@ void MainView::closeSafe()
     m_pane->showNothing();
     m_items.setSafe(nullptr);
     m_list->clearSearch();
-    m_sidebar->setSafeName({});
+    m_sidebar->setSafe({}, {});
+    m_list->setIconFolder({});
+    m_actions->forget();
+    m_snack->dismiss();
     m_banner->setUnreadableFiles({});
     onContentChanged();
 }
@@ -203,6 +241,16 @@ void MainView::restoreSplitter(const QByteArray &state)
     m_splitter->restoreState(state);
 }
 
+QString MainView::itemOrder() const
+{
+    return m_list->order();
+}
+
+void MainView::setItemOrder(const QString &name)
+{
+    m_list->setOrder(name);
+}
+
 void MainView::showCategory(const ItemCategory &category)
 {
     m_sidebar->setCategory(category);
@@ -216,21 +264,27 @@ void MainView::onCategoryChosen(const ItemCategory &category)
         m_sidebar->setCategory(m_list->category());
         return;
     }
-    const QString id = m_list->currentId();
     showCategory(category);
-    m_list->setCurrent(m_list->contains(id) ? id : m_list->firstId());
+    if (m_list->selectedIds().isEmpty())
+        m_list->setCurrent(m_list->firstId());
     showCurrent();
 }
 
-void MainView::onCurrentChosen(const QString &id)
+void MainView::onSelectionChosen()
 {
-    if (m_pane->isEditing() && id == m_pane->editedId())
-        return;
-    if (!m_pane->mayLeave()) {
-        m_list->setCurrent(m_pane->editedId());
-        return;
+    if (m_pane->isEditing()) {
+        const QStringList ids = m_list->selectedIds();
+        // A click beside the rows is no wish to leave.
+        if (ids.isEmpty() || ids == QStringList{m_pane->editedId()})
+            return;
+        if (!m_pane->mayLeave()) {
+            m_list->setCurrent(m_pane->editedId());
+            return;
+        }
+        // Saving has selected what was saved.
+        if (ids.size() == 1)
+            m_list->setCurrent(ids.first());
     }
-    m_list->setCurrent(id);
     showCurrent();
 }
 
@@ -239,25 +293,28 @@ void MainView::onSearched()
     // What is being edited stays; its row may well be hidden.
     if (m_pane->isEditing())
         return;
-    const QString id = m_pane->shownId();
-    m_list->setCurrent(m_list->contains(id) ? id : m_list->firstId());
+    if (m_list->selectedIds().isEmpty())
+        m_list->setCurrent(m_list->firstId());
     showCurrent();
 }
 
 void MainView::onContentChanged()
 {
-    m_sidebar->setCounts(categoryCounts(m_items));
+    m_sidebar->setCounts(categoryCounts(m_items, m_list->filter().today()));
     m_list->setCount(m_sidebar->count(m_list->category()), m_items.rowCount() == 0);
     if (m_pane->isEditing())
         return;
-    if (!m_list->contains(m_pane->shownId()))
+    if (m_right->currentWidget() == m_selection || m_pane->shownId() != m_list->currentId())
         showCurrent();
 }
 
 void MainView::showCurrent()
 {
-    const PMListItem *item = m_actions->item(m_list->currentId());
-    m_pane->showItem(item);
+    const QVector<PMListItem *> items = m_actions->items(m_list->selectedIds());
+    m_pane->showItem(items.size() == 1 ? items.first() : nullptr);
+    if (items.size() > 1)
+        m_selection->setItems(items);
+    m_right->setCurrentWidget(items.size() > 1 ? static_cast<QWidget *>(m_selection) : m_pane);
 }
 
 void MainView::onSaved(const QString &id)
@@ -271,27 +328,84 @@ void MainView::onSaved(const QString &id)
     m_list->focusList();
 }
 
-void MainView::remove(const QString &id)
+void MainView::removeOne(const QString &id)
 {
-    const bool editing = m_pane->isEditing() && id == m_pane->editedId();
+    remove({id});
+}
+
+void MainView::removeSelected()
+{
+    remove(m_list->selectedIds());
+}
+
+void MainView::remove(const QStringList &ids)
+{
+    const bool editing = m_pane->isEditing() && ids.contains(m_pane->editedId());
     if (m_pane->isEditing() && !editing) {
         // Another item is in the editor: that one is decided about first.
         if (!m_pane->mayLeave())
             return;
-        m_list->setCurrent(id);
+        if (ids.size() == 1)
+            m_list->setCurrent(ids.first());
         showCurrent();
     }
-    if (!m_actions->remove(id))
+    if (!m_actions->remove(ids))
         return;
     if (editing)
         m_pane->drop();
     showCurrent();
 }
 
+void MainView::onMovedToTrash(int count)
+{
+    m_snack->show(count == 1 ? tr("Moved to trash") : tr("%n items moved to trash", nullptr, count),
+                  tr("Undo"), undoSeconds);
+}
+
+void MainView::undo()
+{
+    if (m_pane->isEditing() || !m_actions->undoRemoval())
+        return;
+    m_snack->dismiss();
+}
+
+void MainView::onDropped(const ItemCategory &category, const QStringList &ids)
+{
+    if (category.kind == ItemCategory::Trash)
+        remove(ids);
+    else
+        m_actions->setFavorite(ids, true);
+}
+
+void MainView::showMenu(const QPoint &place)
+{
+    // What is being edited is not to change below the editor.
+    if (m_pane->isEditing())
+        return;
+    auto *menu = new ItemMenu(*m_actions, m_list->selectedIds(), m_theme, this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu, &ItemMenu::editRequested, this, &MainView::editItem);
+    connect(menu, &ItemMenu::duplicateRequested, this, &MainView::duplicate);
+    connect(menu, &ItemMenu::removeRequested, this, &MainView::removeSelected);
+    menu->popup(place);
+}
+
+void MainView::duplicate()
+{
+    const QString id = m_actions->duplicate(m_list->currentId());
+    if (id.isEmpty())
+        return;
+    onSaved(id);
+    showCurrent();
+    editItem();
+}
+
 void MainView::createItem(PMListItem::Type type)
 {
-    if (m_pane->mayLeave())
-        m_pane->startNew(type);
+    if (!m_pane->mayLeave())
+        return;
+    m_right->setCurrentWidget(m_pane);
+    m_pane->startNew(type);
 }
 
 void MainView::createItemHere()
@@ -333,10 +447,10 @@ void MainView::copyUserName()
         m_actions->copyUserName(m_pane->shownId());
 }
 
-void MainView::copyPassword()
+void MainView::copySecret()
 {
     if (!m_pane->isEditing())
-        m_actions->copyPassword(m_pane->shownId());
+        m_actions->copySecret(m_pane->shownId());
 }
 
 void MainView::focusSearch()

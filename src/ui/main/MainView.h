@@ -13,7 +13,10 @@ class ItemActions;
 class ItemListPane;
 class ItemPane;
 class QSplitter;
+class QStackedWidget;
+class SelectionPage;
 class Sidebar;
+class SnackBar;
 class Theme;
 
 /// An open safe: its categories, the items of one of them, and one item.
@@ -36,8 +39,16 @@ public:
     /// Opens the editor of a new item, after a question about what is edited now.
     void createItem(PMListItem::Type type);
 
+    /// The name of the order of the items, and that order by its name.
+    QString itemOrder() const;
+    void setItemOrder(const QString &name);
+
 Q_SIGNALS:
     void lockRequested();
+    /// Another safe is to take the place of this one, or a new one.
+    void safeChosen(const QString &folder);
+    void createSafeRequested();
+    void itemOrderChanged();
     void generatorRequested();
     void settingsRequested();
     void helpRequested();
@@ -50,11 +61,17 @@ private:
     void addShortcuts();
     void showCategory(const ItemCategory &category);
     void onCategoryChosen(const ItemCategory &category);
-    void onCurrentChosen(const QString &id);
+    void onSelectionChosen();
     void onSearched();
     void onContentChanged();
     void onSaved(const QString &id);
-    void remove(const QString &id);
+    void onDropped(const ItemCategory &category, const QStringList &ids);
+    void onMovedToTrash(int count);
+    void remove(const QStringList &ids);
+    void removeOne(const QString &id);
+    void removeSelected();
+    void duplicate();
+    void showMenu(const QPoint &place);
     void showCurrent();
     void createItemHere();
     void editItem();
@@ -62,17 +79,22 @@ private:
     void leaveEditor();
     void logIn();
     void copyUserName();
-    void copyPassword();
+    void copySecret();
+    void undo();
     void focusSearch();
 
     GPMAppCore &m_core;
+    const Theme &m_theme;
     ItemListModel m_items;
     ItemActions *m_actions;
     Banner *m_banner;
     Sidebar *m_sidebar;
     QSplitter *m_splitter;
     ItemListPane *m_list;
+    QStackedWidget *m_right;
     ItemPane *m_pane;
     DraftKeeper *m_keeper;
     DraftOffer *m_offer;
+    SelectionPage *m_selection;
+    SnackBar *m_snack;
 };

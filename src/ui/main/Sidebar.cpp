@@ -1,18 +1,16 @@
 #include "Sidebar.h"
 
-#include "CategoryDelegate.h"
+#include "CategoryListView.h"
 #include "CategoryModel.h"
 #include "ItemKinds.h"
+#include "SafeSwitcher.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
-#include "widgets/ElidedLabel.h"
 
 #include <QBoxLayout>
-#include <QListView>
 #include <QMenu>
 #include <QScopedValueRollback>
-#include <QSvgWidget>
 
 namespace {
 
@@ -23,33 +21,24 @@ const int sidebarWidth = 216;
 Sidebar::Sidebar(const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_model(new CategoryModel(this))
-    , m_list(new QListView(this))
-    , m_name(new ElidedLabel("heading", this))
-    , m_state(makeLabel({}, "muted", this))
+    , m_list(new CategoryListView(*m_model, theme, this))
+    , m_switcher(new SafeSwitcher(theme, this))
 {
     setObjectName(QStringLiteral("sidebar"));
     setAttribute(Qt::WA_StyledBackground);
     setFixedWidth(sidebarWidth);
-
-    auto *crystal = new QSvgWidget(QStringLiteral(":/crystal.svg"), this);
-    crystal->setFixedSize(34, 34);
-    auto *names = new QVBoxLayout;
-    names->setSpacing(1);
-    names->addWidget(m_name);
-    names->addWidget(m_state);
+    connect(m_switcher, &SafeSwitcher::safeChosen, this, &Sidebar::safeChosen);
+    connect(m_switcher, &SafeSwitcher::createRequested, this, &Sidebar::createSafeRequested);
+    connect(m_switcher, &SafeSwitcher::lockRequested, this, &Sidebar::lockRequested);
     auto *head = new QHBoxLayout;
-    head->setContentsMargins(16, 16, 12, 12);
-    head->setSpacing(9);
-    head->addWidget(crystal);
-    head->addLayout(names, 1);
+    head->setContentsMargins(10, 8, 10, 6);
+    head->addWidget(m_switcher);
 
     m_list->setObjectName(QStringLiteral("categoryList"));
     m_list->setAccessibleName(tr("Categories"));
-    m_list->setModel(m_model);
-    m_list->setItemDelegate(new CategoryDelegate(theme, m_list));
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setMouseTracking(true);
+    connect(m_list, &CategoryListView::itemsDropped, this, &Sidebar::itemsDropped);
+    connect(m_list, &CategoryListView::restoreAllRequested, this, &Sidebar::restoreAllRequested);
+    connect(m_list, &CategoryListView::emptyTrashRequested, this, &Sidebar::emptyTrashRequested);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &Sidebar::onCurrentChanged);
 
@@ -59,6 +48,7 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
     all->addLayout(head);
     all->addWidget(m_list, 1);
     all->addLayout(makeFoot(theme));
+    setTabOrder(m_switcher, m_list);
 }
 
 QBoxLayout *Sidebar::makeFoot(const Theme &theme)
@@ -111,15 +101,21 @@ QWidget *Sidebar::makeMenuButton(const Theme &theme)
     return more;
 }
 
-void Sidebar::setSafeName(const QString &name)
+void Sidebar::setSafe(const QString &name, const QString &folder)
 {
-    m_name->setFullText(name);
+    m_switcher->setSafe(name, folder);
+}
+
+void Sidebar::setKnownSafes(const std::function<QVector<KnownSafes::Entry>()> &entries)
+{
+    m_switcher->setEntries(entries);
 }
 
 void Sidebar::setCounts(const QVector<int> &counts)
 {
+    const QScopedValueRollback<bool> marking(m_marking, true);
     m_model->setCounts(counts);
-    m_state->setText(tr("%1 · unlocked").arg(itemCountText(count({}))));
+    m_switcher->setState(tr("%1 · unlocked").arg(itemCountText(count({}))));
 }
 
 int Sidebar::count(const ItemCategory &category) const
@@ -130,6 +126,7 @@ int Sidebar::count(const ItemCategory &category) const
 void Sidebar::setCategory(const ItemCategory &category)
 {
     const QScopedValueRollback<bool> marking(m_marking, true);
+    m_model->setShown(category);
     m_list->setCurrentIndex(m_model->index(m_model->row(category)));
 }
 

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "ItemCategory.h"
+#include "KnownSafes.h"
 
 #include <QWidget>
 
+#include <functional>
+
+class CategoryListView;
 class CategoryModel;
-class ElidedLabel;
 class QBoxLayout;
-class QLabel;
-class QListView;
+class SafeSwitcher;
 class Theme;
 
 /// The name of the safe, the categories of its items, and the ways to what is not about one item.
@@ -19,7 +21,9 @@ class Sidebar : public QWidget
 public:
     Sidebar(const Theme &theme, QWidget *parent);
 
-    void setSafeName(const QString &name);
+    void setSafe(const QString &name, const QString &folder);
+    /// Where the safes to switch to come from.
+    void setKnownSafes(const std::function<QVector<KnownSafes::Entry>()> &entries);
     /// @param counts the number of items in each category of ItemCategory::all()
     void setCounts(const QVector<int> &counts);
     int count(const ItemCategory &category) const;
@@ -30,6 +34,11 @@ public:
 
 Q_SIGNALS:
     void categoryChosen(const ItemCategory &category);
+    void itemsDropped(const ItemCategory &category, const QStringList &ids);
+    void restoreAllRequested();
+    void emptyTrashRequested();
+    void safeChosen(const QString &folder);
+    void createSafeRequested();
     void lockRequested();
     void generatorRequested();
     void healthRequested();
@@ -43,8 +52,7 @@ private:
     void onCurrentChanged(const QModelIndex &index);
 
     CategoryModel *m_model;
-    QListView *m_list;
-    ElidedLabel *m_name;
-    QLabel *m_state;
+    CategoryListView *m_list;
+    SafeSwitcher *m_switcher;
     bool m_marking = false;
 };
