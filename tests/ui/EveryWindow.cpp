@@ -269,6 +269,11 @@ const QVector<WindowCase> &everyWindow()
         {"edit-login", itemCase(editItem, "Cloudmail")},
         {"many-selected", manySelected},
         {"nothing-found", nothingFound},
+        {"edit-card", itemCase(editItem, "Travel card")},
+        {"edit-bank-account", itemCase(editItem, "Household")},
+        {"edit-identity", itemCase(editItem, "Ana at home")},
+        {"edit-driver-licence", itemCase(editItem, "Driving licence")},
+        {"edit-note", itemCase(editItem, "Alarm code")},
         {"question", question}};
     return cases;
 }

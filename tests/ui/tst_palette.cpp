@@ -29,6 +29,7 @@ void TestPalette::textIsReadable_data()
         {Palette::Accent, {Palette::Window, Palette::Soft}},
         {Palette::OnAccent, {Palette::Accent, Palette::AccentHover}},
         {Palette::Terrible, {Palette::Window}},
+        {Palette::White, {Palette::CardStart, Palette::CardEnd}},
     };
     for (const Palette *palette : {&Palette::light(), &Palette::dark()}) {
         const char *set = palette->isDark() ? "dark" : "light";

@@ -6,6 +6,7 @@
 #include "SecretInput.h"
 #include "TextInput.h"
 #include "widgets/Controls.h"
+#include "widgets/MessageLabel.h"
 
 #include <QGridLayout>
 
@@ -21,7 +22,7 @@ FieldInput::FieldInput(const ItemField &field, QWidget *parent)
     : QWidget(parent)
     , m_field(field)
     , m_grid(new QGridLayout(this))
-    , m_message(makeLabel({}, "error", this))
+    , m_message(new MessageLabel(this))
 {
     m_grid->setContentsMargins({});
     m_grid->setHorizontalSpacing(0);
@@ -30,7 +31,6 @@ FieldInput::FieldInput(const ItemField &field, QWidget *parent)
     m_grid->setRowStretch(3, 1);
     m_message->setObjectName(QLatin1String(field.property) + QStringLiteral("Message"));
     m_message->setMinimumHeight(messageHeight);
-    m_message->setWordWrap(true);
     m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_grid->addWidget(m_message, 2, 0, 1, 2);
 }
@@ -58,7 +58,7 @@ void FieldInput::placeBelow(QWidget *widget)
 
 void FieldInput::setFault(const QString &message)
 {
-    m_message->setText(message);
+    m_message->setMessage(message);
     // For those who cannot see the line below.
     control()->setAccessibleDescription(message);
     showFault(!message.isEmpty());

@@ -7,8 +7,8 @@
 #include <QWidget>
 
 class GPMAppSettings;
+class MessageLabel;
 class QGridLayout;
-class QLabel;
 class Theme;
 
 /// What the inputs of an editor share.
@@ -58,7 +58,7 @@ protected:
 private:
     ItemField m_field;
     QGridLayout *m_grid;
-    QLabel *m_message;
+    MessageLabel *m_message;
 };
 
 /// The input for the form of a field.

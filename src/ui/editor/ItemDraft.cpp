@@ -53,6 +53,10 @@ ItemDraft::ItemDraft(const PMListItem &item, const QVector<ItemField> &fields, b
         if (field.form == ItemField::CardType)
             continue; // follows from the number
         const QVariant value = item.property(field.property);
+        if (!value.isValid()) {
+            qWarning() << "! Ui: Field reset failed:" << field.property << item.id();
+            continue;
+        }
         // Editors choose enumerations by number.
         const bool isChoice = field.form == ItemField::FillType || field.form == ItemField::Gender;
         m_original.insert(field.property, isChoice ? QVariant(value.toInt()) : value);

@@ -10,6 +10,7 @@
 
 #include <QBoxLayout>
 #include <QDebug>
+#include <QLineEdit>
 #include <QPointer>
 #include <QScrollArea>
 
@@ -202,8 +203,20 @@ void SafeItemEditor::showFault(FieldInput &input)
 
 void SafeItemEditor::takeFocus()
 {
-    if (!m_inputs.isEmpty())
-        m_inputs.first()->control()->setFocus();
+    if (m_inputs.isEmpty())
+        return;
+    QWidget *title = m_inputs.first()->control();
+    title->setFocus();
+    static_cast<QLineEdit *>(title)->end(false);
+}
+
+void SafeItemEditor::requestGenerator()
+{
+    FieldInput *password = input("password");
+    if (!password)
+        return;
+    password->control()->setFocus();
+    Q_EMIT password->generatorRequested();
 }
 
 void SafeItemEditor::showFaults()

@@ -39,6 +39,7 @@ struct ItemField
         Folded = 4,  ///< the editor shows it once it is wanted or filled
         NoCopy = 8,  ///< nobody pastes it anywhere
         OnFace = 16, ///< shown on the picture of the card, not in a row
+        Expiry = 32, ///< behind this date the item is no longer valid
     };
 
     const char *property; ///< name of the item's property

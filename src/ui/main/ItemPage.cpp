@@ -1,7 +1,11 @@
 #include "ItemPage.h"
 
+#include "CardFace.h"
+#include "ExpiryText.h"
 #include "FieldRow.h"
+#include "ItemExpiry.h"
 #include "ItemKinds.h"
+#include "PMCreditCard.h"
 #include "PMLogin.h"
 #include "RelativeDate.h"
 #include "style/Style.h"
@@ -20,6 +24,16 @@ namespace {
 
 const int pageMargin = 28;
 const int tileSize = 52;
+
+/// Where an item belongs: its web site, or its bank.
+QString placeOf(const PMListItem &item)
+{
+    const QString host = QUrl(item.url()).host();
+    if (!host.isEmpty())
+        return host;
+    const char *bank = item.type() == PMListItem::BankAccount ? "bankName" : "bank";
+    return item.property(bank).toString();
+}
 
 } // namespace
 
@@ -49,6 +63,14 @@ void ItemPage::makeHeader()
                             "framed", this);
     m_star->setObjectName(QStringLiteral("favoriteButton"));
     connect(m_star, &QToolButton::clicked, this, &ItemPage::favoriteToggled);
+    m_edit = makeButton({}, "plain", this);
+    m_edit->setObjectName(QStringLiteral("editButton"));
+    m_edit->setIcon(m_theme.icon(QStringLiteral("edit"), Palette::Text));
+    m_edit->setIconSize(QSize(Style::iconSize, Style::iconSize));
+    m_edit->setProperty("iconOnly", true);
+    m_edit->setAccessibleName(tr("Edit"));
+    m_edit->setToolTip(tr("Edit (F2)"));
+    connect(m_edit, &QPushButton::clicked, this, &ItemPage::editRequested);
     m_logIn = makeButton(tr("Log in"), "primary", this);
     m_logIn->setObjectName(QStringLiteral("logInButton"));
     m_logIn->setIcon(m_theme.icon(QStringLiteral("login-2"), Palette::OnAccent));
@@ -73,6 +95,7 @@ void ItemPage::layOut()
     header->addLayout(names, 1);
     header->setAlignment(names, Qt::AlignVCenter);
     header->addWidget(m_star);
+    header->addWidget(m_edit);
     header->addWidget(m_logIn);
 
     auto *info = new QHBoxLayout;
@@ -124,11 +147,12 @@ void ItemPage::showHeader()
     const PMListItem::Type type = m_item ? m_item->type() : PMListItem::UndefinedItem;
     m_tile->setItem(m_item ? m_item->title() : QString(), type);
     m_title->setFullText(m_item ? m_item->title() : QString());
-    const QString host = m_item ? QUrl(m_item->url()).host() : QString();
+    const QString place = m_item ? placeOf(*m_item) : QString();
     const QString kind = m_item ? itemKindName(type) : QString();
-    m_subtitle->setFullText(host.isEmpty() ? kind : tr("%1 · %2").arg(kind, host));
-    const bool usable = m_item && !m_item->deleted();
+    m_subtitle->setFullText(place.isEmpty() ? kind : tr("%1 · %2").arg(kind, place));
+    const bool usable = isUsable();
     m_star->setVisible(usable);
+    m_edit->setVisible(usable);
     m_logIn->setVisible(usable && type == PMListItem::Login);
     const bool favorite = m_item && m_item->favorite();
     m_star->setIcon(favorite ? m_theme.icon(QStringLiteral("star-filled"), Palette::Star)
@@ -149,17 +173,17 @@ void ItemPage::showFields()
     m_cards = new QVBoxLayout(m_fields);
     m_cards->setContentsMargins({});
     m_cards->setSpacing(Style::margin);
+    if (const auto *payment = qobject_cast<const PMCreditCard *>(m_item.data())) {
+        auto *face = new CardFace(*payment, m_theme, m_fields);
+        connect(face, &CardFace::copyRequested, this, &ItemPage::copyRequested);
+        m_cards->addWidget(face);
+    }
     QFrame *card = nullptr;
     for (const ItemField &field : itemFields(m_item->type())) {
         const QString value = itemFieldText(*m_item, field, m_settings);
-        if (value.isEmpty())
+        if (value.isEmpty() || field.has(ItemField::OnFace))
             continue;
-        auto *row = new FieldRow(field, value, m_theme, m_fields);
-        connect(row, &FieldRow::copyRequested, this, &ItemPage::copyRequested);
-        connect(row, &FieldRow::openRequested, this, &ItemPage::openRequested);
-        const auto *login = qobject_cast<const PMLogin *>(m_item.data());
-        if (login && field.form == ItemField::Password)
-            row->setStrength(static_cast<int>(login->strength()));
+        FieldRow *row = makeRow(field, value);
         // Longer texts stand apart.
         if (!card || field.isText())
             card = addCard();
@@ -168,11 +192,57 @@ void ItemPage::showFields()
     m_column->insertWidget(1, m_fields);
     // New widgets come last for Tab; these belong behind the header.
     QWidget *before = m_logIn;
-    const QList<QToolButton *> buttons = m_fields->findChildren<QToolButton *>();
-    for (QToolButton *button : buttons) {
+    QList<QToolButton *> buttons = m_fields->findChildren<QToolButton *>();
+    for (QToolButton *button : qAsConst(buttons)) {
         setTabOrder(before, button);
         before = button;
     }
+}
+
+FieldRow *ItemPage::makeRow(const ItemField &field, const QString &value)
+{
+    auto *row = new FieldRow(field, value, itemFieldCopyText(*m_item, field, m_settings), m_theme,
+                             m_fields);
+    connect(row, &FieldRow::copyRequested, this, &ItemPage::copyRequested);
+    connect(row, &FieldRow::openRequested, this, &ItemPage::openRequested);
+    const auto *login = qobject_cast<const PMLogin *>(m_item.data());
+    if (login && field.form == ItemField::Password)
+        row->setStrength(static_cast<int>(login->strength()));
+    if (isUsable() && field.form == ItemField::Password) {
+        row->addGenerator();
+        connect(row, &FieldRow::generatorRequested, this, &ItemPage::generatorRequested);
+    }
+    if (isUsable() && field.form == ItemField::FillType)
+        addFillTypes(*row);
+    if (field.has(ItemField::Expiry))
+        addExpiry(*row);
+    return row;
+}
+
+void ItemPage::addExpiry(FieldRow &row)
+{
+    const QDate today = m_clock().toLocalTime().date();
+    const std::optional<QDate> last = itemExpiry(*m_item);
+    QString text = last ? expiryText(*last, today) : QString();
+    if (text.isEmpty())
+        return;
+    // It goes on behind the date.
+    text.replace(0, 1, text.at(0).toLower());
+    row.setBadge(text, isExpired(*last, today) ? Palette::Terrible : Palette::Weak);
+}
+
+void ItemPage::addFillTypes(FieldRow &row)
+{
+    using Type = PMFieldTypes::LoginFillType;
+    static const QVector<Type> types = {Type::GlobalSettings, Type::FillAndSubmit, Type::OnlyFill};
+    QStringList texts;
+    for (const Type type : types)
+        texts.append(fillTypeText(static_cast<int>(type), m_settings));
+    row.addChoices(texts);
+    // Behind the menu's own end, as the row goes with the change.
+    connect(
+        &row, &FieldRow::chosen, this,
+        [this](int index) { Q_EMIT fillTypeChosen(types.at(index)); }, Qt::QueuedConnection);
 }
 
 QFrame *ItemPage::addCard()

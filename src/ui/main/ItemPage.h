@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Clock.h"
+#include "PMFieldTypes.h"
 #include "PMListItem.h"
 
 #include <QPointer>
@@ -10,6 +11,7 @@
 class ElidedLabel;
 class FieldRow;
 class GPMAppSettings;
+struct ItemField;
 class QFrame;
 class QLabel;
 class QPushButton;
@@ -37,6 +39,10 @@ Q_SIGNALS:
     void favoriteToggled();
     void copyRequested(const QString &value);
     void openRequested(const QString &address);
+    void editRequested();
+    /// A made password is wanted for the item.
+    void generatorRequested();
+    void fillTypeChosen(PMFieldTypes::LoginFillType type);
 
 private:
     void makeHeader();
@@ -45,7 +51,11 @@ private:
     void showFields();
     void showInfo();
     void refresh();
+    FieldRow *makeRow(const ItemField &field, const QString &value);
+    void addExpiry(FieldRow &row);
+    void addFillTypes(FieldRow &row);
     void addToCard(FieldRow *row, QFrame *card);
+    bool isUsable() const { return m_item && !m_item->deleted(); }
     QFrame *addCard();
 
     const GPMAppSettings &m_settings;
@@ -58,6 +68,7 @@ private:
     ElidedLabel *m_title;
     ElidedLabel *m_subtitle;
     QToolButton *m_star;
+    QPushButton *m_edit;
     QPushButton *m_logIn;
     QWidget *m_fields = nullptr;
     QVBoxLayout *m_cards = nullptr;

@@ -4,6 +4,7 @@
 #include "EmptyState.h"
 #include "GPMAppCore.h"
 #include "ItemPage.h"
+#include "PMLogin.h"
 #include "drafts/DraftDocument.h"
 #include "editor/SafeItemEditor.h"
 #include "style/Style.h"
@@ -51,6 +52,9 @@ ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     connect(m_editor, &SafeItemEditor::copyRequested, m_page, &ItemPage::copyRequested);
     connect(m_editor, &SafeItemEditor::openRequested, m_page, &ItemPage::openRequested);
     connect(m_editor, &SafeItemEditor::generatorRequested, this, &ItemPane::generatorRequested);
+    connect(m_page, &ItemPage::editRequested, this, &ItemPane::startEdit);
+    connect(m_page, &ItemPage::generatorRequested, this, &ItemPane::editPassword);
+    connect(m_page, &ItemPage::fillTypeChosen, this, &ItemPane::setFillType);
     showNothing();
 }
 
@@ -72,9 +76,6 @@ void ItemPane::makeFooter()
     m_remove->setIcon(m_theme.icon(QStringLiteral("trash"), Palette::Text));
     m_restore = footerButton(tr("Restore"), "plain", "restoreButton", &ItemPane::requestRestore);
     m_restore->setIcon(m_theme.icon(QStringLiteral("arrow-back-up"), Palette::Text));
-    m_edit = footerButton(tr("Edit"), "plain", "editButton", &ItemPane::startEdit);
-    m_edit->setIcon(m_theme.icon(QStringLiteral("pencil"), Palette::Text));
-    m_edit->setToolTip(tr("Edit (F2)"));
     m_discard = footerButton(tr("Discard changes"), "plain", "discardButton", &ItemPane::discard);
     m_save = footerButton(tr("Save"), "primary", "saveButton", &ItemPane::saveByUser);
     m_save->setToolTip(tr("Save (Ctrl+S)"));
@@ -84,7 +85,7 @@ void ItemPane::makeFooter()
     row->setSpacing(Style::spacing);
     row->addWidget(m_notice, 1);
     row->addStretch();
-    for (QPushButton *button : {m_restore, m_remove, m_edit, m_discard, m_save})
+    for (QPushButton *button : {m_restore, m_remove, m_discard, m_save})
         row->addWidget(button);
 }
 
@@ -136,6 +137,22 @@ void ItemPane::startEdit()
     m_stack->setCurrentWidget(m_editor);
     m_editor->takeFocus();
     showButtons();
+}
+
+void ItemPane::editPassword()
+{
+    startEdit();
+    m_editor->requestGenerator();
+}
+
+void ItemPane::setFillType(PMFieldTypes::LoginFillType type)
+{
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    auto *login = safe ? qobject_cast<PMLogin *>(safe->item(shownId())) : nullptr;
+    if (!login || isEditing())
+        return;
+    login->setFillType(type);
+    m_core.modelItemChanged(login->id());
 }
 
 std::optional<KeptDraft> ItemPane::draft() const
@@ -298,7 +315,6 @@ void ItemPane::showButtons()
     m_remove->setText(editing ? QString() : remove);
     setStyleProperty(*m_remove, "narrow", editing);
     m_restore->setVisible(trashed);
-    m_edit->setVisible(!editing && canEdit());
     m_discard->setVisible(editing);
     m_save->setVisible(editing);
     m_footer->setVisible(editing || item);

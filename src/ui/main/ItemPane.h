@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DraftStore.h"
+#include "PMFieldTypes.h"
 #include "PMListItem.h"
 #include "dialogs/Question.h"
 #include "editor/SafeItemEditor.h"
@@ -78,6 +79,8 @@ private:
     void requestRemove();
     void requestRestore();
     void saveByUser();
+    void editPassword();
+    void setFillType(PMFieldTypes::LoginFillType type);
     QString currentId() const;
 
     GPMAppCore &m_core;
@@ -91,7 +94,6 @@ private:
     QWidget *m_footer;
     QPushButton *m_remove;
     QPushButton *m_restore;
-    QPushButton *m_edit;
     QPushButton *m_discard;
     QPushButton *m_save;
     std::unique_ptr<PMListItem> m_newItem;

@@ -23,6 +23,8 @@ const std::array<Palette::Row, Palette::RoleCount> Palette::rows = {{
     {Terrible, "terrible", "#c8374a", "#f0697a"},
     {Star, "star", "#d48a00", "#e7a23c"},
     {White, "white", "#ffffff", "#ffffff"},
+    {CardStart, "cardStart", "#17405a", "#17405a"},
+    {CardEnd, "cardEnd", "#0b7c9c", "#0b7c9c"},
 }};
 
 Palette::Palette(bool dark)

@@ -29,6 +29,8 @@ public:
         Terrible,
         Star,
         White,
+        CardStart,
+        CardEnd,
         RoleCount
     };
 
