@@ -1,5 +1,7 @@
 #include "OwnerOnlyFile.h"
 
+#include "FileSync.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -37,4 +39,18 @@ bool makeOwnerOnlyFolder(const QString &path)
     QFile::setPermissions(folder.absolutePath(),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return true;
+}
+
+bool writeNewOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return produce(file) && file.flush() && file.error() == QFile::NoError;
+}
+
+bool forceToDisk(const QString &path)
+{
+    return forceFileToDisk(path.toStdString());
 }

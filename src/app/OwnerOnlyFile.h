@@ -17,3 +17,11 @@ bool writeOwnerOnlyFile(const QString &path, const QByteArray &content);
 
 /// Makes a folder with its missing parents; those it makes are open to the owner alone.
 bool makeOwnerOnlyFolder(const QString &path);
+
+/// Writes a file that is not there yet, for the owner alone, in place and without waiting for the
+/// disk: for files that nothing refers to before forceToDisk(). False when it is there or when
+/// anything fails; what was written is then left for the caller to remove.
+bool writeNewOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice &)> &produce);
+
+/// Waits until a file's content is on the disk itself. False when the disk reports an error.
+bool forceToDisk(const QString &path);

@@ -2,6 +2,7 @@
 
 #include "OwnerOnlyFile.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <filesystem>
@@ -38,4 +39,32 @@ bool FileLayer::replace(const QString &from, const QString &to)
     std::error_code error;
     std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
     return !error;
+}
+
+std::unique_ptr<QIODevice> FileLayer::open(const QString &path)
+{
+    auto file = std::make_unique<QFile>(path);
+    if (!file->open(QIODevice::ReadOnly))
+        return nullptr;
+    return file;
+}
+
+bool FileLayer::writeNew(const QString &path, const Produce &produce)
+{
+    return writeNewOwnerOnlyFile(path, produce);
+}
+
+bool FileLayer::force(const QString &path)
+{
+    return forceToDisk(path);
+}
+
+bool FileLayer::makeFolder(const QString &path)
+{
+    return makeOwnerOnlyFolder(path);
+}
+
+bool FileLayer::removeFolder(const QString &path)
+{
+    return QDir(path).removeRecursively();
 }

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 /// The file operations of a safe. The base class makes them on the real file system; tests override
@@ -32,6 +33,22 @@ public:
     /// True when the file is gone afterwards.
     virtual bool remove(const QString &path);
 
-    /// Moves a file over another one in one step.
+    /// Moves a file over another one in one step, or a folder to a free name.
     virtual bool replace(const QString &from, const QString &to);
+
+    /// Opens a file for reading; null when that fails.
+    virtual std::unique_ptr<QIODevice> open(const QString &path);
+
+    /// Writes a file that is not there yet and that nothing refers to before force(); see
+    /// writeNewOwnerOnlyFile().
+    virtual bool writeNew(const QString &path, const Produce &produce);
+
+    /// Waits until what writeNew() wrote is on the disk itself.
+    virtual bool force(const QString &path);
+
+    /// Makes a folder for the owner alone, with its missing parents.
+    virtual bool makeFolder(const QString &path);
+
+    /// Removes a folder with everything in it. True when it is gone afterwards.
+    virtual bool removeFolder(const QString &path);
 };
