@@ -4,6 +4,7 @@
 #include "NewSafe.h"
 #include "SafeCrypto.h"
 #include "SafeDescriptionFile.h"
+#include "SafeExport.h"
 #include "SafeLayout.h"
 
 #include <QDebug>
@@ -15,6 +16,8 @@
 #include <QUuid>
 #include <QtConcurrent>
 
+#include <chrono>
+#include <future>
 #include <utility>
 
 GPMSafe::GPMSafe(SafeEnvironment environment, QObject *parent)
@@ -325,6 +328,24 @@ bool GPMSafe::changePassword(const QString &newPassword,
     change.removeOldFiles();
     m_password = password;
     return true;
+}
+
+std::unique_ptr<ArchiveTask> GPMSafe::exportArchive(const QString &archivePath)
+{
+    if (!isOpen())
+        return nullptr;
+    const auto saved = std::make_shared<std::promise<void>>();
+    QtConcurrent::run(&m_writer, [saved] { saved->set_value(); });
+    const std::shared_future<void> allSaved = saved->get_future().share();
+    const SafeEnvironment environment = m_environment;
+    const SafeFolder safeFolder = m_folder;
+    return std::make_unique<ArchiveTask>([=](WorkControl &control) {
+        while (allSaved.wait_for(std::chrono::milliseconds(100)) != std::future_status::ready) {
+            if (control.isCancelled())
+                return ArchiveResult{ArchiveResult::Outcome::Cancelled};
+        }
+        return exportSafe(environment, safeFolder, archivePath, control);
+    });
 }
 
 bool GPMSafe::isPassword(const QString &password) const

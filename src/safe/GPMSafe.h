@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ArchiveTask.h"
 #include "AttachmentIntake.h"
 #include "DraftStore.h"
 #include "ItemStore.h"
@@ -66,6 +67,10 @@ public:
     /// before and no new one is left.
     bool changePassword(const QString &newPassword,
                         const std::function<void(int done, int total)> &progress = {});
+
+    /// A task, to be started, that writes the safe with all that was saved before this call into
+    /// one archive. Locked or not, needs no password. Null while no safe is open.
+    std::unique_ptr<ArchiveTask> exportArchive(const QString &archivePath);
 
     /// Whether this is the password of the unlocked safe.
     bool isPassword(const QString &password) const;

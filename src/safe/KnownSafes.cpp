@@ -2,6 +2,7 @@
 
 #include "OwnerOnlyFile.h"
 #include "SafeDescriptionFile.h"
+#include "SafeImport.h"
 
 #include <QDebug>
 #include <QDir>
@@ -42,7 +43,8 @@ QStringList KnownSafes::unlistedFolders() const
     const QStringList names = standardPlace.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &name : names) {
         const QString folder = m_safesFolder + QLatin1Char('/') + name;
-        if (!known.contains(folder) && SafeFolder(folder).holdsSafe())
+        if (!SafeImport::isUnfinished(name) && !known.contains(folder) &&
+            SafeFolder(folder).holdsSafe())
             folders.append(folder);
     }
     return folders;
@@ -65,6 +67,20 @@ std::shared_ptr<GPMSafe> KnownSafes::create(const QString &name, const QString &
     }
     remember(folder);
     return safe;
+}
+
+std::unique_ptr<ArchiveTask> KnownSafes::importArchive(const QString &archivePath)
+{
+    const SafeEnvironment environment = m_environment;
+    const QString safesFolder = m_safesFolder;
+    auto task = std::make_unique<ArchiveTask>([=](WorkControl &control) {
+        return SafeImport(environment, safesFolder).run(archivePath, control);
+    });
+    connect(task.get(), &ArchiveTask::finished, this, [this, started = task.get()] {
+        if (started->result().good())
+            remember(started->result().path);
+    });
+    return task;
 }
 
 std::shared_ptr<GPMSafe> KnownSafes::open(const QString &folder) const

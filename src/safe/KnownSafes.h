@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ArchiveTask.h"
 #include "GPMAppSettings.h"
 #include "GPMSafe.h"
 
@@ -35,6 +36,10 @@ public:
     /// left on disk, when it cannot be made.
     std::shared_ptr<GPMSafe> create(const QString &name, const QString &password,
                                     const QString &hint);
+
+    /// A task, to be started, that makes a new safe in the standard place from an archive; see
+    /// SafeImport. The safe is put at the front of the list when it is there.
+    std::unique_ptr<ArchiveTask> importArchive(const QString &archivePath);
 
     /// The safe of a folder with its description read; null when there is none.
     std::shared_ptr<GPMSafe> open(const QString &folder) const;

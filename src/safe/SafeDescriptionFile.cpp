@@ -8,6 +8,12 @@
 
 static const char operation[] = "GPMSafe::readMetaFile";
 
+std::optional<SafeDescription> parseDescription(const QByteArray &json)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(json);
+    return document.isObject() ? SafeDescription::fromJson(document.object()) : std::nullopt;
+}
+
 static std::optional<SafeDescription> readFile(FileLayer &files, const QString &path)
 {
     qDebug() << operation << "Open safe meta file:" << path;

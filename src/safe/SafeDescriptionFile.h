@@ -5,6 +5,9 @@
 
 #include <QString>
 
+/// The description in the content of its file; nothing when it holds none.
+std::optional<SafeDescription> parseDescription(const QByteArray &json);
+
 /// Reads the description of the safe in a folder, from the file of the older name where there is
 /// one. Each file that fails is logged; nothing when none can be read.
 std::optional<SafeDescription> readDescription(FileLayer &files, const QString &folder);

@@ -77,7 +77,7 @@ public:
         return false;
     }
 
-private:
+protected:
     bool fails()
     {
         const int number = ++operations;

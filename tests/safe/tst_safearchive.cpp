@@ -1,0 +1,639 @@
+#include "ArchiveEntries.h"
+#include "ArchiveMessages.h"
+#include "ArchiveTesting.h"
+#include "KnownSafes.h"
+#include "SafeExport.h"
+#include "SafeImport.h"
+
+#include <QLockFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+using Outcome = ArchiveResult::Outcome;
+
+const int itemCount = 22;
+const char oldArchive[] = "what was there before";
+
+SafeEnvironment environmentOf(const std::shared_ptr<FileLayer> &files)
+{
+    SafeEnvironment environment;
+    environment.files = files;
+    environment.lockWaitMs = 0;
+    environment.clock = [] { return QDateTime(QDate(2026, 3, 4), QTime(12, 0), Qt::UTC); };
+    return environment;
+}
+
+ArchiveResult exportTo(const QString &folder, const QString &target,
+                       const std::shared_ptr<FileLayer> &files = std::make_shared<FileLayer>(),
+                       WorkControl::Report report = {})
+{
+    WorkControl control(std::move(report));
+    return exportSafe(environmentOf(files), SafeFolder(folder), target, control);
+}
+
+ArchiveResult importFrom(const QString &archive, const QString &safes,
+                         const std::shared_ptr<FileLayer> &files = std::make_shared<FileLayer>(),
+                         WorkControl::Report report = {})
+{
+    WorkControl control(std::move(report));
+    const SafeEnvironment environment = environmentOf(files);
+    return SafeImport(environment, safes).run(archive, control);
+}
+
+QStringList foldersIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::Dirs | QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+bool isOwnersAlone(const QString &path)
+{
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                      QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    return !(QFileInfo(path).permissions() & others);
+}
+
+/// Runs `change` at the first opening of a file whose name holds the text.
+class OpeningFiles : public FileLayer
+{
+public:
+    QString name;
+    std::function<std::unique_ptr<QIODevice>()> change;
+
+    std::unique_ptr<QIODevice> open(const QString &path) override
+    {
+        if (!path.contains(name))
+            return FileLayer::open(path);
+        return change();
+    }
+};
+
+/// Gives some bytes and then an error, as a drive does that is pulled out.
+class BrokenDevice : public QIODevice
+{
+public:
+    BrokenDevice() { open(ReadOnly | Unbuffered); }
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char *bytes, qint64 size) override
+    {
+        if (m_left == 0)
+            return -1;
+        const qint64 count = std::min(size, m_left);
+        memset(bytes, 'x', static_cast<size_t>(count));
+        m_left -= count;
+        return count;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    qint64 m_left = 200000;
+};
+
+} // namespace
+
+class TestSafeArchive : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_temporary;
+    QString m_safe;
+    QString m_safes; ///< where imported ones go
+    QString m_archive;
+
+    /// For tests that go over every operation.
+    void keepFewFiles()
+    {
+        const QDir content(m_safe + QStringLiteral("/content"));
+        for (const QString &name : content.entryList(QDir::Files)) {
+            if (name > QLatin1String("00000000-0000-0003"))
+                QVERIFY(QFile::remove(content.filePath(name)));
+        }
+        QVERIFY(QFile::remove(m_safe +
+                              QStringLiteral("/attachment/00000000-0000-0016-0000-000000001234")));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_temporary = std::make_unique<QTemporaryDir>();
+        m_safe = m_temporary->filePath(QStringLiteral("My safe"));
+        m_safes = m_temporary->filePath(QStringLiteral("data/safes"));
+        m_archive = m_temporary->filePath(QStringLiteral("out/archive.gpm"));
+        QDir().mkpath(m_temporary->filePath(QStringLiteral("out")));
+        copySampleSafe(m_safe);
+        QDir().mkpath(m_safe + QStringLiteral("/favicon"));
+        writeFile(m_safe + QStringLiteral("/favicon/é.example.org"), QByteArray(1000, 'i'));
+    }
+
+    void everyToolOpensAnExport()
+    {
+        // No part of a safe: what an interrupted write left, state of this computer, a strange
+        // name.
+        const QString id = QStringLiteral("00000000-0000-0001-0000-000000001234");
+        for (const QString &foreign :
+             {QStringLiteral("content/%1.AbCdEf").arg(id), QStringLiteral("safe.sync"),
+              QStringLiteral("safe.passid.bak"), QStringLiteral("content/a:b")})
+            writeFile(m_safe + QLatin1Char('/') + foreign, "x");
+        QFile item(m_safe + QStringLiteral("/content/") + id);
+        QVERIFY(item.open(QIODevice::ReadWrite));
+        const QDateTime time(QDate(2019, 5, 6), QTime(7, 8, 10));
+        QVERIFY(item.setFileTime(time, QFileDevice::FileModificationTime));
+        item.close();
+        QFile old(m_safe + QStringLiteral("/safe.restore"));
+        QVERIFY(old.open(QIODevice::ReadWrite));
+        old.setFileTime(QDateTime(QDate(1975, 1, 1), QTime(0, 0)),
+                        QFileDevice::FileModificationTime);
+        old.close();
+
+        const ArchiveResult result = exportTo(m_safe, m_archive);
+        QCOMPARE(result.outcome, Outcome::Done);
+        QCOMPARE(result.size, QFileInfo(m_archive).size());
+        QVERIFY(result.leftOut.isEmpty());
+        QVERIFY(isOwnersAlone(m_archive));
+        QCOMPARE(foldersIn(QFileInfo(m_archive).path()),
+                 QStringList{QStringLiteral("archive.gpm")});
+
+        QStringList names = {QStringLiteral("safe.meta"), QStringLiteral("safe.restore"),
+                             QStringLiteral("safe.passid")};
+        for (const char *folder : {"content", "attachment", "favicon"}) {
+            const QDir inner(m_safe + QLatin1Char('/') + QLatin1String(folder));
+            for (const QString &name : inner.entryList(QDir::Files, QDir::Name)) {
+                if (!name.endsWith(QLatin1String(".AbCdEf")) && name != QLatin1String("a:b"))
+                    names.append(QLatin1String(folder) + QLatin1Char('/') + name);
+            }
+        }
+        QCOMPARE(names.size(), 3 + itemCount + 2 + 1);
+        const auto tool = [this](const char *program, const QStringList &arguments) {
+            return runProgram(QLatin1String(program), arguments + QStringList{m_archive});
+        };
+        QCOMPARE(tool("zipinfo", {QStringLiteral("-1")}).output.split(QLatin1Char('\n')),
+                 names + QStringList{QString()});
+        const QString list = tool("zipinfo", {QStringLiteral("-T")}).output;
+        QVERIFY(list.contains(QStringLiteral("20190506.070810 content/") + id));
+        QVERIFY(list.contains(QStringLiteral("19800101.000000 safe.restore")));
+        QCOMPARE(list.count(QLatin1String("-rw-------")), names.size());
+        QCOMPARE(list.count(QLatin1String(" defN ")), names.size());
+        QCOMPARE(tool("unzip", {QStringLiteral("-t")}).exitCode, 0);
+        QCOMPARE(tool("7z", {QStringLiteral("t")}).exitCode, 0);
+        QCOMPARE(
+            tool("python3", {QStringLiteral("-m"), QStringLiteral("zipfile"), QStringLiteral("-t")})
+                .exitCode,
+            0);
+
+        const QString unpacked = m_temporary->filePath(QStringLiteral("unpacked"));
+        QCOMPARE(runProgram(QStringLiteral("unzip"), {m_archive, QStringLiteral("-d"), unpacked})
+                     .exitCode,
+                 0);
+        const QMap<QString, QByteArray> before = snapshot(m_safe);
+        const QMap<QString, QByteArray> after = snapshot(unpacked);
+        QCOMPARE(after.size(), names.size());
+        for (const QString &name : qAsConst(names))
+            QCOMPARE(after.value(name), before.value(name));
+    }
+
+    void anEmptySafeHasItsThreeFiles()
+    {
+        const QString folder = m_temporary->filePath(QStringLiteral("empty"));
+        QDir().mkpath(folder);
+        GPMSafe safe;
+        QVERIFY(safe.init(folder, samplePassword, QStringLiteral("Empty"), QString()));
+        QCOMPARE(exportTo(folder, m_archive).outcome, Outcome::Done);
+        QCOMPARE(runProgram(QStringLiteral("zipinfo"), {QStringLiteral("-1"), m_archive}).output,
+                 QStringLiteral("safe.meta\nsafe.restore\nsafe.passid\n"));
+        QCOMPARE(importFrom(m_archive, m_safes).outcome, Outcome::Done);
+    }
+
+    void archivesOfOtherToolsImport_data()
+    {
+        QTest::addColumn<QStringList>("command"); // in the safe's folder; else one of the kinds
+        const auto words = [](const char *text) {
+            return QString::fromLatin1(text).split(QLatin1Char(' '));
+        };
+        QTest::newRow("ours") << QStringList{};
+        QTest::newRow("zip") << words("zip -r ARCHIVE .");
+        QTest::newRow("zip stored") << words("zip -0 -r ARCHIVE .");
+        QTest::newRow("zip any order") << words("zip -r ARCHIVE favicon attachment content "
+                                                "safe.restore safe.passid safe.meta");
+        QTest::newRow("zip with Zip64") << words("zip -fz -r ARCHIVE .");
+        QTest::newRow("7-Zip") << words("7z a -tzip ARCHIVE .");
+        QTest::newRow("7-Zip stored") << words("7z a -tzip -mx=0 ARCHIVE .");
+        for (const char *kind :
+             {"reversed", "unknown entries", "streamed", "zip64", "second description only"})
+            QTest::newRow(kind) << QStringList{QLatin1String(kind)};
+    }
+    void archivesOfOtherToolsImport()
+    {
+        QFETCH(QStringList, command);
+        // As the tools want it, who would else append an extension.
+        const QString archive = m_temporary->filePath(QStringLiteral("made.zip"));
+        if (command.isEmpty()) {
+            QCOMPARE(exportTo(m_safe, archive).outcome, Outcome::Done);
+        } else if (command.size() == 1) {
+            QVERIFY(makeArchive(command.first(), m_safe, archive));
+        } else {
+            command.replaceInStrings(QStringLiteral("ARCHIVE"), archive);
+            const QString program = command.takeFirst();
+            QCOMPARE(runProgram(program, command, m_safe).exitCode, 0);
+        }
+        const ArchiveResult result = importFrom(archive, m_safes);
+        QCOMPARE(result.outcome, Outcome::Done);
+        QCOMPARE(foldersIn(m_safes), QStringList{QFileInfo(result.path).fileName()});
+
+        QMap<QString, QByteArray> before = snapshot(m_safe);
+        QMap<QString, QByteArray> after = snapshot(result.path);
+        for (const char *description : {"safe.meta", "safe.restore"}) {
+            before.remove(QLatin1String(description));
+            QVERIFY(!after.take(QLatin1String(description)).isEmpty());
+        }
+        QCOMPARE(after, before);
+        GPMSafe original;
+        GPMSafe safe;
+        QVERIFY(original.open(m_safe) && safe.open(result.path));
+        const QString day = QLocale().toString(QDate(2026, 3, 4), QLocale::ShortFormat);
+        QCOMPARE(safe.name(), QStringLiteral("%1 [%2]").arg(original.name(), day));
+        QCOMPARE(safe.modified(), original.modified());
+
+        QVERIFY(isOwnersAlone(result.path));
+        QDirIterator each(result.path, QDir::AllEntries | QDir::NoDotAndDotDot,
+                          QDirIterator::Subdirectories);
+        while (each.hasNext())
+            QVERIFY2(isOwnersAlone(each.next()), qPrintable(each.filePath()));
+    }
+
+    void whatIsNoSafeIsRefused_data()
+    {
+        QTest::addColumn<Outcome>("outcome");
+        for (const char *kind :
+             {"parent", "parent inside", "absolute", "drive", "drive relative", "backslashes",
+              "backslash parent", "stream", "empty part", "dot", "line end", "symbolic link"})
+            QTest::newRow(kind) << Outcome::UnsafeEntry;
+        for (const char *kind : {"not a zip", "empty file"})
+            QTest::newRow(kind) << Outcome::NotAnArchive;
+        for (const char *kind : {"cut in the middle", "cut at the end", "checksum", "content",
+                                 "unknown damaged", "sizes that lie"})
+            QTest::newRow(kind) << Outcome::Damaged;
+        for (const char *kind : {"name twice", "unknown name twice"})
+            QTest::newRow(kind) << Outcome::NameTwice;
+        for (const char *kind : {"hundred times", "hundred times elsewhere"})
+            QTest::newRow(kind) << Outcome::TooLarge;
+        QTest::newRow("bzip2") << Outcome::Unsupported;
+        for (const char *kind :
+             {"no entries", "no description", "no pass id", "empty pass id", "inside a folder"})
+            QTest::newRow(kind) << Outcome::NoSafe;
+    }
+    void whatIsNoSafeIsRefused()
+    {
+        QFETCH(Outcome, outcome);
+        const QString kind = QString::fromLatin1(QTest::currentDataTag());
+        QVERIFY(makeArchive(kind, m_safe, m_archive));
+        const QMap<QString, QByteArray> before = snapshot(m_temporary->path());
+        QCOMPARE(importFrom(m_archive, m_safes).outcome, outcome);
+        QVERIFY(foldersIn(m_safes).isEmpty());
+        QCOMPARE(snapshot(m_temporary->path()), before);
+        QVERIFY(!importMessage(outcome).isEmpty());
+    }
+
+    void anEncryptedArchiveIsRefused()
+    {
+        QCOMPARE(runProgram(QStringLiteral("zip"),
+                            {QStringLiteral("-P"), QStringLiteral("secret"), QStringLiteral("-r"),
+                             m_temporary->filePath(QStringLiteral("a.zip")), QStringLiteral(".")},
+                            m_safe)
+                     .exitCode,
+                 0);
+        QCOMPARE(importFrom(m_temporary->filePath(QStringLiteral("a.zip")), m_safes).outcome,
+                 Outcome::Unsupported);
+        QCOMPARE(importFrom(m_temporary->filePath(QStringLiteral("none.gpm")), m_safes).outcome,
+                 Outcome::NotFound);
+        QVERIFY(foldersIn(m_safes).isEmpty());
+    }
+
+    void moreThanFourGibibytesAreTooLarge()
+    {
+        const qint64 limit = qint64(4) << 30;
+        QVERIFY(!ArchiveEntries::isTooLarge(limit, limit));
+        QVERIFY(ArchiveEntries::isTooLarge(limit + 1, limit));
+        // A sparse file is counted before anything of it is read.
+        QFile huge(m_safe + QStringLiteral("/attachment/huge"));
+        QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(limit));
+        writeFile(m_archive, oldArchive);
+        QCOMPARE(exportTo(m_safe, m_archive).outcome, Outcome::TooLarge);
+        // What could not be imported for its ratio is not written either.
+        QVERIFY(huge.resize(30 * 1000 * 1000));
+        QCOMPARE(exportTo(m_safe, m_archive).outcome, Outcome::TooLarge);
+        QCOMPARE(contentOf(m_archive), QByteArray(oldArchive));
+    }
+
+    void everyFailureOfAnExportLeavesWhatWasThere()
+    {
+        auto counting = std::make_shared<FaultyArchiveFiles>();
+        QVERIFY(exportTo(m_safe, m_archive, counting).good());
+        writeFile(m_archive, oldArchive);
+        const QMap<QString, QByteArray> before = snapshot(m_temporary->path());
+        // Behind the first, which is the writing, files are opened; one alone is left out.
+        auto first = std::make_shared<FaultyArchiveFiles>();
+        first->failAt = 1;
+        QCOMPARE(exportTo(m_safe, m_archive, first).outcome, Outcome::CannotWrite);
+        QCOMPARE(snapshot(m_temporary->path()), before);
+
+        auto second = std::make_shared<FaultyArchiveFiles>();
+        second->failAt = 10;
+        const ArchiveResult result = exportTo(m_safe, m_archive, second);
+        QCOMPARE(result.outcome, Outcome::Done);
+        QCOMPARE(result.leftOut.size(), 1);
+        QVERIFY(importFrom(m_archive, m_safes).good());
+    }
+
+    void aSafeThatGoesAwayDuringTheExport_data()
+    {
+        QTest::addColumn<bool>("folderGoes");
+        QTest::newRow("folder vanishes") << true;
+        QTest::newRow("reading fails") << false;
+    }
+    void aSafeThatGoesAwayDuringTheExport()
+    {
+        QFETCH(bool, folderGoes);
+        writeFile(m_archive, oldArchive);
+        auto files = std::make_shared<OpeningFiles>();
+        files->name = QStringLiteral("attachment/00000000-0000-0016");
+        files->change = [&]() -> std::unique_ptr<QIODevice> {
+            if (!folderGoes)
+                return std::make_unique<BrokenDevice>();
+            QDir(m_safe).removeRecursively();
+            return nullptr;
+        };
+        QCOMPARE(exportTo(m_safe, m_archive, files).outcome, Outcome::SafeUnreadable);
+        QCOMPARE(contentOf(m_archive), QByteArray(oldArchive));
+        QCOMPARE(foldersIn(QFileInfo(m_archive).path()),
+                 QStringList{QStringLiteral("archive.gpm")});
+    }
+
+    void placesThatCannotBeWrittenTo()
+    {
+        const QString nowhere = m_temporary->filePath(QStringLiteral("gone/archive.gpm"));
+        QCOMPARE(exportTo(m_safe, nowhere).outcome, Outcome::CannotWrite);
+        QCOMPARE(exportTo(m_safes, m_archive).outcome, Outcome::NotFound);
+        QCOMPARE(exportTo(m_temporary->path(), m_archive).outcome, Outcome::NoSafe);
+        QVERIFY(!QFile::exists(m_archive));
+        QVERIFY(exportTo(m_safe, m_archive).good());
+        // A file where the folder of the safes should be.
+        QCOMPARE(importFrom(m_archive, m_archive).outcome, Outcome::CannotWrite);
+        QVERIFY(importFrom(m_archive, m_safes).good());
+    }
+
+    /// Each operation fails once, and then with everything behind it.
+    void everyFailureOfAnImportLeavesNoSafe()
+    {
+        keepFewFiles();
+        QVERIFY(exportTo(m_safe, m_archive).good());
+        auto counting = std::make_shared<FaultyArchiveFiles>();
+        QVERIFY(importFrom(m_archive, m_safes, counting).good());
+        QDir(m_safes).removeRecursively();
+        const int operations = counting->operations;
+        QVERIFY(operations > 3 * 7);
+        for (int failAt = 1; failAt <= operations; ++failAt) {
+            for (const bool andAllBehind : {false, true}) {
+                auto files = std::make_shared<FaultyArchiveFiles>();
+                files->failAt = failAt;
+                files->andAllBehind = andAllBehind;
+                const ArchiveResult result = importFrom(m_archive, m_safes, files);
+                // The second copy of a description is no condition.
+                if (result.good()) {
+                    GPMSafe safe;
+                    QVERIFY(safe.open(result.path));
+                    QVERIFY(QDir(result.path).removeRecursively());
+                    continue;
+                }
+                const QStringList left = foldersIn(m_safes);
+                QVERIFY(left.isEmpty() || (andAllBehind && left.size() == 1 &&
+                                           SafeImport::isUnfinished(left.first())));
+            }
+        }
+        // What the last of them could not remove is gone after the next.
+        const ArchiveResult result = importFrom(m_archive, m_safes);
+        QCOMPARE(foldersIn(m_safes), QStringList{QFileInfo(result.path).fileName()});
+    }
+
+    void aFullDisk_data()
+    {
+        QTest::addColumn<QString>("role");
+        QTest::newRow("export") << QStringLiteral("--export");
+        QTest::newRow("import") << QStringLiteral("--import");
+    }
+    void aFullDisk()
+    {
+        QFETCH(QString, role);
+        QVERIFY(exportTo(m_safe, m_archive).good());
+        const QMap<QString, QByteArray> before = snapshot(m_temporary->path());
+        const QString source = role == QLatin1String("--export") ? m_safe : m_archive;
+        const QString target = role == QLatin1String("--export") ? m_archive : m_safes;
+        const Ran ran = runRole({role, source, target, QStringLiteral("full")});
+        QCOMPARE(ran.exitCode, int(Outcome::CannotWrite));
+        QCOMPARE(snapshot(m_temporary->path()), before);
+        QVERIFY(foldersIn(m_safes).isEmpty());
+    }
+
+    /// A process dies inside each operation, and while it copies.
+    void aKilledExportLeavesWhatWasThere()
+    {
+        keepFewFiles();
+        writeFile(m_archive, oldArchive);
+        auto counting = std::make_shared<FaultyArchiveFiles>();
+        const QString other = m_temporary->filePath(QStringLiteral("other.gpm"));
+        QVERIFY(exportTo(m_safe, other, counting).good());
+        for (int dieAt = 1; dieAt <= counting->operations; ++dieAt) {
+            const Ran ran =
+                runRole({QStringLiteral("--export"), m_safe, m_archive, QString::number(dieAt)});
+            QCOMPARE(ran.exitCode, 99);
+            QCOMPARE(contentOf(m_archive), QByteArray(oldArchive));
+        }
+        for (const char *percent : {"1%", "50%", "99%"}) {
+            QCOMPARE(
+                runRole({QStringLiteral("--export"), m_safe, m_archive, QLatin1String(percent)})
+                    .exitCode,
+                -1);
+            QCOMPARE(contentOf(m_archive), QByteArray(oldArchive));
+        }
+        // The lock file of the dead is no obstacle.
+        QVERIFY(exportTo(m_safe, m_archive).good());
+        QVERIFY(importFrom(m_archive, m_safes).good());
+    }
+
+    void aKilledImportLeavesNoSafe()
+    {
+        keepFewFiles();
+        QVERIFY(exportTo(m_safe, m_archive).good());
+        auto counting = std::make_shared<FaultyArchiveFiles>();
+        QVERIFY(importFrom(m_archive, m_safes, counting).good());
+        QDir(m_safes).removeRecursively();
+        QStringList moments = {QStringLiteral("1%"), QStringLiteral("50%"), QStringLiteral("99%")};
+        for (int dieAt = 1; dieAt <= counting->operations; ++dieAt)
+            moments.append(QString::number(dieAt));
+        GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")),
+                                m_temporary->path());
+        const KnownSafes known(settings, m_safes);
+        for (const QString &moment : qAsConst(moments)) {
+            const Ran ran = runRole({QStringLiteral("--import"), m_archive, m_safes, moment});
+            QCOMPARE(ran.exitCode, moment.endsWith(QLatin1Char('%')) ? -1 : 99);
+            QVERIFY2(known.entries().isEmpty(), qPrintable(moment));
+        }
+        const ArchiveResult result = importFrom(m_archive, m_safes);
+        QVERIFY(result.good());
+        QCOMPARE(foldersIn(m_safes), QStringList{QFileInfo(result.path).fileName()});
+        QCOMPARE(known.entries().size(), 1);
+    }
+
+    void nothingChangesTheFilesDuringAnExport()
+    {
+        auto files = std::make_shared<OpeningFiles>();
+        files->name = QStringLiteral("safe.passid");
+        bool changed = true;
+        GPMSafe safe(environmentOf(std::make_shared<FileLayer>()));
+        QVERIFY(safe.open(m_safe) && safe.unlock(samplePassword));
+        files->change = [&] {
+            changed = safe.changePassword(QStringLiteral("another"));
+            return std::make_unique<QFile>(m_safe + QStringLiteral("/safe.passid"));
+        };
+        exportTo(m_safe, m_archive, files);
+        QVERIFY(!changed);
+
+        QLockFile held(m_safe + QStringLiteral("/.sourcelock"));
+        QVERIFY(held.lock());
+        writeFile(m_archive, oldArchive);
+        QCOMPARE(exportTo(m_safe, m_archive).outcome, Outcome::SafeBusy);
+        QCOMPARE(contentOf(m_archive), QByteArray(oldArchive));
+    }
+
+    /// As the program does it: the last edit is still being written, and the loop goes on.
+    void exportAndImportInTheBackground()
+    {
+        GPMSafe safe;
+        QVERIFY(safe.open(m_safe) && safe.unlock(samplePassword));
+        PMListItem *item = safe.items().front();
+        item->setTitle(QStringLiteral("The last edit"));
+        safe.touchItem(*item);
+        safe.saveChangesAsync();
+        const std::unique_ptr<ArchiveTask> exporting = safe.exportArchive(m_archive);
+        QSignalSpy exported(exporting.get(), &ArchiveTask::finished);
+        QSignalSpy progress(exporting.get(), &ArchiveTask::progress);
+        exporting->start();
+        QVERIFY(exported.wait());
+        QVERIFY(exporting->result().good());
+        QVERIFY(progress.count() > 2);
+        QCOMPARE(progress.last().at(0), progress.last().at(1));
+
+        GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")),
+                                m_temporary->path());
+        KnownSafes known(settings, m_safes);
+        QStringList folders;
+        for (int i = 0; i < 2; ++i) {
+            const std::unique_ptr<ArchiveTask> importing = known.importArchive(m_archive);
+            QSignalSpy imported(importing.get(), &ArchiveTask::finished);
+            importing->start();
+            QVERIFY(imported.wait());
+            folders.prepend(importing->result().path);
+        }
+        QCOMPARE(settings.recentList(), folders);
+        const QVector<KnownSafes::Entry> entries = known.entries();
+        QCOMPARE(entries.size(), 2);
+        QCOMPARE(entries.at(0).name, entries.at(1).name);
+        const std::shared_ptr<GPMSafe> copy = known.open(folders.first());
+        QVERIFY(copy->unlock(samplePassword));
+        QCOMPARE(copy->itemCount(), itemCount);
+        QCOMPARE(copy->item(item->id())->title(), QStringLiteral("The last edit"));
+        QBuffer bytes;
+        QVERIFY(bytes.open(QIODevice::WriteOnly));
+        QVERIFY(
+            copy->readAttachment(QStringLiteral("00000000-0000-000b-0000-000000001234"), bytes));
+    }
+
+    void aCancelLeavesWhatWasThere()
+    {
+        QVERIFY(exportTo(m_safe, m_archive).good());
+        const QMap<QString, QByteArray> before = snapshot(m_temporary->path());
+        GPMSafe safe;
+        QVERIFY(safe.open(m_safe));
+        GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")),
+                                m_temporary->path());
+        KnownSafes known(settings, m_safes);
+        std::unique_ptr<ArchiveTask> tasks[] = {safe.exportArchive(m_archive),
+                                                known.importArchive(m_archive)};
+        for (const auto &task : tasks) {
+            QSignalSpy finished(task.get(), &ArchiveTask::finished);
+            const auto cancelAtHalf = [&](qint64 done, qint64 total) {
+                if (done > total / 2)
+                    task->cancel();
+            };
+            connect(task.get(), &ArchiveTask::progress, task.get(), cancelAtHalf,
+                    Qt::DirectConnection);
+            task->start();
+            QVERIFY(finished.wait());
+            QCOMPARE(task->result().outcome, Outcome::Cancelled);
+        }
+        QVERIFY(foldersIn(m_safes).isEmpty());
+        QCOMPARE(snapshot(m_temporary->path()), before);
+    }
+
+    void anOlderDescriptionTravels()
+    {
+        const QByteArray passId = contentOf(m_safe + QStringLiteral("/safe.passid"));
+        for (const char *gone : {"safe.passid", "safe.meta", "safe.restore"})
+            QVERIFY(QFile::remove(m_safe + QLatin1Char('/') + QLatin1String(gone)));
+        writeFile(m_safe + QStringLiteral("/safe.content"),
+                  "{\"name\": \"Old\", \"pass_id\": \"" + passId + "\"}");
+        QVERIFY(exportTo(m_safe, m_archive).good());
+        const ArchiveResult result = importFrom(m_archive, m_safes);
+        QVERIFY(result.good());
+        QCOMPARE(contentOf(result.path + QStringLiteral("/safe.passid")), passId);
+        GPMSafe safe;
+        QVERIFY(safe.open(result.path) && safe.name().startsWith(QStringLiteral("Old [")));
+    }
+};
+
+/// Exports or imports in a process of its own that dies, or writes to a disk that is full.
+static int runAlone(const QStringList &arguments)
+{
+    const QString moment = arguments.value(4);
+    auto files = std::make_shared<FaultyArchiveFiles>();
+    WorkControl::Report report;
+    if (moment == QLatin1String("full")) {
+        const rlimit limit{8000, 8000};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        signal(SIGXFSZ, SIG_IGN);
+    } else if (moment.endsWith(QLatin1Char('%'))) {
+        const int percent = moment.left(moment.size() - 1).toInt();
+        report = [percent](qint64 done, qint64 total) {
+            if (done * 100 >= total * percent)
+                raise(SIGKILL);
+        };
+    } else {
+        files->failAt = moment.toInt();
+        files->fault = [] { _exit(99); };
+    }
+    const bool exports = arguments.value(1) == QLatin1String("--export");
+    const ArchiveResult result =
+        exports ? exportTo(arguments.value(2), arguments.value(3), files, report)
+                : importFrom(arguments.value(2), arguments.value(3), files, report);
+    return int(result.outcome);
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    if (application.arguments().size() == 5 &&
+        application.arguments().at(1).startsWith(QLatin1String("--")))
+        return runAlone(application.arguments());
+    TestSafeArchive test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_safearchive.moc"
