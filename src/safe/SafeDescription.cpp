@@ -27,6 +27,9 @@ QByteArray SafeDescription::toJson() const
     object.insert(createdKey, created);
     object.insert(modifiedKey, modified);
     object.insert(hintKey, hint);
+    // An older safe may have it nowhere else.
+    if (!passId.isEmpty())
+        object.insert(passIdKey, passId);
     return QJsonDocument(object).toJson(QJsonDocument::Indented);
 }
 

@@ -15,7 +15,7 @@ struct SafeDescription
     qint64 created = 0;
     qint64 modified = 0;
     QString hint;
-    QString passId;      ///< only read, from descriptions of older versions
+    QString passId;      ///< of older versions, kept; new descriptions have none
     QJsonObject unknown; ///< keys that this version does not know, kept
 
     QByteArray toJson() const;

@@ -147,6 +147,7 @@ ArchiveResult::Outcome SafeImport::complete()
             return Outcome::NoSafe;
         if (!writePassId(description->passId))
             return Outcome::CannotWrite;
+        description->passId.clear();
     }
     const QDate today = m_environment.clock().toLocalTime().date();
     description->name +=

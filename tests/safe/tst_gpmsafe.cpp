@@ -257,6 +257,8 @@ private Q_SLOTS:
         QVERIFY(again.open(m_folder));
         QCOMPARE(again.name(), QStringLiteral("New"));
         QVERIFY(contentOf(m_folder + QStringLiteral("/safe.meta")).contains("\"keep\": 7"));
+        // The description holds the only pass id.
+        QVERIFY(again.unlock(samplePassword));
     }
 
     void cutSafeFolders_data()
