@@ -8,7 +8,7 @@ build_packages=(
   build-essential cmake ninja-build ccache pkg-config
   qtbase5-dev libqt5websockets5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
   qttranslations5-l10n
-  libssl-dev libquazip1-qt5-dev libzxcvbn-dev libpsl-dev libx11-dev libxss-dev libxtst-dev
+  libssl-dev libquazip1-qt5-dev libzxcvbn-dev libpsl-dev libx11-dev libxext-dev libxss-dev libxtst-dev
 )
 display_packages=(xvfb)
 # Servers of their own for the C++ tests, and the tools that their archives are held against.

@@ -1,7 +1,9 @@
 #include "UiTesting.h"
+#include "lock/Crystal.h"
 #include "lock/PagesStack.h"
 #include "lock/SecureWindow.h"
 #include "main/MainView.h"
+#include "style/SystemLook.h"
 #include "style/Theme.h"
 
 #include <QDir>
@@ -16,7 +18,10 @@ class TestSecureWindow : public QObject
 private Q_SLOTS:
     void createsASafeByKeyboard();
     void shuttersFollowTheSafe();
+    void theKeyTurnsFirst();
     void withoutMotionTheyAreThereAtOnce();
+    void desktopsAskForStillness_data();
+    void desktopsAskForStillness();
     void typedKeysReachThePasswordWhileShuttersClose();
     void closingHides();
     void closingWithoutATrayMinimises();
@@ -145,6 +150,64 @@ void TestSecureWindow::withoutMotionTheyAreThereAtOnce()
     QVERIFY(test.createSafe());
     QCoreApplication::processEvents();
     QCOMPARE(shown.window.openProgress(), 1.0);
+}
+
+void TestSecureWindow::theKeyTurnsFirst()
+{
+    TestCore test;
+    QVERIFY(test.createSafe());
+    test.core.lockCurrentSafe();
+    Window shown(test);
+    SecureWindow &window = shown.window;
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto &crystal = *window.findChild<Crystal *>();
+    QVector<qreal> progressAtTurn;
+    connect(&crystal, &Crystal::unlocked, this,
+            [&] { progressAtTurn.append(window.openProgress()); });
+    QVERIFY(test.core.currentSafe()->unlock(testPassword));
+    // The keyboard does not wait for it, and the pages are out of reach.
+    QVERIFY(window.content().isEnabled());
+    QVERIFY(window.content().isAncestorOf(QApplication::focusWidget()));
+    QVERIFY(window.pages().testAttribute(Qt::WA_TransparentForMouseEvents));
+    QTRY_COMPARE(window.openProgress(), 1.0);
+    QCOMPARE(progressAtTurn, QVector<qreal>{0.0});
+    QVERIFY(!window.pages().isVisible());
+
+    // Locked again while it turns: the shutters stay closed and the key-hole is upright.
+    test.core.lockCurrentSafe();
+    QTRY_COMPARE(window.openProgress(), 0.0);
+    QVERIFY(test.core.currentSafe()->unlock(testPassword));
+    QTRY_VERIFY(crystal.turn() > 0);
+    test.core.lockCurrentSafe();
+    QCOMPARE(crystal.turn(), 0.0);
+    QVERIFY(!window.pages().testAttribute(Qt::WA_TransparentForMouseEvents));
+    QCOMPARE(window.openProgress(), 0.0);
+    QCOMPARE(progressAtTurn.size(), 1);
+}
+
+void TestSecureWindow::desktopsAskForStillness_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("reduced");
+    const auto row = [](const char *group, const char *name, const QVariant &value, bool reduced) {
+        QTest::addRow("%s: %s", name, qPrintable(value.toString()))
+            << QString::fromLatin1(group) << QString::fromLatin1(name) << value << reduced;
+    };
+    row("org.gnome.desktop.interface", "enable-animations", false, true);
+    row("org.gnome.desktop.interface", "enable-animations", true, false);
+    row("org.gnome.desktop.interface", "clock-show-date", false, false);
+    row("org.freedesktop.appearance", "reduced-motion", 1u, true);
+    row("org.freedesktop.appearance", "reduced-motion", 0u, false);
+}
+
+void TestSecureWindow::desktopsAskForStillness()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, name);
+    QFETCH(QVariant, value);
+    QTEST(MotionWatch::reduced({{group, {{name, value}}}}), "reduced");
 }
 
 void TestSecureWindow::typedKeysReachThePasswordWhileShuttersClose()

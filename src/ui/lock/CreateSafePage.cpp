@@ -4,6 +4,7 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
+#include "widgets/MessageLabel.h"
 #include "widgets/PasswordField.h"
 #include "widgets/TextField.h"
 
@@ -55,13 +56,14 @@ void CreateSafePage::makeFields(const Theme &theme)
         m_fields[i]->setObjectName(name);
         m_fields[i]->setPlaceholderText(texts[i].placeholder);
         m_fields[i]->setAccessibleName(texts[i].placeholder);
-        m_messages[i] = makeLabel({}, "error", this);
+        m_messages[i] = new MessageLabel(this);
+        m_messages[i]->setWordWrap(false);
         m_messages[i]->setObjectName(name + QStringLiteral("Message"));
     }
 
     m_offer = makeLabel({}, "muted", this);
     m_offer->setObjectName(QStringLiteral("createOffer"));
-    m_failure = makeLabel({}, "error", this);
+    m_failure = new MessageLabel(this);
     m_failure->setObjectName(QStringLiteral("createFailure"));
     m_back = makeButton(tr("Back"), "plain", this);
     m_back->setObjectName(QStringLiteral("backButton"));
@@ -108,8 +110,6 @@ void CreateSafePage::layOut()
     all->addStretch(4);
     for (std::size_t i = 1; i < m_fields.size(); ++i)
         setTabOrder(m_fields[i - 1], m_fields[i]);
-    for (std::size_t i = 1; i < m_fields.size(); ++i)
-        setTabOrder(m_fields[i - 1], m_fields[i]);
     // The way on comes before the way back.
     setTabOrder(m_fields.back(), m_create);
     setTabOrder(m_create, m_back);
@@ -139,7 +139,7 @@ void CreateSafePage::reset()
     for (QLineEdit *field : m_fields)
         field->setText(QString());
     clearSecrets();
-    m_failure->clear();
+    m_failure->setMessage({});
     m_reached = -1;
     showMessages();
 }
@@ -164,7 +164,7 @@ CreateSafeRules::Input CreateSafePage::input() const
 void CreateSafePage::onEdited(int field)
 {
     m_reached = qMax(m_reached, field);
-    m_failure->clear();
+    m_failure->setMessage({});
     showMessages();
 }
 
@@ -184,7 +184,7 @@ void CreateSafePage::create()
     if (m_core.createSafe(entered.name, entered.password, entered.hint))
         reset();
     else
-        m_failure->setText(tr("Create safe failed!"));
+        m_failure->setMessage(tr("Create safe failed!"));
 }
 
 void CreateSafePage::showMessages()
@@ -195,8 +195,8 @@ void CreateSafePage::showMessages()
         const bool reached = m_reached >= 0 && i <= m_reached + 1;
         const auto message = reached ? CreateSafeRules::message(entered, CreateSafeRules::Field(i))
                                      : CreateSafeRules::Message();
-        QLabel *label = m_messages[static_cast<std::size_t>(i)];
-        label->setText(message.text);
+        MessageLabel *label = m_messages[static_cast<std::size_t>(i)];
+        label->setMessage(message.text);
         const QString color = m_theme.lockPalette().strength(message.strength).name();
         label->setStyleSheet(message.strength > 0 ? QStringLiteral("color: %1;").arg(color)
                                                   : QString());

@@ -7,6 +7,7 @@
 #include <array>
 
 class GPMAppCore;
+class MessageLabel;
 class PasswordField;
 class QLabel;
 class QLineEdit;
@@ -50,8 +51,8 @@ private:
     PasswordField *m_password;
     PasswordField *m_confirm;
     std::array<QLineEdit *, CreateSafeRules::FieldCount> m_fields;
-    std::array<QLabel *, CreateSafeRules::FieldCount> m_messages;
-    QLabel *m_failure;
+    std::array<MessageLabel *, CreateSafeRules::FieldCount> m_messages;
+    MessageLabel *m_failure;
     QPushButton *m_back;
     QPushButton *m_create;
     int m_reached = -1; ///< the last field that the user edited

@@ -1,18 +1,19 @@
 #include "MasterPasswordPage.h"
 
+#include "Crystal.h"
 #include "Platform.h"
 #include "UnlockLogic.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/CapsIndicator.h"
 #include "widgets/Controls.h"
+#include "widgets/MessageLabel.h"
 #include "widgets/PasswordField.h"
 #include "widgets/SelectBox.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QProgressBar>
-#include <QSvgWidget>
 
 namespace {
 
@@ -37,6 +38,7 @@ MasterPasswordPage::MasterPasswordPage(UnlockLogic &logic, Platform &platform, c
 
 void MasterPasswordPage::makeFields(const Theme &theme)
 {
+    m_crystal = new Crystal(crystalSize, this);
     m_title = makeLabel({}, "title", this);
     m_title->setAlignment(Qt::AlignHCenter);
     m_subtitle = makeLabel({}, "muted", this);
@@ -64,9 +66,8 @@ void MasterPasswordPage::makeFields(const Theme &theme)
     m_caps = new CapsIndicator(this);
     m_caps->setObjectName(QStringLiteral("capsIndicator"));
 
-    m_message = makeLabel({}, "error", this);
+    m_message = new MessageLabel(this);
     m_message->setObjectName(QStringLiteral("unlockMessage"));
-    m_message->setWordWrap(true);
     m_progress = new QProgressBar(this);
     m_progress->setTextVisible(false);
     m_progress->setAccessibleName(tr("Reading items"));
@@ -82,15 +83,12 @@ void MasterPasswordPage::makeFields(const Theme &theme)
 
 void MasterPasswordPage::layOut()
 {
-    auto *crystal = new QSvgWidget(QStringLiteral(":/crystal.svg"), this);
-    crystal->setFixedSize(crystalSize, crystalSize);
-
     auto *hintLine = new QHBoxLayout;
     hintLine->addWidget(m_hint, 1);
     hintLine->addWidget(m_caps, 0, Qt::AlignTop);
 
     auto *column = new QVBoxLayout;
-    column->addWidget(crystal, 0, Qt::AlignHCenter);
+    column->addWidget(m_crystal, 0, Qt::AlignHCenter);
     column->addSpacing(Style::margin);
     column->addWidget(m_title);
     column->addSpacing(Style::spacing);
@@ -198,8 +196,8 @@ void MasterPasswordPage::showState()
     const QString folder = m_logic.chosenFolder();
     m_selector->setCurrentIndex(folder.isEmpty() ? -1 : m_selector->findData(folder));
     m_hint->setText(m_logic.hint().isEmpty() ? QString() : tr("Hint: %1").arg(m_logic.hint()));
-    m_message->setText(m_logic.message());
     m_message->setVisible(!m_logic.message().isEmpty());
+    m_message->setMessage(m_logic.message());
     m_selector->setEnabled(!unlocking);
     m_password->setEnabled(!unlocking && state != State::Unavailable);
     m_create->setEnabled(!unlocking);

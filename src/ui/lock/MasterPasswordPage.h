@@ -3,6 +3,8 @@
 #include <QWidget>
 
 class CapsIndicator;
+class Crystal;
+class MessageLabel;
 class PasswordField;
 class Platform;
 class QLabel;
@@ -23,6 +25,7 @@ public:
     /// Puts the keyboard where one goes on: into the password, or on the way to a new safe.
     void takeFocus();
     void clearSecrets();
+    Crystal &crystal() { return *m_crystal; }
 
 Q_SIGNALS:
     void createRequested();
@@ -45,13 +48,14 @@ private:
 
     UnlockLogic &m_logic;
     Platform &m_platform;
+    Crystal *m_crystal;
     QLabel *m_title;
     QLabel *m_subtitle;
     SelectBox *m_selector;
     PasswordField *m_password;
     QLabel *m_hint;
     CapsIndicator *m_caps;
-    QLabel *m_message;
+    MessageLabel *m_message;
     QProgressBar *m_progress;
     QPushButton *m_unlock;
     QPushButton *m_notNow;

@@ -1,12 +1,16 @@
 #include "PagesStack.h"
 
 #include "CreateSafePage.h"
+#include "Crystal.h"
 #include "GPMAppCore.h"
 #include "MasterPasswordPage.h"
 #include "UnlockLogic.h"
+#include "style/Style.h"
+#include "style/Theme.h"
 
 PagesStack::PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent)
     : QStackedWidget(parent)
+    , m_theme(theme)
     , m_unlockLogic(new UnlockLogic(core, this))
 {
     // Named before the pages are made: some of their parts look up their style at once.
@@ -17,6 +21,7 @@ PagesStack::PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent)
     addWidget(m_createPage);
     connect(m_unlockPage, &MasterPasswordPage::createRequested, this, &PagesStack::showCreatePage);
     connect(m_unlockPage, &MasterPasswordPage::dismissed, this, &PagesStack::dismissed);
+    connect(&m_unlockPage->crystal(), &Crystal::unlocked, this, &PagesStack::keyTurned);
     connect(m_createPage, &CreateSafePage::backRequested, this, &PagesStack::showUnlockPage);
 }
 
@@ -31,6 +36,7 @@ void PagesStack::showFirstPage()
 void PagesStack::showUnlockPage()
 {
     m_createPage->clearSecrets();
+    m_unlockPage->crystal().lock();
     setCurrentWidget(m_unlockPage);
     takeFocus();
 }
@@ -58,4 +64,10 @@ void PagesStack::clearSecrets()
 {
     m_unlockPage->clearSecrets();
     m_createPage->clearSecrets();
+}
+
+void PagesStack::turnKey()
+{
+    const bool seen = currentWidget() == m_unlockPage && isVisible();
+    m_unlockPage->crystal().unlock(seen ? m_theme.motion(Style::keyTurnMs) : 0);
 }

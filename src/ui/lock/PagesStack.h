@@ -25,10 +25,16 @@ public:
     void takeFocus();
     void clearSecrets();
 
+    /// Turns the key-hole of the page that has unlocked a safe; keyTurned tells when that is done,
+    /// which is at once on another page and without motion.
+    void turnKey();
+
 Q_SIGNALS:
+    void keyTurned();
     void dismissed();
 
 private:
+    const Theme &m_theme;
     UnlockLogic *m_unlockLogic;
     MasterPasswordPage *m_unlockPage;
     CreateSafePage *m_createPage;

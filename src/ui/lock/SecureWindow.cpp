@@ -26,6 +26,7 @@ namespace {
 
 const QSize usualSize(1080, 680);
 const QSize smallestSize(972, 640);
+const qreal pagesGone = 0.25; ///< how far open nothing is left of the lock pages
 
 } // namespace
 
@@ -77,20 +78,26 @@ void SecureWindow::configureStateMachine()
     opened->assignProperty(this, "openProgress", 1.0);
     closed->addTransition(this, &SecureWindow::_requestOpenShuttersPrivate, opened);
     opened->addTransition(this, &SecureWindow::_requestCloseShuttersPrivate, closed);
-    auto *slide = new QPropertyAnimation(this, "openProgress", this);
-    slide->setEasingCurve(QEasingCurve::OutCubic);
-    slide->setDuration(m_theme.motion(Style::shutterMs));
-    m_machine.addDefaultAnimation(slide);
+    m_slide = new QPropertyAnimation(this, "openProgress", this);
+    m_slide->setEasingCurve(QEasingCurve::OutCubic);
+    m_machine.addDefaultAnimation(m_slide);
     m_machine.setInitialState(closed);
     // A safe may have been opened before the machine ran.
-    connect(&m_machine, &QStateMachine::started, this, [this] {
-        if (m_open)
-            Q_EMIT _requestOpenShuttersPrivate({});
-    });
+    connect(&m_machine, &QStateMachine::started, this, &SecureWindow::moveShutters);
+    connect(m_pages, &PagesStack::keyTurned, this, &SecureWindow::moveShutters);
     m_machine.start();
     qDebug().noquote() << QStringLiteral("UI: %1: State machine is configured in %2 milliseconds")
                               .arg(QLatin1String(metaObject()->className()))
                               .arg(timer.elapsed());
+}
+
+void SecureWindow::moveShutters()
+{
+    m_slide->setDuration(m_theme.motion(Style::shutterMs));
+    if (m_open)
+        Q_EMIT _requestOpenShuttersPrivate({});
+    else
+        Q_EMIT _requestCloseShuttersPrivate({});
 }
 
 void SecureWindow::setOpenProgress(qreal progress)
@@ -104,11 +111,13 @@ void SecureWindow::showLayers()
 {
     // The keyboard goes where it belongs at once, not when the shutters have arrived.
     m_content->setVisible(m_open || m_openProgress > 0);
-    m_pages->setVisible(!m_open);
+    // They fade while the shutters open, but are out of reach.
+    m_pages->setVisible(!m_open || m_openProgress < pagesGone);
+    m_pages->setAttribute(Qt::WA_TransparentForMouseEvents, m_open);
     m_titleBar->setOnDark(!m_open || m_openProgress < 0.5);
     m_fade->setEnabled(m_openProgress > 0);
     // They come up when the gap is nearly closed; the keyboard reaches them before.
-    m_fade->setOpacity(qMax(0.0, 1 - 4 * m_openProgress));
+    m_fade->setOpacity(qMax(0.0, 1 - m_openProgress / pagesGone));
 }
 
 void SecureWindow::showTitle()
@@ -131,12 +140,12 @@ void SecureWindow::followSafe()
         m_content->openSafe(safe);
         showLayers();
         m_content->takeFocus();
-        Q_EMIT _requestOpenShuttersPrivate({});
+        m_pages->turnKey();
     } else {
         m_content->closeSafe();
         showLayers();
         m_pages->showUnlockPage();
-        Q_EMIT _requestCloseShuttersPrivate({});
+        moveShutters();
     }
 }
 

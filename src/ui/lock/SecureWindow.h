@@ -9,6 +9,7 @@
 class GPMAppCore;
 class PagesStack;
 class QGraphicsOpacityEffect;
+class QPropertyAnimation;
 class SecureContent;
 class Shutters;
 class Theme;
@@ -75,6 +76,7 @@ private:
     void leaveSafe(void (GPMAppCore::*way)());
     SaveAnswer saveOrAsk();
     void followSafe();
+    void moveShutters();
     void showLayers();
     void layOut();
     void showTitle();
@@ -89,6 +91,7 @@ private:
     QGraphicsOpacityEffect *m_fade;
     WindowFrame *m_frame;
     TitleBar *m_titleBar;
+    QPropertyAnimation *m_slide = nullptr;
     QStateMachine m_machine;
     qreal m_openProgress = 0;
     bool m_open = false;

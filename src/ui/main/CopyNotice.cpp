@@ -3,10 +3,13 @@
 #include "ClipboardKeeper.h"
 #include "style/Style.h"
 #include "style/Theme.h"
+#include "widgets/Announcer.h"
 #include "widgets/Controls.h"
 #include "widgets/ElidedLabel.h"
 
 #include <QBoxLayout>
+#include <QGraphicsOpacityEffect>
+#include <QPropertyAnimation>
 
 #include <utility>
 
@@ -18,6 +21,7 @@ const int plainNoticeMs = 4000;
 
 CopyNotice::CopyNotice(ClipboardKeeper &clipboard, const Theme &theme, QWidget *parent, Clock clock)
     : QWidget(parent)
+    , m_theme(theme)
     , m_clock(std::move(clock))
     , m_icon(new QLabel(this))
     , m_text(new ElidedLabel("notice", this))
@@ -71,8 +75,31 @@ void CopyNotice::onCopied(bool clearLater)
         m_deadlines.append(now.addMSecs(ClipboardKeeper::keepMs));
     m_until = now.addMSecs(plainNoticeMs);
     showSeconds();
-    show();
+    if (isHidden())
+        easeIn();
     m_tick.start();
+    setAccessibleName({});
+    Announcer::announce(*this, m_text->accessibleName());
+}
+
+void CopyNotice::easeIn()
+{
+    show();
+    const int time = m_theme.motion(Style::popUpMs);
+    if (time == 0 || !isVisible())
+        return;
+    auto *effect = new QGraphicsOpacityEffect(this);
+    setGraphicsEffect(effect);
+    auto *fade = new QPropertyAnimation(effect, "opacity", effect);
+    fade->setDuration(time);
+    fade->setEasingCurve(QEasingCurve::OutCubic);
+    fade->setStartValue(0.0);
+    fade->setEndValue(1.0);
+    // Without the effect texts are drawn sharper.
+    connect(
+        fade, &QPropertyAnimation::finished, this, [this] { setGraphicsEffect(nullptr); },
+        Qt::QueuedConnection);
+    fade->start();
 }
 
 void CopyNotice::onTick()

@@ -25,10 +25,12 @@ public:
 
 private:
     void onCopied(bool clearLater);
+    void easeIn();
     void onTick();
     void showSeconds();
     void dismiss();
 
+    const Theme &m_theme;
     Clock m_clock;
     QVector<QDateTime> m_deadlines; ///< of all copies that were made, earliest first
     QDateTime m_until;              ///< the end of a notice without a deadline

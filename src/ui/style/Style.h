@@ -18,6 +18,7 @@ constexpr int titleSize = 20;
 constexpr int iconSize = 18;
 constexpr int shutterMs = 240;
 constexpr int popUpMs = 180;
+constexpr int keyTurnMs = 220;
 
 /// The point size of the application font; 13 px on a usual screen.
 int basePointSize();

@@ -3,6 +3,7 @@
 #include "Style.h"
 #include "SvgIcon.h"
 #include "SystemLook.h"
+#include "widgets/PopUpEase.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -23,6 +24,10 @@ void Theme::apply()
     setDark(SystemLook::isDark());
     qApp->setStyleSheet(Style::styleSheet(*m_palette));
     qApp->installEventFilter(this);
+    new PopUpEase(*this, this);
+    auto *motion = new MotionWatch(this);
+    connect(motion, &MotionWatch::told, this, &Theme::setReducedMotion);
+    motion->start();
 }
 
 QIcon Theme::icon(const QString &name, Palette::Role role) const
