@@ -8,6 +8,7 @@
 #include "lock/SecureWindow.h"
 #include "lock/UnlockLogic.h"
 #include "main/MainView.h"
+#include "settings/SettingsTable.h"
 #include "style/Theme.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QScreen>
+#include <QShortcut>
 #include <QUrl>
 
 #include <utility>
@@ -27,9 +29,21 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray, QObj
     , m_translator(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"))
     , m_theme(std::make_unique<Theme>())
 {
+    m_theme->setMode(m_settings.themeMode());
+    m_theme->setTextPercent(m_settings.textPercent());
+    m_theme->setMotionOff(m_settings.motionOff());
+    m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, [this] {
+        return SettingsTable({m_core.settings(), m_settings, *m_theme, m_translator,
+                              [this](const QString &language) { return setLanguage(language); },
+                              [this](int percent) { return setTextPercent(percent); }})
+            .settings();
+    });
 }
 
-PMUiProvider::~PMUiProvider() = default;
+PMUiProvider::~PMUiProvider()
+{
+    m_window.reset();
+}
 
 void PMUiProvider::connectCore()
 {
@@ -62,29 +76,103 @@ void PMUiProvider::createMainWindow()
     auto *view = new MainView(m_core, *m_theme);
     m_window = std::make_unique<SecureWindow>(m_core, *m_theme, view);
     m_window->setTrayCheck(m_hasTray);
-    m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, *m_window);
-    connect(view, &MainView::generatorRequested, m_sideWindows.get(), &SideWindows::openGenerator);
-    connect(view, &MainView::lockRequested, this, &PMUiProvider::lock);
-    connect(view, &MainView::safeChosen, m_window.get(), &SecureWindow::switchSafe);
-    connect(view, &MainView::createSafeRequested, m_window.get(), &SecureWindow::createSafe);
+    m_sideWindows->setMain(m_window.get());
+    connectView(*view);
     view->setItemOrder(m_settings.itemOrder());
-    connect(view, &MainView::itemOrderChanged, this,
-            [this, view] { m_settings.setItemOrder(view->itemOrder()); });
-    connect(view, &MainView::helpRequested, this, &PMUiProvider::showAbout);
-    connect(view, &MainView::exitRequested, this, &PMUiProvider::exitByUser);
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
+    makeLockShortcut();
     m_settings.restoreGeometry(*m_window);
     view->restoreSplitter(m_settings.splitter(m_window->objectName()));
+    makeTray();
+}
 
+void PMUiProvider::connectView(const MainView &view)
+{
+    connect(&view, &MainView::generatorRequested, m_sideWindows.get(), &SideWindows::openGenerator);
+    connect(&view, &MainView::settingsRequested, m_sideWindows.get(), &SideWindows::openSettings);
+    connect(&view, &MainView::lockRequested, this, &PMUiProvider::lock);
+    connect(&view, &MainView::safeChosen, m_window.get(), &SecureWindow::switchSafe);
+    connect(&view, &MainView::createSafeRequested, m_window.get(), &SecureWindow::createSafe);
+    connect(&view, &MainView::itemOrderChanged, this,
+            [this, &view] { m_settings.setItemOrder(view.itemOrder()); });
+    connect(&view, &MainView::helpRequested, this, &PMUiProvider::showAbout);
+    connect(&view, &MainView::exitRequested, this, &PMUiProvider::exitByUser);
+}
+
+void PMUiProvider::makeTray()
+{
     m_tray = std::make_unique<TrayIcon>();
     connect(m_tray.get(), &TrayIcon::openRequested, this, &PMUiProvider::bringToFront);
     connect(m_tray.get(), &TrayIcon::generatorRequested, m_sideWindows.get(),
             &SideWindows::openGenerator);
+    connect(m_tray.get(), &TrayIcon::settingsRequested, m_sideWindows.get(),
+            &SideWindows::openSettings);
     connect(m_tray.get(), &TrayIcon::helpRequested, this, &PMUiProvider::showAbout);
     connect(m_tray.get(), &TrayIcon::lockRequested, this, &PMUiProvider::lock);
     connect(m_tray.get(), &TrayIcon::exitRequested, this, &PMUiProvider::exitByUser);
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    m_tray->setLocked(!safe || !safe->isUnlocked());
     m_tray->show();
+}
+
+void PMUiProvider::makeLockShortcut()
+{
+    auto *shortcut = new QShortcut(m_window.get());
+    shortcut->setObjectName(QStringLiteral("lockHotkey"));
+    shortcut->setContext(Qt::ApplicationShortcut);
+    const auto setKeys = [shortcut](const QString &keys) {
+        shortcut->setKey(QKeySequence(keys, QKeySequence::PortableText));
+    };
+    setKeys(m_core.settings().lockHotkey());
+    connect(&m_core.settings(), &GPMAppSettings::lockHotkeyChanged, shortcut, setKeys);
+    connect(shortcut, &QShortcut::activated, this, &PMUiProvider::lock);
+}
+
+bool PMUiProvider::setLanguage(const QString &language)
+{
+    if (m_window && !m_window->content().mayLeave())
+        return false;
+    if (m_translator.translate(language, true).isEmpty())
+        return false;
+    rebuildSoon();
+    return true;
+}
+
+bool PMUiProvider::setTextPercent(int percent)
+{
+    if (m_window && !m_window->content().mayLeave())
+        return false;
+    m_theme->setTextPercent(percent);
+    rebuildSoon();
+    return true;
+}
+
+void PMUiProvider::rebuildSoon()
+{
+    // The window that asked for it is still at work.
+    if (m_window && !std::exchange(m_rebuilding, true))
+        QMetaObject::invokeMethod(this, &PMUiProvider::rebuildWindows, Qt::QueuedConnection);
+}
+
+void PMUiProvider::rebuildWindows()
+{
+    // To make the windows anew is less to go wrong than to change every text and measure of every
+    // one of them in place.
+    m_rebuilding = false;
+    saveWindowState();
+    const bool settingsOpen = m_sideWindows->hasSettingsOpen();
+    const std::unique_ptr<SecureWindow> former = std::move(m_window);
+    createMainWindow();
+    m_window->content().goTo(former->content().place());
+    if (m_firstPageChosen)
+        showFirstPage();
+    if (former->isVisible()) {
+        m_window->setWindowState(former->windowState());
+        m_window->show();
+    }
+    if (settingsOpen)
+        m_sideWindows->openSettings();
 }
 
 QWidget *PMUiProvider::mainWindow() const

@@ -12,6 +12,7 @@
 #include <memory>
 
 class GPMAppCore;
+class MainView;
 class QUrl;
 class SecureWindow;
 class SideWindows;
@@ -49,6 +50,12 @@ public:
     /// hidden window is shown minimised, as nothing else could bring it back.
     void openMainView(const QString &url);
 
+    /// Switches to a language of the translator and shows everything in it. False when the user
+    /// wants to go on editing or the language cannot be loaded: then nothing has changed.
+    bool setLanguage(const QString &language);
+    /// The same with the size of texts, in percent of the usual one.
+    bool setTextPercent(int percent);
+
 public Q_SLOTS:
     void bringToFront();
 
@@ -61,6 +68,11 @@ private:
     void lock();
     void exitByUser();
     void showFirstPage();
+    void connectView(const MainView &view);
+    void makeTray();
+    void makeLockShortcut();
+    void rebuildSoon();
+    void rebuildWindows();
     void saveWindowState();
     void onLockedChanged(bool locked);
 
@@ -69,9 +81,10 @@ private:
     UiSettings m_settings;
     PMTranslator m_translator;
     std::unique_ptr<Theme> m_theme;
-    std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<SideWindows> m_sideWindows;
+    std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<TrayIcon> m_tray;
     bool m_firstPageChosen = false;
+    bool m_rebuilding = false;
     QVector<QPointer<QWidget>> m_safeMessages; ///< those shown while the safe was open
 };

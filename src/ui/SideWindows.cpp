@@ -2,14 +2,26 @@
 
 #include "GPMAppCore.h"
 #include "RandomSource.h"
-#include "lock/SecureWindow.h"
+
+#include <utility>
+
+namespace {
+
+void bringUp(QWidget &window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
 
 SideWindows::SideWindows(GPMAppCore &core, UiSettings &uiSettings, const Theme &theme,
-                         SecureWindow &main)
+                         std::function<QVector<Setting>()> settings)
     : m_core(core)
     , m_uiSettings(uiSettings)
     , m_theme(theme)
-    , m_main(main)
+    , m_makeSettings(std::move(settings))
 {
     connect(&core, &GPMAppCore::requestLock, this, &SideWindows::closeForLock);
     connect(&core, &GPMAppCore::safeLockedChanged, &m_recent,
@@ -20,7 +32,14 @@ SideWindows::SideWindows(GPMAppCore &core, UiSettings &uiSettings, const Theme &
 
 SideWindows::~SideWindows()
 {
+    setMain(nullptr);
+}
+
+void SideWindows::setMain(QWidget *main)
+{
     delete m_generator;
+    delete m_settings;
+    m_main = main;
 }
 
 void SideWindows::openGenerator()
@@ -49,15 +68,19 @@ void SideWindows::openGeneratorFor(QObject *owner,
 
 void SideWindows::showGenerator(const PasswordTarget &target)
 {
-    if (!m_generator) {
+    if (!m_generator)
         m_generator = new PasswordGeneratorDialog(
             {m_uiSettings, m_core.settings(), m_core.clipboard(), m_recent, &systemRandom}, m_theme,
-            &m_main);
-    }
+            m_main);
     m_generator->setTarget(target);
-    m_generator->show();
-    m_generator->raise();
-    m_generator->activateWindow();
+    bringUp(*m_generator);
+}
+
+void SideWindows::openSettings()
+{
+    if (!m_settings)
+        m_settings = new SettingsDialog(m_makeSettings(), m_uiSettings, m_theme, m_main);
+    bringUp(*m_settings);
 }
 
 void SideWindows::closeForLock()

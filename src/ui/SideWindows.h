@@ -2,6 +2,7 @@
 
 #include "dialogs/PasswordGeneratorDialog.h"
 #include "dialogs/RecentPasswords.h"
+#include "settings/SettingsDialog.h"
 
 #include <QPointer>
 
@@ -14,17 +15,24 @@ class SideWindows : public QObject
     Q_OBJECT
 
 public:
-    /// Everything outlives this; the windows belong to the main one.
-    SideWindows(GPMAppCore &core, UiSettings &uiSettings, const Theme &theme, SecureWindow &main);
+    /// Everything outlives this.
+    /// @param settings all that can be set
+    SideWindows(GPMAppCore &core, UiSettings &uiSettings, const Theme &theme,
+                std::function<QVector<Setting>()> settings);
     ~SideWindows() override;
+
+    /// The main window, which owns these; another one takes the place of the former.
+    void setMain(QWidget *main);
+
+    /// Opens the generator for someone who takes the password as long as the owner lives.
+    void openGeneratorFor(QObject *owner, const std::function<void(const QString &)> &place);
+
+    bool hasSettingsOpen() const { return m_settings; }
 
 public Q_SLOTS:
     /// Opens the generator for the page in the user's browser.
     void openGenerator();
-
-public:
-    /// Opens the generator for someone who takes the password as long as the owner lives.
-    void openGeneratorFor(QObject *owner, const std::function<void(const QString &)> &place);
+    void openSettings();
 
 private:
     void showGenerator(const PasswordTarget &target);
@@ -33,7 +41,9 @@ private:
     GPMAppCore &m_core;
     UiSettings &m_uiSettings;
     const Theme &m_theme;
-    SecureWindow &m_main;
+    std::function<QVector<Setting>()> m_makeSettings;
     RecentPasswords m_recent;
+    QPointer<QWidget> m_main;
     QPointer<PasswordGeneratorDialog> m_generator;
+    QPointer<SettingsDialog> m_settings;
 };

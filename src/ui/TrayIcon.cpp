@@ -7,6 +7,7 @@ TrayIcon::TrayIcon(QObject *parent)
     QAction *open = m_menu.addAction(tr("Open Main Window"), this, &TrayIcon::openRequested);
     m_menu.setDefaultAction(open);
     m_menu.addAction(tr("Password Generator"), this, &TrayIcon::generatorRequested);
+    m_menu.addAction(tr("Settings"), this, &TrayIcon::settingsRequested);
     m_menu.addAction(tr("Help"), this, &TrayIcon::helpRequested);
     m_menu.addSeparator();
     m_lock = m_menu.addAction(tr("Lock"), this, &TrayIcon::lockRequested);

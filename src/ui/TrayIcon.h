@@ -16,6 +16,7 @@ public:
 Q_SIGNALS:
     void openRequested();
     void generatorRequested();
+    void settingsRequested();
     void helpRequested();
     void lockRequested();
     void exitRequested();

@@ -1,5 +1,6 @@
 #include "UiSettings.h"
 
+#include <QMetaEnum>
 #include <QWidget>
 
 namespace {
@@ -9,8 +10,16 @@ const QString screenNumberKey = QStringLiteral("LastMainWindowScreenNumber");
 const QString itemOrderKey = QStringLiteral("ItemOrder");
 const QString geometrySuffix = QStringLiteral("_Geometry");
 const QString splitterSuffix = QStringLiteral("_Splitter");
+const QString tabIndexSuffix = QStringLiteral("_TabIndex");
+const QString themeKey = QStringLiteral("Theme");
+const QString textSizeKey = QStringLiteral("TextSize");
+const QString motionOffKey = QStringLiteral("MotionOff");
 const QString lengthSuffix = QStringLiteral("_Length");
 const QString specialCountSuffix = QStringLiteral("_SpecialCharsCount");
+
+// A file that was changed by hand must not make the program unusable.
+const int smallestTextPercent = 75;
+const int greatestTextPercent = 200;
 
 } // namespace
 
@@ -57,6 +66,57 @@ void UiSettings::saveSplitter(const QString &windowName, const QByteArray &state
 QByteArray UiSettings::splitter(const QString &windowName) const
 {
     return m_store.value(windowName + splitterSuffix).toByteArray();
+}
+
+int UiSettings::tabIndex(const QString &windowName) const
+{
+    return m_store.value(windowName + tabIndexSuffix, 0).toInt();
+}
+
+void UiSettings::setTabIndex(const QString &windowName, int index)
+{
+    m_store.setValue(windowName + tabIndexSuffix, index);
+}
+
+Theme::Mode UiSettings::themeMode() const
+{
+    const QString name = m_store.value(themeKey).toString();
+    bool known = false;
+    const int mode = QMetaEnum::fromType<Theme::Mode>().keyToValue(name.toLatin1(), &known);
+    return known ? static_cast<Theme::Mode>(mode) : Theme::Mode::System;
+}
+
+void UiSettings::setThemeMode(Theme::Mode mode)
+{
+    const QMetaEnum names = QMetaEnum::fromType<Theme::Mode>();
+    m_store.setValue(themeKey, QString::fromLatin1(names.valueToKey(static_cast<int>(mode))));
+}
+
+int UiSettings::textPercent() const
+{
+    const int percent = m_store.value(textSizeKey, 100).toInt();
+    return percent >= smallestTextPercent && percent <= greatestTextPercent ? percent : 100;
+}
+
+void UiSettings::setTextPercent(int percent)
+{
+    m_store.setValue(textSizeKey, percent);
+}
+
+bool UiSettings::motionOff() const
+{
+    return m_store.value(motionOffKey, false).toBool();
+}
+
+void UiSettings::setMotionOff(bool off)
+{
+    m_store.setValue(motionOffKey, off);
+}
+
+bool UiSettings::store()
+{
+    m_store.sync();
+    return m_store.status() == QSettings::NoError;
 }
 
 UiSettings::PasswordShape UiSettings::passwordShape(const QString &windowName) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "style/Theme.h"
+
 #include <QSettings>
 
 class QWidget;
@@ -23,6 +25,22 @@ public:
     void restoreGeometry(QWidget &window) const;
     void saveSplitter(const QString &windowName, const QByteArray &state);
     QByteArray splitter(const QString &windowName) const;
+
+    /// The page that was open in the settings' window.
+    int tabIndex(const QString &windowName) const;
+    void setTabIndex(const QString &windowName, int index);
+
+    /// How the windows look.
+    Theme::Mode themeMode() const;
+    void setThemeMode(Theme::Mode mode);
+    int textPercent() const;
+    void setTextPercent(int percent);
+    bool motionOff() const;
+    void setMotionOff(bool off);
+
+    /// Writes what was set now. False when that fails.
+    bool store();
+    QString filePath() const { return m_store.fileName(); }
 
     /// What the generator's window was set to.
     struct PasswordShape

@@ -35,7 +35,7 @@ PasswordGeneratorDialog::PasswordGeneratorDialog(const Parts &parts, const Theme
 {
     setObjectName(QStringLiteral("PasswordGenerator"));
     setAttribute(Qt::WA_DeleteOnClose);
-    setMinimumWidth(usualWidth);
+    setMinimumWidth(Style::scaled(usualWidth));
     auto *entries = new QVBoxLayout(m_recent);
     entries->setContentsMargins({});
     entries->setSpacing(0);

@@ -21,7 +21,7 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
     setWindowTitle(question.title);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     const auto *frame = new WindowFrame(*this, WindowFrame::Fixed);
-    setMinimumWidth(smallestWidth + frame->addition().width());
+    setMinimumWidth(Style::scaled(smallestWidth) + frame->addition().width());
 
     auto *heading = makeLabel(question.title, "heading", this);
     heading->setWordWrap(true);

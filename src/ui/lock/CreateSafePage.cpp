@@ -88,7 +88,7 @@ void CreateSafePage::layOut()
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         column->addWidget(m_fields[i]);
         // Its place stays when it is empty, so that nothing jumps while one types.
-        m_messages[i]->setFixedHeight(27);
+        m_messages[i]->setFixedHeight(Style::scaled(27));
         m_messages[i]->setContentsMargins(2, 2, 0, 0);
         m_messages[i]->setAlignment(Qt::AlignTop);
         column->addWidget(m_messages[i]);
@@ -102,7 +102,7 @@ void CreateSafePage::layOut()
     column->addLayout(buttons);
 
     auto *frame = new QWidget(this);
-    frame->setFixedWidth(columnWidth);
+    frame->setFixedWidth(Style::scaled(columnWidth));
     frame->setLayout(column);
     auto *all = new QVBoxLayout(this);
     all->addStretch(3);

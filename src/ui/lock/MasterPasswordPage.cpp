@@ -109,7 +109,7 @@ void MasterPasswordPage::layOut()
     column->setSpacing(0);
 
     auto *frame = new QWidget(this);
-    frame->setFixedWidth(columnWidth);
+    frame->setFixedWidth(Style::scaled(columnWidth));
     column->setContentsMargins({});
     frame->setLayout(column);
 

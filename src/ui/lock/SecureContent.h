@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QVariantMap>
 #include <QWidget>
 
 #include <memory>
@@ -25,6 +26,10 @@ public:
 
     /// Keeps controls out of the way of the window's buttons, which take a place at the top right.
     virtual void leaveRoom(const QSize &buttons) = 0;
+
+    /// Where the user is in the open safe, for a content that takes the place of this one.
+    virtual QVariantMap place() const { return {}; }
+    virtual void goTo(const QVariantMap &) {}
 
     virtual QByteArray splitterState() const = 0;
     virtual void restoreSplitter(const QByteArray &state) = 0;

@@ -18,6 +18,7 @@
 #include <QGraphicsOpacityEffect>
 #include <QPropertyAnimation>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QShortcut>
 
 #include <utility>
@@ -44,8 +45,7 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
 {
     setObjectName(QStringLiteral("SecureWindow"));
     setWindowIcon(QIcon(QStringLiteral(":/trayicon.png")));
-    setMinimumSize(smallestSize + m_frame->addition());
-    resize(usualSize + m_frame->addition());
+    fitScreen();
     showTitle();
     m_pages->setGraphicsEffect(m_fade);
     m_content->setParent(this);
@@ -66,6 +66,19 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     followSafe();
 }
 
+void SecureWindow::fitScreen()
+{
+    // Large texts want a large window, but one that is not larger than the screen.
+    const auto fitting = [this](const QSize &size) {
+        const QSize grown(Style::scaled(size.width()), Style::scaled(size.height()));
+        return grown.boundedTo(screen()->availableSize()).expandedTo(smallestSize);
+    };
+    // Rather larger than a small screen than cut off within.
+    const QSize smallest = fitting(smallestSize).expandedTo(m_content->minimumSizeHint());
+    setMinimumSize(smallest + m_frame->addition());
+    resize(fitting(usualSize) + m_frame->addition());
+}
+
 void SecureWindow::configureStateMachine()
 {
     QElapsedTimer timer;
@@ -81,8 +94,8 @@ void SecureWindow::configureStateMachine()
     m_slide = new QPropertyAnimation(this, "openProgress", this);
     m_slide->setEasingCurve(QEasingCurve::OutCubic);
     m_machine.addDefaultAnimation(m_slide);
-    m_machine.setInitialState(closed);
-    // A safe may have been opened before the machine ran.
+    m_machine.setInitialState(safeIsOpen() ? opened : closed);
+    // A safe may have been opened or locked before the machine ran.
     connect(&m_machine, &QStateMachine::started, this, &SecureWindow::moveShutters);
     connect(m_pages, &PagesStack::keyTurned, this, &SecureWindow::moveShutters);
     m_machine.start();
@@ -126,10 +139,15 @@ void SecureWindow::showTitle()
     setWindowTitle(m_open ? tr("%1 - %2").arg(m_core.currentSafe()->name(), program) : program);
 }
 
-void SecureWindow::followSafe()
+bool SecureWindow::safeIsOpen() const
 {
     const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
-    const bool open = safe && safe->isUnlocked();
+    return safe && safe->isUnlocked();
+}
+
+void SecureWindow::followSafe()
+{
+    const bool open = safeIsOpen();
     if (open == m_open)
         return;
     m_open = open;
@@ -137,7 +155,7 @@ void SecureWindow::followSafe()
     m_content->setEnabled(open);
     m_pages->clearSecrets();
     if (open) {
-        m_content->openSafe(safe);
+        m_content->openSafe(m_core.currentSafe());
         showLayers();
         m_content->takeFocus();
         m_pages->turnKey();

@@ -72,9 +72,11 @@ protected:
 private:
     enum class SaveAnswer { Saved, Lose, Cancel };
 
+    void fitScreen();
     void configureStateMachine();
     void leaveSafe(void (GPMAppCore::*way)());
     SaveAnswer saveOrAsk();
+    bool safeIsOpen() const;
     void followSafe();
     void moveShutters();
     void showLayers();

@@ -24,7 +24,7 @@ CategoryDelegate::CategoryDelegate(const Theme &theme, QObject *parent)
 QSize CategoryDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &index) const
 {
     const bool startsGroup = index.data(CategoryModel::StartsGroupRole).toBool();
-    return {0, rowHeight + (startsGroup ? groupGap : 0)};
+    return {0, Style::scaled(rowHeight) + (startsGroup ? groupGap : 0)};
 }
 
 QRect CategoryDelegate::rowRect(const QRect &item, const QModelIndex &index)
@@ -69,9 +69,9 @@ void CategoryDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     font.setWeight(selected ? QFont::DemiBold : QFont::Normal);
     painter->setFont(font);
     painter->setPen(text);
-    painter->drawText(row.adjusted(37, 0, -44, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                      index.data().toString());
-    font.setPixelSize(11);
+    painter->drawText(row.adjusted(19 + side, 0, -Style::scaled(44), 0),
+                      Qt::AlignVCenter | Qt::AlignLeft, index.data().toString());
+    font.setPixelSize(Style::scaled(11));
     painter->setFont(font);
     painter->setPen(selected ? text : palette.color(Palette::SidebarMuted));
     painter->drawText(row.adjusted(0, 0, -10, 0), Qt::AlignVCenter | Qt::AlignRight,

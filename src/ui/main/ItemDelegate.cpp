@@ -36,7 +36,7 @@ ItemDelegate::ItemDelegate(const Theme &theme, SiteIcons *icons, QObject *parent
 
 QSize ItemDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
-    return {0, rowHeight};
+    return {0, Style::scaled(rowHeight)};
 }
 
 void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -47,12 +47,13 @@ void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     painter->setRenderHint(QPainter::Antialiasing);
     paintGround(*painter, row, option);
 
-    QRectF tile(row.left() + 12, 0, tileSize, tileSize);
-    tile.moveTop(row.top() + (row.height() - tileSize) / 2.0);
+    const int side = Style::scaled(tileSize);
+    QRectF tile(row.left() + 12, 0, side, side);
+    tile.moveTop(row.top() + (row.height() - side) / 2.0);
     painter->setFont(option.font);
     paintTile(*painter, tile, index);
 
-    QRect texts = row.adjusted(58, 8, -12, -8);
+    QRect texts = row.adjusted(24 + side, 8, -12, -8);
     if (index.data(ItemListModel::FavoriteRole).toBool()) {
         const QRectF star(row.right() - 12 - starSize, row.center().y() - starSize / 2.0, starSize,
                           starSize);

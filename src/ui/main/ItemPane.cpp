@@ -70,7 +70,7 @@ void ItemPane::makeFooter()
     m_footer = new QWidget(this);
     m_footer->setObjectName(QStringLiteral("footer"));
     m_footer->setAttribute(Qt::WA_StyledBackground);
-    m_footer->setFixedHeight(footerHeight);
+    m_footer->setFixedHeight(Style::scaled(footerHeight));
     m_notice = new CopyNotice(m_core.clipboard(), m_theme, m_footer);
     m_remove = footerButton(tr("Remove"), "plain", "removeButton", &ItemPane::requestRemove);
     m_remove->setIcon(m_theme.icon(QStringLiteral("trash"), Palette::Text));

@@ -13,6 +13,7 @@
 #include "Sidebar.h"
 #include "drafts/DraftKeeper.h"
 #include "drafts/DraftOffer.h"
+#include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/SnackBar.h"
 
@@ -72,7 +73,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
 void MainView::layOut()
 {
     m_list->setMinimumWidth(smallestListWidth);
-    m_right->setMinimumWidth(smallestItemWidth);
+    m_right->setMinimumWidth(Style::scaled(smallestItemWidth));
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setHandleWidth(1);
     m_splitter->setStretchFactor(0, 0);
@@ -229,6 +230,21 @@ void MainView::leaveRoom(const QSize &buttons)
     const int above = 10;
     m_pane->setContentsMargins(0, qMax(0, buttons.height() - above), 0, 0);
     m_banner->setContentsMargins(0, 0, buttons.width(), 0);
+}
+
+QVariantMap MainView::place() const
+{
+    const ItemCategory &category = m_list->category();
+    return {{QStringLiteral("category"), ItemCategory::all().indexOf(category)},
+            {QStringLiteral("item"), m_pane->shownId()}};
+}
+
+void MainView::goTo(const QVariantMap &place)
+{
+    const int row = place.value(QStringLiteral("category"), 0).toInt();
+    showCategory(ItemCategory::all().value(row));
+    m_list->setCurrent(place.value(QStringLiteral("item")).toString());
+    showCurrent();
 }
 
 QByteArray MainView::splitterState() const

@@ -33,6 +33,8 @@ public:
     void takeFocus() override;
     bool mayLeave() override;
     void leaveRoom(const QSize &buttons) override;
+    QVariantMap place() const override;
+    void goTo(const QVariantMap &place) override;
     QByteArray splitterState() const override;
     void restoreSplitter(const QByteArray &state) override;
 

@@ -26,7 +26,7 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
 {
     setObjectName(QStringLiteral("sidebar"));
     setAttribute(Qt::WA_StyledBackground);
-    setFixedWidth(sidebarWidth);
+    setFixedWidth(Style::scaled(sidebarWidth));
     connect(m_switcher, &SafeSwitcher::safeChosen, this, &Sidebar::safeChosen);
     connect(m_switcher, &SafeSwitcher::createRequested, this, &Sidebar::createSafeRequested);
     connect(m_switcher, &SafeSwitcher::lockRequested, this, &Sidebar::lockRequested);

@@ -18,16 +18,42 @@ Theme::Theme(QObject *parent)
 
 void Theme::apply()
 {
+    if (m_applied)
+        return;
     Style::registerFonts();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     m_applied = true;
-    setDark(SystemLook::isDark());
+    followMode();
     qApp->setStyleSheet(Style::styleSheet(*m_palette));
     qApp->installEventFilter(this);
     new PopUpEase(*this, this);
     auto *motion = new MotionWatch(this);
     connect(motion, &MotionWatch::told, this, &Theme::setReducedMotion);
     motion->start();
+}
+
+void Theme::setMode(Mode mode)
+{
+    m_mode = mode;
+    followMode();
+}
+
+void Theme::followMode()
+{
+    setDark(m_mode == Mode::Dark || (m_mode == Mode::System && SystemLook::isDark()));
+}
+
+void Theme::setTextPercent(int percent)
+{
+    if (percent == Style::textPercent())
+        return;
+    Style::setTextPercent(percent);
+    if (!m_applied)
+        return;
+    QFont font = QApplication::font();
+    font.setPointSize(Style::basePointSize());
+    QApplication::setFont(font);
+    qApp->setStyleSheet(Style::styleSheet(*m_palette));
 }
 
 QIcon Theme::icon(const QString &name, Palette::Role role) const
@@ -57,6 +83,6 @@ bool Theme::eventFilter(QObject *watched, QEvent *event)
     // to look.
     if (watched == qApp && (event->type() == QEvent::ApplicationPaletteChange ||
                             event->type() == QEvent::ApplicationStateChange))
-        setDark(SystemLook::isDark());
+        followMode();
     return QObject::eventFilter(watched, event);
 }

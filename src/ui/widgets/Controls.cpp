@@ -37,7 +37,7 @@ QToolButton *makeIconButton(const QIcon &icon, const QString &name, const char *
     button->setFocusPolicy(Qt::TabFocus);
     button->setCursor(Qt::PointingHandCursor);
     const bool small = qstrcmp(look, "plain") == 0;
-    const int side = small ? 28 : Style::controlHeight;
+    const int side = small ? Style::scaled(28) : Style::controlHeight;
     button->setFixedSize(side, side);
     return button;
 }

@@ -104,8 +104,8 @@ void SnackBar::place()
     const QSize room = parentWidget()->size();
     const int width =
         qMin(qMin(widest, qMax(sizeHint().width(), 280)), room.width() - 2 * Style::margin);
-    const int way = qRound((barHeight + Style::margin) * m_shown);
-    setGeometry((room.width() - width) / 2, room.height() - way, width, barHeight);
+    const int way = qRound((Style::scaled(barHeight) + Style::margin) * m_shown);
+    setGeometry((room.width() - width) / 2, room.height() - way, width, Style::scaled(barHeight));
 }
 
 void SnackBar::showSeconds()

@@ -1,6 +1,7 @@
 #include "StrengthMeter.h"
 
 #include "PasswordStrength.h"
+#include "style/Style.h"
 #include "style/Theme.h"
 
 #include <QFontMetrics>
@@ -36,7 +37,7 @@ void StrengthMeter::setLevel(int level)
 QFont StrengthMeter::badgeFont() const
 {
     QFont small = font();
-    small.setPixelSize(11);
+    small.setPixelSize(Style::scaled(11));
     small.setWeight(QFont::DemiBold);
     return small;
 }
@@ -49,7 +50,7 @@ QSize StrengthMeter::sizeHint() const
         word =
             qMax(word, QFontMetrics(badgeFont()).horizontalAdvance(passwordStrengthLabel(level)));
     return {bars * barWidth + (bars - 1) * barGap + badgeGap + word + 2 * badgePadding,
-            badgeHeight};
+            Style::scaled(badgeHeight)};
 }
 
 void StrengthMeter::paintEvent(QPaintEvent *)
@@ -69,12 +70,13 @@ void StrengthMeter::paintEvent(QPaintEvent *)
     }
 
     const QString word = passwordStrengthLabel(m_level);
+    const int badgeSide = Style::scaled(badgeHeight);
     const QFont font = badgeFont();
     const int width = QFontMetrics(font).horizontalAdvance(word) + 2 * badgePadding;
     const QRectF badge(bars * barWidth + (bars - 1) * barGap + badgeGap,
-                       (height() - badgeHeight) / 2.0, width, badgeHeight);
+                       (height() - badgeSide) / 2.0, width, badgeSide);
     painter.setBrush(palette.tint(color));
-    painter.drawRoundedRect(badge, badgeHeight / 2.0, badgeHeight / 2.0);
+    painter.drawRoundedRect(badge, badgeSide / 2.0, badgeSide / 2.0);
     painter.setPen(color);
     painter.setFont(font);
     painter.drawText(badge, Qt::AlignCenter, word);

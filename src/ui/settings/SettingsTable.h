@@ -1,0 +1,49 @@
+#pragma once
+
+#include "Setting.h"
+
+class GPMAppSettings;
+class PMTranslator;
+class Theme;
+class UiSettings;
+
+/// All that the user can set, in the order in which it is shown.
+class SettingsTable
+{
+    Q_DECLARE_TR_FUNCTIONS(SettingsTable)
+
+public:
+    /// What is set; all of it outlives the settings.
+    struct Parts
+    {
+        GPMAppSettings &settings;
+        UiSettings &uiSettings;
+        Theme &theme;
+        const PMTranslator &translator;
+        /// They make the windows anew; false when the user does not want that now.
+        std::function<bool(const QString &)> setLanguage;
+        std::function<bool(int)> setTextPercent;
+    };
+
+    explicit SettingsTable(const Parts &parts);
+
+    QVector<Setting> settings() const;
+
+    static QString pageName(Setting::Page page);
+    static QString pageIcon(Setting::Page page);
+
+private:
+    QVector<Setting> general() const;
+    QVector<Setting> security() const;
+    QVector<Setting> browser() const;
+    QVector<Setting> backup() const;
+    QVector<Setting> hotkeys() const;
+    QVector<Setting> appearance() const;
+
+    /// Lets a setting read and write a property of the application's settings.
+    Setting bound(Setting setting, const char *property) const;
+    QString storeSettings() const;
+    QString storeUiSettings() const;
+
+    Parts m_parts;
+};
