@@ -19,7 +19,7 @@ CategoryListView::CategoryListView(CategoryModel &model, const Theme &theme, QWi
     setModel(&model);
     setItemDelegate(new CategoryDelegate(theme, this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setMouseTracking(true);
     setDragDropMode(DropOnly);
 }

@@ -33,7 +33,7 @@ SafeSwitcher::SafeSwitcher(const Theme &theme, QWidget *parent)
     setProperty("look", QStringLiteral("switcher"));
     setCursor(Qt::PointingHandCursor);
     setToolTip(tr("Switch to another safe"));
-    setFixedHeight(switcherHeight);
+    setFixedHeight(Style::scaled(switcherHeight));
     m_menu->setObjectName(QStringLiteral("safeMenu"));
     setMenu(m_menu);
     connect(m_menu, &QMenu::aboutToShow, this, &SafeSwitcher::fillMenu);
