@@ -112,6 +112,7 @@ int main(int argc, char *argv[])
              << "Start socket server...";
     core.startServer();
     ui.connectCore();
+    core.startWatching();
     QObject::connect(&application, &QtSingleApplication::messageReceived, &ui,
                      &PMUiProvider::bringToFront);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &core,

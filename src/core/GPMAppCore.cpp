@@ -71,6 +71,23 @@ void GPMAppCore::startGuard()
     m_guardTimer.start(LockGuard::checkMs);
 }
 
+void GPMAppCore::startWatching()
+{
+    m_sessionWatch = SessionWatch::create();
+    connect(m_sessionWatch.get(), &SessionWatch::happened, &m_guard, &LockGuard::onSessionEvent);
+    m_hotkeys = std::make_unique<Hotkeys>(m_settings, SystemHotkeys::create());
+    connect(m_hotkeys.get(), &Hotkeys::lockPressed, this, &GPMAppCore::lockCurrentSafe);
+    connect(m_hotkeys.get(), &Hotkeys::pluginPressed, this,
+            [this] { Q_EMIT requestShowMainWindow(QString()); });
+    connect(m_hotkeys.get(), &Hotkeys::taken, this, [this](const QString &combination) {
+        Q_EMIT message(tr("Can't use the hotkey."),
+                       tr("%1 is used by another program. Choose another combination in the "
+                          "settings, or end that program and start this one anew.")
+                           .arg(combination));
+    });
+    m_hotkeys->start();
+}
+
 void GPMAppCore::startServer()
 {
     if (m_server)

@@ -4,10 +4,12 @@
 #include "FormFillFlow.h"
 #include "GPMAppSettings.h"
 #include "GPMWebSocketServer.h"
+#include "Hotkeys.h"
 #include "KnownSafes.h"
 #include "LockGuard.h"
 #include "Platform.h"
 #include "PrivateFiles.h"
+#include "SessionWatch.h"
 
 #include <QObject>
 #include <QTimer>
@@ -43,6 +45,10 @@ public:
     /// Brings up the link to the browser extension. A port that is taken is logged and leaves the
     /// program without the link. Once, before the first command on an item.
     void startServer();
+
+    /// Registers the hotkeys and listens to what happens to the user's session. Once, when the
+    /// signals are connected.
+    void startWatching();
 
     GPMAppSettings &settings() { return m_settings; }
     KnownSafes &knownSafes() { return m_knownSafes; }
@@ -166,6 +172,8 @@ private:
     PrivateFiles m_privateFiles;
     LockGuard m_guard;
     QTimer m_guardTimer;
+    std::unique_ptr<Hotkeys> m_hotkeys;
+    std::unique_ptr<SessionWatch> m_sessionWatch;
     QString m_lockReason;
     quint16 m_port;
     std::unique_ptr<GPMWebSocketServer> m_server;

@@ -1,0 +1,54 @@
+#include "SessionMessages.h"
+
+#include "MessageWindow.h"
+
+#include <wtsapi32.h>
+
+namespace {
+
+class SessionMessageWindow : public SessionMessages
+{
+public:
+    explicit SessionMessageWindow(const Handler &handler)
+        : m_handler(handler)
+        , m_window([this](UINT message, WPARAM word, LPARAM) { onMessage(message, word); })
+    {
+        if (m_window.handle())
+            WTSRegisterSessionNotification(m_window.handle(), NOTIFY_FOR_THIS_SESSION);
+    }
+    ~SessionMessageWindow() override
+    {
+        if (m_window.handle())
+            WTSUnRegisterSessionNotification(m_window.handle());
+    }
+
+private:
+    void onMessage(UINT message, WPARAM word) const
+    {
+        struct Row
+        {
+            UINT message;
+            WPARAM word;
+            Event event;
+        };
+        static const Row rows[] = {
+            {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, Event::Locked},
+            {WM_WTSSESSION_CHANGE, WTS_CONSOLE_DISCONNECT, Event::UserSwitched},
+            {WM_WTSSESSION_CHANGE, WTS_REMOTE_DISCONNECT, Event::UserSwitched},
+            {WM_POWERBROADCAST, PBT_APMSUSPEND, Event::GoingToSleep}};
+        for (const Row &row : rows) {
+            if (row.message == message && row.word == word)
+                m_handler(row.event);
+        }
+    }
+
+    Handler m_handler;
+    MessageWindow m_window;
+};
+
+} // namespace
+
+std::unique_ptr<SessionMessages> SessionMessages::create(const Handler &handler)
+{
+    return std::make_unique<SessionMessageWindow>(handler);
+}
