@@ -99,7 +99,7 @@ class SystemHotkeysLinux : public SystemHotkeys
 public:
     Result add(int id, const Combination &combination) override
     {
-        Display *display = XConnection::isGuest() ? nullptr : m_server.display();
+        Display *display = m_server.display();
         if (!display)
             return Result::Unsupported;
         const KeyCode code = XKeysymToKeycode(display, keySym(combination.key));
@@ -196,7 +196,7 @@ private:
         }
     }
 
-    XConnection m_server;
+    XConnection m_server{!XConnection::isGuest()};
     std::map<int, Grab> m_grabs;
 };
 

@@ -13,8 +13,7 @@ public:
     {
         int event = 0;
         int error = 0;
-        if (!XConnection::isGuest() && m_server.display() &&
-            XScreenSaverQueryExtension(m_server.display(), &event, &error))
+        if (m_server.display() && XScreenSaverQueryExtension(m_server.display(), &event, &error))
             m_info.reset(XScreenSaverAllocInfo());
     }
 
@@ -54,7 +53,7 @@ private:
                m_server.display();
     }
 
-    XConnection m_server;
+    XConnection m_server{!XConnection::isGuest()};
     std::unique_ptr<XScreenSaverInfo, Free> m_info;
 };
 

@@ -7,7 +7,8 @@
 class XConnection
 {
 public:
-    XConnection();
+    /// @param wanted without it there is none, either
+    explicit XConnection(bool wanted = true);
     ~XConnection();
     XConnection(const XConnection &) = delete;
     XConnection &operator=(const XConnection &) = delete;
