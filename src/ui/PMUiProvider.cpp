@@ -3,6 +3,7 @@
 #include "GPMAppCore.h"
 #include "SideWindows.h"
 #include "TrayIcon.h"
+#include "WindowActivation.h"
 #include "dialogs/Question.h"
 #include "lock/PagesStack.h"
 #include "lock/SecureWindow.h"
@@ -209,6 +210,7 @@ void PMUiProvider::bringToFront()
         return;
     m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     m_window->show();
+    putInFront(*m_window->windowHandle());
     m_window->raise();
     m_window->activateWindow();
 }
