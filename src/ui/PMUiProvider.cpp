@@ -91,6 +91,8 @@ void PMUiProvider::createMainWindow()
 void PMUiProvider::connectView(const MainView &view)
 {
     connect(&view, &MainView::generatorRequested, m_sideWindows.get(), &SideWindows::openGenerator);
+    connect(&view, &MainView::fieldGeneratorRequested, m_sideWindows.get(),
+            &SideWindows::openGeneratorFor);
     connect(&view, &MainView::settingsRequested, m_sideWindows.get(), &SideWindows::openSettings);
     connect(&view, &MainView::lockRequested, this, &PMUiProvider::lock);
     connect(&view, &MainView::safeChosen, m_window.get(), &SecureWindow::switchSafe);

@@ -3,8 +3,11 @@
 #include "PMIdentity.h"
 #include "PMItemFactory.h"
 #include "PMLogin.h"
+#include "editor/CardNumber.h"
+#include "editor/DateText.h"
 #include "editor/FieldRules.h"
 #include "editor/ItemDraft.h"
+#include "editor/ItemSummary.h"
 #include "main/ItemFields.h"
 
 #include <QMetaProperty>
@@ -21,6 +24,11 @@ private Q_SLOTS:
     void valuesAsAPersonReadsThem();
     void urls_data();
     void urls();
+    void days_data();
+    void days();
+    void cardNumbers_data();
+    void cardNumbers();
+    void summariesNameTheItemAlone();
     void draftLeavesTheItemAlone();
     void writingCompletesTheLogin();
 
@@ -112,6 +120,121 @@ void TestItemFields::urls()
     QFETCH(QString, entered);
     QTEST(FieldRules::isUrl(entered), "valid");
     QTEST(FieldRules::completeUrl(entered), "complete");
+}
+
+void TestItemFields::days_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("entered");
+    QTest::addColumn<QString>("day");   // as it is stored; "none" for what is no day
+    QTest::addColumn<QString>("month"); // the same, read as the month of a card
+    const auto row = [](const char *locale, const char *entered, const char *day,
+                        const char *month) {
+        QTest::addRow("%s %s", locale, entered)
+            << QString::fromLatin1(locale) << QString::fromUtf8(entered) << QString::fromLatin1(day)
+            << QString::fromLatin1(month);
+    };
+    row("C", "", "00000000", "00000000");
+    row("C", "29 February 1984", "19840229", "none");
+    row("C", "29 February 1985", "none", "none");
+    row("C", "1984-02-29", "19840229", "none");
+    row("C", "19840229", "19840229", "19840229");
+    row("C", "19840200", "19840200", "19840200");
+    row("en_US", "12/31/1984", "19841231", "none");
+    row("en_US", "31/12/1984", "none", "none");
+    row("en_GB", "31/12/1984", "19841231", "none");
+    row("de_DE", "31.12.1984", "19841231", "none");
+    row("de_DE", "31.12.84", "none", "none");
+    row("de_DE", "31. Dezember 1984", "19841231", "none");
+    row("de_DE", "31 December 1984", "19841231", "none");
+    row("es_ES", "31 de diciembre de 1984", "19841231", "none");
+    row("ru_RU", "31 декабря 1984 г.", "19841231", "none");
+    row("C", "01/27", "none", "20270100");
+    row("C", "0127", "none", "20270100");
+    row("C", "1 / 2027", "none", "20270100");
+    row("C", "2027-01", "none", "20270100");
+    row("C", "13/27", "none", "none");
+    row("C", "January 2027", "none", "20270100");
+    row("de_DE", "Januar 2027", "none", "20270100");
+    row("C", "soon", "none", "none");
+}
+
+void TestItemFields::days()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, entered);
+    const QLocale tongue(locale);
+    const auto stored = [](const std::optional<PMFieldTypes::Date> &date) {
+        return date ? date->toText() : QStringLiteral("none");
+    };
+    const auto day = DateText::parseDay(entered, tongue);
+    QTEST(stored(day), "day");
+    QTEST(stored(DateText::parseMonth(entered, tongue)), "month");
+    // What the editor writes, it reads.
+    if (day)
+        QCOMPARE(stored(DateText::parseDay(DateText::day(*day, tongue), tongue)), stored(day));
+}
+
+void TestItemFields::cardNumbers_data()
+{
+    QTest::addColumn<QString>("entered");
+    QTest::addColumn<QString>("grouped");
+    QTest::addColumn<int>("brand");
+    const auto row = [](const char *entered, const char *grouped,
+                        PMCreditCard::CreditCardType brand) {
+        QTest::newRow(entered) << QString::fromLatin1(entered) << QString::fromLatin1(grouped)
+                               << int(brand);
+    };
+    const auto none = PMCreditCard::UndefinedCard;
+    row("", "", none);
+    row("4", "4", PMCreditCard::Visa);
+    row("4111-1111-1111-1111", "4111 1111 1111 1111", PMCreditCard::Visa);
+    row("4111111111111111110", "4111 1111 1111 1111 110", PMCreditCard::Visa);
+    row("50", "50", none);
+    row("51", "51", PMCreditCard::MasterCard);
+    row("55", "55", PMCreditCard::MasterCard);
+    row("56", "56", none);
+    row("2220", "2220", none);
+    row("222", "222", none);
+    row("2221", "2221", PMCreditCard::MasterCard);
+    row("27209", "2720 9", PMCreditCard::MasterCard);
+    row("2721", "2721", none);
+    row("378282246310005", "3782 822463 10005", none);
+    row("34000", "3400 0", none);
+    row("4111 x", "4111 x", PMCreditCard::Visa);
+}
+
+void TestItemFields::cardNumbers()
+{
+    QFETCH(QString, entered);
+    QTEST(CardNumber::grouped(entered), "grouped");
+    QTEST(int(CardNumber::brand(entered)), "brand");
+}
+
+void TestItemFields::summariesNameTheItemAlone()
+{
+    const auto summary = [](PMListItem::Type type,
+                            std::initializer_list<std::pair<const char *, const char *>> values) {
+        const auto item = makeItem(type);
+        for (const auto &value : values)
+            item->setProperty(value.first, QString::fromLatin1(value.second));
+        return itemSummary(*item);
+    };
+    const QString end = QString(4, QChar(0x2022)) + QLatin1Char(' ');
+    QCOMPARE(summary(PMListItem::CreditCard, {{"number", "5555 5555 5555 4444"}, {"bank", "B"}}),
+             end + QStringLiteral("4444"));
+    QCOMPARE(summary(PMListItem::CreditCard, {{"bank", "B"}, {"code", "123"}}),
+             QStringLiteral("B"));
+    QCOMPARE(summary(PMListItem::BankAccount, {{"iban", "GB33 BUKB 2020 1555"}, {"pin", "4711"}}),
+             end + QStringLiteral("1555"));
+    // The end would be most of it.
+    QCOMPARE(summary(PMListItem::Passport, {{"number", "123456"}, {"country", "Spain"}}),
+             QStringLiteral("Spain"));
+    QCOMPARE(summary(PMListItem::Identity, {{"city", "Bristol"}, {"lastName", "Martin"}}),
+             QStringLiteral("Bristol"));
+    QCOMPARE(summary(PMListItem::SSN, {{"number", "QQ123456C"}}), QString());
+    QCOMPARE(summary(PMListItem::SecureNote, {{"text", "the code is 1234"}}), QString());
+    QCOMPARE(summary(PMListItem::SoftwareLicense, {{"licenseKey", "ABCD-1234-5678"}}), QString());
 }
 
 void TestItemFields::draftLeavesTheItemAlone()

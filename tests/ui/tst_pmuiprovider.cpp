@@ -1,13 +1,16 @@
 #include "PMUiProvider.h"
+#include "PasswordStrength.h"
 #include "SplashScreen.h"
 #include "UiTesting.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QSettings>
 #include <QToolButton>
 
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void guardLocksThroughMenuAndDialog();
     void requestsKeepWhatIsEntered();
     void withoutATrayNothingIsHidden();
+    void generatorFillsThePasswordOfAnItem();
     void menuEndsTheProgram();
     void splashStaysItsTime();
 };
@@ -230,6 +234,26 @@ void TestPMUiProvider::withoutATrayNothingIsHidden()
     QVERIFY(!ui.window().isMinimized());
     ui.window().close();
     QVERIFY(ui.window().isVisible() && ui.window().isMinimized());
+}
+
+void TestPMUiProvider::generatorFillsThePasswordOfAnItem()
+{
+    TestCore test;
+    Ui ui(test);
+    ui.window().show();
+    QVERIFY(test.createSafe());
+    const QString id = test.addLogin(QStringLiteral("Shop"));
+    auto *list = find<QAbstractItemView>(ui.window(), "itemList");
+    list->setCurrentIndex(list->model()->index(0, 0));
+    find<QToolButton>(ui.window(), "passwordGenerateButton")->click();
+    auto *generator = find<QDialog>(ui.window(), "PasswordGenerator");
+    QVERIFY(generator && generator->isVisible());
+    const QString made = find<QLineEdit>(*generator, "generatedPassword")->text();
+    find<QPushButton>(*generator, "placeButton")->click();
+    QCOMPARE(find<QLineEdit>(ui.window(), "passwordField")->text(), made);
+    find<QPushButton>(ui.window(), "saveButton")->click();
+    QCOMPARE(test.login(id)->password(), made);
+    QCOMPARE(int(test.login(id)->strength()), passwordStrengthLevel(made));
 }
 
 void TestPMUiProvider::menuEndsTheProgram()

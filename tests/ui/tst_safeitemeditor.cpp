@@ -1,22 +1,28 @@
 #include "GPMSafe.h"
 #include "PMCreditCard.h"
+#include "PMItemFactory.h"
 #include "UiTesting.h"
 #include "editor/EditorDefaults.h"
 #include "editor/FieldRules.h"
 #include "editor/SafeItemEditor.h"
+#include "main/ItemKinds.h"
+#include "main/ItemPage.h"
 #include "main/ItemPane.h"
 #include "main/MainView.h"
 #include "style/Theme.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QMetaProperty>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QToolButton>
 
 #include <functional>
 
@@ -40,6 +46,11 @@ struct Editing
             qFatal("No safe to test with");
         view.resize(1000, 680);
         view.show();
+        activate();
+    }
+    /// The offscreen platform lets a pop-up take the window's place.
+    void activate()
+    {
         view.activateWindow();
         if (!QTest::qWaitForWindowActive(&view))
             qFatal("The view got no keyboard");
@@ -62,10 +73,7 @@ struct Editing
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        // The offscreen platform lets a pop-up take the window's place.
-        view.activateWindow();
-        if (!QTest::qWaitForWindowActive(&view))
-            qFatal("The view got no keyboard");
+        activate();
         QWidget *focus = QApplication::focusWidget();
         QTest::keyClick(focus ? focus : &view, key, modifiers);
     }
@@ -195,6 +203,12 @@ private Q_SLOTS:
     void aMeanwhileChangeIsNotSetBack();
     void madePasswordGoesWhereItWasAskedFor();
     void countryDefaults();
+    void datesAndCountriesAreChosenByKeyboard();
+    void everyKindIsMadeFromTheMenu();
+    void aClickCopies();
+    void whatExpiresIsMarked_data();
+    void whatExpiresIsMarked();
+    void wayOfLoggingInIsChangedOnThePage();
 };
 
 void TestSafeItemEditor::everyKindKeepsWhatIsTyped_data()
@@ -444,7 +458,7 @@ void TestSafeItemEditor::madePasswordGoesWhereItWasAskedFor()
     Editing editing;
     SafeItemEditor::Place place;
     connect(editing.field<ItemPane>("itemPane"), &ItemPane::generatorRequested, &editing.view,
-            [&place](const SafeItemEditor::Place &wanted) { place = wanted; });
+            [&place](QObject *, const SafeItemEditor::Place &wanted) { place = wanted; });
     editing.openNew(PMListItem::FtpAccount);
     editing.field("passwordField")
         ->findChild<QAction *>(QStringLiteral("generateAction"))
@@ -478,6 +492,139 @@ void TestSafeItemEditor::countryDefaults()
     QVERIFY(!editing.field<SafeItemEditor>("itemEditor")->isModified());
     QVERIFY(editing.view.mayLeave());
     QVERIFY(editing.asker.asked.isEmpty());
+}
+
+void TestSafeItemEditor::datesAndCountriesAreChosenByKeyboard()
+{
+    Editing editing;
+    const auto inPopup = [](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QWidget *popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+        QWidget *focus = popup->focusWidget();
+        QTest::keyClick(focus ? focus : popup, key, modifiers);
+    };
+    editing.openNew(PMListItem::Identity);
+    QLineEdit *day = editing.field("birthDateField");
+    QTest::keyClicks(day, QStringLiteral("1984-02-28"));
+    day->findChild<QAction *>(QStringLiteral("calendarAction"))->trigger();
+    inPopup(Qt::Key_Right);
+    inPopup(Qt::Key_Return);
+    QCOMPARE(day->text(), QStringLiteral("29 February 1984"));
+
+    editing.activate();
+    QLineEdit *code = editing.field("phoneCode");
+    code->setFocus();
+    replace(code, QString());
+    QTest::keyClicks(code, QStringLiteral("germ"));
+    inPopup(Qt::Key_Down);
+    inPopup(Qt::Key_Return);
+    QCOMPARE(code->text(), QStringLiteral("+49"));
+    // A name that is typed to its end needs no choosing.
+    replace(code, QStringLiteral("france"));
+    editing.field("phoneField")->setFocus();
+    QCOMPARE(code->text(), QStringLiteral("+33"));
+    QCOMPARE(editing.message("phone"), QString());
+    find<QPushButton>(editing.view, "discardButton")->click();
+
+    editing.openNew(PMListItem::CreditCard);
+    QLineEdit *month = editing.field("expireField");
+    QTest::keyClicks(month, QStringLiteral("01/27"));
+    month->findChild<QAction *>(QStringLiteral("calendarAction"))->trigger();
+    inPopup(Qt::Key_PageDown);
+    inPopup(Qt::Key_Down);
+    inPopup(Qt::Key_Return);
+    QCOMPARE(month->text(), QStringLiteral("05 / 2028"));
+}
+
+void TestSafeItemEditor::everyKindIsMadeFromTheMenu()
+{
+    Editing editing;
+    const QList<QAction *> kinds = editing.field<QMenu>("newItemMenu")->actions();
+    QCOMPARE(kinds.size(), int(PMListItem::UndefinedItem));
+    for (QAction *kind : kinds) {
+        kind->trigger();
+        const auto type = PMListItem::Type(kind->data().toInt());
+        QCOMPARE(editing.field<QLabel>("editorHeading")->text(), newItemText(type));
+        for (const ItemField &field : itemFields(type))
+            QVERIFY(field.form == ItemField::CardType || editing.input(field));
+    }
+    find<QPushButton>(editing.view, "discardButton")->click();
+    auto *categories = editing.field<QListView>("categoryList");
+    for (int row = 0; row < categories->model()->rowCount(); ++row) {
+        if (categories->model()->index(row, 0).data().toString() == QStringLiteral("Passports"))
+            categories->setCurrentIndex(categories->model()->index(row, 0));
+    }
+    editing.press(Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(editing.field<QLabel>("editorHeading")->text(), QStringLiteral("New passport"));
+}
+
+void TestSafeItemEditor::aClickCopies()
+{
+    Editing editing;
+    auto made = editing.test.core.modelCreateItem(PMListItem::CreditCard);
+    made->setTitle(QStringLiteral("Card"));
+    made->setProperty("number", QStringLiteral("5555 5555 5555 4444"));
+    made->setProperty("code", QStringLiteral("737"));
+    made->setProperty("bank", QStringLiteral("Bank of the North"));
+    editing.test.core.modelAddItem(std::move(made));
+    auto *list = editing.field<QListView>("itemList");
+    list->setCurrentIndex(list->model()->index(0, 0));
+    const auto click = [](QWidget *at, const QPoint &where) {
+        QTest::mouseClick(at, Qt::LeftButton, {}, where);
+        return QGuiApplication::clipboard()->text();
+    };
+    QCOMPARE(click(editing.field<QWidget>("numberRow"), {30, 30}),
+             QStringLiteral("5555555555554444"));
+    QCOMPARE(click(editing.field<QWidget>("codeRow"), {30, 30}), QStringLiteral("737"));
+    QCOMPARE(click(editing.field<QWidget>("cardFace"), {30, 24}),
+             QStringLiteral("Bank of the North"));
+    // Empty fields have no rows.
+    QVERIFY(!editing.field<QWidget>("cardholderRow"));
+    QVERIFY(!editing.field<QWidget>("bankPhoneRow"));
+}
+
+void TestSafeItemEditor::whatExpiresIsMarked_data()
+{
+    QTest::addColumn<int>("days");
+    QTest::addColumn<QString>("badge");
+    QTest::newRow("over") << -1 << QStringLiteral("expired");
+    QTest::newRow("today") << 0 << QStringLiteral("expires today");
+    QTest::newRow("soon") << 48 << QStringLiteral("expires in 48 days");
+    QTest::newRow("last marked day") << 60 << QStringLiteral("expires in 60 days");
+    QTest::newRow("later") << 61 << QString();
+}
+
+void TestSafeItemEditor::whatExpiresIsMarked()
+{
+    QFETCH(int, days);
+    QFETCH(QString, badge);
+    const QDateTime now(QDate(2026, 11, 21), QTime(12, 0));
+    TestCore test;
+    Theme theme;
+    ItemPage page(test.core.settings(), theme, nullptr, [now] { return now; });
+    for (const auto type : {PMListItem::Passport, PMListItem::DriverLicense}) {
+        const auto item = makeItem(type);
+        const QDate last = now.date().addDays(days);
+        item->setProperty("expireDate", QVariant::fromValue(PMFieldTypes::Date{
+                                            last.year(), last.month(), last.day()}));
+        page.setItem(item.get());
+        const auto *shown = find<QLabel>(page, "expireDateBadge");
+        QCOMPARE(shown ? shown->text() : QString(), badge);
+        page.setItem(nullptr);
+    }
+}
+
+void TestSafeItemEditor::wayOfLoggingInIsChangedOnThePage()
+{
+    Editing editing;
+    const QString id = editing.test.addLogin(QStringLiteral("Shop"));
+    auto *list = editing.field<QListView>("itemList");
+    list->setCurrentIndex(list->model()->index(0, 0));
+    const auto *button = editing.field<QToolButton>("fillTypeChooseButton");
+    button->menu()->actions().last()->trigger();
+    QTRY_COMPARE(editing.test.login(id)->fillType(), PMFieldTypes::LoginFillType::OnlyFill);
+    QTRY_VERIFY(
+        editing.field<QToolButton>("fillTypeChooseButton")->menu()->actions().last()->isChecked());
 }
 
 QTEST_MAIN(TestSafeItemEditor)

@@ -7,6 +7,7 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMap>
 
 namespace {
 
@@ -43,6 +44,7 @@ MonthPopup::MonthPopup(const Theme &theme, const QLocale &locale, QWidget *paren
             Q_EMIT chosen(QDate(m_year, month, 1));
         });
         grid->addWidget(button, 1 + (month - 1) / columns, (month - 1) % columns);
+        button->installEventFilter(this);
         m_months.append(button);
     }
 }
@@ -78,29 +80,27 @@ void MonthPopup::mark()
         m_months.at(month - 1)->setChecked(m_date.year() == m_year && m_date.month() == month);
 }
 
-void MonthPopup::keyPressEvent(QKeyEvent *event)
+bool MonthPopup::eventFilter(QObject *watched, QEvent *event)
 {
-    const int here = m_months.indexOf(qobject_cast<QToolButton *>(focusWidget()));
-    const auto go = [this](int month) { m_months.at(qBound(0, month, months - 1))->setFocus(); };
-    switch (event->key()) {
-    case Qt::Key_PageUp:
-        return step(-1);
-    case Qt::Key_PageDown:
-        return step(1);
-    case Qt::Key_Left:
-        return go(here - 1);
-    case Qt::Key_Right:
-        return go(here + 1);
-    case Qt::Key_Up:
-        return go(here - columns);
-    case Qt::Key_Down:
-        return go(here + columns);
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (here >= 0)
-            m_months.at(here)->click();
-        return;
-    default:
-        QFrame::keyPressEvent(event);
-    }
+    // Before the buttons, which have a use of their own for the arrows.
+    const int month = m_months.indexOf(static_cast<QToolButton *>(watched));
+    if (month >= 0 && event->type() == QEvent::KeyPress &&
+        onKey(static_cast<QKeyEvent *>(event)->key(), month))
+        return true;
+    return QFrame::eventFilter(watched, event);
+}
+
+bool MonthPopup::onKey(int key, int month)
+{
+    static const QMap<int, int> steps = {
+        {Qt::Key_Left, -1}, {Qt::Key_Right, 1}, {Qt::Key_Up, -columns}, {Qt::Key_Down, columns}};
+    if (key == Qt::Key_PageUp || key == Qt::Key_PageDown)
+        step(key == Qt::Key_PageUp ? -1 : 1);
+    else if (steps.contains(key))
+        m_months.at(qBound(0, month + steps.value(key), months - 1))->setFocus();
+    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        m_months.at(month)->click();
+    else
+        return false;
+    return true;
 }

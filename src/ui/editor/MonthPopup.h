@@ -25,11 +25,12 @@ Q_SIGNALS:
     void chosen(const QDate &date);
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QToolButton *makeArrow(const Theme &theme, const QString &icon, const QString &name, int step);
     void step(int years);
+    bool onKey(int key, int month);
     void mark();
 
     QLabel *m_title;

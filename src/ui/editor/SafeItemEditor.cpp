@@ -111,12 +111,13 @@ FieldInput *SafeItemEditor::addInput(const ItemField &field)
     connect(made, &FieldInput::copyRequested, this, &SafeItemEditor::copyRequested);
     connect(made, &FieldInput::openRequested, this, &SafeItemEditor::openRequested);
     connect(made, &FieldInput::generatorRequested, this, [this, made] {
-        Q_EMIT generatorRequested([place = QPointer<FieldInput>(made)](const QString &password) {
-            if (!place)
+        const auto place = [alive = QPointer<FieldInput>(made)](const QString &password) {
+            if (!alive)
                 return;
-            place->setValue(password);
-            Q_EMIT place->edited();
-        });
+            alive->setValue(password);
+            Q_EMIT alive->edited();
+        };
+        Q_EMIT generatorRequested(made, place);
     });
     m_inputs.append(made);
     return made;

@@ -18,7 +18,7 @@ class SafeItemEditor : public QWidget
     Q_OBJECT
 
 public:
-    /// Puts a made password into the field that asked for one, if that is still being edited.
+    /// Puts a made password into a field, if that is still being edited.
     using Place = std::function<void(const QString &password)>;
 
     SafeItemEditor(const GPMAppSettings &settings, const Theme &theme, QWidget *parent);
@@ -42,7 +42,9 @@ Q_SIGNALS:
     void itemGone();
     void copyRequested(const QString &value);
     void openRequested(const QString &address);
-    void generatorRequested(const SafeItemEditor::Place &place);
+    /// A made password is wanted.
+    /// @param owner lives as long as its field is edited
+    void generatorRequested(QObject *owner, const SafeItemEditor::Place &place);
 
 private:
     void onDestroyed();

@@ -67,7 +67,7 @@ Q_SIGNALS:
     void removeRequested(const QString &id);
     void restoreRequested(const QString &id);
     /// A made password is wanted for a field of the editor.
-    void generatorRequested(const SafeItemEditor::Place &place);
+    void generatorRequested(QObject *owner, const SafeItemEditor::Place &place);
 
 private:
     void makeFooter();

@@ -131,6 +131,7 @@ void MainView::connectParts()
 void MainView::connectItemPane()
 {
     connect(m_pane, &ItemPane::saved, this, &MainView::onSaved);
+    connect(m_pane, &ItemPane::generatorRequested, this, &MainView::fieldGeneratorRequested);
     connect(m_pane, &ItemPane::discarded, this, [this] {
         showCurrent();
         m_list->takeFocus();

@@ -5,6 +5,8 @@
 #include "dialogs/Question.h"
 #include "lock/SecureContent.h"
 
+#include <functional>
+
 class Banner;
 class DraftKeeper;
 class DraftOffer;
@@ -25,6 +27,9 @@ class MainView : public SecureContent
     Q_OBJECT
 
 public:
+    /// Takes a made password.
+    using Place = std::function<void(const QString &password)>;
+
     /// @param asker puts questions to the user; the default one shows dialogs
     MainView(GPMAppCore &core, const Theme &theme, Asker asker = {}, QWidget *parent = nullptr);
 
@@ -52,6 +57,8 @@ Q_SIGNALS:
     void createSafeRequested();
     void itemOrderChanged();
     void generatorRequested();
+    /// The generator is wanted for a field that is edited, as long as the owner lives.
+    void fieldGeneratorRequested(QObject *owner, const MainView::Place &place);
     void settingsRequested();
     void helpRequested();
     void exitRequested();
