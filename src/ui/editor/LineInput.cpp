@@ -75,8 +75,9 @@ void LineInput::addOpen()
 
 void LineInput::addCalendar()
 {
-    m_line->setPlaceholderText(field().form == ItemField::Date ? DateText::example(m_locale)
-                                                               : tr("MM / YYYY"));
+    m_line->setPlaceholderText(field().form == ItemField::Date
+                                   ? tr("e.g. %1").arg(DateText::example(m_locale))
+                                   : tr("MM / YYYY"));
     QAction *open = m_line->addAction(m_theme.icon(QStringLiteral("calendar"), Palette::Muted),
                                       QLineEdit::TrailingPosition);
     open->setObjectName(QStringLiteral("calendarAction"));
