@@ -12,6 +12,7 @@
 #include "PMSecureNote.h"
 #include "PMSoftwareLicense.h"
 #include "PasswordStrength.h"
+#include "health/HealthDialog.h"
 #include "lock/PagesStack.h"
 #include "style/Style.h"
 
@@ -105,6 +106,23 @@ std::unique_ptr<QWidget> nothingFound(Stage &stage)
     auto window = stage.mainWindow();
     find<QLineEdit>(*window, "searchField")->setText(QStringLiteral("zeppelin"));
     return window;
+}
+
+std::unique_ptr<QWidget> health(Stage &stage)
+{
+    struct Desk
+    {
+        ItemListModel items;
+        ItemHealth health{items};
+    };
+    auto desk = std::make_shared<Desk>();
+    desk->items.setSafe(stage.test.core.currentSafe());
+    auto window = std::make_unique<HealthDialog>(desk->health, desk->items, stage.theme, nullptr);
+    if (!QTest::qWaitFor([&desk] { return desk->health.pending() == 0; }))
+        return nullptr;
+    // They go after the window.
+    QObject::connect(window.get(), &QObject::destroyed, [desk] {});
+    return shown(std::move(window));
 }
 
 std::unique_ptr<QWidget> question(Stage &)
@@ -274,6 +292,7 @@ const QVector<WindowCase> &everyWindow()
         {"edit-identity", itemCase(editItem, "Ana at home")},
         {"edit-driver-licence", itemCase(editItem, "Driving licence")},
         {"edit-note", itemCase(editItem, "Alarm code")},
+        {"health", health},
         {"question", question}};
     return cases;
 }

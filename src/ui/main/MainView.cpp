@@ -13,6 +13,7 @@
 #include "Sidebar.h"
 #include "drafts/DraftKeeper.h"
 #include "drafts/DraftOffer.h"
+#include "health/HealthDesk.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/SnackBar.h"
@@ -61,6 +62,8 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_right->addWidget(m_pane);
     m_right->addWidget(m_selection);
     m_snack = new SnackBar(theme, this);
+    m_health = new HealthDesk(core, m_items, theme, this);
+    m_health->serve(m_list->filter());
     m_keeper = new DraftKeeper(core, *m_pane, this);
     m_offer = new DraftOffer(*m_pane, *m_keeper, theme, asker, this);
     layOut();
@@ -96,6 +99,8 @@ void MainView::connectParts()
     connect(m_sidebar, &Sidebar::categoryChosen, this, &MainView::onCategoryChosen);
     connect(m_sidebar, &Sidebar::lockRequested, this, &MainView::lockRequested);
     connect(m_sidebar, &Sidebar::generatorRequested, this, &MainView::generatorRequested);
+    connect(m_sidebar, &Sidebar::healthRequested, m_health, &HealthDesk::open);
+    connect(m_health, &HealthDesk::changeRequested, this, &MainView::changeItem);
     connect(m_sidebar, &Sidebar::settingsRequested, this, &MainView::settingsRequested);
     connect(m_sidebar, &Sidebar::helpRequested, this, &MainView::helpRequested);
     connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
@@ -210,6 +215,7 @@ void MainView::closeSafe()
     m_sidebar->setSafe({}, {});
     m_list->setIconFolder({});
     m_actions->forget();
+    m_health->close();
     m_snack->dismiss();
     m_banner->setUnreadableFiles({});
     onContentChanged();
@@ -336,13 +342,30 @@ void MainView::showCurrent()
 
 void MainView::onSaved(const QString &id)
 {
+    goTo(id);
+    m_list->focusList();
+}
+
+void MainView::goTo(const QString &id)
+{
     if (!m_list->contains(id)) {
         m_list->clearSearch();
         if (!m_list->contains(id))
             showCategory({});
     }
     m_list->setCurrent(id);
-    m_list->focusList();
+}
+
+void MainView::changeItem(const QString &id)
+{
+    window()->activateWindow();
+    if (m_pane->isEditing() && m_pane->editedId() == id)
+        return;
+    if (!m_pane->mayLeave())
+        return;
+    goTo(id);
+    showCurrent();
+    editItem();
 }
 
 void MainView::removeOne(const QString &id)

@@ -11,6 +11,7 @@ class Banner;
 class DraftKeeper;
 class DraftOffer;
 class GPMAppCore;
+class HealthDesk;
 class ItemActions;
 class ItemListPane;
 class ItemPane;
@@ -74,6 +75,8 @@ private:
     void onSearched();
     void onContentChanged();
     void onSaved(const QString &id);
+    void goTo(const QString &id);
+    void changeItem(const QString &id);
     void onDropped(const ItemCategory &category, const QStringList &ids);
     void onMovedToTrash(int count);
     void remove(const QStringList &ids);
@@ -106,4 +109,5 @@ private:
     DraftOffer *m_offer;
     SelectionPage *m_selection;
     SnackBar *m_snack;
+    HealthDesk *m_health;
 };

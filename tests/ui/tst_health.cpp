@@ -1,0 +1,162 @@
+#include "UiTesting.h"
+#include "health/FindingRow.h"
+#include "health/HealthDialog.h"
+#include "main/MainView.h"
+#include "style/Theme.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QToolButton>
+
+class TestHealth : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ignoredFindingsCanBeBroughtBack();
+    void changeOpensTheEditor();
+    void lockClosesTheWindow();
+    void weakOnesAreFoundBySearch();
+    void changePasswordPages_data();
+    void changePasswordPages();
+};
+
+namespace {
+
+struct Program
+{
+    Program()
+        : view(test.core, theme, asker.asker())
+    {
+        QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view, [this](bool locked) {
+            if (locked)
+                view.closeSafe();
+            else
+                view.openSafe(test.core.currentSafe());
+        });
+        if (!test.createSafe())
+            qFatal("No safe to test with");
+        for (const char *title : {"Alpha", "Beta", "Gamma"}) {
+            const QString id = test.addLogin(QLatin1String(title));
+            test.login(id)->setPassword(QLatin1String(title) + QStringLiteral("1"));
+        }
+        view.show();
+    }
+
+    HealthDialog *open()
+    {
+        find<QToolButton>(view, "healthButton")->click();
+        auto *dialog = view.window()->findChild<HealthDialog *>();
+        if (!dialog || !QTest::qWaitFor([dialog] { return rows(*dialog).size() == 3; }))
+            qFatal("No findings");
+        return dialog;
+    }
+    static QList<FindingRow *> rows(const HealthDialog &dialog)
+    {
+        return find<QWidget>(dialog, "findings")->findChildren<FindingRow *>();
+    }
+
+    TestCore test;
+    Theme theme;
+    TestAsker asker;
+    MainView view;
+};
+
+} // namespace
+
+void TestHealth::ignoredFindingsCanBeBroughtBack()
+{
+    Program program;
+    const std::shared_ptr<GPMSafe> safe = program.test.core.currentSafe();
+    HealthDialog *dialog = program.open();
+    const auto tile = [dialog] {
+        return find<QPushButton>(*dialog, "healthTile0")->accessibleName();
+    };
+    auto *ignored = find<QPushButton>(*dialog, "ignoredButton");
+    QCOMPARE(tile(), QStringLiteral("Weak: 3"));
+    QVERIFY(!ignored->isVisible());
+
+    // By keyboard, which stays at that place.
+    QSignalSpy saved(safe.get(), &GPMSafe::saved);
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    Program::rows(*dialog).at(1)->ignoreButton()->setFocus();
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    QTRY_COMPARE(tile(), QStringLiteral("Weak: 2"));
+    QCOMPARE(Program::rows(*dialog).size(), 2);
+    QCOMPARE(dialog->focusWidget(), Program::rows(*dialog).at(1)->ignoreButton());
+    QCOMPARE(ignored->text(), QStringLiteral("Ignored (1)"));
+    QTRY_VERIFY(!program.test.core.hasUnsavedChanges());
+
+    ignored->click();
+    QCOMPARE(Program::rows(*dialog).size(), 1);
+    Program::rows(*dialog).first()->ignoreButton()->click();
+    QTRY_COMPARE(tile(), QStringLiteral("Weak: 3"));
+    QCOMPARE(Program::rows(*dialog).size(), 3);
+}
+
+void TestHealth::changeOpensTheEditor()
+{
+    Program program;
+    HealthDialog *dialog = program.open();
+    // Whatever the list shows just now.
+    find<QLineEdit>(program.view, "searchField")->setText(QStringLiteral("Alpha"));
+    find<QPushButton>(*Program::rows(*dialog).at(2), "changeButton")->click();
+    auto *title = find<QLineEdit>(program.view, "titleField");
+    QVERIFY(title);
+    QCOMPARE(title->text(), QStringLiteral("Gamma"));
+
+    QSignalSpy opened(&program.test.core, &GPMAppCore::openAddress);
+    find<QToolButton>(*Program::rows(*dialog).first(), "changePageButton")->click();
+    QCOMPARE(opened.first().first().toUrl(),
+             QUrl(QStringLiteral("https://shop.example/.well-known/change-password")));
+
+    // What was changed is no longer listed.
+    find<QLineEdit>(program.view, "passwordField")->setText(QStringLiteral("q7V<m2X,8Rz!Kd"));
+    find<QPushButton>(program.view, "saveButton")->click();
+    QTRY_COMPARE(Program::rows(*dialog).size(), 2);
+}
+
+void TestHealth::lockClosesTheWindow()
+{
+    Program program;
+    const QPointer<HealthDialog> dialog = program.open();
+    program.test.core.lockCurrentSafe();
+    QVERIFY(!dialog);
+}
+
+void TestHealth::weakOnesAreFoundBySearch()
+{
+    Program program;
+    const QString id = program.test.addLogin(QStringLiteral("Delta"));
+    program.test.login(id)->setPassword(QStringLiteral("q7V<m2X,8Rz!Kd"));
+    const auto *list = find<QListView>(program.view, "itemList");
+    find<QLineEdit>(program.view, "searchField")->setText(QStringLiteral("is:weak"));
+    QTRY_COMPARE(list->model()->rowCount(), 3);
+    program.test.login(id)->setPassword(QStringLiteral("delta1"));
+    QTRY_COMPARE(list->model()->rowCount(), 4);
+}
+
+void TestHealth::changePasswordPages_data()
+{
+    QTest::addColumn<QString>("page");
+    const auto row = [](const char *address, const char *page) {
+        QTest::newRow(address) << QString::fromLatin1(page);
+    };
+    row("https://a:b@shop.example:8443/login?x=1#y",
+        "https://shop.example:8443/.well-known/change-password");
+    row("http://shop.example", "http://shop.example/.well-known/change-password");
+    row("shop.example", "");
+    row("file:///etc/passwd", "");
+    row("javascript:alert(1)", "");
+}
+
+void TestHealth::changePasswordPages()
+{
+    QFETCH(QString, page);
+    QCOMPARE(changePasswordPage(QLatin1String(QTest::currentDataTag())).toString(), page);
+}
+
+QTEST_MAIN(TestHealth)
+#include "tst_health.moc"
