@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ActivitySource.h"
 #include "ClipboardKeeper.h"
 #include "FormFillFlow.h"
 #include "GPMAppSettings.h"
@@ -33,7 +34,7 @@ public:
         QString hiddenFolder;       ///< log and backups
         quint16 port = 7899;        ///< of the browser link on 127.0.0.1
         QString runtimeFolder = {}; ///< for files that end with the session; may be empty
-        std::function<std::unique_ptr<UserActivity>()> activity = &UserActivity::create;
+        std::function<std::unique_ptr<UserActivity>()> activity = &makeUserActivity;
     };
 
     explicit GPMAppCore(const Places &places, QObject *parent = nullptr);

@@ -12,6 +12,8 @@ namespace {
 const char *const screenSaverLogLine = "Screensaver activated";
 const int msPerMinute = 60000;
 const int usualLimit = 3;
+// The first answer of some systems takes its time.
+const int toleratedMisses = 10;
 // What the counter of ticks can measure.
 const int longestLimit = std::numeric_limits<std::uint32_t>::max() / msPerMinute;
 
@@ -66,7 +68,7 @@ void LockGuard::checkInactivity()
     // seven weeks old.
     const std::optional<std::uint32_t> lastInput = m_activity->lastInputTick();
     if (!lastInput) {
-        if (!std::exchange(m_saidBlind, true))
+        if (++m_missedAnswers == toleratedMisses)
             qWarning("LockGuard: the system does not tell when the last input was");
         return;
     }

@@ -56,5 +56,5 @@ private:
     QDateTime m_lastCheck;
     std::uint32_t m_lastTick = 0;
     std::optional<int> m_refusedLimit; ///< the one that was logged last
-    bool m_saidBlind = false;
+    int m_missedAnswers = 0;
 };

@@ -114,6 +114,9 @@ void PMUiProvider::makeTray()
     connect(m_tray.get(), &TrayIcon::helpRequested, this, &PMUiProvider::showAbout);
     connect(m_tray.get(), &TrayIcon::lockRequested, this, &PMUiProvider::lock);
     connect(m_tray.get(), &TrayIcon::exitRequested, this, &PMUiProvider::exitByUser);
+    m_tray->setLockHotkey(m_core.settings().lockHotkey());
+    connect(&m_core.settings(), &GPMAppSettings::lockHotkeyChanged, m_tray.get(),
+            &TrayIcon::setLockHotkey);
     const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
     m_tray->setLocked(!safe || !safe->isUnlocked());
     m_tray->show();

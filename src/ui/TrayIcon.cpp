@@ -20,3 +20,8 @@ TrayIcon::TrayIcon(QObject *parent)
             Q_EMIT openRequested();
     });
 }
+
+void TrayIcon::setLockHotkey(const QString &keys)
+{
+    m_lock->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
+}

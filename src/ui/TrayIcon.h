@@ -13,6 +13,9 @@ public:
 
     void setLocked(bool locked) { m_lock->setEnabled(!locked); }
 
+    /// Shows the hotkey beside "Lock".
+    void setLockHotkey(const QString &keys);
+
 Q_SIGNALS:
     void openRequested();
     void generatorRequested();

@@ -1,8 +1,8 @@
+#include "PrivateBus.h"
 #include "linux/BusSessionWatch.h"
 
 #include <QDBusContext>
 #include <QDBusMessage>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QSocketNotifier>
 #include <QtTest>
@@ -69,18 +69,13 @@ private Q_SLOTS:
     void sleepWaitsForTheLock();
     void otherNameOfTheSession();
     void worksWithoutBuses();
-    void cleanupTestCase();
 
 private:
-    QDBusConnection connection(const char *name)
-    {
-        return QDBusConnection::connectToBus(m_address, QLatin1String(name));
-    }
+    QDBusConnection connection(const char *name) { return m_bus.connection(name); }
     void send(const QString &path, const char *interface, const char *signal,
               const QVariantList &arguments = {});
 
-    QProcess m_daemon;
-    QString m_address;
+    PrivateBus m_bus;
     std::unique_ptr<LoginManager> m_manager;
     std::unique_ptr<BusSessionWatch> m_watch;
 };
@@ -88,11 +83,6 @@ private:
 void TestBusSessionWatch::initTestCase()
 {
     qRegisterMetaType<LockReason>("LockReason");
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                    QStringLiteral("--print-address")});
-    QVERIFY(m_daemon.waitForReadyRead());
-    m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
 }
 
 void TestBusSessionWatch::init()
@@ -219,12 +209,6 @@ void TestBusSessionWatch::worksWithoutBuses()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no session bus")));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no system bus")));
     BusSessionWatch watch(none, none);
-}
-
-void TestBusSessionWatch::cleanupTestCase()
-{
-    m_daemon.terminate();
-    m_daemon.waitForFinished();
 }
 
 QTEST_GUILESS_MAIN(TestBusSessionWatch)

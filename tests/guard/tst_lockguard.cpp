@@ -251,8 +251,8 @@ void TestLockGuard::failingQueriesAreSkippedAndSaidOnce()
     guarded.state.idleMs = 1000000;
     guarded.state.screenSaver = true;
     LoggedLines log;
-    guarded.check();
-    guarded.check();
+    for (int check = 0; check < 30; ++check)
+        guarded.check();
     QCOMPARE(log.lines, QStringList{QStringLiteral(
                             "LockGuard: the system does not tell when the last input was")});
     QCOMPARE(guarded.reasons, Reasons{});

@@ -1,0 +1,6 @@
+#include "ActivitySource.h"
+
+std::unique_ptr<UserActivity> makeUserActivity()
+{
+    return UserActivity::create();
+}
