@@ -200,6 +200,8 @@ private Q_SLOTS:
     void rules();
     void aDateThatIsNoneIsNotSaved();
     void wrongValuesAreToldAndSaved();
+    void storedFaultsAreToldAtOnce();
+    void aKeptEditComesBackAsItWasTyped();
     void aMeanwhileChangeIsNotSetBack();
     void madePasswordGoesWhereItWasAskedFor();
     void countryDefaults();
@@ -437,6 +439,42 @@ void TestSafeItemEditor::wrongValuesAreToldAndSaved()
     QVERIFY(card);
     QCOMPARE(card->number(), QStringLiteral("272099"));
     QCOMPARE(card->cardType(), PMCreditCard::MasterCard);
+}
+
+void TestSafeItemEditor::storedFaultsAreToldAtOnce()
+{
+    Editing editing;
+    auto made = editing.test.core.modelCreateItem(PMListItem::CreditCard);
+    made->setTitle(QStringLiteral("Card"));
+    made->setProperty("cardholder", QStringLiteral("José"));
+    editing.test.core.modelAddItem(std::move(made));
+    auto *list = editing.field<QListView>("itemList");
+    list->setCurrentIndex(list->model()->index(0, 0));
+    editing.press(Qt::Key_F2);
+    QVERIFY(!editing.message("cardholder").isEmpty());
+    QCOMPARE(editing.message("number"), QString());
+    QVERIFY(!editing.field<SafeItemEditor>("itemEditor")->isModified());
+}
+
+void TestSafeItemEditor::aKeptEditComesBackAsItWasTyped()
+{
+    Editing editing;
+    editing.openNew(PMListItem::Identity);
+    Typist typist(3, editing);
+    const QVariant phone = typist.type({"phoneCell", "", ItemField::Phone});
+    replace(editing.field("birthDateField"), QStringLiteral("soon"));
+    replace(editing.field("countryField"), QStringLiteral("Atlantis"));
+    auto *pane = editing.field<ItemPane>("itemPane");
+    const std::optional<KeptDraft> kept = pane->draft();
+    QVERIFY(kept);
+    pane->discard();
+    pane->continueDraft(*kept, nullptr);
+    QCOMPARE(editing.field("birthDateField")->text(), QStringLiteral("soon"));
+    QCOMPARE(editing.message("birthDate"), QStringLiteral("“soon” is not a date"));
+    QCOMPARE(editing.field("countryField")->text(), QStringLiteral("Atlantis"));
+    // It was folded away, and is filled now.
+    QVERIFY(editing.field("phoneCellField")->isVisible());
+    QCOMPARE(editing.field<SafeItemEditor>("itemEditor")->draft().value("phoneCell"), phone);
 }
 
 void TestSafeItemEditor::aMeanwhileChangeIsNotSetBack()

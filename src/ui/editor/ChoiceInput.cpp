@@ -14,7 +14,7 @@ ChoiceInput::ChoiceInput(const ItemField &field, const InputContext &context, QW
         for (const auto gender : {PMFieldTypes::Gender::Undefined, PMFieldTypes::Gender::Female,
                                   PMFieldTypes::Gender::Male})
             m_box->addItem(genderText(static_cast<int>(gender)), static_cast<int>(gender));
-        m_box->setItemText(0, tr("Not said"));
+        m_box->setItemText(0, tr("Not specified"));
     } else {
         using Type = PMFieldTypes::LoginFillType;
         for (const Type type : {Type::GlobalSettings, Type::FillAndSubmit, Type::OnlyFill})

@@ -28,7 +28,8 @@ FieldInput::FieldInput(const ItemField &field, QWidget *parent)
     m_grid->setHorizontalSpacing(0);
     m_grid->setVerticalSpacing(labelSpace);
     m_grid->setColumnStretch(1, 1);
-    m_grid->setRowStretch(3, 1);
+    // A long text takes the height that there is; the other inputs stay at the top of theirs.
+    m_grid->setRowStretch(field.form == ItemField::LongText ? 1 : 3, 1);
     m_message->setObjectName(QLatin1String(field.property) + QStringLiteral("Message"));
     m_message->setMinimumHeight(messageHeight);
     m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);

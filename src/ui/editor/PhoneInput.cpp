@@ -20,6 +20,7 @@ PhoneInput::PhoneInput(const ItemField &field, const InputContext &context, QWid
 {
     const QString name = QLatin1String(field.property);
     place(m_code, 0, tr("Country code"), name + QStringLiteral("Code"), codeWidth);
+    m_code->setAccessibleName(tr("%1: country code").arg(itemFieldLabel(field)));
     place(m_number, 1, itemFieldLabel(field), name + QStringLiteral("Field"));
     m_number->setInputMethodHints(Qt::ImhDialableCharactersOnly);
     for (QLineEdit *line : {static_cast<QLineEdit *>(m_code), static_cast<QLineEdit *>(m_number)})

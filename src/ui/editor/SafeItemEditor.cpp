@@ -20,6 +20,12 @@ const int pageMargin = 28;
 const int columnGap = 14;
 const int foldedNames = 4;
 
+bool hasLongText(const QVector<ItemField> &fields)
+{
+    return std::any_of(fields.begin(), fields.end(),
+                       [](const ItemField &field) { return field.form == ItemField::LongText; });
+}
+
 } // namespace
 
 SafeItemEditor::SafeItemEditor(const GPMAppSettings &settings, const Theme &theme, QWidget *parent)
@@ -94,12 +100,13 @@ void SafeItemEditor::makeRows(const PMListItem &item)
         if (!row || !field.has(ItemField::Beside)) {
             row = new QHBoxLayout;
             row->setSpacing(columnGap);
-            m_column->addLayout(row);
+            m_column->addLayout(row, field.form == ItemField::LongText ? 1 : 0);
         }
         row->addWidget(addInput(field), 1);
     }
     addMoreButton();
-    m_column->addStretch(1);
+    m_column->addStretch(hasLongText(m_draft.fields()) ? 0 : 1);
+    showStoredFaults();
     m_scroll->setWidget(m_body);
 }
 
@@ -218,6 +225,15 @@ void SafeItemEditor::requestGenerator()
         return;
     password->control()->setFocus();
     Q_EMIT password->generatorRequested();
+}
+
+void SafeItemEditor::showStoredFaults()
+{
+    // What is still empty is no fault before someone wants to save it.
+    for (FieldInput *each : qAsConst(m_inputs)) {
+        if (!FieldText::isEmpty(each->field(), m_draft.value(each->field().property)))
+            showFault(*each);
+    }
 }
 
 void SafeItemEditor::showFaults()

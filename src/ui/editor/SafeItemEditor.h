@@ -54,6 +54,7 @@ private:
     void addMoreButton();
     QString moreText() const;
     void showFolded();
+    void showStoredFaults();
     void onEdited(const FieldInput &input);
     void showFault(FieldInput &input);
     FieldInput *input(const char *property) const;

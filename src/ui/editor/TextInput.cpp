@@ -15,7 +15,10 @@ TextInput::TextInput(const ItemField &field, QWidget *parent)
     , m_text(new QPlainTextEdit(this))
 {
     m_text->setTabChangesFocus(true);
-    m_text->setFixedHeight(field.form == ItemField::LongText ? longHeight : shortHeight);
+    if (field.form == ItemField::LongText)
+        m_text->setMinimumHeight(longHeight);
+    else
+        m_text->setFixedHeight(shortHeight);
     place(m_text, 1, itemFieldLabel(field),
           QLatin1String(field.property) + QStringLiteral("Field"));
     connect(m_text, &QPlainTextEdit::textChanged, this, &FieldInput::edited);

@@ -173,7 +173,8 @@ void ItemPage::showFields()
     m_cards = new QVBoxLayout(m_fields);
     m_cards->setContentsMargins({});
     m_cards->setSpacing(Style::margin);
-    if (const auto *payment = qobject_cast<const PMCreditCard *>(m_item.data())) {
+    const auto *payment = qobject_cast<const PMCreditCard *>(m_item.data());
+    if (payment && !(payment->number().isEmpty() && payment->bank().isEmpty())) {
         auto *face = new CardFace(*payment, m_theme, m_fields);
         connect(face, &CardFace::copyRequested, this, &ItemPage::copyRequested);
         m_cards->addWidget(face);
