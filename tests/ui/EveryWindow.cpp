@@ -12,8 +12,11 @@
 #include "PMSecureNote.h"
 #include "PMSoftwareLicense.h"
 #include "PasswordStrength.h"
+#include "dialogs/PasswordGeneratorDialog.h"
 #include "health/HealthDialog.h"
 #include "lock/PagesStack.h"
+#include "settings/SettingsDialog.h"
+#include "settings/SettingsTable.h"
 #include "style/Style.h"
 
 #include <QAbstractItemView>
@@ -135,6 +138,45 @@ std::unique_ptr<QWidget> question(Stage &)
         nullptr));
 }
 
+std::unique_ptr<QWidget> generator(Stage &stage)
+{
+    // The same password each time, in pictures too.
+    const RandomBytes fixed = [](unsigned char *buffer, int size) {
+        for (int i = 0; i < size; ++i)
+            buffer[i] = static_cast<unsigned char>(i * 89 + 7);
+        return true;
+    };
+    stage.recent.setKeeping(true);
+    stage.uiSettings.setPasswordShape(QStringLiteral("PasswordGenerator"), {14, 3});
+    auto dialog = std::make_unique<PasswordGeneratorDialog>(
+        PasswordGeneratorDialog::Parts{stage.uiSettings, stage.test.core.settings(),
+                                       stage.test.core.clipboard(), stage.recent, fixed},
+        stage.theme, nullptr);
+    dialog->setTarget({[](const QString &) {}, [] { return QString(); }});
+    return shown(std::move(dialog));
+}
+
+std::unique_ptr<QWidget> recentPasswords(Stage &stage)
+{
+    auto dialog = generator(stage);
+    find<QPushButton>(*dialog, "copyButton")->click();
+    find<QAbstractButton>(*dialog, "regenerateButton")->click();
+    find<QPushButton>(*dialog, "recentButton")->click();
+    return dialog;
+}
+
+std::function<std::unique_ptr<QWidget>(Stage &)> settingsPage(Setting::Page page)
+{
+    return [page](Stage &stage) {
+        stage.test.core.settings().setBackupPath(QStringLiteral("/home/ana/Backups"));
+        stage.uiSettings.setTabIndex(QStringLiteral("SettingsDialog"), page);
+        const SettingsTable table(
+            {stage.test.core.settings(), stage.uiSettings, stage.theme, stage.translator, {}, {}});
+        return shown(std::make_unique<SettingsDialog>(table.settings(), stage.uiSettings,
+                                                      stage.theme, nullptr));
+    };
+}
+
 /// The windows that show an item, or edit it, differ in the item alone.
 std::function<std::unique_ptr<QWidget>(Stage &)>
 itemCase(std::unique_ptr<QWidget> (*show)(Stage &, const char *), const char *title)
@@ -145,6 +187,8 @@ itemCase(std::unique_ptr<QWidget> (*show)(Stage &, const char *), const char *ti
 } // namespace
 
 Stage::Stage(Safe safe)
+    : uiSettings(test.folder.path())
+    , translator(QCoreApplication::applicationDirPath())
 {
     const int font = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/SG-R.TTF"));
     QApplication::setFont(
@@ -293,6 +337,14 @@ const QVector<WindowCase> &everyWindow()
         {"edit-driver-licence", itemCase(editItem, "Driving licence")},
         {"edit-note", itemCase(editItem, "Alarm code")},
         {"health", health},
-        {"question", question}};
+        {"question", question},
+        {"generator", generator},
+        {"generator-recent", recentPasswords},
+        {"settings-general", settingsPage(Setting::General)},
+        {"settings-security", settingsPage(Setting::Security)},
+        {"settings-browser", settingsPage(Setting::Browser)},
+        {"settings-backup", settingsPage(Setting::Backup)},
+        {"settings-hotkeys", settingsPage(Setting::Hotkeys)},
+        {"settings-appearance", settingsPage(Setting::Appearance)}};
     return cases;
 }

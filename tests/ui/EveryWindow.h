@@ -1,6 +1,9 @@
 #pragma once
 
+#include "PMTranslator.h"
+#include "UiSettings.h"
 #include "UiTesting.h"
+#include "dialogs/RecentPasswords.h"
 #include "lock/SecureWindow.h"
 #include "main/MainView.h"
 #include "style/Theme.h"
@@ -20,6 +23,9 @@ public:
 
     TestCore test;
     Theme theme;
+    UiSettings uiSettings;
+    PMTranslator translator;
+    RecentPasswords recent;
 
     /// The main window with the safe open, or with the page that comes before.
     std::unique_ptr<SecureWindow> mainWindow();

@@ -120,8 +120,13 @@ void TestEveryWindow::contrast()
 void TestEveryWindow::textsFit()
 {
     QStringList faults;
-    const std::unique_ptr<QWidget> window = makeWindow();
-    faults += below(QStringLiteral("en"), WindowChecks::clippingFaults(*window));
+    Theme &theme = stage(Stage::Filled).theme;
+    for (const int percent : {90, 150, 100}) {
+        theme.setTextPercent(percent);
+        const std::unique_ptr<QWidget> window = makeWindow();
+        faults += below(QStringLiteral("en, %1 %").arg(percent),
+                        WindowChecks::clippingFaults(*window));
+    }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
 

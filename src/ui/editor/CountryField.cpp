@@ -1,6 +1,7 @@
 #include "CountryField.h"
 
 #include "PMCountryTable.h"
+#include "style/Style.h"
 #include "style/Theme.h"
 
 #include <QAbstractItemView>
@@ -53,7 +54,7 @@ CountryField::CountryField(Content content, const Theme &theme, QWidget *parent)
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setMaxVisibleItems(rowsShown);
     m_completer->popup()->setObjectName(QStringLiteral("countryList"));
-    m_completer->popup()->setMinimumWidth(popupWidth);
+    m_completer->popup()->setMinimumWidth(Style::scaled(popupWidth));
     // The delegate of completers does not take the style sheet's measures.
     m_completer->popup()->setItemDelegate(new QStyledItemDelegate(m_completer));
     setCompleter(m_completer);

@@ -69,7 +69,8 @@ DatePopup::DatePopup(const Theme &theme, const QLocale &locale, QWidget *parent)
     m_calendar->setHeaderTextFormat(quiet);
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
         m_calendar->setWeekdayTextFormat(day, quiet);
-    m_calendar->setFixedSize(calendarSize);
+    m_calendar->setFixedSize(Style::scaled(calendarSize.width()),
+                             Style::scaled(calendarSize.height()));
     const QVector<QPair<QString, QString>> arrows = {
         {QStringLiteral("qt_calendar_prevmonth"), QStringLiteral("chevron-left")},
         {QStringLiteral("qt_calendar_nextmonth"), QStringLiteral("chevron-right")}};

@@ -5,6 +5,7 @@
 #include "PhoneInput.h"
 #include "SecretInput.h"
 #include "TextInput.h"
+#include "style/Style.h"
 #include "widgets/Controls.h"
 #include "widgets/MessageLabel.h"
 
@@ -31,7 +32,7 @@ FieldInput::FieldInput(const ItemField &field, QWidget *parent)
     // A long text takes the height that there is; the other inputs stay at the top of theirs.
     m_grid->setRowStretch(field.form == ItemField::LongText ? 1 : 3, 1);
     m_message->setObjectName(QLatin1String(field.property) + QStringLiteral("Message"));
-    m_message->setMinimumHeight(messageHeight);
+    m_message->setMinimumHeight(Style::scaled(messageHeight));
     m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_grid->addWidget(m_message, 2, 0, 1, 2);
 }
@@ -44,8 +45,8 @@ void FieldInput::place(QWidget *control, int column, const QString &label, const
     control->setAccessibleName(label);
     control->setObjectName(name);
     if (width > 0) {
-        control->setFixedWidth(width);
-        m_grid->setColumnMinimumWidth(column, width + columnGap);
+        control->setFixedWidth(Style::scaled(width));
+        m_grid->setColumnMinimumWidth(column, Style::scaled(width) + columnGap);
     }
     m_grid->addWidget(caption, 0, column);
     m_grid->addWidget(control, 1, column);

@@ -38,7 +38,7 @@ MonthPopup::MonthPopup(const Theme &theme, const QLocale &locale, QWidget *paren
         button->setText(locale.standaloneMonthName(month, QLocale::ShortFormat));
         button->setAccessibleName(locale.standaloneMonthName(month));
         button->setCheckable(true);
-        button->setFixedSize(monthWidth, Style::controlHeight);
+        button->setFixedSize(Style::scaled(monthWidth), Style::controlHeight);
         connect(button, &QToolButton::clicked, this, [this, month] {
             close();
             Q_EMIT chosen(QDate(m_year, month, 1));

@@ -1,5 +1,7 @@
 #include "TextInput.h"
 
+#include "style/Style.h"
+
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
@@ -16,9 +18,9 @@ TextInput::TextInput(const ItemField &field, QWidget *parent)
 {
     m_text->setTabChangesFocus(true);
     if (field.form == ItemField::LongText)
-        m_text->setMinimumHeight(longHeight);
+        m_text->setMinimumHeight(Style::scaled(longHeight));
     else
-        m_text->setFixedHeight(shortHeight);
+        m_text->setFixedHeight(Style::scaled(shortHeight));
     place(m_text, 1, itemFieldLabel(field),
           QLatin1String(field.property) + QStringLiteral("Field"));
     connect(m_text, &QPlainTextEdit::textChanged, this, &FieldInput::edited);

@@ -63,7 +63,7 @@ FindingRow::FindingRow(const HealthFinding &finding, const PMListItem &item, con
     : QWidget(parent)
     , m_ignore(makeButton(finding.ignored ? tr("Stop ignoring") : tr("Ignore"), "plain", this))
 {
-    setFixedHeight(rowHeight);
+    setFixedHeight(Style::scaled(rowHeight));
     auto *tile = new Tile(tileSize, this);
     tile->setItem(item.title(), item.type());
     auto *title = new ElidedLabel("itemTitle", this);

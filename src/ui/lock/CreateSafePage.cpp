@@ -10,6 +10,7 @@
 
 #include <QBoxLayout>
 #include <QKeyEvent>
+#include <QScrollArea>
 
 namespace {
 
@@ -104,10 +105,24 @@ void CreateSafePage::layOut()
     auto *frame = new QWidget(this);
     frame->setFixedWidth(Style::scaled(columnWidth));
     frame->setLayout(column);
+    auto *inside = new QWidget(this);
+    inside->setObjectName(QStringLiteral("createSafeBody"));
+    auto *rows = new QVBoxLayout(inside);
+    rows->setContentsMargins({});
+    rows->addStretch(3);
+    rows->addLayout(centred(frame));
+    rows->addStretch(4);
+    // With large texts on a small screen it is higher than the window.
+    auto *scroll = new QScrollArea(this);
+    scroll->setObjectName(QStringLiteral("createSafeScroll"));
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(inside);
     auto *all = new QVBoxLayout(this);
-    all->addStretch(3);
-    all->addLayout(centred(frame));
-    all->addStretch(4);
+    all->setContentsMargins(0, Style::margin, 0, Style::margin);
+    all->addWidget(scroll);
     for (std::size_t i = 1; i < m_fields.size(); ++i)
         setTabOrder(m_fields[i - 1], m_fields[i]);
     // The way on comes before the way back.

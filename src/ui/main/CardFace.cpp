@@ -2,6 +2,7 @@
 
 #include "PMCreditCard.h"
 #include "editor/CardNumber.h"
+#include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/BrandMark.h"
 #include "widgets/Controls.h"
@@ -35,7 +36,7 @@ CardFace::CardFace(const PMCreditCard &card, const Theme &theme, QWidget *parent
     , m_theme(theme)
 {
     setObjectName(QStringLiteral("cardFace"));
-    setFixedHeight(faceHeight);
+    setFixedHeight(Style::scaled(faceHeight));
     auto *mark = new BrandMark(this);
     mark->setOnColor(true);
     mark->setBrand(card.cardType());

@@ -123,16 +123,16 @@ int ItemDelegate::paintBadge(QPainter &painter, const QRect &area, const QFont &
     if (text.isEmpty())
         return 0;
     QFont small = font;
-    small.setPixelSize(badgeTextSize);
+    small.setPixelSize(Style::scaled(badgeTextSize));
     small.setWeight(QFont::DemiBold);
     const int width = QFontMetrics(small).horizontalAdvance(text) + 2 * Style::spacing;
-    const QRect badge(area.right() - width + 1, area.center().y() - badgeHeight / 2, width,
-                      badgeHeight);
+    const int height = Style::scaled(badgeHeight);
+    const QRect badge(area.right() - width + 1, area.center().y() - height / 2, width, height);
     const Palette &palette = m_theme.palette();
     const QColor color = palette.color(isExpired(last, today) ? Palette::Terrible : Palette::Weak);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette.tint(color));
-    painter.drawRoundedRect(badge, badgeHeight / 2.0, badgeHeight / 2.0);
+    painter.drawRoundedRect(badge, height / 2.0, height / 2.0);
     painter.setFont(small);
     painter.setPen(color);
     painter.drawText(badge, Qt::AlignCenter, text);

@@ -26,7 +26,7 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
 {
     setObjectName(QStringLiteral("sidebar"));
     setAttribute(Qt::WA_StyledBackground);
-    setFixedWidth(Style::scaled(sidebarWidth));
+    setFixedWidth(qMax(sidebarWidth, Style::scaled(sidebarWidth)));
     connect(m_switcher, &SafeSwitcher::safeChosen, this, &Sidebar::safeChosen);
     connect(m_switcher, &SafeSwitcher::createRequested, this, &Sidebar::createSafeRequested);
     connect(m_switcher, &SafeSwitcher::lockRequested, this, &Sidebar::lockRequested);
