@@ -11,6 +11,7 @@
 #include "main/MainView.h"
 #include "settings/SettingsTable.h"
 #include "style/Theme.h"
+#include "wizard/FirstRun.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -39,11 +40,25 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray, QObj
                               [this](int percent) { return setTextPercent(percent); }})
             .settings();
     });
+    makeFirstRun();
 }
 
 PMUiProvider::~PMUiProvider()
 {
     m_window.reset();
+}
+
+void PMUiProvider::makeFirstRun()
+{
+    const auto chooseLanguage = [this](const QString &language) {
+        if (!setLanguage(language))
+            return false;
+        m_core.settings().setLanguageFile(language);
+        m_core.settings().storeSettings();
+        return true;
+    };
+    m_firstRun =
+        std::make_unique<FirstRun>(m_core, m_settings, *m_theme, m_translator, chooseLanguage);
 }
 
 void PMUiProvider::connectCore()
@@ -64,6 +79,7 @@ void PMUiProvider::prepareFirstLaunch()
 {
     // What an earlier installation left may not fit this screen.
     m_settings.forgetWindows();
+    m_firstRun->expect();
 }
 
 int PMUiProvider::mainWindowScreenNumber() const
@@ -78,6 +94,7 @@ void PMUiProvider::createMainWindow()
     m_window = std::make_unique<SecureWindow>(m_core, *m_theme, view);
     m_window->setTrayCheck(m_hasTray);
     m_sideWindows->setMain(m_window.get());
+    m_firstRun->setMain(m_window.get());
     connectView(*view);
     view->setItemOrder(m_settings.itemOrder());
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
@@ -88,7 +105,7 @@ void PMUiProvider::createMainWindow()
     makeTray();
 }
 
-void PMUiProvider::connectView(const MainView &view)
+void PMUiProvider::connectView(MainView &view)
 {
     connect(&view, &MainView::generatorRequested, m_sideWindows.get(), &SideWindows::openGenerator);
     connect(&view, &MainView::fieldGeneratorRequested, m_sideWindows.get(),
@@ -99,6 +116,10 @@ void PMUiProvider::connectView(const MainView &view)
     connect(&view, &MainView::createSafeRequested, m_window.get(), &SecureWindow::createSafe);
     connect(&view, &MainView::itemOrderChanged, this,
             [this, &view] { m_settings.setItemOrder(view.itemOrder()); });
+    view.setSetUpDone(m_firstRun->isDone());
+    connect(m_firstRun.get(), &FirstRun::doneChanged, &view,
+            [this, &view] { view.setSetUpDone(m_firstRun->isDone()); });
+    connect(&view, &MainView::setUpRequested, m_firstRun.get(), &FirstRun::open);
     connect(&view, &MainView::helpRequested, this, &PMUiProvider::showAbout);
     connect(&view, &MainView::exitRequested, this, &PMUiProvider::exitByUser);
 }
@@ -179,6 +200,7 @@ void PMUiProvider::rebuildWindows()
     }
     if (settingsOpen)
         m_sideWindows->openSettings();
+    m_firstRun->showExpected();
 }
 
 QWidget *PMUiProvider::mainWindow() const
@@ -196,6 +218,7 @@ void PMUiProvider::openMainView(const QString &url)
         bringToFront();
     else if (!m_window->isVisible() && !m_hasTray())
         m_window->showMinimized();
+    m_firstRun->showExpected();
 }
 
 void PMUiProvider::showFirstPage()
@@ -218,6 +241,7 @@ void PMUiProvider::bringToFront()
     putInFront(*m_window->windowHandle());
     m_window->raise();
     m_window->activateWindow();
+    m_firstRun->showExpected();
 }
 
 void PMUiProvider::showMessage(const QString &title, const QString &text)

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+class FirstRun;
 class GPMAppCore;
 class MainView;
 class QUrl;
@@ -52,6 +53,7 @@ public:
 
     /// Switches to a language of the translator and shows everything in it. False when the user
     /// wants to go on editing or the language cannot be loaded: then nothing has changed.
+    void makeFirstRun();
     bool setLanguage(const QString &language);
     /// The same with the size of texts, in percent of the usual one.
     bool setTextPercent(int percent);
@@ -68,7 +70,7 @@ private:
     void lock();
     void exitByUser();
     void showFirstPage();
-    void connectView(const MainView &view);
+    void connectView(MainView &view);
     void makeTray();
     void makeLockShortcut();
     void rebuildSoon();
@@ -82,6 +84,7 @@ private:
     PMTranslator m_translator;
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<SideWindows> m_sideWindows;
+    std::unique_ptr<FirstRun> m_firstRun;
     std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<TrayIcon> m_tray;
     bool m_firstPageChosen = false;

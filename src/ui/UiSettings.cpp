@@ -7,6 +7,7 @@ namespace {
 
 const QString lastUsedSafeKey = QStringLiteral("LastUsedSafe");
 const QString screenNumberKey = QStringLiteral("LastMainWindowScreenNumber");
+const QString setUpDoneKey = QStringLiteral("SetUpDone");
 const QString itemOrderKey = QStringLiteral("ItemOrder");
 const QString geometrySuffix = QStringLiteral("_Geometry");
 const QString splitterSuffix = QStringLiteral("_Splitter");
@@ -140,6 +141,16 @@ QString UiSettings::itemOrder() const
 void UiSettings::setItemOrder(const QString &name)
 {
     m_store.setValue(itemOrderKey, name);
+}
+
+bool UiSettings::setUpDone() const
+{
+    return m_store.value(setUpDoneKey, false).toBool();
+}
+
+void UiSettings::setSetUpDone(bool done)
+{
+    m_store.setValue(setUpDoneKey, done);
 }
 
 void UiSettings::forgetWindows()

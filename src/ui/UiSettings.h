@@ -55,6 +55,10 @@ public:
     QString itemOrder() const;
     void setItemOrder(const QString &name);
 
+    /// Whether the user went through the first steps to their end.
+    bool setUpDone() const;
+    void setSetUpDone(bool done);
+
     /// Forgets where all windows were and how they were divided.
     void forgetWindows();
 

@@ -1,16 +1,10 @@
 #pragma once
 
-#include "CreateSafeRules.h"
-
 #include <QWidget>
 
-#include <array>
-
+class CreateSafeForm;
 class GPMAppCore;
-class MessageLabel;
-class PasswordField;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class Theme;
 
@@ -35,25 +29,11 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void reset();
-    void makeFields(const Theme &theme);
     void layOut();
-    void connectFields();
-    CreateSafeRules::Input input() const;
-    void onEdited(int field);
-    void onReturn(int field);
-    void create();
-    void showMessages();
 
     GPMAppCore &m_core;
-    const Theme &m_theme;
     QLabel *m_offer;
-    PasswordField *m_password;
-    PasswordField *m_confirm;
-    std::array<QLineEdit *, CreateSafeRules::FieldCount> m_fields;
-    std::array<MessageLabel *, CreateSafeRules::FieldCount> m_messages;
-    MessageLabel *m_failure;
+    CreateSafeForm *m_form;
     QPushButton *m_back;
     QPushButton *m_create;
-    int m_reached = -1; ///< the last field that the user edited
 };

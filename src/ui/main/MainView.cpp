@@ -103,6 +103,7 @@ void MainView::connectParts()
     connect(m_health, &HealthDesk::changeRequested, this, &MainView::changeItem);
     connect(m_sidebar, &Sidebar::settingsRequested, this, &MainView::settingsRequested);
     connect(m_sidebar, &Sidebar::helpRequested, this, &MainView::helpRequested);
+    connect(m_sidebar, &Sidebar::setUpRequested, this, &MainView::setUpRequested);
     connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
     connect(m_sidebar, &Sidebar::safeChosen, this, &MainView::safeChosen);
     connect(m_sidebar, &Sidebar::createSafeRequested, this, &MainView::createSafeRequested);
@@ -252,6 +253,11 @@ void MainView::goTo(const QVariantMap &place)
     showCategory(ItemCategory::all().value(row));
     m_list->setCurrent(place.value(QStringLiteral("item")).toString());
     showCurrent();
+}
+
+void MainView::setSetUpDone(bool done)
+{
+    m_sidebar->setSetUpDone(done);
 }
 
 QByteArray MainView::splitterState() const

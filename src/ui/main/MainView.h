@@ -51,6 +51,9 @@ public:
     QString itemOrder() const;
     void setItemOrder(const QString &name);
 
+    /// Whether the first steps with the program are done, and need not be offered.
+    void setSetUpDone(bool done);
+
 Q_SIGNALS:
     void lockRequested();
     /// Another safe is to take the place of this one, or a new one.
@@ -62,6 +65,7 @@ Q_SIGNALS:
     void fieldGeneratorRequested(QObject *owner, const MainView::Place &place);
     void settingsRequested();
     void helpRequested();
+    void setUpRequested();
     void exitRequested();
 
 private:

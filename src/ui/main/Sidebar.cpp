@@ -93,12 +93,19 @@ QWidget *Sidebar::makeMenuButton(const Theme &theme)
     more->setObjectName(QStringLiteral("menuButton"));
     more->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(more);
+    m_setUp = menu->addAction(tr("Finish setting up"), this, &Sidebar::setUpRequested);
+    m_setUp->setObjectName(QStringLiteral("setUpAction"));
     menu->addAction(tr("Help"), this, &Sidebar::helpRequested);
     menu->addSeparator();
     // The window knows the key, it holds on the lock pages too; here it is only told.
     menu->addAction(tr("Exit") + QStringLiteral("\tCtrl+Q"), this, &Sidebar::exitRequested);
     more->setMenu(menu);
     return more;
+}
+
+void Sidebar::setSetUpDone(bool done)
+{
+    m_setUp->setVisible(!done);
 }
 
 void Sidebar::setSafe(const QString &name, const QString &folder)

@@ -9,6 +9,7 @@
 
 class CategoryListView;
 class CategoryModel;
+class QAction;
 class QBoxLayout;
 class SafeSwitcher;
 class Theme;
@@ -31,6 +32,7 @@ public:
     /// Marks a category without telling.
     void setCategory(const ItemCategory &category);
     void takeFocus();
+    void setSetUpDone(bool done);
 
 Q_SIGNALS:
     void categoryChosen(const ItemCategory &category);
@@ -44,6 +46,7 @@ Q_SIGNALS:
     void healthRequested();
     void settingsRequested();
     void helpRequested();
+    void setUpRequested();
     void exitRequested();
 
 private:
@@ -54,5 +57,6 @@ private:
     CategoryModel *m_model;
     CategoryListView *m_list;
     SafeSwitcher *m_switcher;
+    QAction *m_setUp = nullptr;
     bool m_marking = false;
 };

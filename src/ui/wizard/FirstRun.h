@@ -1,0 +1,55 @@
+#pragma once
+
+#include "WizardStep.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+class GPMAppCore;
+class PMTranslator;
+class SetupWizard;
+class Theme;
+class UiSettings;
+
+/// Opens the wizard in front of the main window and knows whether there is something left to do in
+/// it.
+class FirstRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    using ChooseLanguage = std::function<bool(const QString &language)>;
+
+    /// Everything outlives this.
+    FirstRun(GPMAppCore &core, UiSettings &uiSettings, const Theme &theme,
+             const PMTranslator &translator, ChooseLanguage chooseLanguage);
+
+    /// The window in front of which the wizard opens. One that is open moves over to it.
+    void setMain(QWidget *main);
+
+    /// Opens the wizard when the main window comes up next.
+    void expect() { m_expected = true; }
+    /// Opens the expected wizard if the main window can be seen.
+    void showExpected();
+    void open();
+
+    bool isDone() const;
+
+Q_SIGNALS:
+    void doneChanged();
+
+private:
+    QVector<WizardStep> steps() const;
+    QVector<WizardStep> stepsOfUse() const;
+
+    GPMAppCore &m_core;
+    UiSettings &m_uiSettings;
+    const Theme &m_theme;
+    const PMTranslator &m_translator;
+    ChooseLanguage m_chooseLanguage;
+    QPointer<QWidget> m_main;
+    QPointer<SetupWizard> m_wizard;
+    QString m_resumeAt; ///< a step of the wizard that was open on a window that is gone
+    bool m_expected = false;
+};

@@ -1,0 +1,211 @@
+#include "PMUiProvider.h"
+#include "UiTesting.h"
+#include "wizard/ExtensionPage.h"
+#include "wizard/SetupWizard.h"
+#include "wizard/WizardPage.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+class TestSetupWizard : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyStepDone();
+    void everyStepSkipped();
+    void leftInTheMiddle();
+    void onlyStepsThatExist();
+    void findsTheExtension();
+    void tellsWhenABrowserConnects();
+};
+
+namespace {
+
+struct Start
+{
+    Start()
+        : provider(test.core, [] { return true; })
+    {
+        provider.connectCore();
+        provider.prepareFirstLaunch();
+        provider.createMainWindow();
+        provider.mainWindow()->show();
+        provider.openMainView(QString());
+    }
+
+    SetupWizard *wizard() const { return provider.mainWindow()->findChild<SetupWizard *>(); }
+    QPushButton *button(const char *name) const { return find<QPushButton>(*wizard(), name); }
+    QAction *menuEntry() const { return find<QAction>(*provider.mainWindow(), "setUpAction"); }
+
+    void enter(const char *field, const QString &text) const
+    {
+        QTest::keyClicks(find<QLineEdit>(*wizard(), field), text);
+    }
+
+    TestCore test;
+    PMUiProvider provider;
+};
+
+/// A page that counts what is done with it.
+class CountingPage : public WizardPage
+{
+public:
+    CountingPage(bool works, QVector<QString> &log, QWidget *parent)
+        : WizardPage(parent)
+        , m_works(works)
+        , m_log(log)
+    {
+    }
+    bool goOn() override
+    {
+        m_log.append(QStringLiteral("go on"));
+        return m_works;
+    }
+    bool canSkip() const override { return true; }
+    void clearSecrets() override { m_log.append(QStringLiteral("clear")); }
+
+private:
+    bool m_works;
+    QVector<QString> &m_log;
+};
+
+} // namespace
+
+void TestSetupWizard::everyStepDone()
+{
+    Start start;
+    const QPointer<SetupWizard> wizard = start.wizard();
+    QVERIFY(wizard && wizard->isVisible());
+    QCOMPARE(wizard->step(), QStringLiteral("safe"));
+    QVERIFY(!start.button("wizardOnward")->isEnabled());
+    start.enter("newSafeName", QStringLiteral("Home"));
+    start.enter("newSafePassword", testPassword);
+    QVERIFY(!find<QLabel>(*wizard, "newSafePasswordMessage")->text().isEmpty());
+    start.enter("newSafeConfirm", testPassword);
+    start.enter("newSafeHint", QStringLiteral("the usual"));
+    QTest::keyClick(find<QLineEdit>(*wizard, "newSafeHint"), Qt::Key_Return);
+    QVERIFY(wizard && wizard->isVisible());
+    QCOMPARE(start.test.core.currentSafe()->name(), QStringLiteral("Home"));
+    QVERIFY(start.test.core.currentSafe()->isUnlocked());
+    QVERIFY(start.menuEntry()->isVisible());
+
+    // Back shows what was made, not the fields once more.
+    start.button("wizardBack")->click();
+    QVERIFY(find<QLabel>(*wizard, "safeMade")->text().contains(QStringLiteral("Home")));
+    QVERIFY(!find<QLineEdit>(*wizard, "newSafePassword")->isVisible());
+    QCOMPARE(find<QLineEdit>(*wizard, "newSafePassword")->text(), QString());
+    while (wizard->step() != QLatin1String("ready"))
+        start.button("wizardOnward")->click();
+    start.button("wizardOnward")->click();
+    QVERIFY(!wizard->isVisible());
+    QVERIFY(!start.menuEntry()->isVisible());
+}
+
+void TestSetupWizard::everyStepSkipped()
+{
+    Start start;
+    const QPointer<SetupWizard> wizard = start.wizard();
+    start.enter("newSafePassword", testPassword);
+    while (wizard->step() != QLatin1String("ready"))
+        start.button("wizardSkip")->click();
+    QCOMPARE(find<QLineEdit>(*wizard, "newSafePassword")->text(), QString());
+    start.button("wizardOnward")->click();
+    QVERIFY(!start.test.core.currentSafe());
+    QVERIFY(find<QLineEdit>(*start.provider.mainWindow(), "newSafeName")->isVisible());
+}
+
+void TestSetupWizard::leftInTheMiddle()
+{
+    Start start;
+    const QPointer<SetupWizard> wizard = start.wizard();
+    start.enter("newSafePassword", testPassword);
+    QTest::keyClick(wizard, Qt::Key_Escape);
+    QTRY_VERIFY(!wizard);
+    // It does not come by itself again, but is found again without the safe, which is there now.
+    QVERIFY(start.test.createSafe());
+    start.provider.bringToFront();
+    QVERIFY(!start.wizard());
+    QVERIFY(start.menuEntry()->isVisible());
+    start.menuEntry()->trigger();
+    QVERIFY(start.wizard()->step() != QLatin1String("safe"));
+    // A lock puts it away like every question.
+    start.test.core.lockCurrentSafe();
+    QTRY_VERIFY(!start.wizard());
+}
+
+void TestSetupWizard::onlyStepsThatExist()
+{
+    Theme theme;
+    QVector<QString> log;
+    const auto step = [&log](const char *id, bool exists, bool works) {
+        return WizardStep{
+            id,
+            QString::fromLatin1(id),
+            {},
+            [exists] { return exists; },
+            [&log, works](QWidget *parent) { return new CountingPage(works, log, parent); }};
+    };
+    SetupWizard wizard({step("one", true, true), step("missing", false, true),
+                        step("fails", true, false), step("last", true, true)},
+                       theme, nullptr);
+    wizard.show();
+    QSignalSpy completed(&wizard, &SetupWizard::completed);
+    auto *onward = find<QPushButton>(wizard, "wizardOnward");
+    QVERIFY(!find<QPushButton>(wizard, "wizardBack")->isVisible());
+    onward->click();
+    QCOMPARE(wizard.step(), QStringLiteral("fails"));
+    log.clear();
+    onward->click();
+    QCOMPARE(wizard.step(), QStringLiteral("fails"));
+    QCOMPARE(log, QVector<QString>{QStringLiteral("go on")});
+    find<QPushButton>(wizard, "wizardSkip")->click();
+    QCOMPARE(wizard.step(), QStringLiteral("last"));
+    QVERIFY(log.contains(QStringLiteral("clear")));
+    QVERIFY(!find<QPushButton>(wizard, "wizardSkip")->isVisible());
+    QCOMPARE(onward->text(), QStringLiteral("Done"));
+    wizard.goTo(QStringLiteral("missing"));
+    QCOMPARE(wizard.step(), QStringLiteral("last"));
+    onward->click();
+    QCOMPARE(completed.count(), 1);
+}
+
+void TestSetupWizard::findsTheExtension()
+{
+    QTemporaryDir folder;
+    const QString program = folder.path() + QStringLiteral("/build/dev/src");
+    const QString sources = folder.path() + QStringLiteral("/extension/dist/chromium");
+    QVERIFY(QDir().mkpath(program) && QDir().mkpath(sources));
+    QCOMPARE(ExtensionPage::folder(program), QString());
+    QFile manifest(sources + QStringLiteral("/manifest.json"));
+    QVERIFY(manifest.open(QIODevice::WriteOnly));
+    QCOMPARE(ExtensionPage::folder(program), QFileInfo(sources).canonicalFilePath());
+}
+
+void TestSetupWizard::tellsWhenABrowserConnects()
+{
+    Theme theme;
+    bool connected = false;
+    QString copied;
+    ExtensionPage page({QStringLiteral("/extension"), [&] { return connected; },
+                        [&](const QString &text) { copied = text; }},
+                       theme, nullptr);
+    QSignalSpy changed(&page, &WizardPage::changed);
+    page.show();
+    QVERIFY(page.canSkip());
+    const QString before = find<QLabel>(page, "extensionState")->text();
+    connected = true;
+    page.hide();
+    page.show();
+    QVERIFY(find<QLabel>(page, "extensionState")->text() != before);
+    QVERIFY(!page.canSkip());
+    QCOMPARE(changed.count(), 1);
+    find<QPushButton>(page, "copyAddress")->click();
+    QCOMPARE(copied, QStringLiteral("chrome://extensions"));
+}
+
+QTEST_MAIN(TestSetupWizard)
+#include "tst_setupwizard.moc"
