@@ -19,6 +19,46 @@
     </message>
 </context>
 <context>
+    <name>ExpiryText</name>
+    <message numerus="yes">
+        <source>Expires in %n days</source>
+        <translation>
+            <numerusform>Expires in %n day</numerusform>
+            <numerusform>Expires in %n days</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FindingRow</name>
+    <message numerus="yes">
+        <source>The same password as %1 and %n more</source>
+        <translation>
+            <numerusform>The same password as %1 and %n more</numerusform>
+            <numerusform>The same password as %1 and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ItemActions</name>
+    <message numerus="yes">
+        <source>Do you want to delete %n items forever?
+They can not be restored.</source>
+        <translation>
+            <numerusform>Do you want to delete %n item forever?
+It can not be restored.</numerusform>
+            <numerusform>Do you want to delete %n items forever?
+They can not be restored.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to remove %n items?</source>
+        <translation>
+            <numerusform>Do you want to remove %n item?</numerusform>
+            <numerusform>Do you want to remove %n items?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message numerus="yes">
         <source>%n items</source>
@@ -45,6 +85,26 @@
         <translation>
             <numerusform>Locked after %n minute without input</numerusform>
             <numerusform>Locked after %n minutes without input</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MainView</name>
+    <message numerus="yes">
+        <source>%n items moved to trash</source>
+        <translation>
+            <numerusform>%n item moved to trash</numerusform>
+            <numerusform>%n items moved to trash</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SelectionPage</name>
+    <message numerus="yes">
+        <source>%n items selected</source>
+        <translation>
+            <numerusform>%n item selected</numerusform>
+            <numerusform>%n items selected</numerusform>
         </translation>
     </message>
 </context>

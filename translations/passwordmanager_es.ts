@@ -32,6 +32,13 @@
     </message>
 </context>
 <context>
+    <name>BusSessionWatch</name>
+    <message>
+        <source>Locking the safe</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CapsIndicator</name>
     <message>
         <source>CAPS ON</source>
@@ -43,9 +50,34 @@
     </message>
 </context>
 <context>
+    <name>CardFace</name>
+    <message>
+        <source>Click to copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CategoryListView</name>
+    <message>
+        <source>Restore all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Empty trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CategoryModel</name>
     <message>
         <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceInput</name>
+    <message>
+        <source>Not specified</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -57,6 +89,22 @@
     </message>
     <message>
         <source>clears in %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CountryField</name>
+    <message>
+        <source>%1  +%2</source>
+        <extracomment>a country and its dialling code</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all countries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all countries (Alt+Down)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -133,6 +181,162 @@ another one?</source>
     </message>
 </context>
 <context>
+    <name>DatePopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DraftKeeper</name>
+    <message>
+        <source>Can&apos;t keep the edit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you were typing could not be kept, as its file could not be written. Check the free space and the permissions of the program&apos;s data folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DraftOffer</name>
+    <message>
+        <source>an item without a title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue editing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You were adding %1 when the safe locked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You were editing %1 when the safe locked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you had typed was kept, encrypted, and is not saved yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The item was deleted meanwhile. What you had typed can become a new item.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The item is in the trash now. What you had typed was kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The item was changed meanwhile. What you had typed was kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An edit that was kept could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its file is damaged or belongs to another password, and was left as it is:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is in the trash. What would you like to do with what you had typed?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was changed after you had begun. What would you like to do with what you had typed?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue as a new item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirmation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to discard what you had typed about %1?
+It can not be restored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExpiryText</name>
+    <message>
+        <source>Expired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expires today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expires in 1 day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Expires in %n days</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Export</name>
+    <message>
+        <source>The folder of the safe is not there. If it is on a drive that can be taken out, connect it and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no safe in the folder any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password of the safe is being changed, or it is being archived already. Try again when that is done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of the safe&apos;s files can&apos;t be read. Check that its folder is there and that you may read and write it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The archive can&apos;t be written. Check the free space and that you may write to its folder, or choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The safe holds more than the 4 GiB that fit into an archive. Copy its folder instead, or take out large attachments.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The archive could not be read back after it was written, and was removed. Choose a folder on another drive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FieldRow</name>
     <message>
         <source>%1, hidden</source>
@@ -154,6 +358,18 @@ another one?</source>
         <source>Copy to clipboard: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Click to copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Generate password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FieldRules</name>
@@ -165,6 +381,84 @@ another one?</source>
         <source>Url is invalid</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Please use 4-digit value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please use 3-digit value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct value is up to 26 characters in range A-Z including spaces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Incorrect card number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not a complete address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not a country code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FindingRow</name>
+    <message>
+        <source>The same password as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The same password as %1 and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing changed since %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address begins with http: others can read along</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop ignoring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change it…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the site&apos;s page for a new password</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FormFillFlow</name>
@@ -174,13 +468,6 @@ another one?</source>
     </message>
     <message>
         <source>Item %1 has wrong url: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>FramedDialog</name>
-    <message>
-        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -206,6 +493,141 @@ another one?</source>
     <message>
         <source>These files could not be written; what they held before is still there. Check the free space and the permissions, then save again:
 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t use the hotkey.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is used by another program. Choose another combination in the settings, or end that program and start this one anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HealthDialog</name>
+    <message>
+        <source>Health</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Older than 2 years</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not on https</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expiring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking at the items…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to what is not ignored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ignored (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all items have been looked at yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HealthTile</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HotkeyLineEdit</name>
+    <message>
+        <source>Press keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press a combination of keys; Backspace clears it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HotkeyRules</name>
+    <message>
+        <source>Use it together with Ctrl, Alt or Meta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is taken by: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Import</name>
+    <message>
+        <source>The file is not there or can&apos;t be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another safe is being imported. Try again when that is done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The safe can&apos;t be written. Check the free space and that you may write to the folder of your safes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file would unpack to more than 4 GiB, or to a hundred times its size. No safe does that, so it was not imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file is not an archive. Choose a file that was exported or backed up from a safe.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is damaged or was cut short. Copy it again from where it came from, or choose another backup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The archive has a password of its own or is packed in a way that can&apos;t be read. Pack it again as a plain ZIP file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The archive holds a file that would be written outside the safe. Somebody may have tampered with it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The archive holds two files of the same name. Somebody may have tampered with it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no safe in this archive. Choose a file that was exported or backed up from a safe.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -241,12 +663,24 @@ It can not be restored.</source>
 They can not be restored.</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>ItemFields</name>
     <message>
-        <source>Title</source>
+        <source>%1 (copy)</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to delete %n items forever?
+They can not be restored.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to remove %n items?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -370,6 +804,94 @@ They can not be restored.</source>
             <numerusform></numerusform>
         </translation>
     </message>
+    <message>
+        <source>New login</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New credit card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New bank account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New identity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New passport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New social security number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New driver licence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New secure note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New FTP account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New software licence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New attachment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy card number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy account number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy email address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy passport number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy licence number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy licence key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expiring</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ItemListPane</name>
@@ -382,14 +904,6 @@ They can not be restored.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Press Ctrl+N to add a login.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Items of this kind appear here.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation type="unfinished"></translation>
     </message>
@@ -398,35 +912,7 @@ They can not be restored.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>New login</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>New login (Ctrl+N)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Title</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Most used</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Last changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Newest</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sort: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -467,6 +953,61 @@ They can not be restored.</source>
     </message>
     <message>
         <source>Add your first login</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press Ctrl+N to add the first one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New item (Ctrl+N)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ItemMenu</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy user name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete forever…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -511,6 +1052,14 @@ They can not be restored.</source>
             <numerusform></numerusform>
         </translation>
     </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit (F2)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ItemPane</name>
@@ -519,23 +1068,11 @@ They can not be restored.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Choose an item on the left, or press Ctrl+N to add a login.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Remove</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Edit (Ctrl+E)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -581,6 +1118,70 @@ Fill and try again.</source>
     </message>
     <message>
         <source>Delete forever</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an item on the left, or press Ctrl+N to add one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are values that are no date or no number.
+Correct them and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LineInput</name>
+    <message>
+        <source>Open in browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open in browser (Alt+Return)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>e.g. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MM / YYYY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a date (Alt+Down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LockReason</name>
+    <message numerus="yes">
+        <source>Locked after %n minutes without input</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MainView</name>
+    <message>
+        <source>Moved to trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items moved to trash</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -632,10 +1233,6 @@ Create one?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Unlock your safe to go on</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Hint: %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -653,6 +1250,31 @@ Create one?</source>
     </message>
     <message>
         <source>Unlocking…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MonthPopup</name>
+    <message>
+        <source>Previous year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next year</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NewItemMenu</name>
+    <message>
+        <source>New item</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBanner</name>
+    <message>
+        <source>Dismiss</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -759,9 +1381,134 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     </message>
 </context>
 <context>
+    <name>PasswordWeakness</name>
+    <message>
+        <source>a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a word from a list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keys side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a repetition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a few characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PhoneInput</name>
+    <message>
+        <source>Country code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: country code</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PluginVersion</name>
     <message>
         <source>Invalid plugin version for %1 extension: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProgramShortcuts</name>
+    <message>
+        <source>copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>select all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>log in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copy the user name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copy the password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>password generator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a command of this program</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -787,11 +1534,112 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
 <context>
     <name>SafeItemEditor</name>
     <message>
-        <source>New login</source>
+        <source>Editing “%1” · %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Edit login</source>
+        <source>small</source>
+        <extracomment>&quot;small&quot; where a language writes names inside a sentence small, else &quot;as they are&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More fields: %1</source>
+        <extracomment>names of fields</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More fields: %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SafeSwitcher</name>
+    <message>
+        <source>Switch to another safe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Safe: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (not available)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create new...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SearchWords</name>
+    <message>
+        <source>favourite</source>
+        <comment>behind &quot;is:&quot;</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>trash</source>
+        <comment>behind &quot;is:&quot;</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>weak</source>
+        <comment>behind &quot;is:&quot;</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <comment>behind &quot;is:&quot;</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expiring</source>
+        <comment>behind &quot;is:&quot;</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <comment>before &quot;:&quot; in a search</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is</source>
+        <comment>before &quot;:&quot; in a search</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finds items with all the words in title, user name, address or note.
+kind:card shows one kind of item.
+is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their state.</source>
+        <comment>with the words that are translated as parts of a search</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SecretInput</name>
+    <message>
+        <source>Generate password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Generate password (Ctrl+G)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to clipboard (Ctrl+C)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -820,6 +1668,378 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     </message>
     <message>
         <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SelectionPage</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items selected</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete forever</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingRow</name>
+    <message>
+        <source>Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: choose</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No setting matches the search.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTable</name>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything in the program is shown in it, at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language was not changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks from time to time whether there is a newer version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new version download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time until it locks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How long neither keyboard nor mouse are used, in any program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>auto-lock idle minutes away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> min</source>
+        <comment>minutes</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock after inactivity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The safe locks when you leave the computer alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>auto-lock idle away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock when the screen saver starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The safe locks together with the screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>auto-lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear copied values after 60 seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you copied from the safe does not stay on the clipboard, where other programs can read it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>clipboard copy password wipe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill and submit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log in from the main window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the page&apos;s form is only filled or also sent. A login can have its own way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>automatic form enter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log in from the quick-access window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same for logins that you choose while you are in the browser.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>automatic form enter extension plugin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open addresses in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the browser shows the page of a login that is not open yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tab window extension plugin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The current tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A safe that has not changed since is not copied again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interval how often</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for backups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best on another disk. The copies are encrypted like the safe.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>path directory archive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies to keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of each safe; when there are more, the oldest are deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number archives</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This folder cannot be written to: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back up automatically</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies of all safes that open with their master password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>archive copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock Safe hotkey:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locks the safe from any of the program&apos;s windows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shortcut key combination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browser plugin hotkey:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the quick-access window for the page in your browser.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light or dark, always or as the system has it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>theme mode night appearance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Like the system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of all texts, with the controls around them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>font large small zoom scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text size was not changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No animations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When it is off, the system&apos;s setting for animations holds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reduced motion effects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, but they could not be written to %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -889,6 +2109,56 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     </message>
 </context>
 <context>
+    <name>SortButton</name>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Newest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TitleBar</name>
+    <message>
+        <source>Minimise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>Open Main Window</source>
@@ -910,6 +2180,10 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>UnlockLogic</name>
@@ -928,6 +2202,29 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     </message>
     <message>
         <source>The safe could not be read. Check that its folder is there and that you may read it, then try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlock your safe to go on</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WindowMover</name>
+    <message>
+        <source>Minimise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
