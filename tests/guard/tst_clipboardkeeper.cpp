@@ -281,6 +281,8 @@ int main(int argc, char *argv[])
 {
     XServer server;
     qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     QApplication application(argc, argv);
     TestClipboardKeeper test(server);
     return QTest::qExec(&test, argc, argv);

@@ -234,7 +234,7 @@ QVector<Setting> SettingsTable::hotkeys() const
     return {bound({"lock_hotkey",
                    Setting::Hotkeys,
                    tr("Lock Safe hotkey:"),
-                   tr("Locks the safe from any of the program's windows."),
+                   tr("Locks the safe from any program; on Wayland, from this program's windows."),
                    tr("shortcut key combination"),
                    Setting::Hotkey,
                    {},
