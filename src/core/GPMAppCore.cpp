@@ -1,5 +1,6 @@
 #include "GPMAppCore.h"
 
+#include "ArchiveMessages.h"
 #include "PMItemFactory.h"
 #include "PluginVersion.h"
 
@@ -39,6 +40,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     , m_settings(places.configFolder, places.hiddenFolder)
     , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
                    safeEnvironment(places.dataFolder))
+    , m_backups(m_settings, m_knownSafes, places.hiddenFolder + QStringLiteral("/backup"))
     , m_privateFiles(PrivateFiles::places(places.runtimeFolder, places.dataFolder))
     , m_guard(
           m_settings, [this] { return m_safe && m_safe->isUnlocked(); }, places.activity())
@@ -68,6 +70,8 @@ void GPMAppCore::startGuard()
     connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkInactivity);
     connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkScreenSaverRunning);
     connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkBackupJob);
+    m_guard.setBackupCheck([this] { m_backups.check(); });
+    connect(&m_backups, &Backups::failed, this, &GPMAppCore::tellBackupFailures);
     m_guardTimer.start(LockGuard::checkMs);
 }
 
@@ -408,8 +412,40 @@ void GPMAppCore::purge(const QStringList &ids)
                        .arg(QDir::toNativeSeparators(m_safe->folder())));
 }
 
+void GPMAppCore::importSafeArchive(const QString &archivePath)
+{
+    if (m_import)
+        return;
+    m_import = m_knownSafes.importArchive(archivePath);
+    connect(m_import.get(), &ArchiveTask::progress, this, &GPMAppCore::importProgress);
+    connect(m_import.get(), &ArchiveTask::finished, this, [this] {
+        ArchiveTask *task = m_import.release();
+        task->deleteLater(); // its own signal led here
+        Q_EMIT importFinished(task->result());
+    });
+    m_import->start();
+}
+
+void GPMAppCore::cancelImport()
+{
+    if (m_import)
+        m_import->cancel();
+}
+
+void GPMAppCore::tellBackupFailures(const QVector<BackupJob::Result> &results)
+{
+    QStringList lines;
+    for (const BackupJob::Result &result : results)
+        lines.append(tr("%1: %2").arg(result.name, exportMessage(result.outcome)));
+    Q_EMIT message(tr("Can't back up."), tr("%1\n\nEarlier backups are left as they are, in:\n%2")
+                                             .arg(lines.join(QLatin1Char('\n')),
+                                                  QDir::toNativeSeparators(m_backups.folder())));
+}
+
 void GPMAppCore::exitPasswordManager()
 {
+    cancelImport();
+    m_backups.cancel();
     lockCurrentSafe();
     // What another program still held open when the safe was locked.
     m_privateFiles.wipe();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ActivitySource.h"
+#include "ArchiveTask.h"
+#include "Backups.h"
 #include "ClipboardKeeper.h"
 #include "FormFillFlow.h"
 #include "GPMAppSettings.h"
@@ -58,6 +60,7 @@ public:
     /// Copies of attachments for other programs; wiped when the safe locks and at the end.
     PrivateFiles &privateFiles() { return m_privateFiles; }
     LockGuard &guard() { return m_guard; }
+    Backups &backups() { return m_backups; }
 
     /// Why the safe was locked, for the user; empty when the user did it or none was open.
     const QString &lockReason() const { return m_lockReason; }
@@ -134,6 +137,11 @@ public Q_SLOTS:
     /// Takes everything out of the trash.
     void modelRestoreAll();
 
+    /// Starts to make a safe from an archive; importProgress() and importFinished() follow. A call
+    /// while one runs is ignored.
+    void importSafeArchive(const QString &archivePath);
+    void cancelImport();
+
     void exitPasswordManager();
 
 Q_SIGNALS:
@@ -142,6 +150,9 @@ Q_SIGNALS:
     void unlockProgress(int done, int total);
     void unlockFinished(SafeUnlock::Outcome outcome);
     void safeLockedChanged(bool locked);
+    void importProgress(qint64 done, qint64 total);
+    /// `path` of the result is the folder of the new safe, which is known and locked.
+    void importFinished(const ArchiveResult &result);
     /// The safe is about to be locked; it is still open.
     void requestLock();
     /// What is being edited is to be kept now.
@@ -160,6 +171,7 @@ private:
     void lockBecause(LockReason reason);
     void connectServer();
     void connectFlow();
+    void tellBackupFailures(const QVector<BackupJob::Result> &results);
     void tellSaveResult(bool good, const QStringList &failedPaths);
     void countUse(const QString &itemId);
     void setDeleted(const QStringList &itemIds, bool deleted);
@@ -169,6 +181,8 @@ private:
     std::unique_ptr<Platform> m_platform;
     GPMAppSettings m_settings;
     KnownSafes m_knownSafes;
+    Backups m_backups;
+    std::unique_ptr<ArchiveTask> m_import;
     ClipboardKeeper m_clipboard;
     PrivateFiles m_privateFiles;
     LockGuard m_guard;

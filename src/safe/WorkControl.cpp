@@ -8,6 +8,12 @@ WorkControl::WorkControl(Report report)
 {
 }
 
+void WorkControl::setPart(int part, int parts)
+{
+    m_part = part;
+    m_parts = parts;
+}
+
 void WorkControl::setTotal(qint64 bytes)
 {
     m_total = std::max<qint64>(bytes, 1);
@@ -24,5 +30,5 @@ void WorkControl::advance(qint64 bytes)
         return;
     m_reportedPercent = percent;
     if (m_report)
-        m_report(m_done, m_total);
+        m_report(m_part * m_total + m_done, m_parts * m_total);
 }

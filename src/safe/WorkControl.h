@@ -21,6 +21,10 @@ public:
     void cancel() { m_cancelled = true; }
     bool isCancelled() const { return m_cancelled; }
 
+    /// What is counted from now on is one of so many parts, reported as of the same size. Without
+    /// a call there is one.
+    void setPart(int part, int parts);
+
     /// Begins to count anew.
     void setTotal(qint64 bytes);
     void advance(qint64 bytes);
@@ -28,6 +32,8 @@ public:
 private:
     Report m_report;
     std::atomic<bool> m_cancelled{false};
+    int m_part = 0;
+    int m_parts = 1;
     qint64 m_total = 0;
     qint64 m_done = 0;
     qint64 m_reportedPercent = -1;

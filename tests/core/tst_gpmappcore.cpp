@@ -133,6 +133,43 @@ private Q_SLOTS:
         QVERIFY(!m_core->currentSafe());
     }
 
+    void backupsOfAllSafesRunOnTheTimerAndImport()
+    {
+        QVERIFY(m_core->createSafe(QStringLiteral("One"), QStringLiteral("pw"), {}));
+        const QString id = addLogin("Shop")->id();
+        QVERIFY(m_core->saveCurrentSafe());
+        QVERIFY(m_core->createSafe(QStringLiteral("Two"), QStringLiteral("pw"), {}));
+        QSignalSpy finished(&m_core->backups(), &Backups::finished);
+        QSignalSpy told(m_core.get(), &GPMAppCore::message);
+        m_core->settings().setBackupCheck(QDateTime::currentDateTimeUtc().addDays(-1));
+        QVERIFY(finished.wait());
+        QCOMPARE(m_core->backups().folder(), m_home->filePath(QStringLiteral("hidden/backup")));
+        auto listing = m_core->backups().list();
+        QVector<BackupEntry> entries = listing.result();
+        QCOMPARE(entries.size(), 2);
+        if (entries.first().description.name != QLatin1String("One"))
+            std::swap(entries[0], entries[1]);
+
+        QSignalSpy imported(m_core.get(), &GPMAppCore::importFinished);
+        m_core->importSafeArchive(entries.first().path);
+        m_core->importSafeArchive(entries.last().path); // one at a time
+        QVERIFY(imported.wait());
+        QCOMPARE(imported.count(), 1);
+        const QString folder = imported.first().first().value<ArchiveResult>().path;
+        QVERIFY(m_core->selectSafe(folder));
+        QVERIFY(m_core->currentSafe()->name().startsWith(QStringLiteral("One [")));
+        QVERIFY(m_core->currentSafe()->unlock(QStringLiteral("pw")));
+        QVERIFY(m_core->currentSafe()->item(id));
+        QVERIFY(told.isEmpty());
+
+        // No room for backups any more: said once, in words.
+        m_core->settings().setBackupPath(folder + QStringLiteral("/safe.meta/backups"));
+        m_core->settings().setBackupCheck(QDateTime::currentDateTimeUtc().addDays(-1));
+        QVERIFY(told.wait());
+        QVERIFY(told.first().at(1).toString().contains(QStringLiteral("One")));
+        QVERIFY(told.first().at(1).toString().contains(QStringLiteral("can't be written")));
+    }
+
     void attachmentsGoWithTheLastItemThatHasThem()
     {
         QVERIFY(m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), {}));
