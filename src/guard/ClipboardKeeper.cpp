@@ -72,7 +72,8 @@ void ClipboardKeeper::adoptOtherCopies(const std::function<bool()> &clearLater)
 void ClipboardKeeper::adopt()
 {
     const QMimeData *data = ownData(QClipboard::Clipboard);
-    if (data && data->hasText() && !isMarked(*data))
+    // Addresses of files count as text too, and stay what they are.
+    if (data && data->hasText() && !data->hasUrls() && !isMarked(*data))
         copy(data->text(), m_clearLater());
 }
 

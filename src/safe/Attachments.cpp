@@ -62,8 +62,10 @@ AttachmentJob::Result AttachmentJob::run() const
     AttachmentFault fault = attachmentFault(source);
     QFile file(source.path);
     QBuffer buffer;
-    buffer.setData(source.bytes);
+    buffer.setData(source.make ? source.make() : source.bytes);
     QIODevice &device = source.path.isEmpty() ? static_cast<QIODevice &>(buffer) : file;
+    if (source.make && buffer.data().isEmpty())
+        fault = AttachmentFault::Unreadable;
     if (fault == AttachmentFault::None && !device.open(QIODevice::ReadOnly))
         fault = AttachmentFault::Unreadable;
     if (fault != AttachmentFault::None)

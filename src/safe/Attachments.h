@@ -7,6 +7,7 @@
 #include <QMetaType>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -18,6 +19,7 @@ struct AttachmentSource
 {
     QString path;
     QByteArray bytes;
+    std::function<QByteArray()> make = {}; ///< makes the bytes on the worker, where it is set
 };
 
 enum class AttachmentFault {

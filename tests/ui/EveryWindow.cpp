@@ -12,6 +12,8 @@
 #include "PMSecureNote.h"
 #include "PMSoftwareLicense.h"
 #include "PasswordStrength.h"
+#include "attachments/AttachmentPreview.h"
+#include "attachments/RenameDialog.h"
 #include "dialogs/PasswordGeneratorDialog.h"
 #include "health/HealthDialog.h"
 #include "lock/PagesStack.h"
@@ -21,6 +23,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QBuffer>
 #include <QDate>
 #include <QFontDatabase>
 #include <QLineEdit>
@@ -128,6 +131,48 @@ std::unique_ptr<QWidget> health(Stage &stage)
     return shown(std::move(window));
 }
 
+/// The window of a safe that was locked while an item was edited.
+std::unique_ptr<QWidget> offeredDraft(Stage &stage)
+{
+    auto window = editItem(stage, "Cloudmail");
+    find<QLineEdit>(*window, "loginField")->setText(QStringLiteral("ana.m"));
+    stage.test.core.lockCurrentSafe();
+    bool loaded = false;
+    const std::shared_ptr<GPMSafe> safe = stage.test.core.currentSafe();
+    const auto connection = QObject::connect(&safe->drafts(), &DraftStore::loaded, window.get(),
+                                             [&loaded] { loaded = true; });
+    if (!safe->unlock(testPassword) || !QTest::qWaitFor([&loaded] { return loaded; }))
+        qFatal("The draft is not offered");
+    QObject::disconnect(connection);
+    return window;
+}
+
+std::unique_ptr<QWidget> preview(Stage &stage, const char *name, const QByteArray &bytes)
+{
+    return shown(std::make_unique<AttachmentPreview>(QLatin1String(name), PreviewContent::of(bytes),
+                                                     stage.theme, nullptr));
+}
+
+std::unique_ptr<QWidget> textPreview(Stage &stage)
+{
+    return preview(stage, "recovery-codes.txt", "4711-0815\n1234-5678\n2718-2818\n3141-5926\n");
+}
+
+std::unique_ptr<QWidget> picturePreview(Stage &stage)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImage(QStringLiteral(":/splash.png")).save(&buffer, "PNG");
+    return preview(stage, "passport.png", bytes);
+}
+
+std::unique_ptr<QWidget> renameDialog(Stage &stage)
+{
+    return shown(
+        std::make_unique<RenameDialog>(QStringLiteral("recovery-codes.txt"), stage.theme, nullptr));
+}
+
 std::unique_ptr<QWidget> question(Stage &)
 {
     return shown(std::make_unique<QuestionDialog>(
@@ -225,6 +270,7 @@ void Stage::fillSafe()
     if (PMListItem *mail = core.currentSafe()->item(id(QStringLiteral("Cloudmail"))))
         mail->setNote(QStringLiteral("Recovery codes are in the attachment.\nSecond factor on the "
                                      "phone."));
+    attachRecoveryCodes();
     add(core, PMListItem::CreditCard,
         {{"title", QStringLiteral("Travel card")},
          {"bank", QStringLiteral("Bank of the North")},
@@ -287,6 +333,19 @@ void Stage::fillSafe()
          {"licenseKey", QStringLiteral("AB12-CD34-EF56-GH78")}});
 }
 
+void Stage::attachRecoveryCodes()
+{
+    const std::shared_ptr<GPMSafe> &safe = test.core.currentSafe();
+    std::unique_ptr<PMListItem> codes = makeItem(PMListItem::Attachment);
+    codes->setTitle(QStringLiteral("recovery-codes.txt"));
+    codes->setProperty("filename", codes->title());
+    QBuffer bytes;
+    bytes.setData(QByteArray(4000, 'x'));
+    bytes.open(QIODevice::ReadOnly);
+    const PMListItem *added = safe->addAttachment(std::move(codes), bytes);
+    safe->item(id(QStringLiteral("Cloudmail")))->setRefs({added->id()});
+}
+
 std::unique_ptr<SecureWindow> Stage::mainWindow()
 {
     auto window = std::make_unique<SecureWindow>(test.core, theme, new MainView(test.core, theme));
@@ -337,6 +396,10 @@ const QVector<WindowCase> &everyWindow()
         {"edit-driver-licence", itemCase(editItem, "Driving licence")},
         {"edit-note", itemCase(editItem, "Alarm code")},
         {"health", health},
+        {"draft-offered", offeredDraft},
+        {"attachment-text", textPreview},
+        {"attachment-picture", picturePreview},
+        {"attachment-rename", renameDialog},
         {"question", question},
         {"generator", generator},
         {"generator-recent", recentPasswords},

@@ -37,6 +37,7 @@ public:
 
 private:
     void fillSafe();
+    void attachRecoveryCodes();
 };
 
 /// A window, or a state of one, that a user can meet.

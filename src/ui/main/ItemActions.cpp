@@ -118,8 +118,9 @@ bool ItemActions::remove(const QStringList &ids)
         forever ? tr("Do you want to delete %n items forever?\nThey can not be restored.", nullptr,
                      count)
                 : tr("Do you want to remove %n items?", nullptr, count);
+    const QString text = count == 1 ? forOne : forMany;
     const Question question{tr("Confirmation"),
-                            count == 1 ? forOne : forMany,
+                            forever ? text + attachmentText(ids) : text,
                             {forever ? tr("Delete forever") : tr("Remove"), tr("Cancel")},
                             1};
     if (m_asker(question) != 0)
@@ -129,6 +130,16 @@ bool ItemActions::remove(const QStringList &ids)
     else
         moveToTrash(ids);
     return true;
+}
+
+QString ItemActions::attachmentText(const QStringList &ids) const
+{
+    const int count = m_core.attachmentsGoingWith(ids).size();
+    if (count == 0)
+        return {};
+    return QLatin1Char('\n') +
+           (count == 1 ? tr("Their attachment is deleted as well.")
+                       : tr("Their %n attachments are deleted as well.", nullptr, count));
 }
 
 void ItemActions::moveToTrash(const QStringList &ids)
@@ -177,7 +188,8 @@ void ItemActions::emptyTrash()
 {
     const Question question{
         tr("Confirmation"),
-        tr("Do you want to delete all items in the trash forever?\nThey can not be restored."),
+        tr("Do you want to delete all items in the trash forever?\nThey can not be restored.") +
+            attachmentText(m_core.trashedIds()),
         {tr("Delete forever"), tr("Cancel")},
         1};
     if (m_asker(question) == 0)

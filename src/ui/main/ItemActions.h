@@ -48,6 +48,8 @@ Q_SIGNALS:
     void restored(const QStringList &ids);
 
 private:
+    /// Says which attachments go with items that are deleted for good.
+    QString attachmentText(const QStringList &ids) const;
     void copyProperty(const QString &id, const char *property);
     void moveToTrash(const QStringList &ids);
 

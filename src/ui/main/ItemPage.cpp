@@ -198,6 +198,19 @@ void ItemPage::showFields()
         setTabOrder(before, button);
         before = button;
     }
+    Q_EMIT fieldsShown();
+}
+
+void ItemPage::setBelowFields(QWidget *widget)
+{
+    m_column->insertWidget(1, widget);
+}
+
+QWidget *ItemPage::lastFocus() const
+{
+    const QList<QToolButton *> buttons =
+        m_fields ? m_fields->findChildren<QToolButton *>() : QList<QToolButton *>();
+    return buttons.isEmpty() ? static_cast<QWidget *>(m_logIn) : buttons.last();
 }
 
 FieldRow *ItemPage::makeRow(const ItemField &field, const QString &value)

@@ -34,7 +34,14 @@ public:
     void setItem(const PMListItem *item);
     const PMListItem *item() const { return m_item; }
 
+    /// Puts a widget between the fields and the item's times.
+    void setBelowFields(QWidget *widget);
+    /// The last part of the fields that takes the keyboard.
+    QWidget *lastFocus() const;
+
 Q_SIGNALS:
+    /// Other parts take the keyboard now.
+    void fieldsShown();
     void defaultActionRequested();
     void favoriteToggled();
     void copyRequested(const QString &value);

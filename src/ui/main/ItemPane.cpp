@@ -5,6 +5,8 @@
 #include "GPMAppCore.h"
 #include "ItemPage.h"
 #include "PMLogin.h"
+#include "attachments/AttachmentActions.h"
+#include "attachments/AttachmentsCard.h"
 #include "drafts/DraftDocument.h"
 #include "editor/SafeItemEditor.h"
 #include "style/Style.h"
@@ -31,6 +33,8 @@ ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     , m_stack(new QStackedWidget(this))
     , m_empty(new EmptyState(theme, this))
     , m_page(new ItemPage(core.settings(), theme, this))
+    , m_attachments(new AttachmentActions(core, theme, m_asker, this))
+    , m_card(new AttachmentsCard(core, *m_attachments, theme, this))
     , m_editor(new SafeItemEditor(core.settings(), theme, this))
 {
     setObjectName(QStringLiteral("itemPane"));
@@ -55,7 +59,40 @@ ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     connect(m_page, &ItemPage::editRequested, this, &ItemPane::startEdit);
     connect(m_page, &ItemPage::generatorRequested, this, &ItemPane::editPassword);
     connect(m_page, &ItemPage::fillTypeChosen, this, &ItemPane::setFillType);
+    connectAttachments();
     showNothing();
+}
+
+void ItemPane::connectAttachments()
+{
+    m_page->setBelowFields(m_card);
+    m_card->acceptDropsOn(m_page);
+    connect(m_page, &ItemPage::fieldsShown, this, &ItemPane::orderFocus);
+    connect(m_card, &AttachmentsCard::focusPartsChanged, this, &ItemPane::orderFocus);
+    connect(m_card, &AttachmentsCard::removeRequested, this, &ItemPane::removeRequested);
+    // What stands for itself is shown like any new item.
+    connect(m_attachments, &AttachmentActions::added, this, [this](const QString &id) {
+        if (isEditing())
+            return;
+        showItem(m_core.currentSafe()->item(id));
+        Q_EMIT saved(id);
+    });
+}
+
+void ItemPane::orderFocus()
+{
+    QWidget *before = m_page->lastFocus();
+    const QVector<QWidget *> parts = m_card->focusParts();
+    for (QWidget *part : parts) {
+        setTabOrder(before, part);
+        before = part;
+    }
+}
+
+void ItemPane::paste()
+{
+    if (!isEditing())
+        m_card->paste();
 }
 
 ItemPane::~ItemPane()
@@ -102,6 +139,7 @@ void ItemPane::showItem(const PMListItem *item)
 {
     closeEditor();
     m_page->setItem(item);
+    m_card->setItem(item);
     m_stack->setCurrentWidget(item ? static_cast<QWidget *>(m_page) : m_empty);
     showButtons();
 }
@@ -119,12 +157,22 @@ bool ItemPane::canEdit() const
 
 void ItemPane::startNew(PMListItem::Type type)
 {
+    if (type == PMListItem::Attachment) {
+        chooseAttachment();
+        return;
+    }
     closeEditor();
     m_newItem = m_core.modelCreateItem(type);
     m_editor->setItem(m_newItem.get(), true);
     m_stack->setCurrentWidget(m_editor);
     m_editor->takeFocus();
     showButtons();
+}
+
+void ItemPane::chooseAttachment()
+{
+    if (!m_attachments->chooseAndAttach({}))
+        m_asker({tr("New attachment"), tr("Please choose a file"), {tr("OK")}});
 }
 
 void ItemPane::startEdit()

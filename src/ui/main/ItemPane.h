@@ -10,6 +10,8 @@
 
 #include <memory>
 
+class AttachmentActions;
+class AttachmentsCard;
 class CopyNotice;
 class EmptyState;
 class GPMAppCore;
@@ -54,6 +56,9 @@ public:
     void drop();
 
     ItemPage &page() { return *m_page; }
+    AttachmentActions &attachments() { return *m_attachments; }
+    /// Attaches what the clipboard holds to the item that is shown.
+    void paste();
 
 Q_SIGNALS:
     /// The edited values are in the safe.
@@ -76,6 +81,9 @@ private:
     void closeEditor();
     void showButtons();
     bool refuseSaving();
+    void connectAttachments();
+    void chooseAttachment();
+    void orderFocus();
     void requestRemove();
     void requestRestore();
     void saveByUser();
@@ -89,6 +97,8 @@ private:
     QStackedWidget *m_stack;
     EmptyState *m_empty;
     ItemPage *m_page;
+    AttachmentActions *m_attachments;
+    AttachmentsCard *m_card;
     SafeItemEditor *m_editor;
     CopyNotice *m_notice;
     QWidget *m_footer;

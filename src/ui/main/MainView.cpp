@@ -11,6 +11,7 @@
 #include "SafeLayout.h"
 #include "SelectionPage.h"
 #include "Sidebar.h"
+#include "attachments/AttachmentActions.h"
 #include "drafts/DraftKeeper.h"
 #include "drafts/DraftOffer.h"
 #include "health/HealthDesk.h"
@@ -86,6 +87,7 @@ void MainView::layOut()
     right->setSpacing(0);
     right->addWidget(m_banner);
     right->addWidget(m_offer->banner());
+    right->addWidget(m_pane->attachments().banner());
     right->addWidget(m_splitter, 1);
     auto *all = new QHBoxLayout(this);
     all->setContentsMargins({});
@@ -142,6 +144,8 @@ void MainView::connectItemPane()
         showCurrent();
         m_list->takeFocus();
     });
+    connect(&m_pane->attachments(), &AttachmentActions::told, m_snack,
+            [this](const QString &text) { m_snack->show(text); });
     connect(m_offer, &DraftOffer::continued, m_list, &ItemListPane::setCurrent);
     connect(m_pane, &ItemPane::removeRequested, this, &MainView::removeOne);
     connect(m_pane, &ItemPane::restoreRequested, this,
@@ -175,6 +179,7 @@ void MainView::addShortcuts()
         {"Ctrl+Shift+C", &MainView::copySecret},
         {"Ctrl+C", &MainView::copySecret},
         {"Ctrl+Z", &MainView::undo},
+        {"Ctrl+V", &MainView::paste},
         {"Ctrl+L", &MainView::lockRequested},
         {"Ctrl+,", &MainView::settingsRequested},
     };
@@ -237,7 +242,14 @@ void MainView::leaveRoom(const QSize &buttons)
     // The item's own margin adds to it.
     const int above = 10;
     m_pane->setContentsMargins(0, qMax(0, buttons.height() - above), 0, 0);
-    m_banner->setContentsMargins(0, 0, buttons.width(), 0);
+    for (QWidget *banner :
+         {static_cast<QWidget *>(m_banner), static_cast<QWidget *>(m_offer->banner()),
+          static_cast<QWidget *>(m_pane->attachments().banner())}) {
+        // In the layout: the style sheet has the margins of frames to itself.
+        QMargins margins = banner->layout()->contentsMargins();
+        margins.setRight(Style::gap + buttons.width());
+        banner->layout()->setContentsMargins(margins);
+    }
 }
 
 QVariantMap MainView::place() const
@@ -471,6 +483,11 @@ void MainView::saveItem()
         m_pane->save();
     else if (m_core.hasUnsavedChanges())
         m_core.currentSafe()->saveChangesAsync();
+}
+
+void MainView::paste()
+{
+    m_pane->paste();
 }
 
 void MainView::leaveEditor()

@@ -92,6 +92,7 @@ private:
     void createItemHere();
     void editItem();
     void saveItem();
+    void paste();
     void leaveEditor();
     void logIn();
     void copyUserName();
