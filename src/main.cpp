@@ -51,7 +51,7 @@ SplashScreen *showSplash(const PMUiProvider &ui, Platform &platform)
 {
     const QList<QScreen *> screens = QGuiApplication::screens();
     QScreen *screen = screens.value(ui.mainWindowScreenNumber(), QGuiApplication::primaryScreen());
-    auto *splash = new SplashScreen(QPixmap(QStringLiteral(":/splash.png")));
+    auto *splash = new SplashScreen(SplashScreen::picture(screen ? screen->devicePixelRatio() : 1));
     splash->setAttribute(Qt::WA_DeleteOnClose);
     splash->setVersionText(installedVersion(platform));
     splash->setStyleSheet(QStringLiteral("color: white; font: 11pt 'Segoe UI Semibold, Tahoma';"));

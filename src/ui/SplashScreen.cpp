@@ -19,6 +19,15 @@ SplashScreen::SplashScreen(const QPixmap &pixmap)
     connect(&m_repaintTimer, &QTimer::timeout, this, QOverload<>::of(&QWidget::update));
 }
 
+QPixmap SplashScreen::picture(qreal ratio)
+{
+    const int scale = qBound(1, qCeil(ratio), 3);
+    const QString name = QStringLiteral(":/splash%1.png");
+    QPixmap picture(name.arg(scale > 1 ? QStringLiteral("@%1x").arg(scale) : QString()));
+    picture.setDevicePixelRatio(scale);
+    return picture;
+}
+
 void SplashScreen::show(const QRect &screen, int minimumMs)
 {
     if (screen.isValid()) {

@@ -12,6 +12,9 @@ class SplashScreen : public QSplashScreen
 public:
     explicit SplashScreen(const QPixmap &pixmap);
 
+    /// The picture, as sharp as a screen of so many device pixels a pixel shows it.
+    static QPixmap picture(qreal ratio);
+
     void setVersionText(const QString &text) { m_versionText = text; }
 
     /// Shows it in the middle of a rectangle of the desktop, or where it is when the rectangle is

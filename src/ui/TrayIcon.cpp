@@ -1,7 +1,9 @@
 #include "TrayIcon.h"
 
+#include "style/SvgIcon.h"
+
 TrayIcon::TrayIcon(QObject *parent)
-    : QSystemTrayIcon(QIcon(QStringLiteral(":/trayicon.png")), parent)
+    : QSystemTrayIcon(programIcon(), parent)
 {
     setToolTip(QStringLiteral("Glaceron Password Manager"));
     QAction *open = m_menu.addAction(tr("Open Main Window"), this, &TrayIcon::openRequested);

@@ -20,6 +20,11 @@
 #include "settings/SettingsDialog.h"
 #include "settings/SettingsTable.h"
 #include "style/Style.h"
+#include "wizard/ExtensionPage.h"
+#include "wizard/FirstRun.h"
+#include "wizard/NewSafePage.h"
+#include "wizard/ReadyPage.h"
+#include "wizard/SetupWizard.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -208,6 +213,32 @@ std::unique_ptr<QWidget> recentPasswords(Stage &stage)
     find<QAbstractButton>(*dialog, "regenerateButton")->click();
     find<QPushButton>(*dialog, "recentButton")->click();
     return dialog;
+}
+
+/// A step of the wizard of the first start.
+std::function<std::unique_ptr<QWidget>(Stage &)> wizardStep(const char *id)
+{
+    return [id](Stage &stage) {
+        const auto always = [] { return true; };
+        const auto row = [&](const char *name, const QString &title, const auto &make) {
+            return WizardStep{name, title, QString(), always, make};
+        };
+        ExtensionPage::Parts parts{QStringLiteral("/opt/glaceron/extension"), [] { return false; },
+                                   [](const QString &) {}};
+        auto wizard = std::make_unique<SetupWizard>(
+            QVector<WizardStep>{
+                row("safe", FirstRun::tr("Create a safe"),
+                    [&stage](QWidget *parent) {
+                        return new NewSafePage(stage.test.core, stage.theme, parent);
+                    }),
+                row("extension", FirstRun::tr("Fill forms in your browser"),
+                    [parts](QWidget *parent) { return new ExtensionPage(parts, parent); }),
+                row("ready", FirstRun::tr("You are ready"),
+                    [](QWidget *parent) { return new ReadyPage(parent); })},
+            stage.theme, nullptr);
+        wizard->goTo(QLatin1String(id));
+        return shown(std::move(wizard));
+    };
 }
 
 std::function<std::unique_ptr<QWidget>(Stage &)> settingsPage(Setting::Page page)
@@ -403,6 +434,9 @@ const QVector<WindowCase> &everyWindow()
         {"question", question},
         {"generator", generator},
         {"generator-recent", recentPasswords},
+        {"wizard-safe", wizardStep("safe"), Stage::Locked},
+        {"wizard-extension", wizardStep("extension"), Stage::Empty},
+        {"wizard-ready", wizardStep("ready"), Stage::Empty},
         {"settings-general", settingsPage(Setting::General)},
         {"settings-security", settingsPage(Setting::Security)},
         {"settings-browser", settingsPage(Setting::Browser)},

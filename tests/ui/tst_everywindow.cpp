@@ -73,7 +73,7 @@ void TestEveryWindow::faultsAreSeen()
     QWidget window;
     window.resize(300, 200);
     auto *unnamed = new QToolButton(&window);
-    unnamed->setIcon(QIcon(QStringLiteral(":/trayicon.png")));
+    unnamed->setIcon(QIcon(QStringLiteral(":/splash.png")));
     unnamed->setFocusPolicy(Qt::StrongFocus);
     auto *trap = new QPlainTextEdit(&window);
     trap->setAccessibleName(QStringLiteral("Note"));

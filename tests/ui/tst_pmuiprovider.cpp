@@ -269,9 +269,12 @@ void TestPMUiProvider::menuEndsTheProgram()
 
 void TestPMUiProvider::splashStaysItsTime()
 {
-    QPixmap picture(QStringLiteral(":/splash.png"));
-    QVERIFY(!picture.isNull());
-    const QPointer<SplashScreen> splash(new SplashScreen(picture));
+    for (const qreal ratio : {1.0, 1.5, 2.0, 3.0, 4.0}) {
+        const QPixmap picture = SplashScreen::picture(ratio);
+        QCOMPARE(picture.size() / picture.devicePixelRatio(), QSize(460, 260));
+        QVERIFY(picture.devicePixelRatio() >= qMin(ratio, 3.0));
+    }
+    const QPointer<SplashScreen> splash(new SplashScreen(SplashScreen::picture(2)));
     QWidget window;
     QElapsedTimer timer;
     timer.start();

@@ -187,12 +187,11 @@ void TestSetupWizard::findsTheExtension()
 
 void TestSetupWizard::tellsWhenABrowserConnects()
 {
-    Theme theme;
     bool connected = false;
     QString copied;
     ExtensionPage page({QStringLiteral("/extension"), [&] { return connected; },
                         [&](const QString &text) { copied = text; }},
-                       theme, nullptr);
+                       nullptr);
     QSignalSpy changed(&page, &WizardPage::changed);
     page.show();
     QVERIFY(page.canSkip());

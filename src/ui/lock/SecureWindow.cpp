@@ -6,6 +6,7 @@
 #include "Shutters.h"
 #include "UnlockLogic.h"
 #include "style/Style.h"
+#include "style/SvgIcon.h"
 #include "style/Theme.h"
 #include "widgets/TitleBar.h"
 #include "widgets/WindowFrame.h"
@@ -44,7 +45,7 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     , m_titleBar(new TitleBar(theme, TitleBar::All, this))
 {
     setObjectName(QStringLiteral("SecureWindow"));
-    setWindowIcon(QIcon(QStringLiteral(":/trayicon.png")));
+    setWindowIcon(programIcon());
     fitScreen();
     showTitle();
     m_pages->setGraphicsEffect(m_fade);

@@ -76,6 +76,21 @@ QPixmap svgPixmap(const QString &name, const QColor &color, int size)
     return pixmap;
 }
 
+QIcon programIcon()
+{
+    QSvgRenderer crystal(QStringLiteral(":/crystal.svg"));
+    QIcon icon;
+    for (const int size : {16, 20, 22, 24, 32, 40, 44, 48, 64, 72, 96, 128, 256}) {
+        QPixmap picture(size, size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        crystal.render(&painter);
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 QIcon svgIcon(const QString &name, std::function<QColor()> color)
 {
     return QIcon(new SvgIconEngine(name, std::move(color)));

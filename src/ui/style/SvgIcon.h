@@ -13,6 +13,9 @@ QIcon svgIcon(const QString &name, std::function<QColor()> color);
 /// The same as a picture of size x size device pixels.
 QPixmap svgPixmap(const QString &name, const QColor &color, int size);
 
+/// The program's own icon, for windows and the tray, sharp in every usual size.
+QIcon programIcon();
+
 class QPainter;
 class QRectF;
 

@@ -1,7 +1,6 @@
 #include "ExtensionPage.h"
 
 #include "style/Style.h"
-#include "style/Theme.h"
 #include "widgets/Announcer.h"
 #include "widgets/Controls.h"
 
@@ -12,7 +11,7 @@
 
 #include <utility>
 
-ExtensionPage::ExtensionPage(Parts parts, const Theme &theme, QWidget *parent)
+ExtensionPage::ExtensionPage(Parts parts, QWidget *parent)
     : WizardPage(parent)
     , m_parts(std::move(parts))
     , m_state(makeLabel({}, "muted", this))
@@ -48,7 +47,6 @@ ExtensionPage::ExtensionPage(Parts parts, const Theme &theme, QWidget *parent)
     column->addWidget(path);
     column->addWidget(m_state);
     column->addStretch();
-    Q_UNUSED(theme)
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &ExtensionPage::look);
     look();

@@ -7,7 +7,6 @@
 #include <functional>
 
 class QLabel;
-class Theme;
 
 /// How to add the extension to a browser by hand, and whether it has arrived.
 class ExtensionPage : public WizardPage
@@ -22,7 +21,7 @@ public:
         std::function<void(const QString &text)> copy;
     };
 
-    ExtensionPage(Parts parts, const Theme &theme, QWidget *parent);
+    ExtensionPage(Parts parts, QWidget *parent);
 
     /// The folder of the extension that came with the program; empty when it lacks one.
     /// @param programFolder where the program's file lies

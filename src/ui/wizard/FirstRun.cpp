@@ -48,7 +48,7 @@ QVector<WizardStep> FirstRun::stepsOfUse() const
         parts.folder = folder;
         parts.isConnected = [this] { return m_core.hasExtension(); };
         parts.copy = [this](const QString &text) { m_core.clipboard().copy(text, false); };
-        return new ExtensionPage(parts, m_theme, parent);
+        return new ExtensionPage(parts, parent);
     };
     return {
         {"extension", tr("Fill forms in your browser"),
