@@ -23,12 +23,15 @@
 
 #include <utility>
 
-PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray, QObject *parent)
+PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
+                           const QString &translations, QObject *parent)
     : QObject(parent)
     , m_core(core)
     , m_hasTray(std::move(hasTray))
     , m_settings(QFileInfo(core.settings().filePath()).path())
-    , m_translator(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"))
+    , m_translator(translations.isEmpty()
+                       ? QCoreApplication::applicationDirPath() + QStringLiteral("/translations")
+                       : translations)
     , m_theme(std::make_unique<Theme>())
 {
     m_theme->setMode(m_settings.themeMode());

@@ -28,9 +28,10 @@ class PMUiProvider : public QObject
 
 public:
     /// @param hasTray tells whether the system shows tray icons now
+    /// @param translations the folder of the languages; the default one is beside the program
     explicit PMUiProvider(GPMAppCore &core,
                           std::function<bool()> hasTray = &QSystemTrayIcon::isSystemTrayAvailable,
-                          QObject *parent = nullptr);
+                          const QString &translations = {}, QObject *parent = nullptr);
     ~PMUiProvider() override;
 
     PMTranslator &translator() { return m_translator; }
@@ -53,7 +54,6 @@ public:
 
     /// Switches to a language of the translator and shows everything in it. False when the user
     /// wants to go on editing or the language cannot be loaded: then nothing has changed.
-    void makeFirstRun();
     bool setLanguage(const QString &language);
     /// The same with the size of texts, in percent of the usual one.
     bool setTextPercent(int percent);
@@ -62,6 +62,7 @@ public Q_SLOTS:
     void bringToFront();
 
 private:
+    void makeFirstRun();
     void showMessage(const QString &title, const QString &text);
     void closeMessages();
     void closePopups();

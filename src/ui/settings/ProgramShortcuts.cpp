@@ -44,6 +44,7 @@ QString nameOf(const QKeySequence &keys)
         {"Ctrl+F", QT_TRANSLATE_NOOP("ProgramShortcuts", "search")},
         {"Ctrl+N", QT_TRANSLATE_NOOP("ProgramShortcuts", "new item")},
         {"Ctrl+E", QT_TRANSLATE_NOOP("ProgramShortcuts", "edit")},
+        {"F2", QT_TRANSLATE_NOOP("ProgramShortcuts", "edit")},
         {"Ctrl+S", QT_TRANSLATE_NOOP("ProgramShortcuts", "save")},
         {"Ctrl+Return", QT_TRANSLATE_NOOP("ProgramShortcuts", "log in")},
         {"Ctrl+Enter", QT_TRANSLATE_NOOP("ProgramShortcuts", "log in")},
