@@ -468,6 +468,9 @@ private Q_SLOTS:
         QVERIFY(text.text.size() < 300000);
         for (const QString &line : text.text.split(QLatin1Char('\n')))
             QVERIFY(line.size() <= 2000);
+        const PreviewContent lines = PreviewContent::of(QByteArray("a\n").repeated(9000));
+        QVERIFY(lines.cut);
+        QCOMPARE(lines.text.count(QLatin1Char('\n')), 4999);
         const PreviewContent wide = PreviewContent::of(pictureBytes({9000, 30}));
         QCOMPARE(wide.pictureSize, QSize(9000, 30));
         QCOMPARE(wide.picture.width(), 4096);

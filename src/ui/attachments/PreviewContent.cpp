@@ -10,8 +10,9 @@
 namespace {
 
 const int longestText = 256 * 1024;
-// The layout of one endless line would hold up the window.
+// The layout of one endless line, or of very many, would hold up the window.
 const int longestLine = 2000;
+const int mostLines = 5000;
 const qint64 mostPixels = 100 * 1000 * 1000;
 const int longestSide = 4096;
 
@@ -65,8 +66,9 @@ PreviewContent textOf(const QByteArray &bytes)
     if (!text)
         return content;
     content.kind = PreviewContent::Text;
-    content.text = displayed(*text);
-    content.cut = bytes.size() > longestText;
+    const QString lines = displayed(*text);
+    content.text = lines.section(QLatin1Char('\n'), 0, mostLines - 1);
+    content.cut = bytes.size() > longestText || content.text.size() < lines.size();
     return content;
 }
 
