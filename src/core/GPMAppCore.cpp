@@ -444,8 +444,9 @@ void GPMAppCore::tellBackupFailures(const QVector<BackupJob::Result> &results)
 
 void GPMAppCore::exitPasswordManager()
 {
-    cancelImport();
-    m_backups.cancel();
+    // They clear away what they have begun.
+    m_import.reset();
+    m_backups.stop();
     lockCurrentSafe();
     // What another program still held open when the safe was locked.
     m_privateFiles.wipe();

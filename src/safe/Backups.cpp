@@ -57,6 +57,12 @@ void Backups::cancel()
         m_task->cancel();
 }
 
+void Backups::stop()
+{
+    m_task.reset();
+    waitBeforeNext(secondsAfterPostponing);
+}
+
 QString Backups::folder() const
 {
     return m_settings.backupPath().isEmpty() ? m_standardFolder : m_settings.backupPath();

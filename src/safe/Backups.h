@@ -30,6 +30,8 @@ public:
 
     /// Stops a run soon; finished() tells when.
     void cancel();
+    /// Stops a run and waits for that, without a signal; none follows within a minute.
+    void stop();
     bool isRunning() const { return m_task != nullptr; }
 
     QString folder() const;

@@ -44,13 +44,15 @@ def flip(content, marker, offset):
     content[content.index(marker) + offset] ^= 1
 
 
-def lie_about_sizes(content):
-    """Says in every header that the entry unpacks to ten bytes."""
-    for marker, offset in ((b"PK\3\4", 22), (b"PK\1\2", 24)):
-        at = content.find(marker)
-        while at >= 0:
-            content[at + offset:at + offset + 4] = struct.pack("<I", 10)
-            at = content.find(marker, at + 4)
+def lie_about_sizes(size):
+    """Says in every header that the entry unpacks to so many bytes."""
+    def change(content):
+        for marker, offset in ((b"PK\3\4", 22), (b"PK\1\2", 24)):
+            at = content.find(marker)
+            while at >= 0:
+                content[at + offset:at + offset + 4] = struct.pack("<I", size)
+                at = content.find(marker, at + 4)
+    return change
 
 
 extra = {
@@ -91,9 +93,12 @@ elif case == "content":
 elif case == "unknown damaged":
     write(files + [("notes.txt", b"some unknown entry")])
     patch(lambda content: flip(content, b"notes.txt", 12))
-elif case == "sizes that lie":
+elif case == "sizes too small":
     write(files)
-    patch(lie_about_sizes)
+    patch(lie_about_sizes(10))
+elif case == "sizes too large":
+    write(files)
+    patch(lie_about_sizes(1_000_000))
 elif case == "symbolic link":
     write(files + [(info("content/link", create_system=3, external_attr=0o120777 << 16), "/etc")])
 elif case == "name twice":

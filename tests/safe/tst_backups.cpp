@@ -533,6 +533,7 @@ private Q_SLOTS:
         GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")), {});
         settings.setRecentList({m_safe});
         settings.setBackupPath(m_folder);
+        settings.setBackupCheck({});
         KnownSafes known(settings, m_temporary->filePath(QStringLiteral("safes")));
         auto backups = std::make_unique<Backups>(settings, known, m_folder);
         QSignalSpy finished(backups.get(), &Backups::finished);
@@ -541,8 +542,11 @@ private Q_SLOTS:
         QVERIFY(finished.wait());
         QCOMPARE(files(), QStringList());
         QVERIFY(backups->backUpNow());
-        backups.reset(); // the program ends
+        backups->stop(); // the program ends
+        QVERIFY(!backups->isRunning());
         QVERIFY(files().isEmpty());
+        backups->check();
+        QVERIFY(!backups->isRunning());
     }
 };
 

@@ -279,7 +279,7 @@ private Q_SLOTS:
         for (const char *kind : {"not a zip", "empty file"})
             QTest::newRow(kind) << Outcome::NotAnArchive;
         for (const char *kind : {"cut in the middle", "cut at the end", "checksum", "content",
-                                 "unknown damaged", "sizes that lie"})
+                                 "unknown damaged", "sizes too small", "sizes too large"})
             QTest::newRow(kind) << Outcome::Damaged;
         for (const char *kind : {"name twice", "unknown name twice"})
             QTest::newRow(kind) << Outcome::NameTwice;
