@@ -81,7 +81,11 @@ bool isOldPassword(const QDateTime &modified, const QDate &today)
 
 bool isHealthIgnored(const PMListItem &item, HealthProblem problem)
 {
-    const QJsonObject ignored = item.unknownKeys().privateFields.value(ignoredKey).toObject();
+    // Nearly all items have nothing of the kind.
+    const QJsonObject &unknown = item.unknownKeys().privateFields;
+    if (unknown.isEmpty())
+        return false;
+    const QJsonObject ignored = unknown.value(ignoredKey).toObject();
     const QString kept = ignored.value(problemKey(problem)).toString();
     if (kept.isEmpty())
         return false;

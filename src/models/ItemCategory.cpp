@@ -3,24 +3,28 @@
 #include "ItemExpiry.h"
 #include "ItemListModel.h"
 
-bool ItemCategory::contains(const PMListItem &item, const QDate &today) const
+ItemTraits ItemTraits::of(const PMListItem &item)
 {
-    return item.deleted() == (kind == Trash) && containsKind(item, today);
+    return {item.type(), item.favorite(), item.deleted(), item.useCount(),
+            itemExpiry(item).value_or(QDate())};
 }
 
-bool ItemCategory::containsKind(const PMListItem &item, const QDate &today) const
+bool ItemCategory::contains(const ItemTraits &item, const QDate &today) const
+{
+    return item.deleted == (kind == Trash) && containsKind(item, today);
+}
+
+bool ItemCategory::containsKind(const ItemTraits &item, const QDate &today) const
 {
     switch (kind) {
     case Favourites:
-        return item.favorite();
+        return item.favorite;
     case MostUsed:
-        return item.useCount() > 0;
-    case Expiring: {
-        const std::optional<QDate> last = itemExpiry(item);
-        return last && expiresSoon(*last, today);
-    }
+        return item.useCount > 0;
+    case Expiring:
+        return item.lastDay.isValid() && expiresSoon(item.lastDay, today);
     case OfType:
-        return item.type() == type;
+        return item.type == type;
     case All:
     case Trash:
         break;
@@ -47,7 +51,7 @@ QVector<int> categoryCounts(const ItemListModel &model, const QDate &today)
     const QVector<ItemCategory> categories = ItemCategory::all();
     QVector<int> counts(categories.size(), 0);
     for (int row = 0; row < model.rowCount(); ++row) {
-        const PMListItem &item = *model.entryAt(row).item;
+        const ItemTraits &item = model.entryAt(row).traits;
         for (int i = 0; i < categories.size(); ++i) {
             if (categories.at(i).contains(item, today))
                 ++counts[i];

@@ -7,6 +7,19 @@
 
 class ItemListModel;
 
+/// What lists ask of every item whenever they look for those to show; copied from the items, which
+/// lie scattered in memory.
+struct ItemTraits
+{
+    PMListItem::Type type = PMListItem::UndefinedItem;
+    bool favorite = false;
+    bool deleted = false;
+    int useCount = 0;
+    QDate lastDay; ///< invalid for what does not expire
+
+    static ItemTraits of(const PMListItem &item);
+};
+
 /// One entry of the sidebar: a set of items by their kind or state. Items in the trash belong to
 /// the trash alone.
 struct ItemCategory
@@ -21,9 +34,9 @@ struct ItemCategory
 
     /// Whether the item belongs to the category; for the most used ones whether it may, as only the
     /// first mostUsedLimit do.
-    bool contains(const PMListItem &item, const QDate &today) const;
+    bool contains(const ItemTraits &item, const QDate &today) const;
     /// The same whether it is in the trash or not.
-    bool containsKind(const PMListItem &item, const QDate &today) const;
+    bool containsKind(const ItemTraits &item, const QDate &today) const;
 
     bool operator==(const ItemCategory &other) const
     {

@@ -54,8 +54,19 @@ void ItemFilterModel::setSearch(const QString &text)
     if (m_search == text)
         return;
     m_search = text;
-    m_query = ItemQuery(text, m_terms);
-    reset(true);
+    const ItemQuery query(text, m_terms);
+    // As a word grows, only what was found before can be found.
+    const bool narrower = query.isWithin(m_query) && m_today == today();
+    m_query = query;
+    if (!narrower) {
+        reset(true);
+        return;
+    }
+    beginResetModel();
+    m_shown.erase(std::remove_if(m_shown.begin(), m_shown.end(),
+                                 [this](const Entry *entry) { return !matches(*entry); }),
+                  m_shown.end());
+    endResetModel();
 }
 
 void ItemFilterModel::setTerms(const SearchTerms &terms)
@@ -154,7 +165,7 @@ bool ItemFilterModel::less(const Entry *left, const Entry *right) const
         difference = left->lastAccessed - right->lastAccessed;
         break;
     case SortBy::MostUsed:
-        difference = left->item->useCount() - right->item->useCount();
+        difference = left->traits.useCount - right->traits.useCount;
         break;
     }
     if (difference != 0)
@@ -166,21 +177,22 @@ bool ItemFilterModel::less(const Entry *left, const Entry *right) const
 bool ItemFilterModel::matches(const Entry &entry) const
 {
     return m_query.isEmpty() ||
-           m_query.matches(*entry.item, entry.searchText,
+           m_query.matches(entry.traits, entry.searchText,
                            m_query.wantsWeak() && m_isWeak && m_isWeak(*entry.item), m_today);
 }
 
 bool ItemFilterModel::accepts(const Entry &entry) const
 {
-    const bool belongs = m_query.wantsTrash() && entry.item->deleted()
-                             ? m_category.containsKind(*entry.item, m_today)
-                             : m_category.contains(*entry.item, m_today);
+    const bool belongs = m_query.wantsTrash() && entry.traits.deleted
+                             ? m_category.containsKind(entry.traits, m_today)
+                             : m_category.contains(entry.traits, m_today);
     return belongs && matches(entry);
 }
 
 ItemFilterModel::Entries ItemFilterModel::filtered() const
 {
     Entries rows;
+    rows.reserve(m_all.size());
     if (m_category.kind != ItemCategory::MostUsed) {
         std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(rows),
                      [this](const Entry *entry) { return accepts(*entry); });
@@ -189,7 +201,7 @@ ItemFilterModel::Entries ItemFilterModel::filtered() const
     // They are the first ones whatever is searched for among them.
     int taken = 0;
     for (const Entry *entry : m_all) {
-        if (!m_category.contains(*entry->item, m_today))
+        if (!m_category.contains(entry->traits, m_today))
             continue;
         if (matches(*entry))
             rows.push_back(entry);

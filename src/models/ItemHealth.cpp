@@ -139,6 +139,7 @@ bool ItemHealth::isWeak(const PMListItem &item) const
 ItemHealth::Owners ItemHealth::owners() const
 {
     Owners owners;
+    owners.reserve(m_items.rowCount());
     for (int row = 0; row < m_items.rowCount(); ++row) {
         const PMListItem *item = m_items.entryAt(row).item;
         const auto record = m_records.constFind(item->id());
@@ -185,11 +186,11 @@ void ItemHealth::addFindings(QVector<HealthFinding> &list, const PMListItem &ite
         finding.level = record.level;
         finding.parts = record.parts;
     }
-    const QVector<const PMListItem *> same = all.value(record.digest);
-    if (same.size() > 1) {
+    const auto same = all.constFind(record.digest);
+    if (same != all.constEnd() && same->size() > 1) {
         HealthFinding &finding = add(HealthProblem::Reused);
-        finding.others = same.size() - 1;
-        finding.otherTitle = (same.first() == &item ? same.at(1) : same.first())->title();
+        finding.others = same->size() - 1;
+        finding.otherTitle = (same->first() == &item ? same->at(1) : same->first())->title();
     }
     if (!record.digest.isEmpty() && isOldPassword(item.modified(), today))
         add(HealthProblem::Old).date = item.modified().toLocalTime().date();

@@ -167,6 +167,7 @@ std::unique_ptr<ItemListModel::Entry> ItemListModel::makeEntry(PMListItem *item,
 void ItemListModel::fill(Entry &entry) const
 {
     const PMListItem &item = *entry.item;
+    entry.traits = ItemTraits::of(item);
     entry.searchText = itemSearchText(item);
     entry.domain = itemDomain(item);
     entry.sortKey = m_collator.sortKey(item.title());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GPMSafe.h"
+#include "ItemCategory.h"
 
 #include <QAbstractListModel>
 #include <QCollator>
@@ -35,6 +36,7 @@ public:
     {
         PMListItem *item = nullptr;
         int row = 0;
+        ItemTraits traits;
         QString searchText;                      ///< itemSearchText()
         QString domain;                          ///< itemDomain()
         std::optional<QCollatorSortKey> sortKey; ///< of the title

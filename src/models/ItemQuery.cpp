@@ -7,21 +7,19 @@
 
 namespace {
 
-bool hasState(const PMListItem &item, SearchTerms::State state, bool weak, const QDate &today)
+bool hasState(const ItemTraits &item, SearchTerms::State state, bool weak, const QDate &today)
 {
     switch (state) {
     case SearchTerms::Favourite:
-        return item.favorite();
+        return item.favorite;
     case SearchTerms::Trash:
-        return item.deleted();
+        return item.deleted;
     case SearchTerms::Weak:
         return weak;
     case SearchTerms::Expired:
-    case SearchTerms::Expiring: {
-        const std::optional<QDate> last = itemExpiry(item);
-        return last && (state == SearchTerms::Expired ? isExpired(*last, today)
-                                                      : expiresSoon(*last, today));
-    }
+        return item.lastDay.isValid() && isExpired(item.lastDay, today);
+    case SearchTerms::Expiring:
+        return item.lastDay.isValid() && expiresSoon(item.lastDay, today);
     }
     return false;
 }
@@ -115,11 +113,21 @@ bool ItemQuery::wants(SearchTerms::State state) const
                        [state](const auto &states) { return states.contains(state); });
 }
 
-bool ItemQuery::matches(const PMListItem &item, const QString &searchText, bool weak,
+bool ItemQuery::isWithin(const ItemQuery &wider) const
+{
+    if (m_kinds != wider.m_kinds || m_states != wider.m_states)
+        return false;
+    return std::all_of(wider.m_words.begin(), wider.m_words.end(), [this](const QString &word) {
+        return std::any_of(m_words.begin(), m_words.end(),
+                           [&word](const QString &longer) { return longer.contains(word); });
+    });
+}
+
+bool ItemQuery::matches(const ItemTraits &item, const QString &searchText, bool weak,
                         const QDate &today) const
 {
     for (const QVector<PMListItem::Type> &kinds : m_kinds) {
-        if (!kinds.contains(item.type()))
+        if (!kinds.contains(item.type))
             return false;
     }
     for (const QVector<SearchTerms::State> &states : m_states) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PMListItem.h"
+#include "ItemCategory.h"
 
 #include <QDate>
 #include <QStringList>
@@ -43,9 +43,12 @@ public:
     bool wantsTrash() const { return wants(SearchTerms::Trash); }
     bool wantsWeak() const { return wants(SearchTerms::Weak); }
 
+    /// Whether it cannot find anything that the other one does not find.
+    bool isWithin(const ItemQuery &wider) const;
+
     /// @param searchText the item's itemSearchText()
     /// @param weak whether the item's password is a weak one
-    bool matches(const PMListItem &item, const QString &searchText, bool weak,
+    bool matches(const ItemTraits &item, const QString &searchText, bool weak,
                  const QDate &today) const;
 
 private:

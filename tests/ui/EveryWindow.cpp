@@ -17,6 +17,7 @@
 #include "dialogs/PasswordGeneratorDialog.h"
 #include "health/HealthDialog.h"
 #include "lock/PagesStack.h"
+#include "main/ShortcutsDialog.h"
 #include "settings/SettingsDialog.h"
 #include "settings/SettingsTable.h"
 #include "style/Style.h"
@@ -176,6 +177,11 @@ std::unique_ptr<QWidget> renameDialog(Stage &stage)
 {
     return shown(
         std::make_unique<RenameDialog>(QStringLiteral("recovery-codes.txt"), stage.theme, nullptr));
+}
+
+std::unique_ptr<QWidget> shortcuts(Stage &stage)
+{
+    return shown(std::make_unique<ShortcutsDialog>(stage.theme, nullptr));
 }
 
 std::unique_ptr<QWidget> question(Stage &)
@@ -431,6 +437,7 @@ const QVector<WindowCase> &everyWindow()
         {"attachment-text", textPreview},
         {"attachment-picture", picturePreview},
         {"attachment-rename", renameDialog},
+        {"shortcuts", shortcuts},
         {"question", question},
         {"generator", generator},
         {"generator-recent", recentPasswords},

@@ -1,6 +1,8 @@
 #include "UiTesting.h"
 #include "main/ItemListPane.h"
 #include "main/MainView.h"
+#include "main/ShortcutTable.h"
+#include "main/ShortcutsDialog.h"
 #include "style/Theme.h"
 
 #include <QClipboard>
@@ -14,6 +16,8 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSet>
+#include <QShortcut>
 #include <QToolButton>
 
 class TestMainView : public QObject
@@ -47,6 +51,9 @@ private Q_SLOTS:
     void menuOffersWhatApplies();
     void dropsOnTheSidebar();
     void duplicates();
+    void shortcutsAreOnesOwn();
+    void copyKeyCopiesWhatIsAskedFor_data();
+    void copyKeyCopiesWhatIsAskedFor();
 };
 
 namespace {
@@ -777,6 +784,73 @@ void TestMainView::duplicates()
     QCOMPARE(copy->useCount(), 0);
     QVERIFY(copy->refs().isEmpty());
     QVERIFY(copy->id() != shop->id());
+}
+
+void TestMainView::shortcutsAreOnesOwn()
+{
+    View shown;
+    shown.test.addLogin(QStringLiteral("Shop"));
+    QSet<QKeySequence> installed;
+    const auto shortcuts = shown.view.findChildren<QShortcut *>();
+    for (const QShortcut *shortcut : shortcuts) {
+        if (shortcut->context() == Qt::WindowShortcut) {
+            QVERIFY2(!installed.contains(shortcut->key()), qPrintable(shortcut->key().toString()));
+            installed.insert(shortcut->key());
+        }
+    }
+    const QVector<ShortcutRow> table = shortcutTable();
+    for (const ShortcutRow &row : table) {
+        for (const QKeySequence &key : row.keys) {
+            QVERIFY(!key.isEmpty());
+            QCOMPARE(installed.remove(key), row.command != ShortcutRow::Told);
+        }
+    }
+    QVERIFY(installed.isEmpty());
+
+    // A text takes the question mark, elsewhere it opens the list.
+    auto *search = shown.field("searchField");
+    search->setFocus();
+    QTest::keyClicks(search, QStringLiteral("?"));
+    QCOMPARE(search->text(), QStringLiteral("?"));
+    QVERIFY(!shown.view.findChild<ShortcutsDialog *>());
+    search->clear();
+    shown.list()->setFocus();
+    QTest::keyClick(shown.list(), Qt::Key_Question);
+    QVERIFY(shown.view.findChild<ShortcutsDialog *>());
+}
+
+void TestMainView::copyKeyCopiesWhatIsAskedFor_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QByteArray>("property");
+    QTest::newRow("login") << int(PMListItem::Login) << QByteArray("password");
+    QTest::newRow("ftp account") << int(PMListItem::FtpAccount) << QByteArray("password");
+    QTest::newRow("card") << int(PMListItem::CreditCard) << QByteArray("number");
+    QTest::newRow("passport") << int(PMListItem::Passport) << QByteArray("number");
+    QTest::newRow("note") << int(PMListItem::SecureNote) << QByteArray("text");
+    QTest::newRow("licence") << int(PMListItem::SoftwareLicense) << QByteArray("licenseKey");
+}
+
+void TestMainView::copyKeyCopiesWhatIsAskedFor()
+{
+    QFETCH(int, type);
+    QFETCH(QByteArray, property);
+    View shown;
+    auto item = shown.test.core.modelCreateItem(static_cast<PMListItem::Type>(type));
+    item->setTitle(QStringLiteral("Thing"));
+    QVERIFY(item->setProperty(property.constData(), QStringLiteral("its value")));
+    shown.test.core.modelAddItem(std::move(item));
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    shown.choose(QStringLiteral("Thing"));
+    shown.list()->setFocus();
+    shown.press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("its value"));
+    // Several items have no one value.
+    shown.test.addLogin(QStringLiteral("Shop"));
+    shown.list()->selectAll();
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    shown.press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
 }
 
 QTEST_MAIN(TestMainView)

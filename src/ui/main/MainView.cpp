@@ -10,6 +10,8 @@
 #include "NoticeBanner.h"
 #include "SafeLayout.h"
 #include "SelectionPage.h"
+#include "ShortcutTable.h"
+#include "ShortcutsDialog.h"
 #include "Sidebar.h"
 #include "attachments/AttachmentActions.h"
 #include "drafts/DraftKeeper.h"
@@ -104,6 +106,7 @@ void MainView::connectParts()
     connect(m_sidebar, &Sidebar::healthRequested, m_health, &HealthDesk::open);
     connect(m_health, &HealthDesk::changeRequested, this, &MainView::changeItem);
     connect(m_sidebar, &Sidebar::settingsRequested, this, &MainView::settingsRequested);
+    connect(m_sidebar, &Sidebar::shortcutsRequested, this, &MainView::showShortcuts);
     connect(m_sidebar, &Sidebar::helpRequested, this, &MainView::helpRequested);
     connect(m_sidebar, &Sidebar::setUpRequested, this, &MainView::setUpRequested);
     connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
@@ -162,30 +165,29 @@ void MainView::connectItemPane()
 
 void MainView::addShortcuts()
 {
-    struct Shortcut
-    {
-        const char *keys;
-        void (MainView::*slot)();
+    using Slot = void (MainView::*)();
+    static const QHash<int, Slot> commands = {
+        {ShortcutRow::Search, &MainView::focusSearch},
+        {ShortcutRow::CreateItem, &MainView::createItemHere},
+        {ShortcutRow::EditItem, &MainView::editItem},
+        {ShortcutRow::SaveItem, &MainView::saveItem},
+        {ShortcutRow::LogIn, &MainView::logIn},
+        {ShortcutRow::CopyUserName, &MainView::copyUserName},
+        {ShortcutRow::CopySecret, &MainView::copySecret},
+        {ShortcutRow::Undo, &MainView::undo},
+        {ShortcutRow::Paste, &MainView::paste},
+        {ShortcutRow::Lock, &MainView::lockRequested},
+        {ShortcutRow::Settings, &MainView::settingsRequested},
+        {ShortcutRow::ShowShortcuts, &MainView::showShortcuts},
     };
-    static const Shortcut shortcuts[] = {
-        {"Ctrl+F", &MainView::focusSearch},
-        {"Ctrl+N", &MainView::createItemHere},
-        {"F2", &MainView::editItem},
-        {"Ctrl+E", &MainView::editItem},
-        {"Ctrl+S", &MainView::saveItem},
-        {"Ctrl+Return", &MainView::logIn},
-        {"Ctrl+Enter", &MainView::logIn},
-        {"Ctrl+B", &MainView::copyUserName},
-        {"Ctrl+Shift+C", &MainView::copySecret},
-        {"Ctrl+C", &MainView::copySecret},
-        {"Ctrl+Z", &MainView::undo},
-        {"Ctrl+V", &MainView::paste},
-        {"Ctrl+L", &MainView::lockRequested},
-        {"Ctrl+,", &MainView::settingsRequested},
-    };
-    for (const Shortcut &shortcut : shortcuts)
-        connect(new QShortcut(QKeySequence(QLatin1String(shortcut.keys)), this),
-                &QShortcut::activated, this, shortcut.slot);
+    const QVector<ShortcutRow> table = shortcutTable();
+    for (const ShortcutRow &row : table) {
+        const Slot command = commands.value(row.command);
+        for (const QKeySequence &keys : row.keys) {
+            if (command)
+                connect(new QShortcut(keys, this), &QShortcut::activated, this, command);
+        }
+    }
     auto *leave = new QShortcut(QKeySequence(Qt::Key_Escape), m_pane);
     leave->setContext(Qt::WidgetWithChildrenShortcut);
     connect(leave, &QShortcut::activated, this, &MainView::leaveEditor);
@@ -514,6 +516,18 @@ void MainView::copySecret()
 {
     if (!m_pane->isEditing())
         m_actions->copySecret(m_pane->shownId());
+}
+
+void MainView::showShortcuts()
+{
+    auto *dialog = window()->findChild<ShortcutsDialog *>();
+    if (!dialog) {
+        dialog = new ShortcutsDialog(m_theme, window());
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
 }
 
 void MainView::focusSearch()

@@ -98,6 +98,7 @@ private:
     void copyUserName();
     void copySecret();
     void undo();
+    void showShortcuts();
     void focusSearch();
 
     GPMAppCore &m_core;

@@ -95,6 +95,8 @@ QWidget *Sidebar::makeMenuButton(const Theme &theme)
     auto *menu = new QMenu(more);
     m_setUp = menu->addAction(tr("Finish setting up"), this, &Sidebar::setUpRequested);
     m_setUp->setObjectName(QStringLiteral("setUpAction"));
+    menu->addAction(tr("Keyboard shortcuts") + QStringLiteral("\t?"), this,
+                    &Sidebar::shortcutsRequested);
     menu->addAction(tr("Help"), this, &Sidebar::helpRequested);
     menu->addSeparator();
     // The window knows the key, it holds on the lock pages too; here it is only told.

@@ -45,6 +45,7 @@ Q_SIGNALS:
     void generatorRequested();
     void healthRequested();
     void settingsRequested();
+    void shortcutsRequested();
     void helpRequested();
     void setUpRequested();
     void exitRequested();
