@@ -1,25 +1,17 @@
 #include "EveryWindow.h"
 
-#include "ItemListModel.h"
-#include "PMBankAccount.h"
 #include "PMCreditCard.h"
-#include "PMDriverLicense.h"
-#include "PMFtpAccount.h"
-#include "PMIdentity.h"
+#include "PMFieldTypes.h"
 #include "PMItemFactory.h"
-#include "PMPassport.h"
-#include "PMSSN.h"
-#include "PMSecureNote.h"
-#include "PMSoftwareLicense.h"
+#include "PMUiProvider.h"
 #include "PasswordStrength.h"
+#include "UiSettings.h"
+#include "WindowChecks.h"
 #include "attachments/AttachmentPreview.h"
 #include "attachments/RenameDialog.h"
-#include "dialogs/PasswordGeneratorDialog.h"
-#include "health/HealthDialog.h"
 #include "lock/PagesStack.h"
+#include "main/MainView.h"
 #include "main/ShortcutsDialog.h"
-#include "settings/SettingsDialog.h"
-#include "settings/SettingsTable.h"
 #include "style/Style.h"
 #include "wizard/ExtensionPage.h"
 #include "wizard/FirstRun.h"
@@ -27,19 +19,22 @@
 #include "wizard/ReadyPage.h"
 #include "wizard/SetupWizard.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QBuffer>
 #include <QDate>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QListWidget>
+#include <QMetaProperty>
 
 namespace {
 
-using Fields = std::initializer_list<std::pair<const char *, QVariant>>;
+using ItemValues = std::initializer_list<std::pair<const char *, QVariant>>;
 
-void add(GPMAppCore &core, PMListItem::Type type, const Fields &fields)
+void add(GPMAppCore &core, PMListItem::Type type, const ItemValues &fields)
 {
     std::unique_ptr<PMListItem> item = core.modelCreateItem(type);
     for (const auto &field : fields)
@@ -59,12 +54,14 @@ struct DemoLogin
     const char *password;
     int uses;
     bool favorite;
+    const char *note = "";
 };
 
 const DemoLogin demoLogins[] = {
     {"Alpine Club", "ana.martin@example.org", "martin1984", 3, false},
     {"Bank of the North", "ana-m-4471", "q7V<m2X,8Rz!Kd", 12, true},
-    {"Cloudmail", "ana.martin", "tW4:nB9pQz;r7X", 37, false},
+    {"Cloudmail", "ana.martin", "tW4:nB9pQz;r7X", 37, false,
+     "Recovery codes are in the attachment.\nSecond factor on the phone."},
     {"Design Tools", "ana@studio.example", "sunshine", 1, false},
     {"Every Books", "ana.martin", "sunshine", 0, false},
     {"Ferry Tickets", "ana.martin@example.org", "Lr5%kQ2w(Hn8", 2, false},
@@ -72,157 +69,104 @@ const DemoLogin demoLogins[] = {
     {"Harbour Health", "AM-204118", "vY8#dM3s)Jp6", 4, false},
     {"Island Coffee", "ana.martin@example.org", "Zc9&bT4f,Gx2", 8, false}};
 
-std::unique_ptr<QWidget> shown(std::unique_ptr<QWidget> window)
+using Show = std::function<QWidget *(Stage &)>;
+
+QWidget *mainWindow(Stage &stage)
 {
+    return stage.main;
+}
+
+Show item(const char *title)
+{
+    return [title](Stage &stage) {
+        stage.choose(QLatin1String(title));
+        return stage.main;
+    };
+}
+
+Show editor(const char *title)
+{
+    return [title](Stage &stage) {
+        stage.choose(QLatin1String(title));
+        stage.press("editButton");
+        return stage.main;
+    };
+}
+
+/// The window that a button of the main one opens.
+Show opened(const char *button, const char *window)
+{
+    return [button, window](Stage &stage) {
+        stage.press(button);
+        return stage.window(window);
+    };
+}
+
+Show settingsPage(int page)
+{
+    return [page](Stage &stage) {
+        stage.press("settingsButton");
+        QWidget *settings = stage.window("SettingsDialog");
+        find<QListWidget>(*settings, "settingsPages")->setCurrentRow(page);
+        return settings;
+    };
+}
+
+Show search(const char *words)
+{
+    return [words](Stage &stage) {
+        find<QLineEdit>(*stage.main, "searchField")->setText(QLatin1String(words));
+        return stage.main;
+    };
+}
+
+QWidget *createSafePage(Stage &stage)
+{
+    stage.main->findChild<PagesStack *>()->showCreatePage();
+    return stage.main;
+}
+
+QWidget *manySelected(Stage &stage)
+{
+    find<QAbstractItemView>(*stage.main, "itemList")->selectAll();
+    return stage.main;
+}
+
+QWidget *recentPasswords(Stage &stage)
+{
+    stage.press("generatorButton");
+    QWidget *generator = stage.window("PasswordGenerator");
+    find<QAbstractButton>(*generator, "recentButton")->click();
+    return generator;
+}
+
+/// The window of a safe that was locked while an item was edited.
+QWidget *offeredDraft(Stage &stage)
+{
+    stage.choose(QStringLiteral("Cloudmail"));
+    stage.press("editButton");
+    find<QLineEdit>(*stage.main, "loginField")->setText(QStringLiteral("ana.m"));
+    stage.test.core.lockCurrentSafe();
+    bool loaded = false;
+    const std::shared_ptr<GPMSafe> safe = stage.test.core.currentSafe();
+    const auto connection = QObject::connect(&safe->drafts(), &DraftStore::loaded, stage.main,
+                                             [&loaded] { loaded = true; });
+    if (!safe->unlock(testPassword) || !QTest::qWaitFor([&loaded] { return loaded; }))
+        return nullptr;
+    QObject::disconnect(connection);
+    return stage.main;
+}
+
+QWidget *shownBeside(Stage &stage, QDialog *window)
+{
+    window->setParent(stage.main, window->windowFlags());
+    window->setAttribute(Qt::WA_DeleteOnClose);
     window->show();
     return window;
 }
 
-std::unique_ptr<QWidget> showItem(Stage &stage, const char *title)
-{
-    auto window = stage.mainWindow();
-    stage.choose(*window, QLatin1String(title));
-    return window;
-}
-
-std::unique_ptr<QWidget> plainWindow(Stage &stage)
-{
-    return stage.mainWindow();
-}
-
-std::unique_ptr<QWidget> createSafeWindow(Stage &stage)
-{
-    auto window = stage.mainWindow();
-    window->pages().showCreatePage();
-    return window;
-}
-
-std::unique_ptr<QWidget> editItem(Stage &stage, const char *title)
-{
-    auto window = showItem(stage, title);
-    find<QPushButton>(*window, "editButton")->click();
-    return window;
-}
-
-std::unique_ptr<QWidget> manySelected(Stage &stage)
-{
-    auto window = showItem(stage, "Cloudmail");
-    auto *list = find<QAbstractItemView>(*window, "itemList");
-    for (int row = 0; row < 3; ++row)
-        list->selectionModel()->select(list->model()->index(row, 0), QItemSelectionModel::Select);
-    return window;
-}
-
-std::unique_ptr<QWidget> nothingFound(Stage &stage)
-{
-    auto window = stage.mainWindow();
-    find<QLineEdit>(*window, "searchField")->setText(QStringLiteral("zeppelin"));
-    return window;
-}
-
-std::unique_ptr<QWidget> health(Stage &stage)
-{
-    struct Desk
-    {
-        ItemListModel items;
-        ItemHealth health{items};
-    };
-    auto desk = std::make_shared<Desk>();
-    desk->items.setSafe(stage.test.core.currentSafe());
-    auto window = std::make_unique<HealthDialog>(desk->health, desk->items, stage.theme, nullptr);
-    if (!QTest::qWaitFor([&desk] { return desk->health.pending() == 0; }))
-        return nullptr;
-    // They go after the window.
-    QObject::connect(window.get(), &QObject::destroyed, [desk] {});
-    return shown(std::move(window));
-}
-
-/// The window of a safe that was locked while an item was edited.
-std::unique_ptr<QWidget> offeredDraft(Stage &stage)
-{
-    auto window = editItem(stage, "Cloudmail");
-    find<QLineEdit>(*window, "loginField")->setText(QStringLiteral("ana.m"));
-    stage.test.core.lockCurrentSafe();
-    bool loaded = false;
-    const std::shared_ptr<GPMSafe> safe = stage.test.core.currentSafe();
-    const auto connection = QObject::connect(&safe->drafts(), &DraftStore::loaded, window.get(),
-                                             [&loaded] { loaded = true; });
-    if (!safe->unlock(testPassword) || !QTest::qWaitFor([&loaded] { return loaded; }))
-        qFatal("The draft is not offered");
-    QObject::disconnect(connection);
-    return window;
-}
-
-std::unique_ptr<QWidget> preview(Stage &stage, const char *name, const QByteArray &bytes)
-{
-    return shown(std::make_unique<AttachmentPreview>(QLatin1String(name), PreviewContent::of(bytes),
-                                                     stage.theme, nullptr));
-}
-
-std::unique_ptr<QWidget> textPreview(Stage &stage)
-{
-    return preview(stage, "recovery-codes.txt", "4711-0815\n1234-5678\n2718-2818\n3141-5926\n");
-}
-
-std::unique_ptr<QWidget> picturePreview(Stage &stage)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImage(QStringLiteral(":/splash.png")).save(&buffer, "PNG");
-    return preview(stage, "passport.png", bytes);
-}
-
-std::unique_ptr<QWidget> renameDialog(Stage &stage)
-{
-    return shown(
-        std::make_unique<RenameDialog>(QStringLiteral("recovery-codes.txt"), stage.theme, nullptr));
-}
-
-std::unique_ptr<QWidget> shortcuts(Stage &stage)
-{
-    return shown(std::make_unique<ShortcutsDialog>(stage.theme, nullptr));
-}
-
-std::unique_ptr<QWidget> question(Stage &)
-{
-    return shown(std::make_unique<QuestionDialog>(
-        Question{QStringLiteral("The object has been modified"),
-                 QStringLiteral("You have not saved changes yet"),
-                 {QStringLiteral("Save"), QStringLiteral("Discard changes"),
-                  QStringLiteral("Continue editing")}},
-        nullptr));
-}
-
-std::unique_ptr<QWidget> generator(Stage &stage)
-{
-    // The same password each time, in pictures too.
-    const RandomBytes fixed = [](unsigned char *buffer, int size) {
-        for (int i = 0; i < size; ++i)
-            buffer[i] = static_cast<unsigned char>(i * 89 + 7);
-        return true;
-    };
-    stage.recent.setKeeping(true);
-    stage.uiSettings.setPasswordShape(QStringLiteral("PasswordGenerator"), {14, 3});
-    auto dialog = std::make_unique<PasswordGeneratorDialog>(
-        PasswordGeneratorDialog::Parts{stage.uiSettings, stage.test.core.settings(),
-                                       stage.test.core.clipboard(), stage.recent, fixed},
-        stage.theme, nullptr);
-    dialog->setTarget({[](const QString &) {}, [] { return QString(); }});
-    return shown(std::move(dialog));
-}
-
-std::unique_ptr<QWidget> recentPasswords(Stage &stage)
-{
-    auto dialog = generator(stage);
-    find<QPushButton>(*dialog, "copyButton")->click();
-    find<QAbstractButton>(*dialog, "regenerateButton")->click();
-    find<QPushButton>(*dialog, "recentButton")->click();
-    return dialog;
-}
-
 /// A step of the wizard of the first start.
-std::function<std::unique_ptr<QWidget>(Stage &)> wizardStep(const char *id)
+Show wizardStep(const char *id)
 {
     return [id](Stage &stage) {
         const auto always = [] { return true; };
@@ -231,58 +175,181 @@ std::function<std::unique_ptr<QWidget>(Stage &)> wizardStep(const char *id)
         };
         ExtensionPage::Parts parts{QStringLiteral("/opt/glaceron/extension"), [] { return false; },
                                    [](const QString &) {}};
-        auto wizard = std::make_unique<SetupWizard>(
-            QVector<WizardStep>{
-                row("safe", FirstRun::tr("Create a safe"),
-                    [&stage](QWidget *parent) {
-                        return new NewSafePage(stage.test.core, stage.theme, parent);
-                    }),
-                row("extension", FirstRun::tr("Fill forms in your browser"),
-                    [parts](QWidget *parent) { return new ExtensionPage(parts, parent); }),
-                row("ready", FirstRun::tr("You are ready"),
-                    [](QWidget *parent) { return new ReadyPage(parent); })},
-            stage.theme, nullptr);
+        auto *wizard = new SetupWizard(
+            {row("safe", FirstRun::tr("Create a safe"),
+                 [&stage](QWidget *parent) {
+                     return new NewSafePage(stage.test.core, stage.theme, parent);
+                 }),
+             row("extension", FirstRun::tr("Fill forms in your browser"),
+                 [parts](QWidget *parent) { return new ExtensionPage(parts, parent); }),
+             row("ready", FirstRun::tr("You are ready"),
+                 [](QWidget *parent) { return new ReadyPage(parent); })},
+            stage.theme, stage.main);
         wizard->goTo(QLatin1String(id));
-        return shown(std::move(wizard));
+        return shownBeside(stage, wizard);
     };
 }
 
-std::function<std::unique_ptr<QWidget>(Stage &)> settingsPage(Setting::Page page)
+QWidget *firstWizardStep(Stage &stage)
 {
-    return [page](Stage &stage) {
-        stage.test.core.settings().setBackupPath(QStringLiteral("/home/ana/Backups"));
-        stage.uiSettings.setTabIndex(QStringLiteral("SettingsDialog"), page);
-        const SettingsTable table(
-            {stage.test.core.settings(), stage.uiSettings, stage.theme, stage.translator, {}, {}});
-        return shown(std::make_unique<SettingsDialog>(table.settings(), stage.uiSettings,
-                                                      stage.theme, nullptr));
-    };
+    Q_EMIT stage.main->findChild<MainView *>()->setUpRequested();
+    return stage.window("SetupWizard");
 }
 
-/// The windows that show an item, or edit it, differ in the item alone.
-std::function<std::unique_ptr<QWidget>(Stage &)>
-itemCase(std::unique_ptr<QWidget> (*show)(Stage &, const char *), const char *title)
+QWidget *preview(Stage &stage, const char *name, const QByteArray &bytes)
 {
-    return [show, title](Stage &stage) { return show(stage, title); };
+    return shownBeside(stage, new AttachmentPreview(QLatin1String(name), PreviewContent::of(bytes),
+                                                    stage.theme, stage.main));
+}
+
+QWidget *textPreview(Stage &stage)
+{
+    return preview(stage, "recovery-codes.txt", "4711-0815\n1234-5678\n2718-2818\n3141-5926\n");
+}
+
+QWidget *picturePreview(Stage &stage)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImage(QStringLiteral(":/splash.png")).save(&buffer, "PNG");
+    return preview(stage, "passport.png", bytes);
+}
+
+QWidget *renameDialog(Stage &stage)
+{
+    return shownBeside(
+        stage, new RenameDialog(QStringLiteral("recovery-codes.txt"), stage.theme, stage.main));
+}
+
+QWidget *shortcuts(Stage &stage)
+{
+    return shownBeside(stage, new ShortcutsDialog(stage.theme, stage.main));
+}
+
+QWidget *question(Stage &stage)
+{
+    auto *dialog = new QuestionDialog({QStringLiteral("The object has been modified"),
+                                       QStringLiteral("You have not saved changes yet"),
+                                       {QStringLiteral("Save"), QStringLiteral("Discard changes"),
+                                        QStringLiteral("Continue editing")}},
+                                      stage.main);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    return dialog;
 }
 
 } // namespace
 
 Stage::Stage(Safe safe)
-    : uiSettings(test.folder.path())
-    , translator(QCoreApplication::applicationDirPath())
 {
     const int font = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/SG-R.TTF"));
     QApplication::setFont(
         {QFontDatabase::applicationFontFamilies(font).value(0), Style::basePointSize()});
-    // What moves would be met half way.
-    theme.setReducedMotion(true);
-    theme.apply();
     test.createSafe();
-    if (safe == Filled)
+    if (safe == Filled || safe == Interrupted)
         fillSafe();
     if (safe == Locked)
         test.core.lockCurrentSafe();
+}
+
+Stage::~Stage() = default;
+
+void Stage::attachRecoveryCodes()
+{
+    const std::shared_ptr<GPMSafe> &safe = test.core.currentSafe();
+    std::unique_ptr<PMListItem> codes = makeItem(PMListItem::Attachment);
+    codes->setTitle(QStringLiteral("recovery-codes.txt"));
+    codes->setProperty("filename", codes->title());
+    QBuffer bytes;
+    bytes.setData(QByteArray(4000, 'x'));
+    bytes.open(QIODevice::ReadOnly);
+    const PMListItem *added = safe->addAttachment(std::move(codes), bytes);
+    safe->item(id(QStringLiteral("Cloudmail")))->setRefs({added->id()});
+}
+
+QString Stage::id(const QString &title) const
+{
+    for (const PMListItem *item : test.core.currentSafe()->items()) {
+        if (item->title() == title)
+            return item->id();
+    }
+    return {};
+}
+
+void Stage::open(const Look &look)
+{
+    if (m_ui && look == m_look)
+        startAgain();
+    else
+        start(look);
+}
+
+void Stage::start(const Look &look)
+{
+    m_ui.reset();
+    m_look = look;
+    theme.setDark(look.dark);
+    UiSettings settings(QFileInfo(test.core.settings().filePath()).path());
+    settings.setThemeMode(look.dark ? Theme::Mode::Dark : Theme::Mode::Light);
+    settings.setTextPercent(look.textPercent);
+    // What moves would be met half way.
+    settings.setMotionOff(true);
+    settings.store();
+    m_ui = std::make_unique<PMUiProvider>(test.core, [] { return true; });
+    m_ui->connectCore();
+    m_ui->translator().translate(look.language.isEmpty() ? QStringLiteral("en") : look.language,
+                                 false);
+    m_ui->createMainWindow();
+    m_ui->openMainView({});
+    m_ui->bringToFront();
+    main = m_ui->mainWindow();
+}
+
+void Stage::startAgain()
+{
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (top != main && top->isVisible())
+            top->close();
+    }
+    // Windows that delete themselves do so now.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    find<QLineEdit>(*main, "searchField")->clear();
+    chooseCategory(1);
+    chooseCategory(0);
+    main->findChild<PagesStack *>()->showFirstPage();
+    main->activateWindow();
+}
+
+void Stage::choose(const QString &title)
+{
+    auto *list = find<QAbstractItemView>(*main, "itemList");
+    const QAbstractItemModel &model = *list->model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex index = model.index(row, 0);
+        if (index.data().toString() == title)
+            list->setCurrentIndex(index);
+    }
+}
+
+void Stage::chooseCategory(int row)
+{
+    auto *list = find<QAbstractItemView>(*main, "categoryList");
+    list->setCurrentIndex(list->model()->index(row, 0));
+}
+
+void Stage::press(const char *button)
+{
+    find<QAbstractButton>(*main, button)->click();
+}
+
+QWidget *Stage::window(const char *name) const
+{
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (top->isVisible() && top->objectName() == QLatin1String(name))
+            return top;
+    }
+    return nullptr;
 }
 
 void Stage::fillSafe()
@@ -302,11 +369,9 @@ void Stage::fillSafe()
                               passwordStrengthLevel(password)))},
              {"url", QStringLiteral("https://www.%1.example/login").arg(host)},
              {"useCount", login.uses},
-             {"favorite", login.favorite}});
+             {"favorite", login.favorite},
+             {"note", QLatin1String(login.note)}});
     }
-    if (PMListItem *mail = core.currentSafe()->item(id(QStringLiteral("Cloudmail"))))
-        mail->setNote(QStringLiteral("Recovery codes are in the attachment.\nSecond factor on the "
-                                     "phone."));
     attachRecoveryCodes();
     add(core, PMListItem::CreditCard,
         {{"title", QStringLiteral("Travel card")},
@@ -370,85 +435,65 @@ void Stage::fillSafe()
          {"licenseKey", QStringLiteral("AB12-CD34-EF56-GH78")}});
 }
 
-void Stage::attachRecoveryCodes()
+QSet<QString> Stage::ownWords() const
 {
-    const std::shared_ptr<GPMSafe> &safe = test.core.currentSafe();
-    std::unique_ptr<PMListItem> codes = makeItem(PMListItem::Attachment);
-    codes->setTitle(QStringLiteral("recovery-codes.txt"));
-    codes->setProperty("filename", codes->title());
-    QBuffer bytes;
-    bytes.setData(QByteArray(4000, 'x'));
-    bytes.open(QIODevice::ReadOnly);
-    const PMListItem *added = safe->addAttachment(std::move(codes), bytes);
-    safe->item(id(QStringLiteral("Cloudmail")))->setRefs({added->id()});
-}
-
-std::unique_ptr<SecureWindow> Stage::mainWindow()
-{
-    auto window = std::make_unique<SecureWindow>(test.core, theme, new MainView(test.core, theme));
-    window->pages().showFirstPage();
-    window->show();
-    window->activateWindow();
-    return window;
-}
-
-QString Stage::id(const QString &title) const
-{
+    QStringList texts{test.core.currentSafe()->name(), test.core.currentSafe()->hint(),
+                      test.folder.path()};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
-        if (item->title() == title)
-            return item->id();
+        const QMetaObject &meta = *item->metaObject();
+        for (int i = 0; i < meta.propertyCount(); ++i)
+            texts << meta.property(i).read(item).toString();
     }
-    return {};
-}
-
-void Stage::choose(QWidget &window, const QString &title) const
-{
-    auto *list = find<QAbstractItemView>(window, "itemList");
-    const QAbstractItemModel &model = *list->model();
-    for (int row = 0; row < model.rowCount(); ++row) {
-        const QModelIndex index = model.index(row, 0);
-        if (index.data().toString() == title)
-            list->setCurrentIndex(index);
-    }
+    const QStringList words = WindowChecks::latinWords(texts.join(QLatin1Char(' ')));
+    return {words.begin(), words.end()};
 }
 
 const QVector<WindowCase> &everyWindow()
 {
     static const QVector<WindowCase> cases{
-        {"lock", plainWindow, Stage::Locked},
-        {"create-safe", createSafeWindow, Stage::Locked},
-        {"empty-safe", plainWindow, Stage::Empty},
-        {"main", itemCase(showItem, "Cloudmail")},
-        {"card", itemCase(showItem, "Travel card")},
-        {"bank-account", itemCase(showItem, "Household")},
-        {"identity", itemCase(showItem, "Ana at home")},
-        {"passport", itemCase(showItem, "Ana's passport")},
-        {"driver-licence", itemCase(showItem, "Driving licence")},
-        {"edit-login", itemCase(editItem, "Cloudmail")},
-        {"many-selected", manySelected},
-        {"nothing-found", nothingFound},
-        {"edit-card", itemCase(editItem, "Travel card")},
-        {"edit-bank-account", itemCase(editItem, "Household")},
-        {"edit-identity", itemCase(editItem, "Ana at home")},
-        {"edit-driver-licence", itemCase(editItem, "Driving licence")},
-        {"edit-note", itemCase(editItem, "Alarm code")},
-        {"health", health},
-        {"draft-offered", offeredDraft},
+        {"lock", mainWindow, Stage::Locked},
+        {"create-safe", createSafePage, Stage::Locked},
+        {"empty-safe", mainWindow, Stage::Empty},
+        {"main", item("Cloudmail")},
+        {"card", item("Travel card")},
+        {"bank-account", item("Household")},
+        {"identity", item("Ana at home")},
+        {"passport", item("Ana's passport")},
+        {"social-security", item("National insurance")},
+        {"driver-licence", item("Driving licence")},
+        {"note", item("Alarm code")},
+        {"ftp-account", item("Photo archive")},
+        {"software-licence", item("Page layout")},
+        {"edit-login", editor("Cloudmail")},
+        {"edit-card", editor("Travel card")},
+        {"edit-bank-account", editor("Household")},
+        {"edit-identity", editor("Ana at home")},
+        {"edit-passport", editor("Ana's passport")},
+        {"edit-social-security", editor("National insurance")},
+        {"edit-driver-licence", editor("Driving licence")},
+        {"edit-note", editor("Alarm code")},
+        {"edit-ftp-account", editor("Photo archive")},
+        {"edit-software-licence", editor("Page layout")},
+        {"selection", manySelected},
+        {"nothing-found", search("quite another thing")},
+        {"generator", opened("generatorButton", "PasswordGenerator")},
+        {"generator-recent", recentPasswords},
+        {"health", opened("healthButton", "healthDialog")},
+        {"draft-offered", offeredDraft, Stage::Interrupted},
         {"attachment-text", textPreview},
         {"attachment-picture", picturePreview},
         {"attachment-rename", renameDialog},
-        {"shortcuts", shortcuts},
-        {"question", question},
-        {"generator", generator},
-        {"generator-recent", recentPasswords},
+        {"settings-general", settingsPage(0)},
+        {"settings-security", settingsPage(1)},
+        {"settings-browser", settingsPage(2)},
+        {"settings-backup", settingsPage(3)},
+        {"settings-hotkeys", settingsPage(4)},
+        {"settings-appearance", settingsPage(5)},
+        {"wizard-language", firstWizardStep},
         {"wizard-safe", wizardStep("safe"), Stage::Locked},
-        {"wizard-extension", wizardStep("extension"), Stage::Empty},
-        {"wizard-ready", wizardStep("ready"), Stage::Empty},
-        {"settings-general", settingsPage(Setting::General)},
-        {"settings-security", settingsPage(Setting::Security)},
-        {"settings-browser", settingsPage(Setting::Browser)},
-        {"settings-backup", settingsPage(Setting::Backup)},
-        {"settings-hotkeys", settingsPage(Setting::Hotkeys)},
-        {"settings-appearance", settingsPage(Setting::Appearance)}};
+        {"wizard-extension", wizardStep("extension")},
+        {"wizard-ready", wizardStep("ready")},
+        {"shortcuts", shortcuts},
+        {"question", question}};
     return cases;
 }

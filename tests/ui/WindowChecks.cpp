@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QtTest>
@@ -77,7 +78,8 @@ bool isClipped(const QWidget &widget)
         // What the user typed may be longer than the field; what the program says may not.
         const int room = line->contentsRect().width() - line->textMargins().left() -
                          line->textMargins().right() - 2 * 9;
-        return line->fontMetrics().horizontalAdvance(line->placeholderText()) > room ||
+        const int placeholder = line->fontMetrics().horizontalAdvance(line->placeholderText());
+        return (placeholder > 0 && placeholder > room) ||
                line->fontMetrics().height() > line->contentsRect().height();
     }
     if (const auto *box = qobject_cast<const QComboBox *>(&widget))
@@ -225,6 +227,48 @@ QStringList WindowChecks::contrastFaults(QWidget &window)
             paintedContrast(image.copy(QRect(area.topLeft() * scale, area.size() * scale)));
         if (found < readableContrast)
             faults << describe(*widget, QStringLiteral("contrast %1").arg(found, 0, 'f', 2));
+    }
+    return faults;
+}
+
+QStringList WindowChecks::latinWords(const QString &text)
+{
+    static const QRegularExpression word(QStringLiteral("[A-Za-z]{2,}"));
+    QStringList words;
+    for (auto match = word.globalMatch(text); match.hasNext();)
+        words << match.next().captured();
+    return words;
+}
+
+QStringList WindowChecks::latinTexts(QWidget &window, const QSet<QString> &knownWords)
+{
+    static const QSet<QString> names{
+        QStringLiteral("Alt"),   QStringLiteral("Ctrl"),    QStringLiteral("Del"),
+        QStringLiteral("Down"),  QStringLiteral("Enter"),   QStringLiteral("Esc"),
+        QStringLiteral("F2"),    QStringLiteral("FTP"),     QStringLiteral("Glaceron"),
+        QStringLiteral("IBAN"),  QStringLiteral("Manager"), QStringLiteral("MasterCard"),
+        QStringLiteral("Meta"),  QStringLiteral("PIN"),     QStringLiteral("Password"),
+        QStringLiteral("SWIFT"), QStringLiteral("Shift"),   QStringLiteral("Skype"),
+        QStringLiteral("Visa"),  QStringLiteral("https"),   QStringLiteral("http"),
+        QStringLiteral("MM")};
+    QStringList faults;
+    const auto check = [&](const QWidget &widget, const QString &text) {
+        for (const QString &word : latinWords(text)) {
+            if (!names.contains(word) && !knownWords.contains(word)) {
+                faults << describe(widget, QStringLiteral("not translated: ") + text.left(80));
+                return;
+            }
+        }
+    };
+    for (QWidget *widget : controls(window)) {
+        const auto *line = qobject_cast<const QLineEdit *>(widget);
+        check(*widget, line ? line->placeholderText() : shownText(*widget));
+        check(*widget, widget->toolTip());
+        check(*widget, widget->accessibleName());
+        check(*widget, widget->accessibleDescription());
+        const auto *view = qobject_cast<const QAbstractItemView *>(widget);
+        for (int row = 0; view && view->model() && row < view->model()->rowCount(); ++row)
+            check(*widget, view->model()->index(row, 0).data().toString());
     }
     return faults;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QStringList>
 
 class QWidget;
@@ -18,5 +19,11 @@ QStringList clippingFaults(QWidget &window);
 
 /// Texts stand out from their ground, as painted.
 QStringList contrastFaults(QWidget &window);
+
+/// Texts with words in Latin letters that are neither known nor names that all languages share.
+QStringList latinTexts(QWidget &window, const QSet<QString> &knownWords);
+
+/// The words of a text that are written in Latin letters.
+QStringList latinWords(const QString &text);
 
 } // namespace WindowChecks
