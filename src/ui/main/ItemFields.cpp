@@ -14,107 +14,114 @@ namespace {
 
 using Fields = QVector<ItemField>;
 
-// The labels are a context of their own for translators.
-#define LABEL(text) QT_TRANSLATE_NOOP("ItemFields", text)
-
 using F = ItemField;
 
-const F titleField = {"title", LABEL("Title"), F::Line, F::Required};
-const F noteField = {"note", LABEL("Note"), F::Multiline};
-const F foldedNote = {"note", LABEL("Note"), F::Multiline, F::Folded};
+const F titleField = {"title", QT_TRANSLATE_NOOP("ItemFields", "Title"), F::Line, F::Required};
+const F noteField = {"note", QT_TRANSLATE_NOOP("ItemFields", "Note"), F::Multiline};
+const F foldedNote = {"note", QT_TRANSLATE_NOOP("ItemFields", "Note"), F::Multiline, F::Folded};
 
-const Fields loginFields = {{"login", LABEL("User name")},
-                            {"password", LABEL("Password"), F::Password},
-                            {"url", LABEL("Web site"), F::Link, F::None, F::Url},
-                            {"fillType", LABEL("When logging in"), F::FillType, F::NoCopy},
-                            noteField};
-
-const Fields cardFields = {
-    {"number", LABEL("Card number"), F::CardNumber, F::None, F::CardNumberDigits},
-    {"cardType", LABEL("Card type"), F::CardType, F::NoCopy | F::OnFace},
-    {"cardholder", LABEL("Card holder"), F::Line, F::None, F::CardHolder},
-    {"expire", LABEL("Expires"), F::Month, F::Expiry},
-    {"code", LABEL("Security code"), F::SecurityCode, F::Beside, F::CardCode},
-    {"bank", LABEL("Bank")},
-    {"bankPhone", LABEL("Bank phone"), F::Phone},
-    {"bankSite", LABEL("Bank web site"), F::Link, F::Folded, F::Url},
+const Fields loginFields = {
+    {"login", QT_TRANSLATE_NOOP("ItemFields", "User name")},
+    {"password", QT_TRANSLATE_NOOP("ItemFields", "Password"), F::Password},
+    {"url", QT_TRANSLATE_NOOP("ItemFields", "Web site"), F::Link, F::None, F::Url},
+    {"fillType", QT_TRANSLATE_NOOP("ItemFields", "When logging in"), F::FillType, F::NoCopy},
     noteField};
 
-const Fields accountFields = {{"bankName", LABEL("Bank")},
-                              {"accountType", LABEL("Account type"), F::Line, F::Beside},
-                              {"name", LABEL("Account holder")},
-                              {"number", LABEL("Account number")},
-                              {"routing", LABEL("Routing number"), F::Line, F::Beside},
-                              {"iban", LABEL("IBAN")},
-                              {"swift", LABEL("SWIFT")},
-                              {"pin", LABEL("PIN"), F::Secret, F::Beside},
-                              {"phone", LABEL("Phone"), F::Phone},
-                              {"url", LABEL("Web site"), F::Link, F::Folded, F::Url},
-                              {"address", LABEL("Address"), F::Multiline, F::Folded},
-                              noteField};
+const Fields cardFields = {
+    {"number", QT_TRANSLATE_NOOP("ItemFields", "Card number"), F::CardNumber, F::None,
+     F::CardNumberDigits},
+    {"cardType", QT_TRANSLATE_NOOP("ItemFields", "Card type"), F::CardType, F::NoCopy | F::OnFace},
+    {"cardholder", QT_TRANSLATE_NOOP("ItemFields", "Card holder"), F::Line, F::None, F::CardHolder},
+    {"expire", QT_TRANSLATE_NOOP("ItemFields", "Expires"), F::Month, F::Expiry},
+    {"code", QT_TRANSLATE_NOOP("ItemFields", "Security code"), F::SecurityCode, F::Beside,
+     F::CardCode},
+    {"bank", QT_TRANSLATE_NOOP("ItemFields", "Bank")},
+    {"bankPhone", QT_TRANSLATE_NOOP("ItemFields", "Bank phone"), F::Phone},
+    {"bankSite", QT_TRANSLATE_NOOP("ItemFields", "Bank web site"), F::Link, F::Folded, F::Url},
+    noteField};
 
-const Fields identityFields = {{"firstName", LABEL("First name")},
-                               {"lastName", LABEL("Last name"), F::Line, F::Beside},
-                               {"birthDate", LABEL("Birth date"), F::Date},
-                               {"gender", LABEL("Gender"), F::Gender, F::Beside},
-                               {"email", LABEL("E-mail"), F::Line, F::None, F::Email},
-                               {"phone", LABEL("Phone"), F::Phone},
-                               {"addressLine1", LABEL("Address line 1")},
-                               {"city", LABEL("City")},
-                               {"zipCode", LABEL("Postal code"), F::Line, F::Beside},
-                               {"country", LABEL("Country"), F::Country, F::Beside},
-                               {"company", LABEL("Company"), F::Line, F::Folded},
-                               {"jobTitle", LABEL("Job title"), F::Line, F::Folded | F::Beside},
-                               {"website", LABEL("Website"), F::Link, F::Folded, F::Url},
-                               {"state", LABEL("State"), F::Line, F::Folded},
-                               {"addressLine2", LABEL("Address line 2"), F::Line, F::Folded},
-                               {"phoneCell", LABEL("Mobile phone"), F::Phone, F::Folded},
-                               {"phoneBusiness", LABEL("Business phone"), F::Phone, F::Folded},
-                               {"skype", LABEL("Skype"), F::Line, F::Folded},
-                               foldedNote};
+const Fields accountFields = {
+    {"bankName", QT_TRANSLATE_NOOP("ItemFields", "Bank")},
+    {"accountType", QT_TRANSLATE_NOOP("ItemFields", "Account type"), F::Line, F::Beside},
+    {"name", QT_TRANSLATE_NOOP("ItemFields", "Account holder")},
+    {"number", QT_TRANSLATE_NOOP("ItemFields", "Account number")},
+    {"routing", QT_TRANSLATE_NOOP("ItemFields", "Routing number"), F::Line, F::Beside},
+    {"iban", QT_TRANSLATE_NOOP("ItemFields", "IBAN")},
+    {"swift", QT_TRANSLATE_NOOP("ItemFields", "SWIFT")},
+    {"pin", QT_TRANSLATE_NOOP("ItemFields", "PIN"), F::Secret, F::Beside},
+    {"phone", QT_TRANSLATE_NOOP("ItemFields", "Phone"), F::Phone},
+    {"url", QT_TRANSLATE_NOOP("ItemFields", "Web site"), F::Link, F::Folded, F::Url},
+    {"address", QT_TRANSLATE_NOOP("ItemFields", "Address"), F::Multiline, F::Folded},
+    noteField};
 
-const Fields passportFields = {{"number", LABEL("Passport number")},
-                               {"passportType", LABEL("Passport type"), F::Line, F::Beside},
-                               {"fullName", LABEL("Full name")},
-                               {"birthDate", LABEL("Birth date"), F::Date},
-                               {"birthPlace", LABEL("Birth place"), F::Line, F::Beside},
-                               {"nationality", LABEL("Nationality")},
-                               {"country", LABEL("Country"), F::Country, F::Beside},
-                               {"authority", LABEL("Authority")},
-                               {"issuedDate", LABEL("Issued"), F::Date},
-                               {"expireDate", LABEL("Expires"), F::Date, F::Beside | F::Expiry},
-                               noteField};
+const Fields identityFields = {
+    {"firstName", QT_TRANSLATE_NOOP("ItemFields", "First name")},
+    {"lastName", QT_TRANSLATE_NOOP("ItemFields", "Last name"), F::Line, F::Beside},
+    {"birthDate", QT_TRANSLATE_NOOP("ItemFields", "Birth date"), F::Date},
+    {"gender", QT_TRANSLATE_NOOP("ItemFields", "Gender"), F::Gender, F::Beside},
+    {"email", QT_TRANSLATE_NOOP("ItemFields", "E-mail"), F::Line, F::None, F::Email},
+    {"phone", QT_TRANSLATE_NOOP("ItemFields", "Phone"), F::Phone},
+    {"addressLine1", QT_TRANSLATE_NOOP("ItemFields", "Address line 1")},
+    {"city", QT_TRANSLATE_NOOP("ItemFields", "City")},
+    {"zipCode", QT_TRANSLATE_NOOP("ItemFields", "Postal code"), F::Line, F::Beside},
+    {"country", QT_TRANSLATE_NOOP("ItemFields", "Country"), F::Country, F::Beside},
+    {"company", QT_TRANSLATE_NOOP("ItemFields", "Company"), F::Line, F::Folded},
+    {"jobTitle", QT_TRANSLATE_NOOP("ItemFields", "Job title"), F::Line, F::Folded | F::Beside},
+    {"website", QT_TRANSLATE_NOOP("ItemFields", "Website"), F::Link, F::Folded, F::Url},
+    {"state", QT_TRANSLATE_NOOP("ItemFields", "State"), F::Line, F::Folded},
+    {"addressLine2", QT_TRANSLATE_NOOP("ItemFields", "Address line 2"), F::Line, F::Folded},
+    {"phoneCell", QT_TRANSLATE_NOOP("ItemFields", "Mobile phone"), F::Phone, F::Folded},
+    {"phoneBusiness", QT_TRANSLATE_NOOP("ItemFields", "Business phone"), F::Phone, F::Folded},
+    {"skype", QT_TRANSLATE_NOOP("ItemFields", "Skype"), F::Line, F::Folded},
+    foldedNote};
 
-const Fields ssnFields = {{"name", LABEL("Name")},
-                          {"number", LABEL("Number"), F::Secret},
-                          {"note", LABEL("Note"), F::LongText}};
+const Fields passportFields = {
+    {"number", QT_TRANSLATE_NOOP("ItemFields", "Passport number")},
+    {"passportType", QT_TRANSLATE_NOOP("ItemFields", "Passport type"), F::Line, F::Beside},
+    {"fullName", QT_TRANSLATE_NOOP("ItemFields", "Full name")},
+    {"birthDate", QT_TRANSLATE_NOOP("ItemFields", "Birth date"), F::Date},
+    {"birthPlace", QT_TRANSLATE_NOOP("ItemFields", "Birth place"), F::Line, F::Beside},
+    {"nationality", QT_TRANSLATE_NOOP("ItemFields", "Nationality")},
+    {"country", QT_TRANSLATE_NOOP("ItemFields", "Country"), F::Country, F::Beside},
+    {"authority", QT_TRANSLATE_NOOP("ItemFields", "Authority")},
+    {"issuedDate", QT_TRANSLATE_NOOP("ItemFields", "Issued"), F::Date},
+    {"expireDate", QT_TRANSLATE_NOOP("ItemFields", "Expires"), F::Date, F::Beside | F::Expiry},
+    noteField};
 
-const Fields licenceFields = {{"number", LABEL("Licence number")},
-                              {"licenseClass", LABEL("Class"), F::Line, F::Beside},
-                              {"fullName", LABEL("Full name")},
-                              {"birthDate", LABEL("Birth date"), F::Date},
-                              {"gender", LABEL("Gender"), F::Gender, F::Beside},
-                              {"expireDate", LABEL("Expires"), F::Date, F::Expiry},
-                              {"height", LABEL("Height"), F::Number, F::Beside},
-                              {"adress", LABEL("Address"), F::Multiline},
-                              {"state", LABEL("State")},
-                              {"country", LABEL("Country"), F::Country, F::Beside},
-                              {"conditions", LABEL("Conditions"), F::Line, F::Folded},
-                              noteField};
+const Fields ssnFields = {{"name", QT_TRANSLATE_NOOP("ItemFields", "Name")},
+                          {"number", QT_TRANSLATE_NOOP("ItemFields", "Number"), F::Secret},
+                          {"note", QT_TRANSLATE_NOOP("ItemFields", "Note"), F::LongText}};
 
-const Fields noteFields = {{"text", LABEL("Text"), F::LongText}, foldedNote};
+const Fields licenceFields = {
+    {"number", QT_TRANSLATE_NOOP("ItemFields", "Licence number")},
+    {"licenseClass", QT_TRANSLATE_NOOP("ItemFields", "Class"), F::Line, F::Beside},
+    {"fullName", QT_TRANSLATE_NOOP("ItemFields", "Full name")},
+    {"birthDate", QT_TRANSLATE_NOOP("ItemFields", "Birth date"), F::Date},
+    {"gender", QT_TRANSLATE_NOOP("ItemFields", "Gender"), F::Gender, F::Beside},
+    {"expireDate", QT_TRANSLATE_NOOP("ItemFields", "Expires"), F::Date, F::Expiry},
+    {"height", QT_TRANSLATE_NOOP("ItemFields", "Height"), F::Number, F::Beside},
+    {"adress", QT_TRANSLATE_NOOP("ItemFields", "Address"), F::Multiline},
+    {"state", QT_TRANSLATE_NOOP("ItemFields", "State")},
+    {"country", QT_TRANSLATE_NOOP("ItemFields", "Country"), F::Country, F::Beside},
+    {"conditions", QT_TRANSLATE_NOOP("ItemFields", "Conditions"), F::Line, F::Folded},
+    noteField};
 
-const Fields ftpFields = {{"server", LABEL("Server")},
-                          {"username", LABEL("User name")},
-                          {"password", LABEL("Password"), F::Password},
+const Fields noteFields = {{"text", QT_TRANSLATE_NOOP("ItemFields", "Text"), F::LongText},
+                           foldedNote};
+
+const Fields ftpFields = {{"server", QT_TRANSLATE_NOOP("ItemFields", "Server")},
+                          {"username", QT_TRANSLATE_NOOP("ItemFields", "User name")},
+                          {"password", QT_TRANSLATE_NOOP("ItemFields", "Password"), F::Password},
                           noteField};
 
-const Fields softwareFields = {{"licenseKey", LABEL("Licence key"), F::Secret},
-                               {"version", LABEL("Version")},
-                               {"url", LABEL("Web site"), F::Link, F::None, F::Url},
-                               noteField};
+const Fields softwareFields = {
+    {"licenseKey", QT_TRANSLATE_NOOP("ItemFields", "Licence key"), F::Secret},
+    {"version", QT_TRANSLATE_NOOP("ItemFields", "Version")},
+    {"url", QT_TRANSLATE_NOOP("ItemFields", "Web site"), F::Link, F::None, F::Url},
+    noteField};
 
-const Fields attachmentFields = {{"filename", LABEL("File name")}, noteField};
+const Fields attachmentFields = {{"filename", QT_TRANSLATE_NOOP("ItemFields", "File name")},
+                                 noteField};
 
 // In the order of PMListItem::Type.
 const Fields *const allFields[] = {
@@ -198,19 +205,20 @@ QString fillTypeText(int fillType, const GPMAppSettings &settings)
 {
     switch (static_cast<PMFieldTypes::LoginFillType>(fillType)) {
     case PMFieldTypes::LoginFillType::FillAndSubmit:
-        return text(LABEL("Fill and submit"));
+        return text(QT_TRANSLATE_NOOP("ItemFields", "Fill and submit"));
     case PMFieldTypes::LoginFillType::OnlyFill:
-        return text(LABEL("Only fill"));
+        return text(QT_TRANSLATE_NOOP("ItemFields", "Only fill"));
     case PMFieldTypes::LoginFillType::GlobalSettings:
         break;
     }
     return settings.loginMode() == GPMAppSettings::FillAndSubmit
-               ? text(LABEL("Use application setting (fill and submit)"))
-               : text(LABEL("Use application setting (only fill)"));
+               ? text(QT_TRANSLATE_NOOP("ItemFields", "Use application setting (fill and submit)"))
+               : text(QT_TRANSLATE_NOOP("ItemFields", "Use application setting (only fill)"));
 }
 
 QString genderText(int gender)
 {
-    static const char *const names[] = {"", LABEL("Male"), LABEL("Female")};
+    static const char *const names[] = {"", QT_TRANSLATE_NOOP("ItemFields", "Male"),
+                                        QT_TRANSLATE_NOOP("ItemFields", "Female")};
     return gender >= 1 && gender <= 2 ? text(names[gender]) : QString();
 }
