@@ -32,7 +32,10 @@ export async function startDesktop() {
     click: (x, y, button = 1) => run('xdotool', ['mousemove', '--sync', x, y, 'click', button], { env }),
     /** Waits for a visible window with the title and gives it the keyboard. */
     async activate(title) {
-      const { stdout } = await run('xdotool', ['search', '--sync', '--onlyvisible', '--name', title], { env });
+      // It fails when a window goes while it walks over them, as the splash does.
+      const look = () => run('xdotool', ['search', '--sync', '--onlyvisible', '--name', title], { env });
+      const again = (error) => (/BadWindow/.test(error.stderr) ? look().catch(again) : Promise.reject(error));
+      const { stdout } = await look().catch(again);
       const id = stdout.trim().split('\n').pop();
       await run('xdotool', ['windowactivate', '--sync', id], { env });
       return id;
