@@ -5,6 +5,7 @@
 
 #include <QBoxLayout>
 #include <QCalendarWidget>
+#include <QLocale>
 #include <QPainter>
 #include <QScreen>
 #include <QTextCharFormat>

@@ -54,7 +54,7 @@ QString itemSummary(const PMListItem &item)
 {
     for (const Source &source : sources(item.type())) {
         const QString value = item.property(source.property).toString().simplified();
-        const QString shown = source.isNumber ? numberEnd(value) : value;
+        QString shown = source.isNumber ? numberEnd(value) : value;
         if (!shown.isEmpty())
             return shown;
     }

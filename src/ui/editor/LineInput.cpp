@@ -14,6 +14,8 @@
 #include <QAction>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 using PMFieldTypes::Date;
 
 namespace {

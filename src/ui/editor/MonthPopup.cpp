@@ -7,6 +7,7 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMap>
 
 namespace {

@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QScrollArea>
 
+#include <algorithm>
+
 namespace {
 
 const int pageMargin = 28;
@@ -177,8 +179,9 @@ void SafeItemEditor::showFolded()
         if (!first)
             first = folded;
     }
+    if (first)
+        first->control()->setFocus();
     m_more->hide();
-    first->control()->setFocus();
 }
 
 void SafeItemEditor::onEdited(const FieldInput &edited)

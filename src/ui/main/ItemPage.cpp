@@ -28,7 +28,7 @@ const int tileSize = 52;
 /// Where an item belongs: its web site, or its bank.
 QString placeOf(const PMListItem &item)
 {
-    const QString host = QUrl(item.url()).host();
+    QString host = QUrl(item.url()).host();
     if (!host.isEmpty())
         return host;
     const char *bank = item.type() == PMListItem::BankAccount ? "bankName" : "bank";
