@@ -76,7 +76,11 @@ bool isInsecureAddress(const QString &address)
 
 bool isOldPassword(const QDateTime &modified, const QDate &today)
 {
-    return modified.isValid() && modified.toLocalTime().date().addYears(oldYears) < today;
+    // Local time is slow to tell; what is clearly newer in any zone needs none.
+    const QDateTime newer(today.addYears(-oldYears).addDays(2), QTime(0, 0), Qt::UTC);
+    if (!modified.isValid() || modified.toMSecsSinceEpoch() > newer.toMSecsSinceEpoch())
+        return false;
+    return modified.toLocalTime().date().addYears(oldYears) < today;
 }
 
 bool isHealthIgnored(const PMListItem &item, HealthProblem problem)

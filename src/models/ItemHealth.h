@@ -23,6 +23,8 @@ struct HealthFinding
     QDate date;                  ///< of Old: the last change; of Expiring: the last day
 };
 
+Q_DECLARE_TYPEINFO(HealthFinding, Q_MOVABLE_TYPE);
+
 /// Looks after the passwords, addresses and dates of the items of a safe. Estimating takes long, so
 /// it goes on in slices between events, and a password is estimated anew only when it changes.
 /// Passwords are compared by digests under a key of this run; no copy of them is kept.
