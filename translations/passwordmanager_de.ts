@@ -2,94 +2,317 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en_GB">
 <context>
+    <name>AttachmentActions</name>
+    <message>
+        <source>Maximum attachment file size is %1 megabytes</source>
+        <translation>Anhänge dürfen höchstens %1 Megabyte groß sein</translation>
+    </message>
+    <message>
+        <source>This is no file, or it can not be read</source>
+        <translation>Das ist keine Datei, oder sie ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>The folder of the safe is full or can not be written to</source>
+        <translation>Der Ordner des Tresors ist voll oder nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>Please choose a file</source>
+        <translation>Bitte eine Datei auswählen</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Remove the copy now</source>
+        <translation>Kopie jetzt entfernen</translation>
+    </message>
+    <message>
+        <source>Its file is missing in the safe</source>
+        <translation>Seine Datei fehlt im Tresor</translation>
+    </message>
+    <message>
+        <source>less than 1 KB</source>
+        <translation>weniger als 1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 · encrypted</source>
+        <translation>%1 · verschlüsselt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Can&apos;t attach.</source>
+        <translation>Anhängen nicht möglich.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Can&apos;t read the attachment.</source>
+        <translation>Der Anhang lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The file of %1 in the safe is missing or damaged. A backup may hold it undamaged.</source>
+        <translation>Die Datei von %1 im Tresor fehlt oder ist beschädigt. Eine Sicherung enthält sie vielleicht noch unbeschädigt.</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Can&apos;t save the attachment.</source>
+        <translation>Der Anhang lässt sich nicht speichern.</translation>
+    </message>
+    <message>
+        <source>%1 could not be written. Check the free space and the permissions there, or choose another place.</source>
+        <translation>%1 konnte nicht geschrieben werden. Prüfen Sie dort den freien Platz und die Rechte, oder wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation>Nicht geöffnet</translation>
+    </message>
+    <message>
+        <source>%1 is a program, or can run one. It can be saved and looked at there.</source>
+        <translation>%1 ist ein Programm oder kann eines starten. Sie können es speichern und dort ansehen.</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open the attachment.</source>
+        <translation>Der Anhang lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>No private copy of %1 could be made. Check the free space, and whether the preview shows it.</source>
+        <translation>Von %1 konnte keine private Kopie angelegt werden. Prüfen Sie den freien Platz, und ob die Vorschau es zeigt.</translation>
+    </message>
+    <message>
+        <source>No program was found that opens %1. It can be saved instead.</source>
+        <translation>Es wurde kein Programm gefunden, das %1 öffnet. Sie können es stattdessen speichern.</translation>
+    </message>
+    <message>
+        <source>“%1” is open in another program.</source>
+        <translation>„%1“ ist in einem anderen Programm geöffnet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments are open in other programs.</source>
+        <translation>
+            <numerusform>%n Anhang ist in einem anderen Programm geöffnet.</numerusform>
+            <numerusform>%n Anhänge sind in anderen Programmen geöffnet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A copy lies readable in a private folder until the safe locks. It can not be written to: changes made there are not taken back into the safe. Save them under another name and attach that file.</source>
+        <translation>Bis der Tresor gesperrt wird, liegt eine lesbare Kopie in einem privaten Ordner. Sie ist schreibgeschützt: Änderungen daran gelangen nicht in den Tresor zurück. Speichern Sie sie unter anderem Namen und hängen Sie jene Datei an.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t remove the copy.</source>
+        <translation>Die Kopie lässt sich nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>Another program may still hold it open. It is tried again when the safe locks.</source>
+        <translation>Vielleicht hält ein anderes Programm sie noch offen. Beim Sperren des Tresors wird es erneut versucht.</translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentInput</name>
+    <message>
+        <source>Picture %1.png</source>
+        <translation>Bild %1.png</translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentPreview</name>
+    <message>
+        <source>There is no preview for this kind of file.</source>
+        <translation>Für diese Art von Datei gibt es keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>This is the beginning; save the file to see all of it.</source>
+        <translation>Das ist der Anfang; speichern Sie die Datei, um alles zu sehen.</translation>
+    </message>
+    <message>
+        <source>Letters of one width</source>
+        <translation>Feste Zeichenbreite</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Open in another program</source>
+        <translation>In anderem Programm öffnen</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentRow</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>%1 anzeigen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Open in another program</source>
+        <translation>In anderem Programm öffnen</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Umbenennen …</translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentsCard</name>
+    <message>
+        <source>Attach files…</source>
+        <translation>Dateien anhängen …</translation>
+    </message>
+    <message>
+        <source>Files and pictures can also be dropped here, or pasted with Ctrl+V</source>
+        <translation>Dateien und Bilder lassen sich auch hierher ziehen oder mit Strg+V einfügen</translation>
+    </message>
+    <message>
+        <source>Being encrypted…</source>
+        <translation>Wird verschlüsselt …</translation>
+    </message>
+    <message>
+        <source>Please choose a file</source>
+        <translation>Bitte eine Datei auswählen</translation>
+    </message>
+    <message>
+        <source>Drop to attach</source>
+        <translation>Zum Anhängen loslassen</translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden</translation>
     </message>
     <message>
         <source>1 item could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Eintrag konnte nicht gelesen werden</translation>
     </message>
     <message numerus="yes">
         <source>%n items could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Eintrag konnte nicht gelesen werden</numerusform>
+            <numerusform>%n Einträge konnten nicht gelesen werden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more in the same folder</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %n weiterer im selben Ordner</numerusform>
+            <numerusform>und %n weitere im selben Ordner</numerusform>
         </translation>
     </message>
     <message>
         <source>Their files were left as they are. A backup may hold them undamaged:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Dateien blieben unverändert. Eine Sicherung enthält sie vielleicht unbeschädigt:
+%1</translation>
     </message>
 </context>
 <context>
     <name>BusSessionWatch</name>
     <message>
         <source>Locking the safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Tresor sperren</translation>
     </message>
 </context>
 <context>
     <name>CapsIndicator</name>
     <message>
         <source>CAPS ON</source>
-        <translation type="unfinished"></translation>
+        <translation>CAPS AN</translation>
     </message>
     <message>
         <source>CAPS OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>CAPS AUS</translation>
     </message>
 </context>
 <context>
     <name>CardFace</name>
     <message>
         <source>Click to copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Kopieren klicken</translation>
     </message>
 </context>
 <context>
     <name>CategoryListView</name>
     <message>
         <source>Restore all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle wiederherstellen</translation>
     </message>
     <message>
         <source>Empty trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb leeren</translation>
     </message>
 </context>
 <context>
     <name>CategoryModel</name>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>ChoiceInput</name>
     <message>
         <source>Not specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Angabe</translation>
     </message>
 </context>
 <context>
     <name>CopyNotice</name>
     <message>
         <source>Value copied to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert in die Zwischenablage kopiert</translation>
     </message>
     <message>
         <source>clears in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>wird in %1 s gelöscht</translation>
     </message>
 </context>
 <context>
@@ -97,211 +320,218 @@
     <message>
         <source>%1  +%2</source>
         <extracomment>a country and its dialling code</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  +%2</translation>
     </message>
     <message>
         <source>Show all countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Länder zeigen</translation>
     </message>
     <message>
         <source>Show all countries (Alt+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Länder zeigen (Alt+Abwärts)</translation>
+    </message>
+</context>
+<context>
+    <name>CreateSafeForm</name>
+    <message>
+        <source>New Safe name</source>
+        <translation>Name des neuen Tresors</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Merkhilfe</translation>
+    </message>
+    <message>
+        <source>Create safe failed!</source>
+        <translation>Der Tresor konnte nicht angelegt werden!</translation>
     </message>
 </context>
 <context>
     <name>CreateSafePage</name>
     <message>
-        <source>New Safe name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Confirm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Hint</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlegen</translation>
     </message>
     <message>
         <source>Create a safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Tresor anlegen</translation>
     </message>
     <message>
         <source>Only you know its password. It cannot be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Sie kennen sein Passwort. Es lässt sich nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>You have not Safe yet
 Create one?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben noch keinen Tresor.
+Einen anlegen?</translation>
     </message>
     <message>
         <source>Create
 another one?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Create safe failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einen
+anlegen?</translation>
     </message>
 </context>
 <context>
     <name>CreateSafeRules</name>
     <message>
         <source>Safe name can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Tresors darf nicht leer sein</translation>
     </message>
     <message>
         <source>Password can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort darf nicht leer sein</translation>
     </message>
     <message>
         <source>Confirm password can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wiederholung darf nicht leer sein</translation>
     </message>
     <message>
         <source>Password does not match</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Passwörter stimmen nicht überein</translation>
     </message>
     <message>
         <source>Hint can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Merkhilfe darf nicht leer sein</translation>
     </message>
 </context>
 <context>
     <name>DatePopup</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender</translation>
     </message>
 </context>
 <context>
     <name>DraftKeeper</name>
     <message>
         <source>Can&apos;t keep the edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Eingabe kann nicht aufbewahrt werden.</translation>
     </message>
     <message>
         <source>What you were typing could not be kept, as its file could not be written. Check the free space and the permissions of the program&apos;s data folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie eingegeben haben, konnte nicht aufbewahrt werden, weil die Datei nicht geschrieben werden konnte. Prüfen Sie den freien Platz und die Rechte am Datenordner des Programms.</translation>
     </message>
 </context>
 <context>
     <name>DraftOffer</name>
     <message>
         <source>an item without a title</source>
-        <translation type="unfinished"></translation>
+        <translation>einen Eintrag ohne Titel</translation>
     </message>
     <message>
         <source>“%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“</translation>
     </message>
     <message>
         <source>Continue editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter bearbeiten</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen</translation>
     </message>
     <message>
         <source>You were adding %1 when the safe locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie waren dabei, %1 anzulegen, als der Tresor gesperrt wurde.</translation>
     </message>
     <message>
         <source>You were editing %1 when the safe locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie waren dabei, %1 zu bearbeiten, als der Tresor gesperrt wurde.</translation>
     </message>
     <message>
         <source>What you had typed was kept, encrypted, and is not saved yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Eingaben wurden verschlüsselt aufbewahrt und sind noch nicht gespeichert.</translation>
     </message>
     <message>
         <source>The item was deleted meanwhile. What you had typed can become a new item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Eintrag wurde inzwischen gelöscht. Aus Ihren Eingaben kann ein neuer Eintrag werden.</translation>
     </message>
     <message>
         <source>The item is in the trash now. What you had typed was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Eintrag liegt jetzt im Papierkorb. Ihre Eingaben wurden aufbewahrt.</translation>
     </message>
     <message>
         <source>The item was changed meanwhile. What you had typed was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Eintrag wurde inzwischen geändert. Ihre Eingaben wurden aufbewahrt.</translation>
     </message>
     <message>
         <source>Delete the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei löschen</translation>
     </message>
     <message>
         <source>An edit that was kept could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine aufbewahrte Eingabe konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>Its file is damaged or belongs to another password, and was left as it is:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Datei ist beschädigt oder gehört zu einem anderen Passwort und blieb unverändert:
+%1</translation>
     </message>
     <message>
         <source>%1 is in the trash. What would you like to do with what you had typed?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 liegt im Papierkorb. Was soll mit Ihren Eingaben geschehen?</translation>
     </message>
     <message>
         <source>%1 was changed after you had begun. What would you like to do with what you had typed?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde geändert, nachdem Sie begonnen hatten. Was soll mit Ihren Eingaben geschehen?</translation>
     </message>
     <message>
         <source>Continue as a new item</source>
-        <translation type="unfinished"></translation>
+        <translation>Als neuen Eintrag fortsetzen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Replace the change</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung ersetzen</translation>
     </message>
     <message>
         <source>Confirmation</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigung</translation>
     </message>
     <message>
         <source>Do you want to discard what you had typed about %1?
 It can not be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie Ihre Eingaben zu %1 verwerfen?
+Sie lassen sich nicht wiederherstellen.</translation>
     </message>
 </context>
 <context>
     <name>ExpiryText</name>
     <message>
         <source>Expired</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgelaufen</translation>
     </message>
     <message>
         <source>Expires today</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft heute ab</translation>
     </message>
     <message>
         <source>Expires in 1 day</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft in 1 Tag ab</translation>
     </message>
     <message numerus="yes">
         <source>Expires in %n days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Läuft in %n Tag ab</numerusform>
+            <numerusform>Läuft in %n Tagen ab</numerusform>
         </translation>
     </message>
 </context>
@@ -309,861 +539,1246 @@ It can not be restored.</source>
     <name>Export</name>
     <message>
         <source>The folder of the safe is not there. If it is on a drive that can be taken out, connect it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner des Tresors ist nicht da. Liegt er auf einem Wechsellaufwerk, schließen Sie es an und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>There is no safe in the folder any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>In dem Ordner ist kein Tresor mehr.</translation>
     </message>
     <message>
         <source>The password of the safe is being changed, or it is being archived already. Try again when that is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort des Tresors wird gerade geändert, oder er wird schon archiviert. Versuchen Sie es danach erneut.</translation>
     </message>
     <message>
         <source>Some of the safe&apos;s files can&apos;t be read. Check that its folder is there and that you may read and write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien des Tresors sind nicht lesbar. Prüfen Sie, ob sein Ordner da ist und Sie ihn lesen und beschreiben dürfen.</translation>
     </message>
     <message>
         <source>The archive can&apos;t be written. Check the free space and that you may write to its folder, or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv kann nicht geschrieben werden. Prüfen Sie den freien Platz und ob Sie in seinen Ordner schreiben dürfen, oder wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>The safe holds more than the 4 GiB that fit into an archive. Copy its folder instead, or take out large attachments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tresor enthält mehr als die 4 GiB, die in ein Archiv passen. Kopieren Sie stattdessen seinen Ordner, oder entfernen Sie große Anhänge.</translation>
     </message>
     <message>
         <source>The archive could not be read back after it was written, and was removed. Choose a folder on another drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv ließ sich nach dem Schreiben nicht lesen und wurde entfernt. Wählen Sie einen Ordner auf einem anderen Laufwerk.</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionPage</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the address</source>
+        <translation>Adresse kopieren</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>In Chromium, Chrome or Edge open the address %1</source>
+        <translation>Öffnen Sie in Chromium, Chrome oder Edge die Adresse %1</translation>
+    </message>
+    <message>
+        <source>Choose “Load unpacked” and the folder of the extension</source>
+        <translation>Wählen Sie „Entpackte Erweiterung laden“ und den Ordner der Erweiterung</translation>
+    </message>
+    <message>
+        <source>Folder of the extension</source>
+        <translation>Ordner der Erweiterung</translation>
+    </message>
+    <message>
+        <source>A browser is connected.</source>
+        <translation>Ein Browser ist verbunden.</translation>
+    </message>
+    <message>
+        <source>No browser is connected yet. It shows here when it is.</source>
+        <translation>Noch ist kein Browser verbunden. Es wird hier angezeigt, sobald einer es ist.</translation>
+    </message>
+    <message>
+        <source>Switch on “Developer mode”</source>
+        <translation>Schalten Sie „Entwicklermodus“ ein</translation>
     </message>
 </context>
 <context>
     <name>FieldRow</name>
     <message>
         <source>%1, hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, verborgen</translation>
     </message>
     <message>
         <source>View text under dots</source>
-        <translation type="unfinished"></translation>
+        <translation>Verborgenen Text anzeigen</translation>
     </message>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>Copy to clipboard: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Zwischenablage kopieren: %1</translation>
     </message>
     <message>
         <source>Click to copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Kopieren klicken</translation>
     </message>
     <message>
         <source>Generate password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort erzeugen</translation>
     </message>
     <message>
         <source>Change: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern: %1</translation>
     </message>
 </context>
 <context>
     <name>FieldRules</name>
     <message>
         <source>Required field is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Feld muss ausgefüllt sein</translation>
     </message>
     <message>
         <source>Url is invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse ist ungültig</translation>
     </message>
     <message>
         <source>Please use 4-digit value</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte 4 Ziffern eingeben</translation>
     </message>
     <message>
         <source>Please use 3-digit value</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte 3 Ziffern eingeben</translation>
     </message>
     <message>
         <source>Correct value is up to 26 characters in range A-Z including spaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtig sind bis zu 26 Zeichen von A bis Z und Leerzeichen</translation>
     </message>
     <message>
         <source>Incorrect card number</source>
-        <translation type="unfinished"></translation>
+        <translation>Falsche Kartennummer</translation>
     </message>
     <message>
         <source>“%1” is not a complete address</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine vollständige Adresse</translation>
     </message>
     <message>
         <source>“%1” is not a country code</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Landesvorwahl</translation>
     </message>
     <message>
         <source>“%1” is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl</translation>
     </message>
     <message>
         <source>“%1” is not a date</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Datum</translation>
     </message>
 </context>
 <context>
     <name>FindingRow</name>
     <message>
         <source>The same password as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dasselbe Passwort wie %1</translation>
     </message>
     <message numerus="yes">
         <source>The same password as %1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Dasselbe Passwort wie %1 und %n weiterer</numerusform>
+            <numerusform>Dasselbe Passwort wie %1 und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Nothing changed since %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Unverändert seit %1</translation>
     </message>
     <message>
         <source>The address begins with http: others can read along</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse beginnt mit http: andere können mitlesen</translation>
     </message>
     <message>
         <source>Stop ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Wieder beachten</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorieren</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Change it…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern …</translation>
     </message>
     <message>
         <source>Open the site&apos;s page for a new password</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Passwortseite der Website öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>FirstRun</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Willkommen</translation>
+    </message>
+    <message>
+        <source>Which language do you want to use?</source>
+        <translation>Welche Sprache möchten Sie verwenden?</translation>
+    </message>
+    <message>
+        <source>Create a safe</source>
+        <translation>Tresor anlegen</translation>
+    </message>
+    <message>
+        <source>It keeps your passwords. Only you know its password, and it cannot be recovered.</source>
+        <translation>Er bewahrt Ihre Passwörter auf. Nur Sie kennen sein Passwort, und es lässt sich nicht wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Fill forms in your browser</source>
+        <translation>Formulare im Browser ausfüllen</translation>
+    </message>
+    <message>
+        <source>The extension fills your logins into the pages they belong to.</source>
+        <translation>Die Erweiterung trägt Ihre Logins in die Seiten ein, zu denen sie gehören.</translation>
+    </message>
+    <message>
+        <source>You are ready</source>
+        <translation>Alles ist bereit</translation>
+    </message>
+    <message>
+        <source>The program waits in the tray when you close its window.</source>
+        <translation>Das Programm wartet im Infobereich, wenn Sie sein Fenster schließen.</translation>
     </message>
 </context>
 <context>
     <name>FormFillFlow</name>
     <message>
         <source>Can&apos;t login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden nicht möglich.</translation>
     </message>
     <message>
         <source>Item %1 has wrong url: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag %1 hat eine falsche Adresse: %2</translation>
     </message>
 </context>
 <context>
     <name>GPMAppCore</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Can&apos;t delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen nicht möglich.</translation>
     </message>
     <message>
         <source>The items are still there. Check that the folder of the safe can be written to:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einträge sind noch da. Prüfen Sie, ob in den Ordner des Tresors geschrieben werden kann:
+%1</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen können nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>These files could not be written; what they held before is still there. Check the free space and the permissions, then save again:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien konnten nicht geschrieben werden; ihr bisheriger Inhalt ist noch da. Prüfen Sie den freien Platz und die Rechte, und speichern Sie dann erneut:
+%1</translation>
     </message>
     <message>
         <source>Can&apos;t use the hotkey.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tastenkombination ist nicht verfügbar.</translation>
     </message>
     <message>
         <source>%1 is used by another program. Choose another combination in the settings, or end that program and start this one anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird von einem anderen Programm benutzt. Wählen Sie in den Einstellungen eine andere Kombination, oder beenden Sie jenes Programm und starten Sie dieses neu.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Can&apos;t back up.</source>
+        <translation>Sichern nicht möglich.</translation>
+    </message>
+    <message>
+        <source>%1
+
+Earlier backups are left as they are, in:
+%2</source>
+        <translation>%1
+
+Frühere Sicherungen bleiben, wie sie sind, in:
+%2</translation>
     </message>
 </context>
 <context>
     <name>HealthDialog</name>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfung</translation>
     </message>
     <message>
         <source>Findings</source>
-        <translation type="unfinished"></translation>
+        <translation>Befunde</translation>
     </message>
     <message>
         <source>Weak</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwach</translation>
     </message>
     <message>
         <source>Reused</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrfach benutzt</translation>
     </message>
     <message>
         <source>Older than 2 years</source>
-        <translation type="unfinished"></translation>
+        <translation>Älter als 2 Jahre</translation>
     </message>
     <message>
         <source>Not on https</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne https</translation>
     </message>
     <message>
         <source>Expiring</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft ab</translation>
     </message>
     <message>
         <source>Looking at the items…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge werden geprüft …</translation>
     </message>
     <message>
         <source>Show more (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr anzeigen (%1)</translation>
     </message>
     <message>
         <source>Back to what is not ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zu den beachteten</translation>
     </message>
     <message>
         <source>Ignored (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignoriert (%1)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts gefunden</translation>
     </message>
     <message>
         <source>Not all items have been looked at yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch sind nicht alle Einträge geprüft.</translation>
     </message>
 </context>
 <context>
     <name>HealthTile</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>HotkeyLineEdit</name>
     <message>
         <source>Press keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten drücken</translation>
     </message>
     <message>
         <source>Press a combination of keys; Backspace clears it</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Tastenkombination drücken; die Rücktaste löscht sie</translation>
     </message>
 </context>
 <context>
     <name>HotkeyRules</name>
     <message>
         <source>Use it together with Ctrl, Alt or Meta</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur zusammen mit Strg, Alt oder Meta</translation>
     </message>
     <message>
         <source>%1 is taken by: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist belegt durch: %2</translation>
     </message>
 </context>
 <context>
     <name>Import</name>
     <message>
         <source>The file is not there or can&apos;t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht da oder nicht lesbar.</translation>
     </message>
     <message>
         <source>Another safe is being imported. Try again when that is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade wird ein anderer Tresor importiert. Versuchen Sie es danach erneut.</translation>
     </message>
     <message>
         <source>The safe can&apos;t be written. Check the free space and that you may write to the folder of your safes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tresor kann nicht geschrieben werden. Prüfen Sie den freien Platz und ob Sie in den Ordner Ihrer Tresore schreiben dürfen.</translation>
     </message>
     <message>
         <source>The file would unpack to more than 4 GiB, or to a hundred times its size. No safe does that, so it was not imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei würde entpackt mehr als 4 GiB oder das Hundertfache ihrer Größe belegen. Das tut kein Tresor, darum wurde sie nicht importiert.</translation>
     </message>
     <message>
         <source>This file is not an archive. Choose a file that was exported or backed up from a safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist kein Archiv. Wählen Sie eine Datei, die aus einem Tresor exportiert oder gesichert wurde.</translation>
     </message>
     <message>
         <source>The file is damaged or was cut short. Copy it again from where it came from, or choose another backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt oder abgeschnitten. Kopieren Sie sie erneut von ihrer Quelle, oder wählen Sie eine andere Sicherung.</translation>
     </message>
     <message>
         <source>The archive has a password of its own or is packed in a way that can&apos;t be read. Pack it again as a plain ZIP file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv hat ein eigenes Passwort oder ist auf eine Weise gepackt, die nicht lesbar ist. Packen Sie es erneut als einfache ZIP-Datei.</translation>
     </message>
     <message>
         <source>The archive holds a file that would be written outside the safe. Somebody may have tampered with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv enthält eine Datei, die außerhalb des Tresors geschrieben würde. Vielleicht wurde es manipuliert.</translation>
     </message>
     <message>
         <source>The archive holds two files of the same name. Somebody may have tampered with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv enthält zwei Dateien gleichen Namens. Vielleicht wurde es manipuliert.</translation>
     </message>
     <message>
         <source>There is no safe in this archive. Choose a file that was exported or backed up from a safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Archiv ist kein Tresor. Wählen Sie eine Datei, die aus einem Tresor exportiert oder gesichert wurde.</translation>
     </message>
 </context>
 <context>
     <name>ItemActions</name>
     <message>
         <source>Confirmation</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigung</translation>
     </message>
     <message>
         <source>Do you want to delete the item forever?
 It can not be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie den Eintrag endgültig löschen?
+Er lässt sich nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>Delete forever</source>
-        <translation type="unfinished"></translation>
+        <translation>Endgültig löschen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Do you want to remove item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie den Eintrag entfernen?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Do you want to delete all items in the trash forever?
 They can not be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie alle Einträge im Papierkorb endgültig löschen?
+Sie lassen sich nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>%1 (copy)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Kopie)</translation>
     </message>
     <message numerus="yes">
         <source>Do you want to delete %n items forever?
 They can not be restored.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Möchten Sie %n Eintrag endgültig löschen?
+Er lässt sich nicht wiederherstellen.</numerusform>
+            <numerusform>Möchten Sie %n Einträge endgültig löschen?
+Sie lassen sich nicht wiederherstellen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Do you want to remove %n items?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Möchten Sie %n Eintrag entfernen?</numerusform>
+            <numerusform>Möchten Sie %n Einträge entfernen?</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Their attachment is deleted as well.</source>
+        <translation>Der Anhang wird mit gelöscht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Their %n attachments are deleted as well.</source>
+        <translation>
+            <numerusform>Der Anhang wird mit gelöscht.</numerusform>
+            <numerusform>Die %n Anhänge werden mit gelöscht.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ItemFields</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>When logging in</source>
+        <translation>Beim Anmelden</translation>
+    </message>
+    <message>
+        <source>Card number</source>
+        <translation>Kartennummer</translation>
+    </message>
+    <message>
+        <source>Card type</source>
+        <translation>Kartenart</translation>
+    </message>
+    <message>
+        <source>Card holder</source>
+        <translation>Karteninhaber</translation>
+    </message>
+    <message>
+        <source>Expires</source>
+        <translation>Gültig bis</translation>
+    </message>
+    <message>
+        <source>Security code</source>
+        <translation>Prüfziffer</translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation>Bank</translation>
+    </message>
+    <message>
+        <source>Bank phone</source>
+        <translation>Telefon der Bank</translation>
+    </message>
+    <message>
+        <source>Bank web site</source>
+        <translation>Website der Bank</translation>
+    </message>
+    <message>
+        <source>Account type</source>
+        <translation>Kontoart</translation>
+    </message>
+    <message>
+        <source>Account holder</source>
+        <translation>Kontoinhaber</translation>
+    </message>
+    <message>
+        <source>Account number</source>
+        <translation>Kontonummer</translation>
+    </message>
+    <message>
+        <source>Routing number</source>
+        <translation>Bankleitzahl</translation>
+    </message>
+    <message>
+        <source>IBAN</source>
+        <translation>IBAN</translation>
+    </message>
+    <message>
+        <source>SWIFT</source>
+        <translation>SWIFT</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Anschrift</translation>
+    </message>
+    <message>
+        <source>First name</source>
+        <translation>Vorname</translation>
+    </message>
+    <message>
+        <source>Last name</source>
+        <translation>Nachname</translation>
+    </message>
+    <message>
+        <source>Birth date</source>
+        <translation>Geburtsdatum</translation>
+    </message>
+    <message>
+        <source>Gender</source>
+        <translation>Geschlecht</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Address line 1</source>
+        <translation>Adresszeile 1</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Postal code</source>
+        <translation>Postleitzahl</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation>Beruf</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Bundesland</translation>
+    </message>
+    <message>
+        <source>Address line 2</source>
+        <translation>Adresszeile 2</translation>
+    </message>
+    <message>
+        <source>Mobile phone</source>
+        <translation>Mobiltelefon</translation>
+    </message>
+    <message>
+        <source>Business phone</source>
+        <translation>Telefon (Arbeit)</translation>
+    </message>
+    <message>
+        <source>Skype</source>
+        <translation>Skype</translation>
+    </message>
+    <message>
+        <source>Passport number</source>
+        <translation>Passnummer</translation>
+    </message>
+    <message>
+        <source>Passport type</source>
+        <translation>Passart</translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation>Voller Name</translation>
+    </message>
+    <message>
+        <source>Birth place</source>
+        <translation>Geburtsort</translation>
+    </message>
+    <message>
+        <source>Nationality</source>
+        <translation>Staatsangehörigkeit</translation>
+    </message>
+    <message>
+        <source>Authority</source>
+        <translation>Behörde</translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation>Ausgestellt</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Licence number</source>
+        <translation>Führerscheinnummer</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Auflagen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Licence key</source>
+        <translation>Lizenzschlüssel</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Fill and submit</source>
+        <translation>Ausfüllen und absenden</translation>
+    </message>
+    <message>
+        <source>Only fill</source>
+        <translation>Nur ausfüllen</translation>
+    </message>
+    <message>
+        <source>Use application setting (fill and submit)</source>
+        <translation>Wie in den Einstellungen (ausfüllen und absenden)</translation>
+    </message>
+    <message>
+        <source>Use application setting (only fill)</source>
+        <translation>Wie in den Einstellungen (nur ausfüllen)</translation>
+    </message>
+    <message>
+        <source>Male</source>
+        <translation>Männlich</translation>
+    </message>
+    <message>
+        <source>Female</source>
+        <translation>Weiblich</translation>
     </message>
 </context>
 <context>
     <name>ItemKinds</name>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Login</translation>
     </message>
     <message>
         <source>Logins</source>
-        <translation type="unfinished"></translation>
+        <translation>Logins</translation>
     </message>
     <message>
         <source>Credit card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreditkarte</translation>
     </message>
     <message>
         <source>Credit cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreditkarten</translation>
     </message>
     <message>
         <source>Bank account</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankkonto</translation>
     </message>
     <message>
         <source>Bank accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankkonten</translation>
     </message>
     <message>
         <source>Identity</source>
-        <translation type="unfinished"></translation>
+        <translation>Identität</translation>
     </message>
     <message>
         <source>Identities</source>
-        <translation type="unfinished"></translation>
+        <translation>Identitäten</translation>
     </message>
     <message>
         <source>Passport</source>
-        <translation type="unfinished"></translation>
+        <translation>Reisepass</translation>
     </message>
     <message>
         <source>Passports</source>
-        <translation type="unfinished"></translation>
+        <translation>Reisepässe</translation>
     </message>
     <message>
         <source>Social security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sozialversicherung</translation>
     </message>
     <message>
         <source>Driver licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Führerschein</translation>
     </message>
     <message>
         <source>Driver licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Führerscheine</translation>
     </message>
     <message>
         <source>Secure note</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichere Notiz</translation>
     </message>
     <message>
         <source>Secure notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichere Notizen</translation>
     </message>
     <message>
         <source>FTP account</source>
-        <translation type="unfinished"></translation>
+        <translation>FTP-Konto</translation>
     </message>
     <message>
         <source>FTP accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>FTP-Konten</translation>
     </message>
     <message>
         <source>Software licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Softwarelizenz</translation>
     </message>
     <message>
         <source>Software licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Softwarelizenzen</translation>
     </message>
     <message>
         <source>Attachment</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhang</translation>
     </message>
     <message>
         <source>Attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhänge</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag</translation>
     </message>
     <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge</translation>
     </message>
     <message>
         <source>All items</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einträge</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoriten</translation>
     </message>
     <message>
         <source>Most used</source>
-        <translation type="unfinished"></translation>
+        <translation>Meistbenutzt</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb</translation>
     </message>
     <message>
         <source>1 item</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Eintrag</translation>
     </message>
     <message numerus="yes">
         <source>%n items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
         </translation>
     </message>
     <message>
         <source>New login</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Login</translation>
     </message>
     <message>
         <source>New credit card</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Kreditkarte</translation>
     </message>
     <message>
         <source>New bank account</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Bankkonto</translation>
     </message>
     <message>
         <source>New identity</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Identität</translation>
     </message>
     <message>
         <source>New passport</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Reisepass</translation>
     </message>
     <message>
         <source>New social security number</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Sozialversicherungsnummer</translation>
     </message>
     <message>
         <source>New driver licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Führerschein</translation>
     </message>
     <message>
         <source>New secure note</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue sichere Notiz</translation>
     </message>
     <message>
         <source>New FTP account</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues FTP-Konto</translation>
     </message>
     <message>
         <source>New software licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Softwarelizenz</translation>
     </message>
     <message>
         <source>New attachment</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Anhang</translation>
     </message>
     <message>
         <source>New item</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Eintrag</translation>
     </message>
     <message>
         <source>Copy password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort kopieren</translation>
     </message>
     <message>
         <source>Copy card number</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartennummer kopieren</translation>
     </message>
     <message>
         <source>Copy account number</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontonummer kopieren</translation>
     </message>
     <message>
         <source>Copy email address</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail-Adresse kopieren</translation>
     </message>
     <message>
         <source>Copy passport number</source>
-        <translation type="unfinished"></translation>
+        <translation>Passnummer kopieren</translation>
     </message>
     <message>
         <source>Copy number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer kopieren</translation>
     </message>
     <message>
         <source>Copy licence number</source>
-        <translation type="unfinished"></translation>
+        <translation>Führerscheinnummer kopieren</translation>
     </message>
     <message>
         <source>Copy text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text kopieren</translation>
     </message>
     <message>
         <source>Copy licence key</source>
-        <translation type="unfinished"></translation>
+        <translation>Lizenzschlüssel kopieren</translation>
     </message>
     <message>
         <source>Expiring</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft ab</translation>
     </message>
 </context>
 <context>
     <name>ItemListPane</name>
     <message>
         <source>Mark an item with the star, and it appears here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Markieren Sie einen Eintrag mit dem Stern, und er erscheint hier.</translation>
     </message>
     <message>
         <source>Items appear here once you have logged in with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge erscheinen hier, sobald Sie sich mit ihnen angemeldet haben.</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche</translation>
     </message>
     <message>
         <source>Ctrl F</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg F</translation>
     </message>
     <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge</translation>
     </message>
     <message>
         <source>Restore all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle wiederherstellen</translation>
     </message>
     <message>
         <source>Empty trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb leeren</translation>
     </message>
     <message>
         <source>Search %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 durchsuchen</translation>
     </message>
     <message>
         <source>No items found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einträge gefunden</translation>
     </message>
     <message>
         <source>Try fewer words, or press Esc to see all items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versuchen Sie weniger Wörter, oder sehen Sie mit Esc alle Einträge.</translation>
     </message>
     <message>
         <source>No items in this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einträge in dieser Kategorie</translation>
     </message>
     <message>
         <source>What you remove stays here until you delete it forever.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie entfernen, bleibt hier, bis Sie es endgültig löschen.</translation>
     </message>
     <message>
         <source>Your safe is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Tresor ist leer</translation>
     </message>
     <message>
         <source>Keep your user names and passwords here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahren Sie hier Ihre Benutzernamen und Passwörter auf.</translation>
     </message>
     <message>
         <source>Add your first login</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersten Login hinzufügen</translation>
     </message>
     <message>
         <source>Press Ctrl+N to add the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+N fügt den ersten hinzu.</translation>
     </message>
     <message>
         <source>New item</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Eintrag</translation>
     </message>
     <message>
         <source>New item (Ctrl+N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Eintrag (Strg+N)</translation>
     </message>
 </context>
 <context>
     <name>ItemMenu</name>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus den Favoriten nehmen</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu den Favoriten</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Open address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse öffnen</translation>
     </message>
     <message>
         <source>Copy user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzernamen kopieren</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Delete forever…</source>
-        <translation type="unfinished"></translation>
+        <translation>Endgültig löschen …</translation>
     </message>
 </context>
 <context>
     <name>ItemPage</name>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit</translation>
     </message>
     <message>
         <source>Log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Log in (Ctrl+Return)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden (Strg+Eingabe)</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus den Favoriten nehmen</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu den Favoriten</translation>
     </message>
     <message>
         <source>Modified %1 · created %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert %1 · angelegt %2</translation>
     </message>
     <message>
         <source>Used once</source>
-        <translation type="unfinished"></translation>
+        <translation>Einmal benutzt</translation>
     </message>
     <message numerus="yes">
         <source>Used %n times</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n-mal benutzt</numerusform>
+            <numerusform>%n-mal benutzt</numerusform>
         </translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Edit (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten (F2)</translation>
     </message>
 </context>
 <context>
     <name>ItemPane</name>
     <message>
         <source>No items selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Eintrag ausgewählt</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Discard changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen verwerfen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern (Strg+S)</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen können nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>There are empty required values.
 Fill and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Notwendige Felder sind leer.
+Füllen Sie sie aus und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>The object has been modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Eintrag wurde geändert</translation>
     </message>
     <message>
         <source>There are empty required fields. What would you like to do?</source>
-        <translation type="unfinished"></translation>
+        <translation>Notwendige Felder sind leer. Was möchten Sie tun?</translation>
     </message>
     <message>
         <source>You have not saved changes yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben die Änderungen noch nicht gespeichert</translation>
     </message>
     <message>
         <source>Continue editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter bearbeiten</translation>
     </message>
     <message>
         <source>Delete forever</source>
-        <translation type="unfinished"></translation>
+        <translation>Endgültig löschen</translation>
     </message>
     <message>
         <source>Choose an item on the left, or press Ctrl+N to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie links einen Eintrag, oder fügen Sie mit Strg+N einen hinzu.</translation>
     </message>
     <message>
         <source>There are values that are no date or no number.
 Correct them and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche Werte sind kein Datum oder keine Zahl.
+Berichtigen Sie sie und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>New attachment</source>
+        <translation>Neuer Anhang</translation>
+    </message>
+    <message>
+        <source>Please choose a file</source>
+        <translation>Bitte eine Datei auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePage</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
     </message>
 </context>
 <context>
     <name>LineInput</name>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
     <message>
         <source>Open in browser (Alt+Return)</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen (Alt+Eingabe)</translation>
     </message>
     <message>
         <source>e.g. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. %1</translation>
     </message>
     <message>
         <source>MM / YYYY</source>
-        <translation type="unfinished"></translation>
+        <translation>MM / JJJJ</translation>
     </message>
     <message>
         <source>Choose a date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum auswählen</translation>
     </message>
     <message>
         <source>Choose a date (Alt+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum auswählen (Alt+Abwärts)</translation>
     </message>
 </context>
 <context>
     <name>LockReason</name>
     <message numerus="yes">
         <source>Locked after %n minutes without input</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Nach %n Minute ohne Eingabe gesperrt</numerusform>
+            <numerusform>Nach %n Minuten ohne Eingabe gesperrt</numerusform>
         </translation>
     </message>
 </context>
@@ -1171,111 +1786,127 @@ Correct them and try again.</source>
     <name>MainView</name>
     <message>
         <source>Moved to trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb gelegt</translation>
     </message>
     <message numerus="yes">
         <source>%n items moved to trash</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Eintrag in den Papierkorb gelegt</numerusform>
+            <numerusform>%n Einträge in den Papierkorb gelegt</numerusform>
         </translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>
     <name>MasterPasswordPage</name>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Tresor</translation>
     </message>
     <message>
         <source>Click to select safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Tresor auswählen</translation>
     </message>
     <message>
         <source>Enter Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort eingeben</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Reading items</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge werden gelesen</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht jetzt</translation>
     </message>
     <message>
         <source>Create new...</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu anlegen ...</translation>
     </message>
     <message>
         <source>%1 (unavailable)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nicht verfügbar)</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen</translation>
     </message>
     <message>
         <source>Welcome back</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen zurück</translation>
     </message>
     <message>
         <source>You have not Safe yet
 Create one?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben noch keinen Tresor.
+Einen anlegen?</translation>
     </message>
     <message>
         <source>Hint: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Merkhilfe: %1</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperren</translation>
     </message>
     <message>
         <source>Unlocking: %1 of %2 items</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperren: %1 von %2 Einträgen</translation>
     </message>
     <message>
         <source>Unlocking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird entsperrt …</translation>
     </message>
 </context>
 <context>
     <name>MonthPopup</name>
     <message>
         <source>Previous year</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriges Jahr</translation>
     </message>
     <message>
         <source>Next year</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Jahr</translation>
     </message>
 </context>
 <context>
     <name>NewItemMenu</name>
     <message>
         <source>New item</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Eintrag</translation>
+    </message>
+</context>
+<context>
+    <name>NewSafePage</name>
+    <message>
+        <source>The hint is shown to everyone who opens this window. Let it remind you of the password, and nobody else.</source>
+        <translation>Die Merkhilfe sieht jeder, der dieses Fenster öffnet. Sie soll nur Sie an das Passwort erinnern, niemanden sonst.</translation>
+    </message>
+    <message>
+        <source>Your safe “%1” is open.</source>
+        <translation>Ihr Tresor „%1“ ist offen.</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
     </message>
 </context>
 <context>
     <name>NoticeBanner</name>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden</translation>
     </message>
 </context>
 <context>
@@ -1289,11 +1920,11 @@ Create one?</source>
     <name>PMUiProvider</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Glaceron Password Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Glaceron Password Manager</translation>
     </message>
     <message>
         <source>Version %1
@@ -1303,280 +1934,320 @@ Ctrl+B copies the user name, Ctrl+Shift+C the password.
 Ctrl+Return logs in, Ctrl+L locks the safe, Ctrl+Q ends the program.
 
 The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT License).</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1
+
+Strg+N legt einen Login an, Strg+F sucht, Strg+E bearbeitet, Strg+S speichert.
+Strg+B kopiert den Benutzernamen, Strg+Umschalt+C das Passwort.
+Strg+Eingabe meldet an, Strg+L sperrt den Tresor, Strg+Q beendet das Programm.
+
+Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MIT-Lizenz).</translation>
     </message>
 </context>
 <context>
     <name>PasswordField</name>
     <message>
         <source>View text under dots</source>
-        <translation type="unfinished"></translation>
+        <translation>Verborgenen Text anzeigen</translation>
     </message>
     <message>
         <source>View text under dots (Ctrl+R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Verborgenen Text anzeigen (Strg+R)</translation>
     </message>
 </context>
 <context>
     <name>PasswordGeneratorDialog</name>
     <message>
         <source>Password Generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortgenerator</translation>
     </message>
     <message>
         <source>Generated password</source>
-        <translation type="unfinished"></translation>
+        <translation>Erzeugtes Passwort</translation>
     </message>
     <message>
         <source>Another password</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderes Passwort</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge:</translation>
     </message>
     <message>
         <source>Special chars:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonderzeichen:</translation>
     </message>
     <message>
         <source>Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Einsetzen</translation>
     </message>
     <message>
         <source>There is nothing to place it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts, worin es eingesetzt werden könnte.</translation>
     </message>
     <message>
         <source>The passwords made since the safe was opened; locking it wipes them</source>
-        <translation type="unfinished"></translation>
+        <translation>Die seit dem Öffnen des Tresors erzeugten Passwörter; das Sperren löscht sie</translation>
     </message>
     <message>
         <source>Passwords are remembered only while a safe is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwörter werden nur gemerkt, solange ein Tresor offen ist</translation>
     </message>
     <message>
         <source>Hidden password</source>
-        <translation type="unfinished"></translation>
+        <translation>Verborgenes Passwort</translation>
     </message>
     <message>
         <source>used</source>
-        <translation type="unfinished"></translation>
+        <translation>benutzt</translation>
     </message>
     <message>
         <source>Copy the password of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort von %1 kopieren</translation>
     </message>
 </context>
 <context>
     <name>PasswordWeakness</name>
     <message>
         <source>a name</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Name</translation>
     </message>
     <message>
         <source>a word from a list</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Wort aus einer Liste</translation>
     </message>
     <message>
         <source>a date</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Datum</translation>
     </message>
     <message>
         <source>keys side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten nebeneinander</translation>
     </message>
     <message>
         <source>a sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Folge</translation>
     </message>
     <message>
         <source>a repetition</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Wiederholung</translation>
     </message>
     <message>
         <source>a digit</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Ziffer</translation>
     </message>
     <message>
         <source>digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziffern</translation>
     </message>
     <message>
         <source>a few characters</source>
-        <translation type="unfinished"></translation>
+        <translation>wenige Zeichen</translation>
     </message>
 </context>
 <context>
     <name>PhoneInput</name>
     <message>
         <source>Country code</source>
-        <translation type="unfinished"></translation>
+        <translation>Landesvorwahl</translation>
     </message>
     <message>
         <source>%1: country code</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Landesvorwahl</translation>
     </message>
 </context>
 <context>
     <name>PluginVersion</name>
     <message>
         <source>Invalid plugin version for %1 extension: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Version der Erweiterung für %1: %2</translation>
     </message>
 </context>
 <context>
     <name>ProgramShortcuts</name>
     <message>
         <source>copy</source>
-        <translation type="unfinished"></translation>
+        <translation>kopieren</translation>
     </message>
     <message>
         <source>cut</source>
-        <translation type="unfinished"></translation>
+        <translation>ausschneiden</translation>
     </message>
     <message>
         <source>paste</source>
-        <translation type="unfinished"></translation>
+        <translation>einfügen</translation>
     </message>
     <message>
         <source>undo</source>
-        <translation type="unfinished"></translation>
+        <translation>rückgängig</translation>
     </message>
     <message>
         <source>redo</source>
-        <translation type="unfinished"></translation>
+        <translation>wiederholen</translation>
     </message>
     <message>
         <source>select all</source>
-        <translation type="unfinished"></translation>
+        <translation>alles auswählen</translation>
     </message>
     <message>
         <source>search</source>
-        <translation type="unfinished"></translation>
+        <translation>suchen</translation>
     </message>
     <message>
         <source>new item</source>
-        <translation type="unfinished"></translation>
+        <translation>neuer Eintrag</translation>
     </message>
     <message>
         <source>edit</source>
-        <translation type="unfinished"></translation>
+        <translation>bearbeiten</translation>
     </message>
     <message>
         <source>save</source>
-        <translation type="unfinished"></translation>
+        <translation>speichern</translation>
     </message>
     <message>
         <source>log in</source>
-        <translation type="unfinished"></translation>
+        <translation>anmelden</translation>
     </message>
     <message>
         <source>copy the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzernamen kopieren</translation>
     </message>
     <message>
         <source>copy the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort kopieren</translation>
     </message>
     <message>
         <source>password generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortgenerator</translation>
     </message>
     <message>
         <source>lock</source>
-        <translation type="unfinished"></translation>
+        <translation>sperren</translation>
     </message>
     <message>
         <source>settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>exit</source>
-        <translation type="unfinished"></translation>
+        <translation>beenden</translation>
     </message>
     <message>
         <source>a command of this program</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Befehl dieses Programms</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyPage</name>
+    <message>
+        <source>adds an item</source>
+        <translation>fügt einen Eintrag hinzu</translation>
+    </message>
+    <message>
+        <source>searches</source>
+        <translation>sucht</translation>
+    </message>
+    <message>
+        <source>opens the page of a login and fills it in</source>
+        <translation>öffnet die Seite eines Logins und füllt sie aus</translation>
+    </message>
+    <message>
+        <source>locks the safe</source>
+        <translation>sperrt den Tresor</translation>
     </message>
 </context>
 <context>
     <name>RelativeDate</name>
     <message>
         <source>today</source>
-        <translation type="unfinished"></translation>
+        <translation>heute</translation>
     </message>
     <message>
         <source>yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>gestern</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation type="unfinished"></translation>
+        <translation>vor %1 Tagen</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 um %2</translation>
+    </message>
+</context>
+<context>
+    <name>RenameDialog</name>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>SafeItemEditor</name>
     <message>
         <source>Editing “%1” · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ bearbeiten · %2</translation>
     </message>
     <message>
         <source>small</source>
         <extracomment>&quot;small&quot; where a language writes names inside a sentence small, else &quot;as they are&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>as they are</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>More fields: %1</source>
         <extracomment>names of fields</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Felder: %1</translation>
     </message>
     <message>
         <source>More fields: %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Felder: %1 …</translation>
     </message>
 </context>
 <context>
     <name>SafeSwitcher</name>
     <message>
         <source>Switch to another safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einem anderen Tresor wechseln</translation>
     </message>
     <message>
         <source>Safe: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tresor: %1</translation>
     </message>
     <message>
         <source>%1 (not available)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nicht verfügbar)</translation>
     </message>
     <message>
         <source>Create new...</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu anlegen ...</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Sperren</translation>
     </message>
 </context>
 <context>
@@ -1584,605 +2255,745 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     <message>
         <source>favourite</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>favorit</translation>
     </message>
     <message>
         <source>trash</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>papierkorb</translation>
     </message>
     <message>
         <source>weak</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>schwach</translation>
     </message>
     <message>
         <source>expired</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>abgelaufen</translation>
     </message>
     <message>
         <source>expiring</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>läuftab</translation>
     </message>
     <message>
         <source>kind</source>
         <comment>before &quot;:&quot; in a search</comment>
-        <translation type="unfinished"></translation>
+        <translation>art</translation>
     </message>
     <message>
         <source>is</source>
         <comment>before &quot;:&quot; in a search</comment>
-        <translation type="unfinished"></translation>
+        <translation>ist</translation>
     </message>
     <message>
         <source>Finds items with all the words in title, user name, address or note.
 kind:card shows one kind of item.
 is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their state.</source>
         <comment>with the words that are translated as parts of a search</comment>
-        <translation type="unfinished"></translation>
+        <translation>Findet Einträge mit allen Wörtern in Titel, Benutzername, Adresse oder Notiz.
+art:kreditkarte zeigt eine Art von Einträgen.
+ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen Einträge nach ihrem Zustand.</translation>
     </message>
 </context>
 <context>
     <name>SecretInput</name>
     <message>
         <source>Generate password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort erzeugen</translation>
     </message>
     <message>
         <source>Generate password (Ctrl+G)</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort erzeugen (Strg+G)</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>Copy to clipboard (Ctrl+C)</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Zwischenablage kopieren (Strg+C)</translation>
     </message>
 </context>
 <context>
     <name>SecureWindow</name>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen können nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Some changes could not be written; what was there before still is. Check that the folder of the safe can be written to and that there is free space, then try again:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche Änderungen konnten nicht geschrieben werden; das Bisherige ist noch da. Prüfen Sie, ob in den Ordner des Tresors geschrieben werden kann und Platz frei ist, und versuchen Sie es dann erneut:
+%1</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Lose changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen aufgeben</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>SelectionPage</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message numerus="yes">
         <source>%n items selected</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Eintrag ausgewählt</numerusform>
+            <numerusform>%n Einträge ausgewählt</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus den Favoriten nehmen</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu den Favoriten</translation>
     </message>
     <message>
         <source>Delete forever</source>
-        <translation type="unfinished"></translation>
+        <translation>Endgültig löschen</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
     <name>SettingRow</name>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen …</translation>
     </message>
     <message>
         <source>none chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>keiner ausgewählt</translation>
     </message>
     <message>
         <source>%1: choose</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: auswählen</translation>
     </message>
 </context>
 <context>
     <name>SettingsDialog</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Search settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen durchsuchen</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>No setting matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einstellung passt zur Suche.</translation>
     </message>
 </context>
 <context>
     <name>SettingsTable</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheit</translation>
     </message>
     <message>
         <source>Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Browser</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherung</translation>
     </message>
     <message>
         <source>Hotkeys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussehen</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Everything in the program is shown in it, at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles im Programm wird sofort darin angezeigt.</translation>
     </message>
     <message>
         <source>The language was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sprache wurde nicht geändert.</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen</translation>
     </message>
     <message>
         <source>Looks from time to time whether there is a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieht von Zeit zu Zeit nach, ob es eine neuere Version gibt.</translation>
     </message>
     <message>
         <source>new version download</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Version herunterladen Aktualisierung</translation>
     </message>
     <message>
         <source>Time until it locks</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit bis zum Sperren</translation>
     </message>
     <message>
         <source>How long neither keyboard nor mouse are used, in any program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange weder Tastatur noch Maus benutzt werden, in irgendeinem Programm.</translation>
     </message>
     <message>
         <source>auto-lock idle minutes away</source>
-        <translation type="unfinished"></translation>
+        <translation>automatisch sperren untätig Minuten weg</translation>
     </message>
     <message>
         <source> min</source>
         <comment>minutes</comment>
-        <translation type="unfinished"></translation>
+        <translation> min</translation>
     </message>
     <message>
         <source>Lock after inactivity</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Untätigkeit sperren</translation>
     </message>
     <message>
         <source>The safe locks when you leave the computer alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tresor wird gesperrt, wenn Sie den Computer allein lassen.</translation>
     </message>
     <message>
         <source>auto-lock idle away</source>
-        <translation type="unfinished"></translation>
+        <translation>automatisch sperren untätig weg</translation>
     </message>
     <message>
         <source>Lock when the screen saver starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start des Bildschirmschoners sperren</translation>
     </message>
     <message>
         <source>The safe locks together with the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tresor wird zusammen mit dem Bildschirm gesperrt.</translation>
     </message>
     <message>
         <source>auto-lock</source>
-        <translation type="unfinished"></translation>
+        <translation>automatisch sperren</translation>
     </message>
     <message>
         <source>Clear copied values after 60 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopierte Werte nach 60 Sekunden löschen</translation>
     </message>
     <message>
         <source>What you copied from the safe does not stay on the clipboard, where other programs can read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie aus dem Tresor kopiert haben, bleibt nicht in der Zwischenablage, wo andere Programme es lesen können.</translation>
     </message>
     <message>
         <source>clipboard copy password wipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablage kopieren Passwort löschen</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausfüllen</translation>
     </message>
     <message>
         <source>Fill and submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausfüllen und absenden</translation>
     </message>
     <message>
         <source>Log in from the main window</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden aus dem Hauptfenster</translation>
     </message>
     <message>
         <source>Whether the page&apos;s form is only filled or also sent. A login can have its own way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Formular der Seite nur ausgefüllt oder auch abgesendet wird. Ein Login kann es anders halten.</translation>
     </message>
     <message>
         <source>automatic form enter</source>
-        <translation type="unfinished"></translation>
+        <translation>automatisch Formular Eingabe</translation>
     </message>
     <message>
         <source>Log in from the quick-access window</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden aus dem Schnellzugriff</translation>
     </message>
     <message>
         <source>The same for logins that you choose while you are in the browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dasselbe für Logins, die Sie im Browser auswählen.</translation>
     </message>
     <message>
         <source>automatic form enter extension plugin</source>
-        <translation type="unfinished"></translation>
+        <translation>automatisch Formular Eingabe Erweiterung Plugin</translation>
     </message>
     <message>
         <source>Open addresses in</source>
-        <translation type="unfinished"></translation>
+        <translation>Adressen öffnen in</translation>
     </message>
     <message>
         <source>Where the browser shows the page of a login that is not open yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Browser die Seite eines Logins zeigt, die noch nicht offen ist.</translation>
     </message>
     <message>
         <source>tab window extension plugin</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab Fenster Erweiterung Plugin</translation>
     </message>
     <message>
         <source>The current tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktueller Tab</translation>
     </message>
     <message>
         <source>A new tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Tab</translation>
     </message>
     <message>
         <source>A new window</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Fenster</translation>
     </message>
     <message>
         <source>Back up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichern</translation>
     </message>
     <message>
         <source>A safe that has not changed since is not copied again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein seitdem unveränderter Tresor wird nicht erneut kopiert.</translation>
     </message>
     <message>
         <source>interval how often</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand wie oft</translation>
     </message>
     <message>
         <source>Every day</source>
-        <translation type="unfinished"></translation>
+        <translation>Täglich</translation>
     </message>
     <message>
         <source>Every week</source>
-        <translation type="unfinished"></translation>
+        <translation>Wöchentlich</translation>
     </message>
     <message>
         <source>Every month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monatlich</translation>
     </message>
     <message>
         <source>Folder for backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für Sicherungen</translation>
     </message>
     <message>
         <source>Best on another disk. The copies are encrypted like the safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am besten auf einer anderen Festplatte. Die Kopien sind verschlüsselt wie der Tresor.</translation>
     </message>
     <message>
         <source>path directory archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad Verzeichnis Archiv</translation>
     </message>
     <message>
         <source>Copies to keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufbewahrte Kopien</translation>
     </message>
     <message>
         <source>Of each safe; when there are more, the oldest are deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von jedem Tresor; sind es mehr, werden die ältesten gelöscht.</translation>
     </message>
     <message>
         <source>number archives</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl Archive</translation>
     </message>
     <message>
         <source>This folder cannot be written to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesen Ordner kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>Back up automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch sichern</translation>
     </message>
     <message>
         <source>Copies of all safes that open with their master password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopien aller Tresore, die sich mit ihrem Masterpasswort öffnen.</translation>
     </message>
     <message>
         <source>archive copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Archiv Kopie</translation>
     </message>
     <message>
         <source>Lock Safe hotkey:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Locks the safe from any of the program&apos;s windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste zum Sperren:</translation>
     </message>
     <message>
         <source>shortcut key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel Tastenkombination</translation>
     </message>
     <message>
         <source>Browser plugin hotkey:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste für den Schnellzugriff:</translation>
     </message>
     <message>
         <source>Opens the quick-access window for the page in your browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet den Schnellzugriff für die Seite in Ihrem Browser.</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Light or dark, always or as the system has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell oder dunkel, immer oder wie im System.</translation>
     </message>
     <message>
         <source>theme mode night appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Thema Modus Nacht Aussehen</translation>
     </message>
     <message>
         <source>Like the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das System</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>Text size</source>
-        <translation type="unfinished"></translation>
+        <translation>Textgröße</translation>
     </message>
     <message>
         <source>Of all texts, with the controls around them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller Texte, mit den Bedienelementen darum.</translation>
     </message>
     <message>
         <source>font large small zoom scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift groß klein Zoom Maßstab</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The text size was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Textgröße wurde nicht geändert.</translation>
     </message>
     <message>
         <source>No animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Animationen</translation>
     </message>
     <message>
         <source>When it is off, the system&apos;s setting for animations holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist es aus, gilt die Einstellung des Systems.</translation>
     </message>
     <message>
         <source>reduced motion effects</source>
-        <translation type="unfinished"></translation>
+        <translation>weniger Bewegung Effekte</translation>
     </message>
     <message>
         <source>The settings hold until the program ends, but they could not be written to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen gelten bis zum Programmende, konnten aber nicht nach %1 geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Locks the safe from any program; on Wayland, from this program&apos;s windows.</source>
+        <translation>Sperrt den Tresor aus jedem Programm; unter Wayland aus den Fenstern dieses Programms.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupWizard</name>
+    <message>
+        <source>Set up Glaceron Password Manager</source>
+        <translation>Glaceron Password Manager einrichten</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutTable</name>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Into the list and back</source>
+        <translation>In die Liste und zurück</translation>
+    </message>
+    <message>
+        <source>Add an item</source>
+        <translation>Eintrag hinzufügen</translation>
+    </message>
+    <message>
+        <source>Edit the item</source>
+        <translation>Eintrag bearbeiten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Leave the editor, or clear the search</source>
+        <translation>Bearbeitung verlassen oder Suche leeren</translation>
+    </message>
+    <message>
+        <source>Log in</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Log in, from the list or the search</source>
+        <translation>Anmelden, aus der Liste oder der Suche</translation>
+    </message>
+    <message>
+        <source>Copy the user name</source>
+        <translation>Benutzernamen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the password, or the number of a card or document</source>
+        <translation>Passwort kopieren, oder die Nummer einer Karte oder eines Dokuments</translation>
+    </message>
+    <message>
+        <source>Attach the copied file to the item</source>
+        <translation>Kopierte Datei an den Eintrag anhängen</translation>
+    </message>
+    <message>
+        <source>Select all items</source>
+        <translation>Alle Einträge auswählen</translation>
+    </message>
+    <message>
+        <source>Select more items</source>
+        <translation>Weitere Einträge auswählen</translation>
+    </message>
+    <message>
+        <source>Menu of the items</source>
+        <translation>Menü der Einträge</translation>
+    </message>
+    <message>
+        <source>Remove the items</source>
+        <translation>Einträge entfernen</translation>
+    </message>
+    <message>
+        <source>Take the last removal back</source>
+        <translation>Letztes Entfernen zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Lock the safe</source>
+        <translation>Tresor sperren</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>Programm beenden</translation>
+    </message>
+    <message>
+        <source>Show this list</source>
+        <translation>Diese Liste zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsDialog</name>
+    <message>
+        <source> or </source>
+        <comment>between two keys</comment>
+        <translation> oder </translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>SideWindows</name>
     <message>
         <source>No browser with the extension is connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Browser mit der Erweiterung ist verbunden</translation>
     </message>
     <message>
         <source>What it was made for is no longer edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Wofür es erzeugt wurde, wird nicht mehr bearbeitet</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorien</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Sperren</translation>
     </message>
     <message>
         <source>Password generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortgenerator</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfung</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>%1 · unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · entsperrt</translation>
+    </message>
+    <message>
+        <source>Finish setting up</source>
+        <translation>Einrichtung abschließen</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
     </message>
 </context>
 <context>
     <name>SnackBar</name>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
     <name>SortButton</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Web site</source>
-        <translation type="unfinished"></translation>
+        <translation>Website</translation>
     </message>
     <message>
         <source>Most used</source>
-        <translation type="unfinished"></translation>
+        <translation>Meistbenutzt</translation>
     </message>
     <message>
         <source>Last used</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt benutzt</translation>
     </message>
     <message>
         <source>Last changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geändert</translation>
     </message>
     <message>
         <source>Newest</source>
-        <translation type="unfinished"></translation>
+        <translation>Neueste</translation>
     </message>
     <message>
         <source>Sort: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortiert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>Maximise</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximieren</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>Open Main Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauptfenster öffnen</translation>
     </message>
     <message>
         <source>Password Generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwortgenerator</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Sperren</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -2190,42 +3001,43 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>This safe is not available. Check that its folder is there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Tresor ist nicht verfügbar. Prüfen Sie, ob sein Ordner da ist:
+%1</translation>
     </message>
     <message>
         <source>No any safe is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Tresor ist ausgewählt</translation>
     </message>
     <message>
         <source>Wrong Password! Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Falsches Passwort! Versuchen Sie es erneut</translation>
     </message>
     <message>
         <source>The safe could not be read. Check that its folder is there and that you may read it, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tresor konnte nicht gelesen werden. Prüfen Sie, ob sein Ordner da ist und Sie ihn lesen dürfen, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Unlock your safe to go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperren Sie Ihren Tresor</translation>
     </message>
 </context>
 <context>
     <name>WindowMover</name>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Maximise</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximieren</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en_GB">
 <context>
+    <name>AttachmentActions</name>
+    <message numerus="yes">
+        <source>%n attachments are open in other programs.</source>
+        <translation>
+            <numerusform>%n attachment is open in another program.</numerusform>
+            <numerusform>%n attachments are open in other programs.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message numerus="yes">
         <source>%n items could not be read</source>
@@ -55,6 +65,13 @@ They can not be restored.</numerusform>
         <translation>
             <numerusform>Do you want to remove %n item?</numerusform>
             <numerusform>Do you want to remove %n items?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Their %n attachments are deleted as well.</source>
+        <translation>
+            <numerusform>Their %n attachment is deleted as well.</numerusform>
+            <numerusform>Their %n attachments are deleted as well.</numerusform>
         </translation>
     </message>
 </context>

@@ -2,6 +2,229 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en_GB">
 <context>
+    <name>AttachmentActions</name>
+    <message>
+        <source>Maximum attachment file size is %1 megabytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no file, or it can not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder of the safe is full or can not be written to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please choose a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the copy now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its file is missing in the safe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less than 1 KB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · encrypted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t attach.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t read the attachment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of %1 in the safe is missing or damaged. A backup may hold it undamaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t save the attachment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not be written. Check the free space and the permissions there, or choose another place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a program, or can run one. It can be saved and looked at there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t open the attachment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No private copy of %1 could be made. Check the free space, and whether the preview shows it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No program was found that opens %1. It can be saved instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is open in another program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments are open in other programs.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A copy lies readable in a private folder until the safe locks. It can not be written to: changes made there are not taken back into the safe. Save them under another name and attach that file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t remove the copy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program may still hold it open. It is tried again when the safe locks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentInput</name>
+    <message>
+        <source>Picture %1.png</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentPreview</name>
+    <message>
+        <source>There is no preview for this kind of file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is the beginning; save the file to see all of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Letters of one width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open in another program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentRow</name>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open in another program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AttachmentsCard</name>
+    <message>
+        <source>Attach files…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files and pictures can also be dropped here, or pasted with Ctrl+V</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Being encrypted…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please choose a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop to attach</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
@@ -111,7 +334,7 @@
     </message>
 </context>
 <context>
-    <name>CreateSafePage</name>
+    <name>CreateSafeForm</name>
     <message>
         <source>New Safe name</source>
         <translation type="unfinished"></translation>
@@ -128,6 +351,13 @@
         <source>Hint</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Create safe failed!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CreateSafePage</name>
     <message>
         <source>Back</source>
         <translation type="unfinished"></translation>
@@ -152,10 +382,6 @@ Create one?</source>
     <message>
         <source>Create
 another one?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Create safe failed!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -340,6 +566,45 @@ It can not be restored.</source>
     </message>
 </context>
 <context>
+    <name>ExtensionPage</name>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In Chromium, Chrome or Edge open the address %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose “Load unpacked” and the folder of the extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of the extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A browser is connected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No browser is connected yet. It shows here when it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch on “Developer mode”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FieldRow</name>
     <message>
         <source>%1, hidden</source>
@@ -465,6 +730,41 @@ It can not be restored.</source>
     </message>
 </context>
 <context>
+    <name>FirstRun</name>
+    <message>
+        <source>Welcome</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which language do you want to use?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create a safe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It keeps your passwords. Only you know its password, and it cannot be recovered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill forms in your browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The extension fills your logins into the pages they belong to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You are ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program waits in the tray when you close its window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FormFillFlow</name>
     <message>
         <source>Can&apos;t login.</source>
@@ -505,6 +805,21 @@ It can not be restored.</source>
     </message>
     <message>
         <source>%1 is used by another program. Choose another combination in the settings, or end that program and start this one anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t back up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1
+
+Earlier backups are left as they are, in:
+%2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -687,6 +1002,277 @@ They can not be restored.</source>
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Their attachment is deleted as well.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Their %n attachments are deleted as well.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ItemFields</name>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When logging in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card holder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expires</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Security code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bank phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bank web site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account holder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Routing number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IBAN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SWIFT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Birth date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gender</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address line 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Postal code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address line 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mobile phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Business phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skype</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Passport number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Passport type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Birth place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nationality</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Authority</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Licence number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Licence key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill and submit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only fill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use application setting (fill and submit)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use application setting (only fill)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Male</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Female</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1137,6 +1723,21 @@ Fill and try again.</source>
 Correct them and try again.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>New attachment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please choose a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePage</name>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>LineInput</name>
@@ -1278,6 +1879,21 @@ Create one?</source>
     <name>NewItemMenu</name>
     <message>
         <source>New item</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NewSafePage</name>
+    <message>
+        <source>The hint is shown to everyone who opens this window. Let it remind you of the password, and nobody else.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your safe “%1” is open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1523,6 +2139,25 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     </message>
 </context>
 <context>
+    <name>ReadyPage</name>
+    <message>
+        <source>adds an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>searches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>opens the page of a login and fills it in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locks the safe</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RelativeDate</name>
     <message>
         <source>today</source>
@@ -1538,6 +2173,21 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     </message>
     <message>
         <source>%1 in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RenameDialog</name>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1978,10 +2628,6 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Locks the safe from any of the program&apos;s windows.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>shortcut key combination</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2053,6 +2699,132 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <source>The settings hold until the program ends, but they could not be written to %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Locks the safe from any program; on Wayland, from this program&apos;s windows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SetupWizard</name>
+    <message>
+        <source>Set up Glaceron Password Manager</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutTable</name>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Into the list and back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add an item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit the item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave the editor, or clear the search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log in, from the list or the search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the user name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the password, or the number of a card or document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach the copied file to the item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select all items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select more items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu of the items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the last removal back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock the safe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this list</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsDialog</name>
+    <message>
+        <source> or </source>
+        <comment>between two keys</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SideWindows</name>
@@ -2107,6 +2879,14 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <source>%1 · unlocked</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Finish setting up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SnackBar</name>
@@ -2147,6 +2927,13 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     </message>
     <message>
         <source>Sort: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>StepDots</name>
+    <message>
+        <source>Step %1 of %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -31,9 +31,9 @@ ExtensionPage::ExtensionPage(Parts parts, QWidget *parent)
     rows->setSpacing(Style::gap);
     rows->addWidget(
         makeStep(1, tr("In Chromium, Chrome or Edge open the address %1").arg(address), copy));
-    rows->addWidget(makeStep(2, tr("Switch on \u201cDeveloper mode\u201d"), nullptr));
+    rows->addWidget(makeStep(2, tr("Switch on “Developer mode”"), nullptr));
     rows->addWidget(
-        makeStep(3, tr("Choose \u201cLoad unpacked\u201d and the folder of the extension"), open));
+        makeStep(3, tr("Choose “Load unpacked” and the folder of the extension"), open));
     auto *path = makeLabel(QDir::toNativeSeparators(m_parts.folder), "muted", this);
     path->setWordWrap(true);
     path->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

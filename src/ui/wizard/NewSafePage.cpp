@@ -43,7 +43,7 @@ void NewSafePage::showState()
     m_hintAdvice->setVisible(!made);
     m_made->setVisible(made);
     if (made)
-        m_made->setText(tr("Your safe \u201c%1\u201d is open.").arg(m_core.currentSafe()->name()));
+        m_made->setText(tr("Your safe “%1” is open.").arg(m_core.currentSafe()->name()));
     Q_EMIT changed();
 }
 
