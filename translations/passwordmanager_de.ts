@@ -2018,6 +2018,25 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     </message>
 </context>
 <context>
+    <name>PasswordStrength</name>
+    <message>
+        <source>Strong</source>
+        <translation>Stark</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message>
+        <source>Weak</source>
+        <translation>Schwach</translation>
+    </message>
+    <message>
+        <source>Terrible</source>
+        <translation>Sehr schwach</translation>
+    </message>
+</context>
+<context>
     <name>PasswordWeakness</name>
     <message>
         <source>a name</source>
@@ -2054,6 +2073,19 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     <message>
         <source>a few characters</source>
         <translation>wenige Zeichen</translation>
+    </message>
+    <message>
+        <source>too few characters</source>
+        <translation>zu wenige Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between parts</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -2018,6 +2018,25 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     </message>
 </context>
 <context>
+    <name>PasswordStrength</name>
+    <message>
+        <source>Strong</source>
+        <translation>Excelente</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Buena</translation>
+    </message>
+    <message>
+        <source>Weak</source>
+        <translation>Débil</translation>
+    </message>
+    <message>
+        <source>Terrible</source>
+        <translation>Muy débil</translation>
+    </message>
+</context>
+<context>
     <name>PasswordWeakness</name>
     <message>
         <source>a name</source>
@@ -2054,6 +2073,19 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     <message>
         <source>a few characters</source>
         <translation>unos pocos caracteres</translation>
+    </message>
+    <message>
+        <source>too few characters</source>
+        <translation>muy pocos caracteres</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between parts</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

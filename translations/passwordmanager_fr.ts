@@ -2018,6 +2018,25 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     </message>
 </context>
 <context>
+    <name>PasswordStrength</name>
+    <message>
+        <source>Strong</source>
+        <translation>Excellent</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Bon</translation>
+    </message>
+    <message>
+        <source>Weak</source>
+        <translation>Faible</translation>
+    </message>
+    <message>
+        <source>Terrible</source>
+        <translation>Très faible</translation>
+    </message>
+</context>
+<context>
     <name>PasswordWeakness</name>
     <message>
         <source>a name</source>
@@ -2054,6 +2073,19 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     <message>
         <source>a few characters</source>
         <translation>quelques caractères</translation>
+    </message>
+    <message>
+        <source>too few characters</source>
+        <translation>trop peu de caractères</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between parts</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

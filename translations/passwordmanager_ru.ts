@@ -5,316 +5,317 @@
     <name>AttachmentActions</name>
     <message>
         <source>Maximum attachment file size is %1 megabytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложение может занимать не более %1 МБ</translation>
     </message>
     <message>
         <source>This is no file, or it can not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Это не файл, или его нельзя прочитать</translation>
     </message>
     <message>
         <source>The folder of the safe is full or can not be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка сейфа заполнена или недоступна для записи</translation>
     </message>
     <message>
         <source>Please choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите файл</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как</translation>
     </message>
     <message>
         <source>Remove the copy now</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить копию сейчас</translation>
     </message>
     <message>
         <source>Its file is missing in the safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл вложения отсутствует в сейфе</translation>
     </message>
     <message>
         <source>less than 1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>меньше 1 КБ</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 МБ</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 КБ</translation>
     </message>
     <message>
         <source>%1 · encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · зашифровано</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Can&apos;t attach.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось вложить.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>Can&apos;t read the attachment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать вложение.</translation>
     </message>
     <message>
         <source>The file of %1 in the safe is missing or damaged. A backup may hold it undamaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл «%1» в сейфе отсутствует или повреждён. Возможно, он уцелел в резервной копии.</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранено: %1</translation>
     </message>
     <message>
         <source>Can&apos;t save the attachment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить вложение.</translation>
     </message>
     <message>
         <source>%1 could not be written. Check the free space and the permissions there, or choose another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось записать %1. Проверьте свободное место и права доступа или выберите другое место.</translation>
     </message>
     <message>
         <source>Not opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Не открыто</translation>
     </message>
     <message>
         <source>%1 is a program, or can run one. It can be saved and looked at there.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — программа или файл, запускающий программы. Его можно сохранить и посмотреть отдельно.</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Can&apos;t open the attachment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть вложение.</translation>
     </message>
     <message>
         <source>No private copy of %1 could be made. Check the free space, and whether the preview shows it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось создать закрытую копию «%1». Проверьте свободное место или воспользуйтесь просмотром.</translation>
     </message>
     <message>
         <source>No program was found that opens %1. It can be saved instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не найдена программа, открывающая «%1». Файл можно сохранить.</translation>
     </message>
     <message>
         <source>“%1” is open in another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл «%1» открыт в другой программе.</translation>
     </message>
     <message numerus="yes">
         <source>%n attachments are open in other programs.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n вложение открыто в другой программе.</numerusform>
+            <numerusform>%n вложения открыты в других программах.</numerusform>
+            <numerusform>%n вложений открыто в других программах.</numerusform>
         </translation>
     </message>
     <message>
         <source>A copy lies readable in a private folder until the safe locks. It can not be written to: changes made there are not taken back into the safe. Save them under another name and attach that file.</source>
-        <translation type="unfinished"></translation>
+        <translation>До блокировки сейфа в закрытой папке лежит читаемая копия. Она доступна только для чтения: изменения в ней не попадут в сейф. Сохраните их под другим именем и вложите полученный файл.</translation>
     </message>
     <message>
         <source>Can&apos;t remove the copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось удалить копию.</translation>
     </message>
     <message>
         <source>Another program may still hold it open. It is tried again when the safe locks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Возможно, она ещё открыта в другой программе. При блокировке сейфа попытка повторится.</translation>
     </message>
 </context>
 <context>
     <name>AttachmentInput</name>
     <message>
         <source>Picture %1.png</source>
-        <translation type="unfinished"></translation>
+        <translation>Рисунок %1.png</translation>
     </message>
 </context>
 <context>
     <name>AttachmentPreview</name>
     <message>
         <source>There is no preview for this kind of file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр файлов этого вида невозможен.</translation>
     </message>
     <message>
         <source>This is the beginning; save the file to see all of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Это только начало; чтобы увидеть всё, сохраните файл.</translation>
     </message>
     <message>
         <source>Letters of one width</source>
-        <translation type="unfinished"></translation>
+        <translation>Моноширинный шрифт</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 пикс.</translation>
     </message>
     <message>
         <source>Open in another program</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть в другой программе</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как…</translation>
     </message>
 </context>
 <context>
     <name>AttachmentRow</name>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как…</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать</translation>
     </message>
     <message>
         <source>Open in another program</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть в другой программе</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Переименовать…</translation>
     </message>
 </context>
 <context>
     <name>AttachmentsCard</name>
     <message>
         <source>Attach files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложить файлы…</translation>
     </message>
     <message>
         <source>Files and pictures can also be dropped here, or pasted with Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы и рисунки можно также перетащить сюда или вставить клавишами Ctrl+V</translation>
     </message>
     <message>
         <source>Being encrypted…</source>
-        <translation type="unfinished"></translation>
+        <translation>Шифруется…</translation>
     </message>
     <message>
         <source>Please choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите файл</translation>
     </message>
     <message>
         <source>Drop to attach</source>
-        <translation type="unfinished"></translation>
+        <translation>Отпустите, чтобы вложить</translation>
     </message>
 </context>
 <context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрыть</translation>
     </message>
     <message>
         <source>1 item could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать 1 запись</translation>
     </message>
     <message numerus="yes">
         <source>%n items could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Не удалось прочитать %n запись</numerusform>
+            <numerusform>Не удалось прочитать %n записи</numerusform>
+            <numerusform>Не удалось прочитать %n записей</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more in the same folder</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>и ещё %n в той же папке</numerusform>
+            <numerusform>и ещё %n в той же папке</numerusform>
+            <numerusform>и ещё %n в той же папке</numerusform>
         </translation>
     </message>
     <message>
         <source>Their files were left as they are. A backup may hold them undamaged:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Их файлы оставлены без изменений. Возможно, они уцелели в резервной копии:
+%1</translation>
     </message>
 </context>
 <context>
     <name>BusSessionWatch</name>
     <message>
         <source>Locking the safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Блокировка сейфа</translation>
     </message>
 </context>
 <context>
     <name>CapsIndicator</name>
     <message>
         <source>CAPS ON</source>
-        <translation type="unfinished"></translation>
+        <translation>CAPS ВКЛ</translation>
     </message>
     <message>
         <source>CAPS OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>CAPS ВЫКЛ</translation>
     </message>
 </context>
 <context>
     <name>CardFace</name>
     <message>
         <source>Click to copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Нажмите, чтобы скопировать</translation>
     </message>
 </context>
 <context>
     <name>CategoryListView</name>
     <message>
         <source>Restore all</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить все</translation>
     </message>
     <message>
         <source>Empty trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить корзину</translation>
     </message>
 </context>
 <context>
     <name>CategoryModel</name>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>ChoiceInput</name>
     <message>
         <source>Not specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Не указано</translation>
     </message>
 </context>
 <context>
     <name>CopyNotice</name>
     <message>
         <source>Value copied to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Значение скопировано</translation>
     </message>
     <message>
         <source>clears in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>очистка через %1 с</translation>
     </message>
 </context>
 <context>
@@ -322,215 +323,219 @@
     <message>
         <source>%1  +%2</source>
         <extracomment>a country and its dialling code</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  +%2</translation>
     </message>
     <message>
         <source>Show all countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать все страны</translation>
     </message>
     <message>
         <source>Show all countries (Alt+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать все страны (Alt+Вниз)</translation>
     </message>
 </context>
 <context>
     <name>CreateSafeForm</name>
     <message>
         <source>New Safe name</source>
-        <translation type="unfinished"></translation>
+        <translation>Название нового сейфа</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Повтор пароля</translation>
     </message>
     <message>
         <source>Hint</source>
-        <translation type="unfinished"></translation>
+        <translation>Подсказка</translation>
     </message>
     <message>
         <source>Create safe failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось создать сейф!</translation>
     </message>
 </context>
 <context>
     <name>CreateSafePage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Назад</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать</translation>
     </message>
     <message>
         <source>Create a safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый сейф</translation>
     </message>
     <message>
         <source>Only you know its password. It cannot be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль знаете только Вы. Восстановить его невозможно.</translation>
     </message>
     <message>
         <source>You have not Safe yet
 Create one?</source>
-        <translation type="unfinished"></translation>
+        <translation>У Вас ещё нет сейфа.
+Создать?</translation>
     </message>
     <message>
         <source>Create
 another one?</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать
+ещё один?</translation>
     </message>
 </context>
 <context>
     <name>CreateSafeRules</name>
     <message>
         <source>Safe name can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Укажите название сейфа</translation>
     </message>
     <message>
         <source>Password can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите пароль</translation>
     </message>
     <message>
         <source>Confirm password can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторите пароль</translation>
     </message>
     <message>
         <source>Password does not match</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароли не совпадают</translation>
     </message>
     <message>
         <source>Hint can not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите подсказку</translation>
     </message>
 </context>
 <context>
     <name>DatePopup</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Календарь</translation>
     </message>
 </context>
 <context>
     <name>DraftKeeper</name>
     <message>
         <source>Can&apos;t keep the edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить черновик.</translation>
     </message>
     <message>
         <source>What you were typing could not be kept, as its file could not be written. Check the free space and the permissions of the program&apos;s data folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Введённое не удалось сохранить как черновик, так как его файл не записывается. Проверьте свободное место и права доступа к папке данных программы.</translation>
     </message>
 </context>
 <context>
     <name>DraftOffer</name>
     <message>
         <source>an item without a title</source>
-        <translation type="unfinished"></translation>
+        <translation>запись без названия</translation>
     </message>
     <message>
         <source>“%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»</translation>
     </message>
     <message>
         <source>Continue editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжить правку</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Отбросить</translation>
     </message>
     <message>
         <source>You were adding %1 when the safe locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вы добавляли %1, когда сейф был заблокирован.</translation>
     </message>
     <message>
         <source>You were editing %1 when the safe locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вы изменяли %1, когда сейф был заблокирован.</translation>
     </message>
     <message>
         <source>What you had typed was kept, encrypted, and is not saved yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Черновик сохранён в зашифрованном виде, но в запись ещё не внесён.</translation>
     </message>
     <message>
         <source>The item was deleted meanwhile. What you had typed can become a new item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Тем временем запись была удалена. Из черновика можно сделать новую запись.</translation>
     </message>
     <message>
         <source>The item is in the trash now. What you had typed was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Теперь запись в корзине. Черновик сохранён.</translation>
     </message>
     <message>
         <source>The item was changed meanwhile. What you had typed was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Тем временем запись была изменена. Черновик сохранён.</translation>
     </message>
     <message>
         <source>Delete the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить файл</translation>
     </message>
     <message>
         <source>An edit that was kept could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать черновик.</translation>
     </message>
     <message>
         <source>Its file is damaged or belongs to another password, and was left as it is:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Его файл повреждён или относится к другому паролю и оставлен без изменений:
+%1</translation>
     </message>
     <message>
         <source>%1 is in the trash. What would you like to do with what you had typed?</source>
-        <translation type="unfinished"></translation>
+        <translation>В корзине: %1. Что сделать с черновиком?</translation>
     </message>
     <message>
         <source>%1 was changed after you had begun. What would you like to do with what you had typed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменено после начала правки: %1. Что сделать с черновиком?</translation>
     </message>
     <message>
         <source>Continue as a new item</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжить как новую запись</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Replace the change</source>
-        <translation type="unfinished"></translation>
+        <translation>Заменить изменение</translation>
     </message>
     <message>
         <source>Confirmation</source>
-        <translation type="unfinished"></translation>
+        <translation>Подтверждение</translation>
     </message>
     <message>
         <source>Do you want to discard what you had typed about %1?
 It can not be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отбросить черновик (%1)?
+Восстановить его будет нельзя.</translation>
     </message>
 </context>
 <context>
     <name>ExpiryText</name>
     <message>
         <source>Expired</source>
-        <translation type="unfinished"></translation>
+        <translation>Истекло</translation>
     </message>
     <message>
         <source>Expires today</source>
-        <translation type="unfinished"></translation>
+        <translation>Истекает сегодня</translation>
     </message>
     <message>
         <source>Expires in 1 day</source>
-        <translation type="unfinished"></translation>
+        <translation>Истекает через 1 день</translation>
     </message>
     <message numerus="yes">
         <source>Expires in %n days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Истекает через %n день</numerusform>
+            <numerusform>Истекает через %n дня</numerusform>
+            <numerusform>Истекает через %n дней</numerusform>
         </translation>
     </message>
 </context>
@@ -538,481 +543,491 @@ It can not be restored.</source>
     <name>Export</name>
     <message>
         <source>The folder of the safe is not there. If it is on a drive that can be taken out, connect it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка сейфа недоступна. Если она на съёмном носителе, подключите его и повторите попытку.</translation>
     </message>
     <message>
         <source>There is no safe in the folder any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>В этой папке больше нет сейфа.</translation>
     </message>
     <message>
         <source>The password of the safe is being changed, or it is being archived already. Try again when that is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль сейфа сейчас меняется, или сейф уже архивируется. Повторите попытку позже.</translation>
     </message>
     <message>
         <source>Some of the safe&apos;s files can&apos;t be read. Check that its folder is there and that you may read and write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Некоторые файлы сейфа не читаются. Проверьте, что его папка на месте и доступна для чтения и записи.</translation>
     </message>
     <message>
         <source>The archive can&apos;t be written. Check the free space and that you may write to its folder, or choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся записать архив. Проверьте свободное место и право записи в его папку или выберите другую.</translation>
     </message>
     <message>
         <source>The safe holds more than the 4 GiB that fit into an archive. Copy its folder instead, or take out large attachments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф больше 4 ГиБ, которые вмещает архив. Скопируйте его папку или уберите большие вложения.</translation>
     </message>
     <message>
         <source>The archive could not be read back after it was written, and was removed. Choose a folder on another drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Записанный архив не удалось прочитать, и он удалён. Выберите папку на другом диске.</translation>
     </message>
 </context>
 <context>
     <name>ExtensionPage</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать</translation>
     </message>
     <message>
         <source>Copy the address</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать адрес</translation>
     </message>
     <message>
         <source>Show folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать папку</translation>
     </message>
     <message>
         <source>In Chromium, Chrome or Edge open the address %1</source>
-        <translation type="unfinished"></translation>
+        <translation>В браузере Chromium, Chrome или Edge откройте адрес %1</translation>
     </message>
     <message>
         <source>Choose “Load unpacked” and the folder of the extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите «Загрузить распакованное расширение» и папку расширения</translation>
     </message>
     <message>
         <source>Folder of the extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка расширения</translation>
     </message>
     <message>
         <source>A browser is connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Браузер подключён.</translation>
     </message>
     <message>
         <source>No browser is connected yet. It shows here when it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Браузер ещё не подключён. Подключение будет показано здесь.</translation>
     </message>
     <message>
         <source>Switch on “Developer mode”</source>
-        <translation type="unfinished"></translation>
+        <translation>Включите «Режим разработчика»</translation>
     </message>
 </context>
 <context>
     <name>FieldRow</name>
     <message>
         <source>%1, hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, скрыто</translation>
     </message>
     <message>
         <source>View text under dots</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать скрытый текст</translation>
     </message>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть в браузере</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать в буфер обмена</translation>
     </message>
     <message>
         <source>Copy to clipboard: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать в буфер обмена: %1</translation>
     </message>
     <message>
         <source>Click to copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Нажмите, чтобы скопировать</translation>
     </message>
     <message>
         <source>Generate password</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать пароль</translation>
     </message>
     <message>
         <source>Change: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить: %1</translation>
     </message>
 </context>
 <context>
     <name>FieldRules</name>
     <message>
         <source>Required field is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполните обязательное поле</translation>
     </message>
     <message>
         <source>Url is invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный адрес</translation>
     </message>
     <message>
         <source>Please use 4-digit value</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите 4 цифры</translation>
     </message>
     <message>
         <source>Please use 3-digit value</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите 3 цифры</translation>
     </message>
     <message>
         <source>Correct value is up to 26 characters in range A-Z including spaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Допустимы до 26 знаков: латинские буквы и пробелы</translation>
     </message>
     <message>
         <source>Incorrect card number</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный номер карты</translation>
     </message>
     <message>
         <source>“%1” is not a complete address</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — неполный адрес</translation>
     </message>
     <message>
         <source>“%1” is not a country code</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — не код страны</translation>
     </message>
     <message>
         <source>“%1” is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — не число</translation>
     </message>
     <message>
         <source>“%1” is not a date</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» — не дата</translation>
     </message>
 </context>
 <context>
     <name>FindingRow</name>
     <message>
         <source>The same password as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Тот же пароль, что у «%1»</translation>
     </message>
     <message numerus="yes">
         <source>The same password as %1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Тот же пароль, что у «%1» и ещё %n записи</numerusform>
+            <numerusform>Тот же пароль, что у «%1» и ещё %n записей</numerusform>
+            <numerusform>Тот же пароль, что у «%1» и ещё %n записей</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Nothing changed since %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Без изменений с %1</translation>
     </message>
     <message>
         <source>The address begins with http: others can read along</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес начинается с http: данные могут прочесть другие</translation>
     </message>
     <message>
         <source>Stop ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Учитывать</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Пропустить</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Change it…</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить…</translation>
     </message>
     <message>
         <source>Open the site&apos;s page for a new password</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть страницу смены пароля на сайте</translation>
     </message>
 </context>
 <context>
     <name>FirstRun</name>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Добро пожаловать</translation>
     </message>
     <message>
         <source>Which language do you want to use?</source>
-        <translation type="unfinished"></translation>
+        <translation>На каком языке показывать программу?</translation>
     </message>
     <message>
         <source>Create a safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый сейф</translation>
     </message>
     <message>
         <source>It keeps your passwords. Only you know its password, and it cannot be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>В нём хранятся пароли. Его пароль знаете только Вы, и восстановить его невозможно.</translation>
     </message>
     <message>
         <source>Fill forms in your browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполнение форм в браузере</translation>
     </message>
     <message>
         <source>The extension fills your logins into the pages they belong to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Расширение вводит логины на тех страницах, к которым они относятся.</translation>
     </message>
     <message>
         <source>You are ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё готово</translation>
     </message>
     <message>
         <source>The program waits in the tray when you close its window.</source>
-        <translation type="unfinished"></translation>
+        <translation>После закрытия окна программа остаётся в области уведомлений.</translation>
     </message>
 </context>
 <context>
     <name>FormFillFlow</name>
     <message>
         <source>Can&apos;t login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось войти.</translation>
     </message>
     <message>
         <source>Item %1 has wrong url: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>У записи «%1» неверный адрес: %2</translation>
     </message>
 </context>
 <context>
     <name>GPMAppCore</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Внимание</translation>
     </message>
     <message>
         <source>Can&apos;t delete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось удалить.</translation>
     </message>
     <message>
         <source>The items are still there. Check that the folder of the safe can be written to:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Записи остались на месте. Проверьте, что папка сейфа доступна для записи:
+%1</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить изменения.</translation>
     </message>
     <message>
         <source>These files could not be written; what they held before is still there. Check the free space and the permissions, then save again:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Эти файлы не удалось записать; их прежнее содержимое цело. Проверьте свободное место и права доступа и сохраните ещё раз:
+%1</translation>
     </message>
     <message>
         <source>Can&apos;t use the hotkey.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сочетание клавиш недоступно.</translation>
     </message>
     <message>
         <source>%1 is used by another program. Choose another combination in the settings, or end that program and start this one anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 используется другой программой. Выберите другое сочетание в настройках или закройте ту программу и перезапустите эту.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Can&apos;t back up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось создать резервную копию.</translation>
     </message>
     <message>
         <source>%1
 
 Earlier backups are left as they are, in:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+Прежние копии оставлены без изменений в папке:
+%2</translation>
     </message>
 </context>
 <context>
     <name>HealthDialog</name>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка</translation>
     </message>
     <message>
         <source>Findings</source>
-        <translation type="unfinished"></translation>
+        <translation>Результаты</translation>
     </message>
     <message>
         <source>Weak</source>
-        <translation type="unfinished"></translation>
+        <translation>Слабые</translation>
     </message>
     <message>
         <source>Reused</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторные</translation>
     </message>
     <message>
         <source>Older than 2 years</source>
-        <translation type="unfinished"></translation>
+        <translation>Старше 2 лет</translation>
     </message>
     <message>
         <source>Not on https</source>
-        <translation type="unfinished"></translation>
+        <translation>Без https</translation>
     </message>
     <message>
         <source>Expiring</source>
-        <translation type="unfinished"></translation>
+        <translation>Истекают</translation>
     </message>
     <message>
         <source>Looking at the items…</source>
-        <translation type="unfinished"></translation>
+        <translation>Записи проверяются…</translation>
     </message>
     <message>
         <source>Show more (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать ещё (%1)</translation>
     </message>
     <message>
         <source>Back to what is not ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>Назад к учитываемым</translation>
     </message>
     <message>
         <source>Ignored (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Пропущенные (%1)</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Ничего не найдено</translation>
     </message>
     <message>
         <source>Not all items have been looked at yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверены ещё не все записи.</translation>
     </message>
 </context>
 <context>
     <name>HealthTile</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>HotkeyLineEdit</name>
     <message>
         <source>Press keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Нажмите клавиши</translation>
     </message>
     <message>
         <source>Press a combination of keys; Backspace clears it</source>
-        <translation type="unfinished"></translation>
+        <translation>Нажмите сочетание клавиш; Backspace удаляет его</translation>
     </message>
 </context>
 <context>
     <name>HotkeyRules</name>
     <message>
         <source>Use it together with Ctrl, Alt or Meta</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавьте Ctrl, Alt или Meta</translation>
     </message>
     <message>
         <source>%1 is taken by: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 уже занято: %2</translation>
     </message>
 </context>
 <context>
     <name>Import</name>
     <message>
         <source>The file is not there or can&apos;t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл отсутствует или не читается.</translation>
     </message>
     <message>
         <source>Another safe is being imported. Try again when that is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейчас импортируется другой сейф. Повторите попытку позже.</translation>
     </message>
     <message>
         <source>The safe can&apos;t be written. Check the free space and that you may write to the folder of your safes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся записать сейф. Проверьте свободное место и право записи в папку сейфов.</translation>
     </message>
     <message>
         <source>The file would unpack to more than 4 GiB, or to a hundred times its size. No safe does that, so it was not imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>После распаковки файл занял бы больше 4 ГиБ или в сто раз больше своего размера. С сейфами так не бывает, поэтому он не импортирован.</translation>
     </message>
     <message>
         <source>This file is not an archive. Choose a file that was exported or backed up from a safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Этот файл не архив. Выберите файл, полученный при экспорте или резервном копировании сейфа.</translation>
     </message>
     <message>
         <source>The file is damaged or was cut short. Copy it again from where it came from, or choose another backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл повреждён или обрезан. Скопируйте его заново из источника или выберите другую резервную копию.</translation>
     </message>
     <message>
         <source>The archive has a password of its own or is packed in a way that can&apos;t be read. Pack it again as a plain ZIP file.</source>
-        <translation type="unfinished"></translation>
+        <translation>У архива есть собственный пароль, или он упакован нечитаемым способом. Упакуйте его заново как обычный файл ZIP.</translation>
     </message>
     <message>
         <source>The archive holds a file that would be written outside the safe. Somebody may have tampered with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>В архиве есть файл, который был бы записан вне сейфа. Возможно, архив подделан.</translation>
     </message>
     <message>
         <source>The archive holds two files of the same name. Somebody may have tampered with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>В архиве два файла с одним именем. Возможно, архив подделан.</translation>
     </message>
     <message>
         <source>There is no safe in this archive. Choose a file that was exported or backed up from a safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>В этом архиве нет сейфа. Выберите файл, полученный при экспорте или резервном копировании сейфа.</translation>
     </message>
 </context>
 <context>
     <name>ItemActions</name>
     <message>
         <source>Confirmation</source>
-        <translation type="unfinished"></translation>
+        <translation>Подтверждение</translation>
     </message>
     <message>
         <source>Do you want to delete the item forever?
 It can not be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить запись навсегда?
+Восстановить её будет нельзя.</translation>
     </message>
     <message>
         <source>Delete forever</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить навсегда</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Do you want to remove item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить запись?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Do you want to delete all items in the trash forever?
 They can not be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить все записи из корзины навсегда?
+Восстановить их будет нельзя.</translation>
     </message>
     <message>
         <source>%1 (copy)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (копия)</translation>
     </message>
     <message numerus="yes">
         <source>Do you want to delete %n items forever?
 They can not be restored.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Удалить %n запись навсегда?
+Восстановить будет нельзя.</numerusform>
+            <numerusform>Удалить %n записи навсегда?
+Восстановить их будет нельзя.</numerusform>
+            <numerusform>Удалить %n записей навсегда?
+Восстановить их будет нельзя.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Do you want to remove %n items?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Удалить %n запись?</numerusform>
+            <numerusform>Удалить %n записи?</numerusform>
+            <numerusform>Удалить %n записей?</numerusform>
         </translation>
     </message>
     <message>
         <source>Their attachment is deleted as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложение также будет удалено.</translation>
     </message>
     <message numerus="yes">
         <source>Their %n attachments are deleted as well.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Также будет удалено %n вложение.</numerusform>
+            <numerusform>Также будут удалены %n вложения.</numerusform>
+            <numerusform>Также будет удалено %n вложений.</numerusform>
         </translation>
     </message>
 </context>
@@ -1020,760 +1035,762 @@ They can not be restored.</source>
     <name>ItemFields</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Название</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Заметка</translation>
     </message>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя пользователя</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>Web site</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайт</translation>
     </message>
     <message>
         <source>When logging in</source>
-        <translation type="unfinished"></translation>
+        <translation>При входе</translation>
     </message>
     <message>
         <source>Card number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер карты</translation>
     </message>
     <message>
         <source>Card type</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип карты</translation>
     </message>
     <message>
         <source>Card holder</source>
-        <translation type="unfinished"></translation>
+        <translation>Держатель карты</translation>
     </message>
     <message>
         <source>Expires</source>
-        <translation type="unfinished"></translation>
+        <translation>Срок действия</translation>
     </message>
     <message>
         <source>Security code</source>
-        <translation type="unfinished"></translation>
+        <translation>Код безопасности</translation>
     </message>
     <message>
         <source>Bank</source>
-        <translation type="unfinished"></translation>
+        <translation>Банк</translation>
     </message>
     <message>
         <source>Bank phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Телефон банка</translation>
     </message>
     <message>
         <source>Bank web site</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайт банка</translation>
     </message>
     <message>
         <source>Account type</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип счёта</translation>
     </message>
     <message>
         <source>Account holder</source>
-        <translation type="unfinished"></translation>
+        <translation>Владелец счёта</translation>
     </message>
     <message>
         <source>Account number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер счёта</translation>
     </message>
     <message>
         <source>Routing number</source>
-        <translation type="unfinished"></translation>
+        <translation>Код банка</translation>
     </message>
     <message>
         <source>IBAN</source>
-        <translation type="unfinished"></translation>
+        <translation>IBAN</translation>
     </message>
     <message>
         <source>SWIFT</source>
-        <translation type="unfinished"></translation>
+        <translation>SWIFT</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Телефон</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес</translation>
     </message>
     <message>
         <source>First name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя</translation>
     </message>
     <message>
         <source>Last name</source>
-        <translation type="unfinished"></translation>
+        <translation>Фамилия</translation>
     </message>
     <message>
         <source>Birth date</source>
-        <translation type="unfinished"></translation>
+        <translation>Дата рождения</translation>
     </message>
     <message>
         <source>Gender</source>
-        <translation type="unfinished"></translation>
+        <translation>Пол</translation>
     </message>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Эл. почта</translation>
     </message>
     <message>
         <source>Address line 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес, строка 1</translation>
     </message>
     <message>
         <source>City</source>
-        <translation type="unfinished"></translation>
+        <translation>Город</translation>
     </message>
     <message>
         <source>Postal code</source>
-        <translation type="unfinished"></translation>
+        <translation>Индекс</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>Страна</translation>
     </message>
     <message>
         <source>Company</source>
-        <translation type="unfinished"></translation>
+        <translation>Компания</translation>
     </message>
     <message>
         <source>Job title</source>
-        <translation type="unfinished"></translation>
+        <translation>Должность</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайт</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Регион</translation>
     </message>
     <message>
         <source>Address line 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес, строка 2</translation>
     </message>
     <message>
         <source>Mobile phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Мобильный телефон</translation>
     </message>
     <message>
         <source>Business phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Рабочий телефон</translation>
     </message>
     <message>
         <source>Skype</source>
-        <translation type="unfinished"></translation>
+        <translation>Skype</translation>
     </message>
     <message>
         <source>Passport number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер паспорта</translation>
     </message>
     <message>
         <source>Passport type</source>
-        <translation type="unfinished"></translation>
+        <translation>Тип паспорта</translation>
     </message>
     <message>
         <source>Full name</source>
-        <translation type="unfinished"></translation>
+        <translation>Полное имя</translation>
     </message>
     <message>
         <source>Birth place</source>
-        <translation type="unfinished"></translation>
+        <translation>Место рождения</translation>
     </message>
     <message>
         <source>Nationality</source>
-        <translation type="unfinished"></translation>
+        <translation>Гражданство</translation>
     </message>
     <message>
         <source>Authority</source>
-        <translation type="unfinished"></translation>
+        <translation>Орган выдачи</translation>
     </message>
     <message>
         <source>Issued</source>
-        <translation type="unfinished"></translation>
+        <translation>Дата выдачи</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер</translation>
     </message>
     <message>
         <source>Licence number</source>
-        <translation type="unfinished"></translation>
+        <translation>Номер прав</translation>
     </message>
     <message>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Категория</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Рост</translation>
     </message>
     <message>
         <source>Conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>Особые отметки</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Сервер</translation>
     </message>
     <message>
         <source>Licence key</source>
-        <translation type="unfinished"></translation>
+        <translation>Ключ лицензии</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия</translation>
     </message>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя файла</translation>
     </message>
     <message>
         <source>Fill and submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполнить и войти</translation>
     </message>
     <message>
         <source>Only fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Только заполнить</translation>
     </message>
     <message>
         <source>Use application setting (fill and submit)</source>
-        <translation type="unfinished"></translation>
+        <translation>Как в настройках (заполнить и войти)</translation>
     </message>
     <message>
         <source>Use application setting (only fill)</source>
-        <translation type="unfinished"></translation>
+        <translation>Как в настройках (только заполнить)</translation>
     </message>
     <message>
         <source>Male</source>
-        <translation type="unfinished"></translation>
+        <translation>Мужской</translation>
     </message>
     <message>
         <source>Female</source>
-        <translation type="unfinished"></translation>
+        <translation>Женский</translation>
     </message>
 </context>
 <context>
     <name>ItemKinds</name>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Логин</translation>
     </message>
     <message>
         <source>Logins</source>
-        <translation type="unfinished"></translation>
+        <translation>Логины</translation>
     </message>
     <message>
         <source>Credit card</source>
-        <translation type="unfinished"></translation>
+        <translation>Банковская карта</translation>
     </message>
     <message>
         <source>Credit cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Карты</translation>
     </message>
     <message>
         <source>Bank account</source>
-        <translation type="unfinished"></translation>
+        <translation>Банковский счёт</translation>
     </message>
     <message>
         <source>Bank accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Счета</translation>
     </message>
     <message>
         <source>Identity</source>
-        <translation type="unfinished"></translation>
+        <translation>Личные данные</translation>
     </message>
     <message>
         <source>Identities</source>
-        <translation type="unfinished"></translation>
+        <translation>Личные данные</translation>
     </message>
     <message>
         <source>Passport</source>
-        <translation type="unfinished"></translation>
+        <translation>Паспорт</translation>
     </message>
     <message>
         <source>Passports</source>
-        <translation type="unfinished"></translation>
+        <translation>Паспорта</translation>
     </message>
     <message>
         <source>Social security</source>
-        <translation type="unfinished"></translation>
+        <translation>Соцстрахование</translation>
     </message>
     <message>
         <source>Driver licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Водительские права</translation>
     </message>
     <message>
         <source>Driver licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Вод. права</translation>
     </message>
     <message>
         <source>Secure note</source>
-        <translation type="unfinished"></translation>
+        <translation>Защищённая заметка</translation>
     </message>
     <message>
         <source>Secure notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Заметки</translation>
     </message>
     <message>
         <source>FTP account</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступ к FTP</translation>
     </message>
     <message>
         <source>FTP accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>FTP</translation>
     </message>
     <message>
         <source>Software licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Лицензия на программу</translation>
     </message>
     <message>
         <source>Software licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Лицензии</translation>
     </message>
     <message>
         <source>Attachment</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложение</translation>
     </message>
     <message>
         <source>Attachments</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложения</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Запись</translation>
     </message>
     <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Записи</translation>
     </message>
     <message>
         <source>All items</source>
-        <translation type="unfinished"></translation>
+        <translation>Все записи</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Избранное</translation>
     </message>
     <message>
         <source>Most used</source>
-        <translation type="unfinished"></translation>
+        <translation>Частые</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Корзина</translation>
     </message>
     <message>
         <source>1 item</source>
-        <translation type="unfinished"></translation>
+        <translation>1 запись</translation>
     </message>
     <message numerus="yes">
         <source>%n items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n запись</numerusform>
+            <numerusform>%n записи</numerusform>
+            <numerusform>%n записей</numerusform>
         </translation>
     </message>
     <message>
         <source>New login</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый логин</translation>
     </message>
     <message>
         <source>New credit card</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая карта</translation>
     </message>
     <message>
         <source>New bank account</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый счёт</translation>
     </message>
     <message>
         <source>New identity</source>
-        <translation type="unfinished"></translation>
+        <translation>Новые личные данные</translation>
     </message>
     <message>
         <source>New passport</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый паспорт</translation>
     </message>
     <message>
         <source>New social security number</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый номер соцстрахования</translation>
     </message>
     <message>
         <source>New driver licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Новые водительские права</translation>
     </message>
     <message>
         <source>New secure note</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая заметка</translation>
     </message>
     <message>
         <source>New FTP account</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый доступ к FTP</translation>
     </message>
     <message>
         <source>New software licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая лицензия</translation>
     </message>
     <message>
         <source>New attachment</source>
-        <translation type="unfinished"></translation>
+        <translation>Новое вложение</translation>
     </message>
     <message>
         <source>New item</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая запись</translation>
     </message>
     <message>
         <source>Copy password</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать пароль</translation>
     </message>
     <message>
         <source>Copy card number</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать номер карты</translation>
     </message>
     <message>
         <source>Copy account number</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать номер счёта</translation>
     </message>
     <message>
         <source>Copy email address</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать адрес эл. почты</translation>
     </message>
     <message>
         <source>Copy passport number</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать номер паспорта</translation>
     </message>
     <message>
         <source>Copy number</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать номер</translation>
     </message>
     <message>
         <source>Copy licence number</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать номер прав</translation>
     </message>
     <message>
         <source>Copy text</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать текст</translation>
     </message>
     <message>
         <source>Copy licence key</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать ключ лицензии</translation>
     </message>
     <message>
         <source>Expiring</source>
-        <translation type="unfinished"></translation>
+        <translation>Истекают</translation>
     </message>
 </context>
 <context>
     <name>ItemListPane</name>
     <message>
         <source>Mark an item with the star, and it appears here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отметьте запись звёздочкой, и она появится здесь.</translation>
     </message>
     <message>
         <source>Items appear here once you have logged in with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Записи появляются здесь после входа с ними.</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск</translation>
     </message>
     <message>
         <source>Ctrl F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl F</translation>
     </message>
     <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Записи</translation>
     </message>
     <message>
         <source>Restore all</source>
-        <translation type="unfinished"></translation>
+        <translation>Вернуть все</translation>
     </message>
     <message>
         <source>Empty trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить</translation>
     </message>
     <message>
         <source>Search %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск: %1</translation>
     </message>
     <message>
         <source>No items found</source>
-        <translation type="unfinished"></translation>
+        <translation>Ничего не найдено</translation>
     </message>
     <message>
         <source>Try fewer words, or press Esc to see all items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сократите запрос или нажмите Esc, чтобы увидеть все записи.</translation>
     </message>
     <message>
         <source>No items in this category</source>
-        <translation type="unfinished"></translation>
+        <translation>В этой категории нет записей</translation>
     </message>
     <message>
         <source>What you remove stays here until you delete it forever.</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалённое хранится здесь, пока не будет удалено навсегда.</translation>
     </message>
     <message>
         <source>Your safe is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф пуст</translation>
     </message>
     <message>
         <source>Keep your user names and passwords here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Храните здесь имена пользователей и пароли.</translation>
     </message>
     <message>
         <source>Add your first login</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить первый логин</translation>
     </message>
     <message>
         <source>Press Ctrl+N to add the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нажмите Ctrl+N, чтобы добавить первую запись.</translation>
     </message>
     <message>
         <source>New item</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая запись</translation>
     </message>
     <message>
         <source>New item (Ctrl+N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая запись (Ctrl+N)</translation>
     </message>
 </context>
 <context>
     <name>ItemMenu</name>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать из избранного</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить в избранное</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>Open address</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть адрес</translation>
     </message>
     <message>
         <source>Copy user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать имя пользователя</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Дублировать</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить</translation>
     </message>
     <message>
         <source>Delete forever…</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить навсегда…</translation>
     </message>
 </context>
 <context>
     <name>ItemPage</name>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>Избранное</translation>
     </message>
     <message>
         <source>Log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>Log in (Ctrl+Return)</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти (Ctrl+Enter)</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать из избранного</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить в избранное</translation>
     </message>
     <message>
         <source>Modified %1 · created %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменено %1 · создано %2</translation>
     </message>
     <message>
         <source>Used once</source>
-        <translation type="unfinished"></translation>
+        <translation>Использовано 1 раз</translation>
     </message>
     <message numerus="yes">
         <source>Used %n times</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Использовано %n раз</numerusform>
+            <numerusform>Использовано %n раза</numerusform>
+            <numerusform>Использовано %n раз</numerusform>
         </translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить</translation>
     </message>
     <message>
         <source>Edit (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить (F2)</translation>
     </message>
 </context>
 <context>
     <name>ItemPane</name>
     <message>
         <source>No items selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Записи не выбраны</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить</translation>
     </message>
     <message>
         <source>Discard changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Не сохранять</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Save (Ctrl+S)</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить (Ctrl+S)</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить изменения.</translation>
     </message>
     <message>
         <source>There are empty required values.
 Fill and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Есть пустые обязательные поля.
+Заполните их и повторите попытку.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>The object has been modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Запись изменена</translation>
     </message>
     <message>
         <source>There are empty required fields. What would you like to do?</source>
-        <translation type="unfinished"></translation>
+        <translation>Есть пустые обязательные поля. Что сделать?</translation>
     </message>
     <message>
         <source>You have not saved changes yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменения ещё не сохранены</translation>
     </message>
     <message>
         <source>Continue editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Продолжить правку</translation>
     </message>
     <message>
         <source>Delete forever</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить навсегда</translation>
     </message>
     <message>
         <source>Choose an item on the left, or press Ctrl+N to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите запись слева или нажмите Ctrl+N, чтобы добавить новую.</translation>
     </message>
     <message>
         <source>There are values that are no date or no number.
 Correct them and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Некоторые значения — не дата или не число.
+Исправьте их и повторите попытку.</translation>
     </message>
     <message>
         <source>New attachment</source>
-        <translation type="unfinished"></translation>
+        <translation>Новое вложение</translation>
     </message>
     <message>
         <source>Please choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите файл</translation>
     </message>
 </context>
 <context>
     <name>LanguagePage</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык</translation>
     </message>
 </context>
 <context>
     <name>LineInput</name>
     <message>
         <source>Open in browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть в браузере</translation>
     </message>
     <message>
         <source>Open in browser (Alt+Return)</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть в браузере (Alt+Enter)</translation>
     </message>
     <message>
         <source>e.g. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. %1</translation>
     </message>
     <message>
         <source>MM / YYYY</source>
-        <translation type="unfinished"></translation>
+        <translation>ММ / ГГГГ</translation>
     </message>
     <message>
         <source>Choose a date</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать дату</translation>
     </message>
     <message>
         <source>Choose a date (Alt+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать дату (Alt+Вниз)</translation>
     </message>
 </context>
 <context>
     <name>LockReason</name>
     <message numerus="yes">
         <source>Locked after %n minutes without input</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Заблокировано после %n минуты бездействия</numerusform>
+            <numerusform>Заблокировано после %n минут бездействия</numerusform>
+            <numerusform>Заблокировано после %n минут бездействия</numerusform>
         </translation>
     </message>
 </context>
@@ -1781,127 +1798,128 @@ Correct them and try again.</source>
     <name>MainView</name>
     <message>
         <source>Moved to trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Перемещено в корзину</translation>
     </message>
     <message numerus="yes">
         <source>%n items moved to trash</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n запись перемещена в корзину</numerusform>
+            <numerusform>%n записи перемещены в корзину</numerusform>
+            <numerusform>%n записей перемещено в корзину</numerusform>
         </translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить</translation>
     </message>
 </context>
 <context>
     <name>MasterPasswordPage</name>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф</translation>
     </message>
     <message>
         <source>Click to select safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать сейф</translation>
     </message>
     <message>
         <source>Enter Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите пароль</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароль</translation>
     </message>
     <message>
         <source>Reading items</source>
-        <translation type="unfinished"></translation>
+        <translation>Чтение записей</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>Не сейчас</translation>
     </message>
     <message>
         <source>Create new...</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать новый...</translation>
     </message>
     <message>
         <source>%1 (unavailable)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (недоступен)</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Добро пожаловать</translation>
     </message>
     <message>
         <source>Welcome back</source>
-        <translation type="unfinished"></translation>
+        <translation>С возвращением</translation>
     </message>
     <message>
         <source>You have not Safe yet
 Create one?</source>
-        <translation type="unfinished"></translation>
+        <translation>У Вас ещё нет сейфа.
+Создать?</translation>
     </message>
     <message>
         <source>Hint: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Подсказка: %1</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>Unlocking: %1 of %2 items</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыто записей: %1 из %2</translation>
     </message>
     <message>
         <source>Unlocking…</source>
-        <translation type="unfinished"></translation>
+        <translation>Открывается…</translation>
     </message>
 </context>
 <context>
     <name>MonthPopup</name>
     <message>
         <source>Previous year</source>
-        <translation type="unfinished"></translation>
+        <translation>Предыдущий год</translation>
     </message>
     <message>
         <source>Next year</source>
-        <translation type="unfinished"></translation>
+        <translation>Следующий год</translation>
     </message>
 </context>
 <context>
     <name>NewItemMenu</name>
     <message>
         <source>New item</source>
-        <translation type="unfinished"></translation>
+        <translation>Новая запись</translation>
     </message>
 </context>
 <context>
     <name>NewSafePage</name>
     <message>
         <source>The hint is shown to everyone who opens this window. Let it remind you of the password, and nobody else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Подсказку видит каждый, кто откроет это окно. Пусть она напоминает пароль Вам, и никому другому.</translation>
     </message>
     <message>
         <source>Your safe “%1” is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф «%1» открыт.</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать</translation>
     </message>
 </context>
 <context>
     <name>NoticeBanner</name>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрыть</translation>
     </message>
 </context>
 <context>
@@ -1915,11 +1933,11 @@ Create one?</source>
     <name>PMUiProvider</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>ОК</translation>
     </message>
     <message>
         <source>Glaceron Password Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Glaceron Password Manager</translation>
     </message>
     <message>
         <source>Version %1
@@ -1929,314 +1947,352 @@ Ctrl+B copies the user name, Ctrl+Shift+C the password.
 Ctrl+Return logs in, Ctrl+L locks the safe, Ctrl+Q ends the program.
 
 The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT License).</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия %1
+
+Ctrl+N добавляет логин, Ctrl+F ищет, Ctrl+E изменяет, Ctrl+S сохраняет.
+Ctrl+B копирует имя пользователя, Ctrl+Shift+C — пароль.
+Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl+Q завершает программу.
+
+Шрифт — Inter (лицензия SIL Open Font License), значки — Tabler (лицензия MIT).</translation>
     </message>
 </context>
 <context>
     <name>PasswordField</name>
     <message>
         <source>View text under dots</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать скрытый текст</translation>
     </message>
     <message>
         <source>View text under dots (Ctrl+R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать скрытый текст (Ctrl+R)</translation>
     </message>
 </context>
 <context>
     <name>PasswordGeneratorDialog</name>
     <message>
         <source>Password Generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Генератор паролей</translation>
     </message>
     <message>
         <source>Generated password</source>
-        <translation type="unfinished"></translation>
+        <translation>Созданный пароль</translation>
     </message>
     <message>
         <source>Another password</source>
-        <translation type="unfinished"></translation>
+        <translation>Другой пароль</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation type="unfinished"></translation>
+        <translation>Длина:</translation>
     </message>
     <message>
         <source>Special chars:</source>
-        <translation type="unfinished"></translation>
+        <translation>Спецсимволы:</translation>
     </message>
     <message>
         <source>Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Недавние</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Вставить</translation>
     </message>
     <message>
         <source>There is nothing to place it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вставить пароль некуда.</translation>
     </message>
     <message>
         <source>The passwords made since the safe was opened; locking it wipes them</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароли, созданные после открытия сейфа; при блокировке они стираются</translation>
     </message>
     <message>
         <source>Passwords are remembered only while a safe is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Пароли запоминаются, только пока сейф открыт</translation>
     </message>
     <message>
         <source>Hidden password</source>
-        <translation type="unfinished"></translation>
+        <translation>Скрытый пароль</translation>
     </message>
     <message>
         <source>used</source>
-        <translation type="unfinished"></translation>
+        <translation>использован</translation>
     </message>
     <message>
         <source>Copy the password of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать пароль от %1</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordStrength</name>
+    <message>
+        <source>Strong</source>
+        <translation>Отличный</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Хороший</translation>
+    </message>
+    <message>
+        <source>Weak</source>
+        <translation>Слабый</translation>
+    </message>
+    <message>
+        <source>Terrible</source>
+        <translation>Ужасный</translation>
     </message>
 </context>
 <context>
     <name>PasswordWeakness</name>
     <message>
         <source>a name</source>
-        <translation type="unfinished"></translation>
+        <translation>имя</translation>
     </message>
     <message>
         <source>a word from a list</source>
-        <translation type="unfinished"></translation>
+        <translation>слово из списка</translation>
     </message>
     <message>
         <source>a date</source>
-        <translation type="unfinished"></translation>
+        <translation>дата</translation>
     </message>
     <message>
         <source>keys side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>соседние клавиши</translation>
     </message>
     <message>
         <source>a sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>последовательность</translation>
     </message>
     <message>
         <source>a repetition</source>
-        <translation type="unfinished"></translation>
+        <translation>повторение</translation>
     </message>
     <message>
         <source>a digit</source>
-        <translation type="unfinished"></translation>
+        <translation>цифра</translation>
     </message>
     <message>
         <source>digits</source>
-        <translation type="unfinished"></translation>
+        <translation>цифры</translation>
     </message>
     <message>
         <source>a few characters</source>
-        <translation type="unfinished"></translation>
+        <translation>несколько символов</translation>
+    </message>
+    <message>
+        <source>too few characters</source>
+        <translation>слишком мало символов</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between parts</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>PhoneInput</name>
     <message>
         <source>Country code</source>
-        <translation type="unfinished"></translation>
+        <translation>Код страны</translation>
     </message>
     <message>
         <source>%1: country code</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: код страны</translation>
     </message>
 </context>
 <context>
     <name>PluginVersion</name>
     <message>
         <source>Invalid plugin version for %1 extension: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Неподходящая версия расширения для %1: %2</translation>
     </message>
 </context>
 <context>
     <name>ProgramShortcuts</name>
     <message>
         <source>copy</source>
-        <translation type="unfinished"></translation>
+        <translation>копировать</translation>
     </message>
     <message>
         <source>cut</source>
-        <translation type="unfinished"></translation>
+        <translation>вырезать</translation>
     </message>
     <message>
         <source>paste</source>
-        <translation type="unfinished"></translation>
+        <translation>вставить</translation>
     </message>
     <message>
         <source>undo</source>
-        <translation type="unfinished"></translation>
+        <translation>отменить</translation>
     </message>
     <message>
         <source>redo</source>
-        <translation type="unfinished"></translation>
+        <translation>вернуть</translation>
     </message>
     <message>
         <source>select all</source>
-        <translation type="unfinished"></translation>
+        <translation>выделить всё</translation>
     </message>
     <message>
         <source>search</source>
-        <translation type="unfinished"></translation>
+        <translation>поиск</translation>
     </message>
     <message>
         <source>new item</source>
-        <translation type="unfinished"></translation>
+        <translation>новая запись</translation>
     </message>
     <message>
         <source>edit</source>
-        <translation type="unfinished"></translation>
+        <translation>изменить</translation>
     </message>
     <message>
         <source>save</source>
-        <translation type="unfinished"></translation>
+        <translation>сохранить</translation>
     </message>
     <message>
         <source>log in</source>
-        <translation type="unfinished"></translation>
+        <translation>войти</translation>
     </message>
     <message>
         <source>copy the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>копировать имя пользователя</translation>
     </message>
     <message>
         <source>copy the password</source>
-        <translation type="unfinished"></translation>
+        <translation>копировать пароль</translation>
     </message>
     <message>
         <source>password generator</source>
-        <translation type="unfinished"></translation>
+        <translation>генератор паролей</translation>
     </message>
     <message>
         <source>lock</source>
-        <translation type="unfinished"></translation>
+        <translation>заблокировать</translation>
     </message>
     <message>
         <source>settings</source>
-        <translation type="unfinished"></translation>
+        <translation>настройки</translation>
     </message>
     <message>
         <source>exit</source>
-        <translation type="unfinished"></translation>
+        <translation>выход</translation>
     </message>
     <message>
         <source>a command of this program</source>
-        <translation type="unfinished"></translation>
+        <translation>команда этой программы</translation>
     </message>
 </context>
 <context>
     <name>ReadyPage</name>
     <message>
         <source>adds an item</source>
-        <translation type="unfinished"></translation>
+        <translation>добавляет запись</translation>
     </message>
     <message>
         <source>searches</source>
-        <translation type="unfinished"></translation>
+        <translation>запускает поиск</translation>
     </message>
     <message>
         <source>opens the page of a login and fills it in</source>
-        <translation type="unfinished"></translation>
+        <translation>открывает страницу логина и заполняет её</translation>
     </message>
     <message>
         <source>locks the safe</source>
-        <translation type="unfinished"></translation>
+        <translation>блокирует сейф</translation>
     </message>
 </context>
 <context>
     <name>RelativeDate</name>
     <message>
         <source>today</source>
-        <translation type="unfinished"></translation>
+        <translation>сегодня</translation>
     </message>
     <message>
         <source>yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>вчера</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 дн. назад</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 в %2</translation>
     </message>
 </context>
 <context>
     <name>RenameDialog</name>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Переименовать</translation>
     </message>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Имя файла</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>SafeItemEditor</name>
     <message>
         <source>Editing “%1” · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Правка «%1» · %2</translation>
     </message>
     <message>
         <source>small</source>
         <extracomment>&quot;small&quot; where a language writes names inside a sentence small, else &quot;as they are&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>small</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>More fields: %1</source>
         <extracomment>names of fields</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ещё поля: %1</translation>
     </message>
     <message>
         <source>More fields: %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ещё поля: %1…</translation>
     </message>
 </context>
 <context>
     <name>SafeSwitcher</name>
     <message>
         <source>Switch to another safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти к другому сейфу</translation>
     </message>
     <message>
         <source>Safe: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф: %1</translation>
     </message>
     <message>
         <source>%1 (not available)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (недоступен)</translation>
     </message>
     <message>
         <source>Create new...</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать новый...</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Заблокировать</translation>
     </message>
 </context>
 <context>
@@ -2244,570 +2300,573 @@ The typeface is Inter (SIL Open Font License), the icons are Tabler Icons (MIT L
     <message>
         <source>favourite</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>избранное</translation>
     </message>
     <message>
         <source>trash</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>корзина</translation>
     </message>
     <message>
         <source>weak</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>слабый</translation>
     </message>
     <message>
         <source>expired</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>просрочено</translation>
     </message>
     <message>
         <source>expiring</source>
         <comment>behind &quot;is:&quot;</comment>
-        <translation type="unfinished"></translation>
+        <translation>истекает</translation>
     </message>
     <message>
         <source>kind</source>
         <comment>before &quot;:&quot; in a search</comment>
-        <translation type="unfinished"></translation>
+        <translation>тип</translation>
     </message>
     <message>
         <source>is</source>
         <comment>before &quot;:&quot; in a search</comment>
-        <translation type="unfinished"></translation>
+        <translation>это</translation>
     </message>
     <message>
         <source>Finds items with all the words in title, user name, address or note.
 kind:card shows one kind of item.
 is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their state.</source>
         <comment>with the words that are translated as parts of a search</comment>
-        <translation type="unfinished"></translation>
+        <translation>Находит записи, у которых все слова есть в названии, имени пользователя, адресе или заметке.
+тип:карта показывает записи одного типа.
+это:избранное, это:слабый, это:истекает, это:просрочено и это:корзина показывают записи по их состоянию.</translation>
     </message>
 </context>
 <context>
     <name>SecretInput</name>
     <message>
         <source>Generate password</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать пароль</translation>
     </message>
     <message>
         <source>Generate password (Ctrl+G)</source>
-        <translation type="unfinished"></translation>
+        <translation>Создать пароль (Ctrl+G)</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать в буфер обмена</translation>
     </message>
     <message>
         <source>Copy to clipboard (Ctrl+C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать в буфер обмена (Ctrl+C)</translation>
     </message>
 </context>
 <context>
     <name>SecureWindow</name>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить изменения.</translation>
     </message>
     <message>
         <source>Some changes could not be written; what was there before still is. Check that the folder of the safe can be written to and that there is free space, then try again:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Некоторые изменения не удалось записать; прежние данные целы. Проверьте, что папка сейфа доступна для записи и есть свободное место, и повторите попытку:
+%1</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Повторить</translation>
     </message>
     <message>
         <source>Lose changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Потерять изменения</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>SelectionPage</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить</translation>
     </message>
     <message numerus="yes">
         <source>%n items selected</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Выбрана %n запись</numerusform>
+            <numerusform>Выбраны %n записи</numerusform>
+            <numerusform>Выбрано %n записей</numerusform>
         </translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать из избранного</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить в избранное</translation>
     </message>
     <message>
         <source>Delete forever</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить навсегда</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>
     <name>SettingRow</name>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать…</translation>
     </message>
     <message>
         <source>none chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>не выбрано</translation>
     </message>
     <message>
         <source>%1: choose</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: выбрать</translation>
     </message>
 </context>
 <context>
     <name>SettingsDialog</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Search settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск в настройках</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Страницы</translation>
     </message>
     <message>
         <source>No setting matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет подходящих настроек.</translation>
     </message>
 </context>
 <context>
     <name>SettingsTable</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Общие</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>Безопасность</translation>
     </message>
     <message>
         <source>Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Браузер</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Резервные копии</translation>
     </message>
     <message>
         <source>Hotkeys</source>
-        <translation type="unfinished"></translation>
+        <translation>Клавиши</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Внешний вид</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык</translation>
     </message>
     <message>
         <source>Everything in the program is shown in it, at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Вся программа сразу показывается на нём.</translation>
     </message>
     <message>
         <source>The language was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык не изменён.</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверять обновления</translation>
     </message>
     <message>
         <source>Looks from time to time whether there is a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Время от времени проверяет, нет ли новой версии.</translation>
     </message>
     <message>
         <source>new version download</source>
-        <translation type="unfinished"></translation>
+        <translation>новая версия загрузка скачать обновление</translation>
     </message>
     <message>
         <source>Time until it locks</source>
-        <translation type="unfinished"></translation>
+        <translation>Время до блокировки</translation>
     </message>
     <message>
         <source>How long neither keyboard nor mouse are used, in any program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сколько времени не используются клавиатура и мышь в любой программе.</translation>
     </message>
     <message>
         <source>auto-lock idle minutes away</source>
-        <translation type="unfinished"></translation>
+        <translation>автоблокировка бездействие простой минуты отсутствие</translation>
     </message>
     <message>
         <source> min</source>
         <comment>minutes</comment>
-        <translation type="unfinished"></translation>
+        <translation> мин</translation>
     </message>
     <message>
         <source>Lock after inactivity</source>
-        <translation type="unfinished"></translation>
+        <translation>Блокировать при бездействии</translation>
     </message>
     <message>
         <source>The safe locks when you leave the computer alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф блокируется, когда за компьютером никого нет.</translation>
     </message>
     <message>
         <source>auto-lock idle away</source>
-        <translation type="unfinished"></translation>
+        <translation>автоблокировка бездействие простой отсутствие</translation>
     </message>
     <message>
         <source>Lock when the screen saver starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Блокировать при запуске заставки</translation>
     </message>
     <message>
         <source>The safe locks together with the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф блокируется вместе с экраном.</translation>
     </message>
     <message>
         <source>auto-lock</source>
-        <translation type="unfinished"></translation>
+        <translation>автоблокировка автоматически</translation>
     </message>
     <message>
         <source>Clear copied values after 60 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Очищать скопированное через 60 секунд</translation>
     </message>
     <message>
         <source>What you copied from the safe does not stay on the clipboard, where other programs can read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Скопированное из сейфа не остаётся в буфере обмена, где его могут прочитать другие программы.</translation>
     </message>
     <message>
         <source>clipboard copy password wipe</source>
-        <translation type="unfinished"></translation>
+        <translation>буфер обмена копирование пароль стирание</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполнить</translation>
     </message>
     <message>
         <source>Fill and submit</source>
-        <translation type="unfinished"></translation>
+        <translation>Заполнить и войти</translation>
     </message>
     <message>
         <source>Log in from the main window</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход из главного окна</translation>
     </message>
     <message>
         <source>Whether the page&apos;s form is only filled or also sent. A login can have its own way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Только заполнять форму на странице или также отправлять её. Для логина можно задать отдельно.</translation>
     </message>
     <message>
         <source>automatic form enter</source>
-        <translation type="unfinished"></translation>
+        <translation>автоматически форма ввод</translation>
     </message>
     <message>
         <source>Log in from the quick-access window</source>
-        <translation type="unfinished"></translation>
+        <translation>Вход из окна быстрого доступа</translation>
     </message>
     <message>
         <source>The same for logins that you choose while you are in the browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>То же для логинов, выбранных во время работы в браузере.</translation>
     </message>
     <message>
         <source>automatic form enter extension plugin</source>
-        <translation type="unfinished"></translation>
+        <translation>автоматически форма ввод расширение плагин</translation>
     </message>
     <message>
         <source>Open addresses in</source>
-        <translation type="unfinished"></translation>
+        <translation>Открывать адреса</translation>
     </message>
     <message>
         <source>Where the browser shows the page of a login that is not open yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Где браузер показывает ещё не открытую страницу логина.</translation>
     </message>
     <message>
         <source>tab window extension plugin</source>
-        <translation type="unfinished"></translation>
+        <translation>вкладка окно расширение плагин</translation>
     </message>
     <message>
         <source>The current tab</source>
-        <translation type="unfinished"></translation>
+        <translation>В текущей вкладке</translation>
     </message>
     <message>
         <source>A new tab</source>
-        <translation type="unfinished"></translation>
+        <translation>В новой вкладке</translation>
     </message>
     <message>
         <source>A new window</source>
-        <translation type="unfinished"></translation>
+        <translation>В новом окне</translation>
     </message>
     <message>
         <source>Back up</source>
-        <translation type="unfinished"></translation>
+        <translation>Создавать копии</translation>
     </message>
     <message>
         <source>A safe that has not changed since is not copied again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф, не изменившийся с тех пор, повторно не копируется.</translation>
     </message>
     <message>
         <source>interval how often</source>
-        <translation type="unfinished"></translation>
+        <translation>период интервал как часто</translation>
     </message>
     <message>
         <source>Every day</source>
-        <translation type="unfinished"></translation>
+        <translation>Ежедневно</translation>
     </message>
     <message>
         <source>Every week</source>
-        <translation type="unfinished"></translation>
+        <translation>Еженедельно</translation>
     </message>
     <message>
         <source>Every month</source>
-        <translation type="unfinished"></translation>
+        <translation>Ежемесячно</translation>
     </message>
     <message>
         <source>Folder for backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка для копий</translation>
     </message>
     <message>
         <source>Best on another disk. The copies are encrypted like the safe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Лучше на другом диске. Копии зашифрованы так же, как сейф.</translation>
     </message>
     <message>
         <source>path directory archive</source>
-        <translation type="unfinished"></translation>
+        <translation>путь каталог архив</translation>
     </message>
     <message>
         <source>Copies to keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Хранить копий</translation>
     </message>
     <message>
         <source>Of each safe; when there are more, the oldest are deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Для каждого сейфа; лишние копии удаляются, начиная с самых старых.</translation>
     </message>
     <message>
         <source>number archives</source>
-        <translation type="unfinished"></translation>
+        <translation>число количество архивы</translation>
     </message>
     <message>
         <source>This folder cannot be written to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Эта папка недоступна для записи: %1</translation>
     </message>
     <message>
         <source>Back up automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать автоматически</translation>
     </message>
     <message>
         <source>Copies of all safes that open with their master password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Копии всех сейфов, которые открываются своим мастер-паролем.</translation>
     </message>
     <message>
         <source>archive copy</source>
-        <translation type="unfinished"></translation>
+        <translation>архив копия резервное копирование</translation>
     </message>
     <message>
         <source>Lock Safe hotkey:</source>
-        <translation type="unfinished"></translation>
+        <translation>Блокировка сейфа:</translation>
     </message>
     <message>
         <source>shortcut key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>сочетание клавиш комбинация горячие</translation>
     </message>
     <message>
         <source>Browser plugin hotkey:</source>
-        <translation type="unfinished"></translation>
+        <translation>Окно быстрого доступа:</translation>
     </message>
     <message>
         <source>Opens the quick-access window for the page in your browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Открывает окно быстрого доступа для страницы в браузере.</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Цвета</translation>
     </message>
     <message>
         <source>Light or dark, always or as the system has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Светлые или тёмные — всегда или как в системе.</translation>
     </message>
     <message>
         <source>theme mode night appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>тема режим ночь оформление внешний вид</translation>
     </message>
     <message>
         <source>Like the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Как в системе</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Светлые</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Тёмные</translation>
     </message>
     <message>
         <source>Text size</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер текста</translation>
     </message>
     <message>
         <source>Of all texts, with the controls around them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Всех надписей вместе с элементами управления.</translation>
     </message>
     <message>
         <source>font large small zoom scale</source>
-        <translation type="unfinished"></translation>
+        <translation>шрифт крупный мелкий масштаб увеличение</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The text size was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Размер текста не изменён.</translation>
     </message>
     <message>
         <source>No animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Без анимации</translation>
     </message>
     <message>
         <source>When it is off, the system&apos;s setting for animations holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Если выключено, действует настройка анимации системы.</translation>
     </message>
     <message>
         <source>reduced motion effects</source>
-        <translation type="unfinished"></translation>
+        <translation>меньше движения эффекты</translation>
     </message>
     <message>
         <source>The settings hold until the program ends, but they could not be written to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки действуют до завершения программы, но их не удалось записать в %1</translation>
     </message>
     <message>
         <source>Locks the safe from any program; on Wayland, from this program&apos;s windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Блокирует сейф из любой программы; в Wayland — из окон этой программы.</translation>
     </message>
 </context>
 <context>
     <name>SetupWizard</name>
     <message>
         <source>Set up Glaceron Password Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройка Glaceron Password Manager</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Назад</translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Пропустить</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Готово</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Далее</translation>
     </message>
 </context>
 <context>
     <name>ShortcutTable</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск</translation>
     </message>
     <message>
         <source>Into the list and back</source>
-        <translation type="unfinished"></translation>
+        <translation>В список и обратно</translation>
     </message>
     <message>
         <source>Add an item</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить запись</translation>
     </message>
     <message>
         <source>Edit the item</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменить запись</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Leave the editor, or clear the search</source>
-        <translation type="unfinished"></translation>
+        <translation>Выйти из правки или очистить поиск</translation>
     </message>
     <message>
         <source>Log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти</translation>
     </message>
     <message>
         <source>Log in, from the list or the search</source>
-        <translation type="unfinished"></translation>
+        <translation>Войти из списка или из поиска</translation>
     </message>
     <message>
         <source>Copy the user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать имя пользователя</translation>
     </message>
     <message>
         <source>Copy the password, or the number of a card or document</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать пароль либо номер карты или документа</translation>
     </message>
     <message>
         <source>Attach the copied file to the item</source>
-        <translation type="unfinished"></translation>
+        <translation>Вложить скопированный файл в запись</translation>
     </message>
     <message>
         <source>Select all items</source>
-        <translation type="unfinished"></translation>
+        <translation>Выделить все записи</translation>
     </message>
     <message>
         <source>Select more items</source>
-        <translation type="unfinished"></translation>
+        <translation>Выделить больше записей</translation>
     </message>
     <message>
         <source>Menu of the items</source>
-        <translation type="unfinished"></translation>
+        <translation>Меню записей</translation>
     </message>
     <message>
         <source>Remove the items</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить записи</translation>
     </message>
     <message>
         <source>Take the last removal back</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить последнее удаление</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Lock the safe</source>
-        <translation type="unfinished"></translation>
+        <translation>Заблокировать сейф</translation>
     </message>
     <message>
         <source>End the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершить программу</translation>
     </message>
     <message>
         <source>Show this list</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать этот список</translation>
     </message>
 </context>
 <context>
@@ -2815,172 +2874,172 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source> or </source>
         <comment>between two keys</comment>
-        <translation type="unfinished"></translation>
+        <translation> или </translation>
     </message>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Сочетания клавиш</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>SideWindows</name>
     <message>
         <source>No browser with the extension is connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет подключённого браузера с расширением</translation>
     </message>
     <message>
         <source>What it was made for is no longer edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Запись, для которой он создан, больше не правится</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Категории</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Заблокировать</translation>
     </message>
     <message>
         <source>Password generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Генератор паролей</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Меню</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Справка</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Выход</translation>
     </message>
     <message>
         <source>%1 · unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · открыт</translation>
     </message>
     <message>
         <source>Finish setting up</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершить настройку</translation>
     </message>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Сочетания клавиш</translation>
     </message>
 </context>
 <context>
     <name>SnackBar</name>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 с</translation>
     </message>
 </context>
 <context>
     <name>SortButton</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Название</translation>
     </message>
     <message>
         <source>Web site</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайт</translation>
     </message>
     <message>
         <source>Most used</source>
-        <translation type="unfinished"></translation>
+        <translation>Частые</translation>
     </message>
     <message>
         <source>Last used</source>
-        <translation type="unfinished"></translation>
+        <translation>Недавние</translation>
     </message>
     <message>
         <source>Last changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Изменённые</translation>
     </message>
     <message>
         <source>Newest</source>
-        <translation type="unfinished"></translation>
+        <translation>Новые</translation>
     </message>
     <message>
         <source>Sort: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Порядок: %1</translation>
     </message>
 </context>
 <context>
     <name>StepDots</name>
     <message>
         <source>Step %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Шаг %1 из %2</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Свернуть</translation>
     </message>
     <message>
         <source>Maximise</source>
-        <translation type="unfinished"></translation>
+        <translation>Развернуть</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>Open Main Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть главное окно</translation>
     </message>
     <message>
         <source>Password Generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Генератор паролей</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Справка</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Заблокировать</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Выход</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
 </context>
 <context>
@@ -2988,42 +3047,43 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>This safe is not available. Check that its folder is there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Этот сейф недоступен. Проверьте, что его папка на месте:
+%1</translation>
     </message>
     <message>
         <source>No any safe is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Сейф не выбран</translation>
     </message>
     <message>
         <source>Wrong Password! Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный пароль! Попробуйте ещё раз</translation>
     </message>
     <message>
         <source>The safe could not be read. Check that its folder is there and that you may read it, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось прочитать сейф. Проверьте, что его папка на месте и доступна для чтения, и повторите попытку.</translation>
     </message>
     <message>
         <source>Unlock your safe to go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Откройте сейф, чтобы продолжить</translation>
     </message>
 </context>
 <context>
     <name>WindowMover</name>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Свернуть</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановить</translation>
     </message>
     <message>
         <source>Maximise</source>
-        <translation type="unfinished"></translation>
+        <translation>Развернуть</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
 </context>
 </TS>

@@ -40,15 +40,14 @@ int passwordStrengthLevel(const QString &password)
 
 QString passwordStrengthLabel(int level)
 {
-    const char *context = "PasswordStrength";
     switch (level) {
     case 4:
-        return QCoreApplication::translate(context, "Strong");
+        return QCoreApplication::translate("PasswordStrength", "Strong");
     case 3:
-        return QCoreApplication::translate(context, "Good");
+        return QCoreApplication::translate("PasswordStrength", "Good");
     case 2:
-        return QCoreApplication::translate(context, "Weak");
+        return QCoreApplication::translate("PasswordStrength", "Weak");
     default:
-        return QCoreApplication::translate(context, "Terrible");
+        return QCoreApplication::translate("PasswordStrength", "Terrible");
     }
 }

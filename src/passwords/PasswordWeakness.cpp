@@ -83,15 +83,15 @@ QVector<PasswordPart> passwordParts(const QString &password, const QStringList &
 
 QString passwordPartsText(const QVector<PasswordPart> &parts)
 {
-    const char *context = "PasswordWeakness";
     if (parts.isEmpty() || parts == QVector<PasswordPart>{PasswordPart::Other})
-        return QCoreApplication::translate(context, "too few characters");
+        return QCoreApplication::translate("PasswordWeakness", "too few characters");
     QStringList texts;
     for (const PasswordPart part : parts)
         texts.append(partText(part));
     const QString last = texts.takeLast();
     if (texts.isEmpty())
         return last;
-    return QCoreApplication::translate(context, "%1 and %2")
-        .arg(texts.join(QCoreApplication::translate(context, ", ", "between parts")), last);
+    return QCoreApplication::translate("PasswordWeakness", "%1 and %2")
+        .arg(texts.join(QCoreApplication::translate("PasswordWeakness", ", ", "between parts")),
+             last);
 }
