@@ -24,6 +24,13 @@ const int iconInset = 5;
 const int badgeHeight = 18;
 const int badgeTextSize = 11;
 
+QFont sized(QFont font, int pixels, QFont::Weight weight)
+{
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
+    return font;
+}
+
 } // namespace
 
 ItemDelegate::ItemDelegate(const Theme &theme, SiteIcons *icons, QObject *parent, Clock clock)
@@ -34,6 +41,24 @@ ItemDelegate::ItemDelegate(const Theme &theme, SiteIcons *icons, QObject *parent
 {
 }
 
+ItemDelegate::Fonts::Fonts(const QFont &usual, int size)
+    : base(usual)
+    , textSize(size)
+    , title(sized(usual, size, QFont::DemiBold))
+    , second(sized(usual, Style::smallTextSize, QFont::Normal))
+    , badge(sized(usual, Style::scaled(badgeTextSize), QFont::DemiBold))
+    , titleMetrics(title)
+    , secondMetrics(second)
+    , badgeMetrics(badge)
+{
+}
+
+void ItemDelegate::prepareFonts(const QFont &base) const
+{
+    if (!m_fonts || m_fonts->base != base || m_fonts->textSize != Style::textSize)
+        m_fonts.emplace(base, Style::textSize);
+}
+
 QSize ItemDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
     return {0, Style::scaled(rowHeight)};
@@ -42,6 +67,7 @@ QSize ItemDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) 
 void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                          const QModelIndex &index) const
 {
+    prepareFonts(option.font);
     const QRect row = option.rect.adjusted(inset, 0, -inset, 0);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -61,7 +87,7 @@ void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                  m_theme.palette().color(Palette::Star));
         texts.setRight(int(star.left()) - 8);
     }
-    paintTexts(*painter, texts, option.font, index);
+    paintTexts(*painter, texts, index);
     painter->restore();
 }
 
@@ -114,18 +140,14 @@ void ItemDelegate::paintTile(QPainter &painter, const QRectF &tile, const QModel
     painter.drawPixmap(place, icon, QRectF(icon.rect()));
 }
 
-int ItemDelegate::paintBadge(QPainter &painter, const QRect &area, const QFont &font,
-                             const QModelIndex &index) const
+int ItemDelegate::paintBadge(QPainter &painter, const QRect &area, const QModelIndex &index) const
 {
     const QDate last = index.data(ItemListModel::ExpiryRole).toDate();
     const QDate today = m_clock().toLocalTime().date();
     const QString text = last.isValid() ? expiryText(last, today) : QString();
     if (text.isEmpty())
         return 0;
-    QFont small = font;
-    small.setPixelSize(Style::scaled(badgeTextSize));
-    small.setWeight(QFont::DemiBold);
-    const int width = QFontMetrics(small).horizontalAdvance(text) + 2 * Style::spacing;
+    const int width = m_fonts->badgeMetrics.horizontalAdvance(text) + 2 * Style::spacing;
     const int height = Style::scaled(badgeHeight);
     const QRect badge(area.right() - width + 1, area.center().y() - height / 2, width, height);
     const Palette &palette = m_theme.palette();
@@ -133,38 +155,37 @@ int ItemDelegate::paintBadge(QPainter &painter, const QRect &area, const QFont &
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette.tint(color));
     painter.drawRoundedRect(badge, height / 2.0, height / 2.0);
-    painter.setFont(small);
+    painter.setFont(m_fonts->badge);
     painter.setPen(color);
     painter.drawText(badge, Qt::AlignCenter, text);
     return width + Style::spacing;
 }
 
-void ItemDelegate::paintTexts(QPainter &painter, const QRect &area, const QFont &font,
-                              const QModelIndex &index) const
+void ItemDelegate::paintText(QPainter &painter, const QRect &area, const QString &text,
+                             const QFont &font, const QFontMetrics &metrics,
+                             Palette::Role role) const
+{
+    painter.setFont(font);
+    painter.setPen(m_theme.palette().color(role));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
+                     metrics.elidedText(text.simplified(), Qt::ElideRight, area.width()));
+}
+
+void ItemDelegate::paintTexts(QPainter &painter, const QRect &area, const QModelIndex &index) const
 {
     const QString second = index.data(ItemListModel::SecondaryTextRole).toString();
-    const auto draw = [&](const QRect &rect, const QString &text, int size, QFont::Weight weight,
-                          Palette::Role role) {
-        QFont line = font;
-        line.setPixelSize(size);
-        line.setWeight(weight);
-        painter.setFont(line);
-        painter.setPen(m_theme.palette().color(role));
-        painter.drawText(
-            rect, Qt::AlignLeft | Qt::AlignVCenter,
-            QFontMetrics(line).elidedText(text.simplified(), Qt::ElideRight, rect.width()));
-    };
     QRect upper = area;
     QRect lower = area;
     if (!second.isEmpty()) {
         upper.setHeight(area.height() / 2);
         lower.setTop(upper.bottom() + 1);
     }
-    const int badge = paintBadge(painter, lower, font, index);
+    const int badge = paintBadge(painter, lower, index);
     lower.setRight(lower.right() - badge);
     if (second.isEmpty())
         upper = lower;
     else
-        draw(lower, second, Style::smallTextSize, QFont::Normal, Palette::Muted);
-    draw(upper, index.data().toString(), Style::textSize, QFont::DemiBold, Palette::Text);
+        paintText(painter, lower, second, m_fonts->second, m_fonts->secondMetrics, Palette::Muted);
+    paintText(painter, upper, index.data().toString(), m_fonts->title, m_fonts->titleMetrics,
+              Palette::Text);
 }

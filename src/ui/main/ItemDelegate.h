@@ -1,8 +1,12 @@
 #pragma once
 
 #include "Clock.h"
+#include "style/Palette.h"
 
+#include <QFontMetrics>
 #include <QStyledItemDelegate>
+
+#include <optional>
 
 class SiteIcons;
 class Theme;
@@ -25,12 +29,29 @@ private:
     void paintGround(QPainter &painter, const QRect &row, const QStyleOptionViewItem &option) const;
     void paintTile(QPainter &painter, const QRectF &tile, const QModelIndex &index) const;
     /// Returns the width that it took at the right of the area.
-    int paintBadge(QPainter &painter, const QRect &area, const QFont &font,
-                   const QModelIndex &index) const;
-    void paintTexts(QPainter &painter, const QRect &area, const QFont &font,
-                    const QModelIndex &index) const;
+    int paintBadge(QPainter &painter, const QRect &area, const QModelIndex &index) const;
+    void paintTexts(QPainter &painter, const QRect &area, const QModelIndex &index) const;
+    void paintText(QPainter &painter, const QRect &area, const QString &text, const QFont &font,
+                   const QFontMetrics &metrics, Palette::Role role) const;
+
+    /// The fonts of a row. To make them for each one costs more than to draw it.
+    struct Fonts
+    {
+        Fonts(const QFont &usual, int size);
+
+        QFont base;
+        int textSize;
+        QFont title;
+        QFont second;
+        QFont badge;
+        QFontMetrics titleMetrics;
+        QFontMetrics secondMetrics;
+        QFontMetrics badgeMetrics;
+    };
+    void prepareFonts(const QFont &base) const;
 
     const Theme &m_theme;
     SiteIcons *m_icons;
     Clock m_clock;
+    mutable std::optional<Fonts> m_fonts;
 };
