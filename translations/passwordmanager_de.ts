@@ -2922,7 +2922,7 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     </message>
     <message>
         <source>%1 · unlocked</source>
-        <translation>%1 · entsperrt</translation>
+        <translation>%1 · offen</translation>
     </message>
     <message>
         <source>Finish setting up</source>

@@ -10,6 +10,7 @@
 #include "attachments/AttachmentPreview.h"
 #include "attachments/RenameDialog.h"
 #include "lock/PagesStack.h"
+#include "main/ItemPane.h"
 #include "main/MainView.h"
 #include "main/ShortcutsDialog.h"
 #include "style/Style.h"
@@ -31,6 +32,8 @@
 #include <QMetaProperty>
 
 namespace {
+
+const QString extensionFolder = QStringLiteral("/opt/glaceron/extension");
 
 using ItemValues = std::initializer_list<std::pair<const char *, QVariant>>;
 
@@ -173,8 +176,7 @@ Show wizardStep(const char *id)
         const auto row = [&](const char *name, const QString &title, const auto &make) {
             return WizardStep{name, title, QString(), always, make};
         };
-        ExtensionPage::Parts parts{QStringLiteral("/opt/glaceron/extension"), [] { return false; },
-                                   [](const QString &) {}};
+        ExtensionPage::Parts parts{extensionFolder, [] { return false; }, [](const QString &) {}};
         auto *wizard = new SetupWizard(
             {row("safe", FirstRun::tr("Create a safe"),
                  [&stage](QWidget *parent) {
@@ -229,11 +231,11 @@ QWidget *shortcuts(Stage &stage)
 
 QWidget *question(Stage &stage)
 {
-    auto *dialog = new QuestionDialog({QStringLiteral("The object has been modified"),
-                                       QStringLiteral("You have not saved changes yet"),
-                                       {QStringLiteral("Save"), QStringLiteral("Discard changes"),
-                                        QStringLiteral("Continue editing")}},
-                                      stage.main);
+    auto *dialog = new QuestionDialog(
+        {ItemPane::tr("The object has been modified"),
+         ItemPane::tr("You have not saved changes yet"),
+         {ItemPane::tr("Save"), ItemPane::tr("Discard changes"), ItemPane::tr("Continue editing")}},
+        stage.main);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->show();
     return dialog;
@@ -438,7 +440,8 @@ void Stage::fillSafe()
 QSet<QString> Stage::ownWords() const
 {
     QStringList texts{test.core.currentSafe()->name(), test.core.currentSafe()->hint(),
-                      test.folder.path()};
+                      test.folder.path() + QStringLiteral("/hidden/backup passport.png"),
+                      extensionFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();
         for (int i = 0; i < meta.propertyCount(); ++i)

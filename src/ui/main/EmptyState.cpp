@@ -20,13 +20,15 @@ EmptyState::EmptyState(const Theme &theme, QWidget *parent)
     , m_advice(makeLabel({}, "muted", this))
     , m_button(makeButton({}, "primary", this))
 {
+    m_title->setWordWrap(true);
+    m_title->setAlignment(Qt::AlignHCenter);
     m_advice->setWordWrap(true);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(Style::margin, Style::margin, Style::margin, Style::margin);
     column->setSpacing(Style::spacing);
     column->addStretch(2);
     column->addWidget(m_icon, 0, Qt::AlignHCenter);
-    column->addWidget(m_title, 0, Qt::AlignHCenter);
+    column->addWidget(m_title);
     m_advice->setAlignment(Qt::AlignHCenter);
     column->addWidget(m_advice);
     column->addSpacing(Style::spacing);

@@ -11,6 +11,7 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/TextField.h"
 
 #include <QBoxLayout>
@@ -24,6 +25,9 @@
 #include <utility>
 
 namespace {
+
+const int smallestWidth = 264;
+const int searchIconRoom = 48; ///< of the icon and the margins of the search field
 
 /// How items come into a category that has none.
 QString emptyAdvice(const ItemCategory &category)
@@ -53,7 +57,7 @@ ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *pa
     connect(m_filter, &QAbstractItemModel::modelAboutToBeReset, this, &ItemListPane::keepSelection);
     makeSearch();
     makeList();
-    m_categoryName = makeLabel({}, "muted", this);
+    m_categoryName = new ElidedLabel("muted", this);
     m_sort = new SortButton(theme, this);
     m_sort->setOrder(m_filter->sortBy());
     connect(m_sort, &SortButton::orderChosen, this, &ItemListPane::onOrderChosen);
@@ -78,7 +82,7 @@ void ItemListPane::makeSearch()
     m_searchKey = makeLabel(tr("Ctrl F"), "key", m_search);
     m_searchKey->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(m_search, &QLineEdit::textChanged, this, [this](const QString &text) {
-        m_searchKey->setVisible(text.isEmpty());
+        showPlaceholder();
         m_filter->setSearch(text);
         showEmptyState();
         Q_EMIT searched();
@@ -207,10 +211,15 @@ void ItemListPane::setCategory(const ItemCategory &category)
 {
     const QScopedValueRollback<bool> marking(m_marking, true);
     m_filter->setCategory(category);
-    m_categoryName->setText(categoryName(category));
+    m_categoryName->setFullText(categoryName(category));
     // That category has an order of its own.
     m_sort->setVisible(category.kind != ItemCategory::MostUsed);
     showEmptyState();
+}
+
+QSize ItemListPane::minimumSizeHint() const
+{
+    return QWidget::minimumSizeHint().expandedTo({smallestWidth, 0});
 }
 
 void ItemListPane::setIconFolder(const QString &folder)
@@ -223,7 +232,7 @@ void ItemListPane::setCount(int inCategory, bool safeIsEmpty)
     m_icons->retryMissing();
     m_inCategory = inCategory;
     m_safeIsEmpty = safeIsEmpty;
-    m_search->setPlaceholderText(tr("Search %1").arg(itemCountText(inCategory)));
+    showPlaceholder();
     showEmptyState();
 }
 
@@ -362,7 +371,7 @@ void ItemListPane::showEmptyState()
 bool ItemListPane::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_search && event->type() == QEvent::Resize)
-        placeSearchKey();
+        showPlaceholder();
     if (event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);
         const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
@@ -422,9 +431,15 @@ bool ItemListPane::onListKey(int key)
     }
 }
 
-void ItemListPane::placeSearchKey()
+void ItemListPane::showPlaceholder()
 {
+    // In a narrow list the key goes first, then the number.
+    const int room = m_search->width() - searchIconRoom;
     const QSize size = m_searchKey->sizeHint();
+    const QString full = tr("Search %1").arg(itemCountText(m_inCategory));
+    const int needed = m_search->fontMetrics().horizontalAdvance(full) + Style::spacing;
+    m_search->setPlaceholderText(needed <= room ? full : tr("Search"));
+    m_searchKey->setVisible(m_search->text().isEmpty() && needed + size.width() <= room);
     m_searchKey->setGeometry(m_search->width() - size.width() - 8,
                              (m_search->height() - size.height()) / 2, size.width(), size.height());
 }

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class ElidedLabel;
 class EmptyState;
 class ItemListView;
 class QLabel;
@@ -22,6 +23,8 @@ class ItemListPane : public QWidget
 
 public:
     ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent);
+
+    QSize minimumSizeHint() const override;
 
     void setCategory(const ItemCategory &category);
     const ItemCategory &category() const { return m_filter->category(); }
@@ -76,7 +79,7 @@ private:
     QWidget *makeTrashBar();
     void layOut();
     void showEmptyState();
-    void placeSearchKey();
+    void showPlaceholder();
     bool onSearchKey(int key);
     bool onListKey(int key);
     void requestMenu(const QPoint &position);
@@ -91,7 +94,7 @@ private:
     QLineEdit *m_search;
     QLabel *m_searchKey;
     QToolButton *m_new;
-    QLabel *m_categoryName;
+    ElidedLabel *m_categoryName;
     SortButton *m_sort;
     QWidget *m_trashBar;
     QStackedWidget *m_stack;

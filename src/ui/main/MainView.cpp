@@ -31,7 +31,6 @@
 namespace {
 
 const int listWidth = 320;
-const int smallestListWidth = 264;
 const int smallestItemWidth = 490;
 const int undoSeconds = 8;
 
@@ -78,7 +77,6 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
 
 void MainView::layOut()
 {
-    m_list->setMinimumWidth(smallestListWidth);
     m_right->setMinimumWidth(Style::scaled(smallestItemWidth));
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setHandleWidth(1);

@@ -26,7 +26,7 @@ SafeSwitcher::SafeSwitcher(const Theme &theme, QWidget *parent)
     : QPushButton(parent)
     , m_theme(theme)
     , m_name(new ElidedLabel("heading", this))
-    , m_state(makeLabel({}, "muted", this))
+    , m_state(new ElidedLabel("label", this))
     , m_menu(new QMenu(this))
 {
     setObjectName(QStringLiteral("safeSwitcher"));
@@ -76,14 +76,14 @@ void SafeSwitcher::setSafe(const QString &name, const QString &folder)
 
 void SafeSwitcher::setState(const QString &state)
 {
-    m_state->setText(state);
+    m_state->setFullText(state);
     describe();
 }
 
 void SafeSwitcher::describe()
 {
     setAccessibleName(tr("Safe: %1").arg(m_name->fullText()));
-    setAccessibleDescription(m_state->text());
+    setAccessibleDescription(m_state->fullText());
 }
 
 void SafeSwitcher::fillMenu()

@@ -40,6 +40,6 @@ private:
     Entries m_entries;
     QString m_folder;
     ElidedLabel *m_name;
-    QLabel *m_state;
+    ElidedLabel *m_state;
     QMenu *m_menu;
 };

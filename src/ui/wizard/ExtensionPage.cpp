@@ -40,6 +40,7 @@ ExtensionPage::ExtensionPage(Parts parts, QWidget *parent)
     path->setAccessibleName(tr("Folder of the extension"));
     m_state->setObjectName(QStringLiteral("extensionState"));
     m_state->setAlignment(Qt::AlignHCenter);
+    m_state->setWordWrap(true);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(Style::gap);

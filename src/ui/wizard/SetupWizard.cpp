@@ -41,7 +41,10 @@ SetupWizard::SetupWizard(const QVector<WizardStep> &steps, const Theme &theme, Q
     connect(m_onward, &QPushButton::clicked, this, &SetupWizard::goOn);
     // Return in a field presses it.
     m_onward->setDefault(true);
-    resize(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
+    // The pages hold texts whose lines break; smaller than this they would be cut.
+    const QSize size(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
+    setMinimumSize(size);
+    resize(size);
     showStep(0);
 }
 
