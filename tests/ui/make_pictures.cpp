@@ -21,6 +21,8 @@ int main(int argc, char *argv[])
             look.dark = dark;
             stage->open(look);
             QWidget *window = shown.show(*stage);
+            if (window == stage->main)
+                window->resize(1080, 680);
             for (int turn = 0; window && turn < 5; ++turn)
                 QApplication::processEvents();
             const QString file = QStringLiteral("%1/%2-%3.png")
