@@ -229,6 +229,8 @@ void GPMSafe::lock()
     m_intake.handOn();
     m_writer.waitForDone();
     const SaveJob::Result result = makeSaveJob().run();
+    m_items.markSaved(result.saved);
+    keepUnsaved();
     if (!result.good())
         Q_EMIT saved(false, result.failedPaths);
     m_drafts.close();
@@ -240,6 +242,18 @@ void GPMSafe::lock()
     Q_EMIT itemsReset();
     items.clear();
     Q_EMIT lockedChanged(true);
+}
+
+void GPMSafe::keepUnsaved()
+{
+    // The folder of the safe may be gone, or full; that of the drafts lies elsewhere.
+    const QVector<SaveJob::Item> unsaved = m_items.changed();
+    for (const SaveJob::Item &item : unsaved) {
+        const bool trashed = item.document.publicFields.value(QStringLiteral("deleted")).toBool();
+        if (!trashed)
+            m_drafts.keep(
+                {DraftStore::newKey(), item.document, item.written.isNull(), item.written});
+    }
 }
 
 bool GPMSafe::saveChanges()

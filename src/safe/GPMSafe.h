@@ -53,7 +53,8 @@ public:
     void unlockAsync(const QString &password);
     void cancelUnlock();
 
-    /// Saves what is changed, then forgets password and items. saved() tells when that failed.
+    /// Saves what is changed, then forgets password and items. What cannot be written is kept as a
+    /// draft, and saved() tells.
     void lock();
 
     /// Writes every changed item. False when one could not be written: it stays marked as changed,
@@ -153,6 +154,7 @@ private:
     void takeUnlocked(SafeUnlock &unlock);
     void onUnlockFinished(SafeUnlock::Outcome outcome);
     SaveJob makeSaveJob();
+    void keepUnsaved();
     bool removeFiles(const QString &id);
     bool prepareAttachment(PMListItem &item) const;
     void takeAttachment(AttachmentIntake::Arrival arrival);

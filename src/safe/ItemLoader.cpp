@@ -54,9 +54,10 @@ void LoadedItems::add(const LoadedFile &file)
     // The file's name rules: two files must never become one item unnoticed.
     item->setId(file.name.id);
     item->markSaved(item->revision());
+    const QDateTime modified = item->modified();
     Entry &entry = m_entries[file.name.id];
     if (!entry.item || entry.name.generation < file.name.generation)
-        entry = {file.name, std::move(item)};
+        entry = {file.name, std::move(item), modified};
 }
 
 QStringList LoadedItems::unreadableFiles() const

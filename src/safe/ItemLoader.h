@@ -35,6 +35,7 @@ public:
     {
         ItemFileName name;
         std::unique_ptr<PMListItem> item;
+        QDateTime written; ///< when the item had last changed as the disk has it; null for none
     };
 
     /// Makes the item of a file. Items are made on the thread that calls this.

@@ -34,7 +34,7 @@ PMListItem *ItemStore::add(std::unique_ptr<PMListItem> item)
     if (m_entries.count(id) > 0)
         return nullptr;
     PMListItem *added = item.get();
-    m_entries[id] = {ItemFileName{id, 0}, std::move(item)};
+    m_entries[id] = {ItemFileName{id, 0}, std::move(item), {}};
     return added;
 }
 
@@ -44,7 +44,8 @@ QVector<SaveJob::Item> ItemStore::changed() const
     for (const auto &[id, entry] : m_entries) {
         const PMListItem &item = *entry.item;
         if (item.isChanged())
-            list.append({id, item.revision(), entry.name, PMItemDocument::fromItem(item)});
+            list.append({id, item.revision(), entry.name, PMItemDocument::fromItem(item),
+                         item.modified(), entry.written});
     }
     return list;
 }
@@ -54,8 +55,10 @@ void ItemStore::markSaved(const QVector<SaveJob::Item> &saved)
     for (const SaveJob::Item &item : saved) {
         const auto entry = m_entries.find(item.id);
         // Under another file name the item was written after this.
-        if (entry != m_entries.end() && entry->second.name.text() == item.fileName.text())
-            entry->second.item->markSaved(item.revision);
+        if (entry == m_entries.end() || entry->second.name.text() != item.fileName.text())
+            continue;
+        entry->second.item->markSaved(item.revision);
+        entry->second.written = item.modified;
     }
 }
 
@@ -76,5 +79,6 @@ void ItemStore::takePasswordChange(const QVector<PasswordChange::Item> &written)
             entry.item->setProperty(
                 "hash", change.document.publicFields.value(QStringLiteral("hash")).toString());
         entry.item->markSaved(entry.item->revision());
+        entry.written = entry.item->modified();
     }
 }

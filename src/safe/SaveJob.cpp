@@ -16,7 +16,7 @@ SaveJob::Result SaveJob::run() const
         const QString path = content + QLatin1Char('/') + item.fileName.text();
         const QMutexLocker locker(mutex.get());
         if (writeItemFile(environment, path, password->view(), item.document)) {
-            result.saved.append({item.id, item.revision, item.fileName, {}});
+            result.saved.append({item.id, item.revision, item.fileName, {}, item.modified, {}});
             continue;
         }
         qWarning() << "GPMSafe::saveChanges"

@@ -3,6 +3,7 @@
 #include "ItemFile.h"
 #include "SecretBytes.h"
 
+#include <QDateTime>
 #include <QMutex>
 #include <QStringList>
 #include <QVector>
@@ -18,6 +19,8 @@ struct SaveJob
         quint64 revision = 0;
         ItemFileName fileName;
         PMItemDocument document;
+        QDateTime modified; ///< of the item
+        QDateTime written;  ///< of the item as the disk has it; null when it was never written
     };
 
     SafeEnvironment environment;

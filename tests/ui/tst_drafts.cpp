@@ -99,6 +99,34 @@ struct Desk
             qFatal("The safe does not open");
     }
 
+    /// Waits for what the drafts' worker has to do, and for what follows from that.
+    void settle() const
+    {
+        DraftStore &drafts = test.core.currentSafe()->drafts();
+        QSignalSpy loaded(&drafts, &DraftStore::loaded);
+        drafts.loadAsync();
+        if (!loaded.wait())
+            qFatal("The drafts are not read");
+    }
+
+    /// While the folder is away nothing can be saved.
+    void takeAway(const std::function<void()> &act)
+    {
+        const std::shared_ptr<GPMSafe> safe = test.core.currentSafe();
+        const QString content = safe->folder() + QStringLiteral("/content");
+        if (!safe->saveChanges() || !QDir().rename(content, content + QStringLiteral("-away")))
+            qFatal("The folder is in use");
+        act();
+        QDir().rename(content + QStringLiteral("-away"), content);
+    }
+    void saveInVain()
+    {
+        QSignalSpy saved(test.core.currentSafe().get(), &GPMSafe::saved);
+        click("saveButton");
+        if (!saved.wait() || saved.last().first().toBool())
+            qFatal("Saving should fail");
+    }
+
     QString addAndEdit(const QString &title, const QString &userName)
     {
         const QString id = test.addLogin(title);
@@ -363,6 +391,84 @@ private Q_SLOTS:
         QCOMPARE(desk.files().size(), 1);
         QTest::keyClick(desk.view.get(), Qt::Key_S, Qt::ControlModifier);
         QTRY_COMPARE(desk.files().size(), 0);
+    }
+
+    void whatCouldNotBeSavedIsKeptByTheLock()
+    {
+        Desk desk;
+        const QString id = desk.test.addLogin(QStringLiteral("Shop"));
+        desk.takeAway([&] {
+            desk.test.login(id)->setLogin(QStringLiteral("bea"));
+            desk.test.addLogin(QStringLiteral("New"));
+            desk.lock();
+        });
+        QCOMPARE(desk.files().size(), 2);
+        desk.unlock();
+        for (int i = 0; i < 2; ++i) {
+            desk.click("continueDraftButton");
+            desk.click("saveButton");
+        }
+        // The item had not changed meanwhile, about which would have been asked.
+        QVERIFY(desk.asker.asked.isEmpty());
+        QTRY_COMPARE(desk.files(), QStringList());
+        QCOMPARE(desk.test.core.currentSafe()->itemCount(), 2);
+        QCOMPARE(desk.test.login(id)->login(), QStringLiteral("bea"));
+    }
+
+    void aDraftOutlivesALockWithoutASave()
+    {
+        Desk desk;
+        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        QTRY_COMPARE(desk.files().size(), 1);
+        desk.takeAway([&] {
+            desk.saveInVain();
+            desk.lock();
+        });
+        desk.unlock();
+        QVERIFY(!desk.offer().isEmpty());
+        // It was kept twice, and is offered once.
+        desk.settle();
+        QCOMPARE(desk.files().size(), 1);
+        // A save of something else does not end what nobody has decided about.
+        QSignalSpy saved(desk.test.core.currentSafe().get(), &GPMSafe::saved);
+        desk.test.addLogin(QStringLiteral("Other"));
+        QVERIFY(saved.wait());
+        desk.settle();
+        QCOMPARE(desk.files().size(), 1);
+    }
+
+    void aDraftOutlivesNewWindowsWithoutASave()
+    {
+        Desk desk;
+        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        QTRY_COMPARE(desk.files().size(), 1);
+        desk.takeAway([&] {
+            desk.saveInVain();
+            desk.start();
+            desk.settle();
+            desk.settle();
+            QCOMPARE(desk.files().size(), 1);
+        });
+    }
+
+    void aCorrectedDateTakesThePlaceOfTheUnfinishedOne()
+    {
+        Desk desk;
+        desk.view->createItem(PMListItem::CreditCard);
+        desk.type("titleField", QStringLiteral("Card"));
+        desk.type("expireField", QStringLiteral("1"));
+        desk.lock();
+        desk.unlock();
+        desk.click("continueDraftButton");
+        QCOMPARE(desk.typed("expireField"), QStringLiteral("1"));
+        desk.type("expireField", QStringLiteral("03 / 2031"));
+        desk.lock();
+        desk.unlock();
+        desk.click("continueDraftButton");
+        QCOMPARE(desk.typed("expireField"), QStringLiteral("03 / 2031"));
+        desk.click("saveButton");
+        const PMListItem *item = desk.test.core.currentSafe()->items().front();
+        QVERIFY(item->unknownKeys().document.isEmpty());
     }
 
     void everyKindGoesThroughTheEditorsDraft_data()

@@ -27,9 +27,17 @@ KeptDraft keptDraft(const PMListItem &item, const ItemDraft &draft)
             unfinished.insert(QLatin1String(field.property), value.toString());
     }
     kept.document = PMItemDocument::fromItem(*copy);
+    kept.document.unknown.remove(unfinishedKey);
     if (!unfinished.isEmpty())
         kept.document.unknown.insert(unfinishedKey, unfinished);
     return kept;
+}
+
+std::unique_ptr<PMListItem> itemOfDraft(const KeptDraft &kept)
+{
+    PMItemDocument document = kept.document;
+    document.unknown.remove(unfinishedKey);
+    return document.toItem();
 }
 
 void restoreDraft(ItemDraft &draft, const KeptDraft &kept)
@@ -58,6 +66,13 @@ bool holdsDraft(const PMListItem &item, const KeptDraft &kept)
     PMItemDocument then = kept.document;
     for (const char *name : {"modified", "lastAccessed", "useCount", "favorite", "deleted", "refs",
                              "icon", "secondaryText"}) {
+        now.publicFields.remove(QLatin1String(name));
+        then.publicFields.remove(QLatin1String(name));
+    }
+    // A new item gets these as it is saved.
+    for (const char *name : {"id", "created"}) {
+        if (!kept.isNew)
+            break;
         now.publicFields.remove(QLatin1String(name));
         then.publicFields.remove(QLatin1String(name));
     }

@@ -26,6 +26,8 @@ DraftKeeper::DraftKeeper(GPMAppCore &core, ItemPane &pane, QObject *parent)
     connect(&pane, &ItemPane::editEnded, this, &DraftKeeper::onEnded);
     connect(&core, &GPMAppCore::requestKeepDraft, this, &DraftKeeper::onKeepRequested);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &DraftKeeper::followSafe);
+    // What was not written by then is offered again; a later save tells nothing of it.
+    connect(&core, &GPMAppCore::safeLockedChanged, this, [this] { m_savedKeys.clear(); });
     followSafe();
 }
 

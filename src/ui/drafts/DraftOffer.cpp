@@ -69,7 +69,7 @@ bool DraftOffer::isOffering(const QString &key) const
 const PMListItem *DraftOffer::itemOf(const KeptDraft &draft) const
 {
     const QString id = draft.document.publicFields.value(QStringLiteral("id")).toString();
-    const PMListItem *item = draft.isNew || !m_safe ? nullptr : m_safe->item(id);
+    const PMListItem *item = m_safe ? m_safe->item(id) : nullptr;
     return item && item->type() == draft.document.type ? item : nullptr;
 }
 
@@ -79,8 +79,16 @@ void DraftOffer::onLoaded(const QVector<KeptDraft> &drafts, const QStringList &u
         if (draft.key == m_keeper.key() || isOffering(draft.key))
             continue;
         const PMListItem *item = itemOf(draft);
-        // Saved in the last moment: nothing is left to continue.
-        if (item && !item->deleted() && holdsDraft(*item, draft))
+        const bool held = item && !item->deleted() && holdsDraft(*item, draft);
+        // Not on the disk yet, and the disk may be full.
+        if (held && item->isChanged())
+            continue;
+        // Saved in the last moment, or kept twice: nothing is left to continue.
+        const bool twice =
+            std::any_of(m_drafts.begin(), m_drafts.end(), [&draft](const KeptDraft &other) {
+                return holdsDraft(*other.document.toItem(), draft);
+            });
+        if (held || twice)
             m_safe->drafts().remove(draft.key);
         else
             m_drafts.append(draft);

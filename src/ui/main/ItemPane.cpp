@@ -225,9 +225,11 @@ void ItemPane::continueDraft(const KeptDraft &draft, const PMListItem *item)
         m_baseModified = item->modified();
         m_editor->setItem(item, false, &draft);
     } else {
-        const std::unique_ptr<PMListItem> kept = draft.document.toItem();
+        const std::unique_ptr<PMListItem> kept = itemOfDraft(draft);
         m_newItem = m_core.modelCreateItem(kept->type());
-        // What no editor shows.
+        // What no editor shows. The bytes of an attachment lie under its id.
+        if (draft.isNew && !m_core.currentSafe()->item(kept->id()))
+            m_newItem->setId(kept->id());
         m_newItem->setFavorite(kept->favorite());
         m_newItem->setRefs(kept->refs());
         m_newItem->setUnknownKeys(kept->unknownKeys());
