@@ -361,15 +361,18 @@ QStringList GPMAppCore::attachmentsGoingWith(const QStringList &itemIds) const
     QSet<QString> kept;
     if (!m_safe)
         return going;
+    const QSet<QString> ids(itemIds.begin(), itemIds.end());
     for (const PMListItem *item : m_safe->items()) {
         const QStringList refs = item->refs();
-        if (!itemIds.contains(item->id())) {
+        if (refs.isEmpty())
+            continue;
+        if (!ids.contains(item->id())) {
             kept.unite(QSet<QString>(refs.begin(), refs.end()));
             continue;
         }
         for (const QString &id : refs) {
             const PMListItem *other = m_safe->item(id);
-            if (other && other->type() == PMListItem::Attachment && !itemIds.contains(id))
+            if (other && other->type() == PMListItem::Attachment && !ids.contains(id))
                 going.append(id);
         }
     }
@@ -381,15 +384,19 @@ QStringList GPMAppCore::attachmentsGoingWith(const QStringList &itemIds) const
 
 void GPMAppCore::dropReferences(const QStringList &ids)
 {
+    QSet<QString> gone;
+    for (const QString &id : ids) {
+        if (!m_safe->item(id))
+            gone.insert(id);
+    }
     bool changed = false;
     for (PMListItem *item : m_safe->items()) {
         QStringList refs = item->refs();
-        for (const QString &id : ids) {
-            if (!m_safe->item(id))
-                refs.removeAll(id);
-        }
-        if (refs == item->refs())
+        const auto kept = std::remove_if(refs.begin(), refs.end(),
+                                         [&gone](const QString &id) { return gone.contains(id); });
+        if (kept == refs.end())
             continue;
+        refs.erase(kept, refs.end());
         item->setRefs(refs);
         changed = true;
     }

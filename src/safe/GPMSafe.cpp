@@ -9,10 +9,12 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFutureWatcher>
 #include <QLockFile>
 #include <QMutexLocker>
+#include <QSet>
 #include <QUuid>
 #include <QtConcurrent>
 
@@ -486,11 +488,12 @@ bool GPMSafe::removeItems(const QStringList &ids)
         return false;
     // A write still under way would bring the file back.
     m_writer.waitForDone();
+    const QHash<QString, QStringList> files = filesOf(ids);
     bool good = true;
     for (const QString &id : ids) {
         if (!m_items.item(id))
             continue;
-        if (!removeFiles(id)) {
+        if (!removeFiles(files.value(id))) {
             good = false;
             continue;
         }
@@ -501,22 +504,33 @@ bool GPMSafe::removeItems(const QStringList &ids)
     return good;
 }
 
-bool GPMSafe::removeFiles(const QString &id)
+QHash<QString, QStringList> GPMSafe::filesOf(const QStringList &ids) const
 {
-    // Every generation: one that an earlier change of password left could come to life again.
-    bool good = true;
+    // Every generation: one that an earlier change of password left could come to life again. The
+    // folders are listed once, since each listing takes as long as there are items.
+    const QSet<QString> wanted(ids.begin(), ids.end());
+    QHash<QString, QStringList> files;
     for (const char *inner : {SafeLayout::content, SafeLayout::attachment}) {
-        const QDir place(m_folder.path(inner));
-        const QStringList names = place.entryList(QDir::Files);
-        for (const QString &name : names) {
-            if (ItemFileName::parse(name).id != id)
-                continue;
-            if (m_environment.files->remove(place.filePath(name)))
-                continue;
-            qWarning() << "GPMSafe::removeItems"
-                       << "Can't remove item file:" << place.filePath(name);
-            good = false;
+        QDirIterator each(m_folder.path(inner), QDir::Files);
+        while (each.hasNext()) {
+            const QString path = each.next();
+            const QString id = ItemFileName::parse(each.fileName()).id;
+            if (wanted.contains(id))
+                files[id].append(path);
         }
+    }
+    return files;
+}
+
+bool GPMSafe::removeFiles(const QStringList &paths)
+{
+    bool good = true;
+    for (const QString &path : paths) {
+        if (m_environment.files->remove(path))
+            continue;
+        qWarning() << "GPMSafe::removeItems"
+                   << "Can't remove item file:" << path;
+        good = false;
     }
     return good;
 }

@@ -10,6 +10,7 @@
 #include "SafeUnlock.h"
 #include "SaveJob.h"
 
+#include <QHash>
 #include <QMutex>
 #include <QObject>
 #include <QThreadPool>
@@ -155,7 +156,8 @@ private:
     void onUnlockFinished(SafeUnlock::Outcome outcome);
     SaveJob makeSaveJob();
     void keepUnsaved();
-    bool removeFiles(const QString &id);
+    QHash<QString, QStringList> filesOf(const QStringList &ids) const;
+    bool removeFiles(const QStringList &paths);
     bool prepareAttachment(PMListItem &item) const;
     void takeAttachment(AttachmentIntake::Arrival arrival);
 

@@ -89,8 +89,10 @@ void ItemListView::selectionChanged(const QItemSelection &selected,
 bool ItemListView::isAhead() const
 {
     // A row is selected first and becomes the current one then.
-    const QModelIndexList rows = selectionModel()->selectedIndexes();
-    return rows.size() == 1 && rows.first() != currentIndex();
+    // Asked for every row that goes, it must not look at all that are selected.
+    const QItemSelection selection = selectionModel()->selection();
+    return selection.size() == 1 && selection.first().height() == 1 &&
+           selection.first().topLeft() != currentIndex();
 }
 
 template <typename Handler>
