@@ -7,6 +7,7 @@
 #include "style/Theme.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
@@ -441,6 +442,8 @@ void TestSettingsDialog::languageWithoutRestart()
     QVERIFY(program.ui.setLanguage(QStringLiteral("passwordmanager_en")));
     QTRY_COMPARE(lockName(), QStringLiteral("Lock"));
     QVERIFY(find<QLineEdit>(*program.ui.mainWindow(), "masterPassword")->isVisible());
+    QCOMPARE(find<QComboBox>(*program.ui.mainWindow(), "safeSelector")->currentText(),
+             program.test.core.currentSafe()->name());
     QVERIFY(!program.ui.setLanguage(QStringLiteral("passwordmanager_nowhere")));
 }
 

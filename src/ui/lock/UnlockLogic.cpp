@@ -19,6 +19,9 @@ UnlockLogic::UnlockLogic(GPMAppCore &core, QObject *parent)
         m_total = total;
         Q_EMIT changed();
     });
+    // A page that is made anew, in another language for one, shows the safe that was chosen.
+    if (const std::shared_ptr<GPMSafe> &safe = core.currentSafe())
+        m_folder = safe->folder();
     reload();
 }
 
