@@ -1,5 +1,6 @@
 #include "FieldRow.h"
 
+#include "PasswordStrength.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Badge.h"
@@ -141,7 +142,11 @@ void FieldRow::setStrength(int level)
 {
     auto *meter = new StrengthMeter(m_theme, this);
     meter->setLevel(level);
+    meter->hideWord();
     m_texts->addWidget(meter, 0, Qt::AlignLeft);
+    static const Palette::Role roles[] = {Palette::Terrible, Palette::Weak, Palette::Good,
+                                          Palette::Strong};
+    setBadge(passwordStrengthLabel(level), roles[qBound(1, level, 4) - 1]);
 }
 
 void FieldRow::setBadge(const QString &text, Palette::Role role)
@@ -156,6 +161,10 @@ void FieldRow::setBadge(const QString &text, Palette::Role role)
 
 void FieldRow::setRevealed(bool revealed)
 {
+    // A long password takes the lines that it needs; dots stand beside their badge.
+    const bool hasBadge = m_line->count() > 1;
+    m_text->setWordWrap(revealed || !hasBadge);
+    m_line->setStretch(0, revealed || !hasBadge ? 1 : 0);
     if (revealed) {
         // In letters of one width that do not look alike.
         const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);

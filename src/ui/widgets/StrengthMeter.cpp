@@ -26,6 +26,13 @@ StrengthMeter::StrengthMeter(const Theme &theme, QWidget *parent)
     connect(&theme, &Theme::changed, this, QOverload<>::of(&QWidget::update));
 }
 
+void StrengthMeter::hideWord()
+{
+    m_showsWord = false;
+    updateGeometry();
+    update();
+}
+
 void StrengthMeter::setLevel(int level)
 {
     m_level = level;
@@ -44,13 +51,15 @@ QFont StrengthMeter::badgeFont() const
 
 QSize StrengthMeter::sizeHint() const
 {
+    const int allBars = bars * barWidth + (bars - 1) * barGap;
+    if (!m_showsWord)
+        return {allBars, 2 * barHeight};
     // The widest word, so that the width stays while one types.
     int word = 0;
     for (int level = 1; level <= bars; ++level)
         word =
             qMax(word, QFontMetrics(badgeFont()).horizontalAdvance(passwordStrengthLabel(level)));
-    return {bars * barWidth + (bars - 1) * barGap + badgeGap + word + 2 * badgePadding,
-            Style::scaled(badgeHeight)};
+    return {allBars + badgeGap + word + 2 * badgePadding, Style::scaled(badgeHeight)};
 }
 
 void StrengthMeter::paintEvent(QPaintEvent *)
@@ -69,6 +78,8 @@ void StrengthMeter::paintEvent(QPaintEvent *)
                                 1.5);
     }
 
+    if (!m_showsWord)
+        return;
     const QString word = passwordStrengthLabel(m_level);
     const int badgeSide = Style::scaled(badgeHeight);
     const QFont font = badgeFont();

@@ -12,6 +12,9 @@ class StrengthMeter : public QWidget
 public:
     StrengthMeter(const Theme &theme, QWidget *parent);
 
+    /// Shows the bars alone, where the word stands elsewhere.
+    void hideWord();
+
     /// 1 to 4; 0 shows nothing.
     void setLevel(int level);
 
@@ -26,4 +29,5 @@ private:
 
     const Theme &m_theme;
     int m_level = 0;
+    bool m_showsWord = true;
 };
