@@ -58,6 +58,8 @@ int ItemListModel::rowCount(const QModelIndex &parent) const
 QVariant ItemListModel::data(const QModelIndex &index, int role) const
 {
     const PMListItem *item = itemAt(index);
+    if (item && role == Qt::AccessibleTextRole && m_describe)
+        return m_describe(*item);
     return item ? itemData(*item, role) : QVariant();
 }
 

@@ -7,6 +7,7 @@
 #include <QCollator>
 #include <QHash>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -48,6 +49,10 @@ public:
     explicit ItemListModel(QObject *parent = nullptr);
     ~ItemListModel() override;
 
+    /// What assistive tools say of a row; without it they say the title.
+    using Describer = std::function<QString(const PMListItem &item)>;
+    void setDescriber(const Describer &describe) { m_describe = describe; }
+
     /// Shows another safe, or none.
     void setSafe(const std::shared_ptr<GPMSafe> &safe);
 
@@ -80,6 +85,7 @@ private:
     void onItemChanged(Entry &entry);
     void announceChange();
 
+    Describer m_describe;
     std::shared_ptr<GPMSafe> m_safe;
     QCollator m_collator;
     std::vector<std::unique_ptr<Entry>> m_entries;

@@ -9,6 +9,7 @@
 #include "editor/ItemDraft.h"
 #include "editor/ItemSummary.h"
 #include "main/ItemFields.h"
+#include "main/ItemKinds.h"
 
 #include <QMetaProperty>
 #include <QTemporaryDir>
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void cardNumbers_data();
     void cardNumbers();
     void summariesNameTheItemAlone();
+    void rowsSayWhatIsPaintedOnThem();
     void draftLeavesTheItemAlone();
     void writingCompletesTheLogin();
 
@@ -235,6 +237,21 @@ void TestItemFields::summariesNameTheItemAlone()
     QCOMPARE(summary(PMListItem::SSN, {{"number", "QQ123456C"}}), QString());
     QCOMPARE(summary(PMListItem::SecureNote, {{"text", "the code is 1234"}}), QString());
     QCOMPARE(summary(PMListItem::SoftwareLicense, {{"licenseKey", "ABCD-1234-5678"}}), QString());
+}
+
+void TestItemFields::rowsSayWhatIsPaintedOnThem()
+{
+    PMCreditCard card;
+    card.setTitle(QStringLiteral("Travel card"));
+    card.setSecondaryText(QStringLiteral("Bank of the North"));
+    const QDate today(2026, 12, 1);
+    QCOMPARE(itemDescription(card, today),
+             QStringLiteral("Travel card, Credit card, Bank of the North"));
+    card.setFavorite(true);
+    card.setExpire({2026, 12, 0});
+    QCOMPARE(itemDescription(card, today),
+             QStringLiteral("Travel card, Credit card, Bank of the North, Favourite, Expires in 30 "
+                            "days"));
 }
 
 void TestItemFields::draftLeavesTheItemAlone()

@@ -64,7 +64,7 @@ FindingRow::FindingRow(const HealthFinding &finding, const PMListItem &item, con
     , m_ignore(makeButton(finding.ignored ? tr("Stop ignoring") : tr("Ignore"), "plain", this))
 {
     setFixedHeight(Style::scaled(rowHeight));
-    auto *tile = new Tile(tileSize, this);
+    auto *tile = new Tile(tileSize, theme, this);
     tile->setItem(item.title(), item.type());
     auto *title = new ElidedLabel("itemTitle", this);
     title->setFullText(item.title());

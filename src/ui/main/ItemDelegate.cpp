@@ -20,7 +20,6 @@ const int rowHeight = 52;
 const int tileSize = 34;
 const int starSize = 16;
 const int inset = 6;
-const int iconInset = 5;
 const int badgeHeight = 18;
 const int badgeTextSize = 11;
 
@@ -121,23 +120,13 @@ void ItemDelegate::paintGround(QPainter &painter, const QRect &row,
 void ItemDelegate::paintTile(QPainter &painter, const QRectF &tile, const QModelIndex &index) const
 {
     const auto type = static_cast<PMListItem::Type>(index.data(ItemListModel::TypeRole).toInt());
-    const int inner = tileSize - 2 * iconInset;
-    const int side = qRound(inner * painter.device()->devicePixelRatioF());
+    const int side = qRound(tileIconSide(tile) * painter.device()->devicePixelRatioF());
     const QPixmap icon =
         m_icons ? m_icons->icon(index.data(ItemListModel::IconRole).toString(), side) : QPixmap();
-    if (icon.isNull()) {
+    if (icon.isNull())
         ::paintTile(painter, tile, index.data().toString(), type);
-        return;
-    }
-    // Icons are made for a light ground, and come in any shape.
-    painter.setPen(m_theme.palette().color(Palette::Line));
-    painter.setBrush(Qt::white);
-    const qreal radius = tile.width() * 0.22;
-    painter.drawRoundedRect(tile.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-    QRectF place({}, QSizeF(icon.size()).scaled(inner, inner, Qt::KeepAspectRatio));
-    place.moveCenter(tile.center());
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(place, icon, QRectF(icon.rect()));
+    else
+        paintIconTile(painter, tile, icon, m_theme.palette().color(Palette::Line));
 }
 
 int ItemDelegate::paintBadge(QPainter &painter, const QRect &area, const QModelIndex &index) const

@@ -1,5 +1,8 @@
 #include "ItemKinds.h"
 
+#include "ExpiryText.h"
+#include "ItemExpiry.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -135,4 +138,15 @@ const char *userNameField(PMListItem::Type type)
     if (type == PMListItem::Login)
         return "login";
     return type == PMListItem::FtpAccount ? "username" : "";
+}
+
+QString itemDescription(const PMListItem &item, const QDate &today)
+{
+    QStringList parts{item.title(), itemKindName(item.type()), item.secondaryText()};
+    if (item.favorite())
+        parts << QCoreApplication::translate("ItemPage", "Favourite");
+    if (const std::optional<QDate> last = itemExpiry(item))
+        parts << expiryText(*last, today);
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
 }

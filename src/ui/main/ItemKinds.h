@@ -11,6 +11,9 @@ QString itemKindIcon(PMListItem::Type type);
 /// "New login", "New credit card", …
 QString newItemText(PMListItem::Type type);
 
+/// A row of the list in words: title, kind, second line, and the marks that are painted on it.
+QString itemDescription(const PMListItem &item, const QDate &today);
+
 /// "All items", "Logins", …
 QString categoryName(const ItemCategory &category);
 QString categoryIcon(const ItemCategory &category);

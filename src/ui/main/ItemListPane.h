@@ -32,6 +32,7 @@ public:
     void setCount(int inCategory, bool safeIsEmpty);
     void clearSearch();
     /// Where the icons of sites are; empty for nowhere.
+    SiteIcons &icons() { return *m_icons; }
     void setIconFolder(const QString &folder);
 
     /// The name of the order in which the items stand, and that order by its name.

@@ -8,6 +8,7 @@
 #include "PMCreditCard.h"
 #include "PMLogin.h"
 #include "RelativeDate.h"
+#include "SiteIcons.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
@@ -55,7 +56,7 @@ ItemPage::ItemPage(const GPMAppSettings &settings, const Theme &theme, QWidget *
 
 void ItemPage::makeHeader()
 {
-    m_tile = new Tile(tileSize, this);
+    m_tile = new Tile(tileSize, m_theme, this);
     m_title = new ElidedLabel("title", this);
     m_title->setObjectName(QStringLiteral("itemTitle"));
     m_subtitle = new ElidedLabel("muted", this);
@@ -145,7 +146,9 @@ void ItemPage::refresh()
 void ItemPage::showHeader()
 {
     const PMListItem::Type type = m_item ? m_item->type() : PMListItem::UndefinedItem;
-    m_tile->setItem(m_item ? m_item->title() : QString(), type);
+    const QPixmap icon =
+        m_item && m_icons ? m_icons->icon(m_item->icon(), m_tile->iconSide()) : QPixmap();
+    m_tile->setItem(m_item ? m_item->title() : QString(), type, icon);
     m_title->setFullText(m_item ? m_item->title() : QString());
     const QString place = m_item ? placeOf(*m_item) : QString();
     const QString kind = m_item ? itemKindName(type) : QString();

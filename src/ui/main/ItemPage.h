@@ -19,6 +19,7 @@ class QScrollArea;
 class QToolButton;
 class QVBoxLayout;
 class Theme;
+class SiteIcons;
 class Tile;
 
 /// Shows one item of any kind: its filled fields, and what was done with it.
@@ -33,6 +34,9 @@ public:
     /// Follows the item's changes until it goes; null shows nothing.
     void setItem(const PMListItem *item);
     const PMListItem *item() const { return m_item; }
+
+    /// Where the icons of sites come from; must outlive this.
+    void setIcons(SiteIcons &icons) { m_icons = &icons; }
 
     /// Puts a widget between the fields and the item's times.
     void setBelowFields(QWidget *widget);
@@ -71,6 +75,7 @@ private:
     QPointer<const PMListItem> m_item;
     QTimer m_refresh;
     QScrollArea *m_scroll;
+    SiteIcons *m_icons = nullptr;
     Tile *m_tile;
     ElidedLabel *m_title;
     ElidedLabel *m_subtitle;

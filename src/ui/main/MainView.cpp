@@ -3,6 +3,7 @@
 #include "Banner.h"
 #include "GPMAppCore.h"
 #include "ItemActions.h"
+#include "ItemKinds.h"
 #include "ItemListPane.h"
 #include "ItemMenu.h"
 #include "ItemPage.h"
@@ -60,6 +61,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_list = new ItemListPane(m_items, theme, m_splitter);
     m_right = new QStackedWidget(m_splitter);
     m_pane = new ItemPane(core, theme, asker, m_right);
+    m_pane->page().setIcons(m_list->icons());
     m_selection = new SelectionPage(theme, m_right);
     m_right->addWidget(m_pane);
     m_right->addWidget(m_selection);
@@ -72,6 +74,8 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     connectParts();
     connectItemPane();
     addShortcuts();
+    m_items.setDescriber(
+        [this](const PMListItem &item) { return itemDescription(item, m_list->filter().today()); });
     showCategory({});
 }
 

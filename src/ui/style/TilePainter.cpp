@@ -4,6 +4,7 @@
 #include "main/ItemKinds.h"
 
 #include <QPainter>
+#include <QPixmap>
 
 #include <array>
 
@@ -50,5 +51,27 @@ void paintTile(QPainter &painter, const QRectF &rect, const QString &title, PMLi
         paintSvg(painter, rect.adjusted(inset, inset, -inset, -inset), itemKindIcon(type),
                  Qt::white);
     }
+    painter.restore();
+}
+
+qreal tileIconSide(const QRectF &tile)
+{
+    return tile.width() * 0.7;
+}
+
+void paintIconTile(QPainter &painter, const QRectF &rect, const QPixmap &icon, const QColor &line)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // Icons are made for a light ground, and come in any shape.
+    painter.setPen(line);
+    painter.setBrush(Qt::white);
+    const qreal radius = rect.width() * 0.22;
+    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    const qreal side = tileIconSide(rect);
+    QRectF place({}, QSizeF(icon.size()).scaled(side, side, Qt::KeepAspectRatio));
+    place.moveCenter(rect.center());
+    painter.drawPixmap(place, icon, QRectF(icon.rect()));
     painter.restore();
 }
