@@ -28,7 +28,7 @@ int main(int argc, char *argv[])
             const QString file = QStringLiteral("%1/%2-%3.png")
                                      .arg(folder, QLatin1String(shown.name),
                                           dark ? QStringLiteral("dark") : QStringLiteral("light"));
-            if (!window || !window->grab().save(file)) {
+            if (!window || !window->grab().save(file, "PNG", 0)) {
                 qWarning() << "No picture of" << shown.name;
                 return 1;
             }
