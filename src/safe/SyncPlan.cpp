@@ -1,0 +1,203 @@
+#include "SyncPlan.h"
+
+#include <QUuid>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+using Source = SyncActions::Source;
+
+enum class State {
+    Same,      ///< the file that both sides had
+    Rewritten, ///< the same item under other bytes, as under another password
+    Changed,
+};
+
+State stateOf(const SyncVersion &version, const std::optional<SyncItem::Met> &met)
+{
+    if (!met)
+        return State::Changed;
+    if (version.hash == met->hash)
+        return State::Same;
+    return version.modified == met->modified ? State::Rewritten : State::Changed;
+}
+
+/// The versions of both sides that can be read.
+QVector<Source> readableOf(const SyncItem &item)
+{
+    QVector<Source> list;
+    const auto add = [&list](SyncSide side, const QVector<SyncVersion> &versions) {
+        for (const SyncVersion &version : versions) {
+            if (version.readable)
+                list.append({side, version});
+        }
+    };
+    add(SyncSide::Local, item.local);
+    add(SyncSide::Mirror, item.mirror);
+    return list;
+}
+
+QVector<Source> inState(State state, const QVector<Source> &sources, const SyncItem &item)
+{
+    QVector<Source> list;
+    for (const Source &source : sources) {
+        if (stateOf(source.version, item.met) == state)
+            list.append(source);
+    }
+    return list;
+}
+
+/// Every computer that sees the same versions chooses the same one.
+Source latest(const QVector<Source> &sources)
+{
+    const auto order = [](const Source &a, const Source &b) {
+        return std::tie(a.version.modified, a.version.hash) <
+               std::tie(b.version.modified, b.version.hash);
+    };
+    return *std::max_element(sources.begin(), sources.end(), order);
+}
+
+/// Of files that hold the same item, the mirror's: the other computers have it already.
+Source latestRewritten(const QVector<Source> &sources)
+{
+    const auto rank = [](const Source &source) {
+        return std::make_tuple(source.side == SyncSide::Mirror, source.version.item.generation,
+                               source.version.hash);
+    };
+    return *std::max_element(
+        sources.begin(), sources.end(),
+        [&rank](const Source &a, const Source &b) { return rank(a) < rank(b); });
+}
+
+/// The versions that came about independently of each other, so that all but one of them lose.
+QVector<Source> competing(const QVector<Source> &readable, const SyncItem &item)
+{
+    const QVector<Source> changed = inState(State::Changed, readable, item);
+    const auto isOn = [&changed](SyncSide side) {
+        return std::any_of(changed.begin(), changed.end(),
+                           [side](const Source &source) { return source.side == side; });
+    };
+    const auto isEarlier = [&item](const SyncVersion &version) {
+        return !version.readable || (item.met && version.hash == item.met->hash);
+    };
+    // Beside the file that both had, not in its place: who wrote it had not seen that file. A
+    // provider's conflict copy is such a one, and what another computer wrote under a new password.
+    const bool beside = isOn(SyncSide::Mirror) && !isOn(SyncSide::Local) &&
+                        std::any_of(item.mirror.begin(), item.mirror.end(), isEarlier);
+    return beside ? readable : changed;
+}
+
+Source chooseWinner(const QVector<Source> &readable, const QVector<Source> &competitors,
+                    const SyncItem &item)
+{
+    if (!competitors.isEmpty())
+        return latest(competitors);
+    const QVector<Source> rewritten = inState(State::Rewritten, readable, item);
+    return rewritten.isEmpty() ? readable.first() : latestRewritten(rewritten);
+}
+
+/// Copies of those versions whose content neither the winner nor an earlier copy has.
+QVector<SyncActions::Copy> keepAll(const QString &id, const QVector<Source> &losers,
+                                   const QByteArray &winnerContent, qint64 winnerModified)
+{
+    QVector<SyncActions::Copy> copies;
+    for (const Source &loser : losers) {
+        const bool kept = loser.version.content == winnerContent ||
+                          std::any_of(copies.begin(), copies.end(), [&loser](const auto &copy) {
+                              return copy.source.version.content == loser.version.content;
+                          });
+        if (!kept)
+            copies.append({syncCopyId(id, loser.version.hash), loser, winnerModified});
+    }
+    return copies;
+}
+
+bool holds(const QVector<SyncVersion> &versions, const QString &fileName, const QString &hash)
+{
+    return std::any_of(versions.begin(), versions.end(), [&](const SyncVersion &version) {
+        return version.fileName == fileName && version.hash == hash;
+    });
+}
+
+/// The files of a side that the target stands for. One that does not open goes only when it is
+/// what both sides had: then it is of an earlier password.
+QStringList supersededFiles(const QVector<SyncVersion> &versions, const SyncItem &item,
+                            const QString &target)
+{
+    QStringList names;
+    for (const SyncVersion &version : versions) {
+        const bool known = item.met && version.hash == item.met->hash;
+        if (version.fileName != target && (version.readable || known))
+            names.append(version.fileName);
+    }
+    return names;
+}
+
+/// Whether a file that is not whole, or of another password, lies where the target has to go.
+bool isBlocked(const QVector<SyncVersion> &versions, const SyncItem &item, const QString &target)
+{
+    return std::any_of(versions.begin(), versions.end(), [&](const SyncVersion &version) {
+        return version.fileName == target && !version.readable &&
+               !(item.met && version.hash == item.met->hash);
+    });
+}
+
+} // namespace
+
+QString syncCopyId(const QString &id, const QString &hash)
+{
+    static const QUuid space(QStringLiteral("{8d1f5a0e-6a0b-4c57-9a43-51c6f0e1d2b7}"));
+    return QUuid::createUuidV5(space, id + QLatin1Char(' ') + hash).toString(QUuid::WithoutBraces);
+}
+
+SyncActions planSync(const SyncItem &item)
+{
+    SyncActions actions;
+    const QVector<Source> readable = readableOf(item);
+    const auto isWaiting = [&item](const SyncVersion &version) {
+        return !version.readable && !(item.met && version.hash == item.met->hash);
+    };
+    actions.waiting = std::any_of(item.mirror.begin(), item.mirror.end(), isWaiting);
+    const bool goes = item.deleted &&
+                      std::all_of(readable.begin(), readable.end(), [&item](const Source &source) {
+                          return source.version.modified <= *item.deleted;
+                      });
+    if (goes) {
+        actions.deletionWins = true;
+        // Who deleted it would have removed a file that does not open here, had that been seen.
+        const bool unseen = std::any_of(item.mirror.begin(), item.mirror.end(),
+                                        [](const SyncVersion &file) { return !file.readable; });
+        actions.copies =
+            keepAll(item.id, unseen ? readable : inState(State::Changed, readable, item), {},
+                    *item.deleted);
+        actions.removeLocal = supersededFiles(item.local, item, {});
+        actions.removeMirror = supersededFiles(item.mirror, item, {});
+        return actions;
+    }
+    if (readable.isEmpty())
+        return actions;
+
+    const QVector<Source> competitors = competing(readable, item);
+    const Source winner = chooseWinner(readable, competitors, item);
+    ItemFileName target{item.id, 0};
+    for (const Source &source : readable)
+        target.generation = std::max(target.generation, source.version.item.generation);
+    if (isBlocked(item.mirror, item, target.text()) || isBlocked(item.local, item, target.text())) {
+        actions.waiting = true;
+        return actions;
+    }
+    QVector<Source> losers = competitors;
+    // An older version that comes from outside may be one that the provider restored.
+    if (winner.side == SyncSide::Mirror && item.met && winner.version.modified < item.met->modified)
+        losers += readable;
+    actions.winner = winner;
+    actions.target = target;
+    actions.copies = keepAll(item.id, losers, winner.version.content, winner.version.modified);
+    actions.toLocal = !holds(item.local, target.text(), winner.version.hash);
+    actions.toMirror = !holds(item.mirror, target.text(), winner.version.hash);
+    actions.removeLocal = supersededFiles(item.local, item, target.text());
+    actions.removeMirror = supersededFiles(item.mirror, item, target.text());
+    return actions;
+}
