@@ -28,7 +28,9 @@ elseif(MSVC)
 endif()
 if(GLACERON_SANITIZE)
   target_compile_options(glaceron_options INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer
+    # The compiler takes the sanitizers' own variables for ours.
+    -Wno-maybe-uninitialized)
   target_link_options(glaceron_options INTERFACE -fsanitize=address,undefined)
 endif()
 
