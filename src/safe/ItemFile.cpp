@@ -44,8 +44,8 @@ std::optional<PMItemDocument> readItemFile(FileLayer &files, const QString &path
     return document;
 }
 
-bool writeItemFile(const SafeEnvironment &environment, const QString &path,
-                   const QByteArray &password, const PMItemDocument &document)
+std::optional<QByteArray> encryptItem(const SafeEnvironment &environment,
+                                      const QByteArray &password, const PMItemDocument &document)
 {
     const auto encrypt = [&](const QByteArray &plain) -> std::optional<QString> {
         QString secret;
@@ -55,9 +55,16 @@ bool writeItemFile(const SafeEnvironment &environment, const QString &path,
     };
     std::optional<QByteArray> json = document.toJson(encrypt);
     if (!json)
-        return false;
+        return std::nullopt;
     QString text;
     const bool encrypted = encryptString(password, *json, text, environment.random);
     wipe(*json);
-    return encrypted && environment.files->writeBytes(path, text.toLatin1());
+    return encrypted ? std::make_optional(text.toLatin1()) : std::nullopt;
+}
+
+bool writeItemFile(const SafeEnvironment &environment, const QString &path,
+                   const QByteArray &password, const PMItemDocument &document)
+{
+    const std::optional<QByteArray> text = encryptItem(environment, password, document);
+    return text && environment.files->writeBytes(path, *text);
 }

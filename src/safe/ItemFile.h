@@ -27,6 +27,10 @@ bool isInterruptedWrite(const QString &fileName);
 std::optional<PMItemDocument> readItemFile(FileLayer &files, const QString &path,
                                            const QByteArray &password);
 
+/// The text of an item's file; nothing when there are no random bytes.
+std::optional<QByteArray> encryptItem(const SafeEnvironment &environment,
+                                      const QByteArray &password, const PMItemDocument &document);
+
 /// Encrypts and writes an item file; the former content stays when that fails.
 bool writeItemFile(const SafeEnvironment &environment, const QString &path,
                    const QByteArray &password, const PMItemDocument &document);

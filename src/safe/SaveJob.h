@@ -30,6 +30,8 @@ struct SaveJob
     QVector<Item> items;
     QByteArray description; ///< the safe's description with its new time of change
 
+    QString path(const Item &item) const;
+
     struct Result
     {
         QVector<Item> saved;     ///< without documents
@@ -37,6 +39,7 @@ struct SaveJob
         bool good() const { return failedPaths.isEmpty(); }
     };
 
-    /// Writes every item, those behind a failing one too, then the description.
+    /// Writes every item, those behind a failing one too, then the description. Encrypts on the
+    /// worker pool, and is not to be called from there.
     Result run() const;
 };
