@@ -67,11 +67,14 @@ struct TestAsker
 {
     int answer = 0;
     QVector<Question> asked;
+    std::function<void()> meanwhile; ///< what happens while a question is open
 
     Asker asker()
     {
         return [this](const Question &question) {
             asked.append(question);
+            if (meanwhile)
+                meanwhile();
             return answer;
         };
     }

@@ -213,6 +213,32 @@ private Q_SLOTS:
         QVERIFY(desk.asker.asked.isEmpty());
     }
 
+    void faultsAreToldWhenNothingWaitsForIt_data()
+    {
+        QTest::addColumn<bool>("locks");
+        QTest::newRow("during a drop") << false;
+        QTest::newRow("while the safe locks") << true;
+    }
+
+    void faultsAreToldWhenNothingWaitsForIt()
+    {
+        QFETCH(bool, locks);
+        Desk desk;
+        QVERIFY(desk.test.core.saveCurrentSafe());
+        QMimeData data;
+        const QString path = desk.file(QStringLiteral("a.txt"));
+        data.setUrls({QUrl::fromLocalFile(locks ? path : path + QStringLiteral(".gone"))});
+        const QString place = desk.test.core.currentSafe()->folder();
+        QVERIFY(QDir(place + QStringLiteral("/attachment")).removeRecursively());
+        QVERIFY(desk.drop(data));
+        if (locks)
+            desk.test.core.lockCurrentSafe();
+        // A question would hold up the other program's drag, or leave the safe open.
+        QVERIFY(desk.asker.asked.isEmpty());
+        QTRY_COMPARE(desk.asker.asked.size(), 1);
+        QCOMPARE(desk.test.core.currentSafe()->isUnlocked(), !locks);
+    }
+
     void dropsKeepTheirOrder()
     {
         Desk desk;

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void ignoredFindingsCanBeBroughtBack();
     void changeOpensTheEditor();
     void lockClosesTheWindow();
+    void lockDuringTheQuestionOfARow();
     void weakOnesAreFoundBySearch();
     void changePasswordPages_data();
     void changePasswordPages();
@@ -123,6 +124,19 @@ void TestHealth::lockClosesTheWindow()
     Program program;
     const QPointer<HealthDialog> dialog = program.open();
     program.test.core.lockCurrentSafe();
+    QVERIFY(!dialog);
+}
+
+void TestHealth::lockDuringTheQuestionOfARow()
+{
+    Program program;
+    const QPointer<HealthDialog> dialog = program.open();
+    program.view.createItem(PMListItem::Login);
+    find<QLineEdit>(program.view, "titleField")->setText(QStringLiteral("typed"));
+    program.asker.meanwhile = [&] { program.test.core.lockCurrentSafe(); };
+    auto *change = find<QPushButton>(*Program::rows(*dialog).first(), "changeButton");
+    QTest::mouseClick(change, Qt::LeftButton);
+    QCOMPARE(program.asker.asked.size(), 1);
     QVERIFY(!dialog);
 }
 

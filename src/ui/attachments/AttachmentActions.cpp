@@ -16,6 +16,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 #include <QUuid>
 #include <QtConcurrent>
@@ -172,7 +173,7 @@ void AttachmentActions::attach(const QVector<AttachmentInput> &inputs, const QSt
         safe->addAttachmentAsync(std::move(attachment), input.source, parentId);
     }
     if (m_pending.isEmpty())
-        tellFaults();
+        tellFaultsLater();
     else
         Q_EMIT pendingChanged();
 }
@@ -214,12 +215,18 @@ void AttachmentActions::onDone(const QString &id, const QString &title, Attachme
     if (fault == AttachmentFault::None && parentId.isEmpty())
         Q_EMIT added(id);
     if (m_pending.isEmpty())
-        tellFaults();
+        tellFaultsLater();
 }
 
 void AttachmentActions::addFault(const QString &name, AttachmentFault fault)
 {
     m_faults.append(tr("%1: %2").arg(name, faultText(fault)));
+}
+
+void AttachmentActions::tellFaultsLater()
+{
+    // A question here would hold up another program's drag, or the lock of the safe.
+    QTimer::singleShot(0, this, &AttachmentActions::tellFaults);
 }
 
 void AttachmentActions::tellFaults()

@@ -83,6 +83,7 @@ private:
     void followSafe();
     void onDone(const QString &id, const QString &title, AttachmentFault fault);
     void addFault(const QString &name, AttachmentFault fault);
+    void tellFaultsLater();
     void tellFaults();
     void onRequestLock();
     void showPreview(const QString &id, const std::optional<PreviewContent> &content);
