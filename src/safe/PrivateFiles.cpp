@@ -58,13 +58,17 @@ PrivateFiles::~PrivateFiles()
     wipe();
 }
 
-std::optional<QString> PrivateFiles::create(const QString &fileName, const Produce &produce)
+int PrivateFiles::wipes() const
 {
-    int wipes = 0;
-    {
-        const QMutexLocker locker(&m_mutex);
-        wipes = m_wipes;
-    }
+    const QMutexLocker locker(&m_mutex);
+    return m_wipes;
+}
+
+std::optional<QString> PrivateFiles::create(const QString &fileName, const Produce &produce,
+                                            int wipes)
+{
+    if (wipes != this->wipes())
+        return std::nullopt;
     std::array<unsigned char, 16> name = {};
     if (!m_random(name.data(), static_cast<int>(name.size())))
         return std::nullopt;

@@ -29,10 +29,15 @@ public:
     PrivateFiles(const PrivateFiles &) = delete;
     PrivateFiles &operator=(const PrivateFiles &) = delete;
 
+    /// How often the files were wiped; see create().
+    int wipes() const;
+
     /// Writes a file that can only be read and returns its path; nothing, with nothing left, when
-    /// that fails or the files are wiped meanwhile. On any thread.
+    /// that fails or the files were wiped since it was asked for. On any thread.
     /// @param fileName without folders
-    std::optional<QString> create(const QString &fileName, const Produce &produce);
+    /// @param wipes what wipes() said when the file was asked for, maybe long before a worker came
+    ///              to it
+    std::optional<QString> create(const QString &fileName, const Produce &produce, int wipes);
 
     /// Overwrites and removes every file, those of an earlier run too. What cannot be removed, as
     /// a file that another program holds open on some systems, is logged and tried again by the
@@ -44,6 +49,6 @@ private:
 
     QStringList m_places;
     RandomSource m_random;
-    QMutex m_mutex;
+    mutable QMutex m_mutex;
     int m_wipes = 0; ///< guarded by the mutex
 };

@@ -209,7 +209,7 @@ private Q_SLOTS:
         QVERIFY(m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), {}));
         const auto privateFile = [&] {
             return m_core->privateFiles()
-                .create(QStringLiteral("a.txt"), write)
+                .create(QStringLiteral("a.txt"), write, m_core->privateFiles().wipes())
                 .value_or(QString());
         };
         QString path = privateFile();

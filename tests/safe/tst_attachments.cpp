@@ -239,8 +239,10 @@ private Q_SLOTS:
         const QFile::Permissions whole = read | QFile::WriteOwner | QFile::ExeOwner;
         for (const QString &place : {runtime, QString()}) {
             PrivateFiles files(PrivateFiles::places(place, data));
-            const auto first = files.create(QStringLiteral("codes.txt"), produceSecret);
-            const auto second = files.create(QStringLiteral("codes.txt"), produceSecret);
+            const auto first =
+                files.create(QStringLiteral("codes.txt"), produceSecret, files.wipes());
+            const auto second =
+                files.create(QStringLiteral("codes.txt"), produceSecret, files.wipes());
             QVERIFY(first && second && *first != *second);
             QVERIFY(first->startsWith(place.isEmpty() ? data : runtime));
             QVERIFY(first->endsWith(QStringLiteral("/codes.txt")));
@@ -284,15 +286,20 @@ private Q_SLOTS:
         QVERIFY(PrivateFiles::places(runtime, QStringLiteral("/other")).first() != places.first());
     }
 
-    void aWipeStopsAFileThatIsBeingWritten()
+    void aWipeStopsWhatWasAskedForBefore()
     {
         QTemporaryDir folder;
         PrivateFiles files(PrivateFiles::places({}, folder.path()));
-        const auto path = files.create(QStringLiteral("late"), [&files](QIODevice &device) {
+        const auto late = [&files](QIODevice &device) {
             files.wipe();
             return produceSecret(device);
-        });
-        QVERIFY(!path);
+        };
+        QVERIFY(!files.create(QStringLiteral("being written"), late, files.wipes()));
+        QCOMPARE(filesBelow(folder.path()), QStringList());
+        // A worker may come to it only then.
+        const int wipes = files.wipes();
+        files.wipe();
+        QVERIFY(!files.create(QStringLiteral("waiting"), produceSecret, wipes));
         QCOMPARE(filesBelow(folder.path()), QStringList());
     }
 };

@@ -350,8 +350,9 @@ void AttachmentActions::openElsewhere(const QString &id)
     PrivateFiles &files = m_core.privateFiles();
     using Path = std::optional<QString>;
     run<Path>(
-        [reader, fileName, &files] {
-            return files.create(fileName, [&reader](QIODevice &file) { return reader.read(file); });
+        [reader, fileName, &files, wipes = files.wipes()] {
+            return files.create(
+                fileName, [&reader](QIODevice &file) { return reader.read(file); }, wipes);
         },
         [this, fileName](const Path &path) { onOpened(fileName, path); });
 }
