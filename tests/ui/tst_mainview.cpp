@@ -36,6 +36,7 @@ private Q_SLOTS:
     void enterOnAQuestionPressesTheFocusedButton();
     void removeAsksAboutANewItemFirst();
     void removeAsksAboutAnotherEditFirst();
+    void tabLeadsFromTheFieldsToSave();
     void enterPressesSave();
     void nothingIsCopiedWhileEditing();
     void saveKeyRetriesAFailedSave();
@@ -395,6 +396,24 @@ void TestMainView::removeAsksAboutAnotherEditFirst()
     QCOMPARE(shown.test.login(alpha)->login(), QStringLiteral("bea"));
     QVERIFY(!shown.test.login(alpha)->deleted());
     QVERIFY(shown.test.login(beta)->deleted());
+}
+
+void TestMainView::tabLeadsFromTheFieldsToSave()
+{
+    View shown;
+    shown.test.addLogin(QStringLiteral("Shop"));
+    shown.choose(QStringLiteral("Shop"));
+    // The second editor comes after the buttons have been moved once.
+    for (int turn = 0; turn < 2; ++turn) {
+        shown.press(Qt::Key_F2);
+        find<QWidget>(shown.view, "noteField")->setFocus();
+        for (const char *name : {"removeButton", "discardButton", "saveButton"}) {
+            shown.press(Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(name));
+        }
+        shown.press(Qt::Key_Escape);
+        QVERIFY(!shown.isEditing());
+    }
 }
 
 void TestMainView::enterPressesSave()

@@ -221,6 +221,18 @@ void SafeItemEditor::takeFocus()
     static_cast<QLineEdit *>(title)->end(false);
 }
 
+QWidget *SafeItemEditor::lastFocus() const
+{
+    QWidget *last = m_body;
+    for (QWidget *next = m_body->nextInFocusChain(); m_body->isAncestorOf(next);
+         next = next->nextInFocusChain()) {
+        // Parts of a field that take no keyboard cannot stand in the order.
+        if (next->focusPolicy() & Qt::TabFocus)
+            last = next;
+    }
+    return last;
+}
+
 void SafeItemEditor::requestGenerator()
 {
     FieldInput *password = input("password");

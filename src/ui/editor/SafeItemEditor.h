@@ -31,6 +31,8 @@ public:
 
     /// Puts the keyboard into the title.
     void takeFocus();
+    /// What Tab reaches last.
+    QWidget *lastFocus() const;
     /// Asks for a made password for the item's password field, if it has one.
     void requestGenerator();
     /// Says below each row what is wrong with it, and puts the keyboard into the first such row.

@@ -164,9 +164,7 @@ void ItemPane::startNew(PMListItem::Type type)
     closeEditor();
     m_newItem = m_core.modelCreateItem(type);
     m_editor->setItem(m_newItem.get(), true);
-    m_stack->setCurrentWidget(m_editor);
-    m_editor->takeFocus();
-    showButtons();
+    showEditor();
 }
 
 void ItemPane::chooseAttachment()
@@ -182,7 +180,18 @@ void ItemPane::startEdit()
     m_editedId = shownId();
     m_baseModified = m_page->item()->modified();
     m_editor->setItem(m_page->item(), false);
+    showEditor();
+}
+
+void ItemPane::showEditor()
+{
     m_stack->setCurrentWidget(m_editor);
+    // New fields come last for Tab; the buttons below belong behind them.
+    QWidget *before = m_editor->lastFocus();
+    for (QPushButton *button : {m_remove, m_discard, m_save}) {
+        setTabOrder(before, button);
+        before = button;
+    }
     m_editor->takeFocus();
     showButtons();
 }
@@ -235,9 +244,7 @@ void ItemPane::continueDraft(const KeptDraft &draft, const PMListItem *item)
         m_newItem->setUnknownKeys(kept->unknownKeys());
         m_editor->setItem(m_newItem.get(), true, &draft);
     }
-    m_stack->setCurrentWidget(m_editor);
-    m_editor->takeFocus();
-    showButtons();
+    showEditor();
 }
 
 bool ItemPane::isEditing() const

@@ -78,6 +78,7 @@ private:
     void makeFooter();
     QPushButton *footerButton(const QString &text, const char *look, const char *name,
                               void (ItemPane::*slot)());
+    void showEditor();
     void closeEditor();
     void showButtons();
     bool refuseSaving();
