@@ -1,9 +1,11 @@
+#include "PasswordStrength.h"
 #include "UiTesting.h"
 #include "main/ItemListPane.h"
 #include "main/MainView.h"
 #include "main/ShortcutTable.h"
 #include "main/ShortcutsDialog.h"
 #include "style/Theme.h"
+#include "widgets/StrengthMeter.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -27,6 +29,7 @@ class TestMainView : public QObject
 private Q_SLOTS:
     void addsALoginByKeyboard();
     void requiredTitle();
+    void strengthIsThatOfThePassword();
     void editIsSavedOrDiscarded();
     void leavingAModifiedItemAsks_data();
     void leavingAModifiedItemAsks();
@@ -346,6 +349,23 @@ void TestMainView::enterOnAQuestionPressesTheFocusedButton()
     shown.click("emptyTrashButton");
     QCOMPARE(shown.asker.asked.last().standard, 1);
     QCOMPARE(shown.asker.asked.size(), 3);
+}
+
+void TestMainView::strengthIsThatOfThePassword()
+{
+    View shown;
+    const QString id = shown.test.addLogin(QStringLiteral("Shop"));
+    shown.test.login(id)->setStrength(PMFieldTypes::PasswordStrength::Strong);
+    shown.test.login(id)->setPassword(QStringLiteral("shop1"));
+    shown.choose(QStringLiteral("Shop"));
+    const auto meter = [&shown] {
+        const auto *found = find<QWidget>(shown.view, "passwordRow")->findChild<StrengthMeter *>();
+        return found ? found->accessibleName() : QString();
+    };
+    QTRY_COMPARE(meter(), passwordStrengthLabel(2));
+    // Changed by something that knows nothing of strength, as the browser's side.
+    shown.test.login(id)->setPassword(QStringLiteral("q7V<m2X,8Rz!Kd"));
+    QTRY_COMPARE(meter(), passwordStrengthLabel(4));
 }
 
 void TestMainView::removeAsksAboutANewItemFirst()

@@ -7,6 +7,7 @@
 #include "ItemKinds.h"
 #include "PMCreditCard.h"
 #include "PMLogin.h"
+#include "PasswordStrength.h"
 #include "RelativeDate.h"
 #include "SiteIcons.h"
 #include "style/Style.h"
@@ -223,8 +224,9 @@ FieldRow *ItemPage::makeRow(const ItemField &field, const QString &value)
     connect(row, &FieldRow::copyRequested, this, &ItemPage::copyRequested);
     connect(row, &FieldRow::openRequested, this, &ItemPage::openRequested);
     const auto *login = qobject_cast<const PMLogin *>(m_item.data());
+    // The stored level is that of the program that wrote the item, if it knew of one.
     if (login && field.form == ItemField::Password)
-        row->setStrength(static_cast<int>(login->strength()));
+        row->setStrength(passwordStrengthLevel(login->password()));
     if (isUsable() && field.form == ItemField::Password) {
         row->addGenerator();
         connect(row, &FieldRow::generatorRequested, this, &ItemPage::generatorRequested);
