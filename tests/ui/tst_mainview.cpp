@@ -1,3 +1,4 @@
+#include "PMCreditCard.h"
 #include "PasswordStrength.h"
 #include "UiTesting.h"
 #include "main/ItemListPane.h"
@@ -20,6 +21,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QShortcut>
+#include <QTimer>
 #include <QToolButton>
 
 class TestMainView : public QObject
@@ -29,6 +31,7 @@ class TestMainView : public QObject
 private Q_SLOTS:
     void addsALoginByKeyboard();
     void requiredTitle();
+    void anotherDayIsNoticed();
     void strengthIsThatOfThePassword();
     void editIsSavedOrDiscarded();
     void leavingAModifiedItemAsks_data();
@@ -65,7 +68,7 @@ namespace {
 struct View
 {
     View()
-        : view(test.core, theme, asker.asker())
+        : view(test.core, theme, asker.asker(), nullptr, [this] { return now; })
     {
         QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view, [this](bool locked) {
             if (locked)
@@ -137,6 +140,7 @@ struct View
     TestCore test;
     Theme theme;
     TestAsker asker;
+    QDateTime now = systemTime();
     MainView view;
 };
 
@@ -349,6 +353,25 @@ void TestMainView::enterOnAQuestionPressesTheFocusedButton()
     shown.click("emptyTrashButton");
     QCOMPARE(shown.asker.asked.last().standard, 1);
     QCOMPARE(shown.asker.asked.size(), 3);
+}
+
+void TestMainView::anotherDayIsNoticed()
+{
+    View shown;
+    auto card = std::make_unique<PMCreditCard>();
+    card->setTitle(QStringLiteral("Card"));
+    card->setExpire({2031, 3, 0});
+    shown.now = QDateTime(QDate(2031, 1, 29), QTime(12, 0), Qt::UTC);
+    find<QTimer>(shown.view, "dayTimer")->setInterval(0);
+    shown.test.core.modelAddItem(std::move(card));
+    shown.field("searchField")->setText(QStringLiteral("is:expiring"));
+    QCOMPARE(shown.list()->model()->rowCount(), 0);
+    const auto *categories = shown.field<QListView>("categoryList")->model();
+    const int before = categories->rowCount();
+    // The last day of the month is 60 days away.
+    shown.now = shown.now.addDays(1);
+    QTRY_COMPARE(shown.list()->model()->rowCount(), 1);
+    QCOMPARE(categories->rowCount(), before + 1);
 }
 
 void TestMainView::strengthIsThatOfThePassword()

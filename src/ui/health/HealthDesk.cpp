@@ -43,6 +43,12 @@ void HealthDesk::open()
     m_dialog->activateWindow();
 }
 
+void HealthDesk::onDayChanged()
+{
+    if (m_dialog)
+        m_dialog->refresh();
+}
+
 void HealthDesk::close()
 {
     delete m_dialog;

@@ -22,6 +22,8 @@ public:
 
     void open();
     void close();
+    /// Another day has begun.
+    void onDayChanged();
 
 Q_SIGNALS:
     /// An item is to be opened in the editor.

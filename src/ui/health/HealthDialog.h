@@ -25,6 +25,9 @@ public:
     HealthProblem shownProblem() const { return m_problem; }
     void showProblem(HealthProblem problem);
 
+    /// Shows what is known by now.
+    void refresh();
+
 Q_SIGNALS:
     /// The item's editor is to be opened.
     void changeRequested(const QString &id);
@@ -35,7 +38,6 @@ Q_SIGNALS:
 private:
     void makeTiles();
     void layOut();
-    void refresh();
     void showFindings();
     void showState(int found, int ignored);
     void addRow(QWidget &list, const HealthFinding &finding);

@@ -41,10 +41,11 @@ QString emptyAdvice(const ItemCategory &category)
 
 } // namespace
 
-ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent)
+ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent,
+                           const Clock &clock)
     : QWidget(parent)
     , m_theme(theme)
-    , m_filter(new ItemFilterModel(this))
+    , m_filter(new ItemFilterModel(this, clock))
     , m_icons(new SiteIcons(this))
 {
     setObjectName(QStringLiteral("listPane"));
@@ -56,7 +57,7 @@ ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *pa
             [this] { m_rowsGoing = true; });
     connect(m_filter, &QAbstractItemModel::modelAboutToBeReset, this, &ItemListPane::keepSelection);
     makeSearch();
-    makeList();
+    makeList(clock);
     m_categoryName = new ElidedLabel("muted", this);
     m_sort = new SortButton(theme, this);
     m_sort->setOrder(m_filter->sortBy());
@@ -98,13 +99,13 @@ void ItemListPane::makeSearch()
     connect(kinds, &NewItemMenu::chosen, this, &ItemListPane::createRequested);
 }
 
-void ItemListPane::makeList()
+void ItemListPane::makeList(const Clock &clock)
 {
     m_list = new ItemListView(this);
     m_list->setObjectName(QStringLiteral("itemList"));
     m_list->setAccessibleName(tr("Items"));
     m_list->setModel(m_filter);
-    m_list->setItemDelegate(new ItemDelegate(m_theme, m_icons, m_list));
+    m_list->setItemDelegate(new ItemDelegate(m_theme, m_icons, m_list, clock));
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->installEventFilter(this);
     connect(m_list, &ItemListView::selectionSettled, this, [this] {
@@ -321,6 +322,12 @@ void ItemListPane::onRowsRemoved()
         m_list->selectionModel()->select(m_list->currentIndex(), QItemSelectionModel::Select);
     m_rowsGoing = false;
     showEmptyState();
+}
+
+void ItemListPane::onDayChanged()
+{
+    m_filter->refresh();
+    m_list->viewport()->update();
 }
 
 void ItemListPane::focusSearch()

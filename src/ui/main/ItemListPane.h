@@ -22,7 +22,8 @@ class ItemListPane : public QWidget
     Q_OBJECT
 
 public:
-    ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent);
+    ItemListPane(ItemListModel &items, const Theme &theme, QWidget *parent,
+                 const Clock &clock = systemTime);
 
     QSize minimumSizeHint() const override;
 
@@ -40,6 +41,9 @@ public:
     void setOrder(const QString &name);
 
     ItemFilterModel &filter() { return *m_filter; }
+
+    /// Another day has begun: what expires is another matter.
+    void onDayChanged();
 
     /// The selected item; empty unless it is exactly one.
     QString currentId() const;
@@ -76,7 +80,7 @@ protected:
 
 private:
     void makeSearch();
-    void makeList();
+    void makeList(const Clock &clock);
     QWidget *makeTrashBar();
     void layOut();
     void showEmptyState();

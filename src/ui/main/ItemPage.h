@@ -33,6 +33,8 @@ public:
 
     /// Follows the item's changes until it goes; null shows nothing.
     void setItem(const PMListItem *item);
+    /// Shows it anew, as when another day has begun.
+    void refresh();
     const PMListItem *item() const { return m_item; }
 
     /// Where the icons of sites come from; must outlive this.
@@ -61,7 +63,6 @@ private:
     void showHeader();
     void showFields();
     void showInfo();
-    void refresh();
     FieldRow *makeRow(const ItemField &field, const QString &value);
     void addExpiry(FieldRow &row);
     void addFillTypes(FieldRow &row);

@@ -1,6 +1,7 @@
 #include "MainView.h"
 
 #include "Banner.h"
+#include "DayWatch.h"
 #include "GPMAppCore.h"
 #include "ItemActions.h"
 #include "ItemKinds.h"
@@ -46,7 +47,8 @@ QStringList unreadablePaths(const GPMSafe &safe)
 
 } // namespace
 
-MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent)
+MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent,
+                   const Clock &clock)
     : SecureContent(parent)
     , m_core(core)
     , m_theme(theme)
@@ -58,7 +60,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_banner = new Banner(theme, this);
     m_sidebar = new Sidebar(theme, this);
     m_splitter = new QSplitter(this);
-    m_list = new ItemListPane(m_items, theme, m_splitter);
+    m_list = new ItemListPane(m_items, theme, m_splitter, clock);
     m_right = new QStackedWidget(m_splitter);
     m_pane = new ItemPane(core, theme, asker, m_right);
     m_pane->page().setIcons(m_list->icons());
@@ -74,6 +76,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     connectParts();
     connectItemPane();
     addShortcuts();
+    connect(new DayWatch(clock, this), &DayWatch::dayChanged, this, &MainView::onDayChanged);
     m_items.setDescriber(
         [this](const PMListItem &item) { return itemDescription(item, m_list->filter().today()); });
     showCategory({});
@@ -351,6 +354,14 @@ void MainView::onContentChanged()
         return;
     if (m_right->currentWidget() == m_selection || m_pane->shownId() != m_list->currentId())
         showCurrent();
+}
+
+void MainView::onDayChanged()
+{
+    m_list->onDayChanged();
+    onContentChanged();
+    m_pane->page().refresh();
+    m_health->onDayChanged();
 }
 
 void MainView::showCurrent()

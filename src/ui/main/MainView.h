@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Clock.h"
 #include "ItemCategory.h"
 #include "ItemListModel.h"
 #include "dialogs/Question.h"
@@ -32,7 +33,8 @@ public:
     using Place = std::function<void(const QString &password)>;
 
     /// @param asker puts questions to the user; the default one shows dialogs
-    MainView(GPMAppCore &core, const Theme &theme, Asker asker = {}, QWidget *parent = nullptr);
+    MainView(GPMAppCore &core, const Theme &theme, Asker asker = {}, QWidget *parent = nullptr,
+             const Clock &clock = systemTime);
 
     void openSafe(const std::shared_ptr<GPMSafe> &safe) override;
     void closeSafe() override;
@@ -78,6 +80,7 @@ private:
     void onSelectionChosen();
     void onSearched();
     void onContentChanged();
+    void onDayChanged();
     void onSaved(const QString &id);
     void goTo(const QString &id);
     void changeItem(const QString &id);
