@@ -93,7 +93,9 @@ let lastTime = 1700000000000;
 const at = (path, host = 'shop.example') => `http://${host}:${site.port}${path}`;
 const fieldsOf = ({ result: { docinfo } }) => [...docinfo.forms.flatMap(({ fields }) => fields), ...docinfo.elements];
 const names = (payload) => fieldsOf(payload).map(({ name, id }) => name || id);
-const pageAt = async (url) => (await chromium.browser.pages()).find((page) => page.url() === url);
+// The driver may hear of a new tab after the extension does.
+const pageAt = async (url) =>
+  (await chromium.browser.waitForTarget((target) => target.type() === 'page' && target.url() === url)).page();
 
 async function ask(openmode, url, action = 'getDocumentData', timestamp = String((lastTime += 1))) {
   program.send(action, { reason: 'login', itemid: 'item', timestamp, url, openmode });
