@@ -1,6 +1,7 @@
 #include "UiSettings.h"
 
 #include <QMetaEnum>
+#include <QScreen>
 #include <QWidget>
 
 namespace {
@@ -57,6 +58,15 @@ void UiSettings::saveGeometry(const QWidget &window)
 void UiSettings::restoreGeometry(QWidget &window) const
 {
     window.restoreGeometry(m_store.value(window.objectName() + geometrySuffix).toByteArray());
+    if (window.isMaximized() || window.isFullScreen())
+        return;
+    // With larger texts the window has become larger than it was when its place was kept.
+    const QRect screen = window.screen()->availableGeometry();
+    const QPoint last = screen.bottomRight() - QPoint(window.width() - 1, window.height() - 1);
+    const QPoint place(qMax(screen.left(), qMin(window.x(), last.x())),
+                       qMax(screen.top(), qMin(window.y(), last.y())));
+    if (place != window.pos())
+        window.move(place);
 }
 
 void UiSettings::saveSplitter(const QString &windowName, const QByteArray &state)

@@ -10,7 +10,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QToolButton>
 
@@ -22,6 +24,7 @@ private Q_SLOTS:
     void startInTheTrayShowsNoWindow();
     void secondStartBringsTheWindowBack();
     void stateIsKept();
+    void largerTextsKeepTheWindowOnTheScreen();
     void firstLaunchForgetsOldWindows();
     void failedSaveOnLockIsTold();
     void lockClosesMessagesAboutItems();
@@ -106,6 +109,25 @@ void TestPMUiProvider::stateIsKept()
     QCOMPARE(provider.mainWindow()->size(), QSize(1111, 700));
     provider.openMainView(QString());
     QCOMPARE(later.currentSafe()->folder(), used);
+}
+
+void TestPMUiProvider::largerTextsKeepTheWindowOnTheScreen()
+{
+    TestCore test;
+    Ui ui(test);
+    ui.window().show();
+    const QRect screen = ui.window().screen()->availableGeometry();
+    ui.window().resize(ui.window().minimumSize());
+    const QPoint corner = screen.bottomRight() - ui.window().rect().bottomRight();
+    ui.window().move(qMax(screen.left(), corner.x()), qMax(screen.top(), corner.y()));
+    const QPointer<QWidget> former = &ui.window();
+    QVERIFY(ui.provider.setTextPercent(150));
+    QTRY_VERIFY(!former);
+    const QRect place = ui.window().geometry();
+    QVERIFY(ui.provider.setTextPercent(100));
+    // A window that is larger than the screen begins at its corner.
+    QVERIFY(place.right() <= screen.right() || place.left() == screen.left());
+    QVERIFY(place.bottom() <= screen.bottom() || place.top() == screen.top());
 }
 
 void TestPMUiProvider::firstLaunchForgetsOldWindows()
