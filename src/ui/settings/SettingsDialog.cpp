@@ -35,7 +35,7 @@ SettingsDialog::SettingsDialog(const QVector<Setting> &settings, UiSettings &uiS
 {
     setObjectName(QStringLiteral("SettingsDialog"));
     setAttribute(Qt::WA_DeleteOnClose);
-    setMinimumSize(smallestSize);
+    setMinimumSize(Style::scaled(smallestSize.width()), Style::scaled(smallestSize.height()));
     resize(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
     makeSearch();
     makePages();
