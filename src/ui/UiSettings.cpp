@@ -61,10 +61,13 @@ void UiSettings::restoreGeometry(QWidget &window) const
     if (window.isMaximized() || window.isFullScreen())
         return;
     // With larger texts the window has become larger than it was when its place was kept.
+    // Its shadow may reach beyond the screen.
     const QRect screen = window.screen()->availableGeometry();
-    const QPoint last = screen.bottomRight() - QPoint(window.width() - 1, window.height() - 1);
-    const QPoint place(qMax(screen.left(), qMin(window.x(), last.x())),
-                       qMax(screen.top(), qMin(window.y(), last.y())));
+    const QMargins shadow = window.contentsMargins();
+    const QRect seen = QRect(window.pos(), window.size()).marginsRemoved(shadow);
+    const int x = qMax(screen.left(), qMin(seen.left(), screen.right() + 1 - seen.width()));
+    const int y = qMax(screen.top(), qMin(seen.top(), screen.bottom() + 1 - seen.height()));
+    const QPoint place = QPoint(x, y) - QPoint(shadow.left(), shadow.top());
     if (place != window.pos())
         window.move(place);
 }

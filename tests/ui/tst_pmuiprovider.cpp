@@ -123,7 +123,7 @@ void TestPMUiProvider::largerTextsKeepTheWindowOnTheScreen()
     const QPointer<QWidget> former = &ui.window();
     QVERIFY(ui.provider.setTextPercent(150));
     QTRY_VERIFY(!former);
-    const QRect place = ui.window().geometry();
+    const QRect place = ui.window().contentsRect().translated(ui.window().pos());
     QVERIFY(ui.provider.setTextPercent(100));
     // A window that is larger than the screen begins at its corner.
     QVERIFY(place.right() <= screen.right() || place.left() == screen.left());
