@@ -225,11 +225,11 @@ void GPMSafe::onUnlockFinished(SafeUnlock::Outcome outcome)
 void GPMSafe::lock()
 {
     m_unlock.reset();
-    m_writer.waitForDone();
+    waitForWriter();
     if (!isUnlocked())
         return;
     m_intake.handOn();
-    m_writer.waitForDone();
+    waitForWriter();
     const SaveJob::Result result = makeSaveJob().run();
     m_items.markSaved(result.saved);
     keepUnsaved();
@@ -262,7 +262,7 @@ bool GPMSafe::saveChanges()
 {
     if (!isUnlocked())
         return false;
-    m_writer.waitForDone();
+    waitForWriter();
     const SaveJob::Result result = makeSaveJob().run();
     m_items.markSaved(result.saved);
     return result.good();
@@ -272,6 +272,7 @@ void GPMSafe::saveChangesAsync()
 {
     if (!isUnlocked())
         return;
+    cancelMeeting();
     auto *watcher = new QFutureWatcher<SaveJob::Result>(this);
     const int session = m_session;
     connect(watcher, &QFutureWatcher<SaveJob::Result>::finished, this, [this, watcher, session] {
@@ -307,6 +308,8 @@ bool GPMSafe::changePassword(const QString &newPassword,
         qWarning() << operation << "Safe is locked:" << folder();
         return false;
     }
+    // A meeting with the mirror holds the lock file, too.
+    waitForWriter();
     QLockFile lockFile(m_folder.path(SafeLayout::lockFile));
     // A long change is not stale; one whose process is gone is recognised by that.
     lockFile.setStaleLockTime(0);
@@ -315,9 +318,9 @@ bool GPMSafe::changePassword(const QString &newPassword,
                    << "Can't take the lock file:" << m_folder.path(SafeLayout::lockFile);
         return false;
     }
-    m_writer.waitForDone();
+    waitForWriter();
     m_intake.handOn();
-    m_writer.waitForDone();
+    waitForWriter();
     qDebug() << operation << "Starting password change, safe id:" << id() << " name:" << name();
 
     QVector<PasswordChange::Item> items = m_items.planPasswordChange(m_folder);
@@ -435,6 +438,7 @@ void GPMSafe::addAttachmentAsync(std::unique_ptr<PMListItem> item, const Attachm
 {
     if (!item || !prepareAttachment(*item))
         return;
+    cancelMeeting();
     const QString target = m_folder.attachmentPath({item->id(), 0});
     m_intake.add(std::move(item), parentId, {m_environment, target, m_password, source});
 }
@@ -487,7 +491,7 @@ bool GPMSafe::removeItems(const QStringList &ids)
     if (!isUnlocked() || !commitDeleted(ids))
         return false;
     // A write still under way would bring the file back.
-    m_writer.waitForDone();
+    waitForWriter();
     const QHash<QString, QStringList> files = filesOf(ids);
     bool good = true;
     for (const QString &id : ids) {
@@ -544,4 +548,88 @@ bool GPMSafe::commitDeleted(const QStringList &ids)
                << "Can't commit delete info to 'deleted' list:"
                << m_folder.path(SafeLayout::deletedList);
     return false;
+}
+
+bool GPMSafe::meetMirror(const QString &mirrorFolder, const QMap<QString, qint64> &deleted)
+{
+    if (!isUnlocked() || (m_meeting && !m_meeting->isTaken()))
+        return false;
+    // What the last one brought may just be told of.
+    if (m_meeting)
+        m_meeting.release()->deleteLater();
+    m_meeting = std::make_unique<SyncMeeting>(
+        m_writer, SyncRound({m_environment, m_folder, m_password, m_mutex, deleted}, mirrorFolder),
+        [this](const SyncResult &result) { takeMeeting(result); });
+    return true;
+}
+
+void GPMSafe::cancelMeeting()
+{
+    if (m_meeting)
+        m_meeting->cancel();
+}
+
+/// Who waits goes on from what a meeting has brought, and does not write over it unseen.
+void GPMSafe::waitForWriter()
+{
+    cancelMeeting();
+    m_writer.waitForDone();
+    if (m_meeting)
+        m_meeting->take();
+}
+
+void GPMSafe::takeMeeting(const SyncResult &result)
+{
+    if (!isUnlocked())
+        return;
+    for (const SyncResult::Item &taken : result.taken)
+        takeItem(taken);
+    for (const QString &id : result.removed)
+        dropItem(id);
+    if (result.descriptionTaken)
+        readMetaFile();
+    Q_EMIT mirrorMet(result);
+}
+
+void GPMSafe::takeItem(const SyncResult::Item &taken)
+{
+    PMListItem *known = m_items.item(taken.name.id);
+    if (known && known->isChanged()) {
+        // Edited here meanwhile: that will be saved, and what came is kept beside it.
+        m_items.setFileName(taken.name);
+        std::unique_ptr<PMListItem> copy = taken.document.toItem();
+        if (copy && copy->type() != PMListItem::Attachment) {
+            copy->setId(QString());
+            copy->setTitle(syncCopyTitle(copy->title(), copy->modified(), known->modified()));
+            copy->setDeleted(true);
+            addItem(std::move(copy));
+        }
+        saveChangesAsync();
+        return;
+    }
+    if (known && taken.document.applyTo(*known)) {
+        known->setId(taken.name.id);
+        known->markSaved(known->revision());
+        m_items.setFileName(taken.name);
+        return;
+    }
+    std::unique_ptr<PMListItem> item = taken.document.toItem();
+    if (known || !item)
+        return;
+    item->setId(taken.name.id);
+    item->markSaved(item->revision());
+    m_items.add(std::move(item));
+    m_items.setFileName(taken.name);
+    Q_EMIT itemAdded(taken.name.id);
+}
+
+void GPMSafe::dropItem(const QString &id)
+{
+    const PMListItem *item = m_items.item(id);
+    // An edit that is not saved yet is later than the deletion.
+    if (!item || item->isChanged())
+        return;
+    Q_EMIT itemAboutToBeRemoved(id);
+    m_items.remove(id);
+    Q_EMIT itemRemoved(id);
 }

@@ -9,6 +9,7 @@
 #include "SafeFolder.h"
 #include "SafeUnlock.h"
 #include "SaveJob.h"
+#include "SyncMeeting.h"
 
 #include <QHash>
 #include <QMutex>
@@ -69,6 +70,13 @@ public:
     /// before and no new one is left.
     bool changePassword(const QString &newPassword,
                         const std::function<void(int done, int total)> &progress = {});
+
+    /// Makes the safe and its mirror alike on the writer; mirrorMet() follows. It gives way to
+    /// everything else that writes. False when the safe is locked or a meeting is under way.
+    /// @param deleted items removed since the last meeting and when, in ms since the epoch
+    bool meetMirror(const QString &mirrorFolder, const QMap<QString, qint64> &deleted);
+    /// Stops a meeting soon; mirrorMet() follows.
+    void cancelMeeting();
 
     /// A task, to be started, that writes the safe with all that was saved before this call into
     /// one archive. Locked or not, needs no password. Null while no safe is open.
@@ -140,6 +148,8 @@ Q_SIGNALS:
     void saved(bool good, const QStringList &failedPaths);
     /// A new attachment is in, or is not because of a fault; its title is that of the given item.
     void attachmentDone(const QString &id, const QString &title, AttachmentFault fault);
+    /// The items are those that a meeting with the mirror brought.
+    void mirrorMet(const SyncResult &result);
     void itemsReset();
     void itemAdded(const QString &id);
     /// The item is still there; views let go of it now.
@@ -160,6 +170,10 @@ private:
     bool removeFiles(const QStringList &paths);
     bool prepareAttachment(PMListItem &item) const;
     void takeAttachment(AttachmentIntake::Arrival arrival);
+    void waitForWriter();
+    void takeMeeting(const SyncResult &result);
+    void takeItem(const SyncResult::Item &taken);
+    void dropItem(const QString &id);
 
     SafeEnvironment m_environment;
     SafeFolder m_folder;
@@ -173,4 +187,5 @@ private:
     QThreadPool m_writer; ///< one thread, so that writes keep their order
     AttachmentIntake m_intake;
     DraftStore m_drafts;
+    std::unique_ptr<SyncMeeting> m_meeting;
 };

@@ -28,6 +28,9 @@ public:
     PMListItem *add(std::unique_ptr<PMListItem> item);
     void remove(const QString &id) { m_entries.erase(id); }
 
+    /// The name of the file that holds an item from now on.
+    void setFileName(const ItemFileName &name) { m_entries.at(name.id).name = name; }
+
     /// The items with changes that are not on the disk, as values.
     QVector<SaveJob::Item> changed() const;
     void markSaved(const QVector<SaveJob::Item> &saved);

@@ -152,6 +152,13 @@ QString syncCopyId(const QString &id, const QString &hash)
     return QUuid::createUuidV5(space, id + QLatin1Char(' ') + hash).toString(QUuid::WithoutBraces);
 }
 
+QString syncCopyTitle(const QString &title, const QDateTime &loser, const QDateTime &winner)
+{
+    const QString form = QStringLiteral("yyyy-MM-dd HH:mm");
+    return QStringLiteral("%1 (%2 / %3)")
+        .arg(title, loser.toUTC().toString(form), winner.toUTC().toString(form));
+}
+
 SyncActions planSync(const SyncItem &item)
 {
     SyncActions actions;

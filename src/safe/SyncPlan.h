@@ -3,6 +3,7 @@
 #include "ItemFile.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -88,3 +89,7 @@ SyncActions planSync(const SyncItem &item);
 
 /// The id of the copy that keeps a version of an item.
 QString syncCopyId(const QString &id, const QString &hash);
+
+/// The title of a copy, with the times of what it keeps and of what that lost to. Dates say the
+/// same in every language.
+QString syncCopyTitle(const QString &title, const QDateTime &loser, const QDateTime &winner);

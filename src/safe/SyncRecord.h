@@ -10,7 +10,7 @@
 struct FileStamp
 {
     qint64 length = -1;
-    qint64 time = 0; ///< of its last change by its own file system, ms since the epoch
+    qint64 time = 0; ///< of its last change, ms since an epoch of the system's own
 
     bool operator==(const FileStamp &other) const
     {
@@ -29,6 +29,12 @@ struct SyncRecord
         FileStamp local;     ///< the file in the safe
         FileStamp mirror;    ///< the file in the mirror
         qint64 modified = 0; ///< of the item in it, ms since the epoch
+
+        bool operator==(const File &other) const
+        {
+            return hash == other.hash && local == other.local && mirror == other.mirror &&
+                   modified == other.modified;
+        }
     };
 
     /// An item that was deleted for good at some time, ms since the epoch.
@@ -38,6 +44,10 @@ struct SyncRecord
         qint64 revived = 0; ///< the time of the latest deletion that a later change overcame
 
         bool counts() const { return time > revived; }
+        bool operator==(const Deletion &other) const
+        {
+            return time == other.time && revived == other.revived;
+        }
     };
     using Deletions = QMap<QString, Deletion>; ///< by id
 
@@ -48,6 +58,12 @@ struct SyncRecord
 
     /// Takes over what others know; the later times count, so that the order does not matter.
     void addDeletions(const Deletions &more);
+
+    bool operator==(const SyncRecord &other) const
+    {
+        return files == other.files && deletions == other.deletions &&
+               description == other.description && passId == other.passId;
+    }
 
     QByteArray toJson() const;
     /// Nothing for a text that is no such record; entries that make no sense are left out.

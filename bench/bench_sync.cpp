@@ -1,0 +1,92 @@
+// Speed of the synchronisation of a safe with its mirror: run by hand, prints each figure with its
+// unit.
+
+#include "GPMSafe.h"
+#include "SafeLayout.h"
+#include "SyncRound.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QUuid>
+
+#include <algorithm>
+
+namespace {
+
+const int items = 10000;
+const int rounds = 5;
+const QString password = QStringLiteral("a master password of some length");
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("can't write %s", qPrintable(path));
+}
+
+/// Files on both sides and the record of them. A round with nothing changed looks into none, so
+/// that they need not be encrypted.
+void makeSides(const SafeFolder &safe, const SafeFolder &mirror)
+{
+    SyncRecord record;
+    const QByteArray bytes(1200, 'x');
+    for (int i = 0; i < items; ++i) {
+        const QString name =
+            QStringLiteral("content/") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+        const QString local = safe.root() + QLatin1Char('/') + name;
+        const QString other = mirror.root() + QLatin1Char('/') + name;
+        write(local, bytes);
+        write(other, bytes);
+        record.files.insert(name, {hashOf(bytes), *stampOf(local), *stampOf(other), 1});
+    }
+    write(safe.path(SafeLayout::syncRecord), record.toJson());
+}
+
+double round(const SafeFolder &safe, const SafeFolder &mirror)
+{
+    QElapsedTimer timer;
+    timer.start();
+    SyncRound sync({SafeEnvironment(), safe,
+                    std::make_shared<const SecretBytes>(SecretBytes::fromText(password)),
+                    std::make_shared<QMutex>()},
+                   mirror.root());
+    WorkControl control;
+    const SyncResult result = sync.run(control);
+    if (result.state != SyncState::Done || result.sent > 0 || !result.taken.isEmpty())
+        qFatal("the round has found something to do");
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    const QTemporaryDir place;
+    const SafeFolder safe(place.filePath(QStringLiteral("safe")));
+    const SafeFolder mirror(place.filePath(QStringLiteral("mirror")));
+    QDir().mkpath(safe.root());
+    QDir().mkpath(mirror.path(SafeLayout::content));
+    {
+        GPMSafe made;
+        if (!made.init(safe.root(), password, QStringLiteral("Bench"), {}))
+            qFatal("can't make the safe");
+    }
+    makeSides(safe, mirror);
+    round(safe, mirror); // writes description and pass id
+    QVector<double> times;
+    for (int i = 0; i < rounds; ++i)
+        times.append(round(safe, mirror));
+    std::sort(times.begin(), times.end());
+    QTextStream(stdout) << "round of synchronisation with nothing changed, 10,000 items: "
+                        << QString::number(times[rounds / 2], 'f', 1) << " ms (median of " << rounds
+                        << ", slowest " << QString::number(times.last(), 'f', 1) << " ms)"
+                        << Qt::endl;
+    return 0;
+}

@@ -1,0 +1,29 @@
+#include "SyncMeeting.h"
+
+#include <QtConcurrent>
+
+#include <utility>
+
+SyncMeeting::SyncMeeting(QThreadPool &writer, SyncRound round,
+                         std::function<void(SyncResult)> taken)
+    : m_taken(std::move(taken))
+{
+    connect(&m_watcher, &QFutureWatcher<SyncResult>::finished, this, &SyncMeeting::take);
+    const auto control = m_control;
+    m_watcher.setFuture(QtConcurrent::run(
+        &writer, [round = std::move(round), control]() mutable { return round.run(*control); }));
+}
+
+SyncMeeting::~SyncMeeting()
+{
+    m_watcher.disconnect();
+    m_control->cancel();
+}
+
+void SyncMeeting::take()
+{
+    if (m_isTaken || !m_watcher.future().isFinished())
+        return;
+    m_isTaken = true;
+    m_taken(m_watcher.future().result());
+}

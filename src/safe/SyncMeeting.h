@@ -1,0 +1,34 @@
+#pragma once
+
+#include "SyncRound.h"
+
+#include <QFutureWatcher>
+#include <QObject>
+#include <QThreadPool>
+
+#include <functional>
+#include <memory>
+
+/// A meeting with the mirror under way on the writer of a safe. What it brought is taken once:
+/// when it ends, or before by one who cannot wait for that.
+class SyncMeeting : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param taken gets what it brought, on the thread of the caller
+    SyncMeeting(QThreadPool &writer, SyncRound round, std::function<void(SyncResult)> taken);
+    /// Stops it soon, without a word; the writer finishes the item under way.
+    ~SyncMeeting() override;
+
+    void cancel() { m_control->cancel(); }
+    /// Takes what it brought where it has ended and that was not taken yet.
+    void take();
+    bool isTaken() const { return m_isTaken; }
+
+private:
+    std::shared_ptr<WorkControl> m_control = std::make_shared<WorkControl>();
+    std::function<void(SyncResult)> m_taken;
+    QFutureWatcher<SyncResult> m_watcher;
+    bool m_isTaken = false;
+};

@@ -1,0 +1,433 @@
+#include "PMAttachment.h"
+#include "PMLogin.h"
+#include "SafeTesting.h"
+#include "SyncRound.h"
+
+#include <QBuffer>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <random>
+
+namespace {
+
+const QString newPassword = QStringLiteral("another password 2");
+const qint64 day = 86400000;
+
+/// A safe on one computer. It is unlocked anew for each piece of work, as on a computer that is
+/// started for it.
+struct Computer
+{
+    QString folder;
+    QString password = samplePassword;
+    qint64 time = 1700000000000; ///< of its clock
+    std::shared_ptr<FaultyFiles> files = std::make_shared<FaultyFiles>();
+    QMap<QString, qint64> deleted{};
+
+    SafeEnvironment environment()
+    {
+        SafeEnvironment world;
+        world.files = files;
+        world.lockWaitMs = 0;
+        world.clock = [this] { return QDateTime::fromMSecsSinceEpoch(++time, Qt::UTC); };
+        return world;
+    }
+
+    void work(const std::function<void(GPMSafe &)> &task)
+    {
+        GPMSafe safe(environment());
+        if (!safe.open(folder) || !safe.unlock(password))
+            qFatal("the safe does not open");
+        task(safe);
+        if (safe.isUnlocked() && !safe.saveChanges())
+            qFatal("the safe does not save");
+    }
+
+    SyncResult synchronise(const QString &mirror)
+    {
+        SyncRound round({environment(), SafeFolder(folder),
+                         std::make_shared<const SecretBytes>(SecretBytes::fromText(password)),
+                         std::make_shared<QMutex>(), deleted},
+                        mirror);
+        WorkControl control;
+        return round.run(control);
+    }
+
+    /// Each item's id with its title, and for an attachment its bytes.
+    QStringList items()
+    {
+        QStringList list;
+        work([&list](GPMSafe &safe) {
+            for (PMListItem *item : safe.items()) {
+                QString line = item->id() + QLatin1Char(' ') + item->title();
+                if (item->deleted())
+                    line += QStringLiteral(" (trash)");
+                if (item->type() == PMListItem::Attachment) {
+                    QBuffer bytes;
+                    bytes.open(QIODevice::WriteOnly);
+                    safe.readAttachment(item->id(), bytes);
+                    line += QLatin1Char(' ') + QString::fromLatin1(bytes.data());
+                }
+                list.append(line);
+            }
+        });
+        return list;
+    }
+};
+
+void copyFolder(const QString &from, const QString &to)
+{
+    const QMap<QString, QByteArray> files = snapshot(from);
+    for (const char *inner : {"content", "attachment", "favicon"})
+        QDir().mkpath(to + QLatin1Char('/') + QLatin1String(inner));
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (!file.key().endsWith(QLatin1String("safe.sync")))
+            writeFile(to + QLatin1Char('/') + file.key(), file.value());
+    }
+}
+
+} // namespace
+
+class TestSyncRound : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_temporary;
+    QString m_mirror;
+    Computer m_one;
+    Computer m_two;
+
+    QString add(Computer &computer, const QString &title)
+    {
+        QString id;
+        computer.work([&](GPMSafe &safe) {
+            auto login = std::make_unique<PMLogin>();
+            login->setTitle(title);
+            id = safe.addItem(std::move(login))->id();
+        });
+        return id;
+    }
+
+    QString attach(Computer &computer, const QByteArray &content)
+    {
+        QString id;
+        computer.work([&](GPMSafe &safe) {
+            QBuffer bytes;
+            bytes.setData(content);
+            bytes.open(QIODevice::ReadOnly);
+            auto item = std::make_unique<PMAttachment>();
+            item->setTitle(QStringLiteral("file"));
+            id = safe.addAttachment(std::move(item), bytes)->id();
+        });
+        return id;
+    }
+
+    static void rename(Computer &computer, const QString &id, const QString &title)
+    {
+        computer.work([&](GPMSafe &safe) {
+            safe.item(id)->setTitle(title);
+            safe.touchItem(*safe.item(id));
+        });
+    }
+
+    static void remove(Computer &computer, const QString &id)
+    {
+        computer.work([&](GPMSafe &safe) { safe.removeItems({id}); });
+        computer.deleted.insert(id, ++computer.time);
+    }
+
+    void meet()
+    {
+        for (int round = 0; round < 3; ++round) {
+            QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+            QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Done);
+        }
+    }
+
+    QString inMirror(const QString &name) const { return m_mirror + QLatin1Char('/') + name; }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_temporary = std::make_unique<QTemporaryDir>();
+        m_mirror = m_temporary->filePath(QStringLiteral("mirror"));
+        m_one = {m_temporary->filePath(QStringLiteral("one"))};
+        m_two = {m_temporary->filePath(QStringLiteral("two"))};
+        QVERIFY(QDir().mkpath(m_one.folder) && QDir().mkpath(inMirror(QStringLiteral("content"))) &&
+                QDir().mkpath(inMirror(QStringLiteral("attachment"))));
+        {
+            GPMSafe safe(m_one.environment());
+            QVERIFY(safe.init(m_one.folder, samplePassword, QStringLiteral("Mine"), {}));
+        }
+        copyFolder(m_one.folder, m_two.folder);
+    }
+
+    void exchanges()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        const QString file = attach(m_two, "some bytes");
+        meet();
+        QCOMPARE(m_one.items(), m_two.items());
+        QCOMPARE(m_one.items().size(), 2);
+        QVERIFY(m_one.items().join(QLatin1Char('|')).contains(QStringLiteral("some bytes")));
+
+        // A round with nothing new writes nothing.
+        const int before = m_one.files->operations;
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+        QCOMPARE(m_one.files->operations.load(), before);
+
+        rename(m_one, id, QStringLiteral("mine"));
+        m_two.time += day;
+        rename(m_two, id, QStringLiteral("theirs"));
+        meet();
+        QCOMPARE(m_one.items(), m_two.items());
+        QCOMPARE(m_one.items().size(), 3);
+        QCOMPARE(m_one.items()
+                     .filter(QRegularExpression(QStringLiteral(
+                         "mine \\(20\\d\\d-\\d\\d-\\d\\d \\d\\d:\\d\\d / .*\\) \\(trash\\)")))
+                     .size(),
+                 1);
+
+        remove(m_two, file);
+        meet();
+        QCOMPARE(m_one.items(), m_two.items());
+        QCOMPARE(m_one.items().size(), 2);
+        QVERIFY(!QFile::exists(inMirror(QStringLiteral("attachment/") + file)));
+    }
+
+    void takesNamesOfBothSides()
+    {
+        meet();
+        m_one.work([](GPMSafe &safe) {
+            safe.setName(QStringLiteral("Renamed"));
+            QVERIFY(safe.writeMetaFile());
+        });
+        m_two.time += day; // and saves an item later
+        add(m_two, QStringLiteral("other"));
+        meet();
+        for (Computer *computer : {&m_one, &m_two}) {
+            computer->work([](GPMSafe &safe) { QCOMPARE(safe.name(), QStringLiteral("Renamed")); });
+        }
+    }
+
+    void followsAnotherPassword()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        attach(m_one, "some bytes");
+        meet();
+        m_one.work([](GPMSafe &safe) { QVERIFY(safe.changePassword(newPassword)); });
+        m_one.password = newPassword;
+        rename(m_two, id, QStringLiteral("changed meanwhile"));
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+        const QMap<QString, QByteArray> before = snapshot(m_mirror);
+        QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::NewPasswordNeeded);
+        QCOMPARE(snapshot(m_mirror), before);
+        m_two.work([](GPMSafe &safe) { QVERIFY(safe.changePassword(newPassword)); });
+        m_two.password = newPassword;
+        meet();
+        QCOMPARE(m_one.items(), m_two.items());
+        QVERIFY(m_one.items().contains(id + QStringLiteral(" changed meanwhile")));
+        QCOMPARE(QDir(inMirror(QStringLiteral("content"))).entryList(QDir::Files).size(), 2);
+        QCOMPARE(contentOf(inMirror(QStringLiteral("safe.passid"))),
+                 contentOf(m_two.folder + QStringLiteral("/safe.passid")));
+    }
+
+    void waitsForWholeFiles()
+    {
+        const QString item = QStringLiteral("content/") + add(m_one, QStringLiteral("first"));
+        const QString bytes = QStringLiteral("attachment/") + attach(m_one, "some bytes");
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+        for (const QString &name : {bytes, item}) {
+            const QByteArray whole = contentOf(inMirror(name));
+            writeFile(inMirror(name), whole.left(whole.size() / 2));
+            const SyncResult result = m_two.synchronise(m_mirror);
+            QCOMPARE(result.state, SyncState::Waiting);
+            QCOMPARE(result.waiting.size(), 1);
+            QCOMPARE(contentOf(inMirror(name)), whole.left(whole.size() / 2));
+            writeFile(inMirror(name), whole);
+        }
+        meet();
+        QCOMPARE(m_two.items(), m_one.items());
+    }
+
+    void clearsConflictCopiesAndLeavesForeignFiles()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        meet();
+        rename(m_two, id, QStringLiteral("second"));
+        const QString copy =
+            inMirror(QStringLiteral("content/%1 (two's conflicted copy 2026-01-31)").arg(id));
+        writeFile(copy, contentOf(m_two.folder + QStringLiteral("/content/") + id));
+        const QString foreign = inMirror(QStringLiteral("content/notes.txt"));
+        writeFile(foreign, "mine");
+        writeFile(inMirror(QStringLiteral("desktop.ini")), "system");
+        meet();
+        QVERIFY(!QFile::exists(copy));
+        QCOMPARE(contentOf(foreign), QByteArray("mine"));
+        QVERIFY(QFile::exists(inMirror(QStringLiteral("desktop.ini"))));
+        QVERIFY(m_one.items().contains(id + QStringLiteral(" second")));
+        QCOMPARE(m_one.items(), m_two.items());
+    }
+
+    void refusesWhatIsNotItsMirror()
+    {
+        add(m_one, QStringLiteral("first"));
+        meet();
+        const QMap<QString, QByteArray> before = snapshot(m_one.folder);
+        QCOMPARE(m_one.synchronise(m_mirror + QStringLiteral("gone")).state,
+                 SyncState::MirrorMissing);
+        QByteArray meta = contentOf(inMirror(QStringLiteral("safe.meta")));
+        writeFile(inMirror(QStringLiteral("safe.meta")),
+                  meta.replace("\"created\": 1", "\"created\": 2"));
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::OtherSafe);
+        QCOMPARE(snapshot(m_one.folder), before);
+    }
+
+    /// Forged by somebody who can write to the folder but not open the safe.
+    void believesNoForeignDeletions()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        meet();
+        SyncRecord forged;
+        forged.addDeletions({{id, {m_one.time + day, 0}}});
+        writeFile(inMirror(QStringLiteral("safe.deletions")), forged.toJson());
+        QVERIFY(m_two.synchronise(m_mirror).removed.isEmpty());
+        QCOMPARE(m_two.items().size(), 1);
+    }
+
+    void makesADamagedRecordAnew()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        meet();
+        rename(m_two, id, QStringLiteral("second"));
+        writeFile(m_two.folder + QStringLiteral("/safe.sync"), "{\"vers");
+        meet();
+        QVERIFY(m_one.items().contains(id + QStringLiteral(" second")));
+        QCOMPARE(m_one.items(), m_two.items());
+        QVERIFY(SyncRecord::fromJson(contentOf(m_two.folder + QStringLiteral("/safe.sync"))));
+    }
+
+    void losesNothingOverTime_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+        for (unsigned seed = 1; seed <= 4; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    /// Edits, deletions, failing writes, half files and clocks a day apart, in any order.
+    void losesNothingOverTime()
+    {
+        QFETCH(const unsigned, seed);
+        std::mt19937 random(seed);
+        const auto pick = [&random](int count) {
+            return static_cast<int>(random() % static_cast<unsigned>(count));
+        };
+        QStringList ids{add(m_one, QStringLiteral("0"))};
+        QHash<QString, QString> alive{{QStringLiteral("0"), ids.first()}}; // by title
+        int titles = 0;
+        for (int step = 0; step < 60; ++step) {
+            Computer &computer = pick(2) == 0 ? m_one : m_two;
+            const QString id = ids.at(pick(ids.size()));
+            QString title;
+            computer.work([&](GPMSafe &safe) {
+                if (const PMListItem *item = safe.item(id))
+                    title = item->title();
+            });
+            switch (pick(8)) {
+            case 0:
+                ids += add(computer, QString::number(++titles));
+                alive.insert(QString::number(titles), ids.last());
+                break;
+            case 1:
+            case 2:
+                if (title.isEmpty())
+                    break;
+                alive.remove(title);
+                rename(computer, id, QString::number(++titles));
+                alive.insert(QString::number(titles), id);
+                break;
+            case 3:
+                if (title.isEmpty())
+                    break;
+                alive.remove(title);
+                remove(computer, id);
+                break;
+            case 4:
+                computer.time += (pick(3) - 1) * day;
+                break;
+            default:
+                computer.files->operations = 0;
+                computer.files->failAt = pick(2) == 0 ? 1 + pick(5) : 0;
+                computer.files->andAllBehind = true;
+                computer.synchronise(m_mirror);
+                computer.files->failAt = 0;
+            }
+        }
+        meet();
+        const QStringList items = m_one.items();
+        QCOMPARE(m_two.items(), items);
+        for (auto each = alive.begin(); each != alive.end(); ++each) {
+            const QRegularExpression there(
+                QStringLiteral("^\\S+ %1( \\(.*\\(trash\\))?$").arg(each.key()));
+            QVERIFY2(!items.filter(there).isEmpty(),
+                     qPrintable(each.key() + QLatin1Char('\n') + items.join(QLatin1Char('\n'))));
+        }
+    }
+
+    /// The disk is full, or the power fails, at every write and removal of a round with everything
+    /// in it; the next round ends well.
+    void survivesEveryFailure()
+    {
+        const QString changed = add(m_one, QStringLiteral("changed"));
+        const QString gone = add(m_one, QStringLiteral("gone"));
+        attach(m_one, "some bytes");
+        meet();
+        rename(m_two, changed, QStringLiteral("theirs"));
+        add(m_two, QStringLiteral("new"));
+        remove(m_two, gone);
+        QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Done);
+        m_one.time += day;
+        rename(m_one, changed, QStringLiteral("mine"));
+        attach(m_one, "other bytes");
+        m_one.work([](GPMSafe &safe) { QVERIFY(safe.changePassword(samplePassword)); });
+        const QString one = m_temporary->filePath(QStringLiteral("one before"));
+        const QString mirror = m_temporary->filePath(QStringLiteral("mirror before"));
+        QDir().mkpath(one);
+        QDir().mkpath(mirror);
+        copyFolder(m_one.folder, one);
+        QVERIFY(QFile::copy(m_one.folder + QStringLiteral("/safe.sync"),
+                            one + QStringLiteral("/safe.sync")));
+        copyFolder(m_mirror, mirror);
+        QStringList expected;
+        for (int failAt = 0;; ++failAt) {
+            QDir(m_one.folder).removeRecursively();
+            QDir(m_mirror).removeRecursively();
+            copyFolder(one, m_one.folder);
+            QFile::copy(one + QStringLiteral("/safe.sync"),
+                        m_one.folder + QStringLiteral("/safe.sync"));
+            copyFolder(mirror, m_mirror);
+            m_one.files->operations = 0;
+            m_one.files->failAt = failAt;
+            m_one.files->andAllBehind = failAt % 2 == 0;
+            const SyncState state = m_one.synchronise(m_mirror).state;
+            const bool failed = failAt > 0 && m_one.files->operations >= failAt;
+            m_one.files->failAt = 0;
+            if (failAt > 0 && !failed)
+                break;
+            QVERIFY(failed || state == SyncState::Done);
+            QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+            QStringList items = m_one.items();
+            if (failAt == 0)
+                expected = items;
+            QCOMPARE(items, expected);
+            QVERIFY(!snapshot(m_mirror).keys().join(QLatin1Char('|')).contains(gone));
+        }
+        QCOMPARE(expected.filter(QStringLiteral("theirs (")).size(), 1);
+        QCOMPARE(expected.size(), 5);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSyncRound)
+#include "tst_syncround.moc"
