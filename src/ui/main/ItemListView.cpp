@@ -1,7 +1,10 @@
 #include "ItemListView.h"
 
 #include <QApplication>
+#include <QDrag>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 
 ItemListView::ItemListView(QWidget *parent)
     : QListView(parent)
@@ -44,6 +47,36 @@ void ItemListView::mouseMoveEvent(QMouseEvent *event)
     }
     if (m_gesture != Gesture::Done)
         settleAfter([&] { QListView::mouseMoveEvent(event); });
+}
+
+void ItemListView::startDrag(Qt::DropActions actions)
+{
+    const QModelIndexList rows = selectedIndexes();
+    if (rows.isEmpty())
+        return;
+    auto *drag = new QDrag(this);
+    drag->setMimeData(model()->mimeData(rows));
+    drag->setPixmap(dragPicture(rows.size()));
+    // Beside the pointer, so that the entry to drop it on can be seen.
+    drag->setHotSpot(QPoint(-8, -8));
+    drag->exec(actions, Qt::MoveAction);
+}
+
+QPixmap ItemListView::dragPicture(int count) const
+{
+    const QRect row = visualRect(indexAt(m_pressed));
+    QPixmap picture = viewport()->grab(QRect(row.topLeft(), QSize(row.height(), row.height())));
+    if (count < 2)
+        return picture;
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect ground(row.height() - 28, 0, 28, 20);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().highlight());
+    painter.drawRoundedRect(ground, 10, 10);
+    painter.setPen(palette().color(QPalette::HighlightedText));
+    painter.drawText(ground, Qt::AlignCenter, QString::number(count));
+    return picture;
 }
 
 void ItemListView::mouseReleaseEvent(QMouseEvent *event)

@@ -19,6 +19,7 @@ Q_SIGNALS:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void startDrag(Qt::DropActions actions) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -36,6 +37,7 @@ private:
     template <typename Handler>
     void settleAfter(Handler handler);
     void settle();
+    QPixmap dragPicture(int count) const;
     bool isAhead() const;
 
     Gesture m_gesture = Gesture::None;

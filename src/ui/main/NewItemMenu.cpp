@@ -1,5 +1,6 @@
 #include "NewItemMenu.h"
 
+#include "ItemCategory.h"
 #include "ItemKinds.h"
 #include "style/Theme.h"
 
@@ -8,11 +9,14 @@ NewItemMenu::NewItemMenu(const Theme &theme, QWidget *parent)
 {
     setObjectName(QStringLiteral("newItemMenu"));
     setAccessibleName(tr("New item"));
-    for (int kind = PMListItem::Login; kind < PMListItem::UndefinedItem; ++kind) {
-        const auto type = static_cast<PMListItem::Type>(kind);
+    // In the order of the sidebar.
+    for (const ItemCategory &category : ItemCategory::all()) {
+        if (category.kind != ItemCategory::OfType)
+            continue;
+        const PMListItem::Type type = category.type;
         QAction *action =
             addAction(theme.icon(itemKindIcon(type), Palette::Text), itemKindName(type));
-        action->setData(kind);
+        action->setData(static_cast<int>(type));
         connect(action, &QAction::triggered, this, [this, type] { Q_EMIT chosen(type); });
     }
 }
