@@ -101,6 +101,8 @@ void PMUiProvider::createMainWindow()
     connectView(*view);
     view->setItemOrder(m_settings.itemOrder());
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
+    connect(m_window.get(), &SecureWindow::settingsRequested, m_sideWindows.get(),
+            &SideWindows::openSettings);
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
     makeLockShortcut();
     m_settings.restoreGeometry(*m_window);

@@ -109,6 +109,7 @@ private Q_SLOTS:
     void hotkeys();
     void ownShortcutsAreTaken();
     void lockHotkeyLocks();
+    void openFromTheLockPage();
     void look();
     void languageWithoutRestart();
     void unsavedEditIsAskedFor();
@@ -365,6 +366,15 @@ void TestSettingsDialog::lockHotkeyLocks()
     find<QWidget>(dialog, "settingsSearch")->setFocus();
     QTest::keyClick(&dialog, Qt::Key_K, Qt::ControlModifier | Qt::AltModifier);
     QVERIFY(!program.test.core.currentSafe()->isUnlocked());
+}
+
+void TestSettingsDialog::openFromTheLockPage()
+{
+    Program program;
+    program.test.core.lockCurrentSafe();
+    QApplication::setActiveWindow(program.ui.mainWindow());
+    QTest::keyClick(program.ui.mainWindow()->focusWidget(), Qt::Key_Comma, Qt::ControlModifier);
+    QVERIFY(program.ui.mainWindow()->findChild<SettingsDialog *>());
 }
 
 void TestSettingsDialog::look()

@@ -61,6 +61,10 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     configureStateMachine();
     connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this), &QShortcut::activated,
             this, &SecureWindow::exitRequested);
+    // The content has the same key, for while the safe is open.
+    auto *settings = new QShortcut(QKeySequence(QStringLiteral("Ctrl+,")), m_pages);
+    settings->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(settings, &QShortcut::activated, this, &SecureWindow::settingsRequested);
     connect(m_pages, &PagesStack::dismissed, this, &QWidget::close);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);

@@ -61,6 +61,8 @@ Q_SIGNALS:
     /// The window was put away.
     void hidden();
     void exitRequested();
+    /// The settings are wanted from a lock page.
+    void settingsRequested();
     void _requestOpenShuttersPrivate(QPrivateSignal);
     void _requestCloseShuttersPrivate(QPrivateSignal);
 
