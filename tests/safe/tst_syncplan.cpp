@@ -10,7 +10,7 @@ Q_DECLARE_METATYPE(SyncVersion)
 
 namespace {
 
-// The sanitizers make a step some fifty times slower.
+// The sanitizers make a step much slower.
 #ifdef __SANITIZE_ADDRESS__
 constexpr unsigned seeds = 6;
 #else
