@@ -62,6 +62,21 @@ struct TestCore
     GPMAppCore core;
 };
 
+/// Makes a safe and shows it in a view, which follows its locks.
+template <typename Content>
+void openWithSafe(Content &view, TestCore &test)
+{
+    QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view,
+                     [&view, &test](bool locked) {
+                         if (locked)
+                             view.closeSafe();
+                         else
+                             view.openSafe(test.core.currentSafe());
+                     });
+    if (!test.createSafe())
+        qFatal("No safe to test with");
+}
+
 /// Answers questions with what was prepared and keeps them.
 struct TestAsker
 {

@@ -27,14 +27,7 @@ struct Desk
     Desk()
         : view(test.core, theme, asker.asker())
     {
-        QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view, [this](bool locked) {
-            if (locked)
-                view.closeSafe();
-            else
-                view.openSafe(test.core.currentSafe());
-        });
-        if (!test.createSafe())
-            qFatal("No safe to test with");
+        openWithSafe(view, test);
         loginId = test.addLogin(QStringLiteral("Cloudmail"));
         view.resize(1000, 680);
         view.show();

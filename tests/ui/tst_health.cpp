@@ -31,14 +31,7 @@ struct Program
     Program()
         : view(test.core, theme, asker.asker())
     {
-        QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view, [this](bool locked) {
-            if (locked)
-                view.closeSafe();
-            else
-                view.openSafe(test.core.currentSafe());
-        });
-        if (!test.createSafe())
-            qFatal("No safe to test with");
+        openWithSafe(view, test);
         for (const char *title : {"Alpha", "Beta", "Gamma"}) {
             const QString id = test.addLogin(QLatin1String(title));
             test.login(id)->setPassword(QLatin1String(title) + QStringLiteral("1"));

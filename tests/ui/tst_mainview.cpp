@@ -70,14 +70,7 @@ struct View
     View()
         : view(test.core, theme, asker.asker(), nullptr, [this] { return now; })
     {
-        QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view, [this](bool locked) {
-            if (locked)
-                view.closeSafe();
-            else
-                view.openSafe(test.core.currentSafe());
-        });
-        if (!test.createSafe())
-            qFatal("No safe to test with");
+        openWithSafe(view, test);
         view.resize(1000, 680);
         view.show();
         view.activateWindow();

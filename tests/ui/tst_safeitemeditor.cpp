@@ -36,14 +36,7 @@ struct Editing
     Editing()
         : view(test.core, theme, asker.asker())
     {
-        QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view, [this](bool locked) {
-            if (locked)
-                view.closeSafe();
-            else
-                view.openSafe(test.core.currentSafe());
-        });
-        if (!test.createSafe())
-            qFatal("No safe to test with");
+        openWithSafe(view, test);
         view.resize(1000, 680);
         view.show();
         activate();
