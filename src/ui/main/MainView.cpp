@@ -11,6 +11,7 @@
 #include "ItemPane.h"
 #include "NoticeBanner.h"
 #include "SafeLayout.h"
+#include "SafeMenu.h"
 #include "SelectionPage.h"
 #include "ShortcutTable.h"
 #include "ShortcutsDialog.h"
@@ -59,6 +60,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_actions = new ItemActions(core, asker, this);
     m_banner = new Banner(theme, this);
     m_sidebar = new Sidebar(theme, this);
+    m_safeMenu = new SafeMenu(core, theme, this);
     m_splitter = new QSplitter(this);
     m_list = new ItemListPane(m_items, theme, m_splitter, clock);
     m_right = new QStackedWidget(m_splitter);
@@ -115,8 +117,10 @@ void MainView::connectParts()
     connect(m_sidebar, &Sidebar::helpRequested, this, &MainView::helpRequested);
     connect(m_sidebar, &Sidebar::setUpRequested, this, &MainView::setUpRequested);
     connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
-    connect(m_sidebar, &Sidebar::safeChosen, this, &MainView::safeChosen);
-    connect(m_sidebar, &Sidebar::createSafeRequested, this, &MainView::createSafeRequested);
+    m_sidebar->setSafeMenu(m_safeMenu);
+    connect(m_safeMenu, &SafeMenu::safeChosen, this, &MainView::safeChosen);
+    connect(m_safeMenu, &SafeMenu::createRequested, this, &MainView::createSafeRequested);
+    connect(m_safeMenu, &SafeMenu::lockRequested, this, &MainView::lockRequested);
     connect(m_sidebar, &Sidebar::itemsDropped, this,
             [this](const ItemCategory &category, const QStringList &ids) {
                 // A question inside the drop would hold the drag up.
@@ -124,7 +128,6 @@ void MainView::connectParts()
             });
     connect(m_sidebar, &Sidebar::restoreAllRequested, m_actions, &ItemActions::restoreAll);
     connect(m_sidebar, &Sidebar::emptyTrashRequested, m_actions, &ItemActions::emptyTrash);
-    m_sidebar->setKnownSafes([this] { return m_core.knownSafes().entries(); });
     connect(&m_items, &ItemListModel::contentChanged, this, &MainView::onContentChanged);
     connect(m_list, &ItemListPane::selectionChosen, this, &MainView::onSelectionChosen);
     connect(m_list, &ItemListPane::menuRequested, this, &MainView::showMenu);
@@ -202,7 +205,7 @@ void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
 {
     m_splitter->show();
     m_items.setSafe(safe);
-    m_sidebar->setSafe(safe->name(), safe->folder());
+    m_sidebar->setSafe(safe->name());
     m_list->setIconFolder(SafeFolder(safe->folder()).path(SafeLayout::favicon));
     m_banner->setUnreadableFiles(unreadablePaths(*safe));
     showCategory({});
@@ -225,7 +228,7 @@ void MainView::closeSafe()
     m_pane->showNothing();
     m_items.setSafe(nullptr);
     m_list->clearSearch();
-    m_sidebar->setSafe({}, {});
+    m_sidebar->setSafe({});
     m_list->setIconFolder({});
     m_actions->forget();
     m_health->close();

@@ -18,6 +18,7 @@ class ItemListPane;
 class ItemPane;
 class QSplitter;
 class QStackedWidget;
+class SafeMenu;
 class SelectionPage;
 class Sidebar;
 class SnackBar;
@@ -52,6 +53,9 @@ public:
     /// The name of the order of the items, and that order by its name.
     QString itemOrder() const;
     void setItemOrder(const QString &name);
+
+    /// What can be done with the open safe and with all of them.
+    SafeMenu &safeMenu() { return *m_safeMenu; }
 
     /// Whether the first steps with the program are done, and need not be offered.
     void setSetUpDone(bool done);
@@ -110,6 +114,7 @@ private:
     ItemActions *m_actions;
     Banner *m_banner;
     Sidebar *m_sidebar;
+    SafeMenu *m_safeMenu;
     QSplitter *m_splitter;
     ItemListPane *m_list;
     QStackedWidget *m_right;

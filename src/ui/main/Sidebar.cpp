@@ -27,9 +27,6 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
     setObjectName(QStringLiteral("sidebar"));
     setAttribute(Qt::WA_StyledBackground);
     setFixedWidth(qMax(sidebarWidth, Style::scaled(sidebarWidth)));
-    connect(m_switcher, &SafeSwitcher::safeChosen, this, &Sidebar::safeChosen);
-    connect(m_switcher, &SafeSwitcher::createRequested, this, &Sidebar::createSafeRequested);
-    connect(m_switcher, &SafeSwitcher::lockRequested, this, &Sidebar::lockRequested);
     auto *head = new QHBoxLayout;
     head->setContentsMargins(10, 8, 10, 6);
     head->addWidget(m_switcher);
@@ -110,14 +107,14 @@ void Sidebar::setSetUpDone(bool done)
     m_setUp->setVisible(!done);
 }
 
-void Sidebar::setSafe(const QString &name, const QString &folder)
+void Sidebar::setSafe(const QString &name)
 {
-    m_switcher->setSafe(name, folder);
+    m_switcher->setSafe(name);
 }
 
-void Sidebar::setKnownSafes(const std::function<QVector<KnownSafes::Entry>()> &entries)
+void Sidebar::setSafeMenu(QMenu *menu)
 {
-    m_switcher->setEntries(entries);
+    m_switcher->setMenu(menu);
 }
 
 void Sidebar::setCounts(const QVector<int> &counts)

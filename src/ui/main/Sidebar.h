@@ -1,16 +1,14 @@
 #pragma once
 
 #include "ItemCategory.h"
-#include "KnownSafes.h"
 
 #include <QWidget>
-
-#include <functional>
 
 class CategoryListView;
 class CategoryModel;
 class QAction;
 class QBoxLayout;
+class QMenu;
 class SafeSwitcher;
 class Theme;
 
@@ -22,9 +20,9 @@ class Sidebar : public QWidget
 public:
     Sidebar(const Theme &theme, QWidget *parent);
 
-    void setSafe(const QString &name, const QString &folder);
-    /// Where the safes to switch to come from.
-    void setKnownSafes(const std::function<QVector<KnownSafes::Entry>()> &entries);
+    void setSafe(const QString &name);
+    /// What the name of the safe opens.
+    void setSafeMenu(QMenu *menu);
     /// @param counts the number of items in each category of ItemCategory::all()
     void setCounts(const QVector<int> &counts);
     int count(const ItemCategory &category) const;
@@ -39,8 +37,6 @@ Q_SIGNALS:
     void itemsDropped(const ItemCategory &category, const QStringList &ids);
     void restoreAllRequested();
     void emptyTrashRequested();
-    void safeChosen(const QString &folder);
-    void createSafeRequested();
     void lockRequested();
     void generatorRequested();
     void healthRequested();

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QMenu>
+
+#include <functional>
+
+class GPMAppCore;
+class Theme;
+
+/// The menu of the open safe: the safes to switch to, and what can be done with this one and with
+/// all of them. Filled whenever it opens.
+class SafeMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    SafeMenu(GPMAppCore &core, const Theme &theme, QWidget *parent);
+
+Q_SIGNALS:
+    void safeChosen(const QString &folder);
+    void createRequested();
+    void lockRequested();
+
+private:
+    /// One command about the open safe.
+    struct Row
+    {
+        const char *name; ///< of the action; null: a line between groups
+        const char *icon = "";
+        QString text{};
+        void (SafeMenu::*signal)() = nullptr;
+        const char *keys = "";              ///< only told: they are the main view's
+        std::function<bool()> enabled = {}; ///< always, when it is empty
+    };
+
+    QVector<Row> rows() const;
+    void fill();
+    void addSafes();
+    void add(const Row &row);
+
+    GPMAppCore &m_core;
+    const Theme &m_theme;
+};
