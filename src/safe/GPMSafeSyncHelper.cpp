@@ -64,6 +64,8 @@ void GPMSafeSyncHelper::synchronize()
     watch();
     m_told = m_deleted;
     m_isRunning = m_safe->meetMirror(m_mirrorFolder, m_told);
+    if (m_isRunning)
+        Q_EMIT started();
 }
 
 void GPMSafeSyncHelper::pause()
@@ -111,8 +113,9 @@ void GPMSafeSyncHelper::onItemRemoved(const QString &id)
 void GPMSafeSyncHelper::onFinished(const SyncResult &result)
 {
     m_isRunning = false;
-    m_state = result.state;
+    m_last = summaryOf(result);
     if (result.state == SyncState::Done || result.state == SyncState::Waiting) {
+        m_lastMet = m_last.time;
         for (auto told = m_told.begin(); told != m_told.end(); ++told) {
             if (m_deleted.value(told.key()) == told.value())
                 m_deleted.remove(told.key());
@@ -127,6 +130,22 @@ void GPMSafeSyncHelper::onFinished(const SyncResult &result)
     Q_EMIT synchronized(result.state);
     if (m_onceMore || result.state == SyncState::Cancelled)
         QTimer::singleShot(0, this, &GPMSafeSyncHelper::synchronize);
+}
+
+SyncSummary GPMSafeSyncHelper::summaryOf(const SyncResult &result) const
+{
+    SyncSummary summary{result.state,
+                        m_environment.clock(),
+                        result.received,
+                        result.sent,
+                        result.removed.size(),
+                        result.copies,
+                        {}};
+    for (const QString &id : result.waiting) {
+        const PMListItem *item = m_safe->item(id);
+        summary.waiting.append(item ? item->title() : id);
+    }
+    return summary;
 }
 
 void GPMSafeSyncHelper::watch()

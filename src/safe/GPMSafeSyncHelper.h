@@ -2,6 +2,7 @@
 
 #include "GPMSafe.h"
 #include "SyncRound.h"
+#include "SyncSummary.h"
 
 #include <QFileSystemWatcher>
 #include <QMap>
@@ -42,12 +43,20 @@ public:
 
     bool isRunning() const { return m_isRunning; }
     /// What came of the last meeting.
-    SyncState state() const { return m_state; }
+    SyncState state() const { return m_last.state; }
+    const SyncSummary &last() const { return m_last; }
+    /// When both sides last met, whether or not a file still waits; null when they did not since
+    /// this helper is there.
+    QDateTime lastMet() const { return m_lastMet; }
 
     /// Whether a password opens the mirror, to be asked before the safe takes it over.
     bool opensMirror(const QString &password) const;
 
 Q_SIGNALS:
+    /// A meeting begins; synchronized() follows, unless pause() comes first.
+    void started();
+    /// How far the meeting under way is, counted in items that may differ.
+    void progress(int done, int total);
     /// After each meeting, when the safe's items are those that it brought.
     void synchronized(SyncState state);
     /// Once for every new password of the mirror.
@@ -58,6 +67,7 @@ private:
     void onMirrorChanged();
     void onItemRemoved(const QString &id);
     void onFinished(const SyncResult &result);
+    SyncSummary summaryOf(const SyncResult &result) const;
     void watch();
     void askForPassword();
 
@@ -73,5 +83,6 @@ private:
     QByteArray m_askedFor;           ///< pass id of the mirror
     bool m_isRunning = false;
     bool m_onceMore = false;
-    SyncState m_state = SyncState::Done;
+    SyncSummary m_last;
+    QDateTime m_lastMet;
 };

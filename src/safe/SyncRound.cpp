@@ -256,6 +256,7 @@ bool SyncRound::writeWinner(const SyncVersions::Item &item, const SyncActions &a
         if (!writeTo(SyncSide::Local, actions))
             return false;
         m_result.taken.append({actions.target, item.documents.value(actions.winner->version.hash)});
+        m_result.received += actions.winner->side == SyncSide::Mirror ? 1 : 0;
     }
     if (!actions.toMirror)
         return true;

@@ -1,21 +1,10 @@
 #pragma once
 
+#include "SyncState.h"
 #include "SyncVersions.h"
 #include "WorkControl.h"
 
 #include <QMutex>
-
-enum class SyncState {
-    Done,
-    Waiting,           ///< files in the mirror are not whole yet; the rest is done
-    Busy,              ///< the safe's password is being changed, or it is being archived
-    NewPasswordNeeded, ///< the password was changed on another computer
-    MirrorMissing,     ///< the folder is not there, as on a drive that is not connected
-    OtherSafe,         ///< the folder mirrors another safe
-    MirrorNotWritten,  ///< the rest is done; the disk may be full or the folder read-only
-    SafeNotWritten,
-    Cancelled,
-};
 
 struct SyncResult
 {
@@ -31,8 +20,9 @@ struct SyncResult
     QStringList removed; ///< ids of items that are gone
     QStringList waiting; ///< ids of items that stay as they are until a file is whole
     bool descriptionTaken = false;
-    int sent = 0;   ///< items written to the mirror
-    int copies = 0; ///< versions that lost and were put into the trash
+    int received = 0; ///< items that came from the mirror
+    int sent = 0;     ///< items written to the mirror
+    int copies = 0;   ///< versions that lost and were put into the trash
 };
 
 /// One meeting of a safe with its mirror: reads both, merges item by item, writes what is missing
