@@ -54,7 +54,7 @@ public:
     /// False when a quoted field does not end.
     bool readRecord(CsvRecord &record)
     {
-        record = {m_line, {}};
+        record = {++m_row, {}};
         do {
             QString cell;
             if (!readCell(cell))
@@ -62,8 +62,7 @@ public:
             record.cells.append(cell);
         } while (skip(m_separator));
         skip(QLatin1Char('\r'));
-        if (skip(QLatin1Char('\n')) || !atEnd())
-            ++m_line;
+        skip(QLatin1Char('\n'));
         return true;
     }
 
@@ -98,8 +97,6 @@ private:
                     ++m_at;
                 return true;
             }
-            if (c == QLatin1Char('\n'))
-                ++m_line;
             cell.append(c);
         }
         return false;
@@ -108,7 +105,7 @@ private:
     const QString &m_text;
     QChar m_separator;
     int m_at = 0;
-    int m_line = 1;
+    int m_row = 0;
 };
 
 } // namespace
@@ -128,4 +125,17 @@ std::optional<std::vector<CsvRecord>> parseCsv(const QByteArray &bytes)
     if (!good)
         return std::nullopt;
     return records;
+}
+
+QByteArray csvLine(const QStringList &cells)
+{
+    QByteArray line;
+    for (const QString &cell : cells) {
+        if (!line.isEmpty())
+            line += ',';
+        QByteArray bytes = cell.toUtf8();
+        line += '"' + bytes.replace('"', "\"\"") + '"';
+        wipe(bytes);
+    }
+    return line + "\r\n";
 }

@@ -5,7 +5,8 @@
 #include "PMItemFactory.h"
 #include "SecretBytes.h"
 
-#include <QSet>
+#include <QHash>
+#include <QRegularExpression>
 #include <QUrl>
 
 #include <algorithm>
@@ -21,45 +22,50 @@ struct Column
 
 // Meanings that are no property.
 constexpr char kind[] = "*kind";
-constexpr char createdMs[] = "*created"; ///< in milliseconds since the epoch
-constexpr char modifiedMs[] = "*modified";
-constexpr char appended[] = "*note"; ///< goes to the note with its name
+constexpr char addresses[] = "*addresses"; ///< one or more, with commas between them
+constexpr char group[] = "*group";         ///< its path, from the name of the whole
+constexpr char lines[] = "*lines";         ///< goes to the note as it is
+constexpr char appended[] = "*note";       ///< goes to the note with its name
 constexpr char ignored[] = "*ignored";
+// Times in milliseconds since the epoch.
+constexpr char createdMs[] = "*created";
+constexpr char modifiedMs[] = "*modified";
+constexpr char lastAccessedMs[] = "*lastAccessed";
 
 struct CsvFormat
 {
     ImportFile::Format format;
-    QVector<Column> columns;
+    QVector<Column> columns; ///< those that are not named here go to the note with their names
 };
 
 const QVector<CsvFormat> csvFormats{{ImportFile::Firefox,
                                      {{"url", "url"},
                                       {"username", "login"},
                                       {"password", "password"},
-                                      {"httprealm", ignored},
+                                      {"httprealm", appended},
                                       {"formactionorigin", ignored},
                                       {"guid", ignored},
                                       {"timecreated", createdMs, false},
+                                      {"timelastused", lastAccessedMs, false},
                                       {"timepasswordchanged", modifiedMs, false}}},
                                     {ImportFile::Bitwarden,
                                      {{"type", kind},
                                       {"name", "title"},
                                       {"notes", "note"},
-                                      {"login_uri", "url"},
+                                      {"login_uri", addresses},
                                       {"login_username", "login"},
                                       {"login_password", "password"},
                                       {"favorite", "favorite", false},
-                                      {"folder", appended, false},
-                                      {"fields", appended, false},
-                                      {"login_totp", appended, false}}},
+                                      {"fields", lines, false},
+                                      {"reprompt", ignored, false}}},
                                     {ImportFile::KeePassXC,
-                                     {{"group", appended},
+                                     {{"group", group},
                                       {"title", "title"},
                                       {"username", "login"},
                                       {"password", "password"},
                                       {"url", "url"},
                                       {"notes", "note"},
-                                      {"totp", appended, false},
+                                      {"icon", ignored, false},
                                       {"created", "created", false},
                                       {"last modified", "modified", false}}},
                                     {ImportFile::Safari,
@@ -75,6 +81,24 @@ const QVector<CsvFormat> csvFormats{{ImportFile::Firefox,
                                       {"username", "login"},
                                       {"password", "password"},
                                       {"note", "note", false}}}};
+
+/// Words that columns of unknown formats are often called, and what they mean.
+const QHash<QString, QByteArray> &usualNames()
+{
+    static const QHash<QString, QByteArray> names{
+        {QStringLiteral("title"), "title"},       {QStringLiteral("name"), "title"},
+        {QStringLiteral("account"), "title"},     {QStringLiteral("url"), "url"},
+        {QStringLiteral("website"), "url"},       {QStringLiteral("web site"), "url"},
+        {QStringLiteral("address"), "url"},       {QStringLiteral("login_uri"), "url"},
+        {QStringLiteral("urls"), "url"},          {QStringLiteral("hostname"), "url"},
+        {QStringLiteral("username"), "login"},    {QStringLiteral("user name"), "login"},
+        {QStringLiteral("user"), "login"},        {QStringLiteral("login"), "login"},
+        {QStringLiteral("login name"), "login"},  {QStringLiteral("email"), "login"},
+        {QStringLiteral("password"), "password"}, {QStringLiteral("login_password"), "password"},
+        {QStringLiteral("notes"), "note"},        {QStringLiteral("note"), "note"},
+        {QStringLiteral("comments"), "note"},     {QStringLiteral("comment"), "note"}};
+    return names;
+}
 
 /// The format whose columns a first row has; null when there is none.
 const CsvFormat *recognise(const QStringList &header)
@@ -98,15 +122,24 @@ QStringList lowered(const QStringList &cells)
     return result;
 }
 
-void setField(ImportEntry &entry, const char *property, const QVariant &value)
+/// The item's address is the first one of a web page; the others are kept in the note.
+void takeAddresses(ImportEntry &entry, const QString &cell, QStringList &further)
 {
-    if (!value.toString().isEmpty())
-        entry.fields.append({property, value});
+    // A comma may also be part of an address.
+    static const QRegularExpression between(
+        QStringLiteral(",(?=[A-Za-z][A-Za-z0-9+.-]*://|[A-Za-z0-9-]+(\\.[A-Za-z0-9-]+)+(,|/|$))"));
+    setAddresses(entry, cell.split(between, Qt::SkipEmptyParts), further);
 }
 
-void takeCell(ImportEntry &entry, const Column &column, const QString &cell, QStringList &further)
+void takeTime(ImportEntry &entry, const char *property, const QDateTime &time)
 {
-    const QByteArray meaning = column.meaning;
+    if (time.isValid())
+        entry.set(property, time.toUTC());
+}
+
+void takeCell(ImportEntry &entry, const QByteArray &meaning, const QString &name,
+              const QString &cell, QStringList &further)
+{
     if (cell.isEmpty() || meaning == ignored)
         return;
     if (meaning == kind) {
@@ -114,118 +147,196 @@ void takeCell(ImportEntry &entry, const Column &column, const QString &cell, QSt
             entry.type = PMListItem::SecureNote;
         else if (cell != QLatin1String("login"))
             entry.fault = ImportEntry::UnknownKind;
+    } else if (meaning == addresses) {
+        takeAddresses(entry, cell, further);
+    } else if (meaning == group) {
+        const int slash = cell.indexOf(QLatin1Char('/'));
+        if (slash >= 0)
+            further.append(QStringLiteral("%1: %2").arg(name, cell.mid(slash + 1)));
+    } else if (meaning == lines) {
+        further.append(cell);
     } else if (meaning == appended) {
-        further.append(QStringLiteral("%1: %2").arg(QLatin1String(column.header), cell));
-    } else if (meaning == createdMs || meaning == modifiedMs) {
+        further.append(QStringLiteral("%1: %2").arg(name, cell));
+    } else if (meaning == createdMs || meaning == modifiedMs || meaning == lastAccessedMs) {
         const qint64 time = cell.toLongLong();
         if (time > 0)
-            setField(entry, column.meaning + 1, QDateTime::fromMSecsSinceEpoch(time, Qt::UTC));
+            takeTime(entry, meaning.constData() + 1, QDateTime::fromMSecsSinceEpoch(time, Qt::UTC));
     } else if (meaning == "created" || meaning == "modified") {
-        const QDateTime time = QDateTime::fromString(cell, Qt::ISODate);
-        if (time.isValid())
-            setField(entry, column.meaning, time.toUTC());
+        takeTime(entry, meaning, QDateTime::fromString(cell, Qt::ISODate));
     } else if (meaning == "favorite") {
-        setField(entry, column.meaning, cell == QLatin1String("1"));
+        if (cell == QLatin1String("1"))
+            entry.set(meaning, true);
+    } else if (entry.text(meaning).isEmpty()) {
+        entry.set(meaning, cell);
     } else {
-        setField(entry, column.meaning, cell);
+        further.append(QStringLiteral("%1: %2").arg(name, cell));
     }
 }
 
-ImportEntry readRow(const CsvFormat &format, const QStringList &header, const CsvRecord &record)
+/// What each column of a file means.
+QVector<QByteArray> meanings(const CsvFormat &format, const QStringList &header)
+{
+    QVector<QByteArray> result;
+    for (const QString &name : header) {
+        const auto column = std::find_if(
+            format.columns.begin(), format.columns.end(),
+            [&name](const Column &known) { return name == QLatin1String(known.header); });
+        result.append(column == format.columns.end() ? appended : column->meaning);
+    }
+    return result;
+}
+
+ImportEntry readRow(const QVector<QByteArray> &meanings, const QStringList &names,
+                    const CsvRecord &record)
 {
     ImportEntry entry;
-    entry.number = record.line;
-    if (record.cells.size() != header.size()) {
+    entry.number = record.row;
+    if (record.cells.size() != meanings.size()) {
         entry.fault = ImportEntry::WrongColumns;
         return entry;
     }
     QStringList further;
-    for (const Column &column : format.columns) {
-        const int at = header.indexOf(QLatin1String(column.header));
-        if (at >= 0)
-            takeCell(entry, column, record.cells.at(at), further);
-    }
+    for (int i = 0; i < meanings.size(); ++i)
+        takeCell(entry, meanings.at(i), names.at(i), record.cells.at(i), further);
     finishEntry(entry, further);
+    for (QString &line : further)
+        wipe(line);
     return entry;
 }
 
-ImportFile readCsv(const QByteArray &bytes)
+void wipeRecords(std::vector<CsvRecord> &records)
 {
-    std::optional<std::vector<CsvRecord>> records = parseCsv(bytes);
-    if (!records || records->empty())
-        return {};
-    const QStringList header = lowered(records->front().cells);
-    const CsvFormat *format = recognise(header);
-    if (!format)
-        return {};
-    ImportFile file{format->format, {}};
-    for (std::size_t i = 1; i < records->size(); ++i) {
-        CsvRecord &record = (*records)[i];
-        file.entries.push_back(readRow(*format, header, record));
+    for (CsvRecord &record : records) {
         for (QString &cell : record.cells)
             wipe(cell);
     }
+}
+
+ImportFile problem(ImportFile::Problem problem)
+{
+    ImportFile file;
+    file.problem = problem;
     return file;
 }
 
-QString hostOf(const QString &address)
+/// Texts have no NUL, unless every other byte is one.
+bool isText(const QByteArray &bytes)
 {
-    const QString host = QUrl::fromUserInput(address).host().toLower();
-    return host.startsWith(QLatin1String("www.")) ? host.mid(4) : host;
+    const bool isUtf16 = bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
+    return isUtf16 || !bytes.contains('\0');
 }
 
-/// What makes two entries the same. A separator that no text has keeps the parts apart.
-QString identity(PMListItem::Type type, const QString &title, const QString &host,
-                 const QString &login, const QString &password)
+ImportFile readRecords(const std::vector<CsvRecord> &records, const ImportColumns &columns)
 {
-    const QStringList parts = type == PMListItem::Login && !host.isEmpty()
-                                  ? QStringList{host, login, password}
-                                  : QStringList{title, login, password};
-    return QString::number(type) + QChar(0x1f) + parts.join(QChar(0x1f));
+    QStringList names;
+    for (const QString &cell : records.front().cells)
+        names.append(cell.trimmed());
+    const QStringList header = lowered(names);
+    const CsvFormat *format = recognise(header);
+    if (!format && columns.size() != header.size()) {
+        ImportFile file = problem(ImportFile::UnknownColumns);
+        file.header = names;
+        return file;
+    }
+    ImportFile file;
+    file.format = format ? format->format : ImportFile::ChosenColumns;
+    QVector<QByteArray> meant = format ? meanings(*format, header) : columns;
+    for (QByteArray &meaning : meant) {
+        if (meaning.isEmpty())
+            meaning = appended;
+    }
+    for (std::size_t i = 1; i < records.size(); ++i)
+        file.entries.push_back(readRow(meant, names, records[i]));
+    return file;
+}
+
+ImportFile readCsv(const QByteArray &bytes, const ImportColumns &columns)
+{
+    if (!isText(bytes))
+        return problem(ImportFile::NotText);
+    std::optional<std::vector<CsvRecord>> records = parseCsv(bytes);
+    if (!records)
+        return problem(ImportFile::CutShort);
+    if (records->empty())
+        return problem(ImportFile::Empty);
+    ImportFile file = readRecords(*records, columns);
+    wipeRecords(*records);
+    return file;
+}
+
+/// As it is opened: with a scheme.
+QString withScheme(const QString &address)
+{
+    return address.contains(QLatin1String("://")) ? address : QStringLiteral("https://") + address;
+}
+
+bool isWebAddress(const QString &address)
+{
+    const QUrl url(address);
+    return url.isValid() && !url.host().isEmpty() &&
+           (url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http"));
 }
 
 } // namespace
 
+void setAddresses(ImportEntry &entry, const QStringList &list, QStringList &further)
+{
+    const auto best = std::find_if(list.begin(), list.end(), [](const QString &address) {
+        return isWebAddress(withScheme(address.trimmed()));
+    });
+    const int chosen = best == list.end() ? 0 : int(best - list.begin());
+    for (int i = 0; i < list.size(); ++i) {
+        if (i == chosen)
+            entry.set("url", list.at(i).trimmed());
+        else
+            further.append(QStringLiteral("uri: %1").arg(list.at(i).trimmed()));
+    }
+}
+
 void finishEntry(ImportEntry &entry, const QStringList &further)
 {
-    QString address = entry.text("url");
-    const bool named = !entry.text("title").isEmpty();
-    const bool filled = entry.fields.size() > (named ? 1 : 0) || !further.isEmpty();
     if (entry.fault != ImportEntry::None)
         return;
+    const bool named = !entry.text("title").trimmed().isEmpty();
+    static const QVector<QByteArray> marginal{"title", "favorite", "created", "modified",
+                                              "lastAccessed"};
+    const bool filled =
+        !further.isEmpty() ||
+        std::any_of(entry.fields.begin(), entry.fields.end(),
+                    [](const auto &field) { return !marginal.contains(field.first); });
     if (!filled && !(named && entry.type == PMListItem::SecureNote)) {
         entry.fault = ImportEntry::Empty;
         return;
     }
+    const QString address = entry.text("url").trimmed();
     if (!address.isEmpty()) {
-        if (!address.contains(QLatin1String("://")))
-            address.prepend(QLatin1String("https://"));
-        const QUrl url(address);
-        const bool isWeb =
-            url.isValid() && !url.host().isEmpty() &&
-            (url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http"));
-        if (!isWeb) {
+        entry.set("url", withScheme(address));
+        if (!isWebAddress(entry.text("url"))) {
+            entry.set("url", address);
             entry.fault = ImportEntry::NotAWebAddress;
             return;
         }
-        for (auto &field : entry.fields) {
-            if (field.first == "url")
-                field.second = address;
-        }
     }
     if (!named) {
-        const QString host = hostOf(address);
-        setField(entry, "title", host.isEmpty() ? entry.text("login") : host);
+        const QString host = importHost(address);
+        entry.set("title", host.isEmpty() ? entry.text("login") : host);
     }
-    QString note = (QStringList{entry.text("note")} + further).join(QLatin1Char('\n')).trimmed();
+    QStringList note = further;
+    if (!entry.text("note").isEmpty())
+        note.prepend(entry.text("note"));
     // A secure note has its text in a field of its own.
-    const char *target = entry.type == PMListItem::SecureNote ? "text" : "note";
-    entry.fields.erase(std::remove_if(entry.fields.begin(), entry.fields.end(),
-                                      [](const auto &field) { return field.first == "note"; }),
-                       entry.fields.end());
-    setField(entry, target, note);
-    if (entry.type == PMListItem::Login)
-        setField(entry, "secondaryText", entry.text("login"));
+    entry.set("note", {});
+    entry.set(entry.type == PMListItem::SecureNote ? "text" : "note", note.join(QLatin1Char('\n')));
+}
+
+QString importHost(const QString &address)
+{
+    const QUrl url = QUrl::fromUserInput(address);
+    QString host = url.host().toLower();
+    if (host.startsWith(QLatin1String("www.")))
+        host.remove(0, 4);
+    // Other ports are other programs, as on the machine of a developer.
+    return url.port() < 0 ? host : QStringLiteral("%1:%2").arg(host).arg(url.port());
 }
 
 QString ImportEntry::text(const char *property) const
@@ -234,42 +345,59 @@ QString ImportEntry::text(const char *property) const
         if (field.first == property)
             return field.second.toString();
     }
-    return {};
+    if (!document)
+        return {};
+    const QLatin1String key(property);
+    const QJsonValue secret = document->privateFields.value(key);
+    return (secret.isUndefined() ? document->publicFields.value(key) : secret).toString();
+}
+
+void ImportEntry::set(const char *property, const QVariant &value)
+{
+    fields.erase(std::remove_if(fields.begin(), fields.end(),
+                                [property](const auto &field) { return field.first == property; }),
+                 fields.end());
+    const bool isEmpty =
+        value.type() == QVariant::String ? value.toString().isEmpty() : !value.isValid();
+    if (!isEmpty)
+        fields.append({property, value});
 }
 
 std::unique_ptr<PMListItem> ImportEntry::toItem() const
 {
-    std::unique_ptr<PMListItem> item = makeItem(type);
+    std::unique_ptr<PMListItem> item = document ? document->toItem() : makeItem(type);
     for (const auto &field : fields)
         item->setProperty(field.first, field.second);
     return item;
 }
 
-ImportFile readImportFile(const QByteArray &bytes)
+ImportColumns guessColumns(const QStringList &header)
 {
-    const QByteArray start = bytes.left(64).trimmed();
-    return start.startsWith('{') || start.startsWith("\xEF\xBB\xBF{") ? readBitwardenJson(bytes)
-                                                                      : readCsv(bytes);
+    ImportColumns columns;
+    for (const QString &name : header) {
+        const QByteArray meaning = usualNames().value(name.trimmed().toLower());
+        columns.append(columns.contains(meaning) ? QByteArray() : meaning);
+    }
+    return columns;
 }
 
-std::vector<bool> findDuplicates(const std::vector<ImportEntry> &entries,
-                                 const std::vector<PMListItem *> &items)
+ImportFile readImportFile(const QByteArray &bytes, const ImportColumns &columns)
 {
-    QSet<QString> known;
-    for (const PMListItem *item : items) {
-        if (!item->deleted())
-            known.insert(identity(item->type(), item->title(), hostOf(item->url()),
-                                  item->property("login").toString(),
-                                  item->property("password").toString()));
+    const QByteArray start = bytes.left(64).trimmed();
+    if (start.isEmpty())
+        return problem(ImportFile::Empty);
+    return start.startsWith('{') || start.startsWith("\xEF\xBB\xBF{") ? readImportJson(bytes)
+                                                                      : readCsv(bytes, columns);
+}
+
+void wipeEntries(std::vector<ImportEntry> &entries)
+{
+    for (ImportEntry &entry : entries) {
+        for (auto &field : entry.fields) {
+            QString text = field.second.toString();
+            field.second.clear();
+            wipe(text);
+        }
     }
-    std::vector<bool> found;
-    found.reserve(entries.size());
-    for (const ImportEntry &entry : entries) {
-        const QString own = identity(entry.type, entry.text("title"), hostOf(entry.text("url")),
-                                     entry.text("login"), entry.text("password"));
-        found.push_back(entry.fault == ImportEntry::None && known.contains(own));
-        if (entry.fault == ImportEntry::None)
-            known.insert(own);
-    }
-    return found;
+    entries.clear();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PMListItem.h"
+#include "PMItemDocument.h"
 
 #include <QByteArray>
 #include <QVariant>
@@ -20,31 +20,62 @@ struct ImportEntry
         WrongColumns ///< the row has more or fewer cells than the first one
     };
 
-    int number = 0; ///< the line of the file, or the number of the entry, from 1
+    int number = 0; ///< the row of the file, or the number of the entry, from 1
     PMListItem::Type type = PMListItem::Login;
     QVector<QPair<QByteArray, QVariant>> fields; ///< by the names of the item's properties
+    /// In an export of this program, all that the item was; `fields` hold what differs.
+    std::shared_ptr<const PMItemDocument> document = {};
     Fault fault = None;
 
     QString text(const char *property) const;
+    void set(const char *property, const QVariant &value);
     /// A new item with the fields.
     std::unique_ptr<PMListItem> toItem() const;
 };
 
-/// An export of another program.
+/// An export of another program, or of this one.
 struct ImportFile
 {
-    enum Format { Unknown, Chromium, Firefox, Safari, Bitwarden, KeePassXC, BitwardenJson };
+    enum Format {
+        Unknown,
+        Chromium,
+        Firefox,
+        Safari,
+        Bitwarden,
+        KeePassXC,
+        BitwardenJson,
+        OwnJson,
+        ChosenColumns ///< the user said which column holds what
+    };
+
+    /// Why nothing was read.
+    enum Problem {
+        None,
+        Empty,
+        NotText,
+        CutShort, ///< a text in quotes does not end
+        Encrypted,
+        UnknownColumns, ///< see `header`
+        UnknownJson
+    };
 
     Format format = Unknown; ///< Unknown: nothing was read
     std::vector<ImportEntry> entries;
+    Problem problem = None;
+    QStringList header; ///< of a CSV file whose format is not known
 };
+
+/// Where the columns of a CSV file go whose format is not known: a property for each one, from the
+/// first; an empty one goes to the note.
+using ImportColumns = QVector<QByteArray>;
+
+/// What columns with such names probably hold.
+ImportColumns guessColumns(const QStringList &header);
 
 /// Reads an export, whose format shows in its first row or its keys. What a program keeps in fields
 /// that an item does not have goes to the note, so that nothing is lost.
-ImportFile readImportFile(const QByteArray &bytes);
+/// @param columns taken where the format does not show; without them such a file is not read
+ImportFile readImportFile(const QByteArray &bytes, const ImportColumns &columns = {});
 
-/// For each entry whether the items, or an entry before it, already have it: the same kind with the
-/// same title for other kinds; for logins the same user name and password on the same host. Items
-/// in the trash do not count.
-std::vector<bool> findDuplicates(const std::vector<ImportEntry> &entries,
-                                 const std::vector<PMListItem *> &items);
+/// Overwrites what the entries hold, as far as nobody else uses it, and drops them.
+void wipeEntries(std::vector<ImportEntry> &entries);
