@@ -1,6 +1,7 @@
 #include "ImportFile.h"
 
 #include "CsvText.h"
+#include "ImportMatch.h"
 #include "PMCreditCard.h"
 #include "PMFieldTypes.h"
 
@@ -8,6 +9,7 @@
 
 Q_DECLARE_METATYPE(ImportFile::Format)
 Q_DECLARE_METATYPE(ImportEntry::Fault)
+Q_DECLARE_METATYPE(ImportFile::Problem)
 
 class TestImportFile : public QObject
 {
@@ -20,9 +22,13 @@ private Q_SLOTS:
     void formats();
     void faults_data();
     void faults();
+    void problems_data();
+    void problems();
     void jsonKinds();
+    void nothingIsLost_data();
     void nothingIsLost();
-    void duplicates();
+    void chosenColumns();
+    void matches();
 };
 
 void TestImportFile::csv_data()
@@ -142,12 +148,6 @@ void TestImportFile::faults_data()
     QTest::newRow("kind of Bitwarden")
         << QByteArray("type,name,notes,login_uri,login_username,login_password\nssh,a,b,,,\n")
         << Faults{ImportEntry::UnknownKind};
-    QTest::newRow("other columns") << QByteArray("a,b,c\n1,2,3\n") << Faults{};
-    QTest::newRow("random bytes") << QByteArray("\x89PNG\r\n\x1a\n\"\0\x01", 11) << Faults{};
-    QTest::newRow("JSON of another kind") << QByteArray("{\"items\":7}") << Faults{};
-    QTest::newRow("encrypted JSON")
-        << QByteArray("{\"encrypted\":true,\"items\":[{\"type\":1,\"name\":\"2.x|y\"}]}")
-        << Faults{};
     QTest::newRow("JSON entries of any shape")
         << QByteArray("{\"items\":[7,null,{\"type\":99,\"name\":\"k\"},{\"type\":1,\"login\":[]}]}")
         << Faults{ImportEntry::UnknownKind, ImportEntry::UnknownKind, ImportEntry::UnknownKind,
@@ -161,6 +161,34 @@ void TestImportFile::faults()
     for (const ImportEntry &entry : readImportFile(bytes).entries)
         found.append(entry.fault);
     QTEST(found, "faults");
+}
+
+void TestImportFile::problems_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<ImportFile::Problem>("problem");
+    const auto row = [](const char *name, const QByteArray &bytes, ImportFile::Problem problem) {
+        QTest::newRow(name) << bytes << problem;
+    };
+    row("nothing", "", ImportFile::Empty);
+    row("empty lines", "\r\n\r\n", ImportFile::Empty);
+    row("a picture", QByteArray("\x89PNG\r\n\x1a\n\"\0\x01", 11), ImportFile::NotText);
+    row("UTF-16 without its mark", QByteArray("n\0a\0m\0e\0,\0", 10), ImportFile::NotText);
+    row("cut short", "name,url,username,password\nMail,mail.example,ana,\"p", ImportFile::CutShort);
+    row("other columns", "a,b,c\n1,2,3\n", ImportFile::UnknownColumns);
+    row("JSON of another kind", "{\"items\":7}", ImportFile::UnknownJson);
+    row("JSON cut short", "{\"items\":[{\"type\":1,", ImportFile::UnknownJson);
+    row("encrypted JSON", "{\"encrypted\":true,\"items\":[{\"type\":1,\"name\":\"2.x|y\"}]}",
+        ImportFile::Encrypted);
+}
+
+void TestImportFile::problems()
+{
+    QFETCH(QByteArray, bytes);
+    const ImportFile file = readImportFile(bytes);
+    QTEST(file.problem, "problem");
+    QCOMPARE(file.format, ImportFile::Unknown);
+    QVERIFY(file.entries.empty());
 }
 
 void TestImportFile::jsonKinds()
@@ -188,30 +216,104 @@ void TestImportFile::jsonKinds()
     QCOMPARE(file.entries[2].toItem()->property("text").toString(), QStringLiteral("1984"));
 }
 
-void TestImportFile::nothingIsLost()
+void TestImportFile::nothingIsLost_data()
 {
-    const ImportFile file = readImportFile(
-        "{\"items\":[{\"type\":1,\"name\":\"Mail\",\"notes\":\"first\",\"fields\":[{\"name\":"
-        "\"PIN\",\"value\":\"4711\"}],\"login\":{\"password\":\"p\",\"totp\":\"JBSW\",\"uris\":[{"
-        "\"uri\":\"https://a.example\"},{\"uri\":\"https://b.example\"}]}}]}");
-    QCOMPARE(file.entries[0].toItem()->note(),
-             QStringLiteral("first\ntotp: JBSW\nuri: https://b.example\nPIN: 4711"));
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("url");
+    QTest::addColumn<QString>("note");
+    const auto row = [](const char *name, const QByteArray &bytes, const char *url,
+                        const char *note) {
+        QTest::newRow(name) << bytes << QString::fromUtf8(url) << QString::fromUtf8(note);
+    };
+    row("JSON",
+        "{\"folders\":[{\"id\":\"7\",\"name\":\"Work\"}],\"items\":[{\"type\":1,\"id\":\"x\","
+        "\"name\":"
+        "\"Mail\",\"folderId\":\"7\",\"notes\":\"first\",\"fields\":[{\"name\":\"PIN\",\"value\":"
+        "\"4711\"}],\"passwordHistory\":[{\"lastUsedDate\":\"2024-05-01T10:00:00Z\",\"password\":"
+        "\"old\"}],\"login\":{\"password\":\"p\",\"totp\":\"JBSW\",\"fido2Credentials\":[{\"k\":1}]"
+        ","
+        "\"uris\":[{\"uri\":\"androidapp://com.mail\"},{\"uri\":\"https://a.example\"}]}}]}",
+        "https://a.example",
+        "first\nfido2Credentials: [{\"k\":1}]\ntotp: JBSW\nuri: androidapp://com.mail\nPIN: "
+        "4711\nformer password (2024-05-01): old\nfolder: Work");
+    row("JSON, month that is none",
+        "{\"items\":[{\"type\":3,\"name\":\"Card\",\"card\":{\"number\":\"1\",\"brand\":\"Amex\","
+        "\"expMonth\":\"13\",\"expYear\":\"2027\"}}]}",
+        "", "expMonth: 13\nexpYear: 2027\nbrand: Amex");
+    row("Bitwarden, many addresses",
+        "folder,favorite,type,name,notes,fields,reprompt,login_uri,login_username,login_password,"
+        "login_totp\nWork,,login,Mail,\"a\n\",\"PIN: 1\nX: 2\",0,"
+        "\"androidapp://com.mail,https://a.example/?x=1,2,b.example\",ana,p,JBSW\n",
+        "https://a.example/?x=1,2",
+        "a\n\nfolder: Work\nPIN: 1\nX: 2\nuri: androidapp://com.mail\nuri: "
+        "b.example\nlogin_totp: JBSW");
+    row("KeePassXC",
+        "Group,Title,Username,Password,URL,Notes,TOTP,Icon,Last Modified,Created\n"
+        "Root/Web/Shops,Mail,ana,p,,n,otpauth://totp/x,0,,\nRoot,B,b,p,,,,0,,\n",
+        "", "n\nGroup: Web/Shops\nTOTP: otpauth://totp/x");
+    row("further columns of a browser",
+        "url,username,password,totp,extra,name,grouping\na.example,ana,p,JBSW,,Mail,Work\n",
+        "https://a.example", "totp: JBSW\ngrouping: Work");
+    row("realm of Firefox",
+        "url,username,password,httpRealm,formActionOrigin,guid\nhttps://a.example,ana,p,Staff,,{1}",
+        "https://a.example", "httpRealm: Staff");
 }
 
-void TestImportFile::duplicates()
+void TestImportFile::nothingIsLost()
 {
-    const ImportFile file = readImportFile("name,url,username,password\n"
-                                           "Mail,https://mail.example/a,ana,pw\n"
-                                           "Other name,http://www.mail.example,ana,pw\n"
-                                           "Mail,https://mail.example,ana,other\n"
-                                           "Mail,https://mail.example,bob,pw\n"
-                                           "Shop,https://shop.example,ana,pw\n"
-                                           "Gone,https://gone.example,ana,pw\n");
-    const auto shop = file.entries[4].toItem();
-    const auto gone = file.entries[5].toItem();
-    gone->setDeleted(true);
-    const std::vector<bool> expected{false, true, false, false, true, false};
-    QCOMPARE(findDuplicates(file.entries, {shop.get(), gone.get()}), expected);
+    QFETCH(QByteArray, bytes);
+    const ImportFile file = readImportFile(bytes);
+    QVERIFY(!file.entries.empty());
+    QCOMPARE(file.entries[0].fault, ImportEntry::None);
+    QTEST(file.entries[0].toItem()->url(), "url");
+    QTEST(file.entries[0].toItem()->note(), "note");
+}
+
+void TestImportFile::chosenColumns()
+{
+    const QByteArray bytes =
+        "Konto;Web site;Login Name;Password;Kommentar\nMail;a.example;ana;p;hi\n";
+    const ImportFile unknown = readImportFile(bytes);
+    QCOMPARE(unknown.problem, ImportFile::UnknownColumns);
+    ImportColumns columns = guessColumns(unknown.header);
+    QCOMPARE(columns, (ImportColumns{"", "url", "login", "password", ""}));
+    columns[0] = "title";
+    const ImportFile file = readImportFile(bytes, columns);
+    QCOMPARE(file.format, ImportFile::ChosenColumns);
+    const auto item = file.entries.at(0).toItem();
+    QCOMPARE(item->title(), QStringLiteral("Mail"));
+    QCOMPARE(item->url(), QStringLiteral("https://a.example"));
+    QCOMPARE(item->property("password").toString(), QStringLiteral("p"));
+    QCOMPARE(item->note(), QStringLiteral("Kommentar: hi"));
+}
+
+void TestImportFile::matches()
+{
+    const ImportFile file = readImportFile("name,url,username,password,note\n"
+                                           "Mail,https://mail.example/a,ana,pw,\n"
+                                           "Other name,http://www.mail.example,ana,pw,\n"
+                                           "Mail,https://mail.example,ana,other,\n"
+                                           "Mail,https://mail.example,bob,pw,\n"
+                                           "Mail,https://mail.example,ana,pw,codes\n"
+                                           "Shop,https://shop.example,ana,pw,\n"
+                                           "Router,http://192.168.1.1:8080,admin,admin,\n"
+                                           "Printer,http://192.168.1.1,admin,admin,\n"
+                                           "Bad,file:///shop,ana,pw,\n");
+    const auto shop = file.entries[5].toItem();
+    shop->setNote(QStringLiteral("a note of its own"));
+    const std::vector<ImportMatch> expected{
+        ImportMatch::New, ImportMatch::AlreadyThere, ImportMatch::OtherPassword,
+        ImportMatch::New, ImportMatch::OtherNote,    ImportMatch::AlreadyThere,
+        ImportMatch::New, ImportMatch::New,          ImportMatch::New};
+    QCOMPARE(findMatches(file.entries, {ImportTraits::of(*shop)}), expected);
+
+    const ImportFile cards = readImportFile(
+        "{\"items\":[{\"type\":3,\"name\":\"Visa\",\"card\":{\"number\":\"4111 1111\"}},"
+        "{\"type\":3,\"name\":\"Visa\",\"card\":{\"number\":\"4222 2222\"}},"
+        "{\"type\":3,\"name\":\"Visa\",\"card\":{\"number\":\"41111111\"}}]}");
+    QCOMPARE(
+        findMatches(cards.entries, {}),
+        (std::vector<ImportMatch>{ImportMatch::New, ImportMatch::New, ImportMatch::AlreadyThere}));
 }
 
 QTEST_GUILESS_MAIN(TestImportFile)
