@@ -42,6 +42,16 @@ bool SafeImport::isUnfinished(const QString &folderName)
     return folderName.startsWith(unfinishedPrefix);
 }
 
+QString SafeImport::workFolder(const QString &safesFolder, const QString &id)
+{
+    return safesFolder + QLatin1Char('/') + unfinishedPrefix + id;
+}
+
+QString SafeImport::lockPath(const QString &safesFolder)
+{
+    return safesFolder + QStringLiteral("/.import.lock");
+}
+
 ArchiveResult SafeImport::run(const QString &archivePath, WorkControl &control)
 {
     if (!QFileInfo::exists(archivePath)) {
@@ -55,7 +65,7 @@ ArchiveResult SafeImport::run(const QString &archivePath, WorkControl &control)
     }
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     const QString newFolder = m_safesFolder + QLatin1Char('/') + id;
-    m_work = SafeFolder(m_safesFolder + QLatin1Char('/') + unfinishedPrefix + id);
+    m_work = SafeFolder(workFolder(m_safesFolder, id));
     const Outcome outcome = makeSafe(path, newFolder, control);
     if (outcome == Outcome::Done)
         return {Outcome::Done, newFolder, {}, QFileInfo(path).size()};
@@ -81,7 +91,7 @@ ArchiveResult::Outcome SafeImport::makeSafe(const QString &archivePath, const QS
     if (!files.makeFolder(m_safesFolder))
         return Outcome::CannotWrite;
     // One import at a time, so that what an earlier one left is known to be of no use.
-    FolderLock lock(m_safesFolder + QStringLiteral("/.import.lock"));
+    FolderLock lock(lockPath(m_safesFolder));
     if (!lock.lock(m_environment.lockWaitMs, control))
         return lock.isHeldByAnother() ? Outcome::SafeBusy : Outcome::CannotWrite;
     clearUnfinished();

@@ -25,6 +25,9 @@ public:
 
     /// Whether a folder of the standard place is one that an import works in.
     static bool isUnfinished(const QString &folderName);
+    /// Such a folder, and the lock file of those who work in one.
+    static QString workFolder(const QString &safesFolder, const QString &id);
+    static QString lockPath(const QString &safesFolder);
 
 private:
     using Outcome = ArchiveResult::Outcome;
