@@ -1,5 +1,6 @@
 #include "MirrorChoice.h"
 
+#include "FolderPath.h"
 #include "SafeDescriptionFile.h"
 #include "SafeFolder.h"
 #include "SyncFolders.h"
@@ -11,28 +12,13 @@
 
 namespace {
 
-#ifdef Q_OS_WIN
-const Qt::CaseSensitivity pathCase = Qt::CaseInsensitive;
-#else
-const Qt::CaseSensitivity pathCase = Qt::CaseSensitive;
-#endif
-
-/// The same for every way that leads to a folder. What is not there yet is told by its name.
-QString plainPath(const QString &path)
-{
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    return canonical.isEmpty() ? QDir::cleanPath(QDir::fromNativeSeparators(path)) : canonical;
-}
-
-bool isSame(const QString &one, const QString &other)
-{
-    return plainPath(one).compare(plainPath(other), pathCase) == 0;
-}
-
 bool isInOrSame(const QString &path, const QString &folder)
 {
-    const QString inner = plainPath(path) + QLatin1Char('/');
-    return !folder.isEmpty() && inner.startsWith(plainPath(folder) + QLatin1Char('/'), pathCase);
+    if (folder.isEmpty())
+        return false;
+    const QString outer = folderKey(folder);
+    return (folderKey(path) + QLatin1Char('/'))
+        .startsWith(outer.endsWith(QLatin1Char('/')) ? outer : outer + QLatin1Char('/'));
 }
 
 QString mirrorName(const MirrorChoice::Wish &wish)
@@ -45,7 +31,7 @@ QString mirrorName(const MirrorChoice::Wish &wish)
 /// The description of the safe whose folder this is or lies in.
 std::optional<SafeDescription> safeAround(FileLayer &files, const QString &folder)
 {
-    QDir place(plainPath(folder));
+    QDir place(canonicalFolder(folder));
     do {
         if (SafeFolder(place.path()).holdsSafe())
             return readDescription(files, place.path()).value_or(SafeDescription());
@@ -57,7 +43,7 @@ std::optional<SafeDescription> safeAround(FileLayer &files, const QString &folde
 
 MirrorChoice MirrorChoice::make(FileLayer &files, const Wish &wish)
 {
-    const QString shared = plainPath(wish.sharedFolder);
+    const QString shared = canonicalFolder(wish.sharedFolder);
     if (!QFileInfo(shared).isDir())
         return {Fault::NotThere};
     if (isInOrSame(shared, wish.safeFolder))
@@ -72,9 +58,9 @@ MirrorChoice MirrorChoice::make(FileLayer &files, const Wish &wish)
     const QVector<MirroredSafe> there = mirroredSafes(files, shared);
     for (const MirroredSafe &safe : there) {
         const bool isOwn = wish.created != 0 && safe.created == wish.created;
-        if (isSame(safe.path, shared) && !isOwn)
+        if (isSameFolder(safe.path, shared) && !isOwn)
             return {Fault::OtherSafe, {}, false, safe.name};
-        if (isSame(safe.path, choice.folder) && safe.created != wish.created)
+        if (isSameFolder(safe.path, choice.folder) && safe.created != wish.created)
             return {Fault::OtherSafe, {}, false, safe.name};
         if (!isOwn)
             continue;
@@ -84,11 +70,12 @@ MirrorChoice MirrorChoice::make(FileLayer &files, const Wish &wish)
     }
     // A safe's folder holds nothing of others, unless it is this very mirror.
     const auto around = safeAround(files, shared);
-    if (around && !isSame(choice.folder, shared))
+    if (around && !isSameFolder(choice.folder, shared))
         return {Fault::OtherSafe, {}, false, around->name};
     const bool isTaken =
-        std::any_of(wish.taken.begin(), wish.taken.end(),
-                    [&choice](const QString &mirror) { return isSame(mirror, choice.folder); });
+        std::any_of(wish.taken.begin(), wish.taken.end(), [&choice](const QString &mirror) {
+            return isSameFolder(mirror, choice.folder);
+        });
     if (isTaken)
         return {Fault::Taken};
     return choice;

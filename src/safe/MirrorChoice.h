@@ -2,6 +2,7 @@
 
 #include "FileLayer.h"
 
+#include <QMetaType>
 #include <QStringList>
 
 /// Where the mirror of a safe goes in a folder that several computers share.
@@ -13,8 +14,9 @@ struct MirrorChoice
         InsideSafe, ///< the folder lies in the safe
         AroundSafe, ///< the safe lies in the folder, which carries it already
         InBackups,
-        OtherSafe, ///< the folder is, or lies in, the mirror or the folder of another safe
-        Taken,     ///< another safe of this computer has that mirror, as a copy of this one would
+        OtherSafe,   ///< the folder is, or lies in, the mirror or the folder of another safe
+        Taken,       ///< another safe of this computer has that mirror, as a copy of this one would
+        NotWritable, ///< its folders cannot be made: the disk is full, or the folder read-only
     };
 
     struct Wish
@@ -37,3 +39,5 @@ struct MirrorChoice
     /// that two computers which make it at the same time make the same one.
     static MirrorChoice make(FileLayer &files, const Wish &wish);
 };
+
+Q_DECLARE_METATYPE(MirrorChoice)

@@ -1,0 +1,139 @@
+#include "CloudFolders.h"
+
+#include "FolderPath.h"
+#include "MirrorImport.h"
+#include "SafeDescriptionFile.h"
+
+#include <QFileInfo>
+#include <QSet>
+#include <QtConcurrent>
+
+#include <algorithm>
+
+namespace {
+
+struct Question
+{
+    QStringList infoFiles;
+    QStringList shared;  ///< besides the provider's folders
+    QStringList safes;   ///< folders of the known safes
+    QStringList mirrors; ///< of the known safes
+};
+
+bool isThere(const QString &folder, const QStringList &folders)
+{
+    return std::any_of(folders.begin(), folders.end(),
+                       [&folder](const QString &other) { return isSameFolder(folder, other); });
+}
+
+CloudFolders::Found search(FileLayer &files, const Question &question)
+{
+    CloudFolders::Found found;
+    found.accounts = providerFolders(files, question.infoFiles);
+    QStringList places;
+    for (const SyncFolder &account : std::as_const(found.accounts))
+        places.append(account.path);
+    for (const QString &folder : question.shared) {
+        if (QFileInfo(folder).isDir() && !isThere(folder, places)) {
+            places.append(folder);
+            found.others.append(folder);
+        }
+    }
+    QSet<qint64> known;
+    for (const QString &safe : question.safes) {
+        if (const auto description = readDescription(files, safe))
+            known.insert(description->created);
+    }
+    for (const QString &place : std::as_const(places)) {
+        const QVector<MirroredSafe> safes = mirroredSafes(files, place);
+        for (const MirroredSafe &safe : safes) {
+            // One that is mirrored at two places is offered once.
+            if (known.contains(safe.created) || isThere(safe.path, question.mirrors) ||
+                isThere(safe.path, question.safes))
+                continue;
+            known.insert(safe.created);
+            found.offers.append(safe);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+CloudFolders::CloudFolders(const World &world, QObject *parent)
+    : QObject(parent)
+    , m_world(world)
+{
+    connect(&m_watcher, &QFutureWatcher<Found>::finished, this, [this] {
+        m_found = m_watcher.result();
+        Q_EMIT changed();
+        if (std::exchange(m_onceMore, false))
+            look();
+    });
+    connect(&m_world.safes, &KnownSafes::changed, this, &CloudFolders::look);
+}
+
+CloudFolders::~CloudFolders()
+{
+    m_watcher.disconnect(this);
+    m_watcher.waitForFinished();
+}
+
+QStringList CloudFolders::sharedFolders() const
+{
+    QStringList folders = m_named;
+    const QStringList safes = m_world.facts.folders();
+    for (const QString &safe : safes) {
+        const QString mirror = m_world.facts.of(safe).mirrorFolder;
+        if (!mirror.isEmpty())
+            folders.append(QFileInfo(mirror).path());
+    }
+    folders.removeDuplicates();
+    return folders;
+}
+
+void CloudFolders::look()
+{
+    if (isLooking()) {
+        m_onceMore = true;
+        return;
+    }
+    Question question{m_world.infoFiles, sharedFolders(), {}, {}};
+    const QVector<KnownSafes::Entry> entries = m_world.safes.entries();
+    for (const KnownSafes::Entry &entry : entries)
+        question.safes.append(entry.folder);
+    const QStringList folders = m_world.facts.folders();
+    for (const QString &folder : folders) {
+        const QString mirror = m_world.facts.of(folder).mirrorFolder;
+        // A safe that has gone may be taken over anew.
+        if (!mirror.isEmpty() && question.safes.contains(folder))
+            question.mirrors.append(mirror);
+    }
+    m_watcher.setFuture(QtConcurrent::run(
+        [question, files = m_world.environment.files] { return search(*files, question); }));
+}
+
+void CloudFolders::add(const QString &folder)
+{
+    if (!m_named.contains(folder))
+        m_named.append(folder);
+    look();
+}
+
+std::unique_ptr<ArchiveTask> CloudFolders::importSafe(const QString &mirrorFolder)
+{
+    const SafeEnvironment environment = m_world.environment;
+    const QString safesFolder = m_world.safesFolder;
+    auto task = std::make_unique<ArchiveTask>([=](WorkControl &control) {
+        return MirrorImport(environment, safesFolder).run(mirrorFolder, control);
+    });
+    connect(task.get(), &ArchiveTask::finished, this, [this, mirrorFolder, started = task.get()] {
+        const ArchiveResult &result = started->result();
+        if (!result.good())
+            return;
+        m_world.facts.change(result.path,
+                             [&mirrorFolder](SafeFact &fact) { fact.mirrorFolder = mirrorFolder; });
+        m_world.safes.remember(result.path);
+    });
+    return task;
+}

@@ -1,0 +1,353 @@
+#include "CloudSync.h"
+
+#include "FolderPath.h"
+#include "MirrorRemoval.h"
+#include "SafeCrypto.h"
+#include "SafeDescriptionFile.h"
+#include "SafeLayout.h"
+
+#include <QDebug>
+#include <QFutureWatcher>
+#include <QtConcurrent>
+
+#include <utility>
+
+namespace {
+
+const int secondsBetweenNotes = 3600;
+
+CloudStatus::State stateOf(SyncState state)
+{
+    using State = CloudStatus::State;
+    switch (state) {
+    case SyncState::Done:
+        return State::Synchronised;
+    case SyncState::Waiting:
+        return State::Waiting;
+    case SyncState::Busy:
+        return State::Busy;
+    case SyncState::NewPasswordNeeded:
+        return State::NewPasswordNeeded;
+    case SyncState::MirrorMissing:
+        return State::FolderMissing;
+    case SyncState::OtherSafe:
+        return State::OtherSafe;
+    case SyncState::MirrorNotWritten:
+        return State::FolderNotWritten;
+    case SyncState::SafeNotWritten:
+        return State::SafeNotWritten;
+    case SyncState::Cancelled:
+        break;
+    }
+    return State::On;
+}
+
+bool opensPassId(FileLayer &files, const QString &folder, const SecretBytes &password)
+{
+    const auto passId = files.read(SafeFolder(folder).path(SafeLayout::passId));
+    return passId && checkPassId(password.view(), QString::fromLatin1(*passId));
+}
+
+} // namespace
+
+CloudSync::CloudSync(const World &world, QObject *parent)
+    : QObject(parent)
+    , m_world(world)
+{
+    m_worker.setMaxThreadCount(1);
+    connect(&m_world.facts, &SafeFacts::changed, this, &CloudSync::onFactsChanged);
+}
+
+CloudSync::~CloudSync()
+{
+    setSafe(nullptr);
+}
+
+template <typename Result>
+void CloudSync::work(const std::function<Result()> &job,
+                     const std::function<void(const Result &)> &then)
+{
+    auto *watcher = new QFutureWatcher<Result>(this);
+    connect(watcher, &QFutureWatcher<Result>::finished, this, [watcher, then] {
+        watcher->deleteLater();
+        then(watcher->result());
+    });
+    watcher->setFuture(QtConcurrent::run(&m_worker, job));
+}
+
+void CloudSync::setSafe(const std::shared_ptr<GPMSafe> &safe)
+{
+    if (m_safe == safe)
+        return;
+    stopHelper();
+    if (m_safe)
+        m_safe->disconnect(this);
+    m_safe = safe;
+    if (!m_safe)
+        return;
+    connect(m_safe.get(), &GPMSafe::lockedChanged, this, &CloudSync::onLockedChanged);
+    startHelper();
+}
+
+void CloudSync::startHelper()
+{
+    m_mirrorFolder = m_world.facts.of(m_safe->folder()).mirrorFolder;
+    if (m_mirrorFolder.isEmpty())
+        return;
+    m_helper = std::make_unique<GPMSafeSyncHelper>(m_safe, m_mirrorFolder, m_world.environment,
+                                                   m_world.pauses);
+    connect(m_helper.get(), &GPMSafeSyncHelper::started, this, &CloudSync::onStarted);
+    connect(m_helper.get(), &GPMSafeSyncHelper::progress, this, &CloudSync::onProgress);
+    connect(m_helper.get(), &GPMSafeSyncHelper::synchronized, this, &CloudSync::onMet);
+    connect(m_helper.get(), &GPMSafeSyncHelper::newPasswordNeeded, this,
+            &CloudSync::passwordNeeded);
+}
+
+void CloudSync::stopHelper()
+{
+    if (m_helper)
+        noteMeeting(0);
+    m_helper.reset();
+    m_mirrorFolder.clear();
+    m_told = CloudStatus::State::Synchronised;
+}
+
+bool CloudSync::isCurrent(const QString &safeFolder) const
+{
+    return m_safe && isSameFolder(m_safe->folder(), safeFolder);
+}
+
+void CloudSync::onFactsChanged(const QString &safeFolder)
+{
+    if (isCurrent(safeFolder) && m_world.facts.of(safeFolder).mirrorFolder != m_mirrorFolder) {
+        stopHelper();
+        startHelper();
+    }
+    Q_EMIT statusChanged(safeFolder);
+}
+
+void CloudSync::onLockedChanged(bool locked)
+{
+    if (locked && m_helper)
+        noteMeeting(0);
+    tellChange();
+}
+
+void CloudSync::onStarted()
+{
+    m_done = 0;
+    m_total = 0;
+    tellChange();
+}
+
+void CloudSync::onProgress(int done, int total)
+{
+    m_done = done;
+    m_total = total;
+    tellChange();
+}
+
+void CloudSync::onMet(SyncState state)
+{
+    const SyncSummary met = m_helper->last();
+    if (state == SyncState::Done || state == SyncState::Waiting)
+        noteMeeting(met.received + met.removed + met.sent > 0 ? 0 : secondsBetweenNotes);
+    if (met.received + met.removed > 0)
+        Q_EMIT itemsCame(met.received, met.removed);
+    tellTrouble();
+    tellChange();
+}
+
+void CloudSync::noteMeeting(int afterSeconds)
+{
+    const QDateTime met = m_helper->lastMet();
+    const QDateTime noted = m_world.facts.of(m_safe->folder()).lastSynchronised;
+    // A clock that was set back must not stop it.
+    if (!met.isValid() || (noted.isValid() && qAbs(noted.secsTo(met)) < afterSeconds))
+        return;
+    m_world.facts.change(m_safe->folder(), [&met](SafeFact &fact) { fact.lastSynchronised = met; });
+}
+
+void CloudSync::tellTrouble()
+{
+    const CloudStatus now = status();
+    if (now.state == CloudStatus::State::Synchronised || now.state == CloudStatus::State::Waiting)
+        m_told = CloudStatus::State::Synchronised;
+    // That a password is needed is asked, not told.
+    if (!now.needsAttention() || now.state == CloudStatus::State::NewPasswordNeeded ||
+        now.state == m_told)
+        return;
+    m_told = now.state;
+    Q_EMIT troubled(now);
+}
+
+void CloudSync::tellChange()
+{
+    if (m_safe)
+        Q_EMIT statusChanged(m_safe->folder());
+}
+
+CloudStatus CloudSync::status() const
+{
+    return m_safe ? status(m_safe->folder()) : CloudStatus();
+}
+
+CloudStatus CloudSync::status(const QString &safeFolder) const
+{
+    using State = CloudStatus::State;
+    const SafeFact fact = m_world.facts.of(safeFolder);
+    CloudStatus status;
+    status.mirrorFolder = fact.mirrorFolder;
+    status.last = fact.lastSynchronised;
+    if (fact.mirrorFolder.isEmpty())
+        return status;
+    status.state = State::On;
+    if (!m_helper || !isCurrent(safeFolder))
+        return status;
+    const SyncSummary &met = m_helper->last();
+    if (m_helper->lastMet().isValid())
+        status.last = m_helper->lastMet();
+    if (met.time.isValid()) {
+        status.state = stateOf(met.state);
+        status.waiting = met.waiting;
+    }
+    if (m_helper->isRunning()) {
+        // A trouble is not over because somebody looks again.
+        if (!status.needsAttention())
+            status.state = State::Running;
+        status.done = m_done;
+        status.total = m_total;
+    }
+    return status;
+}
+
+QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
+{
+    QStringList mirrors;
+    const QStringList folders = m_world.facts.folders();
+    for (const QString &folder : folders) {
+        const QString mirror = m_world.facts.of(folder).mirrorFolder;
+        if (!mirror.isEmpty() && !isSameFolder(folder, safeFolder) && QFileInfo(folder).isDir())
+            mirrors.append(mirror);
+    }
+    return mirrors;
+}
+
+void CloudSync::turnOn(const QString &safeFolder, const QString &sharedFolder)
+{
+    const MirrorChoice::Wish wish{safeFolder, 0, sharedFolder, m_world.backupFolder(),
+                                  mirrorsOfOthers(safeFolder)};
+    const SafeEnvironment environment = m_world.environment;
+    const auto prepare = [wish, environment] {
+        MirrorChoice::Wish known = wish;
+        const auto description = readDescription(*environment.files, wish.safeFolder);
+        known.created = description ? description->created : 0;
+        MirrorChoice choice = MirrorChoice::make(*environment.files, known);
+        if (choice.good() &&
+            !GPMSafeSyncHelper::enableSynchronization(*environment.files, choice.folder))
+            choice.fault = MirrorChoice::Fault::NotWritable;
+        // What it met in another mirror says nothing about this one.
+        if (choice.good())
+            environment.files->remove(SafeFolder(wish.safeFolder).path(SafeLayout::syncRecord));
+        return choice;
+    };
+    work<MirrorChoice>(prepare, [this, safeFolder](const MirrorChoice &choice) {
+        if (choice.good())
+            join(safeFolder, choice.folder);
+        Q_EMIT turnedOn(safeFolder, choice);
+    });
+}
+
+void CloudSync::join(const QString &safeFolder, const QString &mirrorFolder)
+{
+    m_world.facts.change(safeFolder, [&mirrorFolder](SafeFact &fact) {
+        fact.mirrorFolder = mirrorFolder;
+        fact.lastSynchronised = {};
+    });
+}
+
+void CloudSync::turnOff(const QString &safeFolder, bool removeCopy)
+{
+    const QString mirror = m_world.facts.of(safeFolder).mirrorFolder;
+    if (mirror.isEmpty())
+        return;
+    const auto description = readDescription(*m_world.environment.files, safeFolder);
+    const bool isMeeting = isCurrent(safeFolder) && m_helper && m_helper->isRunning();
+    m_world.facts.change(safeFolder, [](SafeFact &fact) {
+        fact.mirrorFolder.clear();
+        fact.lastSynchronised = {};
+    });
+    if (removeCopy && description) {
+        if (isMeeting)
+            removeWhenMet(mirror, description->created);
+        else
+            removeCopyOf(mirror, description->created);
+    }
+    Q_EMIT turnedOff(safeFolder);
+}
+
+void CloudSync::removeWhenMet(const QString &mirrorFolder, qint64 created)
+{
+    // The meeting under way would put back what was removed.
+    auto *waiting = new QObject(this);
+    const auto remove = [this, waiting, mirrorFolder, created, safe = m_safe] {
+        safe->disconnect(waiting);
+        waiting->deleteLater();
+        removeCopyOf(mirrorFolder, created);
+    };
+    connect(m_safe.get(), &GPMSafe::mirrorMet, waiting, remove);
+    connect(m_safe.get(), &GPMSafe::lockedChanged, waiting, remove);
+}
+
+void CloudSync::removeCopyOf(const QString &mirrorFolder, qint64 created)
+{
+    const std::shared_ptr<FileLayer> files = m_world.environment.files;
+    work<bool>([=] { return removeMirror(*files, mirrorFolder, created); },
+               [=](bool good) { Q_EMIT copyRemoved(mirrorFolder, good); });
+}
+
+void CloudSync::synchronize()
+{
+    if (m_helper)
+        m_helper->synchronize();
+}
+
+bool CloudSync::needsPassword() const
+{
+    return m_helper && m_safe->isUnlocked() && m_helper->state() == SyncState::NewPasswordNeeded;
+}
+
+void CloudSync::takePassword(const QString &password)
+{
+    if (!needsPassword()) {
+        Q_EMIT passwordTaken(Taking::NotNeeded);
+        return;
+    }
+    const auto secret = std::make_shared<const SecretBytes>(SecretBytes::fromText(password));
+    const auto files = m_world.environment.files;
+    work<bool>(
+        [files, secret, mirror = m_mirrorFolder] { return opensPassId(*files, mirror, *secret); },
+        [this, password](bool opens) {
+            if (!opens)
+                Q_EMIT passwordTaken(Taking::Wrong);
+            else if (!needsPassword())
+                Q_EMIT passwordTaken(Taking::NotNeeded);
+            else
+                changePassword(password);
+        });
+}
+
+void CloudSync::changePassword(const QString &password)
+{
+    const bool changed = m_safe->changePassword(password);
+    if (changed)
+        synchronize();
+    Q_EMIT passwordTaken(changed ? Taking::Taken : Taking::NotChanged);
+}
+
+bool CloudSync::opensMirror(const QString &safeFolder, const QString &password) const
+{
+    const QString mirror = m_world.facts.of(safeFolder).mirrorFolder;
+    return !mirror.isEmpty() && !password.isEmpty() &&
+           opensPassId(*m_world.environment.files, mirror, SecretBytes::fromText(password));
+}

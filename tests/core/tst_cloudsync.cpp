@@ -1,0 +1,337 @@
+#include "CloudFolders.h"
+#include "CloudSync.h"
+#include "PMLogin.h"
+#include "SafeTesting.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+using State = CloudStatus::State;
+const QString newPassword = QStringLiteral("another password 2");
+const int quickly = 20000; // how long to wait for what comes at once
+const GPMSafeSyncHelper::Pauses pauses{0, 3600000};
+
+/// Writes into one folder fail while the disk is full.
+class FullDisk : public FileLayer
+{
+public:
+    QString folder;
+
+    bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
+    {
+        return (folder.isEmpty() || !path.startsWith(folder)) &&
+               FileLayer::write(path, produce, mode);
+    }
+    bool makeFolder(const QString &path) override
+    {
+        return (folder.isEmpty() || !path.startsWith(folder)) && FileLayer::makeFolder(path);
+    }
+};
+
+/// What one computer has: its own settings and safes, and a cloud folder that it shares.
+struct Computer
+{
+    QString home;
+    QString cloud;
+    std::shared_ptr<FullDisk> disk = std::make_shared<FullDisk>();
+    SafeEnvironment world;
+    GPMAppSettings settings;
+    KnownSafes safes;
+    SafeFacts facts;
+    CloudSync sync;
+    CloudFolders folders;
+    std::shared_ptr<GPMSafe> safe;
+
+    Computer(const QString &place, const QString &cloudFolder, const QStringList &infoFiles = {})
+        : home(place)
+        , cloud(cloudFolder)
+        , world{systemRandom, systemTime, disk, 1000, {}}
+        , settings(home, home)
+        , safes(settings, home + QStringLiteral("/safes"), world)
+        , facts(home + QStringLiteral("/safes.json"))
+        , sync({safes, facts, [this] { return home + QStringLiteral("/backup"); }, world, pauses})
+        , folders({safes, facts, home + QStringLiteral("/safes"), infoFiles, world})
+    {
+    }
+
+    void create()
+    {
+        safe = safes.create(QStringLiteral("Work"), samplePassword, {});
+        sync.setSafe(safe);
+    }
+    MirrorChoice turnOn()
+    {
+        QSignalSpy done(&sync, &CloudSync::turnedOn);
+        sync.turnOn(safe->folder(), cloud);
+        return done.wait(quickly) ? done.first().at(1).value<MirrorChoice>() : MirrorChoice();
+    }
+    ArchiveResult import(const QString &mirror)
+    {
+        const std::unique_ptr<ArchiveTask> task = folders.importSafe(mirror);
+        QSignalSpy done(task.get(), &ArchiveTask::finished);
+        task->start();
+        if (done.isEmpty())
+            done.wait(quickly);
+        if (task->result().good()) {
+            safe = safes.open(task->result().path);
+            sync.setSafe(safe);
+        }
+        return task->result();
+    }
+    QString add(const QString &title)
+    {
+        auto login = std::make_unique<PMLogin>();
+        login->setTitle(title);
+        const QString id = safe->addItem(std::move(login))->id();
+        safe->saveChangesAsync();
+        return id;
+    }
+    QString title(const QString &id) const
+    {
+        return safe->item(id) ? safe->item(id)->title() : QString();
+    }
+    State state() const { return sync.status().state; }
+};
+
+} // namespace
+
+class TestCloudSync : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_temporary;
+    std::unique_ptr<Computer> m_one;
+    std::unique_ptr<Computer> m_two;
+    QString m_mirror;
+
+    QString path(const char *name) const { return m_temporary->filePath(QLatin1String(name)); }
+
+    /// Both computers have the safe, which lies in the cloud folder.
+    void share()
+    {
+        m_one->create();
+        m_mirror = m_one->turnOn().folder;
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
+        QVERIFY(m_two->import(m_mirror).good());
+        QVERIFY(m_two->safe->unlock(samplePassword));
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->state(), State::Synchronised, quickly);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_temporary = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(path("cloud")));
+        m_one = std::make_unique<Computer>(path("one"), path("cloud"));
+        m_two = std::make_unique<Computer>(path("two"), path("cloud"));
+    }
+    void cleanup()
+    {
+        m_one.reset();
+        m_two.reset();
+    }
+
+    void bringsWhatOneComputerDoesToTheOther()
+    {
+        share();
+        QSignalSpy came(&m_two->sync, &CloudSync::itemsCame);
+        const QString id = m_one->add(QStringLiteral("first"));
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->title(id), QStringLiteral("first"), quickly);
+        QCOMPARE(came.count(), 1);
+        QCOMPARE(came.first(), (QVariantList{1, 0}));
+        QVERIFY(m_one->safe->removeItems({id}));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_two->safe->item(id), quickly);
+        QCOMPARE(came.last(), (QVariantList{0, 1}));
+        QVERIFY(m_one->sync.status().last.isValid());
+
+        // Known at the next start, too.
+        const QString folder = m_two->safe->folder();
+        m_two.reset();
+        SafeFacts facts(path("two/safes.json"));
+        QCOMPARE(facts.of(folder).mirrorFolder, m_mirror);
+        QVERIFY(facts.of(folder).lastSynchronised.isValid());
+    }
+
+    /// The same safe came to the other computer by another way than the cloud folder.
+    void joinsTheMirrorThatIsThere()
+    {
+        m_one->create();
+        const QString first = m_one->add(QStringLiteral("first"));
+        QVERIFY(m_one->safe->saveChanges());
+        const QMap<QString, QByteArray> files = snapshot(m_one->safe->folder());
+        const QString copy = path("two/copied");
+        for (auto file = files.begin(); file != files.end(); ++file) {
+            QVERIFY(QDir().mkpath(QFileInfo(copy + QLatin1Char('/') + file.key()).path()));
+            writeFile(copy + QLatin1Char('/') + file.key(), file.value());
+        }
+        QVERIFY(QDir(copy).mkpath(QStringLiteral("attachment")));
+        const QString second = m_one->add(QStringLiteral("second"));
+        const MirrorChoice made = m_one->turnOn();
+        QVERIFY(made.good() && !made.joins);
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
+
+        m_two->safe = m_two->safes.open(copy);
+        m_two->sync.setSafe(m_two->safe);
+        QVERIFY(m_two->safe->unlock(samplePassword));
+        const MirrorChoice joined = m_two->turnOn();
+        QVERIFY(joined.good() && joined.joins);
+        QCOMPARE(joined.folder, made.folder);
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->title(second), QStringLiteral("second"), quickly);
+        QCOMPARE(m_two->safe->itemCount(), 2);
+        QCOMPARE(m_two->title(first), QStringLiteral("first"));
+
+        // A second copy on one computer would be merged with the first behind the user's back.
+        m_two->safe = m_two->safes.open(m_one->safe->folder());
+        m_two->sync.setSafe(m_two->safe);
+        QCOMPARE(m_two->turnOn().fault, MirrorChoice::Fault::Taken);
+    }
+
+    void asksForANewPasswordAndTakesItOver()
+    {
+        share();
+        const QString id = m_one->add(QStringLiteral("first"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
+        QSignalSpy needed(&m_two->sync, &CloudSync::passwordNeeded);
+        QSignalSpy taken(&m_two->sync, &CloudSync::passwordTaken);
+        const auto take = [&](const QString &password) {
+            m_two->sync.takePassword(password);
+            if (taken.isEmpty())
+                taken.wait(quickly);
+            return taken.takeLast().first().value<CloudSync::Taking>();
+        };
+        QCOMPARE(take(newPassword), CloudSync::Taking::NotNeeded);
+        QVERIFY(!m_two->sync.opensMirror(m_two->safe->folder(), newPassword));
+        QTRY_VERIFY_WITH_TIMEOUT(m_one->state() == State::Synchronised, quickly);
+        QVERIFY(m_one->safe->changePassword(newPassword));
+        m_one->sync.synchronize();
+        QTRY_COMPARE_WITH_TIMEOUT(needed.count(), 1, quickly);
+        QVERIFY(m_two->sync.needsPassword());
+        QVERIFY(m_two->sync.opensMirror(m_two->safe->folder(), newPassword));
+
+        // It goes on under the old one as long as the user likes.
+        m_two->safe->item(id)->setTitle(QStringLiteral("typed meanwhile"));
+        m_two->safe->touchItem(*m_two->safe->item(id));
+        m_two->safe->saveChangesAsync();
+        QCOMPARE(take(QStringLiteral("wrong")), CloudSync::Taking::Wrong);
+        QVERIFY(m_two->safe->isPassword(samplePassword));
+        QCOMPARE(take(newPassword), CloudSync::Taking::Taken);
+        QVERIFY(m_two->safe->isPassword(newPassword));
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->title(id), QStringLiteral("typed meanwhile"), quickly);
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->state(), State::Synchronised, quickly);
+        QCOMPARE(needed.count(), 1);
+
+        const QString folder = m_two->safe->folder();
+        m_two.reset();
+        GPMSafe reopened;
+        QVERIFY(reopened.open(folder) && !reopened.unlock(samplePassword));
+        QVERIFY(reopened.unlock(newPassword));
+        QCOMPARE(reopened.item(id)->title(), QStringLiteral("typed meanwhile"));
+        QVERIFY(reopened.unreadableFiles().isEmpty());
+        QCOMPARE(m_one->safe->itemCount(), 1);
+    }
+
+    /// Each trouble is told once until it is over, and nothing is lost by it.
+    void tellsTroubleOnce()
+    {
+        share();
+        QSignalSpy troubled(&m_one->sync, &CloudSync::troubled);
+        const QString away = path("away");
+        QVERIFY(QDir().rename(m_mirror, away));
+        const QString id = m_one->add(QStringLiteral("first"));
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::FolderMissing, quickly);
+        m_one->add(QStringLiteral("second"));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_one->safe->item(id)->isChanged(), quickly);
+        QVERIFY(m_one->sync.status().needsAttention());
+        QVERIFY(QDir().rename(away, m_mirror));
+        m_one->disk->folder = m_mirror;
+        m_one->sync.synchronize();
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::FolderNotWritten, quickly);
+        m_one->disk->folder.clear();
+        m_one->sync.synchronize();
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
+        QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
+        QCOMPARE(troubled.count(), 2);
+        QVERIFY(QDir().rename(m_mirror, away));
+        m_one->sync.synchronize();
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::FolderMissing, quickly);
+        QCOMPARE(troubled.count(), 3);
+    }
+
+    void waitsForWhatHasNotArrived()
+    {
+        share();
+        const QString id = m_one->add(QStringLiteral("first"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
+        const QString file = m_mirror + QStringLiteral("/content/") + id;
+        const QByteArray whole = contentOf(file);
+        writeFile(file, whole.left(whole.size() / 2));
+        m_two->sync.synchronize();
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->state(), State::Waiting, quickly);
+        QCOMPARE(m_two->sync.status().waiting, QStringList{QStringLiteral("first")});
+        writeFile(file, whole);
+        m_two->sync.synchronize();
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->state(), State::Synchronised, quickly);
+        QCOMPARE(m_two->title(id), QStringLiteral("first"));
+    }
+
+    void turnsOff()
+    {
+        share();
+        const QString folder = m_two->safe->folder();
+        m_two->sync.turnOff(folder, false);
+        QCOMPARE(m_two->state(), State::Off);
+        QVERIFY(QFileInfo(m_mirror + QStringLiteral("/safe.meta")).exists());
+        QSignalSpy removed(&m_one->sync, &CloudSync::copyRemoved);
+        // In the middle of the meeting that a change leads to.
+        connect(
+            &m_one->sync, &CloudSync::statusChanged, this,
+            [this] {
+                if (m_one->state() == State::Running)
+                    m_one->sync.turnOff(m_one->safe->folder(), true);
+            },
+            Qt::QueuedConnection);
+        const QString id = m_one->add(QStringLiteral("first"));
+        QVERIFY(removed.wait(quickly));
+        QCOMPARE(removed.first().at(1).toBool(), true);
+        QVERIFY(!QFileInfo::exists(m_mirror));
+        QVERIFY(m_one->safe->item(id) && !m_two->safe->item(id));
+        QCOMPARE(m_one->state(), State::Off);
+    }
+
+    void findsFoldersAndSafesOfBothAccounts()
+    {
+        share();
+        QVERIFY(QDir().mkpath(path("business")));
+        const QJsonObject info{
+            {QStringLiteral("personal"), QJsonObject{{QStringLiteral("path"), path("cloud")}}},
+            {QStringLiteral("business"), QJsonObject{{QStringLiteral("path"), path("business")}}}};
+        writeFile(path("info.json"), QJsonDocument(info).toJson());
+        writeFile(path("broken.json"), "{ \"personal\": ");
+        Computer three(path("three"), path("business"),
+                       {path("none.json"), path("broken.json"), path("info.json")});
+        QSignalSpy changed(&three.folders, &CloudFolders::changed);
+        three.folders.look();
+        QVERIFY(changed.wait(quickly));
+        QCOMPARE(three.folders.found().accounts.size(), 2);
+        QCOMPARE(three.folders.found().offers.size(), 1);
+        QCOMPARE(three.folders.found().offers.first().name, QStringLiteral("Work"));
+
+        // What it knows is not offered again, wherever it lies; what it makes is not offered.
+        QVERIFY(three.import(three.folders.found().offers.first().path).good());
+        three.create();
+        QCOMPARE(three.turnOn().folder.section(QLatin1Char('/'), 0, -2), path("business"));
+        three.folders.look();
+        QTRY_VERIFY_WITH_TIMEOUT(!three.folders.isLooking() && changed.count() > 2, quickly);
+        QVERIFY(three.folders.found().offers.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCloudSync)
+#include "tst_cloudsync.moc"
