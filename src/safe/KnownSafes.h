@@ -3,7 +3,10 @@
 #include "ArchiveTask.h"
 #include "GPMAppSettings.h"
 #include "GPMSafe.h"
+#include "SafeFacts.h"
+#include "SafePlace.h"
 
+#include <QFuture>
 #include <QObject>
 #include <QVector>
 
@@ -12,7 +15,8 @@
 
 /// The safes that this installation knows: the folders in the settings' `recentList`, most recently
 /// opened first, and behind them those in the standard place that the list has lost, as it does
-/// when the settings have to start anew.
+/// when the settings have to start anew. However often and in whichever way a folder is named, it
+/// stands in the list once.
 class KnownSafes : public QObject
 {
     Q_OBJECT
@@ -31,15 +35,52 @@ public:
                SafeEnvironment environment = {}, QObject *parent = nullptr);
 
     QVector<Entry> entries() const;
+    const QString &safesFolder() const { return m_safesFolder; }
+    const SafeEnvironment &environment() const { return m_environment; }
+    /// What is remembered of each of them, in a file beside the settings.
+    SafeFacts &facts() { return m_facts; }
+    const SafeFacts &facts() const { return m_facts; }
 
-    /// A new, unlocked safe in the standard place, put at the front of the list. Null, with nothing
-    /// left on disk, when it cannot be made.
+    /// A folder as the list names it; empty for one that is not in the list.
+    QString listed(const QString &folder) const;
+
+    /// A new, unlocked safe, put at the front of the list. Null, with nothing left on disk, when it
+    /// cannot be made.
+    /// @param folder one that isFree(); a new one in the standard place when it is empty
     std::shared_ptr<GPMSafe> create(const QString &name, const QString &password,
-                                    const QString &hint);
+                                    const QString &hint, const QString &folder = {});
+
+    /// Whether a safe can be made in a folder without mixing with anything: it is empty, or not
+    /// there but could be.
+    static bool isFree(const QString &folder);
+
+    /// What became of a folder that the user pointed to.
+    enum class Found {
+        Taken,
+        KnownAlready,
+        NotThere,
+        NoSafe,
+        AnotherSafe, ///< not the one that was to be found again
+    };
+
+    /// Puts the safe of a folder at the front of the list.
+    Found add(const QString &folder);
+    /// The safe of a folder that has gone is in another one now: what the list and the facts say of
+    /// it holds for that one. Another safe is refused.
+    Found locate(const QString &goneFolder, const QString &folder);
+
+    /// Gives a safe that is not open another name. False when it cannot be written.
+    bool rename(const QString &folder, const QString &name);
+
+    /// Takes a safe off the list; its files stay. Opening its folder brings it back.
+    void remove(const QString &folder);
 
     /// A task, to be started, that makes a new safe in the standard place from an archive; see
     /// SafeImport. The safe is put at the front of the list when it is there.
     std::unique_ptr<ArchiveTask> importArchive(const QString &archivePath);
+
+    /// Whether this is the master password of a safe; asked on a worker.
+    QFuture<bool> checkPassword(const QString &folder, const QString &password) const;
 
     /// The safe of a folder with its description read; null when there is none.
     std::shared_ptr<GPMSafe> open(const QString &folder) const;
@@ -47,13 +88,19 @@ public:
     /// Puts a folder at the front of the list.
     void remember(const QString &folder);
 
+    /// Tells of a change to what the list says that was made elsewhere.
+    void touch() { Q_EMIT changed(); }
+
 Q_SIGNALS:
     void changed();
 
 private:
+    QStringList listedFolders() const;
     QStringList unlistedFolders() const;
+    void dropFromList(const QString &folder);
 
     GPMAppSettings &m_settings;
     QString m_safesFolder;
     SafeEnvironment m_environment;
+    SafeFacts m_facts;
 };

@@ -12,6 +12,8 @@
 
 namespace {
 
+const QLatin1String nameKey("name");
+const QLatin1String createdKey("created");
 const QLatin1String lastOpenedKey("last_opened");
 const QLatin1String itemCountKey("item_count");
 const QLatin1String mirrorFolderKey("mirror_folder");
@@ -30,7 +32,10 @@ QDateTime momentOf(const QJsonValue &value)
 
 QJsonObject toObject(const SafeFact &fact)
 {
-    return {{lastOpenedKey, momentText(fact.lastOpened)},
+    // As text: a number would lose digits that it does not have today.
+    return {{nameKey, fact.name},
+            {createdKey, QString::number(fact.created)},
+            {lastOpenedKey, momentText(fact.lastOpened)},
             {itemCountKey, fact.itemCount},
             {mirrorFolderKey, fact.mirrorFolder},
             {lastSynchronisedKey, momentText(fact.lastSynchronised)},
@@ -40,6 +45,8 @@ QJsonObject toObject(const SafeFact &fact)
 SafeFact toFact(const QJsonObject &object)
 {
     SafeFact fact;
+    fact.name = object.value(nameKey).toString();
+    fact.created = object.value(createdKey).toString().toLongLong();
     fact.lastOpened = momentOf(object.value(lastOpenedKey));
     fact.itemCount = object.value(itemCountKey).toInt(fact.itemCount);
     fact.mirrorFolder = object.value(mirrorFolderKey).toString();
@@ -61,9 +68,9 @@ bool writeFile(FileLayer &files, const QString &path, const QByteArray &json)
 
 bool SafeFact::operator==(const SafeFact &other) const
 {
-    return lastOpened == other.lastOpened && itemCount == other.itemCount &&
-           mirrorFolder == other.mirrorFolder && lastSynchronised == other.lastSynchronised &&
-           isHidden == other.isHidden;
+    return name == other.name && created == other.created && lastOpened == other.lastOpened &&
+           itemCount == other.itemCount && mirrorFolder == other.mirrorFolder &&
+           lastSynchronised == other.lastSynchronised && isHidden == other.isHidden;
 }
 
 SafeFacts::SafeFacts(const QString &filePath, std::shared_ptr<FileLayer> files, QObject *parent)

@@ -18,6 +18,8 @@
 /// it is lost, but for the folder of the mirror.
 struct SafeFact
 {
+    QString name;       ///< when it was last seen, for a safe whose folder has gone
+    qint64 created = 0; ///< in ms since the epoch, to know it again; 0: not known
     QDateTime lastOpened;
     int itemCount = -1;   ///< without the trash, when the safe was last open; -1: not known
     QString mirrorFolder; ///< empty: not synchronised

@@ -12,6 +12,7 @@ constexpr char deletedList[] = "safe.deleted";
 constexpr char syncRecord[] = "safe.sync";
 constexpr char mirrorDeletions[] = "safe.deletions"; ///< in a mirror, encrypted
 constexpr char lockFile[] = ".sourcelock";
+constexpr char openLock[] = ".openlock"; ///< of the program that has the safe open
 constexpr char content[] = "content";
 constexpr char attachment[] = "attachment";
 constexpr char favicon[] = "favicon";
