@@ -40,6 +40,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     , m_settings(places.configFolder, places.hiddenFolder)
     , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
                    safeEnvironment(places.dataFolder))
+    , m_trace(m_knownSafes)
     , m_backups(m_settings, m_knownSafes, places.hiddenFolder + QStringLiteral("/backup"))
     , m_privateFiles(PrivateFiles::places(places.runtimeFolder, places.dataFolder))
     , m_guard(
@@ -49,6 +50,8 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     // What a run that did not end well left behind.
     m_privateFiles.wipe();
     m_clipboard.adoptOtherCopies([this] { return m_settings.clearClipboard(); });
+    connect(this, &GPMAppCore::currentSafeChanged, &m_trace, [this] { m_trace.follow(m_safe); });
+    connect(this, &GPMAppCore::requestLock, &m_trace, &OpenSafeTrace::beforeLock);
     startGuard();
 }
 
@@ -121,9 +124,10 @@ void GPMAppCore::connectFlow()
     connect(m_flow.get(), &FormFillFlow::itemUsed, this, &GPMAppCore::countUse);
 }
 
-bool GPMAppCore::createSafe(const QString &name, const QString &password, const QString &hint)
+bool GPMAppCore::createSafe(const QString &name, const QString &password, const QString &hint,
+                            const QString &folder)
 {
-    const std::shared_ptr<GPMSafe> safe = m_knownSafes.create(name, password, hint);
+    const std::shared_ptr<GPMSafe> safe = m_knownSafes.create(name, password, hint, folder);
     if (!safe)
         return false;
     setSafe(safe);

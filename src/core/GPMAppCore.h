@@ -10,6 +10,7 @@
 #include "Hotkeys.h"
 #include "KnownSafes.h"
 #include "LockGuard.h"
+#include "OpenSafeTrace.h"
 #include "Platform.h"
 #include "PrivateFiles.h"
 #include "SessionWatch.h"
@@ -55,6 +56,8 @@ public:
 
     GPMAppSettings &settings() { return m_settings; }
     KnownSafes &knownSafes() { return m_knownSafes; }
+    /// What this computer remembers of each safe.
+    SafeFacts &safeFacts() { return m_knownSafes.facts(); }
     ClipboardKeeper &clipboard() { return m_clipboard; }
     Platform &platform() { return *m_platform; }
     /// Copies of attachments for other programs; wiped when the safe locks and at the end.
@@ -72,7 +75,9 @@ public:
     bool hasExtension() const { return m_server && m_server->hasConnections(); }
 
     /// Makes a safe and opens it. False, with nothing left behind, when it cannot be made.
-    bool createSafe(const QString &name, const QString &password, const QString &hint);
+    /// @param folder an empty or a new one; one in the standard place when it is left out
+    bool createSafe(const QString &name, const QString &password, const QString &hint,
+                    const QString &folder = {});
 
     /// Makes the safe of a folder the current one, locked. False when there is none; then none is
     /// the current one.
@@ -181,6 +186,7 @@ private:
     std::unique_ptr<Platform> m_platform;
     GPMAppSettings m_settings;
     KnownSafes m_knownSafes;
+    OpenSafeTrace m_trace;
     Backups m_backups;
     std::unique_ptr<ArchiveTask> m_import;
     ClipboardKeeper m_clipboard;

@@ -1,0 +1,53 @@
+#include "OpenSafeTrace.h"
+
+#include <algorithm>
+#include <utility>
+
+static int countItems(const GPMSafe &safe)
+{
+    const std::vector<PMListItem *> items = safe.items();
+    return static_cast<int>(std::count_if(items.begin(), items.end(),
+                                          [](const PMListItem *item) { return !item->deleted(); }));
+}
+
+OpenSafeTrace::OpenSafeTrace(KnownSafes &safes, Clock clock)
+    : m_safes(safes)
+    , m_clock(std::move(clock))
+{
+}
+
+void OpenSafeTrace::follow(const std::shared_ptr<GPMSafe> &safe)
+{
+    if (m_safe)
+        m_safe->disconnect(this);
+    m_use.release();
+    m_safe = safe;
+    if (!m_safe)
+        return;
+    connect(m_safe.get(), &GPMSafe::lockedChanged, this, &OpenSafeTrace::onLockedChanged);
+    if (m_safe->isUnlocked())
+        onLockedChanged(false);
+}
+
+void OpenSafeTrace::onLockedChanged(bool locked)
+{
+    if (locked) {
+        m_use.release();
+        return;
+    }
+    // Whoever unlocks it although another computer's mark is there has been asked.
+    m_use.take(m_safe->folder(), true);
+    m_safes.facts().change(m_safe->folder(), [this](SafeFact &fact) {
+        fact.name = m_safe->name();
+        fact.created = m_safe->created().toMSecsSinceEpoch();
+        fact.lastOpened = m_clock();
+        fact.itemCount = countItems(*m_safe);
+    });
+}
+
+void OpenSafeTrace::beforeLock()
+{
+    if (m_safe && m_safe->isUnlocked())
+        m_safes.facts().change(m_safe->folder(),
+                               [this](SafeFact &fact) { fact.itemCount = countItems(*m_safe); });
+}
