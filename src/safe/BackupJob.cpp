@@ -17,13 +17,6 @@ namespace {
 
 const char operation[] = "BackupJob::run";
 
-/// Whether a backup holds the safe as it is: its items, its name and its password.
-bool holds(const BackupEntry &backup, const SafeDescription &description, const QByteArray &passId)
-{
-    return backup.name && backup.name->modified == description.modified &&
-           backup.description.toJson() == description.toJson() && backup.passId == passId;
-}
-
 } // namespace
 
 QVector<BackupJob::Result> BackupJob::run(WorkControl &control) const
@@ -61,7 +54,7 @@ BackupJob::Result BackupJob::backUp(const SafeFolder &safe, WorkControl &control
     const QVector<BackupEntry> backups = listBackups(*environment.files, backupFolder, folderName);
     const bool unchanged =
         std::any_of(backups.begin(), backups.end(),
-                    [&](const BackupEntry &backup) { return holds(backup, *description, passId); });
+                    [&](const BackupEntry &backup) { return backup.holds(*description, passId); });
     if (unchanged) {
         result.state = State::Unchanged;
         return result;
@@ -123,7 +116,8 @@ ArchiveResult::Outcome BackupJob::check(const QString &path, WorkControl &contro
         outcome = archive.check(control);
     if (outcome == Outcome::Cancelled)
         return outcome;
-    const bool good = outcome == Outcome::Done && readBackup(*environment.files, path);
+    const bool good =
+        outcome == Outcome::Done && readBackup(*environment.files, path).good();
     return good ? Outcome::Done : Outcome::Damaged;
 }
 
@@ -139,19 +133,19 @@ void BackupJob::clearUnfinished(const QString &safeFolder) const
 
 void BackupJob::removeOldest(const QString &newest) const
 {
-    const std::optional<BackupEntry> made = readBackup(*environment.files, newest);
-    if (!made)
+    const BackupEntry made = readBackup(*environment.files, newest);
+    if (!made.good())
         return;
     QVector<BackupEntry> others =
-        listBackups(*environment.files, backupFolder, made->name->safeFolder);
+        listBackups(*environment.files, backupFolder, made.name->safeFolder);
     // Two safes may lie in folders of the same name; they differ in when they were created.
     const auto isForeign = [&](const BackupEntry &entry) {
-        return entry.path == newest || entry.description.created != made->description.created;
+        return entry.path == newest || entry.description.created != made.description.created;
     };
     others.erase(std::remove_if(others.begin(), others.end(), isForeign), others.end());
     // Days to come are those of a clock that was wrong: such a backup is older than the one of now.
     const auto age = [&](const BackupEntry &entry) {
-        const bool possible = entry.name->day <= made->name->day;
+        const bool possible = entry.name->day <= made.name->day;
         return std::make_tuple(possible, entry.name->day, entry.name->modified, entry.made);
     };
     std::sort(others.begin(), others.end(),

@@ -11,13 +11,6 @@
 
 namespace {
 
-/// When the archive was made. The day in its name stays when a copy of the file gets a new time.
-QDateTime timeOf(const QFileInfo &file, const std::optional<BackupName> &name)
-{
-    const QDateTime time = file.lastModified();
-    return name && name->day != time.date() ? name->day.startOfDay() : time;
-}
-
 std::optional<SafeDescription> describe(ArchiveReader &archive)
 {
     for (const char *name : {SafeLayout::meta, SafeLayout::oldMeta, SafeLayout::restore}) {
@@ -31,36 +24,62 @@ std::optional<SafeDescription> describe(ArchiveReader &archive)
 
 } // namespace
 
-std::optional<BackupEntry> readBackup(FileLayer &files, const QString &path)
+bool BackupEntry::holds(const SafeDescription &safe, const QByteArray &safePassId) const
 {
-    ArchiveReader archive(files, path);
-    if (archive.open() != ArchiveResult::Outcome::Done)
-        return std::nullopt;
-    const std::optional<SafeDescription> description = describe(archive);
-    if (!description)
-        return std::nullopt;
-    const QByteArray passId =
-        archive.file(SafeLayout::passId).value_or(description->passId.toLatin1());
-    if (passId.isEmpty())
-        return std::nullopt;
-    const QFileInfo file(path);
-    const std::optional<BackupName> name = BackupName::parse(file.fileName());
-    return BackupEntry{path, file.size(), timeOf(file, name), *description, passId, name};
+    return name && name->modified == safe.modified && description.toJson() == safe.toJson() &&
+           passId == safePassId;
 }
 
-QVector<BackupEntry> listBackups(FileLayer &files, const QString &folder, const QString &safeFolder)
+BackupEntry readBackup(FileLayer &files, const QString &path)
+{
+    const QFileInfo file(path);
+    BackupEntry entry;
+    entry.path = path;
+    entry.size = file.size();
+    entry.name = BackupName::parse(file.fileName());
+    // The day in the name stays when a copy of the file gets a new time.
+    entry.made = file.lastModified();
+    entry.timeKnown = !entry.name || entry.name->day == entry.made.date();
+    if (!entry.timeKnown)
+        entry.made = entry.name->day.startOfDay();
+
+    ArchiveReader archive(files, path);
+    entry.outcome = archive.open();
+    if (!entry.good())
+        return entry;
+    const std::optional<SafeDescription> description = describe(archive);
+    if (description) {
+        entry.description = *description;
+        entry.passId = archive.file(SafeLayout::passId).value_or(description->passId.toLatin1());
+    }
+    // What is called like a backup had a safe in it.
+    using Outcome = ArchiveResult::Outcome;
+    if (entry.passId.isEmpty())
+        entry.outcome = entry.name ? Outcome::Damaged : Outcome::NoSafe;
+    return entry;
+}
+
+QVector<BackupEntry> listArchives(FileLayer &files, const QString &folder,
+                                  const QString &safeFolder)
 {
     QVector<BackupEntry> list;
     const QDir place(folder);
     const QStringList names = place.entryList({QStringLiteral("*.gpm")}, QDir::Files);
     for (const QString &fileName : names) {
         const std::optional<BackupName> name = BackupName::parse(fileName);
-        if (!safeFolder.isEmpty() && (!name || name->safeFolder != safeFolder))
-            continue;
-        if (const auto entry = readBackup(files, place.filePath(fileName)))
-            list.append(*entry);
+        if (safeFolder.isEmpty() || (name && name->safeFolder == safeFolder))
+            list.append(readBackup(files, place.filePath(fileName)));
     }
     std::stable_sort(list.begin(), list.end(),
                      [](const BackupEntry &a, const BackupEntry &b) { return a.made > b.made; });
+    return list;
+}
+
+QVector<BackupEntry> listBackups(FileLayer &files, const QString &folder, const QString &safeFolder)
+{
+    QVector<BackupEntry> list = listArchives(files, folder, safeFolder);
+    list.erase(std::remove_if(list.begin(), list.end(),
+                              [](const BackupEntry &entry) { return !entry.good(); }),
+               list.end());
     return list;
 }

@@ -1,7 +1,9 @@
 #include "Backups.h"
 
 #include "BackupSchedule.h"
+#include "SafeDescriptionFile.h"
 
+#include <QDir>
 #include <QtConcurrent>
 
 #include <algorithm>
@@ -37,7 +39,7 @@ void Backups::check()
     if (isRunning() || !m_settings.enableBackup() || isWaiting())
         return;
     if (isBackupDue(m_settings, m_environment.clock()))
-        start(availableSafes());
+        start(safeFolders());
     else if (!m_again.isEmpty())
         start(std::exchange(m_again, {}));
 }
@@ -47,7 +49,7 @@ bool Backups::backUpNow()
     if (isRunning())
         return false;
     m_told.clear();
-    start(availableSafes());
+    start(safeFolders());
     return isRunning();
 }
 
@@ -70,24 +72,48 @@ QString Backups::folder() const
 
 QDateTime Backups::next() const
 {
-    return nextBackup(m_settings, m_environment.clock());
+    const QDateTime now = m_environment.clock();
+    QDateTime next = nextBackup(m_settings, now);
+    if (next.isValid() && !m_again.isEmpty())
+        next = now;
+    if (next.isValid() && isWaiting())
+        next = std::max(next, m_waitUntil);
+    return next.isValid() ? std::max(next, now) : next;
 }
 
-QFuture<QVector<BackupEntry>> Backups::list() const
+QFuture<BackupOverview> Backups::overview() const
 {
     const std::shared_ptr<FileLayer> files = m_environment.files;
     const QString place = folder();
-    return QtConcurrent::run([files, place] { return listBackups(*files, place); });
+    const QStringList safes = safeFolders();
+    return QtConcurrent::run([=] { return BackupOverview::read(*files, place, safes); });
 }
 
-QStringList Backups::availableSafes() const
+QFuture<BackupOverview> Backups::archivesIn(const QString &folder) const
+{
+    const std::shared_ptr<FileLayer> files = m_environment.files;
+    return QtConcurrent::run([=] { return BackupOverview::read(*files, folder, {}); });
+}
+
+QFuture<std::optional<BackupEntry>> Backups::lastOf(const QString &safeFolder) const
+{
+    const std::shared_ptr<FileLayer> files = m_environment.files;
+    const QString place = folder();
+    return QtConcurrent::run([=]() -> std::optional<BackupEntry> {
+        const std::optional<SafeDescription> safe = readDescription(*files, safeFolder);
+        if (!safe)
+            return std::nullopt;
+        const QString name = QDir(safeFolder).dirName();
+        return lastBackup(listBackups(*files, place, name), safeFolder, *safe);
+    });
+}
+
+QStringList Backups::safeFolders() const
 {
     QStringList folders;
     const QVector<KnownSafes::Entry> entries = m_safes.entries();
-    for (const KnownSafes::Entry &entry : entries) {
-        if (entry.available)
-            folders.append(entry.folder);
-    }
+    for (const KnownSafes::Entry &entry : entries)
+        folders.append(entry.folder);
     return folders;
 }
 
@@ -128,6 +154,7 @@ void Backups::onFinished(const QVector<BackupJob::Result> &results)
         waitBeforeNext(secondsAfterFailure);
     else if (!m_again.isEmpty() || !reached)
         waitBeforeNext(secondsAfterPostponing);
+    m_lastResults = results;
     Q_EMIT finished(results);
     tellFailures(results);
 }
@@ -145,7 +172,7 @@ void Backups::tellFailures(const QVector<BackupJob::Result> &results)
         m_told.insert(result.folder, result.outcome);
         news.append(result);
     }
-    if (!news.isEmpty())
+    if (!news.isEmpty() && !m_shown)
         Q_EMIT failed(news);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BackupJob.h"
+#include "BackupOverview.h"
 #include "KnownSafes.h"
 #include "WorkerTask.h"
 
@@ -35,23 +36,35 @@ public:
     bool isRunning() const { return m_task != nullptr; }
 
     QString folder() const;
-    /// When the next run is due; null while backups are switched off.
+    /// When the next run begins, the one that tries again among them; null while backups are
+    /// switched off. Not in the past.
     QDateTime next() const;
 
-    /// The archives in the folder, newest first, read on a worker.
-    QFuture<QVector<BackupEntry>> list() const;
+    /// How the last run of this program ended; empty before.
+    const QVector<BackupJob::Result> &lastResults() const { return m_lastResults; }
+
+    /// While somebody shows the results of runs, failed() stays quiet.
+    void setShown(bool shown) { m_shown = shown; }
+
+    /// What lies in the folder, with every known safe. Read on a worker.
+    QFuture<BackupOverview> overview() const;
+    /// The archives in any folder, read on a worker.
+    QFuture<BackupOverview> archivesIn(const QString &folder) const;
+    /// The newest backup of the safe in a folder, read on a worker; nothing when there is none, or
+    /// no such safe.
+    QFuture<std::optional<BackupEntry>> lastOf(const QString &safeFolder) const;
 
 Q_SIGNALS:
     void started();
     void progress(qint64 done, qint64 total);
     /// Every safe of the run with what became of it.
     void finished(const QVector<BackupJob::Result> &results);
-    /// Those that failed and that the user has not been told of. Each is told of once until it
-    /// succeeds again, or fails in another way, or the user starts a run.
+    /// Those that failed and that the user has not been told of or shown. Each is told of once
+    /// until it succeeds again, or fails in another way, or the user starts a run.
     void failed(const QVector<BackupJob::Result> &results);
 
 private:
-    QStringList availableSafes() const;
+    QStringList safeFolders() const;
     void start(const QStringList &safeFolders);
     void onFinished(const QVector<BackupJob::Result> &results);
     void tellFailures(const QVector<BackupJob::Result> &results);
@@ -66,4 +79,6 @@ private:
     QStringList m_again; ///< safes that a run could not back up
     QDateTime m_waitUntil;
     QHash<QString, ArchiveResult::Outcome> m_told; ///< by folder
+    QVector<BackupJob::Result> m_lastResults;
+    bool m_shown = false;
 };

@@ -144,8 +144,7 @@ private Q_SLOTS:
         m_core->settings().setBackupCheck(QDateTime::currentDateTimeUtc().addDays(-1));
         QVERIFY(finished.wait());
         QCOMPARE(m_core->backups().folder(), m_home->filePath(QStringLiteral("hidden/backup")));
-        auto listing = m_core->backups().list();
-        QVector<BackupEntry> entries = listing.result();
+        QVector<BackupEntry> entries = m_core->backups().overview().result().archives;
         QCOMPARE(entries.size(), 2);
         if (entries.first().description.name != QLatin1String("One"))
             std::swap(entries[0], entries[1]);

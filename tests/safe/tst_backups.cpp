@@ -359,7 +359,7 @@ private Q_SLOTS:
                 QMap<QString, QByteArray> after = snapshot(m_folder);
                 if (result.state == State::Written) {
                     FileLayer real;
-                    QVERIFY(readBackup(real, result.path));
+                    QVERIFY(readBackup(real, result.path).good());
                     QVERIFY(after.contains(before.lastKey()));
                     continue;
                 }
