@@ -40,7 +40,8 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
     m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, [this] {
         return SettingsTable({m_core.settings(), m_settings, *m_theme, m_translator,
                               [this](const QString &language) { return setLanguage(language); },
-                              [this](int percent) { return setTextPercent(percent); }})
+                              [this](int percent) { return setTextPercent(percent); },
+                              [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); }})
             .settings();
     });
     makeFirstRun();
@@ -103,6 +104,10 @@ void PMUiProvider::createMainWindow()
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
     connect(m_window.get(), &SecureWindow::settingsRequested, m_sideWindows.get(),
             &SideWindows::openSettings);
+    connect(m_sideWindows.get(), &SideWindows::safeChosen, m_window.get(),
+            &SecureWindow::switchSafe);
+    connect(m_window.get(), &SecureWindow::restoreRequested, m_sideWindows.get(),
+            &SideWindows::openRestore);
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
     makeLockShortcut();
     m_settings.restoreGeometry(*m_window);

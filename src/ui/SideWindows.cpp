@@ -2,6 +2,8 @@
 
 #include "GPMAppCore.h"
 #include "RandomSource.h"
+#include "backups/ArchiveImport.h"
+#include "backups/BackupRow.h"
 
 #include <utility>
 
@@ -39,6 +41,7 @@ void SideWindows::setMain(QWidget *main)
 {
     delete m_generator;
     delete m_settings;
+    delete m_restore;
     m_main = main;
 }
 
@@ -81,6 +84,33 @@ void SideWindows::openSettings()
     if (!m_settings)
         m_settings = new SettingsDialog(m_makeSettings(), m_uiSettings, m_theme, m_main);
     bringUp(*m_settings);
+}
+
+QWidget *SideWindows::makeBackupRow(QWidget *parent)
+{
+    auto *row = new BackupRow({m_core.backups(), m_core.settings(), m_core.knownSafes()}, parent);
+    connect(row, &BackupRow::restoreRequested, this, &SideWindows::openRestore);
+    return row;
+}
+
+void SideWindows::openRestore()
+{
+    if (!m_restore) {
+        m_restore = new RestoreDialog({m_core.backups(), m_core.settings()}, m_theme, m_main);
+        connect(m_restore, &RestoreDialog::chosen, this, &SideWindows::restore);
+    }
+    bringUp(*m_restore);
+}
+
+void SideWindows::restore(const QString &archive, const QString &name)
+{
+    auto *import = new ArchiveImport(m_core.knownSafes(), archive, name, m_theme, m_main);
+    connect(import, &ArchiveImport::safeChosen, this, [this](const QString &folder) {
+        if (m_settings)
+            m_settings->close();
+        Q_EMIT safeChosen(folder);
+    });
+    import->start();
 }
 
 void SideWindows::closeForLock()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backups/RestoreDialog.h"
 #include "dialogs/PasswordGeneratorDialog.h"
 #include "dialogs/RecentPasswords.h"
 #include "settings/SettingsDialog.h"
@@ -29,12 +30,22 @@ public:
 
     bool hasSettingsOpen() const { return m_settings; }
 
+    /// What the settings show of backups.
+    QWidget *makeBackupRow(QWidget *parent);
+
 public Q_SLOTS:
     /// Opens the generator for the page in the user's browser.
     void openGenerator();
     void openSettings();
+    /// Lets the user choose a backup and makes a safe from it.
+    void openRestore();
+
+Q_SIGNALS:
+    /// The user wants to go to another safe.
+    void safeChosen(const QString &folder);
 
 private:
+    void restore(const QString &archive, const QString &name);
     void showGenerator(const PasswordTarget &target);
     void closeForLock();
 
@@ -46,4 +57,5 @@ private:
     QPointer<QWidget> m_main;
     QPointer<PasswordGeneratorDialog> m_generator;
     QPointer<SettingsDialog> m_settings;
+    QPointer<RestoreDialog> m_restore;
 };

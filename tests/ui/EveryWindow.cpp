@@ -25,8 +25,10 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QDate>
+#include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMetaProperty>
@@ -113,6 +115,66 @@ Show settingsPage(int page)
         find<QListWidget>(*settings, "settingsPages")->setCurrentRow(page);
         return settings;
     };
+}
+
+/// The settings of backups after one was made.
+QWidget *backupSettings(Stage &stage)
+{
+    Backups &backups = stage.test.core.backups();
+    bool done = false;
+    const auto connection =
+        QObject::connect(&backups, &Backups::finished, stage.main, [&done] { done = true; });
+    backups.backUpNow();
+    QWidget *settings = settingsPage(3)(stage);
+    const auto *next = find<QLabel>(*settings, "backupHeadline");
+    const QString before = next->text();
+    if (!QTest::qWaitFor([&] { return done && next->text().contains(QLatin1Char(':')); }))
+        return nullptr;
+    QObject::disconnect(connection);
+    return settings;
+}
+
+/// What an earlier case restored would be backed up and listed, too.
+void dropRestored(Stage &stage)
+{
+    GPMAppCore &core = stage.test.core;
+    const QString kept = core.currentSafe()->folder();
+    for (const KnownSafes::Entry &safe : core.knownSafes().entries()) {
+        if (safe.folder != kept)
+            QDir(safe.folder).removeRecursively();
+    }
+    core.settings().setRecentList({kept});
+    QDir(core.backups().folder()).removeRecursively();
+}
+
+QWidget *restoreList(Stage &stage)
+{
+    dropRestored(stage);
+    const QDir folder(stage.test.core.backups().folder());
+    folder.mkpath(QStringLiteral("."));
+    QFile damaged(folder.filePath(QStringLiteral("work_20260304_19b0a.gpm")));
+    if (!damaged.open(QIODevice::WriteOnly) || damaged.write("PK\3\4 and no more") < 0)
+        return nullptr;
+    damaged.close();
+    if (!backupSettings(stage))
+        return nullptr;
+    stage.window("SettingsDialog")->close();
+    stage.main->findChild<PagesStack *>()->restoreRequested();
+    QWidget *window = stage.window("restoreDialog");
+    auto *list = find<QListWidget>(*window, "backupList");
+    return QTest::qWaitFor([list] { return list->count() > 1; }) ? window : nullptr;
+}
+
+/// What is said when a backup is a safe again.
+QWidget *restored(Stage &stage)
+{
+    QWidget *list = restoreList(stage);
+    if (!list)
+        return nullptr;
+    find<QAbstractButton>(*list, "restoreButton")->click();
+    QWidget *window = stage.window("progressDialog");
+    const auto *way = find<QAbstractButton>(*window, "wayButton");
+    return QTest::qWaitFor([way] { return way->isVisible(); }) ? window : nullptr;
 }
 
 Show search(const char *words)
@@ -441,7 +503,7 @@ QSet<QString> Stage::ownWords() const
 {
     QStringList texts{test.core.currentSafe()->name(), test.core.currentSafe()->hint(),
                       test.folder.path() + QStringLiteral("/hidden/backup passport.png"),
-                      extensionFolder};
+                      QStringLiteral("work gpm"), extensionFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();
         for (int i = 0; i < meta.propertyCount(); ++i)
@@ -489,7 +551,9 @@ const QVector<WindowCase> &everyWindow()
         {"settings-general", settingsPage(0)},
         {"settings-security", settingsPage(1)},
         {"settings-browser", settingsPage(2)},
-        {"settings-backup", settingsPage(3)},
+        {"settings-backup", backupSettings},
+        {"restore", restoreList},
+        {"restored", restored},
         {"settings-hotkeys", settingsPage(4)},
         {"settings-appearance", settingsPage(5)},
         {"wizard-language", firstWizardStep},

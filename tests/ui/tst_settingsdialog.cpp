@@ -172,7 +172,7 @@ void TestSettingsDialog::everySettingIsTested()
     for (const char *id :
          {"autolock_inactive", "inactivity_interval", "autolock_screensaver", "clear_clipboard",
           "login_mode", "plugin_login_mode", "plugin_open_mode", "enable_backup", "backup_interval",
-          "backup_count", "lock_hotkey", "plugin_hotkey"})
+          "backup_state", "backup_count", "lock_hotkey", "plugin_hotkey"})
         tested.append(QLatin1String(id));
     Program program;
     QStringList shown;
@@ -192,7 +192,7 @@ void TestSettingsDialog::folder()
     UiSettings ui(test.folder.path());
     const PMTranslator translator(test.folder.path());
     const QVector<Setting> settings =
-        SettingsTable({test.core.settings(), ui, theme, translator, {}, {}}).settings();
+        SettingsTable({test.core.settings(), ui, theme, translator, {}, {}, {}}).settings();
     QString chosen = test.folder.filePath(QStringLiteral("copies/here"));
     SettingsDialog dialog(settings, ui, theme, nullptr,
                           [&chosen](QWidget *, const QString &) { return chosen; });

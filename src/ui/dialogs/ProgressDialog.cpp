@@ -112,7 +112,11 @@ void ProgressDialog::tell(bool good, const QString &text, const Way &way)
     m_close->setVisible(true);
     m_close->setFocus();
     show();
+    // The rows within still have the height that the former text took.
+    layout()->activate();
     adjustSize();
+    // A text that wraps asks for no height of its own.
+    QDialog::setMinimumHeight(height());
 }
 
 void ProgressDialog::reject()

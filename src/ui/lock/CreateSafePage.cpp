@@ -3,6 +3,7 @@
 #include "CreateSafeForm.h"
 #include "GPMAppCore.h"
 #include "style/Style.h"
+#include "style/Theme.h"
 #include "widgets/Controls.h"
 
 #include <QBoxLayout>
@@ -27,7 +28,7 @@ CreateSafePage::CreateSafePage(GPMAppCore &core, const Theme &theme, QWidget *pa
     m_offer->setObjectName(QStringLiteral("createOffer"));
     m_back->setObjectName(QStringLiteral("backButton"));
     m_create->setObjectName(QStringLiteral("createButton"));
-    layOut();
+    layOut(theme);
     connect(m_form, &CreateSafeForm::changed, this,
             [this] { m_create->setEnabled(m_form->canCreate()); });
     connect(m_form, &CreateSafeForm::submitted, m_form, &CreateSafeForm::create);
@@ -36,7 +37,7 @@ CreateSafePage::CreateSafePage(GPMAppCore &core, const Theme &theme, QWidget *pa
     m_create->setEnabled(false);
 }
 
-void CreateSafePage::layOut()
+void CreateSafePage::layOut(const Theme &theme)
 {
     auto *column = new QVBoxLayout;
     column->setContentsMargins({});
@@ -79,9 +80,20 @@ void CreateSafePage::layOut()
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(0, Style::margin, 0, Style::margin);
     all->addWidget(scroll);
+    // Who begins on a new computer may have backups of another one.
+    auto *restore = makeButton(tr("Restore from a backup…"), "link", this);
+    restore->setObjectName(QStringLiteral("restoreFromCreateLink"));
+    restore->setIcon(theme.lockIcon(QStringLiteral("archive"), Palette::SidebarText));
+    connect(restore, &QPushButton::clicked, this, &CreateSafePage::restoreRequested);
+    auto *links = new QHBoxLayout;
+    links->setContentsMargins(Style::margin, 0, Style::margin, 0);
+    links->addStretch();
+    links->addWidget(restore);
+    all->addLayout(links);
     // The way on comes before the way back.
     setTabOrder(m_form->lastField(), m_create);
     setTabOrder(m_create, m_back);
+    setTabOrder(m_back, restore);
 }
 
 void CreateSafePage::start()

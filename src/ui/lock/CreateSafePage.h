@@ -24,12 +24,13 @@ public:
 
 Q_SIGNALS:
     void backRequested();
+    void restoreRequested();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void layOut();
+    void layOut(const Theme &theme);
 
     GPMAppCore &m_core;
     QLabel *m_offer;

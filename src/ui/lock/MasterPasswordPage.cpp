@@ -78,6 +78,9 @@ void MasterPasswordPage::makeFields(const Theme &theme)
     m_notNow->setObjectName(QStringLiteral("notNowButton"));
     m_create = makeButton(tr("Create new..."), "link", this);
     m_create->setObjectName(QStringLiteral("createNewButton"));
+    m_restore = makeButton(tr("Restore from a backup…"), "link", this);
+    m_restore->setObjectName(QStringLiteral("restoreLink"));
+    m_restore->setIcon(theme.lockIcon(QStringLiteral("archive"), Palette::SidebarText));
     m_create->setIcon(theme.lockIcon(QStringLiteral("plus"), Palette::SidebarText));
 }
 
@@ -118,7 +121,12 @@ void MasterPasswordPage::layOut()
     all->addStretch(3);
     all->addLayout(centred(frame));
     all->addStretch(4);
-    all->addWidget(m_create, 0, Qt::AlignRight);
+    auto *links = new QHBoxLayout;
+    links->setSpacing(Style::spacing);
+    links->addStretch();
+    links->addWidget(m_restore);
+    links->addWidget(m_create);
+    all->addLayout(links);
 }
 
 void MasterPasswordPage::connectFields()
@@ -135,6 +143,7 @@ void MasterPasswordPage::connectFields()
     connect(m_unlock, &QPushButton::clicked, this, &MasterPasswordPage::unlock);
     connect(m_notNow, &QPushButton::clicked, this, &MasterPasswordPage::dismissed);
     connect(m_create, &QPushButton::clicked, this, &MasterPasswordPage::createRequested);
+    connect(m_restore, &QPushButton::clicked, this, &MasterPasswordPage::restoreRequested);
     m_password->installEventFilter(this);
 }
 
@@ -201,6 +210,7 @@ void MasterPasswordPage::showState()
     m_selector->setEnabled(!unlocking);
     m_password->setEnabled(!unlocking && state != State::Unavailable);
     m_create->setEnabled(!unlocking);
+    m_restore->setEnabled(!unlocking);
     showProgress(unlocking);
 }
 

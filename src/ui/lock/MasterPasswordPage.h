@@ -29,6 +29,7 @@ public:
 
 Q_SIGNALS:
     void createRequested();
+    void restoreRequested();
     /// The user does not want to unlock now.
     void dismissed();
 
@@ -60,4 +61,5 @@ private:
     QPushButton *m_unlock;
     QPushButton *m_notNow;
     QPushButton *m_create;
+    QPushButton *m_restore;
 };

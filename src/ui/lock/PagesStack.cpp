@@ -22,6 +22,9 @@ PagesStack::PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent)
     connect(m_unlockPage, &MasterPasswordPage::createRequested, this, &PagesStack::showCreatePage);
     connect(m_unlockPage, &MasterPasswordPage::dismissed, this, &PagesStack::dismissed);
     connect(&m_unlockPage->crystal(), &Crystal::unlocked, this, &PagesStack::keyTurned);
+    connect(m_unlockPage, &MasterPasswordPage::restoreRequested, this,
+            &PagesStack::restoreRequested);
+    connect(m_createPage, &CreateSafePage::restoreRequested, this, &PagesStack::restoreRequested);
     connect(m_createPage, &CreateSafePage::backRequested, this, &PagesStack::showUnlockPage);
 }
 

@@ -32,6 +32,7 @@ public:
 Q_SIGNALS:
     void keyTurned();
     void dismissed();
+    void restoreRequested();
 
 private:
     const Theme &m_theme;

@@ -66,6 +66,7 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     settings->setContext(Qt::WidgetWithChildrenShortcut);
     connect(settings, &QShortcut::activated, this, &SecureWindow::settingsRequested);
     connect(m_pages, &PagesStack::dismissed, this, &QWidget::close);
+    connect(m_pages, &PagesStack::restoreRequested, this, &SecureWindow::restoreRequested);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
     followSafe();

@@ -63,6 +63,8 @@ Q_SIGNALS:
     void exitRequested();
     /// The settings are wanted from a lock page.
     void settingsRequested();
+    /// A backup is to become a safe again.
+    void restoreRequested();
     void _requestOpenShuttersPrivate(QPrivateSignal);
     void _requestCloseShuttersPrivate(QPrivateSignal);
 

@@ -7,12 +7,15 @@
 
 #include <functional>
 
+class QWidget;
+
 /// Something that the user can set: how it is described, edited, read and written. Texts are
 /// translated.
 struct Setting
 {
     enum Page { General, Security, Browser, Backup, Hotkeys, Appearance, PageCount };
-    enum Editor { Switch, Number, Choice, Folder, Hotkey };
+    /// A panel is a widget of its own beside the settings of its page, and sets nothing.
+    enum Editor { Switch, Number, Choice, Folder, Hotkey, Panel };
 
     struct Option
     {
@@ -35,4 +38,5 @@ struct Setting
     int most = 0;
     QString unit = {};
     const char *neededSwitch = nullptr; ///< the id of the switch without which it has no effect
+    std::function<QWidget *(QWidget *parent)> makePanel = {};
 };

@@ -40,7 +40,7 @@ QWidget *SettingRow::makeEditor()
 {
     static QWidget *(SettingRow::*const makers[])() = {
         &SettingRow::makeSwitch, &SettingRow::makeNumber, &SettingRow::makeChoice,
-        &SettingRow::makeFolder, &SettingRow::makeHotkey};
+        &SettingRow::makeFolder, &SettingRow::makeHotkey, &SettingRow::makePanel};
     return (this->*makers[m_setting.editor])();
 }
 
@@ -128,8 +128,19 @@ QWidget *SettingRow::makeHotkey()
     return field;
 }
 
+QWidget *SettingRow::makePanel()
+{
+    m_show = [](const QVariant &) {};
+    m_control = m_setting.makePanel(this);
+    return m_control;
+}
+
 void SettingRow::describe()
 {
+    // A panel has its own words; the label is what the search finds it by.
+    const bool panel = m_setting.editor == Setting::Panel;
+    m_label->setVisible(!panel);
+    m_explanation->setVisible(!panel);
     m_label->setWordWrap(true);
     m_label->setBuddy(m_control);
     m_explanation->setWordWrap(true);
@@ -156,7 +167,7 @@ void SettingRow::layOut(QWidget *editor)
     all->setSpacing(4);
     all->addLayout(row);
     // A path needs the whole width.
-    if (m_setting.editor == Setting::Folder)
+    if (m_setting.editor == Setting::Folder || m_setting.editor == Setting::Panel)
         all->addWidget(editor);
     else
         row->addWidget(editor);
@@ -175,7 +186,8 @@ bool SettingRow::matches(const QStringList &words) const
 
 void SettingRow::refresh()
 {
-    m_show(m_setting.value());
+    if (m_setting.value)
+        m_show(m_setting.value());
 }
 
 void SettingRow::setEditable(bool editable)

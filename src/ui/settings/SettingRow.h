@@ -47,6 +47,7 @@ private:
     QWidget *makeChoice();
     QWidget *makeFolder();
     QWidget *makeHotkey();
+    QWidget *makePanel();
     void layOut(QWidget *editor);
     void describe();
     void apply(const QVariant &value);

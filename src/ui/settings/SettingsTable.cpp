@@ -217,16 +217,31 @@ QVector<Setting> SettingsTable::backup() const
             return tr("This folder cannot be written to: %1").arg(QDir::toNativeSeparators(path));
         return store(value);
     };
-    return {bound({"enable_backup",
-                   Setting::Backup,
-                   tr("Back up automatically"),
-                   tr("Copies of all safes that open with their master password."),
-                   tr("archive copy"),
-                   Setting::Switch,
-                   {},
-                   {}},
-                  "enableBackup"),
-            bound(interval, "backupInterval"), folder, bound(count, "backupCount")};
+    QVector<Setting> rows = {bound({"enable_backup",
+                                    Setting::Backup,
+                                    tr("Back up automatically"),
+                                    tr("Copies of all safes that open with their master password."),
+                                    tr("archive copy"),
+                                    Setting::Switch,
+                                    {},
+                                    {}},
+                                   "enableBackup"),
+                             bound(interval, "backupInterval"), folder,
+                             bound(count, "backupCount")};
+    if (!m_parts.makeBackupRow)
+        return rows;
+    Setting state = {"backup_state",
+                     Setting::Backup,
+                     tr("Last backup"),
+                     tr("When each safe was backed up, and when that is done next."),
+                     tr("back up now restore archive"),
+                     Setting::Panel,
+                     {},
+                     {}};
+    state.makePanel = m_parts.makeBackupRow;
+    // What one comes to see.
+    rows.prepend(state);
+    return rows;
 }
 
 QVector<Setting> SettingsTable::hotkeys() const

@@ -23,6 +23,8 @@ public:
         /// They make the windows anew; false when the user does not want that now.
         std::function<bool(const QString &)> setLanguage;
         std::function<bool(int)> setTextPercent;
+        /// How backups stand, with what can be done about them.
+        std::function<QWidget *(QWidget *parent)> makeBackupRow;
     };
 
     explicit SettingsTable(const Parts &parts);
