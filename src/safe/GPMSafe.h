@@ -1,20 +1,15 @@
 #pragma once
 
 #include "ArchiveTask.h"
-#include "AttachmentIntake.h"
 #include "DraftStore.h"
-#include "ItemStore.h"
-#include "SafeDescription.h"
-#include "SafeEnvironment.h"
-#include "SafeFolder.h"
+#include "MirrorMeetings.h"
+#include "SafeAttachments.h"
+#include "SafePasswordChange.h"
+#include "SafeSaving.h"
+#include "SafeState.h"
 #include "SafeUnlock.h"
-#include "SaveJob.h"
-#include "SyncMeeting.h"
 
-#include <QHash>
-#include <QMutex>
 #include <QObject>
-#include <QThreadPool>
 
 #include <functional>
 #include <memory>
@@ -85,29 +80,29 @@ public:
     /// Whether this is the password of the unlocked safe.
     bool isPassword(const QString &password) const;
 
-    const QString &folder() const { return m_folder.root(); }
+    const QString &folder() const { return m_state.folder.root(); }
     /// Name of the folder, which stays while the safe's own name may change.
     QString id() const;
-    QString name() const { return m_description.name; }
-    QString hint() const { return m_description.hint; }
+    QString name() const { return m_state.description.name; }
+    QString hint() const { return m_state.description.hint; }
     QDateTime created() const;
     QDateTime modified() const;
     /// Takes effect on disk with the next write of the description.
-    void setName(const QString &name) { m_description.name = name; }
-    void setHint(const QString &hint) { m_description.hint = hint; }
+    void setName(const QString &name) { m_state.description.name = name; }
+    void setHint(const QString &hint) { m_state.description.hint = hint; }
 
     bool isOpen() const { return !folder().isEmpty(); }
-    bool isUnlocked() const { return m_password != nullptr; }
+    bool isUnlocked() const { return m_state.isUnlocked(); }
 
     /// The items in order of their ids; owned by the safe, gone when it locks.
-    std::vector<PMListItem *> items() const { return m_items.items(); }
+    std::vector<PMListItem *> items() const { return m_state.items.items(); }
     /// Null when there is no such item.
-    PMListItem *item(const QString &id) const { return m_items.item(id); }
-    int itemCount() const { return m_items.count(); }
+    PMListItem *item(const QString &id) const { return m_state.items.item(id); }
+    int itemCount() const { return m_state.items.count(); }
 
     /// Files of the content folder that could not be read when the safe was unlocked; they are left
     /// as they are.
-    const QStringList &unreadableFiles() const { return m_unreadableFiles; }
+    const QStringList &unreadableFiles() const { return m_state.unreadableFiles; }
 
     /// Takes a new item in; gives it an id and its times where it has none. It reaches the disk
     /// with the next save. Null, with nothing taken in, when the safe is locked or has an item of
@@ -158,34 +153,17 @@ Q_SIGNALS:
     void lockedChanged(bool locked);
 
 private:
-    using Password = std::shared_ptr<const SecretBytes>;
-
-    std::unique_ptr<SafeUnlock> makeUnlock(const QString &password);
-    void logFailure(SafeUnlock::Outcome outcome) const;
+    bool canUnlock() const;
     void takeUnlocked(SafeUnlock &unlock);
     void onUnlockFinished(SafeUnlock::Outcome outcome);
-    SaveJob makeSaveJob();
-    void keepUnsaved();
-    QHash<QString, QStringList> filesOf(const QStringList &ids) const;
-    bool removeFiles(const QStringList &paths);
-    bool prepareAttachment(PMListItem &item) const;
-    void takeAttachment(AttachmentIntake::Arrival arrival);
     void waitForWriter();
-    void takeMeeting(const SyncResult &result);
-    void takeItem(const SyncResult::Item &taken);
-    void dropItem(const QString &id);
+    void settle();
 
-    SafeEnvironment m_environment;
-    SafeFolder m_folder;
-    SafeDescription m_description;
-    Password m_password;
-    ItemStore m_items;
-    int m_session = 0; ///< counts the locks
-    QStringList m_unreadableFiles;
-    std::shared_ptr<QMutex> m_mutex = std::make_shared<QMutex>();
+    SafeState m_state;
     std::unique_ptr<SafeUnlock> m_unlock;
-    QThreadPool m_writer; ///< one thread, so that writes keep their order
-    AttachmentIntake m_intake;
+    SafeSaving m_saving;
+    SafeAttachments m_attachments;
+    MirrorMeetings m_meetings;
     DraftStore m_drafts;
-    std::unique_ptr<SyncMeeting> m_meeting;
+    SafePasswordChange m_passwordChange;
 };

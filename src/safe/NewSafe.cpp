@@ -5,9 +5,29 @@
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
 
+#include <QDebug>
 #include <QDir>
 
 #include <utility>
+
+static const char operation[] = "GPMSafe::init";
+
+bool canHoldNewSafe(const SafeFolder &folder, const QString &password)
+{
+    if (!QDir(folder.root()).exists()) {
+        qWarning() << operation << "Directory not found:" << folder.root();
+        return false;
+    }
+    if (folder.holdsSafe()) {
+        qWarning() << operation << "There is a safe already at:" << folder.root();
+        return false;
+    }
+    if (password.isEmpty()) {
+        qWarning() << operation << "Invalid password data";
+        return false;
+    }
+    return true;
+}
 
 bool writeNewSafe(const SafeEnvironment &environment, const SafeFolder &folder,
                   const SafeDescription &description, const QByteArray &password)

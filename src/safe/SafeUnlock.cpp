@@ -1,11 +1,43 @@
 #include "SafeUnlock.h"
 
 #include "SafeCrypto.h"
+#include "SafeLayout.h"
 
 #include <QDebug>
 #include <QtConcurrent>
 
 #include <utility>
+
+static const char operation[] = "GPMSafe::unlock";
+
+std::unique_ptr<SafeUnlock> SafeUnlock::make(const SafeEnvironment &environment,
+                                             const SafeFolder &folder,
+                                             const SafeDescription &description,
+                                             const QString &password)
+{
+    if (password.isEmpty()) {
+        qWarning() << operation << "Empty password are not allowed";
+        return nullptr;
+    }
+    std::optional<QByteArray> passId = environment.files->read(folder.path(SafeLayout::passId));
+    if (!passId && !description.passId.isEmpty())
+        passId = description.passId.toLatin1();
+    if (!passId) {
+        qWarning() << operation << "Can't read pass id file:" << folder.path(SafeLayout::passId);
+        return nullptr;
+    }
+    return std::make_unique<SafeUnlock>(
+        environment, folder.path(SafeLayout::content), QString::fromLatin1(*passId),
+        std::make_shared<const SecretBytes>(SecretBytes::fromText(password)));
+}
+
+void SafeUnlock::logFailure(Outcome outcome, const SafeFolder &folder)
+{
+    if (outcome == Outcome::WrongPassword)
+        qWarning() << operation << "Pass id doesn't match specified password";
+    else if (outcome == Outcome::Unreadable)
+        qWarning() << operation << "Can't read safe content directory:" << folder.root();
+}
 
 SafeUnlock::SafeUnlock(const SafeEnvironment &environment, const QString &contentFolder,
                        const QString &passId, std::shared_ptr<const SecretBytes> password)

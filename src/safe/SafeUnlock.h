@@ -1,7 +1,9 @@
 #pragma once
 
 #include "ItemLoader.h"
+#include "SafeDescription.h"
 #include "SafeEnvironment.h"
+#include "SafeFolder.h"
 
 #include <QFutureWatcher>
 #include <QObject>
@@ -16,6 +18,13 @@ class SafeUnlock : public QObject
 public:
     enum class Outcome { Unlocked, WrongPassword, Unreadable, Cancelled };
     Q_ENUM(Outcome)
+
+    /// An attempt on the safe of a folder; null, logged, when there is nothing to try.
+    static std::unique_ptr<SafeUnlock> make(const SafeEnvironment &environment,
+                                            const SafeFolder &folder,
+                                            const SafeDescription &description,
+                                            const QString &password);
+    static void logFailure(Outcome outcome, const SafeFolder &folder);
 
     /// @param passId the safe's pass id
     SafeUnlock(const SafeEnvironment &environment, const QString &contentFolder,

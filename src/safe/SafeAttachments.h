@@ -1,0 +1,31 @@
+#pragma once
+
+#include "AttachmentIntake.h"
+#include "SafeState.h"
+
+class GPMSafe;
+
+/// The attachments of a safe: takes new ones in and gives the bytes of those that are there.
+class SafeAttachments
+{
+public:
+    /// Both outlive the object.
+    SafeAttachments(GPMSafe &safe, SafeState &state);
+
+    PMListItem *add(std::unique_ptr<PMListItem> item, QIODevice &bytes);
+    void addAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
+                  const QString &parentId);
+    /// Takes in what is encrypted by now; everything once the writer has nothing left to do.
+    void handOn() { m_intake.handOn(); }
+
+    std::optional<AttachmentReader> reader(const QString &id) const;
+    qint64 size(const QString &id) const;
+
+private:
+    bool prepare(PMListItem &item) const;
+    void take(AttachmentIntake::Arrival arrival);
+
+    GPMSafe &m_safe;
+    SafeState &m_state;
+    AttachmentIntake m_intake;
+};

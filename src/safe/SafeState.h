@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ItemStore.h"
+#include "SafeDescription.h"
+#include "SafeEnvironment.h"
+#include "SafeFolder.h"
+#include "SecretBytes.h"
+
+#include <QMutex>
+#include <QStringList>
+#include <QThreadPool>
+
+#include <memory>
+#include <utility>
+
+/// What a safe holds and its parts work on.
+struct SafeState
+{
+    explicit SafeState(SafeEnvironment world)
+        : environment(std::move(world))
+    {
+        writer.setMaxThreadCount(1);
+    }
+
+    bool isUnlocked() const { return password != nullptr; }
+
+    SafeEnvironment environment;
+    SafeFolder folder;
+    SafeDescription description;
+    std::shared_ptr<const SecretBytes> password; ///< null while the safe is locked
+    int session = 0;                             ///< counts the locks
+    ItemStore items;
+    QStringList unreadableFiles; ///< names of files in the content folder
+    std::shared_ptr<QMutex> mutex = std::make_shared<QMutex>(); ///< held for each write
+    QThreadPool writer; ///< one thread, so that writes keep their order
+};
