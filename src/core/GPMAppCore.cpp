@@ -7,7 +7,6 @@
 #include <QDebug>
 #include <QDir>
 #include <QGuiApplication>
-#include <QSet>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -46,7 +45,9 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     , m_guard(
           m_settings, [this] { return m_safe && m_safe->isUnlocked(); }, places.activity())
     , m_port(places.port)
+    , m_items([this] { return m_safe; })
 {
+    connect(&m_items, &ItemChanges::message, this, &GPMAppCore::message);
     // What a run that did not end well left behind.
     m_privateFiles.wipe();
     m_clipboard.adoptOtherCopies([this] { return m_settings.clearClipboard(); });
@@ -97,31 +98,20 @@ void GPMAppCore::startWatching()
 
 void GPMAppCore::startServer()
 {
-    if (m_server)
+    if (m_link)
         return;
-    m_server = std::make_unique<GPMWebSocketServer>(m_port, true, *m_platform);
-    m_flow = std::make_unique<FormFillFlow>(
-        *m_server, [this](const QString &id) { return m_safe ? m_safe->item(id) : nullptr; },
-        m_settings);
-    connectServer();
-    connectFlow();
-}
-
-void GPMAppCore::connectServer()
-{
-    connect(m_server.get(), &GPMWebSocketServer::hello, this, &GPMAppCore::onHello);
-    connect(m_server.get(), &GPMWebSocketServer::collectedDocumentInfo, this,
+    m_link = std::make_unique<BrowserLink>(
+        m_port, *m_platform,
+        [this](const QString &id) { return m_safe ? m_safe->item(id) : nullptr; }, m_settings);
+    connect(&m_link->server(), &GPMWebSocketServer::hello, this, &GPMAppCore::onHello);
+    connect(&m_link->server(), &GPMWebSocketServer::collectedDocumentInfo, this,
             &GPMAppCore::parsePluginReplay);
-    connect(m_server.get(), &GPMWebSocketServer::loginPageLoaded, this, &GPMAppCore::fillLoginPage);
-    connect(m_server.get(), &GPMWebSocketServer::activatePluginWindow, this,
-            [this](const QString &, const QString &url) { Q_EMIT requestShowMainWindow(url); });
-}
-
-void GPMAppCore::connectFlow()
-{
-    connect(m_flow.get(), &FormFillFlow::userNotice, this, &GPMAppCore::message);
-    connect(m_flow.get(), &FormFillFlow::openInBrowserRequested, this, &GPMAppCore::openAddress);
-    connect(m_flow.get(), &FormFillFlow::itemUsed, this, &GPMAppCore::countUse);
+    connect(&m_link->server(), &GPMWebSocketServer::loginPageLoaded, this,
+            &GPMAppCore::fillLoginPage);
+    connect(m_link.get(), &BrowserLink::windowRequested, this, &GPMAppCore::requestShowMainWindow);
+    connect(m_link.get(), &BrowserLink::message, this, &GPMAppCore::message);
+    connect(m_link.get(), &BrowserLink::openAddress, this, &GPMAppCore::openAddress);
+    connect(m_link.get(), &BrowserLink::itemUsed, &m_items, &ItemChanges::countUse);
 }
 
 bool GPMAppCore::createSafe(const QString &name, const QString &password, const QString &hint,
@@ -207,8 +197,8 @@ void GPMAppCore::lockBecause(LockReason reason)
     m_lockReason = lockReasonText(reason, m_guard.inactivityLimit());
     Q_EMIT requestKeepDraft();
     Q_EMIT requestLock();
-    if (m_flow)
-        m_flow->clear();
+    if (m_link)
+        m_link->flow().clear();
     m_safe->lock();
     m_privateFiles.wipe();
 }
@@ -231,22 +221,22 @@ void GPMAppCore::doItemDefaultAction(const QString &itemId, const QString &calle
 void GPMAppCore::doLoginDefaultAction(const QString &itemId, const QString &callerId,
                                       const QString &option)
 {
-    m_flow->doLoginDefaultAction(itemId, callerId, option);
+    m_link->flow().doLoginDefaultAction(itemId, callerId, option);
 }
 
 void GPMAppCore::placePasswordValue(const QString &password)
 {
-    m_flow->placePasswordValue(password);
+    m_link->flow().placePasswordValue(password);
 }
 
 void GPMAppCore::parsePluginReplay(const QString &callerId, const QJsonObject &data)
 {
-    m_flow->parsePluginReplay(callerId, data);
+    m_link->flow().parsePluginReplay(callerId, data);
 }
 
 void GPMAppCore::fillLoginPage(const QString &callerId, const QJsonObject &data)
 {
-    m_flow->fillLoginPage(callerId, data);
+    m_link->flow().fillLoginPage(callerId, data);
 }
 
 void GPMAppCore::onHello(const QString &, const QString &version, const QString &bundleId)
@@ -262,165 +252,67 @@ std::unique_ptr<PMListItem> GPMAppCore::modelCreateItem(PMListItem::Type type) c
 
 PMListItem *GPMAppCore::modelAddItem(std::unique_ptr<PMListItem> item)
 {
-    PMListItem *added = m_safe ? m_safe->addItem(std::move(item)) : nullptr;
-    if (added)
-        m_safe->saveChangesAsync();
-    return added;
+    return m_items.add(std::move(item));
 }
 
 void GPMAppCore::modelItemChanged(const QString &itemId)
 {
-    PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
-    if (!item)
-        return;
-    m_safe->touchItem(*item);
-    m_safe->saveChangesAsync();
-}
-
-void GPMAppCore::setDeleted(const QStringList &itemIds, bool deleted)
-{
-    bool found = false;
-    for (const QString &id : itemIds) {
-        PMListItem *item = m_safe ? m_safe->item(id) : nullptr;
-        if (!item || item->deleted() == deleted)
-            continue;
-        item->setDeleted(deleted);
-        m_safe->touchItem(*item);
-        found = true;
-    }
-    if (found)
-        m_safe->saveChangesAsync();
+    m_items.changed(itemId);
 }
 
 void GPMAppCore::modelItemDeleted(const QString &itemId)
 {
-    modelItemsDeleted({itemId});
+    m_items.setDeleted({itemId}, true);
 }
 
 void GPMAppCore::modelItemsDeleted(const QStringList &itemIds)
 {
-    setDeleted(itemIds, true);
+    m_items.setDeleted(itemIds, true);
 }
 
 void GPMAppCore::modelItemRestored(const QString &itemId)
 {
-    modelItemsRestored({itemId});
+    m_items.setDeleted({itemId}, false);
 }
 
 void GPMAppCore::modelItemsRestored(const QStringList &itemIds)
 {
-    setDeleted(itemIds, false);
+    m_items.setDeleted(itemIds, false);
 }
 
 void GPMAppCore::modelItemsMarked(const QStringList &itemIds, bool favorite)
 {
-    bool found = false;
-    for (const QString &id : itemIds) {
-        PMListItem *item = m_safe ? m_safe->item(id) : nullptr;
-        if (!item || item->favorite() == favorite)
-            continue;
-        item->setFavorite(favorite);
-        m_safe->touchItem(*item);
-        found = true;
-    }
-    if (found)
-        m_safe->saveChangesAsync();
+    m_items.setFavorite(itemIds, favorite);
 }
 
 void GPMAppCore::modelItemPurged(const QString &itemId)
 {
-    modelItemsPurged({itemId});
+    m_items.purge({itemId});
 }
 
 void GPMAppCore::modelItemsPurged(const QStringList &itemIds)
 {
-    purge(itemIds);
+    m_items.purge(itemIds);
 }
 
 void GPMAppCore::modelClearTrash()
 {
-    purge(trashedIds());
+    m_items.purge(trashedIds());
 }
 
 void GPMAppCore::modelRestoreAll()
 {
-    setDeleted(trashedIds(), false);
+    m_items.setDeleted(trashedIds(), false);
 }
 
 QStringList GPMAppCore::trashedIds() const
 {
-    QStringList ids;
-    if (!m_safe)
-        return ids;
-    for (const PMListItem *item : m_safe->items()) {
-        if (item->deleted())
-            ids.append(item->id());
-    }
-    return ids;
+    return m_items.trashedIds();
 }
 
 QStringList GPMAppCore::attachmentsGoingWith(const QStringList &itemIds) const
 {
-    QStringList going;
-    QSet<QString> kept;
-    if (!m_safe)
-        return going;
-    const QSet<QString> ids(itemIds.begin(), itemIds.end());
-    for (const PMListItem *item : m_safe->items()) {
-        const QStringList refs = item->refs();
-        if (refs.isEmpty())
-            continue;
-        if (!ids.contains(item->id())) {
-            kept.unite(QSet<QString>(refs.begin(), refs.end()));
-            continue;
-        }
-        for (const QString &id : refs) {
-            const PMListItem *other = m_safe->item(id);
-            if (other && other->type() == PMListItem::Attachment && !ids.contains(id))
-                going.append(id);
-        }
-    }
-    const auto isKept = [&kept](const QString &id) { return kept.contains(id); };
-    going.erase(std::remove_if(going.begin(), going.end(), isKept), going.end());
-    going.removeDuplicates();
-    return going;
-}
-
-void GPMAppCore::dropReferences(const QStringList &ids)
-{
-    QSet<QString> gone;
-    for (const QString &id : ids) {
-        if (!m_safe->item(id))
-            gone.insert(id);
-    }
-    bool changed = false;
-    for (PMListItem *item : m_safe->items()) {
-        QStringList refs = item->refs();
-        const auto kept = std::remove_if(refs.begin(), refs.end(),
-                                         [&gone](const QString &id) { return gone.contains(id); });
-        if (kept == refs.end())
-            continue;
-        refs.erase(kept, refs.end());
-        item->setRefs(refs);
-        changed = true;
-    }
-    if (changed)
-        m_safe->saveChangesAsync();
-}
-
-void GPMAppCore::purge(const QStringList &ids)
-{
-    if (!m_safe || ids.isEmpty())
-        return;
-    const QStringList all = ids + attachmentsGoingWith(ids);
-    const bool removed = m_safe->removeItems(all);
-    dropReferences(all);
-    if (removed)
-        return;
-    Q_EMIT message(tr("Can't delete."),
-                   tr("The items are still there. Check that the folder of the safe can be "
-                      "written to:\n%1")
-                       .arg(QDir::toNativeSeparators(m_safe->folder())));
+    return m_items.attachmentsGoingWith(itemIds);
 }
 
 void GPMAppCore::importSafeArchive(const QString &archivePath)
@@ -475,14 +367,4 @@ void GPMAppCore::tellSaveResult(bool good, const QStringList &failedPaths)
                    tr("These files could not be written; what they held before is still there. "
                       "Check the free space and the permissions, then save again:\n%1")
                        .arg(paths.join(QLatin1Char('\n'))));
-}
-
-void GPMAppCore::countUse(const QString &itemId)
-{
-    PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
-    if (!item)
-        return;
-    item->setUseCount(item->useCount() + 1);
-    item->setLastAccessed(QDateTime::currentDateTimeUtc());
-    m_safe->saveChangesAsync();
 }

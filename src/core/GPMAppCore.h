@@ -3,11 +3,11 @@
 #include "ActivitySource.h"
 #include "ArchiveTask.h"
 #include "Backups.h"
+#include "BrowserLink.h"
 #include "ClipboardKeeper.h"
-#include "FormFillFlow.h"
 #include "GPMAppSettings.h"
-#include "GPMWebSocketServer.h"
 #include "Hotkeys.h"
+#include "ItemChanges.h"
 #include "KnownSafes.h"
 #include "LockGuard.h"
 #include "OpenSafeTrace.h"
@@ -72,7 +72,7 @@ public:
     const std::shared_ptr<GPMSafe> &currentSafe() const { return m_safe; }
 
     /// Whether a browser's extension is connected, which can be asked to fill.
-    bool hasExtension() const { return m_server && m_server->hasConnections(); }
+    bool hasExtension() const { return m_link && m_link->hasExtension(); }
 
     /// Makes a safe and opens it. False, with nothing left behind, when it cannot be made.
     /// @param folder an empty or a new one; one in the standard place when it is left out
@@ -174,14 +174,8 @@ private:
     void setSafe(const std::shared_ptr<GPMSafe> &safe);
     void startGuard();
     void lockBecause(LockReason reason);
-    void connectServer();
-    void connectFlow();
     void tellBackupFailures(const QVector<BackupJob::Result> &results);
     void tellSaveResult(bool good, const QStringList &failedPaths);
-    void countUse(const QString &itemId);
-    void setDeleted(const QStringList &itemIds, bool deleted);
-    void purge(const QStringList &ids);
-    void dropReferences(const QStringList &ids);
 
     std::unique_ptr<Platform> m_platform;
     GPMAppSettings m_settings;
@@ -197,7 +191,7 @@ private:
     std::unique_ptr<SessionWatch> m_sessionWatch;
     QString m_lockReason;
     quint16 m_port;
-    std::unique_ptr<GPMWebSocketServer> m_server;
-    std::unique_ptr<FormFillFlow> m_flow;
+    ItemChanges m_items;
+    std::unique_ptr<BrowserLink> m_link;
     std::shared_ptr<GPMSafe> m_safe;
 };

@@ -1,0 +1,16 @@
+#include "BrowserLink.h"
+
+#include <utility>
+
+BrowserLink::BrowserLink(quint16 port, Platform &platform, FormFillFlow::FindItem findItem,
+                         GPMAppSettings &settings, QObject *parent)
+    : QObject(parent)
+    , m_server(port, true, platform)
+    , m_flow(m_server, std::move(findItem), settings)
+{
+    connect(&m_server, &GPMWebSocketServer::activatePluginWindow, this,
+            [this](const QString &, const QString &url) { Q_EMIT windowRequested(url); });
+    connect(&m_flow, &FormFillFlow::userNotice, this, &BrowserLink::message);
+    connect(&m_flow, &FormFillFlow::openInBrowserRequested, this, &BrowserLink::openAddress);
+    connect(&m_flow, &FormFillFlow::itemUsed, this, &BrowserLink::itemUsed);
+}

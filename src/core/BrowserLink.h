@@ -1,0 +1,39 @@
+#pragma once
+
+#include "FormFillFlow.h"
+#include "GPMAppSettings.h"
+#include "GPMWebSocketServer.h"
+#include "Platform.h"
+
+#include <QObject>
+#include <QUrl>
+
+/// The link to the browser's extension: the server it connects to and the flow of requests and
+/// answers. A port that is taken is logged and leaves the program without the link.
+class BrowserLink : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param port on 127.0.0.1
+    /// @param findItem an item of the open safe by its id; null when there is none
+    BrowserLink(quint16 port, Platform &platform, FormFillFlow::FindItem findItem,
+                GPMAppSettings &settings, QObject *parent = nullptr);
+
+    GPMWebSocketServer &server() { return m_server; }
+    FormFillFlow &flow() { return m_flow; }
+    bool hasExtension() const { return m_server.hasConnections(); }
+
+Q_SIGNALS:
+    /// Something that the user has to know.
+    void message(const QString &title, const QString &text);
+    /// An address to be opened in the default browser.
+    void openAddress(const QUrl &url);
+    /// The window is to come to the front for the browser's page at this address.
+    void windowRequested(const QString &url);
+    void itemUsed(const QString &itemId);
+
+private:
+    GPMWebSocketServer m_server;
+    FormFillFlow m_flow;
+};

@@ -1,0 +1,155 @@
+#include "ItemChanges.h"
+
+#include <QDir>
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
+
+ItemChanges::ItemChanges(FindSafe safe, QObject *parent)
+    : QObject(parent)
+    , m_safe(std::move(safe))
+{
+}
+
+PMListItem *ItemChanges::add(std::unique_ptr<PMListItem> item)
+{
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    PMListItem *added = safe ? safe->addItem(std::move(item)) : nullptr;
+    if (added)
+        safe->saveChangesAsync();
+    return added;
+}
+
+void ItemChanges::changed(const QString &itemId)
+{
+    changeEach({itemId}, [](PMListItem &) { return true; });
+}
+
+void ItemChanges::setDeleted(const QStringList &itemIds, bool deleted)
+{
+    changeEach(itemIds, [deleted](PMListItem &item) {
+        if (item.deleted() == deleted)
+            return false;
+        item.setDeleted(deleted);
+        return true;
+    });
+}
+
+void ItemChanges::setFavorite(const QStringList &itemIds, bool favorite)
+{
+    changeEach(itemIds, [favorite](PMListItem &item) {
+        if (item.favorite() == favorite)
+            return false;
+        item.setFavorite(favorite);
+        return true;
+    });
+}
+
+/// Sets the time of change of each item that `change` says it has changed, and saves once.
+void ItemChanges::changeEach(const QStringList &itemIds, const Change &change)
+{
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    if (!safe)
+        return;
+    bool found = false;
+    for (const QString &id : itemIds) {
+        PMListItem *item = safe->item(id);
+        if (!item || !change(*item))
+            continue;
+        safe->touchItem(*item);
+        found = true;
+    }
+    if (found)
+        safe->saveChangesAsync();
+}
+
+QStringList ItemChanges::trashedIds() const
+{
+    QStringList ids;
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    if (!safe)
+        return ids;
+    for (const PMListItem *item : safe->items()) {
+        if (item->deleted())
+            ids.append(item->id());
+    }
+    return ids;
+}
+
+QStringList ItemChanges::attachmentsGoingWith(const QStringList &itemIds) const
+{
+    QStringList going;
+    QSet<QString> kept;
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    if (!safe)
+        return going;
+    const QSet<QString> ids(itemIds.begin(), itemIds.end());
+    for (const PMListItem *item : safe->items()) {
+        const QStringList refs = item->refs();
+        if (refs.isEmpty())
+            continue;
+        if (!ids.contains(item->id())) {
+            kept.unite(QSet<QString>(refs.begin(), refs.end()));
+            continue;
+        }
+        for (const QString &id : refs) {
+            const PMListItem *other = safe->item(id);
+            if (other && other->type() == PMListItem::Attachment && !ids.contains(id))
+                going.append(id);
+        }
+    }
+    const auto isKept = [&kept](const QString &id) { return kept.contains(id); };
+    going.erase(std::remove_if(going.begin(), going.end(), isKept), going.end());
+    going.removeDuplicates();
+    return going;
+}
+
+void ItemChanges::purge(const QStringList &itemIds)
+{
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    if (!safe || itemIds.isEmpty())
+        return;
+    const QStringList all = itemIds + attachmentsGoingWith(itemIds);
+    const bool removed = safe->removeItems(all);
+    dropReferences(*safe, all);
+    if (removed)
+        return;
+    Q_EMIT message(tr("Can't delete."),
+                   tr("The items are still there. Check that the folder of the safe can be "
+                      "written to:\n%1")
+                       .arg(QDir::toNativeSeparators(safe->folder())));
+}
+
+void ItemChanges::dropReferences(GPMSafe &safe, const QStringList &ids)
+{
+    QSet<QString> gone;
+    for (const QString &id : ids) {
+        if (!safe.item(id))
+            gone.insert(id);
+    }
+    bool changed = false;
+    for (PMListItem *item : safe.items()) {
+        QStringList refs = item->refs();
+        const auto kept = std::remove_if(refs.begin(), refs.end(),
+                                         [&gone](const QString &id) { return gone.contains(id); });
+        if (kept == refs.end())
+            continue;
+        refs.erase(kept, refs.end());
+        item->setRefs(refs);
+        changed = true;
+    }
+    if (changed)
+        safe.saveChangesAsync();
+}
+
+void ItemChanges::countUse(const QString &itemId)
+{
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    PMListItem *item = safe ? safe->item(itemId) : nullptr;
+    if (!item)
+        return;
+    item->setUseCount(item->useCount() + 1);
+    item->setLastAccessed(QDateTime::currentDateTimeUtc());
+    safe->saveChangesAsync();
+}
