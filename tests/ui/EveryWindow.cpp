@@ -12,10 +12,13 @@
 #include "lock/PagesStack.h"
 #include "main/ItemPane.h"
 #include "main/MainView.h"
+#include "main/SafeMenu.h"
 #include "main/ShortcutsDialog.h"
+#include "movein/MoveInDialog.h"
 #include "style/Style.h"
 #include "wizard/ExtensionPage.h"
 #include "wizard/FirstRun.h"
+#include "wizard/MoveInPage.h"
 #include "wizard/NewSafePage.h"
 #include "wizard/ReadyPage.h"
 #include "wizard/SetupWizard.h"
@@ -244,6 +247,10 @@ Show wizardStep(const char *id)
                  [&stage](QWidget *parent) {
                      return new NewSafePage(stage.test.core, stage.theme, parent);
                  }),
+             row("move-in", FirstRun::tr("Bring your passwords over"),
+                 [&stage](QWidget *parent) {
+                     return new MoveInPage(stage.test.core, stage.theme, parent);
+                 }),
              row("extension", FirstRun::tr("Fill forms in your browser"),
                  [parts](QWidget *parent) { return new ExtensionPage(parts, parent); }),
              row("ready", FirstRun::tr("You are ready"),
@@ -289,6 +296,64 @@ QWidget *renameDialog(Stage &stage)
 QWidget *shortcuts(Stage &stage)
 {
     return shownBeside(stage, new ShortcutsDialog(stage.theme, stage.main));
+}
+
+MoveInDialog *moveIn(Stage &stage)
+{
+    Q_EMIT stage.main->findChild<MainView *>()->safeMenu().bringOverRequested();
+    return qobject_cast<MoveInDialog *>(stage.window("moveInDialog"));
+}
+
+/// The window that brings passwords over, when a file was chosen and a control of the next page is
+/// there.
+Show moveInFile(const QByteArray &bytes, const char *control)
+{
+    return [bytes, control](Stage &stage) {
+        MoveInDialog *dialog = moveIn(stage);
+        QFile file(stage.test.folder.filePath(QStringLiteral("passwords.csv")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("Can't write a file");
+        file.close();
+        dialog->readFile(file.fileName());
+        const auto *shown = find<QWidget>(*dialog, control);
+        if (!QTest::qWaitFor([shown] { return shown->isVisible(); }))
+            return static_cast<MoveInDialog *>(nullptr);
+        return dialog;
+    };
+}
+
+const QByteArray browserExport = "name,url,username,password,note\r\n"
+                                 "Alpine Shop,https://alpine.example,ana.martin,q7V2X8RzKd,\r\n"
+                                 "Letters,https://mail.letters.example,ana.martin,tW4nB9pQz7,\r\n"
+                                 "Cloudmail,https://www.cloudmail.example/login,ana.martin,"
+                                 "tW4:nB9pQz;r7X,\r\n"
+                                 "Git Forge,https://gitforge.example,anam,Lr5kQ2wHn8,\r\n"
+                                 "Bank of the South,https://south.example,ana-m-4471,vY8dM3s,\r\n"
+                                 ",android://key@com.shop/,,Zc9bT4fGx2,\r\n";
+
+QWidget *moveInEnd(Stage &stage)
+{
+    QWidget *dialog = moveInFile(browserExport, "addButton")(stage);
+    if (!dialog)
+        return nullptr;
+    QSignalSpy added(stage.test.core.currentSafe().get(), &GPMSafe::itemAdded);
+    find<QAbstractButton>(*dialog, "addButton")->click();
+    const auto *close = find<QWidget>(*dialog, "closeMoveInButton");
+    if (!QTest::qWaitFor([close] { return close->isVisible(); }))
+        return nullptr;
+    // The safe is that of the other windows, too.
+    QStringList ids;
+    for (const QVariantList &arguments : added)
+        ids << arguments.first().toString();
+    stage.test.core.modelItemsPurged(ids);
+    return dialog;
+}
+
+QWidget *exportDialog(Stage &stage)
+{
+    manySelected(stage);
+    stage.press("exportSelectedButton");
+    return stage.window("exportDialog");
 }
 
 QWidget *question(Stage &stage)
@@ -558,8 +623,15 @@ const QVector<WindowCase> &everyWindow()
         {"settings-appearance", settingsPage(5)},
         {"wizard-language", firstWizardStep},
         {"wizard-safe", wizardStep("safe"), Stage::Locked},
+        {"wizard-move-in", wizardStep("move-in")},
         {"wizard-extension", wizardStep("extension")},
         {"wizard-ready", wizardStep("ready")},
+        {"move-in", moveIn},
+        {"move-in-columns",
+         moveInFile("Konto;Website;Login;Password\nx;y;z;1\n", "useColumnsButton")},
+        {"move-in-preview", moveInFile(browserExport, "addButton")},
+        {"move-in-end", moveInEnd},
+        {"export", exportDialog},
         {"shortcuts", shortcuts},
         {"question", question}};
     return cases;

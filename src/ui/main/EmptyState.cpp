@@ -19,6 +19,7 @@ EmptyState::EmptyState(const Theme &theme, QWidget *parent)
     , m_title(makeLabel({}, "heading", this))
     , m_advice(makeLabel({}, "muted", this))
     , m_button(makeButton({}, "primary", this))
+    , m_second(makeButton({}, "link", this))
 {
     m_title->setWordWrap(true);
     m_title->setAlignment(Qt::AlignHCenter);
@@ -33,13 +34,15 @@ EmptyState::EmptyState(const Theme &theme, QWidget *parent)
     column->addWidget(m_advice);
     column->addSpacing(Style::spacing);
     column->addWidget(m_button, 0, Qt::AlignHCenter);
+    column->addWidget(m_second, 0, Qt::AlignHCenter);
     column->addStretch(3);
     connect(m_button, &QPushButton::clicked, this, &EmptyState::pressed);
+    connect(m_second, &QPushButton::clicked, this, &EmptyState::secondPressed);
     connect(&theme, &Theme::changed, this, &EmptyState::showIcon);
 }
 
 void EmptyState::setContent(const QString &icon, const QString &title, const QString &advice,
-                            const QString &button)
+                            const QString &button, const QString &second)
 {
     m_iconName = icon;
     showIcon();
@@ -48,6 +51,8 @@ void EmptyState::setContent(const QString &icon, const QString &title, const QSt
     m_advice->setVisible(!advice.isEmpty());
     m_button->setText(button);
     m_button->setVisible(!button.isEmpty());
+    m_second->setText(second);
+    m_second->setVisible(!second.isEmpty());
 }
 
 void EmptyState::showIcon()

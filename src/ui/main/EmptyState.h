@@ -15,12 +15,15 @@ public:
     EmptyState(const Theme &theme, QWidget *parent);
 
     /// @param button the words on the button; empty for none
+    /// @param second those of another way
     void setContent(const QString &icon, const QString &title, const QString &advice,
-                    const QString &button = {});
+                    const QString &button = {}, const QString &second = {});
     QPushButton *button() const { return m_button; }
+    QPushButton *secondButton() const { return m_second; }
 
 Q_SIGNALS:
     void pressed();
+    void secondPressed();
 
 private:
     void showIcon();
@@ -30,5 +33,6 @@ private:
     QLabel *m_title;
     QLabel *m_advice;
     QPushButton *m_button;
+    QPushButton *m_second;
     QString m_iconName;
 };

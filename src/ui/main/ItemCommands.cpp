@@ -52,6 +52,9 @@ void ItemCommands::connectParts()
     connect(m_parts.selection, &SelectionPage::restoreRequested, this,
             [this] { m_parts.actions->restore(m_parts.list->selectedIds()); });
 
+    connect(m_parts.selection, &SelectionPage::exportRequested, this,
+            [this] { Q_EMIT exportRequested(m_parts.list->selectedIds()); });
+
     connect(m_parts.pane, &ItemPane::removeRequested, this, &ItemCommands::removeOne);
     connect(m_parts.pane, &ItemPane::restoreRequested, this,
             [this](const QString &id) { m_parts.actions->restore({id}); });
@@ -118,6 +121,8 @@ void ItemCommands::showMenu(const QPoint &place)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu, &ItemMenu::editRequested, this, &ItemCommands::edit);
     connect(menu, &ItemMenu::duplicateRequested, this, &ItemCommands::duplicate);
+    connect(menu, &ItemMenu::exportRequested, this,
+            [this] { Q_EMIT exportRequested(m_parts.list->selectedIds()); });
     connect(menu, &ItemMenu::removeRequested, this, &ItemCommands::removeSelected);
     menu->popup(place);
 }

@@ -39,6 +39,9 @@ public:
     void copyUserName();
     void copySecret();
 
+Q_SIGNALS:
+    void exportRequested(const QStringList &ids);
+
 private:
     void connectParts();
     void showMenu(const QPoint &place);

@@ -120,6 +120,8 @@ void ItemListPane::makeList(const Clock &clock)
     m_empty->button()->setObjectName(QStringLiteral("addFirstLoginButton"));
     connect(m_empty, &EmptyState::pressed, this,
             [this] { Q_EMIT createRequested(PMListItem::Login); });
+    m_empty->secondButton()->setObjectName(QStringLiteral("bringOverButton"));
+    connect(m_empty, &EmptyState::secondPressed, this, &ItemListPane::bringOverRequested);
     m_stack = new QStackedWidget(this);
     m_stack->addWidget(m_list);
     m_stack->addWidget(m_empty);
@@ -206,6 +208,7 @@ void ItemListPane::layOut()
     }
     setTabOrder(before, m_list);
     setTabOrder(m_list, m_empty->button());
+    setTabOrder(m_empty->button(), m_empty->secondButton());
 }
 
 void ItemListPane::setCategory(const ItemCategory &category)
@@ -368,7 +371,7 @@ void ItemListPane::showEmptyState()
     else if (m_safeIsEmpty)
         m_empty->setContent(QStringLiteral("key"), tr("Your safe is empty"),
                             tr("Keep your user names and passwords here."),
-                            tr("Add your first login"));
+                            tr("Add your first login"), tr("Bring passwords over…"));
     else
         m_empty->setContent(categoryIcon(category()), tr("No items in this category"),
                             emptyAdvice(category()));

@@ -72,6 +72,8 @@ Q_SIGNALS:
     void menuRequested(const QPoint &place);
     void orderChosen();
     void createRequested(PMListItem::Type type);
+    /// The items of another program are to come in.
+    void bringOverRequested();
     void restoreAllRequested();
     void emptyTrashRequested();
 

@@ -28,6 +28,8 @@ ItemMenu::ItemMenu(ItemActions &actions, const QStringList &ids, const Theme &th
                 favorite ? tr("Remove from favourites") : tr("Add to favourites")),
             &QAction::triggered, &m_actions,
             [this, ids, favorite] { m_actions.setFavorite(ids, !favorite); });
+    connect(add("exportAction", "file-export", tr("Export…")), &QAction::triggered, this,
+            &ItemMenu::exportRequested);
     addSeparator();
     connect(add("removeAction", "trash", tr("Remove"), "Del"), &QAction::triggered, this,
             &ItemMenu::removeRequested);

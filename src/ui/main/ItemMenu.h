@@ -16,6 +16,7 @@ public:
 Q_SIGNALS:
     void editRequested();
     void duplicateRequested();
+    void exportRequested();
     void removeRequested();
 
 private:

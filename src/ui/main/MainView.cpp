@@ -21,6 +21,7 @@
 #include "drafts/DraftKeeper.h"
 #include "drafts/DraftOffer.h"
 #include "health/HealthDesk.h"
+#include "movein/MoveDesk.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/SnackBar.h"
@@ -71,6 +72,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_snack = new SnackBar(theme, this);
     m_health = new HealthDesk(core, m_items, theme, this);
     m_health->serve(m_list->filter());
+    m_moveDesk = new MoveDesk(core, theme, this);
     m_keeper = new DraftKeeper(core, *m_pane, this);
     m_offer = new DraftOffer(*m_pane, *m_keeper, theme, asker, this);
     const MainParts parts{m_items, m_actions, m_sidebar, m_list, m_right, m_pane, m_selection};
@@ -120,6 +122,10 @@ void MainView::connectParts()
     connect(m_safeMenu, &SafeMenu::safeChosen, this, &MainView::safeChosen);
     connect(m_safeMenu, &SafeMenu::createRequested, this, &MainView::createSafeRequested);
     connect(m_safeMenu, &SafeMenu::lockRequested, this, &MainView::lockRequested);
+    connect(m_safeMenu, &SafeMenu::bringOverRequested, m_moveDesk, &MoveDesk::bringOver);
+    connect(m_safeMenu, &SafeMenu::exportItemsRequested, m_moveDesk, &MoveDesk::exportAll);
+    connect(m_list, &ItemListPane::bringOverRequested, m_moveDesk, &MoveDesk::bringOver);
+    connect(m_commands, &ItemCommands::exportRequested, m_moveDesk, &MoveDesk::exportItems);
     connect(m_health, &HealthDesk::changeRequested, m_commands, &ItemCommands::change);
     connect(m_list, &ItemListPane::orderChosen, this, &MainView::itemOrderChanged);
     connect(m_pane, &ItemPane::generatorRequested, this, &MainView::fieldGeneratorRequested);

@@ -18,6 +18,7 @@ class ItemCommands;
 class ItemListPane;
 class ItemNavigation;
 class ItemPane;
+class MoveDesk;
 class QSplitter;
 class QStackedWidget;
 class SafeMenu;
@@ -101,6 +102,7 @@ private:
     SelectionPage *m_selection;
     SnackBar *m_snack;
     HealthDesk *m_health;
+    MoveDesk *m_moveDesk;
     ItemNavigation *m_navigation;
     ItemCommands *m_commands;
 };

@@ -32,6 +32,10 @@ QVector<SafeMenu::Row> SafeMenu::rows() const
     return {
         {"createSafeAction", "plus", tr("Create new..."), &SafeMenu::createRequested},
         line,
+        {"bringOverAction", "file-import", tr("Bring passwords over…"),
+         &SafeMenu::bringOverRequested},
+        {"exportItemsAction", "file-export", tr("Export items…"), &SafeMenu::exportItemsRequested},
+        line,
         {"lockAction", "lock", tr("Lock"), &SafeMenu::lockRequested, "Ctrl+L"},
     };
 }

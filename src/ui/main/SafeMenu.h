@@ -19,6 +19,8 @@ public:
 Q_SIGNALS:
     void safeChosen(const QString &folder);
     void createRequested();
+    void bringOverRequested();
+    void exportItemsRequested();
     void lockRequested();
 
 private:

@@ -29,6 +29,7 @@ SelectionPage::SelectionPage(const Theme &theme, QWidget *parent)
     , m_title(makeLabel({}, "title", this))
     , m_kinds(makeLabel({}, "muted", this))
     , m_favorite(makeButton({}, "plain", this))
+    , m_export(makeButton(tr("Export…"), "plain", this))
     , m_restore(makeButton(tr("Restore"), "plain", this))
     , m_remove(makeButton({}, "plain", this))
 {
@@ -39,6 +40,8 @@ SelectionPage::SelectionPage(const Theme &theme, QWidget *parent)
     m_kinds->setAlignment(Qt::AlignHCenter);
     m_favorite->setObjectName(QStringLiteral("favoriteSelectedButton"));
     m_favorite->setIcon(theme.icon(QStringLiteral("star"), Palette::Text));
+    m_export->setObjectName(QStringLiteral("exportSelectedButton"));
+    m_export->setIcon(theme.icon(QStringLiteral("file-export"), Palette::Text));
     m_restore->setObjectName(QStringLiteral("restoreSelectedButton"));
     m_restore->setIcon(theme.icon(QStringLiteral("arrow-back-up"), Palette::Text));
     m_remove->setObjectName(QStringLiteral("removeSelectedButton"));
@@ -46,7 +49,7 @@ SelectionPage::SelectionPage(const Theme &theme, QWidget *parent)
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(Style::spacing);
     buttons->addStretch();
-    for (QPushButton *button : {m_favorite, m_restore, m_remove})
+    for (QPushButton *button : {m_favorite, m_export, m_restore, m_remove})
         buttons->addWidget(button);
     buttons->addStretch();
     auto *all = new QVBoxLayout(this);
@@ -60,6 +63,7 @@ SelectionPage::SelectionPage(const Theme &theme, QWidget *parent)
     all->addStretch(3);
     connect(m_favorite, &QPushButton::clicked, this,
             [this] { Q_EMIT favoriteRequested(!m_allFavorite); });
+    connect(m_export, &QPushButton::clicked, this, &SelectionPage::exportRequested);
     connect(m_restore, &QPushButton::clicked, this, &SelectionPage::restoreRequested);
     connect(m_remove, &QPushButton::clicked, this, &SelectionPage::removeRequested);
 }
@@ -77,6 +81,7 @@ void SelectionPage::setItems(const QVector<PMListItem *> &items)
     m_allFavorite = all(&PMListItem::favorite);
     m_favorite->setText(m_allFavorite ? tr("Remove from favourites") : tr("Add to favourites"));
     m_favorite->setVisible(!trashed);
+    m_export->setVisible(!trashed);
     m_restore->setVisible(trashed);
     m_remove->setText(all(&PMListItem::deleted) ? tr("Delete forever") : tr("Remove"));
 }

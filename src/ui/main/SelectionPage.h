@@ -19,6 +19,7 @@ public:
 
 Q_SIGNALS:
     void favoriteRequested(bool favorite);
+    void exportRequested();
     void removeRequested();
     void restoreRequested();
 
@@ -27,6 +28,7 @@ private:
     QLabel *m_title;
     QLabel *m_kinds;
     QPushButton *m_favorite;
+    QPushButton *m_export;
     QPushButton *m_restore;
     QPushButton *m_remove;
     bool m_allFavorite = false;

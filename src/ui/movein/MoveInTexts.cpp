@@ -92,7 +92,7 @@ QVector<MoveInTexts::Guide> MoveInTexts::guides()
           Texts::tr("In the menu “Database” choose “Export”, then “CSV file…”."), saveIt}},
         {Texts::tr("Another safe"),
          {Texts::tr("Open the other safe in this program."),
-          Texts::tr("In the menu of the safe choose “Export…”, then JSON."), saveIt}},
+          Texts::tr("In the menu of the safe choose “Export items…”, then JSON."), saveIt}},
         {Texts::tr("Another program"),
          {Texts::tr("Export the passwords as CSV, with the names of the columns in the first row."),
           Texts::tr("Choose the file here. You are asked what each column holds, if that is not "

@@ -3,6 +3,7 @@
 #include "ExtensionPage.h"
 #include "GPMAppCore.h"
 #include "LanguagePage.h"
+#include "MoveInPage.h"
 #include "NewSafePage.h"
 #include "PMTranslator.h"
 #include "ReadyPage.h"
@@ -50,7 +51,12 @@ QVector<WizardStep> FirstRun::stepsOfUse() const
         parts.copy = [this](const QString &text) { m_core.clipboard().copy(text, false); };
         return new ExtensionPage(parts, parent);
     };
+    const auto moveIn = [this](QWidget *parent) { return new MoveInPage(m_core, m_theme, parent); };
     return {
+        {"move-in", tr("Bring your passwords over"),
+         tr("From a browser or another program. You can also do it later, in the menu of the "
+            "safe."),
+         [] { return true; }, moveIn},
         {"extension", tr("Fill forms in your browser"),
          tr("The extension fills your logins into the pages they belong to."),
          [folder] { return !folder.isEmpty(); }, extension},
