@@ -751,9 +751,10 @@ void TestMainView::menuOffersWhatApplies_data()
     const QString card = QStringLiteral("Card");
     row("login", {shop},
         "logInAction openAddressAction copyUserNameAction copySecretAction editAction "
-        "duplicateAction favoriteAction removeAction");
-    row("card", {card}, "copySecretAction editAction duplicateAction favoriteAction removeAction");
-    row("both", {card, shop}, "favoriteAction removeAction");
+        "duplicateAction favoriteAction exportAction removeAction");
+    row("card", {card},
+        "copySecretAction editAction duplicateAction favoriteAction exportAction removeAction");
+    row("both", {card, shop}, "favoriteAction exportAction removeAction");
     row("trash", {QStringLiteral("Gone")}, "restoreAction deleteForeverAction");
 }
 
