@@ -151,9 +151,9 @@ bool ItemFilterModel::less(const Entry *left, const Entry *right) const
         break;
     case SortBy::Domain:
         // What has no domain comes behind what has one.
-        if (left->domain.isEmpty() != right->domain.isEmpty())
-            return right->domain.isEmpty();
-        difference = right->domain.compare(left->domain);
+        if (left->domain().isEmpty() != right->domain().isEmpty())
+            return right->domain().isEmpty();
+        difference = right->domain().compare(left->domain());
         break;
     case SortBy::Modified:
         difference = left->modified - right->modified;
@@ -177,7 +177,7 @@ bool ItemFilterModel::less(const Entry *left, const Entry *right) const
 bool ItemFilterModel::matches(const Entry &entry) const
 {
     return m_query.isEmpty() ||
-           m_query.matches(entry.traits, entry.searchText,
+           m_query.matches(entry.traits, entry.searchText(),
                            m_query.wantsWeak() && m_isWeak && m_isWeak(*entry.item), m_today);
 }
 

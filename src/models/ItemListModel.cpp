@@ -3,9 +3,11 @@
 #include "ItemExpiry.h"
 #include "SearchText.h"
 
-#include <QTimer>
+#include <QElapsedTimer>
 
 namespace {
+
+const int sliceMs = 4;
 
 qint64 milliseconds(const QDateTime &moment)
 {
@@ -21,12 +23,27 @@ QLocale sortingLocale()
 
 } // namespace
 
+const QString &ItemListModel::Entry::searchText() const
+{
+    if (!keptSearchText)
+        keptSearchText = itemSearchText(*item);
+    return *keptSearchText;
+}
+
+const QString &ItemListModel::Entry::domain() const
+{
+    if (!keptDomain)
+        keptDomain = itemDomain(*item);
+    return *keptDomain;
+}
+
 ItemListModel::ItemListModel(QObject *parent)
     : QAbstractListModel(parent)
     , m_collator(sortingLocale())
 {
     m_collator.setCaseSensitivity(Qt::CaseInsensitive);
     m_collator.setNumericMode(true);
+    connect(&m_textTimer, &QTimer::timeout, this, &ItemListModel::makeTexts);
 }
 
 ItemListModel::~ItemListModel()
@@ -126,6 +143,8 @@ void ItemListModel::reload()
         m_entries.push_back(makeEntry(item, rowCount()));
     endResetModel();
     announceChange();
+    m_nextTextRow = 0;
+    m_textTimer.start(0);
 }
 
 void ItemListModel::addRow(const QString &id)
@@ -170,8 +189,8 @@ void ItemListModel::fill(Entry &entry) const
 {
     const PMListItem &item = *entry.item;
     entry.traits = ItemTraits::of(item);
-    entry.searchText = itemSearchText(item);
-    entry.domain = itemDomain(item);
+    entry.keptSearchText.reset();
+    entry.keptDomain.reset();
     entry.sortKey = m_collator.sortKey(item.title());
     entry.modified = milliseconds(item.modified());
     entry.created = milliseconds(item.created());
@@ -195,4 +214,15 @@ void ItemListModel::announceChange()
         m_changeAnnounced = false;
         Q_EMIT contentChanged();
     });
+}
+
+void ItemListModel::makeTexts()
+{
+    // Between events, so that the first search need not wait for them.
+    QElapsedTimer slice;
+    slice.start();
+    for (; m_nextTextRow < rowCount() && slice.elapsed() < sliceMs; ++m_nextTextRow)
+        entryAt(m_nextTextRow).searchText();
+    if (m_nextTextRow >= rowCount())
+        m_textTimer.stop();
 }

@@ -6,6 +6,7 @@
 #include <QAbstractListModel>
 #include <QCollator>
 #include <QHash>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -35,15 +36,20 @@ public:
     /// are milliseconds since the Unix epoch, 0 when there is none.
     struct Entry
     {
+        /// itemSearchText() and itemDomain(): made when they are first asked for, as they take
+        /// longer than all the rest.
+        const QString &searchText() const;
+        const QString &domain() const;
+
         PMListItem *item = nullptr;
         int row = 0;
         ItemTraits traits;
-        QString searchText;                      ///< itemSearchText()
-        QString domain;                          ///< itemDomain()
         std::optional<QCollatorSortKey> sortKey; ///< of the title
         qint64 modified = 0;
         qint64 created = 0;
         qint64 lastAccessed = 0;
+        mutable std::optional<QString> keptSearchText;
+        mutable std::optional<QString> keptDomain;
     };
 
     explicit ItemListModel(QObject *parent = nullptr);
@@ -84,6 +90,7 @@ private:
     void fill(Entry &entry) const;
     void onItemChanged(Entry &entry);
     void announceChange();
+    void makeTexts();
 
     Describer m_describe;
     std::shared_ptr<GPMSafe> m_safe;
@@ -91,4 +98,6 @@ private:
     std::vector<std::unique_ptr<Entry>> m_entries;
     QHash<PMListItem *, Entry *> m_byItem;
     bool m_changeAnnounced = false;
+    QTimer m_textTimer;    ///< runs until all have their texts
+    int m_nextTextRow = 0; ///< before it all have theirs
 };

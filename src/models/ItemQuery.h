@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QStringList>
+#include <QStringMatcher>
 #include <QVector>
 
 /// The words that narrow a search beside plain text, as in "kind:card" and "is:favourite". The
@@ -56,6 +57,8 @@ private:
     bool wants(SearchTerms::State state) const;
 
     QStringList m_words;
+    QVector<QStringMatcher> m_longWords; ///< of those words that are worth it
+    QStringList m_shortWords;
     // Of each term those that it may mean; of one that means nothing none.
     QVector<QVector<PMListItem::Type>> m_kinds;
     QVector<QVector<SearchTerms::State>> m_states;

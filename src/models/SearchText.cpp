@@ -10,6 +10,8 @@
 
 namespace {
 
+const int longestLabel = 63;
+
 /// Letters with a stroke or of two letters, which Unicode leaves as they are; in lower case.
 struct Letter
 {
@@ -19,9 +21,9 @@ struct Letter
 const Letter letters[] = {{0x00df, "ss"}, {0x00e6, "ae"}, {0x00f8, "o"}, {0x0111, "d"},
                           {0x0127, "h"},  {0x0131, "i"},  {0x0142, "l"}, {0x0153, "oe"}};
 
-bool isAscii(const QString &text)
+bool isAscii(QChar c)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    return c.unicode() < 0x80;
 }
 
 void appendFolded(QString &result, QChar c)
@@ -34,16 +36,67 @@ void appendFolded(QString &result, QChar c)
         result.append(c);
 }
 
+/// Of ASCII alone.
+void appendLower(QString &result, const QChar *text, int size)
+{
+    const int before = result.size();
+    result.append(text, size);
+    for (auto c = result.begin() + before; c != result.end(); ++c) {
+        if (*c >= QLatin1Char('A') && *c <= QLatin1Char('Z'))
+            *c = QChar(c->unicode() + ('a' - 'A'));
+    }
+}
+
+/// The host of an address as it is nearly always written; empty when it takes a closer look.
+QString plainHost(const QString &address)
+{
+    static const QString schemes[] = {QStringLiteral("https://"), QStringLiteral("http://"),
+                                      QStringLiteral("//")};
+    const auto scheme = std::find_if(std::begin(schemes), std::end(schemes),
+                                     [&](const QString &each) { return address.startsWith(each); });
+    if (scheme == std::end(schemes))
+        return {};
+    const int start = scheme->size();
+    int end = start;
+    while (end < address.size()) {
+        const ushort c = address.at(end).unicode();
+        const bool plain = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '.';
+        if (!plain && c != '-')
+            break;
+        ++end;
+    }
+    const bool whole = end == address.size() || address.at(end) == QLatin1Char('/');
+    const QString host = address.mid(start, end - start);
+    // Numbers may be an address in one of its many forms, a double hyphen is an encoding.
+    // Numbers may be an address in one of its many forms, a double hyphen is an encoding.
+    const bool isName = !host.isEmpty() && host.size() <= longestLabel &&
+                        host.at(0).isLetterOrNumber() && host.at(host.size() - 1).isLower();
+    static const QString oddities[] = {QStringLiteral("--"), QStringLiteral(".."),
+                                       QStringLiteral(".-"), QStringLiteral("-.")};
+    const bool isSimple = std::none_of(std::begin(oddities), std::end(oddities),
+                                       [&](const QString &odd) { return host.contains(odd); });
+    return whole && isName && isSimple ? host : QString();
+}
+
 } // namespace
 
 QString foldForSearch(const QString &text)
 {
-    if (isAscii(text))
-        return text.toLower();
     QString result;
     result.reserve(text.size());
-    for (const QChar c : text.normalized(QString::NormalizationForm_KD).toCaseFolded())
-        appendFolded(result, c);
+    // Run by run: to take the whole of a long text apart for one accent takes much longer.
+    const QChar *const end = text.cend();
+    for (const QChar *c = text.cbegin(); c != end;) {
+        const QChar *const other = std::find_if_not(c, end, isAscii);
+        appendLower(result, c, int(other - c));
+        c = std::find_if(other, end, isAscii);
+        if (c == other)
+            continue;
+        const QString run = QString::fromRawData(other, int(c - other));
+        const QString folded = run.normalized(QString::NormalizationForm_KD).toCaseFolded();
+        for (const QChar part : folded)
+            appendFolded(result, part);
+    }
     return result;
 }
 
@@ -71,6 +124,8 @@ QString itemDomain(const PMListItem &item)
         return {};
     if (!address.contains(QStringLiteral("://")))
         address.prepend(QStringLiteral("//"));
-    const QString host = QUrl(address).host();
+    QString host = plainHost(address);
+    if (host.isEmpty())
+        host = QUrl(address).host();
     return host.startsWith(QStringLiteral("www.")) ? host.mid(4) : host;
 }

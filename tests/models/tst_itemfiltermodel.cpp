@@ -349,6 +349,10 @@ void TestItemFilterModel::domains_data()
     row("shop.example/login", "shop.example");
     row("www.shop.example", "shop.example");
     row("http://wwwshop.example", "wwwshop.example");
+    row("https://ana@shop.example/", "shop.example");
+    row("https://xn--bcher-kva.de/", "bücher.de");
+    row("https://192.168.1/", "192.168.0.1");
+    row("https://-shop.example", "");
     row("", "");
     row("not an address", "");
 }

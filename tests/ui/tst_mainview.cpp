@@ -37,6 +37,7 @@ private Q_SLOTS:
     void leavingAModifiedItemAsks_data();
     void leavingAModifiedItemAsks();
     void selectionSurvivesChanges();
+    void keysActOnWhatTheSearchFound();
     void searchKeepsWhatIsEdited();
     void removeAndRestore();
     void enterOnAQuestionPressesTheFocusedButton();
@@ -255,11 +256,27 @@ void TestMainView::selectionSurvivesChanges()
     search->setText(QStringLiteral("eta"));
     QCOMPARE(shown.current(), QStringLiteral("Zeta"));
     search->setText(QStringLiteral("gam"));
-    QCOMPARE(shown.shownTitle(), QStringLiteral("Gamma"));
+    QTRY_COMPARE(shown.shownTitle(), QStringLiteral("Gamma"));
     search->setText(QStringLiteral("none of them"));
-    QCOMPARE(shown.shownTitle(), QString());
+    QTRY_COMPARE(shown.shownTitle(), QString());
     QTest::keyClick(search, Qt::Key_Escape);
     QCOMPARE(shown.list()->model()->rowCount(), 4);
+}
+
+void TestMainView::keysActOnWhatTheSearchFound()
+{
+    View shown;
+    for (const char *title : {"Alpha", "Beta"})
+        shown.test.addLogin(QLatin1String(title));
+    shown.choose(QStringLiteral("Alpha"));
+    // At once, while the page still shows the item from before.
+    shown.field("searchField")->setText(QStringLiteral("bet"));
+    shown.list()->setFocus();
+    shown.press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("secret of Beta"));
+    shown.field("searchField")->setText(QStringLiteral("alp"));
+    shown.press(Qt::Key_F2);
+    QCOMPARE(shown.field("titleField")->text(), QStringLiteral("Alpha"));
 }
 
 void TestMainView::searchKeepsWhatIsEdited()

@@ -153,6 +153,7 @@ void ItemCommands::createHere()
 
 void ItemCommands::edit()
 {
+    m_navigation.settle();
     m_parts.pane->startEdit();
 }
 
@@ -166,23 +167,27 @@ void ItemCommands::save()
 
 void ItemCommands::paste()
 {
+    m_navigation.settle();
     m_parts.pane->paste();
 }
 
 void ItemCommands::logIn()
 {
+    m_navigation.settle();
     if (!m_parts.pane->isEditing())
         m_parts.actions->runDefault(m_parts.pane->shownId());
 }
 
 void ItemCommands::copyUserName()
 {
+    m_navigation.settle();
     if (!m_parts.pane->isEditing())
         m_parts.actions->copyUserName(m_parts.pane->shownId());
 }
 
 void ItemCommands::copySecret()
 {
+    m_navigation.settle();
     if (!m_parts.pane->isEditing())
         m_parts.actions->copySecret(m_parts.pane->shownId());
 }

@@ -11,6 +11,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextLayout>
 
 #include <utility>
 
@@ -156,8 +157,25 @@ void ItemDelegate::paintText(QPainter &painter, const QRect &area, const QString
 {
     painter.setFont(font);
     painter.setPen(m_theme.palette().color(role));
-    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
-                     metrics.elidedText(text.simplified(), Qt::ElideRight, area.width()));
+    // Laid out once, both to be measured and to be painted: rows are painted at every key stroke.
+    QTextLayout layout(text.simplified(), font, painter.device());
+    layout.setCacheEnabled(true);
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    if (line.isValid())
+        line.setLineWidth(area.width());
+    layout.endLayout();
+    if (!line.isValid())
+        return;
+    if (line.naturalTextWidth() > area.width()) {
+        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
+                         metrics.elidedText(layout.text(), Qt::ElideRight, area.width()));
+        return;
+    }
+    line.draw(&painter, QPointF(area.left(), area.top() + (area.height() - line.height()) / 2));
 }
 
 void ItemDelegate::paintTexts(QPainter &painter, const QRect &area, const QModelIndex &index) const

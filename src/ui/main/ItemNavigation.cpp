@@ -8,10 +8,19 @@
 
 #include <QStackedWidget>
 
+namespace {
+
+const int followMs = 40; ///< after a key stroke in the search
+
+} // namespace
+
 ItemNavigation::ItemNavigation(const MainParts &parts, QObject *parent)
     : QObject(parent)
     , m_parts(parts)
 {
+    m_following.setSingleShot(true);
+    m_following.setInterval(followMs);
+    connect(&m_following, &QTimer::timeout, this, &ItemNavigation::follow);
     connect(m_parts.sidebar, &Sidebar::categoryChosen, this, &ItemNavigation::onCategoryChosen);
     connect(m_parts.list, &ItemListPane::selectionChosen, this, &ItemNavigation::onSelectionChosen);
     connect(m_parts.list, &ItemListPane::searched, this, &ItemNavigation::onSearched);
@@ -73,7 +82,23 @@ void ItemNavigation::onSearched()
         return;
     if (m_parts.list->selectedIds().isEmpty())
         m_parts.list->setCurrent(m_parts.list->firstId());
-    showCurrent();
+    // To make its page takes longer than the list, which is what the next key waits for.
+    m_following.start();
+}
+
+void ItemNavigation::follow()
+{
+    const bool onPane = m_parts.right->currentWidget() == m_parts.pane;
+    if (!onPane || m_parts.pane->shownId() != m_parts.list->currentId())
+        showCurrent();
+}
+
+void ItemNavigation::settle()
+{
+    if (!m_following.isActive())
+        return;
+    m_following.stop();
+    follow();
 }
 
 void ItemNavigation::onContentChanged()
@@ -96,6 +121,7 @@ void ItemNavigation::onDiscarded()
 
 void ItemNavigation::showCurrent()
 {
+    m_following.stop();
     const QVector<PMListItem *> items = m_parts.actions->items(m_parts.list->selectedIds());
     const bool many = items.size() > 1;
     m_parts.pane->showItem(items.size() == 1 ? items.first() : nullptr);

@@ -4,6 +4,7 @@
 #include "MainParts.h"
 
 #include <QObject>
+#include <QTimer>
 #include <QVariantMap>
 
 /// Keeps the category, the selection in the list and what is shown of it in step, and asks before
@@ -18,6 +19,8 @@ public:
     void showCategory(const ItemCategory &category);
     /// Shows what is selected: one item, several, or that there is none.
     void showCurrent();
+    /// Shows it now if that was to follow.
+    void settle();
     /// Selects the first item of the list and shows it.
     void showFirst();
     /// Selects an item in the list, which a search or a category may hide until then.
@@ -40,5 +43,8 @@ private:
     void onSearched();
     void onDiscarded();
 
+    void follow();
+
     MainParts m_parts;
+    QTimer m_following; ///< what is shown comes a moment after the list
 };
