@@ -322,6 +322,8 @@ Show moveInFile(const QByteArray &bytes, const char *control)
     };
 }
 
+const QByteArray unknownExport = "Konto;Website;Login;Password\nx;y;z;1\n";
+
 const QByteArray browserExport = "name,url,username,password,note\r\n"
                                  "Alpine Shop,https://alpine.example,ana.martin,q7V2X8RzKd,\r\n"
                                  "Letters,https://mail.letters.example,ana.martin,tW4nB9pQz7,\r\n"
@@ -566,9 +568,14 @@ void Stage::fillSafe()
 
 QSet<QString> Stage::ownWords() const
 {
-    QStringList texts{test.core.currentSafe()->name(), test.core.currentSafe()->hint(),
+    QStringList texts{test.core.currentSafe()->name(),
+                      test.core.currentSafe()->hint(),
                       test.folder.path() + QStringLiteral("/hidden/backup passport.png"),
-                      QStringLiteral("work gpm"), extensionFolder};
+                      QStringLiteral("work gpm"),
+                      extensionFolder,
+                      QString::fromUtf8(browserExport),
+                      QString::fromUtf8(unknownExport),
+                      QStringLiteral("passwords.csv")};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();
         for (int i = 0; i < meta.propertyCount(); ++i)
@@ -627,8 +634,7 @@ const QVector<WindowCase> &everyWindow()
         {"wizard-extension", wizardStep("extension")},
         {"wizard-ready", wizardStep("ready")},
         {"move-in", moveIn},
-        {"move-in-columns",
-         moveInFile("Konto;Website;Login;Password\nx;y;z;1\n", "useColumnsButton")},
+        {"move-in-columns", moveInFile(unknownExport, "useColumnsButton")},
         {"move-in-preview", moveInFile(browserExport, "addButton")},
         {"move-in-end", moveInEnd},
         {"export", exportDialog},

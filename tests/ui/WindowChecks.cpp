@@ -244,10 +244,12 @@ QStringList WindowChecks::latinWords(const QString &text)
 QStringList WindowChecks::latinTexts(QWidget &window, const QSet<QString> &knownWords)
 {
     static const QSet<QString> names = [] {
-        QStringList all = QStringLiteral("Alt Backspace CAPS Ctrl Del Down Enter Esc Meta Return "
+        QStringList all = QStringLiteral("Alt Backspace Bitwarden CAPS Ctrl CSV Del Down Enter Esc "
+                                         "Firefox JSON KeePassXC Mac Meta Return Safari SSD SSDs "
                                          "Shift Up Chrome Chromium Edge Wayland FTP IBAN PIN SWIFT "
                                          "Skype MasterCard Visa Glaceron Password Manager http "
-                                         "https chrome extensions MM English Deutsch Espa ol Fran "
+                                         "https chrome password manager settings about logins edge "
+                                         "passwords extensions MM English Deutsch Espa ol Fran "
                                          "ais")
                               .split(QLatin1Char(' '));
         // Dates are written as the system does.

@@ -24,6 +24,12 @@
 namespace {
 
 const QSize usualSize(720, 500);
+const QSize smallestSize(600, 420);
+
+QSize scaled(const QSize &size)
+{
+    return {Style::scaled(size.width()), Style::scaled(size.height())};
+}
 
 QString chooseFile(QWidget *parent)
 {
@@ -81,7 +87,8 @@ MoveInDialog::MoveInDialog(Parts parts, const Theme &theme, QWidget *parent)
         m_parts.chooseFile = chooseFile;
     if (!m_parts.chooseTarget)
         m_parts.chooseTarget = chooseTarget;
-    resize(QSize(Style::scaled(usualSize.width()), Style::scaled(usualSize.height())));
+    setMinimumSize(scaled(smallestSize));
+    resize(scaled(usualSize));
     setAcceptDrops(true);
     makePages(theme);
     connectPages();
