@@ -1,6 +1,7 @@
 #include "GPMSafe.h"
 
 #include "DeletedList.h"
+#include "ItemTimes.h"
 #include "ExportTask.h"
 #include "ItemRemoval.h"
 #include "NewSafe.h"
@@ -311,7 +312,10 @@ qint64 GPMSafe::attachmentSize(const QString &id) const
 
 void GPMSafe::touchItem(PMListItem &item)
 {
-    item.setModified(m_state.environment.clock());
+    const qint64 time =
+        nextModified(m_state.environment.clock().toMSecsSinceEpoch(),
+                     item.modified().toMSecsSinceEpoch(), m_state.environment.random);
+    item.setModified(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC));
     item.markChanged();
 }
 
@@ -347,7 +351,7 @@ bool GPMSafe::commitDeleted(const QStringList &ids)
     return false;
 }
 
-bool GPMSafe::meetMirror(const QString &mirrorFolder, const QMap<QString, qint64> &deleted)
+bool GPMSafe::meetMirror(const QString &mirrorFolder, const SyncRecord::Deletions &deleted)
 {
     return m_meetings.start(mirrorFolder, deleted);
 }

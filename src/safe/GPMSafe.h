@@ -68,8 +68,8 @@ public:
 
     /// Makes the safe and its mirror alike on the writer; mirrorMet() follows. It gives way to
     /// everything else that writes. False when the safe is locked or a meeting is under way.
-    /// @param deleted items removed since the last meeting and when, in ms since the epoch
-    bool meetMirror(const QString &mirrorFolder, const QMap<QString, qint64> &deleted);
+    /// @param deleted items removed since the last meeting
+    bool meetMirror(const QString &mirrorFolder, const SyncRecord::Deletions &deleted);
     /// Stops a meeting soon; mirrorMet() follows.
     void cancelMeeting();
 
@@ -127,7 +127,7 @@ public:
     /// The edits of this safe that were not saved.
     DraftStore &drafts() { return m_drafts; }
 
-    /// Marks an item as changed now.
+    /// Marks an item as changed now; see nextModified().
     void touchItem(PMListItem &item);
 
     /// Deletes items for good: notes them in the list of deleted items, then removes their files.
@@ -143,6 +143,8 @@ Q_SIGNALS:
     void saved(bool good, const QStringList &failedPaths);
     /// A new attachment is in, or is not because of a fault; its title is that of the given item.
     void attachmentDone(const QString &id, const QString &title, AttachmentFault fault);
+    /// How far a meeting is, counted in items that may differ.
+    void meetingProgress(int done, int total);
     /// The items are those that a meeting with the mirror brought.
     void mirrorMet(const SyncResult &result);
     void itemsReset();

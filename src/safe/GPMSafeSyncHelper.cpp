@@ -2,6 +2,7 @@
 
 #include "SafeCrypto.h"
 #include "SafeLayout.h"
+#include "SyncMirror.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -28,7 +29,8 @@ GPMSafeSyncHelper::GPMSafeSyncHelper(std::shared_ptr<GPMSafe> safe, const QStrin
     connect(m_safe.get(), &GPMSafe::lockedChanged, this, &GPMSafeSyncHelper::onLockedChanged);
     connect(m_safe.get(), &GPMSafe::saved, this, &GPMSafeSyncHelper::synchronize);
     connect(m_safe.get(), &GPMSafe::mirrorMet, this, &GPMSafeSyncHelper::onFinished);
-    connect(m_safe.get(), &GPMSafe::itemRemoved, this, &GPMSafeSyncHelper::onItemRemoved);
+    connect(m_safe.get(), &GPMSafe::meetingProgress, this, &GPMSafeSyncHelper::progress);
+    connect(m_safe.get(), &GPMSafe::itemAboutToBeRemoved, this, &GPMSafeSyncHelper::onItemRemoved);
     if (m_safe->isUnlocked())
         onLockedChanged(false);
 }
@@ -41,22 +43,17 @@ GPMSafeSyncHelper::~GPMSafeSyncHelper()
 
 bool GPMSafeSyncHelper::enableSynchronization(FileLayer &files, const QString &mirrorFolder)
 {
-    const SafeFolder mirror(mirrorFolder);
-    if (files.makeFolder(mirror.path(SafeLayout::content)) &&
-        files.makeFolder(mirror.path(SafeLayout::attachment)))
-        return true;
-    qWarning() << "GPMSafe::enableSynchronization"
-               << "Can't create safe synchronization directory:" << mirrorFolder;
-    return false;
+    return SyncMirror::enableSynchronization(files, mirrorFolder);
 }
 
 void GPMSafeSyncHelper::synchronize()
 {
     m_burst.stop();
     m_again.stop();
+    m_isPaused = false;
     if (!m_safe->isUnlocked())
         return;
-    if (isRunning()) {
+    if (m_isRunning) {
         m_onceMore = true;
         return;
     }
@@ -64,7 +61,9 @@ void GPMSafeSyncHelper::synchronize()
     watch();
     m_told = m_deleted;
     m_isRunning = m_safe->meetMirror(m_mirrorFolder, m_told);
-    if (m_isRunning)
+    const bool isFirstPart = m_counted.time.isNull();
+    m_counted.time = m_environment.clock();
+    if (m_isRunning && isFirstPart)
         Q_EMIT started();
 }
 
@@ -72,9 +71,10 @@ void GPMSafeSyncHelper::pause()
 {
     m_burst.stop();
     m_again.stop();
+    m_isPaused = true;
     m_onceMore = false;
+    m_counted = {};
     m_safe->cancelMeeting();
-    m_isRunning = false;
     if (!m_watcher.directories().isEmpty())
         m_watcher.removePaths(m_watcher.directories());
 }
@@ -91,6 +91,7 @@ void GPMSafeSyncHelper::onLockedChanged(bool locked)
 {
     if (locked) {
         pause();
+        m_isRunning = false;
         m_askedFor.clear();
     } else {
         synchronize();
@@ -105,17 +106,24 @@ void GPMSafeSyncHelper::onMirrorChanged()
 
 void GPMSafeSyncHelper::onItemRemoved(const QString &id)
 {
-    m_deleted.insert(id, m_environment.clock().toMSecsSinceEpoch());
+    const PMListItem *item = m_safe->item(id);
+    const qint64 version = item ? item->modified().toMSecsSinceEpoch() : 0;
+    m_deleted.insert(id, {m_environment.clock().toMSecsSinceEpoch(), 0, {version}});
     // Many may go at a time.
-    m_burst.start(m_pauses.burstMs);
+    if (!m_isPaused)
+        m_burst.start(m_pauses.burstMs);
+}
+
+bool GPMSafeSyncHelper::goesOn(const SyncResult &result) const
+{
+    return !m_isPaused && m_safe->isUnlocked() &&
+           (m_onceMore || result.state == SyncState::Cancelled);
 }
 
 void GPMSafeSyncHelper::onFinished(const SyncResult &result)
 {
     m_isRunning = false;
-    m_last = summaryOf(result);
     if (result.state == SyncState::Done || result.state == SyncState::Waiting) {
-        m_lastMet = m_last.time;
         for (auto told = m_told.begin(); told != m_told.end(); ++told) {
             if (m_deleted.value(told.key()) == told.value())
                 m_deleted.remove(told.key());
@@ -124,28 +132,37 @@ void GPMSafeSyncHelper::onFinished(const SyncResult &result)
     // Those that the meeting removed were told of by the mirror.
     for (const QString &id : result.removed)
         m_deleted.remove(id);
+    count(result);
+    if (result.state == SyncState::Cancelled) {
+        if (goesOn(result))
+            QTimer::singleShot(0, this, &GPMSafeSyncHelper::synchronize);
+        return;
+    }
+    m_last = std::exchange(m_counted, {});
+    if (m_last.state == SyncState::Done || m_last.state == SyncState::Waiting)
+        m_lastMet = m_last.time;
     if (result.state == SyncState::NewPasswordNeeded)
         askForPassword();
-    m_again.start(m_pauses.againMs);
+    if (!m_isPaused)
+        m_again.start(m_pauses.againMs);
     Q_EMIT synchronized(result.state);
-    if (m_onceMore || result.state == SyncState::Cancelled)
+    if (goesOn(result))
         QTimer::singleShot(0, this, &GPMSafeSyncHelper::synchronize);
 }
 
-SyncSummary GPMSafeSyncHelper::summaryOf(const SyncResult &result) const
+void GPMSafeSyncHelper::count(const SyncResult &result)
 {
-    SyncSummary summary{result.state,
-                        m_environment.clock(),
-                        result.received,
-                        result.sent,
-                        result.removed.size(),
-                        result.copies,
-                        {}};
+    m_counted.state = result.state;
+    m_counted.time = m_environment.clock();
+    m_counted.received += result.received;
+    m_counted.sent += result.sent;
+    m_counted.removed += result.removed.size();
+    m_counted.copies += result.copies;
+    m_counted.waiting.clear();
     for (const QString &id : result.waiting) {
         const PMListItem *item = m_safe->item(id);
-        summary.waiting.append(item ? item->title() : id);
+        m_counted.waiting.append(item ? item->title() : id);
     }
-    return summary;
 }
 
 void GPMSafeSyncHelper::watch()

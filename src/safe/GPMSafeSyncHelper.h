@@ -41,7 +41,7 @@ public:
     /// Stops a meeting under way and looks at the mirror no more until synchronize().
     void pause();
 
-    bool isRunning() const { return m_isRunning; }
+    bool isRunning() const { return m_isRunning && !m_isPaused; }
     /// What came of the last meeting.
     SyncState state() const { return m_last.state; }
     const SyncSummary &last() const { return m_last; }
@@ -53,7 +53,8 @@ public:
     bool opensMirror(const QString &password) const;
 
 Q_SIGNALS:
-    /// A meeting begins; synchronized() follows, unless pause() comes first.
+    /// A meeting begins; synchronized() follows, unless pause() comes first. One that brings much,
+    /// or gives way to who saves, goes on in several parts and counts as one.
     void started();
     /// How far the meeting under way is, counted in items that may differ.
     void progress(int done, int total);
@@ -67,7 +68,8 @@ private:
     void onMirrorChanged();
     void onItemRemoved(const QString &id);
     void onFinished(const SyncResult &result);
-    SyncSummary summaryOf(const SyncResult &result) const;
+    bool goesOn(const SyncResult &result) const;
+    void count(const SyncResult &result);
     void watch();
     void askForPassword();
 
@@ -78,11 +80,13 @@ private:
     QFileSystemWatcher m_watcher;
     QTimer m_burst;
     QTimer m_again;
-    QMap<QString, qint64> m_deleted; ///< since the last meeting that ended well
-    QMap<QString, qint64> m_told;    ///< those that the meeting under way knows
+    SyncRecord::Deletions m_deleted; ///< since the last meeting that ended well
+    SyncRecord::Deletions m_told;    ///< those that the meeting under way knows
     QByteArray m_askedFor;           ///< pass id of the mirror
     bool m_isRunning = false;
     bool m_onceMore = false;
+    bool m_isPaused = false;
+    SyncSummary m_counted; ///< the parts of the meeting under way that have ended
     SyncSummary m_last;
     QDateTime m_lastMet;
 };

@@ -4,7 +4,6 @@
 #include "SafeDescriptionFile.h"
 #include "SafeImport.h"
 #include "SafeLayout.h"
-#include "SyncFileName.h"
 #include "SyncFiles.h"
 
 #include <QDebug>
@@ -84,14 +83,13 @@ ArchiveResult::Outcome MirrorImport::makeSafe(const QString &mirrorFolder, const
 
 ArchiveResult::Outcome MirrorImport::plan(const SafeFolder &mirror)
 {
-    const auto listing = SyncListing::of(mirror);
+    const auto listing = SyncListing::of(mirror, false);
     if (!listing)
         return Outcome::NotFound;
     const auto add = [&](const char *name, const QMap<QString, FileStamp> &inner) {
         for (auto file = inner.begin(); file != inner.end(); ++file) {
             // Other versions and foreign files are left to the first meeting.
-            const auto parsed = SyncFileName::parse(file.key());
-            if (!parsed || parsed->conflictCopy || file->length == 0)
+            if (file->length == 0)
                 continue;
             const QString tail = QLatin1Char('/') + file.key();
             m_files.append({mirror.path(name) + tail, m_work.path(name) + tail, file->length});

@@ -2,13 +2,15 @@
 
 #include "GPMSafe.h"
 
+#include <algorithm>
+
 MirrorMeetings::MirrorMeetings(GPMSafe &safe, SafeState &state)
     : m_safe(safe)
     , m_state(state)
 {
 }
 
-bool MirrorMeetings::start(const QString &mirrorFolder, const QMap<QString, qint64> &deleted)
+bool MirrorMeetings::start(const QString &mirrorFolder, const SyncRecord::Deletions &deleted)
 {
     if (!m_state.isUnlocked() || (m_meeting && !m_meeting->isTaken()))
         return false;
@@ -20,6 +22,7 @@ bool MirrorMeetings::start(const QString &mirrorFolder, const QMap<QString, qint
         SyncRound({m_state.environment, m_state.folder, m_state.password, m_state.mutex, deleted},
                   mirrorFolder),
         [this](const SyncResult &result) { takeResult(result); });
+    QObject::connect(m_meeting.get(), &SyncMeeting::progress, &m_safe, &GPMSafe::meetingProgress);
     return true;
 }
 
@@ -51,6 +54,10 @@ void MirrorMeetings::takeResult(const SyncResult &result)
 void MirrorMeetings::takeItem(const SyncResult::Item &taken)
 {
     PMListItem *known = m_state.items.item(taken.name.id);
+    if (known && taken.renamed) {
+        m_state.items.setFileName(taken.name);
+        return;
+    }
     if (known && known->isChanged()) {
         keepBeside(taken, *known);
         return;
@@ -72,16 +79,20 @@ void MirrorMeetings::takeItem(const SyncResult::Item &taken)
 }
 
 /// An item was edited here meanwhile: that will be saved, and what came is kept as a copy.
-void MirrorMeetings::keepBeside(const SyncResult::Item &taken, const PMListItem &edited)
+void MirrorMeetings::keepBeside(const SyncResult::Item &taken, PMListItem &edited)
 {
     m_state.items.setFileName(taken.name);
     std::unique_ptr<PMListItem> copy = taken.document.toItem();
+    const QDateTime theirs = copy ? copy->modified() : QDateTime();
     if (copy && copy->type() != PMListItem::Attachment) {
         copy->setId(QString());
         copy->setTitle(syncCopyTitle(copy->title(), copy->modified(), edited.modified()));
         copy->setDeleted(true);
         m_safe.addItem(std::move(copy));
     }
+    // Else it would be told to have been left behind.
+    edited.setModified(std::max(edited.modified(), theirs));
+    m_safe.touchItem(edited);
     m_safe.saveChangesAsync();
 }
 

@@ -12,7 +12,7 @@ public:
     /// Both outlive the object.
     MirrorMeetings(GPMSafe &safe, SafeState &state);
 
-    bool start(const QString &mirrorFolder, const QMap<QString, qint64> &deleted);
+    bool start(const QString &mirrorFolder, const SyncRecord::Deletions &deleted);
     void cancel();
     /// Takes what an ended meeting brought, where that was not done yet.
     void take();
@@ -20,7 +20,7 @@ public:
 private:
     void takeResult(const SyncResult &result);
     void takeItem(const SyncResult::Item &taken);
-    void keepBeside(const SyncResult::Item &taken, const PMListItem &edited);
+    void keepBeside(const SyncResult::Item &taken, PMListItem &edited);
     void dropItem(const QString &id);
 
     GPMSafe &m_safe;

@@ -1,6 +1,7 @@
 #include "SyncFiles.h"
 
 #include "SafeLayout.h"
+#include "SyncFileName.h"
 
 #include <QCryptographicHash>
 
@@ -12,39 +13,86 @@ namespace fs = std::filesystem;
 
 namespace {
 
+const int mostFiles = 200000;
+const qint64 longestItem = 64LL << 20;
+const qint64 longestAttachment = (4LL << 30) + (1LL << 20);
+const qint64 coarsestStepMs = 3000;
+const int pieceSize = 256 * 1024;
+
+qint64 millisecondsOf(fs::file_time_type time)
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch()).count();
+}
+
 FileStamp stampOf(const fs::directory_entry &file)
 {
     std::error_code error;
     // Not through local time, which takes longer than the rest.
-    const auto time = file.last_write_time(error).time_since_epoch();
+    const fs::file_time_type time = file.last_write_time(error);
     const auto length = static_cast<qint64>(file.file_size(error));
-    return {error ? -1 : length,
-            std::chrono::duration_cast<std::chrono::milliseconds>(time).count()};
+    return {error ? -1 : length, millisecondsOf(time)};
 }
 
-bool list(const QString &folder, QMap<QString, FileStamp> &files)
+bool list(const QString &folder, bool copies, QMap<QString, FileStamp> &files)
 {
     std::error_code error;
     fs::directory_iterator each(folder.toStdU16String(), error);
-    for (; !error && each != fs::directory_iterator(); each.increment(error)) {
+    for (int count = 0; !error && each != fs::directory_iterator(); each.increment(error)) {
+        if (++count > mostFiles)
+            return false;
+        const QString name = QString::fromStdU16String(each->path().filename().u16string());
         std::error_code unknown;
-        if (each->is_regular_file(unknown) && !each->is_symlink(unknown))
-            files.insert(QString::fromStdU16String(each->path().filename().u16string()),
-                         stampOf(*each));
+        const auto own = SyncFileName::parse(name);
+        if (own && (copies || !own->conflictCopy) && each->is_regular_file(unknown) &&
+            !each->is_symlink(unknown))
+            files.insert(name, stampOf(*each));
     }
     return !error;
 }
 
+bool isLink(const QString &path)
+{
+    std::error_code error;
+    return fs::is_symlink(fs::symlink_status(path.toStdU16String(), error));
+}
+
+QString textOf(const QCryptographicHash &sum)
+{
+    return QString::fromLatin1(sum.result().toBase64());
+}
+
 } // namespace
 
-std::optional<SyncListing> SyncListing::of(const SafeFolder &folder)
+std::optional<SyncListing> SyncListing::of(const SafeFolder &folder, bool copies)
 {
     SyncListing listing;
+    listing.taken = millisecondsOf(fs::file_time_type::clock::now());
     // Items first: the bytes of an attachment are written before its item.
-    if (!list(folder.path(SafeLayout::content), listing.content))
+    if (!list(folder.path(SafeLayout::content), copies, listing.content))
         return std::nullopt;
-    list(folder.path(SafeLayout::attachment), listing.attachment);
+    list(folder.path(SafeLayout::attachment), copies, listing.attachment);
     return listing;
+}
+
+bool SyncListing::hasItem(const QMap<QString, FileStamp> &files, const QString &id)
+{
+    const auto file = files.lowerBound(id);
+    return file != files.end() && file.key().startsWith(id);
+}
+
+bool isOwnMirror(const SafeFolder &mirror)
+{
+    return !isLink(mirror.path(SafeLayout::content)) &&
+           !isLink(mirror.path(SafeLayout::attachment));
+}
+
+std::optional<QByteArray> readPlainFile(FileLayer &files, const QString &path)
+{
+    std::error_code error;
+    // A pipe would never end.
+    if (!fs::is_regular_file(fs::symlink_status(path.toStdU16String(), error)))
+        return std::nullopt;
+    return files.read(path);
 }
 
 std::optional<FileStamp> stampOf(const QString &path)
@@ -56,13 +104,46 @@ std::optional<FileStamp> stampOf(const QString &path)
     return stampOf(file);
 }
 
+FileStamp settled(const FileStamp &stamp, qint64 taken)
+{
+    return stamp.time + coarsestStepMs < taken ? stamp : unsettled(stamp);
+}
+
+FileStamp unsettled(const FileStamp &stamp)
+{
+    return {stamp.length, 0};
+}
+
+bool isTooLong(const FileStamp &stamp, bool attachment)
+{
+    return stamp.length > (attachment ? longestAttachment : longestItem);
+}
+
 QString hashOf(const QByteArray &bytes)
 {
     return QString::fromLatin1(
         QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toBase64());
 }
 
-bool copySynced(FileLayer &files, const QString &from, const QString &to, const QString &hash)
+QString hashOfFile(FileLayer &files, const QString &path, const WorkControl &control)
+{
+    const std::unique_ptr<QIODevice> source = files.open(path);
+    if (!source)
+        return {};
+    QCryptographicHash sum(QCryptographicHash::Sha256);
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    for (;;) {
+        const qint64 size = control.isCancelled() ? -1 : source->read(piece.data(), piece.size());
+        if (size < 0)
+            return {};
+        if (size == 0)
+            return textOf(sum);
+        sum.addData(piece.constData(), static_cast<int>(size));
+    }
+}
+
+bool copySynced(FileLayer &files, const QString &from, const QString &to, const QString &hash,
+                const WorkControl &control)
 {
     const std::unique_ptr<QIODevice> source = files.open(from);
     if (!source)
@@ -70,11 +151,11 @@ bool copySynced(FileLayer &files, const QString &from, const QString &to, const 
     return files.write(to, [&](QIODevice &target) {
         QCryptographicHash sum(QCryptographicHash::Sha256);
         while (!source->atEnd()) {
-            const QByteArray piece = source->read(256 * 1024);
-            if (piece.isEmpty() || target.write(piece) != piece.size())
+            const QByteArray piece = source->read(pieceSize);
+            if (control.isCancelled() || piece.isEmpty() || target.write(piece) != piece.size())
                 return false;
             sum.addData(piece);
         }
-        return QString::fromLatin1(sum.result().toBase64()) == hash;
+        return textOf(sum) == hash;
     });
 }

@@ -6,7 +6,10 @@
 
 SyncMeeting::SyncMeeting(QThreadPool &writer, SyncRound round,
                          std::function<void(SyncResult)> taken)
-    : m_taken(std::move(taken))
+    : m_control(std::make_shared<WorkControl>([this](qint64 done, qint64 total) {
+        Q_EMIT progress(static_cast<int>(done), static_cast<int>(total));
+    }))
+    , m_taken(std::move(taken))
 {
     connect(&m_watcher, &QFutureWatcher<SyncResult>::finished, this, &SyncMeeting::take);
     const auto control = m_control;
@@ -18,6 +21,8 @@ SyncMeeting::~SyncMeeting()
 {
     m_watcher.disconnect();
     m_control->cancel();
+    // It still tells of its progress.
+    m_watcher.waitForFinished();
 }
 
 void SyncMeeting::take()

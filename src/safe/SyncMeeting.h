@@ -18,7 +18,7 @@ class SyncMeeting : public QObject
 public:
     /// @param taken gets what it brought, on the thread of the caller
     SyncMeeting(QThreadPool &writer, SyncRound round, std::function<void(SyncResult)> taken);
-    /// Stops it soon, without a word; the writer finishes the item under way.
+    /// Stops it without a word, and waits until the item under way is done.
     ~SyncMeeting() override;
 
     void cancel() { m_control->cancel(); }
@@ -26,8 +26,12 @@ public:
     void take();
     bool isTaken() const { return m_isTaken; }
 
+Q_SIGNALS:
+    /// Counted in items that may differ.
+    void progress(int done, int total);
+
 private:
-    std::shared_ptr<WorkControl> m_control = std::make_shared<WorkControl>();
+    std::shared_ptr<WorkControl> m_control;
     std::function<void(SyncResult)> m_taken;
     QFutureWatcher<SyncResult> m_watcher;
     bool m_isTaken = false;

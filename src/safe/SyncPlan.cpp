@@ -12,6 +12,7 @@ using Source = SyncActions::Source;
 enum class State {
     Same,      ///< the file that both sides had
     Rewritten, ///< the same item under other bytes, as under another password
+    Outdated,  ///< what both had before that
     Changed,
 };
 
@@ -21,7 +22,21 @@ State stateOf(const SyncVersion &version, const std::optional<SyncItem::Met> &me
         return State::Changed;
     if (version.hash == met->hash)
         return State::Same;
-    return version.modified == met->modified ? State::Rewritten : State::Changed;
+    if (version.modified == met->modified)
+        return State::Rewritten;
+    return met->earlier.contains(version.modified) ? State::Outdated : State::Changed;
+}
+
+/// Whether a version lies under the bytes that both sides had: it has been read then, even if it
+/// does not open any more, as one of an earlier password.
+bool isKnown(const SyncVersion &version, const SyncItem &item)
+{
+    return item.met && version.hash == item.met->hash;
+}
+
+bool isUnread(const SyncVersion &version, const SyncItem &item)
+{
+    return !version.readable && !isKnown(version, item);
 }
 
 /// The versions of both sides that can be read.
@@ -79,14 +94,22 @@ QVector<Source> competing(const QVector<Source> &readable, const SyncItem &item)
         return std::any_of(changed.begin(), changed.end(),
                            [side](const Source &source) { return source.side == side; });
     };
-    const auto isEarlier = [&item](const SyncVersion &version) {
-        return !version.readable || (item.met && version.hash == item.met->hash);
-    };
+    if (!isOn(SyncSide::Mirror) || isOn(SyncSide::Local))
+        return changed;
     // Beside the file that both had, not in its place: who wrote it had not seen that file. A
     // provider's conflict copy is such a one, and what another computer wrote under a new password.
-    const bool beside = isOn(SyncSide::Mirror) && !isOn(SyncSide::Local) &&
-                        std::any_of(item.mirror.begin(), item.mirror.end(), isEarlier);
-    return beside ? readable : changed;
+    const bool beside =
+        std::any_of(item.mirror.begin(), item.mirror.end(), [&item](const SyncVersion &file) {
+            return !file.readable || isKnown(file, item);
+        });
+    // Nor has who made an earlier one: that would have become the later.
+    const bool earlier = std::any_of(changed.begin(), changed.end(), [&item](const Source &source) {
+        return item.met && source.version.modified < item.met->modified;
+    });
+    if (!beside && !earlier)
+        return changed;
+    return changed + inState(State::Same, readable, item) +
+           inState(State::Rewritten, readable, item);
 }
 
 Source chooseWinner(const QVector<Source> &readable, const QVector<Source> &competitors,
@@ -95,7 +118,28 @@ Source chooseWinner(const QVector<Source> &readable, const QVector<Source> &comp
     if (!competitors.isEmpty())
         return latest(competitors);
     const QVector<Source> rewritten = inState(State::Rewritten, readable, item);
-    return rewritten.isEmpty() ? readable.first() : latestRewritten(rewritten);
+    if (!rewritten.isEmpty())
+        return latestRewritten(rewritten);
+    const QVector<Source> same = inState(State::Same, readable, item);
+    return same.isEmpty() ? latest(readable) : same.first();
+}
+
+/// The name that both sides are to have: that of the latest password, and none that a file has
+/// which will not be written over.
+ItemFileName chooseTarget(const QVector<Source> &readable, const SyncItem &item)
+{
+    ItemFileName target{item.id, 0};
+    for (const Source &source : readable)
+        target.generation = std::max(target.generation, source.version.item.generation);
+    const auto isTaken = [&target, &item](const SyncVersion &file) {
+        return file.fileName == target.text() && isUnread(file, item);
+    };
+    const auto isLost = [&isTaken](const SyncVersion &file) { return file.stuck && isTaken(file); };
+    // In the safe, files are whole at once: one that does not open is damaged.
+    while (std::any_of(item.local.begin(), item.local.end(), isTaken) ||
+           std::any_of(item.mirror.begin(), item.mirror.end(), isLost))
+        ++target.generation;
+    return target;
 }
 
 /// Copies of those versions whose content neither the winner nor an earlier copy has.
@@ -128,20 +172,32 @@ QStringList supersededFiles(const QVector<SyncVersion> &versions, const SyncItem
 {
     QStringList names;
     for (const SyncVersion &version : versions) {
-        const bool known = item.met && version.hash == item.met->hash;
-        if (version.fileName != target && (version.readable || known))
+        if (version.fileName != target && !isUnread(version, item))
             names.append(version.fileName);
     }
     return names;
 }
 
-/// Whether a file that is not whole, or of another password, lies where the target has to go.
-bool isBlocked(const QVector<SyncVersion> &versions, const SyncItem &item, const QString &target)
+/// What a deletion does, when it wins: the versions that it was not made on are kept as copies.
+/// Nothing when one of them is later.
+std::optional<SyncActions> planDeletion(const SyncItem &item, const QVector<Source> &readable)
 {
-    return std::any_of(versions.begin(), versions.end(), [&](const SyncVersion &version) {
-        return version.fileName == target && !version.readable &&
-               !(item.met && version.hash == item.met->hash);
+    QVector<Source> unseen;
+    for (const Source &source : readable) {
+        if (!item.deleted->seen.contains(source.version.modified))
+            unseen.append(source);
+    }
+    const bool loses = std::any_of(unseen.begin(), unseen.end(), [&item](const Source &source) {
+        return source.version.modified > item.deleted->time;
     });
+    if (loses)
+        return std::nullopt;
+    SyncActions actions;
+    actions.deletionWins = true;
+    actions.copies = keepAll(item.id, unseen, {}, item.deleted->time);
+    actions.removeLocal = supersededFiles(item.local, item, {});
+    actions.removeMirror = supersededFiles(item.mirror, item, {});
+    return actions;
 }
 
 } // namespace
@@ -161,47 +217,34 @@ QString syncCopyTitle(const QString &title, const QDateTime &loser, const QDateT
 
 SyncActions planSync(const SyncItem &item)
 {
-    SyncActions actions;
     const QVector<Source> readable = readableOf(item);
-    const auto isWaiting = [&item](const SyncVersion &version) {
-        return !version.readable && !(item.met && version.hash == item.met->hash);
+    SyncActions actions;
+    const auto isWaiting = [&](const SyncVersion &file) {
+        return isUnread(file, item) && (!file.stuck || readable.isEmpty());
     };
-    actions.waiting = std::any_of(item.mirror.begin(), item.mirror.end(), isWaiting);
-    const bool goes = item.deleted &&
-                      std::all_of(readable.begin(), readable.end(), [&item](const Source &source) {
-                          return source.version.modified <= *item.deleted;
-                      });
-    if (goes) {
-        actions.deletionWins = true;
-        // Who deleted it would have removed a file that does not open here, had that been seen.
-        const bool unseen = std::any_of(item.mirror.begin(), item.mirror.end(),
-                                        [](const SyncVersion &file) { return !file.readable; });
-        actions.copies =
-            keepAll(item.id, unseen ? readable : inState(State::Changed, readable, item), {},
-                    *item.deleted);
-        actions.removeLocal = supersededFiles(item.local, item, {});
-        actions.removeMirror = supersededFiles(item.mirror, item, {});
-        return actions;
+    const bool waiting = std::any_of(item.mirror.begin(), item.mirror.end(), isWaiting);
+    if (item.deleted) {
+        if (auto deletion = planDeletion(item, readable)) {
+            deletion->waiting = waiting;
+            return *deletion;
+        }
     }
+    actions.waiting = waiting;
     if (readable.isEmpty())
         return actions;
 
+    const ItemFileName target = chooseTarget(readable, item);
+    const bool isBlocked =
+        std::any_of(item.mirror.begin(), item.mirror.end(), [&](const SyncVersion &file) {
+            return file.fileName == target.text() && isUnread(file, item);
+        });
+    if (isBlocked)
+        return actions;
     const QVector<Source> competitors = competing(readable, item);
     const Source winner = chooseWinner(readable, competitors, item);
-    ItemFileName target{item.id, 0};
-    for (const Source &source : readable)
-        target.generation = std::max(target.generation, source.version.item.generation);
-    if (isBlocked(item.mirror, item, target.text()) || isBlocked(item.local, item, target.text())) {
-        actions.waiting = true;
-        return actions;
-    }
-    QVector<Source> losers = competitors;
-    // An older version that comes from outside may be one that the provider restored.
-    if (winner.side == SyncSide::Mirror && item.met && winner.version.modified < item.met->modified)
-        losers += readable;
     actions.winner = winner;
     actions.target = target;
-    actions.copies = keepAll(item.id, losers, winner.version.content, winner.version.modified);
+    actions.copies = keepAll(item.id, competitors, winner.version.content, winner.version.modified);
     actions.toLocal = !holds(item.local, target.text(), winner.version.hash);
     actions.toMirror = !holds(item.mirror, target.text(), winner.version.hash);
     actions.removeLocal = supersededFiles(item.local, item, target.text());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ItemFile.h"
+#include "SyncRecord.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -24,6 +25,8 @@ struct SyncVersion
     /// It decrypts, and the bytes of an attachment are there. What is not readable may still be
     /// arriving, or be of another password.
     bool readable = false;
+    /// It does not open and has not changed for so long that it is not arriving any more.
+    bool stuck = false;
     bool conflictCopy = false; ///< see SyncFileName
     qint64 modified = 0;       ///< of the item, ms since the epoch
     QByteArray content{};      ///< equal for files that hold the same item under other bytes
@@ -37,15 +40,20 @@ struct SyncItem
     {
         QString hash;
         qint64 modified = 0;
+        SyncHistory earlier{}; ///< what both sides had before
+    };
+    /// It was deleted for good, on either side.
+    struct Deletion
+    {
+        qint64 time = 0;    ///< ms since the epoch
+        SyncHistory seen{}; ///< the versions that those who deleted it knew
     };
 
     QString id;
     QVector<SyncVersion> local;
     QVector<SyncVersion> mirror;
     std::optional<Met> met;
-    /// When the item was deleted for good, on either side; nothing for a deletion that has lost
-    /// before.
-    std::optional<qint64> deleted;
+    std::optional<Deletion> deleted; ///< nothing for a deletion that has lost before
 };
 
 struct SyncActions
@@ -81,10 +89,19 @@ struct SyncActions
     }
 };
 
-/// The change that only one side has made since both met wins, whatever its time. Where both
-/// changed, the later one wins and the others are kept as copies. A deletion wins over what is not
-/// later; what it had not seen is kept as a copy. A file that is missing on one side without a
-/// deletion comes back: folders of providers get emptied by accident.
+/// What has seen the other wins: the change that only one side has made since both met, and a
+/// deletion over the versions that it was made on. Of changes made without each other the later
+/// one wins and the others are kept as copies; a change that a deletion had not seen is kept as a
+/// copy, too, or overcomes the deletion when it is later. A version that both sides have left
+/// behind does not come back. A file that is missing on one side without a deletion does: folders
+/// of providers get emptied by accident.
+///
+/// Times of change tell versions apart, so every change of an item has to set a later one than the
+/// version it was made on; see nextModified(). Whether a clock is right does not matter then.
+///
+/// Of a file that does not open nothing is known: it may be half of something, or of another
+/// password, and the two cannot be told apart for sure. It is removed only where it has been read
+/// before, as what both sides had, and nothing is ever written over it.
 SyncActions planSync(const SyncItem &item);
 
 /// The id of the copy that keeps a version of an item.

@@ -22,13 +22,67 @@ const QLatin1String timeKey("time");
 const QLatin1String mirrorTimeKey("mirrorTime");
 const QLatin1String modifiedKey("modified");
 const QLatin1String revivedKey("revived");
+const QLatin1String earlierKey("earlier");
+const QLatin1String seenKey("seen");
+const QLatin1String unreadKey("unread");
+const QLatin1String sinceKey("since");
+const QLatin1String waitsKey("waits");
+const QLatin1String stuckKey("stuck");
+const QLatin1String earlierPassIdsKey("earlierPassIds");
+
+const int longestHistory = 32;
+const int mostUnread = 10000;
 
 qint64 number(const QJsonObject &object, QLatin1String key, qint64 otherwise)
 {
     return static_cast<qint64>(object.value(key).toDouble(static_cast<double>(otherwise)));
 }
 
+void insertHistory(QJsonObject &object, QLatin1String key, const SyncHistory &history)
+{
+    QJsonArray times;
+    for (const qint64 time : history)
+        times.append(time);
+    if (!times.isEmpty())
+        object.insert(key, times);
+}
+
+SyncHistory readHistory(const QJsonObject &object, QLatin1String key)
+{
+    SyncHistory history;
+    const QJsonArray times = object.value(key).toArray();
+    for (const QJsonValue &time : times) {
+        if (time.isDouble())
+            history.append(static_cast<qint64>(time.toDouble()));
+    }
+    return joined(history, {});
+}
+
 } // namespace
+
+SyncHistory joined(const SyncHistory &history, const SyncHistory &more)
+{
+    SyncHistory all = history + more;
+    std::sort(all.begin(), all.end());
+    all.erase(std::unique(all.begin(), all.end()), all.end());
+    return all.mid(std::max(0, all.size() - longestHistory));
+}
+
+SyncHistory before(const SyncHistory &history, qint64 modified)
+{
+    const auto end = std::lower_bound(history.begin(), history.end(), modified);
+    return history.mid(0, static_cast<int>(end - history.begin()));
+}
+
+void SyncRecord::setPassId(const QString &hash)
+{
+    if (!passId.isEmpty() && hash != passId) {
+        earlierPassIds.removeAll(passId);
+        earlierPassIds.append(passId);
+        earlierPassIds = earlierPassIds.mid(std::max(0, earlierPassIds.size() - longestHistory));
+    }
+    passId = hash;
+}
 
 void SyncRecord::addDeletions(const Deletions &more)
 {
@@ -36,6 +90,7 @@ void SyncRecord::addDeletions(const Deletions &more)
         Deletion &known = deletions[each.key()];
         known.time = std::max(known.time, each->time);
         known.revived = std::max(known.revived, each->revived);
+        known.seen = joined(known.seen, each->seen);
     }
 }
 
@@ -43,22 +98,38 @@ QByteArray SyncRecord::toJson() const
 {
     QJsonArray fileList;
     for (auto file = files.begin(); file != files.end(); ++file) {
-        fileList.append(QJsonObject{{nameKey, file.key()},
-                                    {hashKey, file->hash},
-                                    {lengthKey, file->local.length},
-                                    {timeKey, file->local.time},
-                                    {mirrorTimeKey, file->mirror.time},
-                                    {modifiedKey, file->modified}});
+        QJsonObject entry{{nameKey, file.key()},
+                          {hashKey, file->hash},
+                          {lengthKey, file->local.length},
+                          {timeKey, file->local.time},
+                          {mirrorTimeKey, file->mirror.time},
+                          {modifiedKey, file->modified}};
+        insertHistory(entry, earlierKey, file->earlier);
+        fileList.append(entry);
     }
     QJsonArray deletedList;
-    for (auto deleted = deletions.begin(); deleted != deletions.end(); ++deleted)
-        deletedList.append(QJsonObject{
-            {nameKey, deleted.key()}, {timeKey, deleted->time}, {revivedKey, deleted->revived}});
+    for (auto deleted = deletions.begin(); deleted != deletions.end(); ++deleted) {
+        QJsonObject entry{
+            {nameKey, deleted.key()}, {timeKey, deleted->time}, {revivedKey, deleted->revived}};
+        insertHistory(entry, seenKey, deleted->seen);
+        deletedList.append(entry);
+    }
+    QJsonArray unreadList;
+    for (auto file = unread.begin(); file != unread.end() && unreadList.size() < mostUnread; ++file)
+        unreadList.append(QJsonObject{{nameKey, file.key()},
+                                      {hashKey, file->hash},
+                                      {lengthKey, file->stamp.length},
+                                      {mirrorTimeKey, file->stamp.time},
+                                      {sinceKey, file->since},
+                                      {waitsKey, file->waits},
+                                      {stuckKey, file->stuck}});
     const QJsonObject object{{versionKey, writtenVersion},
                              {filesKey, fileList},
                              {deletedKey, deletedList},
                              {descriptionKey, QString::fromUtf8(description)},
-                             {passIdKey, passId}};
+                             {passIdKey, passId},
+                             {unreadKey, unreadList},
+                             {earlierPassIdsKey, QJsonArray::fromStringList(earlierPassIds)}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
@@ -71,6 +142,19 @@ std::optional<SyncRecord> SyncRecord::fromJson(const QByteArray &json)
     SyncRecord record;
     record.description = object.value(descriptionKey).toString().toUtf8();
     record.passId = object.value(passIdKey).toString();
+    const QJsonArray earlier = object.value(earlierPassIdsKey).toArray();
+    for (const QJsonValue &hash : earlier)
+        record.earlierPassIds.append(hash.toString());
+    const QJsonArray unreadList = object.value(unreadKey).toArray();
+    for (const QJsonValue &value : unreadList) {
+        const QJsonObject file = value.toObject();
+        record.unread.insert(file.value(nameKey).toString(),
+                             {file.value(hashKey).toString(),
+                              {number(file, lengthKey, -1), number(file, mirrorTimeKey, 0)},
+                              number(file, sinceKey, 0),
+                              file.value(waitsKey).toBool(),
+                              file.value(stuckKey).toBool()});
+    }
     const QJsonArray fileList = object.value(filesKey).toArray();
     for (const QJsonValue &value : fileList) {
         const QJsonObject file = value.toObject();
@@ -82,15 +166,17 @@ std::optional<SyncRecord> SyncRecord::fromJson(const QByteArray &json)
         record.files.insert(name, {hash,
                                    {length, number(file, timeKey, 0)},
                                    {length, number(file, mirrorTimeKey, 0)},
-                                   number(file, modifiedKey, 0)});
+                                   number(file, modifiedKey, 0),
+                                   readHistory(file, earlierKey)});
     }
     const QJsonArray deletedList = object.value(deletedKey).toArray();
     for (const QJsonValue &value : deletedList) {
         const QJsonObject deleted = value.toObject();
         const QString id = deleted.value(nameKey).toString();
         if (!id.isEmpty() && deleted.value(timeKey).isDouble())
-            record.addDeletions(
-                {{id, {number(deleted, timeKey, 0), number(deleted, revivedKey, 0)}}});
+            record.addDeletions({{id,
+                                  {number(deleted, timeKey, 0), number(deleted, revivedKey, 0),
+                                   readHistory(deleted, seenKey)}}});
     }
     return record;
 }

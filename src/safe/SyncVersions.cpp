@@ -12,6 +12,8 @@
 
 namespace {
 
+const qint64 stuckAfterMs = 24LL * 60 * 60 * 1000;
+
 QString pathIn(const char *folder, const QString &fileName)
 {
     return QLatin1String(folder) + QLatin1Char('/') + fileName;
@@ -39,54 +41,90 @@ QByteArray contentOf(const PMItemDocument &document)
     return sum;
 }
 
-} // namespace
-
-SyncVersions::SyncVersions(SafeEnvironment environment, std::shared_ptr<const SecretBytes> password,
-                           Side local, Side mirror, const SyncRecord &record)
-    : m_environment(std::move(environment))
-    , m_password(std::move(password))
-    , m_local(std::move(local))
-    , m_mirror(std::move(mirror))
-    , m_record(record)
+/// Another item's file put in the place of this one's is none of its versions.
+bool isOf(const PMItemDocument &document, const QString &id)
 {
+    const QString named = document.publicFields.value(QStringLiteral("id")).toString();
+    return named.isEmpty() || named.compare(id, Qt::CaseInsensitive) == 0;
 }
 
-bool SyncVersions::isSettled(const QString &path, FileStamp SyncRecord::File::*stamp,
-                             const FileStamp &now) const
+/// Calls `use` for each file of an item, of whatever generation.
+template <typename Use>
+void forEachFile(const QMap<QString, FileStamp> &files, const QString &id, Use use)
 {
-    const auto file = m_record.files.find(path);
-    return file != m_record.files.end() && (*file).*stamp == now;
+    for (auto file = files.lowerBound(id); file != files.end() && file.key().startsWith(id); ++file)
+        use(file.key(), file.value());
+}
+
+QString idOf(const QString &fileName)
+{
+    const auto name = SyncFileName::parse(fileName);
+    return name ? name->item.id : QString();
+}
+
+} // namespace
+
+SyncVersions::SyncVersions(SyncWork &work, SyncListing local, SyncListing mirror)
+    : m_work(work)
+    , m_local(std::move(local))
+    , m_mirror(std::move(mirror))
+{
+    const auto passId = work.files().read(work.safe.folder.path(SafeLayout::passId));
+    m_passwordIsMet = passId && hashOf(*passId) == work.record.passId;
+}
+
+bool SyncVersions::isSettled(const QString &path, SyncSide side, const FileStamp &now) const
+{
+    const auto file = m_work.record.files.constFind(path);
+    return file != m_work.record.files.constEnd() &&
+           (side == SyncSide::Local ? file->local : file->mirror) == now;
+}
+
+const SyncRecord::Unread *SyncVersions::unread(const QString &fileName,
+                                               const FileStamp &stamp) const
+{
+    const auto known = m_work.record.unread.constFind(fileName);
+    const bool same =
+        m_passwordIsMet && known != m_work.record.unread.constEnd() && known->stamp == stamp;
+    return same ? &known.value() : nullptr;
+}
+
+bool SyncVersions::isOld(const SyncRecord::Unread &file) const
+{
+    return m_work.now() - file.since >= stuckAfterMs;
 }
 
 QStringList SyncVersions::openIds() const
 {
     QSet<QString> ids;
-    const auto add = [&ids](const QString &fileName) {
-        if (const auto name = SyncFileName::parse(fileName))
-            ids.insert(name->item.id);
+    const auto isLeft = [this](const char *folder, const QString &name, const FileStamp &stamp) {
+        if (folder != SafeLayout::content)
+            return false;
+        const SyncRecord::Unread *known = unread(name, stamp);
+        return known && known->stuck == isOld(*known);
     };
     const auto compare = [&](const char *folder, const QMap<QString, FileStamp> &local,
                              const QMap<QString, FileStamp> &mirror) {
         for (auto file = local.begin(); file != local.end(); ++file) {
             const QString path = pathIn(folder, file.key());
             const auto other = mirror.find(file.key());
-            if (other == mirror.end() || !isSettled(path, &SyncRecord::File::local, file.value()) ||
-                !isSettled(path, &SyncRecord::File::mirror, other.value()))
-                add(file.key());
+            const bool left = other != mirror.end() && isLeft(folder, file.key(), other.value());
+            if (!left &&
+                (other == mirror.end() || !isSettled(path, SyncSide::Local, file.value()) ||
+                 !isSettled(path, SyncSide::Mirror, other.value())))
+                ids.insert(idOf(file.key()));
         }
         for (auto file = mirror.begin(); file != mirror.end(); ++file) {
-            if (!local.contains(file.key()))
-                add(file.key());
+            if (!local.contains(file.key()) && !isLeft(folder, file.key(), file.value()))
+                ids.insert(idOf(file.key()));
         }
     };
-    compare(SafeLayout::content, m_local.listing.content, m_mirror.listing.content);
-    compare(SafeLayout::attachment, m_local.listing.attachment, m_mirror.listing.attachment);
-    for (auto each = m_record.deletions.begin(); each != m_record.deletions.end(); ++each) {
-        const auto isThere = [&each](const Side &side) {
-            const auto file = side.listing.content.lowerBound(each.key());
-            return file != side.listing.content.end() && file.key().startsWith(each.key());
-        };
-        if (each->counts() && (isThere(m_local) || isThere(m_mirror)))
+    compare(SafeLayout::content, m_local.content, m_mirror.content);
+    compare(SafeLayout::attachment, m_local.attachment, m_mirror.attachment);
+    const SyncRecord::Deletions &deletions = m_work.record.deletions;
+    for (auto each = deletions.begin(); each != deletions.end(); ++each) {
+        if (each->counts() && (SyncListing::hasItem(m_local.content, each.key()) ||
+                               SyncListing::hasItem(m_mirror.content, each.key())))
             ids.insert(each.key());
     }
     QStringList sorted(ids.begin(), ids.end());
@@ -94,68 +132,187 @@ QStringList SyncVersions::openIds() const
     return sorted;
 }
 
+QStringList SyncVersions::waitingIds(const QStringList &open) const
+{
+    QStringList ids;
+    const auto &files = m_work.record.unread;
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        const QString id = idOf(file.key());
+        if (file->waits && m_mirror.content.contains(file.key()) && !ids.contains(id) &&
+            !std::binary_search(open.begin(), open.end(), id))
+            ids.append(id);
+    }
+    return ids;
+}
+
+bool SyncVersions::isAsMet(const QString &id)
+{
+    const auto deletion = m_work.record.deletions.constFind(id);
+    if (deletion != m_work.record.deletions.constEnd() && deletion->counts())
+        return false;
+    return isAsMet(SafeLayout::content, m_local.content, m_mirror.content, id) &&
+           isAsMet(SafeLayout::attachment, m_local.attachment, m_mirror.attachment, id);
+}
+
+bool SyncVersions::isAsMet(const char *folder, const QMap<QString, FileStamp> &local,
+                           const QMap<QString, FileStamp> &mirror, const QString &id)
+{
+    int here = 0;
+    int there = 0;
+    bool same = true;
+    const auto check = [&](SyncSide side, const QString &name, const FileStamp &stamp) {
+        ++(side == SyncSide::Local ? here : there);
+        const QString path = pathIn(folder, name);
+        const auto met = m_work.record.files.find(path);
+        if (!same || met == m_work.record.files.end() || met->local.length != stamp.length) {
+            same = false;
+            return;
+        }
+        FileStamp &known = side == SyncSide::Local ? met->local : met->mirror;
+        if (known == stamp)
+            return;
+        const QString file = m_work.folder(side).root() + QLatin1Char('/') + path;
+        same = hashOfFile(m_work.files(), file, m_work.control) == met->hash;
+        if (same)
+            known = settled(stamp, listing(side).taken);
+    };
+    forEachFile(local, id, [&](const QString &name, const FileStamp &stamp) {
+        check(SyncSide::Local, name, stamp);
+    });
+    forEachFile(mirror, id, [&](const QString &name, const FileStamp &stamp) {
+        check(SyncSide::Mirror, name, stamp);
+    });
+    return same && here == there;
+}
+
 SyncVersions::Item SyncVersions::read(const QString &id) const
 {
     Item item;
     item.plan.id = id;
     const QString prefix = pathIn(SafeLayout::content, id);
-    for (auto file = m_record.files.lowerBound(prefix);
-         file != m_record.files.end() && file.key().startsWith(prefix); ++file)
-        item.plan.met = SyncItem::Met{file->hash, file->modified};
-    const auto deletion = m_record.deletions.find(id);
-    if (deletion != m_record.deletions.end() && deletion->counts())
-        item.plan.deleted = deletion->time;
-    readAttachments(m_local, id, item);
-    readAttachments(m_mirror, id, item);
-    item.plan.local = readSide(m_local, true, id, item);
-    item.plan.mirror = readSide(m_mirror, false, id, item);
+    const SyncRecord &record = m_work.record;
+    for (auto file = record.files.lowerBound(prefix);
+         file != record.files.end() && file.key().startsWith(prefix); ++file)
+        item.plan.met = SyncItem::Met{file->hash, file->modified, file->earlier};
+    const auto deletion = record.deletions.find(id);
+    if (deletion != record.deletions.end() && deletion->counts())
+        item.plan.deleted = SyncItem::Deletion{deletion->time, deletion->seen};
+    readAttachments(SyncSide::Local, id, item);
+    readAttachments(SyncSide::Mirror, id, item);
+    item.plan.local = readSide(SyncSide::Local, id, item);
+    item.plan.mirror = readSide(SyncSide::Mirror, id, item);
     return item;
 }
 
-void SyncVersions::readAttachments(const Side &side, const QString &id, Item &item) const
+void SyncVersions::readAttachments(SyncSide side, const QString &id, Item &item) const
 {
-    const auto &files = side.listing.attachment;
-    for (auto file = files.lowerBound(id); file != files.end() && file.key().startsWith(id);
-         ++file) {
-        const QString path =
-            side.folder.path(SafeLayout::attachment) + QLatin1Char('/') + file.key();
-        const QString hash = fileHash(path);
-        if (!hash.isEmpty() && !item.attachments.contains(hash))
+    const QString folder = m_work.folder(side).path(SafeLayout::attachment) + QLatin1Char('/');
+    forEachFile(listing(side).attachment, id, [&](const QString &name, const FileStamp &stamp) {
+        if (isTooLong(stamp, true))
+            return;
+        const QString path = folder + name;
+        const QString met = pathIn(SafeLayout::attachment, name);
+        const QString hash = isSettled(met, side, stamp)
+                                 ? m_work.record.files.value(met).hash
+                                 : hashOfFile(m_work.files(), path, m_work.control);
+        if (hash.isEmpty())
+            return;
+        item.attachmentHashes.insert(path, hash);
+        if (!item.attachments.contains(hash))
             item.attachments.insert(hash, path);
+    });
+}
+
+QVector<SyncVersion> SyncVersions::readSide(SyncSide side, const QString &id, Item &item) const
+{
+    QVector<SyncVersion> versions;
+    forEachFile(listing(side).content, id, [&](const QString &name, const FileStamp &stamp) {
+        versions.append(readFile(side, name, stamp, item));
+    });
+    return versions;
+}
+
+SyncVersion SyncVersions::readFile(SyncSide side, const QString &fileName, const FileStamp &stamp,
+                                   Item &item) const
+{
+    const auto name = SyncFileName::parse(fileName);
+    SyncVersion version;
+    version.fileName = fileName;
+    version.item = name->item;
+    version.conflictCopy = name->conflictCopy;
+    if (side == SyncSide::Mirror) {
+        if (const SyncRecord::Unread *known = unread(fileName, stamp)) {
+            version.hash = known->hash;
+            version.stuck = isOld(*known);
+            return version;
+        }
+    }
+    if (isTooLong(stamp, false))
+        return version;
+    const QString path =
+        m_work.folder(side).path(SafeLayout::content) + QLatin1Char('/') + fileName;
+    version.hash = hashOfFile(m_work.files(), path, m_work.control);
+    if (version.hash.isEmpty())
+        return version;
+    if (!item.documents.contains(version.hash)) {
+        auto document = readItemFile(m_work.files(), path, m_work.password());
+        if (document && (side == SyncSide::Local || isOf(*document, item.plan.id)) &&
+            hashOfFile(m_work.files(), path, m_work.control) == version.hash)
+            item.documents.insert(version.hash, *document);
+    }
+    const auto document = item.documents.constFind(version.hash);
+    if (document == item.documents.constEnd()) {
+        const auto known = m_work.record.unread.constFind(fileName);
+        version.stuck = side == SyncSide::Mirror && known != m_work.record.unread.constEnd() &&
+                        known->hash == version.hash && isOld(*known);
+        return version;
+    }
+    const QString bytes = document->publicFields.value(QStringLiteral("hash")).toString();
+    version.readable = document->type != PMListItem::Attachment || item.attachments.contains(bytes);
+    version.modified = modifiedOf(*document);
+    version.content = contentOf(*document);
+    return version;
+}
+
+void SyncVersions::noteUnread(const Item &item, bool waits)
+{
+    auto &files = m_work.record.unread;
+    for (const SyncVersion &version : item.plan.mirror) {
+        const auto known = files.constFind(version.fileName);
+        const bool same = known != files.constEnd() && known->hash == version.hash;
+        // One whose bytes have not arrived is tried again.
+        const bool isRead = version.readable || item.documents.contains(version.hash);
+        if (isRead || m_work.control.isCancelled()) {
+            files.remove(version.fileName);
+            continue;
+        }
+        const qint64 since = same ? std::min(known->since, m_work.now()) : m_work.now();
+        files.insert(version.fileName,
+                     {version.hash,
+                      settled(m_mirror.content.value(version.fileName), m_mirror.taken), since,
+                      waits, version.stuck});
     }
 }
 
-QVector<SyncVersion> SyncVersions::readSide(const Side &side, bool isLocal, const QString &id,
-                                            Item &item) const
+void SyncVersions::forgetUnread()
 {
-    QVector<SyncVersion> versions;
-    const auto &files = side.listing.content;
-    for (auto file = files.lowerBound(id); file != files.end() && file.key().startsWith(id);
-         ++file) {
-        const auto name = SyncFileName::parse(file.key());
-        // Conflict copies are the mirror's affair; in the safe they would be the user's own files.
-        if (!name || (isLocal && name->conflictCopy))
+    auto &files = m_work.record.unread;
+    for (auto file = files.begin(); file != files.end();)
+        file = m_mirror.content.contains(file.key()) ? std::next(file) : files.erase(file);
+}
+
+QString SyncVersions::unreadableHere() const
+{
+    QString before;
+    for (auto file = m_local.content.begin(); file != m_local.content.end(); ++file) {
+        const QString id = idOf(file.key());
+        if (id == before)
             continue;
-        const QString path = side.folder.path(SafeLayout::content) + QLatin1Char('/') + file.key();
-        SyncVersion version;
-        version.fileName = file.key();
-        version.item = name->item;
-        version.conflictCopy = name->conflictCopy;
-        version.hash = fileHash(path);
-        if (!item.documents.contains(version.hash)) {
-            auto document = readItemFile(*m_environment.files, path, m_password->view());
-            if (document && fileHash(path) == version.hash)
-                item.documents.insert(version.hash, *document);
-        }
-        const auto document = item.documents.find(version.hash);
-        if (document != item.documents.end()) {
-            const QString bytes = document->publicFields.value(QStringLiteral("hash")).toString();
-            version.readable =
-                document->type != PMListItem::Attachment || item.attachments.contains(bytes);
-            version.modified = modifiedOf(*document);
-            version.content = contentOf(*document);
-        }
-        versions.append(version);
+        before = id;
+        Item item;
+        const QVector<SyncVersion> versions = readSide(SyncSide::Local, id, item);
+        if (item.documents.isEmpty() && !m_work.control.isCancelled())
+            return id;
     }
-    return versions;
+    return {};
 }

@@ -23,7 +23,7 @@ struct Computer
     QString password = samplePassword;
     qint64 time = 1700000000000; ///< of its clock
     std::shared_ptr<FaultyFiles> files = std::make_shared<FaultyFiles>();
-    QMap<QString, qint64> deleted{};
+    SyncRecord::Deletions deleted{};
 
     SafeEnvironment environment()
     {
@@ -134,8 +134,12 @@ private:
 
     static void remove(Computer &computer, const QString &id)
     {
-        computer.work([&](GPMSafe &safe) { safe.removeItems({id}); });
-        computer.deleted.insert(id, ++computer.time);
+        computer.work([&](GPMSafe &safe) {
+            const PMListItem *item = safe.item(id);
+            const qint64 version = item ? item->modified().toMSecsSinceEpoch() : 0;
+            if (safe.removeItems({id}))
+                computer.deleted.insert(id, {++computer.time, 0, {version}});
+        });
     }
 
     void meet()
