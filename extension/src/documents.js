@@ -91,7 +91,8 @@ export function createDocuments({ api, timers }) {
     if (!reports[0]) return undefined;
     const known = new Map();
     reported.set(tabId, known);
-    const docinfo = { title: reports[0].title, url: reports[0].url.slice(0, LONGEST_ADDRESS), forms: [], elements: [] };
+    const [{ title, url, language }] = reports;
+    const docinfo = { title, url: url.slice(0, LONGEST_ADDRESS), language, forms: [], elements: [] };
     let room = MOST_FIELDS;
     let password = false;
 

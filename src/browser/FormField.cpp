@@ -6,15 +6,52 @@ bool FormField::hasType(const QStringList &types) const
     return types.contains(type.isEmpty() ? text("inputtype") : type, Qt::CaseInsensitive);
 }
 
+bool FormField::isLine() const
+{
+    static const QStringList types = {QStringLiteral("text"),   QStringLiteral("email"),
+                                      QStringLiteral("number"), QStringLiteral("tel"),
+                                      QStringLiteral("url"),    QStringLiteral("search"),
+                                      QStringLiteral("date"),   QStringLiteral("month")};
+    return hasType(types);
+}
+
 QStringList FormField::attributeTexts() const
 {
-    return {attribute("name", "sourceName"), attribute("id", "sourceId"),
-            attribute("class", "sourceClass")};
+    return {name(), id(), className()};
 }
 
 QStringList FormField::attributeAndLabelTexts() const
 {
     return attributeTexts() << text("sourceContext") << text("sourceLabelFor");
+}
+
+bool FormField::hasHints() const
+{
+    return m_object.contains(QLatin1String("autocomplete"))
+           || m_object.contains(QLatin1String("label"));
+}
+
+QStringList FormField::readTexts() const
+{
+    return {label(), text("ariaLabel"), placeholder(), text("textBefore"), text("tableHead")};
+}
+
+int FormField::maxLength() const
+{
+    return m_object.value(QLatin1String("maxlength")).toInt();
+}
+
+QVector<FormField::Option> FormField::options() const
+{
+    constexpr int most = 300;
+    const QJsonArray reported = m_object.value(QLatin1String("options")).toArray();
+    QVector<Option> options;
+    for (int i = 0; i < qMin(most, reported.size()); ++i) {
+        const QJsonObject option = reported.at(i).toObject();
+        options.append({option.value(QLatin1String("text")).toString(),
+                        option.value(QLatin1String("value")).toString()});
+    }
+    return options;
 }
 
 QString FormField::text(const char *key) const

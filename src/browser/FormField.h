@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QStringList>
 
@@ -15,11 +16,21 @@ public:
 
     QString opid() const { return text("opid"); }
     QString gpmid() const { return text("gpmid"); }
-    bool isVisible() const { return m_object.value(QLatin1String("visible")).toBool(); }
+    QString value() const { return text("value"); }
+    QString name() const { return attribute("name", "sourceName"); }
+    QString id() const { return attribute("id", "sourceId"); }
+    QString className() const { return attribute("class", "sourceClass"); }
+    QString inputType() const { return text("inputtype"); }
+    bool isVisible() const { return flag("visible"); }
 
     /// Whether the field's type is one of these, ignoring case. The type is "type", and "inputtype"
     /// where "type" is empty.
     bool hasType(const QStringList &types) const;
+    /// Whether it is a line of text of any kind, a password excepted.
+    bool isLine() const;
+    bool isPassword() const { return hasType({QStringLiteral("password")}); }
+    bool isSelect() const { return hasType({QStringLiteral("select-one")}); }
+    bool isRadio() const { return hasType({QStringLiteral("radio")}); }
 
     /// Name, id and class.
     QStringList attributeTexts() const;
@@ -27,8 +38,34 @@ public:
     /// Name, id and class, the text near the field and the text of its label.
     QStringList attributeAndLabelTexts() const;
 
+    /// Whether the extension reported more of the field than name, id, class and the text near it.
+    /// What follows is empty where it did not.
+    bool hasHints() const;
+    QString autocomplete() const { return text("autocomplete"); }
+    QString label() const { return text("label"); }
+    QString placeholder() const { return text("placeholder"); }
+    QString heading() const { return text("heading"); }
+    QString pattern() const { return text("pattern"); }
+    /// The texts that a person reads at the field, the most telling first.
+    QStringList readTexts() const;
+    QString textAfter() const { return text("textAfter"); }
+    bool isInSearch() const { return flag("isSearch"); }
+    /// Whether the page lets nobody type there.
+    bool isFixed() const { return flag("isFixed"); }
+    bool isFilled() const { return flag("isFilled"); }
+    /// The most letters that it takes, 0 for no limit.
+    int maxLength() const;
+
+    struct Option
+    {
+        QString text;
+        QString value;
+    };
+    QVector<Option> options() const;
+
 private:
     QString text(const char *key) const;
+    bool flag(const char *key) const { return m_object.value(QLatin1String(key)).toBool(); }
     QString attribute(const char *key, const char *sourceKey) const;
 
     QJsonObject m_object;

@@ -87,19 +87,35 @@ const TEXTS = [
   ['<label for=a>  User\n name </label><input id=a>', { sourceLabelFor: 'User name', sourceContext: 'User name' }],
   ['<label>Land <select><option>Malta</select></label>', { sourceLabelFor: 'Land', sourceContext: 'Land' }],
   ['<b id=l1>Card</b> <input aria-labelledby="l1 l2 none"> <i id=l2>number</i>', { sourceLabelFor: 'Card number', sourceContext: 'Card' }],
-  ['<input placeholder=P aria-label=A title=T autocomplete=username>', { sourceLabelFor: '', sourceContext: 'P A T username' }],
+  ['<input placeholder=P aria-label=A title=T autocomplete=username>', { sourceLabelFor: '', sourceContext: 'P A T', autocomplete: 'username', placeholder: 'P', ariaLabel: 'A', title: 'T' }],
   ['<table><tr><td>City<td><span><input></span></table>', { sourceContext: 'City' }],
   ['<p>Name</p><div><input name=first><input></div>', { sourceContext: 'Name' }],
   ['<a>Forgot password?</a><button>Show password</button><input>', { sourceContext: '' }],
   ['<textarea hidden>typed</textarea><p contenteditable>typed</p><div><input></div>', { sourceContext: '' }, 1],
   [`<p>${'x'.repeat(300)}</p><input name="${'n'.repeat(300)}">`, { sourceContext: 'x'.repeat(200), name: 'n'.repeat(200) }],
   ['<input id=i name=n class="c  d">', { id: 'i', sourceId: 'i', name: 'n', sourceName: 'n', class: 'c d', sourceClass: 'c d' }],
+  ['<input id=a><label for=a>City</label><input>', { textBefore: '', sourceContext: '' }, 1],
+  ['<div><input><mat-label>City</mat-label></div><input>', { textBefore: '', textAfter: 'City' }],
+  ['<table><tr><th>City<th>Zip</tr><tr><td><input><td><input></table>', { tableHead: 'Zip', textBefore: '' }, 1],
+  ['<h2>Card</h2><form><input></form>', { heading: 'Card' }],
+  ['<input maxlength=4 pattern="[0-9]+" inputmode=NUMERIC>', { maxlength: 4, pattern: '[0-9]+', inputmode: 'numeric' }],
+  ['<select><option value=de>Germany</select>', { options: [{ text: 'Germany', value: 'de' }] }],
 ];
+
+test('what was typed is told of without its text, masks and defaults are not taken for it', async () => {
+  const typed = [['ana', true], ['4', true], ['', false], ['+49', false], ['__/__', false], ['DD.MM.YYYY', false], ['https://', false]];
+  for (const [value, filled] of typed) {
+    const [field] = (await collect(`<input value="${value}">`)).elements;
+    assert.equal(field.isFilled, filled, value);
+  }
+  const fixed = (await collect('<input readonly><fieldset disabled><input></fieldset><input>')).elements;
+  assert.deepEqual(fixed.map(({ isFixed }) => isFixed), [true, true, false]);
+});
 
 test('the texts around a field are read as a person reads them', async () => {
   for (const [html, expected, index = 0] of TEXTS) {
-    const field = (await collect(html)).elements[index];
-    for (const [key, text] of Object.entries(expected)) assert.equal(field[key], text, `${key} of ${html}`);
+    const field = allFields(await collect(html))[index];
+    for (const [key, text] of Object.entries(expected)) assert.deepEqual(field[key], text, `${key} of ${html}`);
   }
 });
 
@@ -114,13 +130,13 @@ test('what was typed never leaves the page, what the page offers does', async ()
 
 test('fields come under their form, in the order of the page, shadow trees included', async () => {
   const report = await collect(`<title> A  page </title><input name=loose>
-    <form id=f name=login action="/go?x=1"><h2>Sign in</h2><input name=action><input name=id type=password></form>
+    <form id=f name=login action="/go?x=1"><h2>Sign in</h2><input name=action><input name=id type=password><button>Go on</button><button type=button>?</button></form>
     <form><input type=hidden></form>
     <x-a data-shadow="<form><input name=inner></form><x-b></x-b>"></x-a><input form=f name=apart>`);
   assert.deepEqual([report.title, report.url], ['A page', 'https://shop.example/']);
   const [form, inner] = report.forms;
   const { formUid, fields, ...about } = form;
-  assert.deepEqual(about, { title: 'Sign in', name: 'login', id: 'f', action: 'https://shop.example/go?x=1' });
+  assert.deepEqual(about, { title: 'Sign in', name: 'login', id: 'f', action: 'https://shop.example/go?x=1', buttons: ['Go on'] });
   assert.deepEqual(fields.map(({ name }) => name), ['action', 'id', 'apart']);
   assert.deepEqual([report.forms.length, inner.fields[0].name, report.elements.map(({ name }) => name)], [2, 'inner', ['loose']]);
   assert.equal(new Set([formUid, inner.formUid, 'none']).size, 3);

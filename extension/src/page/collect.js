@@ -1,5 +1,8 @@
-import { attr, findAll, parentOf } from './dom.js';
-import { fieldType, fieldsUnder, pageType } from './fields.js';
+import { captionOf } from './buttons.js';
+import { attr, elementsUnder, findAll, matches } from './dom.js';
+import { fieldType, pageType } from './fields.js';
+import { hintsOf } from './hints.js';
+import { labelText, textBefore } from './surroundings.js';
 import { clean, textOf } from './text.js';
 import { isVisible } from './visible.js';
 
@@ -7,7 +10,9 @@ const MOST_FIELDS = 500;
 const NO_FORM = 'none';
 // A typed value is never reported, only what the page itself offers to choose from.
 const WITH_VALUE = new Set(['select-one', 'select-multiple', 'radio']);
-const NEAR = 4;
+const HEADINGS = 'h1, h2, h3, h4, h5, h6, legend, [role=heading]';
+const SENDING = 'button:not([type=button], [type=reset]), input[type=submit], input[type=image]';
+const MOST_BUTTONS = 4;
 
 // FNV-1a: short, stable, and the same for the same field after the page drew it again.
 function hash(text) {
@@ -16,37 +21,16 @@ function hash(text) {
   return (value >>> 0).toString(16).padStart(8, '0');
 }
 
-function labelText(field) {
-  const root = field.getRootNode();
-  const named = attr(field, 'aria-labelledby').split(/\s+/).filter(Boolean).map((id) => root.getElementById(id));
-  const labels = [...(field.labels ?? []), ...named].filter(Boolean);
-  return clean(labels.map((label) => textOf(label)).join(' '));
-}
-
-// The text before the field, up to the next field: in the same line, the cell before, the block above.
-// Links and buttons are left out, "Forgot password?" says nothing about the field after it.
-function textBefore(field) {
-  let node = field;
-  for (let level = 0; node && level < NEAR; level += 1, node = parentOf(node)) {
-    if (node.tagName === 'FORM' || node.tagName === 'BODY') return '';
-    for (let before = node.previousSibling; before; before = before.previousSibling) {
-      if (before.nodeType === Node.ELEMENT_NODE && (fieldType(before) || !fieldsUnder(before).next().done)) return '';
-      const text = textOf(before, 'a, button, [role=button]');
-      if (text) return text;
-    }
-  }
-  return '';
-}
-
-function contextText(field) {
-  const near = [...['placeholder', 'aria-label', 'title', 'autocomplete'].map((name) => attr(field, name)), textBefore(field)];
+function contextText(field, before) {
+  const near = [...['placeholder', 'aria-label', 'title'].map((name) => attr(field, name)), before];
   return clean(near.filter(Boolean).join(' '));
 }
 
-function describeField(field, opid, position) {
+function describeField(field, opid, position, heading) {
   const [name, id, className] = ['name', 'id', 'class'].map((key) => clean(attr(field, key)));
   const type = fieldType(field);
   const inputtype = clean(pageType(field));
+  const before = textBefore(field);
   return {
     opid,
     gpmid: hash([name, id, inputtype, position].join('|')),
@@ -60,7 +44,8 @@ function describeField(field, opid, position) {
     sourceId: id,
     sourceClass: className,
     sourceLabelFor: labelText(field),
-    sourceContext: contextText(field),
+    sourceContext: contextText(field, before),
+    ...hintsOf(field, before, heading),
     ...(WITH_VALUE.has(type) && { value: clean(field.value) }),
   };
 }
@@ -82,7 +67,9 @@ function formAction(form) {
 function describeForm(form, token, place) {
   const [name, id, action] = [clean(attr(form, 'name')), clean(attr(form, 'id')), formAction(form)];
   const formUid = `${token}:${hash([name, id, action, place].join('|'))}`;
-  return { formUid, title: formTitle(form), name, id, action, fields: [] };
+  const buttons = findAll(form, SENDING);
+  const captions = [...buttons].slice(0, MOST_BUTTONS).map(captionOf).filter(Boolean);
+  return { formUid, title: formTitle(form), name, id, action, buttons: captions, fields: [] };
 }
 
 /**
@@ -101,16 +88,20 @@ export function collect(doc, token, numberOf) {
     return forms.get(form);
   }
 
-  for (const field of fieldsUnder(doc)) {
+  let heading = '';
+  for (const element of elementsUnder(doc)) {
     if (fields.size >= MOST_FIELDS) break;
-    const group = groupOf(field.form);
-    const entry = describeField(field, `${token}:${numberOf(field)}`, group.fields.length);
+    if (matches(element, HEADINGS)) heading = textOf(element);
+    if (!fieldType(element)) continue;
+    const group = groupOf(element.form);
+    const entry = describeField(element, `${token}:${numberOf(element)}`, group.fields.length, heading);
     group.fields.push(entry);
-    fields.set(entry.opid, { field, formUid: group.formUid, gpmid: entry.gpmid, visible: entry.visible });
+    fields.set(entry.opid, { field: element, formUid: group.formUid, gpmid: entry.gpmid, visible: entry.visible });
   }
   const report = {
     title: clean(doc.title),
     url: location.href,
+    language: clean(attr(doc.documentElement, 'lang')),
     icon: findAll(doc, 'link[rel~=icon]')[0]?.href,
     forms: [...forms.values()],
     elements: loose.fields,

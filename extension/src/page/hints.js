@@ -1,0 +1,43 @@
+import { attr } from './dom.js';
+import { clean } from './text.js';
+import { labelText, tableHead, textAfter } from './surroundings.js';
+
+const MOST_OPTIONS = 300;
+const LONGEST_OPTION = 60;
+// What a mask or a form shows in a field before anything is typed.
+const NOTHING_TYPED = /^(?:[^\p{L}\p{N}]*|\+\d{1,3}|https?:\/\/|[dmyjatдмг]{2,4}(?:[ ./-]+[dmyjatдмг]{2,4})+)$/iu;
+const CHOSEN = new Set(['radio', 'checkbox']);
+
+function optionsOf(select) {
+  const text = (value) => clean(value).slice(0, LONGEST_OPTION);
+  return [...select.options].slice(0, MOST_OPTIONS).map((option) => ({ text: text(option.text), value: text(option.value) }));
+}
+
+// Whether something stands in a line of text; never what.
+function isFilled(field) {
+  if (field.tagName === 'SELECT' || CHOSEN.has(field.type)) return false;
+  return !NOTHING_TYPED.test(field.value) && field.value !== attr(field, 'placeholder');
+}
+
+/** What a field says of itself beyond name, id, class and the text near it. Never what was typed into it. */
+export function hintsOf(field, before, heading) {
+  const hints = {
+    autocomplete: clean(attr(field, 'autocomplete')),
+    label: labelText(field),
+    placeholder: clean(attr(field, 'placeholder')),
+    ariaLabel: clean(attr(field, 'aria-label')),
+    title: clean(attr(field, 'title')),
+    textBefore: before,
+    textAfter: textAfter(field),
+    tableHead: tableHead(field),
+    heading,
+    pattern: clean(attr(field, 'pattern')),
+    inputmode: clean(attr(field, 'inputmode')).toLowerCase(),
+    isSearch: field.closest('search, [role=search]') !== null,
+    isFixed: Boolean(field.readOnly) || field.matches(':disabled'),
+    isFilled: isFilled(field),
+  };
+  if (field.maxLength > 0) hints.maxlength = field.maxLength;
+  if (field.tagName === 'SELECT') hints.options = optionsOf(field);
+  return hints;
+}

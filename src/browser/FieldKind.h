@@ -1,0 +1,80 @@
+#pragma once
+
+/// What a field of a page asks for.
+enum class FieldKind {
+    Unknown,
+    /// Nothing of ours belongs there, whatever else speaks for it: a one-time code, a search.
+    Never,
+    /// Known, and no item has it: a middle name, a quantity.
+    Other,
+
+    UserName,
+    Password,
+    /// A password that is being chosen.
+    NewPassword,
+
+    CardFirstName,
+    CardLastName,
+    CardHolder,
+    CardNumber,
+    CardCode,
+    CardMonth,
+    CardYear,
+    CardExpiry,
+    CardType,
+
+    FirstName,
+    LastName,
+    FullName,
+    Country,
+    State,
+    City,
+    AddressLine1,
+    AddressLine2,
+    HouseNumber,
+    PostalCode,
+    Email,
+    Phone,
+    /// The international dialling code alone.
+    PhoneCode,
+    /// The number without its dialling code.
+    PhoneNumber,
+    BirthDate,
+    BirthDay,
+    BirthMonth,
+    BirthYear,
+    Gender,
+    Company,
+    JobTitle,
+    Website,
+
+    // Words that need their surroundings to mean something. The reader hands none of them out.
+    CurrentPassword,
+    SomeName,
+    SomeNumber,
+    SomeCode,
+    SomeDay,
+    SomeMonth,
+    SomeYear,
+    SomeDate
+};
+
+inline bool isLoginKind(FieldKind kind)
+{
+    return kind == FieldKind::UserName || kind == FieldKind::Password;
+}
+
+inline bool isCardKind(FieldKind kind)
+{
+    return kind >= FieldKind::CardFirstName && kind <= FieldKind::CardType;
+}
+
+inline bool isIdentityKind(FieldKind kind)
+{
+    return kind >= FieldKind::FirstName && kind <= FieldKind::Website;
+}
+
+inline bool isVagueKind(FieldKind kind)
+{
+    return kind >= FieldKind::CurrentPassword;
+}

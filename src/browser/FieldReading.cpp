@@ -1,0 +1,211 @@
+#include "FieldReading.h"
+
+#include "Autocomplete.h"
+#include "FieldOptions.h"
+#include "FieldPhrases.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+/// Whose order decides between phrases of one length: what people read has its main word first, a
+/// name in code has it last.
+enum class MainWord { First, Last };
+
+bool isSum(const QString &text)
+{
+    static const QRegularExpression sum(QStringLiteral("\\d\\s*([+×*−-]|plus|minus|mal)\\s*\\d\\s*[=?]"),
+                                        QRegularExpression::CaseInsensitiveOption);
+    const bool asks = text.contains(QLatin1Char('?')) || text.contains(QLatin1Char('='));
+    return asks && sum.match(text).hasMatch();
+}
+
+QString withoutAsides(const QString &text)
+{
+    QString plain;
+    int depth = 0;
+    for (const QChar letter : text) {
+        if (letter == QLatin1Char('('))
+            ++depth;
+        if (depth == 0)
+            plain += letter;
+        if (letter == QLatin1Char(')') && depth > 0)
+            --depth;
+    }
+    return plain.trimmed().isEmpty() ? text : plain;
+}
+
+/// In code what comes last counts: "ucSearch$txtUser" is the user.
+bool isNever(const TextMeaning &meaning, MainWord mainWord)
+{
+    bool is = false;
+    for (const TextMeaning::Part &part : meaning.parts) {
+        if (part.kind == FieldKind::Never)
+            is = true;
+        else if (mainWord == MainWord::Last && !isVagueKind(part.kind))
+            is = false;
+    }
+    return is;
+}
+
+FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
+{
+    const TextMeaning::Part *main = nullptr;
+    if (isNever(meaning, mainWord))
+        return FieldKind::Never;
+    for (const TextMeaning::Part &part : meaning.parts) {
+        const bool isLonger = !main || part.words > main->words;
+        const bool isLater = mainWord == MainWord::Last && main && part.words == main->words;
+        const bool isPlainer = main && isVagueKind(main->kind) && !isVagueKind(part.kind)
+                               && part.words >= main->words;
+        if (isLonger || isPlainer || (isLater && !isVagueKind(part.kind)))
+            main = &part;
+    }
+    if (!main)
+        return FieldKind::Unknown;
+    // "Street and house number" is the street's line, "phone or e-mail" takes an address.
+    if (main->kind == FieldKind::HouseNumber && meaning.names(FieldKind::AddressLine1))
+        return FieldKind::AddressLine1;
+    if (main->kind == FieldKind::Phone && meaning.names(FieldKind::Email))
+        return FieldKind::Email;
+    if (meaning.names(FieldKind::FirstName) && meaning.names(FieldKind::LastName))
+        return FieldKind::FullName;
+    return main->kind;
+}
+
+QVector<FieldKind> kindsIn(const TextMeaning &meaning)
+{
+    QVector<FieldKind> kinds;
+    for (const TextMeaning::Part &part : meaning.parts) {
+        if (!kinds.contains(part.kind))
+            kinds.append(part.kind);
+    }
+    return kinds;
+}
+
+void take(FieldReading &reading, const QString &text, MainWord mainWord)
+{
+    if (text.isEmpty())
+        return;
+    const TextMeaning meaning = meaningOf(mainWord == MainWord::First ? withoutAsides(text) : text);
+    FieldKind kind = mainKind(meaning, mainWord);
+    if (mainWord == MainWord::First && isSum(text))
+        kind = FieldKind::Never;
+    if (kind == FieldKind::Unknown)
+        return;
+    const bool isBetter = reading.kind == FieldKind::Unknown
+                          || (isVagueKind(reading.kind) && !isVagueKind(kind));
+    if (kind == FieldKind::Never || isBetter) {
+        reading.also += reading.named;
+        reading.kind = kind;
+        reading.named = kindsIn(meaning);
+        return;
+    }
+    reading.also += kindsIn(meaning);
+}
+
+FieldKind kindOfType(const QString &inputType)
+{
+    if (inputType == QLatin1String("search"))
+        return FieldKind::Never;
+    if (inputType == QLatin1String("email"))
+        return FieldKind::Email;
+    if (inputType == QLatin1String("url"))
+        return FieldKind::Website;
+    if (inputType == QLatin1String("month"))
+        return FieldKind::CardExpiry;
+    if (inputType == QLatin1String("tel"))
+        return FieldKind::Phone;
+    return FieldKind::Unknown;
+}
+
+FieldReading readSelect(const FormField &field, FieldReading reading)
+{
+    const FieldKind chosen = kindOfOptions(field.options());
+    const bool isCountryOfCodes =
+        chosen == FieldKind::PhoneCode
+        && (reading.kind == FieldKind::Country || reading.kind == FieldKind::Phone
+            || reading.kind == FieldKind::Unknown);
+    if (isCountryOfCodes || chosen == FieldKind::Gender || chosen == FieldKind::CardType)
+        reading.kind = chosen;
+    else if (reading.kind == FieldKind::Unknown)
+        reading.kind = chosen;
+    if (chosen != FieldKind::Unknown)
+        reading.also.append(chosen);
+    return reading;
+}
+
+FieldKind kindInPassword(FieldKind kind)
+{
+    switch (kind) {
+    case FieldKind::Never:
+    case FieldKind::NewPassword:
+    case FieldKind::CurrentPassword:
+    case FieldKind::CardCode:
+        return kind;
+    default:
+        return FieldKind::Password;
+    }
+}
+
+/// A text of several lines takes a whole address or nothing.
+FieldKind kindInText(FieldKind kind)
+{
+    return kind == FieldKind::AddressLine1 ? kind : FieldKind::Other;
+}
+
+bool isExample(const QString &placeholder)
+{
+    return placeholder.contains(QLatin1Char('@'));
+}
+
+FieldReading readTextsOf(const FormField &field)
+{
+    FieldReading reading;
+    const QStringList texts = field.readTexts();
+    for (const QString &text : texts) {
+        reading.hasText = reading.hasText || !text.trimmed().isEmpty();
+        if (!isExample(text))
+            take(reading, text, MainWord::First);
+    }
+    if (!reading.hasText)
+        take(reading, field.textAfter(), MainWord::First);
+    take(reading, field.name(), MainWord::Last);
+    take(reading, field.id(), MainWord::Last);
+    if (field.isInSearch())
+        reading.kind = FieldKind::Never;
+    if (field.isSelect())
+        return readSelect(field, reading);
+    if (field.isPassword())
+        reading.kind = kindInPassword(reading.kind);
+    else if (field.hasType({QStringLiteral("textarea")}))
+        reading.kind = kindInText(reading.kind);
+    else if (!field.isLine())
+        reading.kind = FieldKind::Other;
+    else if (reading.kind == FieldKind::Unknown || kindOfType(field.inputType()) == FieldKind::Never)
+        reading.kind = kindOfType(field.inputType());
+    if (field.inputType() == QLatin1String("email") && reading.kind != FieldKind::Never)
+        reading.kind = FieldKind::Email;
+    return reading;
+}
+
+} // namespace
+
+FieldReading readField(const FormField &field)
+{
+    FieldReading reading = readTextsOf(field);
+    const FieldKind told = kindOfAutocomplete(field);
+    if (told == FieldKind::Never)
+        reading.kind = told;
+    if (told == FieldKind::Unknown || reading.kind == FieldKind::Never)
+        return reading;
+    // Ways to address a person are a question for the gender, when they can be chosen from.
+    if (told == FieldKind::Other && reading.kind == FieldKind::Gender)
+        return reading;
+    reading.also.append(reading.kind);
+    reading.kind = told;
+    reading.hasText = true;
+    return reading;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "FieldKind.h"
+#include "FormField.h"
+
+/// What one field says of itself, before its neighbours are looked at.
+struct FieldReading
+{
+    FieldKind kind = FieldKind::Unknown;
+    /// The kinds that the text names from which the kind was taken, in its order.
+    QVector<FieldKind> named;
+    /// Kinds that its other texts name: they make a vague kind plain.
+    QVector<FieldKind> also;
+    /// Whether a person reads anything at the field.
+    bool hasText = false;
+
+    bool says(FieldKind wanted) const
+    {
+        return kind == wanted || named.contains(wanted) || also.contains(wanted);
+    }
+};
+
+FieldReading readField(const FormField &field);

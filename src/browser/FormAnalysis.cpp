@@ -1,0 +1,72 @@
+#include "FormAnalysis.h"
+
+#include <algorithm>
+
+namespace {
+
+bool belongsTo(FieldKind kind, FillAction action)
+{
+    switch (action) {
+    case FillAction::PlacePassword:
+        return kind == FieldKind::Password || kind == FieldKind::NewPassword;
+    case FillAction::Login:
+        return isLoginKind(kind);
+    case FillAction::CreditCard:
+        return isCardKind(kind);
+    case FillAction::Identity:
+        return isIdentityKind(kind);
+    }
+    return false;
+}
+
+/// A list or a button is often drawn anew and the page's own hidden behind it; a line of text that
+/// nobody can see is a trap.
+bool isTrap(const FormField &field)
+{
+    return !field.isVisible() && !field.isSelect() && !field.isRadio();
+}
+
+bool isVetoed(const FormField &field, FieldKind read, FillAction action)
+{
+    if (read == FieldKind::Never || isTrap(field) || field.isFixed())
+        return true;
+    // Who chooses a login means this one, whatever stood there.
+    const bool isLogin = action == FillAction::Login || action == FillAction::PlacePassword;
+    return field.isFilled() && !isLogin;
+}
+
+/// A user name is looked for by its names only where a password is asked for.
+bool asksNames(FillAction action, const QVector<FieldKind> &read)
+{
+    if (action == FillAction::CreditCard || action == FillAction::Identity)
+        return true;
+    return read.contains(FieldKind::Password) && !read.contains(FieldKind::UserName);
+}
+
+} // namespace
+
+QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurroundings &around,
+                               FillAction action)
+{
+    const bool hasHints = std::any_of(fields.begin(), fields.end(),
+                                      [](const FormField &field) { return field.hasHints(); });
+    const QVector<FieldKind> read =
+        hasHints ? readForm(fields, around) : QVector<FieldKind>(fields.size());
+    // A generated password goes where one is chosen; the old one beside it stays.
+    const bool isChosen = action == FillAction::PlacePassword && read.contains(FieldKind::NewPassword);
+    QVector<FieldKind> kinds;
+    for (int i = 0; i < fields.size(); ++i) {
+        const FormField &field = fields.at(i);
+        FieldKind kind = read.at(i);
+        if (!field.hasHints())
+            kind = kindOfNames(field, action);
+        else if (isVetoed(field, kind, action))
+            kind = FieldKind::Unknown;
+        else if (kind == FieldKind::Unknown && asksNames(action, read))
+            kind = kindOfNames(field, action);
+        if (isChosen && kind == FieldKind::Password)
+            kind = FieldKind::Unknown;
+        kinds.append(belongsTo(kind, action) ? kind : FieldKind::Unknown);
+    }
+    return kinds;
+}

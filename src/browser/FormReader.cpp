@@ -1,0 +1,303 @@
+#include "FormReader.h"
+
+#include "FieldOptions.h"
+#include "FieldPhrases.h"
+#include "LoginRoles.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int near = 4;
+
+/// Reads the fields of a form one after another, each with what is known of those around it.
+class Reader
+{
+public:
+    Reader(const QVector<FormField> &fields, const FormSurroundings &around)
+        : m_fields(fields)
+        , m_around(around)
+    {
+        for (const FormField &field : fields) {
+            m_readings.append(readField(field));
+            m_kinds.append(m_readings.last().kind);
+        }
+    }
+
+    QVector<FieldKind> read()
+    {
+        for (int i = 0; i < m_fields.size(); ++i)
+            continueList(i);
+        for (int i = 0; i < m_fields.size(); ++i) {
+            if (m_fields.at(i).isRadio())
+                m_kinds[i] = radioKind(i);
+            else if (isDatePart(m_kinds.at(i)))
+                readDate(i);
+        }
+        for (int i = 0; i < m_fields.size(); ++i)
+            readNeighbours(i);
+        assignLoginRoles(m_fields, m_readings, m_around, m_kinds);
+        for (FieldKind &kind : m_kinds)
+            kind = isVagueKind(kind) ? FieldKind::Other : kind;
+        return m_kinds;
+    }
+
+private:
+    static bool isDatePart(FieldKind kind)
+    {
+        static const QVector<FieldKind> parts = {
+            FieldKind::SomeDay,   FieldKind::SomeMonth, FieldKind::SomeYear,  FieldKind::SomeDate,
+            FieldKind::BirthDate, FieldKind::BirthDay,  FieldKind::BirthMonth, FieldKind::BirthYear,
+            FieldKind::CardExpiry, FieldKind::CardMonth, FieldKind::CardYear};
+        return parts.contains(kind);
+    }
+
+    FieldKind kindAt(int i) const { return m_kinds.value(i, FieldKind::Unknown); }
+    const FieldReading &reading(int i) const { return m_readings.at(i); }
+
+    bool has(FieldKind kind) const { return m_kinds.contains(kind); }
+
+    /// Whether one of the fields close by is for a card, its date left aside.
+    bool isNearCard(int at) const
+    {
+        static const QVector<FieldKind> telling = {
+            FieldKind::CardHolder, FieldKind::CardNumber, FieldKind::CardCode,  FieldKind::CardType,
+            FieldKind::CardMonth,  FieldKind::CardYear,   FieldKind::CardFirstName};
+        for (int i = qMax(0, at - near); i <= at + near; ++i) {
+            if (i != at && telling.contains(kindAt(i)))
+                return true;
+        }
+        return captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
+    }
+
+    /// A field without a word of its own, which belongs to the one before it.
+    bool isSilent(int i) const
+    {
+        return i < m_fields.size() && !reading(i).hasText && !m_fields.at(i).isPassword()
+               && (m_fields.at(i).isLine() || m_fields.at(i).isSelect());
+    }
+
+    bool isOpen(int i) const
+    {
+        return isSilent(i) && (kindAt(i) == FieldKind::Unknown || isVagueKind(kindAt(i)));
+    }
+
+    void continueList(int at);
+    void continueOne(int at);
+    void readDate(int at);
+    FieldKind datePart(int at, bool isBirth) const;
+    void readNeighbours(int at);
+    void readVague(int at);
+    FieldKind plainName(int at) const;
+    FieldKind radioKind(int at) const;
+
+    const QVector<FormField> &m_fields;
+    const FormSurroundings &m_around;
+    QVector<FieldReading> m_readings;
+    QVector<FieldKind> m_kinds;
+};
+
+/// "City, State, Zip" before three fields names one after another.
+void Reader::continueList(int at)
+{
+    if (!reading(at).hasText)
+        return;
+    QVector<FieldKind> named;
+    for (const FieldKind kind : reading(at).named) {
+        if (isIdentityKind(kind))
+            named.append(kind);
+    }
+    int silent = 0;
+    while (isOpen(at + silent + 1))
+        ++silent;
+    if (silent == 0)
+        return;
+    if (named.size() < 2) {
+        continueOne(at);
+        return;
+    }
+    for (int i = 0; i < named.size() && i <= silent; ++i)
+        m_kinds[at + i] = named.at(i);
+}
+
+/// What follows the field that has the words for both.
+void Reader::continueOne(int at)
+{
+    const int next = at + 1;
+    switch (m_kinds.at(at)) {
+    case FieldKind::SomeName:
+    case FieldKind::FullName:
+        if (m_fields.at(next).isLine()) {
+            m_kinds[at] = FieldKind::FirstName;
+            m_kinds[next] = FieldKind::LastName;
+        }
+        return;
+    case FieldKind::AddressLine1:
+        if (m_fields.at(next).isLine())
+            m_kinds[next] = FieldKind::AddressLine2;
+        return;
+    case FieldKind::CardNumber:
+        for (int i = next; isOpen(i) && m_fields.at(i).isLine(); ++i)
+            m_kinds[i] = FieldKind::CardNumber;
+        return;
+    default:
+        return;
+    }
+}
+
+FieldKind Reader::datePart(int at, bool isBirth) const
+{
+    static const QVector<QVector<FieldKind>> parts = {
+        {FieldKind::SomeDay, FieldKind::Other, FieldKind::BirthDay},
+        {FieldKind::SomeMonth, FieldKind::CardMonth, FieldKind::BirthMonth},
+        {FieldKind::SomeYear, FieldKind::CardYear, FieldKind::BirthYear}};
+    FieldKind said = FieldKind::Unknown;
+    int count = 0;
+    for (const QVector<FieldKind> &part : parts) {
+        const bool isSaid = std::any_of(part.begin(), part.end(), [&](FieldKind kind) {
+            return kind != FieldKind::Other && reading(at).says(kind);
+        });
+        if (isSaid) {
+            said = part.at(isBirth ? 2 : 1);
+            ++count;
+        }
+    }
+    return count == 1 ? said : FieldKind::Unknown;
+}
+
+/// Whole dates and their parts, of a birth or of a card.
+void Reader::readDate(int at)
+{
+    const FormField &field = m_fields.at(at);
+    const FieldKind kind = m_kinds.at(at);
+    const FieldKind before = kindAt(at - 1);
+    const bool followsBirth = before >= FieldKind::BirthDate && before <= FieldKind::BirthYear;
+    const bool isCard = isCardKind(kind) || reading(at).says(FieldKind::CardExpiry);
+    const bool isBirth = !isCard
+                         && (isIdentityKind(kind) || followsBirth
+                             || reading(at).says(FieldKind::BirthDate)
+                             || captionKindOf(field.heading()) == CaptionKind::Birth);
+    if (!isBirth && !isCard && !isNearCard(at)) {
+        m_kinds[at] = FieldKind::Other;
+        return;
+    }
+    const FieldKind part = datePart(at, isBirth);
+    const bool isShort = field.isSelect() || (field.maxLength() > 0 && field.maxLength() <= 4);
+    if (part != FieldKind::Unknown && (isVagueKind(kind) || isShort || isSilent(at + 1)
+                                       || part == kind || reading(at).also.contains(part))) {
+        m_kinds[at] = part;
+    } else if (!isBirth && (field.isSelect() || field.maxLength() == 2)) {
+        m_kinds[at] = before == FieldKind::CardMonth ? FieldKind::CardYear : FieldKind::CardMonth;
+    } else if (isVagueKind(kind) || kind == FieldKind::BirthDate || kind == FieldKind::CardExpiry) {
+        m_kinds[at] = isBirth ? FieldKind::BirthDate : FieldKind::CardExpiry;
+    }
+    // The year often stands behind the month without a word of its own.
+    if (m_kinds.at(at) == FieldKind::CardMonth && isOpen(at + 1))
+        m_kinds[at + 1] = FieldKind::CardYear;
+}
+
+FieldKind Reader::radioKind(int at) const
+{
+    const QString name = m_fields.at(at).name();
+    bool man = false;
+    bool woman = false;
+    for (const FormField &field : m_fields) {
+        if (!field.isRadio() || field.name() != name)
+            continue;
+        for (const QString &text : {field.label(), field.textAfter(), field.value()}) {
+            man = man || sexOfChoice(text) == Sex::Male;
+            woman = woman || sexOfChoice(text) == Sex::Female;
+        }
+    }
+    return man && woman ? FieldKind::Gender : FieldKind::Other;
+}
+
+void Reader::readNeighbours(int at)
+{
+    const FieldKind before = kindAt(at - 1);
+    switch (m_kinds.at(at)) {
+    case FieldKind::HouseNumber:
+        if (before != FieldKind::AddressLine1)
+            m_kinds[at] = FieldKind::Other;
+        return;
+    case FieldKind::AddressLine1:
+        if (before == FieldKind::AddressLine1 && m_fields.at(at).isLine())
+            m_kinds[at] = FieldKind::AddressLine2;
+        return;
+    case FieldKind::Phone:
+        if (before == FieldKind::PhoneCode)
+            m_kinds[at] = FieldKind::PhoneNumber;
+        return;
+    case FieldKind::CardCode:
+    case FieldKind::CardHolder:
+    case FieldKind::CardExpiry:
+    case FieldKind::CardMonth:
+    case FieldKind::CardYear:
+        if (!has(FieldKind::CardNumber) && !isNearCard(at))
+            m_kinds[at] = FieldKind::Other;
+        return;
+    default:
+        readVague(at);
+    }
+}
+
+void Reader::readVague(int at)
+{
+    switch (m_kinds.at(at)) {
+    case FieldKind::SomeName:
+        m_kinds[at] = plainName(at);
+        return;
+    case FieldKind::SomeNumber:
+        m_kinds[at] = isNearCard(at) && !has(FieldKind::CardNumber) ? FieldKind::CardNumber
+                                                                    : FieldKind::Other;
+        return;
+    case FieldKind::SomeCode:
+        m_kinds[at] = isNearCard(at) && !has(FieldKind::CardCode) ? FieldKind::CardCode
+                                                                  : FieldKind::Other;
+        return;
+    default:
+        return;
+    }
+}
+
+/// "Name" alone: of the card's holder, the family's beside a first name, or the whole.
+FieldKind Reader::plainName(int at) const
+{
+    const bool first = has(FieldKind::FirstName);
+    const bool last = has(FieldKind::LastName);
+    if (first && last)
+        return FieldKind::Other;
+    if (first)
+        return FieldKind::LastName;
+    if (last)
+        return FieldKind::FirstName;
+    return isNearCard(at) && !has(FieldKind::CardHolder) ? FieldKind::CardHolder
+                                                         : FieldKind::FullName;
+}
+
+} // namespace
+
+FormSurroundings FormSurroundings::of(const QJsonObject &form, const QString &pageTitle)
+{
+    FormSurroundings around;
+    const auto text = [&](const char *key) { return form.value(QLatin1String(key)).toString(); };
+    const QJsonArray buttons = form.value(QLatin1String("buttons")).toArray();
+    for (const QJsonValue &button : buttons)
+        around.captions.append(button.toString());
+    around.captions.append(text("title"));
+    const QJsonArray fields = form.value(QLatin1String("fields")).toArray();
+    const QString heading =
+        fields.first().toObject().value(QLatin1String("heading")).toString();
+    around.captions += {heading, text("id"), text("name"), pageTitle};
+    return around;
+}
+
+QVector<FieldKind> readForm(const QVector<FormField> &fields, const FormSurroundings &around)
+{
+    QVector<FieldKind> kinds = Reader(fields, around).read();
+    if (isNewsletter(fields, around))
+        kinds.fill(FieldKind::Never);
+    return kinds;
+}

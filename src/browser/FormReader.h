@@ -1,0 +1,20 @@
+#pragma once
+
+#include "FieldReading.h"
+
+#include <QJsonObject>
+#include <QVector>
+
+/// What is known of the form around its fields.
+struct FormSurroundings
+{
+    /// What a person reads on the form: its buttons, its title, the headings, the page's title.
+    QStringList captions;
+
+    static FormSurroundings of(const QJsonObject &form, const QString &pageTitle);
+};
+
+/// The kinds of the fields of one form, in their order. A text alone often says little, so fields
+/// are read with their neighbours: "Number" beside a security code is the card's. Vague kinds are
+/// never returned. Holds nothing back: whether a field may be filled is decided elsewhere.
+QVector<FieldKind> readForm(const QVector<FormField> &fields, const FormSurroundings &around);

@@ -1,0 +1,170 @@
+#include "LoginRoles.h"
+
+#include "FieldPhrases.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int mostNewsletterFields = 3;
+
+CaptionKind purposeOf(const FormSurroundings &around)
+{
+    static const QVector<CaptionKind> purposes = {CaptionKind::SignIn, CaptionKind::SignUp,
+                                                  CaptionKind::ChangePassword,
+                                                  CaptionKind::Newsletter, CaptionKind::Code};
+    for (const QString &caption : around.captions) {
+        const CaptionKind kind = captionKindOf(caption);
+        if (purposes.contains(kind))
+            return kind;
+    }
+    return CaptionKind::None;
+}
+
+QVector<int> passwordsIn(const QVector<FormField> &fields, const QVector<FieldKind> &kinds)
+{
+    static const QVector<FieldKind> passwords = {
+        FieldKind::Password, FieldKind::CurrentPassword, FieldKind::NewPassword};
+    QVector<int> found;
+    for (int i = 0; i < fields.size(); ++i) {
+        if (fields.at(i).isPassword() && fields.at(i).isVisible() && passwords.contains(kinds.at(i)))
+            found.append(i);
+    }
+    return found;
+}
+
+bool asksForPerson(const QVector<FieldKind> &kinds)
+{
+    const auto count = std::count_if(kinds.begin(), kinds.end(), [](FieldKind kind) {
+        return isIdentityKind(kind) && kind != FieldKind::Email && kind != FieldKind::Phone;
+    });
+    return count >= 2;
+}
+
+void assignSinglePassword(int at, CaptionKind purpose, QVector<FieldKind> &kinds)
+{
+    if (kinds.at(at) == FieldKind::NewPassword)
+        return;
+    const bool isChosen = purpose == CaptionKind::SignUp || purpose == CaptionKind::ChangePassword
+                          || (purpose != CaptionKind::SignIn && asksForPerson(kinds));
+    const bool isAskedFor = kinds.at(at) == FieldKind::CurrentPassword || !isChosen;
+    kinds[at] = isAskedFor ? FieldKind::Password : FieldKind::NewPassword;
+}
+
+/// "New password" beside a plain "password" makes that the old one; its confirmation does not.
+bool isOldBeside(const FieldReading &first, const FieldReading &second, CaptionKind purpose)
+{
+    return purpose == CaptionKind::ChangePassword && first.kind == FieldKind::Password
+           && second.kind == FieldKind::NewPassword;
+}
+
+void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> &readings,
+                     CaptionKind purpose, QVector<FieldKind> &kinds)
+{
+    if (passwords.size() == 1) {
+        assignSinglePassword(passwords.first(), purpose, kinds);
+        return;
+    }
+    for (const int at : passwords) {
+        if (kinds.at(at) != FieldKind::CurrentPassword)
+            kinds[at] = FieldKind::NewPassword;
+        else
+            kinds[at] = FieldKind::Password;
+    }
+    const int first = passwords.first();
+    const FieldReading &second = readings.at(passwords.at(1));
+    const bool isPlain = readings.at(first).kind == FieldKind::Password;
+    if (isPlain && (passwords.size() > 2 || isOldBeside(readings.at(first), second, purpose)))
+        kinds[first] = FieldKind::Password;
+}
+
+/// How well a field does as the user name of a sign-in form, 0 for not at all.
+int userNameRank(const FormField &field, const FieldReading &reading, FieldKind kind)
+{
+    if (!field.isVisible() || !field.isLine() || kind == FieldKind::Never)
+        return 0;
+    if (kind == FieldKind::UserName)
+        return 6;
+    if (reading.says(FieldKind::UserName))
+        return 5;
+    switch (kind) {
+    case FieldKind::Email:
+        return 4;
+    case FieldKind::Phone:
+    case FieldKind::CardNumber:
+        return 3;
+    case FieldKind::Other:
+        // A client or a customer's number: better than nothing.
+        return 2;
+    case FieldKind::Unknown:
+    case FieldKind::FullName:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
+int findUserName(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                 const QVector<FieldKind> &kinds, int before)
+{
+    int best = -1;
+    int bestRank = 0;
+    for (int i = 0; i < before; ++i) {
+        const int rank = userNameRank(fields.at(i), readings.at(i), kinds.at(i));
+        if (rank > bestRank) {
+            best = i;
+            bestRank = rank;
+        }
+    }
+    return best;
+}
+
+/// A page that asks for the user name first shows no password, but says what it is for.
+bool isIdentifierFirst(const QVector<FormField> &fields, const QVector<FieldKind> &kinds,
+                       CaptionKind purpose)
+{
+    int lines = 0;
+    bool hasUserName = false;
+    for (int i = 0; i < fields.size(); ++i) {
+        if (!fields.at(i).isVisible() || !fields.at(i).isLine() || kinds.at(i) == FieldKind::Never)
+            continue;
+        ++lines;
+        hasUserName = hasUserName || kinds.at(i) == FieldKind::UserName;
+    }
+    if (lines != 1)
+        return false;
+    return purpose == CaptionKind::SignIn || (hasUserName && purpose == CaptionKind::None);
+}
+
+} // namespace
+
+void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                      const FormSurroundings &around, QVector<FieldKind> &kinds)
+{
+    const CaptionKind purpose = purposeOf(around);
+    const QVector<int> passwords = passwordsIn(fields, kinds);
+    if (!passwords.isEmpty())
+        assignPasswords(passwords, readings, purpose, kinds);
+    const bool isChoosing = kinds.contains(FieldKind::NewPassword);
+    int userName = -1;
+    if (!isChoosing && !passwords.isEmpty())
+        userName = findUserName(fields, readings, kinds, passwords.first());
+    else if (!isChoosing && isIdentifierFirst(fields, kinds, purpose))
+        userName = findUserName(fields, readings, kinds, fields.size());
+    // A name that is being chosen is none of ours.
+    std::replace(kinds.begin(), kinds.end(), FieldKind::UserName, FieldKind::Other);
+    if (userName >= 0)
+        kinds[userName] = FieldKind::UserName;
+}
+
+bool isNewsletter(const QVector<FormField> &fields, const FormSurroundings &around)
+{
+    int lines = 0;
+    for (const FormField &field : fields) {
+        if (field.isPassword())
+            return false;
+        lines += field.isLine() && field.isVisible() ? 1 : 0;
+    }
+    return lines > 0 && lines <= mostNewsletterFields
+           && purposeOf(around) == CaptionKind::Newsletter;
+}

@@ -1,0 +1,51 @@
+import { execFileSync } from 'node:child_process';
+
+const reader = new URL('../../../build/dev/tests/browser/formreader', import.meta.url).pathname;
+
+const LOGIN = ['username', 'password'];
+const isCard = (kind) => kind.startsWith('cc-');
+
+/** The action that fills a field of the kind; none fills what is not to be filled. */
+function actionOf(kind) {
+  if (['never', 'new-password', ''].includes(kind)) return undefined;
+  if (LOGIN.includes(kind)) return 'login';
+  return isCard(kind) ? 'card' : 'identity';
+}
+
+/**
+ * What became of each field of the described pages: {kind, outcome: 'hit', 'miss' or 'wrong', page, opid, told}.
+ * A field may be several things ("username email"); it is hit when each action that fills it fills it with one of them,
+ * and wrong when any action puts something else there.
+ */
+export function score(pages) {
+  const input = pages.map(({ page }) => JSON.stringify(page)).join('\n');
+  const answers = execFileSync(reader, { input, maxBuffer: 1 << 28 }).toString().trim().split('\n').map((line) => JSON.parse(line));
+  return pages.flatMap(({ name, page, truth }, at) => {
+    const fields = [...page.forms.flatMap((form) => form.fields), ...page.elements];
+    return fields.map(({ opid, name: field, id }) => {
+      const kinds = truth[opid].split(' ');
+      const told = answers[at][opid];
+      const values = Object.entries(told).filter(([action]) => !['read', 'place'].includes(action));
+      const wrong = values.some(([, value]) => !kinds.includes(value));
+      const hit = !wrong && kinds.some((kind) => told[actionOf(kind)] === kind);
+      const placed = kinds[0] === 'new-password' ? told.place === 'new-password' : !told.place || kinds[0] === 'password';
+      const none = kinds.every((kind) => !actionOf(kind));
+      let outcome = 'miss';
+      if (wrong || !placed) outcome = 'wrong';
+      else if (hit || none) outcome = 'hit';
+      return { kind: kinds[0], outcome, page: name, field: field || id || opid, told };
+    });
+  });
+}
+
+/** Rows {kind, fields, hit, miss, wrong}, and the same over all. */
+export function table(results) {
+  const rows = new Map();
+  for (const { kind, outcome } of results) {
+    const row = rows.get(kind) ?? { kind: kind || '(nothing)', fields: 0, hit: 0, miss: 0, wrong: 0 };
+    row.fields += 1;
+    row[outcome] += 1;
+    rows.set(kind, row);
+  }
+  return [...rows.values()].sort((a, b) => b.fields - a.fields);
+}
