@@ -82,12 +82,13 @@ FieldKind kindOfAutocomplete(const FormField &field)
     const QString token = words.isEmpty() ? QString() : words.takeLast();
     const FieldKind kind = tokens().value(token, FieldKind::Unknown);
     // The number of a fax is asked for with the same token.
-    const bool isFax = words.contains(QLatin1String("fax")) || words.contains(QLatin1String("pager"));
+    const bool isFax =
+        words.contains(QLatin1String("fax")) || words.contains(QLatin1String("pager"));
     if (isFax && kind != FieldKind::Unknown)
         return FieldKind::Other;
     const bool isPassword = field.isPassword();
-    const bool canBe = isPassword ? isPasswordKind(kind) || kind == FieldKind::CardCode
-                                        || kind == FieldKind::Never
-                                  : !isPasswordKind(kind);
+    const bool canBe =
+        isPassword ? isPasswordKind(kind) || kind == FieldKind::CardCode || kind == FieldKind::Never
+                   : !isPasswordKind(kind);
     return canBe ? kind : FieldKind::Unknown;
 }

@@ -9,9 +9,9 @@ namespace {
 enum class Texts { Names, NamesAndLabels };
 
 /// One classifier: which fields it may take, and the words that speak for one. A word of `any` is
-/// enough by itself. A word of `first` counts together with one of `second` in the same text: "month"
-/// is the card's only beside "expir". No text may hold a word of `never`, alone or, where `neverBeside`
-/// is given, beside one of those.
+/// enough by itself. A word of `first` counts together with one of `second` in the same text:
+/// "month" is the card's only beside "expir". No text may hold a word of `never`, alone or, where
+/// `neverBeside` is given, beside one of those.
 struct Classifier
 {
     FieldKind kind;
@@ -68,8 +68,8 @@ bool takes(const Classifier &classifier, const FormField &field)
 {
     if (!field.hasType(classifier.types))
         return false;
-    const QStringList texts = classifier.texts == Texts::Names ? field.attributeTexts()
-                                                               : field.attributeAndLabelTexts();
+    const QStringList texts =
+        classifier.texts == Texts::Names ? field.attributeTexts() : field.attributeAndLabelTexts();
     if (!classifier.never.isEmpty()) {
         const bool isBarred = classifier.neverBeside.isEmpty()
                                   ? containsAny(texts, classifier.never)
@@ -77,22 +77,21 @@ bool takes(const Classifier &classifier, const FormField &field)
         if (isBarred)
             return false;
     }
-    return keywordScore(texts, classifier.any) > 0.0F
-           || containsPair(texts, classifier.first, classifier.second);
+    return keywordScore(texts, classifier.any) > 0.0F ||
+           containsPair(texts, classifier.first, classifier.second);
 }
 
 const QVector<FieldKind> &orderOf(FillAction action)
 {
     static const QVector<FieldKind> card = {
-        FieldKind::FirstName, FieldKind::LastName,   FieldKind::CardCode,
-        FieldKind::CardNumber, FieldKind::CardHolder, FieldKind::CardMonth,
-        FieldKind::CardYear,  FieldKind::CardExpiry};
+        FieldKind::FirstName,  FieldKind::LastName,  FieldKind::CardCode, FieldKind::CardNumber,
+        FieldKind::CardHolder, FieldKind::CardMonth, FieldKind::CardYear, FieldKind::CardExpiry};
     static const QVector<FieldKind> identity = {
-        FieldKind::FirstName,    FieldKind::LastName,   FieldKind::CardFirstName,
-        FieldKind::CardLastName, FieldKind::Country,    FieldKind::City,
+        FieldKind::FirstName,    FieldKind::LastName,     FieldKind::CardFirstName,
+        FieldKind::CardLastName, FieldKind::Country,      FieldKind::City,
         FieldKind::State,        FieldKind::AddressLine1, FieldKind::AddressLine2,
-        FieldKind::PostalCode,   FieldKind::Email,      FieldKind::Phone,
-        FieldKind::BirthDate,    FieldKind::BirthMonth, FieldKind::BirthYear,
+        FieldKind::PostalCode,   FieldKind::Email,        FieldKind::Phone,
+        FieldKind::BirthDate,    FieldKind::BirthMonth,   FieldKind::BirthYear,
         FieldKind::Gender};
     return action == FillAction::CreditCard ? card : identity;
 }

@@ -13,9 +13,8 @@ constexpr int lastYear = 2100;
 
 QHash<QString, int> monthNames()
 {
-    static const QLocale::Language languages[] = {QLocale::English, QLocale::German,
-                                                  QLocale::Spanish, QLocale::French,
-                                                  QLocale::Russian};
+    static const QLocale::Language languages[] = {
+        QLocale::English, QLocale::German, QLocale::Spanish, QLocale::French, QLocale::Russian};
     QHash<QString, int> names;
     for (const QLocale::Language language : languages) {
         const QLocale locale(language);

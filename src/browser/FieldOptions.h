@@ -3,8 +3,8 @@
 #include "FieldKind.h"
 #include "FormField.h"
 
-/// What the choices of a list are: days, months or years (vague), countries' dialling codes, kinds of
-/// cards, or ways to address a man and a woman. Unknown when they say nothing.
+/// What the choices of a list are: days, months or years (vague), countries' dialling codes, kinds
+/// of cards, or ways to address a man and a woman. Unknown when they say nothing.
 FieldKind kindOfOptions(const QVector<FormField::Option> &options);
 
 enum class Sex { Unknown, Male, Female };

@@ -7,7 +7,8 @@
 
 namespace {
 
-template <typename Kind> struct Row
+template <typename Kind>
+struct Row
 {
     Kind kind;
     const char *phrases; ///< separated by "|"
@@ -262,7 +263,8 @@ bool isWordBorder(QChar before, QChar at, QChar after)
 }
 
 /// Phrases by their first word, the longest first.
-template <typename Kind> class PhraseBook
+template <typename Kind>
+class PhraseBook
 {
 public:
     struct Phrase
@@ -273,7 +275,8 @@ public:
         bool isWhole;
     };
 
-    template <std::size_t count> explicit PhraseBook(const Row<Kind> (&rows)[count])
+    template <std::size_t count>
+    explicit PhraseBook(const Row<Kind> (&rows)[count])
     {
         for (const Row<Kind> &row : rows) {
             const QStringList phrases = QString::fromUtf8(row.phrases).split(QLatin1Char('|'));
@@ -300,8 +303,8 @@ public:
         for (const Phrase &phrase : *found) {
             if (phrase.isWhole && phrase.words.size() != words.size())
                 continue;
-            if (position + phrase.words.size() <= words.size()
-                && std::equal(phrase.words.begin(), phrase.words.end(), words.begin() + position))
+            if (position + phrase.words.size() <= words.size() &&
+                std::equal(phrase.words.begin(), phrase.words.end(), words.begin() + position))
                 return &phrase;
         }
         return nullptr;

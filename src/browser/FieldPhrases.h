@@ -24,8 +24,8 @@ struct TextMeaning
     bool names(FieldKind kind) const;
 };
 
-/// Reads a text in any of the languages that the program speaks. Longer phrases swallow shorter ones
-/// inside them: a "gift card number" is no card number.
+/// Reads a text in any of the languages that the program speaks. Longer phrases swallow shorter
+/// ones inside them: a "gift card number" is no card number.
 TextMeaning meaningOf(const QString &text);
 
 /// Which part of a form a caption names: signing in, signing up, a newsletter, a search.

@@ -16,8 +16,9 @@ enum class MainWord { First, Last };
 
 bool isSum(const QString &text)
 {
-    static const QRegularExpression sum(QStringLiteral("\\d\\s*([+×*−-]|plus|minus|mal)\\s*\\d\\s*[=?]"),
-                                        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression sum(
+        QStringLiteral("\\d\\s*([+×*−-]|plus|minus|mal)\\s*\\d\\s*[=?]"),
+        QRegularExpression::CaseInsensitiveOption);
     const bool asks = text.contains(QLatin1Char('?')) || text.contains(QLatin1Char('='));
     return asks && sum.match(text).hasMatch();
 }
@@ -58,8 +59,8 @@ FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
     for (const TextMeaning::Part &part : meaning.parts) {
         const bool isLonger = !main || part.words > main->words;
         const bool isLater = mainWord == MainWord::Last && main && part.words == main->words;
-        const bool isPlainer = main && isVagueKind(main->kind) && !isVagueKind(part.kind)
-                               && part.words >= main->words;
+        const bool isPlainer =
+            main && isVagueKind(main->kind) && !isVagueKind(part.kind) && part.words >= main->words;
         if (isLonger || isPlainer || (isLater && !isVagueKind(part.kind)))
             main = &part;
     }
@@ -95,8 +96,10 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord)
         kind = FieldKind::Never;
     if (kind == FieldKind::Unknown)
         return;
-    const bool isBetter = reading.kind == FieldKind::Unknown
-                          || (isVagueKind(reading.kind) && !isVagueKind(kind));
+    // "user[name]" is a name in the code of a user.
+    const bool isOfUser = reading.kind == FieldKind::SomeName && kind == FieldKind::UserName;
+    const bool isBetter = reading.kind == FieldKind::Unknown ||
+                          (isVagueKind(reading.kind) && !isVagueKind(kind) && !isOfUser);
     if (kind == FieldKind::Never || isBetter) {
         reading.also += reading.named;
         reading.kind = kind;
@@ -125,9 +128,9 @@ FieldReading readSelect(const FormField &field, FieldReading reading)
 {
     const FieldKind chosen = kindOfOptions(field.options());
     const bool isCountryOfCodes =
-        chosen == FieldKind::PhoneCode
-        && (reading.kind == FieldKind::Country || reading.kind == FieldKind::Phone
-            || reading.kind == FieldKind::Unknown);
+        chosen == FieldKind::PhoneCode &&
+        (reading.kind == FieldKind::Country || reading.kind == FieldKind::Phone ||
+         reading.kind == FieldKind::Unknown);
     if (isCountryOfCodes || chosen == FieldKind::Gender || chosen == FieldKind::CardType)
         reading.kind = chosen;
     else if (reading.kind == FieldKind::Unknown)
@@ -156,24 +159,32 @@ FieldKind kindInText(FieldKind kind)
     return kind == FieldKind::AddressLine1 ? kind : FieldKind::Other;
 }
 
-bool isExample(const QString &placeholder)
+/// "name@example.com" shows what is meant without saying it.
+bool isExample(const QString &text)
 {
-    return placeholder.contains(QLatin1Char('@'));
+    static const QRegularExpression address(QStringLiteral("^\\S+@\\S+\\.\\S+$"));
+    return address.match(text).hasMatch();
 }
 
 FieldReading readTextsOf(const FormField &field)
 {
     FieldReading reading;
     const QStringList texts = field.readTexts();
+    bool hasExample = false;
     for (const QString &text : texts) {
+        if (isExample(text)) {
+            hasExample = true;
+            continue;
+        }
         reading.hasText = reading.hasText || !text.trimmed().isEmpty();
-        if (!isExample(text))
-            take(reading, text, MainWord::First);
+        take(reading, text, MainWord::First);
     }
     if (!reading.hasText)
         take(reading, field.textAfter(), MainWord::First);
     take(reading, field.name(), MainWord::Last);
     take(reading, field.id(), MainWord::Last);
+    if (reading.kind == FieldKind::Unknown && hasExample)
+        reading.kind = FieldKind::Email;
     if (field.isInSearch())
         reading.kind = FieldKind::Never;
     if (field.isSelect())
@@ -184,7 +195,8 @@ FieldReading readTextsOf(const FormField &field)
         reading.kind = kindInText(reading.kind);
     else if (!field.isLine())
         reading.kind = FieldKind::Other;
-    else if (reading.kind == FieldKind::Unknown || kindOfType(field.inputType()) == FieldKind::Never)
+    else if (reading.kind == FieldKind::Unknown ||
+             kindOfType(field.inputType()) == FieldKind::Never)
         reading.kind = kindOfType(field.inputType());
     if (field.inputType() == QLatin1String("email") && reading.kind != FieldKind::Never)
         reading.kind = FieldKind::Email;

@@ -53,7 +53,8 @@ QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurro
     const QVector<FieldKind> read =
         hasHints ? readForm(fields, around) : QVector<FieldKind>(fields.size());
     // A generated password goes where one is chosen; the old one beside it stays.
-    const bool isChosen = action == FillAction::PlacePassword && read.contains(FieldKind::NewPassword);
+    const bool isChosen =
+        action == FillAction::PlacePassword && read.contains(FieldKind::NewPassword);
     QVector<FieldKind> kinds;
     for (int i = 0; i < fields.size(); ++i) {
         const FormField &field = fields.at(i);

@@ -27,8 +27,8 @@ QStringList FormField::attributeAndLabelTexts() const
 
 bool FormField::hasHints() const
 {
-    return m_object.contains(QLatin1String("autocomplete"))
-           || m_object.contains(QLatin1String("label"));
+    return m_object.contains(QLatin1String("autocomplete")) ||
+           m_object.contains(QLatin1String("label"));
 }
 
 QStringList FormField::readTexts() const

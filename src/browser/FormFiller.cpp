@@ -1,57 +1,60 @@
 #include "FormFiller.h"
 
-#include "FormField.h"
+#include "FormAnalysis.h"
 
 #include <QJsonArray>
 
 namespace {
 
-const FieldRule *ruleFor(const FormField &field, const FieldDispatcher &dispatcher)
+/// More fields than the extension ever reports.
+constexpr int mostFields = 20000;
+
+QVector<FormField> fieldsOf(const QJsonArray &entries)
 {
-    if (dispatcher.gate && dispatcher.gate(field) <= 0.0F)
-        return nullptr;
-    for (const FieldRule &rule : dispatcher.rules) {
-        if (rule.score(field) > 0.0F)
-            return &rule;
+    QVector<FormField> fields;
+    for (const QJsonValue &entry : entries) {
+        if (entry.isObject() && fields.size() < mostFields)
+            fields.append(FormField(entry.toObject()));
     }
-    return nullptr;
+    return fields;
 }
 
-FilledForm fillFields(const QString &formUid, const QJsonArray &fields,
-                      const FieldDispatcher &dispatcher)
+bool isPassword(FieldKind kind)
 {
-    FilledForm form;
-    form.formUid = formUid;
-    for (const QJsonValue &entry : fields) {
-        if (!entry.isObject())
-            continue;
-        const FormField field(entry.toObject());
-        const FieldRule *rule = ruleFor(field, dispatcher);
-        if (!rule || rule->value.isEmpty())
-            continue;
-        form.fields.append({field.opid(), field.gpmid(), rule->value});
-        form.hasPassword = form.hasPassword || rule->isPassword;
-    }
-    return form;
+    return kind == FieldKind::Password || kind == FieldKind::NewPassword;
 }
 
 } // namespace
 
-QVector<FilledForm> fillForms(const QJsonObject &page, const FieldDispatcher &dispatcher)
+QVector<FilledForm> fillForms(const QJsonObject &page, FillAction action, const ValueAt &valueAt)
 {
+    const QString title = page.value(QLatin1String("title")).toString();
+    const QString language = page.value(QLatin1String("language")).toString();
     QVector<FilledForm> filled;
-    const auto add = [&](const FilledForm &form) {
-        if (!form.fields.isEmpty())
-            filled.append(form);
+    const auto add = [&](const QString &formUid, const QJsonObject &form) {
+        const auto fields = fieldsOf(form.value(QLatin1String("fields")).toArray());
+        const auto kinds = analyseForm(fields, FormSurroundings::of(form, title), action);
+        FilledForm result;
+        result.formUid = formUid;
+        for (int i = 0; i < fields.size(); ++i) {
+            if (kinds.at(i) == FieldKind::Unknown)
+                continue;
+            const QString value = valueAt({fields, kinds, i, language});
+            if (value.isEmpty())
+                continue;
+            result.fields.append({fields.at(i).opid(), fields.at(i).gpmid(), value});
+            result.hasPassword = result.hasPassword || isPassword(kinds.at(i));
+        }
+        if (!result.fields.isEmpty())
+            filled.append(result);
     };
     const QJsonArray forms = page.value(QLatin1String("forms")).toArray();
     for (const QJsonValue &entry : forms) {
         const QJsonObject form = entry.toObject();
-        add(fillFields(form.value(QLatin1String("formUid")).toString(),
-                       form.value(QLatin1String("fields")).toArray(), dispatcher));
+        add(form.value(QLatin1String("formUid")).toString(), form);
     }
-    add(fillFields(QStringLiteral("none"), page.value(QLatin1String("elements")).toArray(),
-                   dispatcher));
+    const QString loose = QStringLiteral("none");
+    add(loose, {{QStringLiteral("fields"), page.value(QLatin1String("elements"))}});
     return filled;
 }
 

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "FieldClassifiers.h"
+#include "FieldPlace.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <QVector>
 
-class FormField;
+#include <functional>
 
 /// The fields of a page's form that receive values.
 struct FilledForm
@@ -22,26 +25,13 @@ struct FilledForm
     bool hasPassword = false;
 };
 
-/// One row of a dispatcher: the fields that take a value, and the value.
-struct FieldRule
-{
-    float (*score)(const FormField &field) = nullptr;
-    QString value;
-    bool isPassword = false;
-};
-
-/// Decides what a field receives: the value of the first rule that scores above 0.0. With a gate,
-/// only a field that the gate accepts is asked about.
-struct FieldDispatcher
-{
-    float (*gate)(const FormField &field) = nullptr;
-    QVector<FieldRule> rules;
-};
+/// The value for a field, in the shape that it wants; empty when the item has none.
+using ValueAt = std::function<QString(const FieldPlace &place)>;
 
 /// Walks the forms of a page, then its fields outside any form (as form "none"), and gives each
-/// field what the dispatcher decides. A form that receives nothing is left out, and so is a field
-/// whose value is empty: what the user typed there stays. The page may be of any shape.
-QVector<FilledForm> fillForms(const QJsonObject &page, const FieldDispatcher &dispatcher);
+/// field that the action fills its value. A form that receives nothing is left out, and so is a
+/// field whose value is empty: what the user typed there stays. The page may be of any shape.
+QVector<FilledForm> fillForms(const QJsonObject &page, FillAction action, const ValueAt &valueAt);
 
 /// {"formUid", "elements": [{"opid", "gpmid", "value"}]}
 QJsonObject toFillInstruction(const FilledForm &form);

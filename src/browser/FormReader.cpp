@@ -48,9 +48,10 @@ private:
     static bool isDatePart(FieldKind kind)
     {
         static const QVector<FieldKind> parts = {
-            FieldKind::SomeDay,   FieldKind::SomeMonth, FieldKind::SomeYear,  FieldKind::SomeDate,
-            FieldKind::BirthDate, FieldKind::BirthDay,  FieldKind::BirthMonth, FieldKind::BirthYear,
-            FieldKind::CardExpiry, FieldKind::CardMonth, FieldKind::CardYear};
+            FieldKind::SomeDay,    FieldKind::SomeMonth, FieldKind::SomeYear,
+            FieldKind::SomeDate,   FieldKind::BirthDate, FieldKind::BirthDay,
+            FieldKind::BirthMonth, FieldKind::BirthYear, FieldKind::CardExpiry,
+            FieldKind::CardMonth,  FieldKind::CardYear};
         return parts.contains(kind);
     }
 
@@ -62,9 +63,10 @@ private:
     /// Whether one of the fields close by is for a card, its date left aside.
     bool isNearCard(int at) const
     {
-        static const QVector<FieldKind> telling = {
-            FieldKind::CardHolder, FieldKind::CardNumber, FieldKind::CardCode,  FieldKind::CardType,
-            FieldKind::CardMonth,  FieldKind::CardYear,   FieldKind::CardFirstName};
+        static const QVector<FieldKind> telling = {FieldKind::CardHolder,   FieldKind::CardNumber,
+                                                   FieldKind::CardCode,     FieldKind::CardType,
+                                                   FieldKind::CardMonth,    FieldKind::CardYear,
+                                                   FieldKind::CardFirstName};
         for (int i = qMax(0, at - near); i <= at + near; ++i) {
             if (i != at && telling.contains(kindAt(i)))
                 return true;
@@ -75,8 +77,8 @@ private:
     /// A field without a word of its own, which belongs to the one before it.
     bool isSilent(int i) const
     {
-        return i < m_fields.size() && !reading(i).hasText && !m_fields.at(i).isPassword()
-               && (m_fields.at(i).isLine() || m_fields.at(i).isSelect());
+        return i < m_fields.size() && !reading(i).hasText && !m_fields.at(i).isPassword() &&
+               (m_fields.at(i).isLine() || m_fields.at(i).isSelect());
     }
 
     bool isOpen(int i) const
@@ -175,18 +177,21 @@ void Reader::readDate(int at)
     const FieldKind before = kindAt(at - 1);
     const bool followsBirth = before >= FieldKind::BirthDate && before <= FieldKind::BirthYear;
     const bool isCard = isCardKind(kind) || reading(at).says(FieldKind::CardExpiry);
-    const bool isBirth = !isCard
-                         && (isIdentityKind(kind) || followsBirth
-                             || reading(at).says(FieldKind::BirthDate)
-                             || captionKindOf(field.heading()) == CaptionKind::Birth);
+    const bool isBirth = !isCard && (isIdentityKind(kind) || followsBirth ||
+                                     reading(at).says(FieldKind::BirthDate) ||
+                                     captionKindOf(field.heading()) == CaptionKind::Birth);
     if (!isBirth && !isCard && !isNearCard(at)) {
         m_kinds[at] = FieldKind::Other;
         return;
     }
-    const FieldKind part = datePart(at, isBirth);
+    FieldKind part = datePart(at, isBirth);
+    // A short list of days looks like one of months.
+    if (part == FieldKind::BirthMonth && at + 1 < m_fields.size() && isBirth &&
+        m_fields.at(at).isSelect() && datePart(at + 1, true) == FieldKind::BirthMonth)
+        part = FieldKind::BirthDay;
     const bool isShort = field.isSelect() || (field.maxLength() > 0 && field.maxLength() <= 4);
-    if (part != FieldKind::Unknown && (isVagueKind(kind) || isShort || isSilent(at + 1)
-                                       || part == kind || reading(at).also.contains(part))) {
+    if (part != FieldKind::Unknown && (isVagueKind(kind) || isShort || isSilent(at + 1) ||
+                                       part == kind || reading(at).also.contains(part))) {
         m_kinds[at] = part;
     } else if (!isBirth && (field.isSelect() || field.maxLength() == 2)) {
         m_kinds[at] = before == FieldKind::CardMonth ? FieldKind::CardYear : FieldKind::CardMonth;
@@ -254,8 +259,8 @@ void Reader::readVague(int at)
                                                                     : FieldKind::Other;
         return;
     case FieldKind::SomeCode:
-        m_kinds[at] = isNearCard(at) && !has(FieldKind::CardCode) ? FieldKind::CardCode
-                                                                  : FieldKind::Other;
+        m_kinds[at] =
+            isNearCard(at) && !has(FieldKind::CardCode) ? FieldKind::CardCode : FieldKind::Other;
         return;
     default:
         return;
@@ -288,8 +293,7 @@ FormSurroundings FormSurroundings::of(const QJsonObject &form, const QString &pa
         around.captions.append(button.toString());
     around.captions.append(text("title"));
     const QJsonArray fields = form.value(QLatin1String("fields")).toArray();
-    const QString heading =
-        fields.first().toObject().value(QLatin1String("heading")).toString();
+    const QString heading = fields.first().toObject().value(QLatin1String("heading")).toString();
     around.captions += {heading, text("id"), text("name"), pageTitle};
     return around;
 }

@@ -1,17 +1,14 @@
 #include "LoginForms.h"
 
-#include "LoginClassifiers.h"
-
 QVector<FilledForm> fillPasswordForms(const QJsonObject &page, const QString &password)
 {
-    return fillForms(page, {nullptr, {{passwordScore, password, true}}});
+    return fillForms(page, FillAction::PlacePassword, [&](const FieldPlace &) { return password; });
 }
 
 QVector<FilledForm> fillLoginForms(const QJsonObject &page, const QString &login,
                                    const QString &password)
 {
-    return fillForms(page, {visibleFieldScore,
-                            {{loginNameScore, login, false},
-                             {namedPasswordScore, password, true},
-                             {visiblePasswordScore, password, true}}});
+    return fillForms(page, FillAction::Login, [&](const FieldPlace &place) {
+        return place.kind() == FieldKind::Password ? password : login;
+    });
 }

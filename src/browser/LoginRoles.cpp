@@ -7,6 +7,7 @@
 namespace {
 
 constexpr int mostNewsletterFields = 3;
+constexpr int mostBesideLogin = 2;
 
 CaptionKind purposeOf(const FormSurroundings &around)
 {
@@ -23,11 +24,12 @@ CaptionKind purposeOf(const FormSurroundings &around)
 
 QVector<int> passwordsIn(const QVector<FormField> &fields, const QVector<FieldKind> &kinds)
 {
-    static const QVector<FieldKind> passwords = {
-        FieldKind::Password, FieldKind::CurrentPassword, FieldKind::NewPassword};
+    static const QVector<FieldKind> passwords = {FieldKind::Password, FieldKind::CurrentPassword,
+                                                 FieldKind::NewPassword};
     QVector<int> found;
     for (int i = 0; i < fields.size(); ++i) {
-        if (fields.at(i).isPassword() && fields.at(i).isVisible() && passwords.contains(kinds.at(i)))
+        if (fields.at(i).isPassword() && fields.at(i).isVisible() &&
+            passwords.contains(kinds.at(i)))
             found.append(i);
     }
     return found;
@@ -45,8 +47,9 @@ void assignSinglePassword(int at, CaptionKind purpose, QVector<FieldKind> &kinds
 {
     if (kinds.at(at) == FieldKind::NewPassword)
         return;
-    const bool isChosen = purpose == CaptionKind::SignUp || purpose == CaptionKind::ChangePassword
-                          || (purpose != CaptionKind::SignIn && asksForPerson(kinds));
+    const bool isChosen = purpose == CaptionKind::SignUp ||
+                          purpose == CaptionKind::ChangePassword ||
+                          (purpose != CaptionKind::SignIn && asksForPerson(kinds));
     const bool isAskedFor = kinds.at(at) == FieldKind::CurrentPassword || !isChosen;
     kinds[at] = isAskedFor ? FieldKind::Password : FieldKind::NewPassword;
 }
@@ -54,8 +57,8 @@ void assignSinglePassword(int at, CaptionKind purpose, QVector<FieldKind> &kinds
 /// "New password" beside a plain "password" makes that the old one; its confirmation does not.
 bool isOldBeside(const FieldReading &first, const FieldReading &second, CaptionKind purpose)
 {
-    return purpose == CaptionKind::ChangePassword && first.kind == FieldKind::Password
-           && second.kind == FieldKind::NewPassword;
+    return purpose == CaptionKind::ChangePassword && first.kind == FieldKind::Password &&
+           second.kind == FieldKind::NewPassword;
 }
 
 void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> &readings,
@@ -153,8 +156,14 @@ void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReadi
         userName = findUserName(fields, readings, kinds, fields.size());
     // A name that is being chosen is none of ours.
     std::replace(kinds.begin(), kinds.end(), FieldKind::UserName, FieldKind::Other);
-    if (userName >= 0)
-        kinds[userName] = FieldKind::UserName;
+    if (userName < 0)
+        return;
+    kinds[userName] = FieldKind::UserName;
+    // A surname asked for beside the password is part of the login. Where there is more, one form
+    // holds the whole page.
+    const auto ofPerson = std::count_if(kinds.begin(), kinds.end(), isIdentityKind);
+    if (ofPerson <= mostBesideLogin)
+        std::replace_if(kinds.begin(), kinds.end(), isIdentityKind, FieldKind::Other);
 }
 
 bool isNewsletter(const QVector<FormField> &fields, const FormSurroundings &around)
@@ -165,6 +174,6 @@ bool isNewsletter(const QVector<FormField> &fields, const FormSurroundings &arou
             return false;
         lines += field.isLine() && field.isVisible() ? 1 : 0;
     }
-    return lines > 0 && lines <= mostNewsletterFields
-           && purposeOf(around) == CaptionKind::Newsletter;
+    return lines > 0 && lines <= mostNewsletterFields &&
+           purposeOf(around) == CaptionKind::Newsletter;
 }

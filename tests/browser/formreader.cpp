@@ -17,10 +17,11 @@ QString nameOf(FieldKind kind)
 {
     static const QHash<int, QString> names = [] {
         const QStringList list =
-            QStringLiteral("unknown never other username password new-password cc-first cc-last "
-                           "cc-name cc-number cc-csc cc-month cc-year cc-exp cc-type first last name "
-                           "country state city line1 line2 house zip email tel tel-code tel-local "
-                           "bday bday-day bday-month bday-year sex company job site")
+            QStringLiteral(
+                "unknown never other username password new-password cc-first cc-last "
+                "cc-name cc-number cc-csc cc-month cc-year cc-exp cc-type first last name "
+                "country state city line1 line2 house zip email tel tel-code tel-local "
+                "bday bday-day bday-month bday-year sex company job site")
                 .split(QLatin1Char(' '));
         QHash<int, QString> byKind;
         for (int i = 0; i < list.size(); ++i)
@@ -66,8 +67,7 @@ int main()
 {
     std::string line;
     while (std::getline(std::cin, line)) {
-        const QJsonObject page =
-            QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
+        const QJsonObject page = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
         const QString title = page.value(QLatin1String("title")).toString();
         QJsonObject answer;
         const QJsonArray forms = page.value(QLatin1String("forms")).toArray();

@@ -15,13 +15,19 @@ function isOthers(node, field) {
   return Boolean(fieldType(node)) || !fieldsUnder(node).next().done;
 }
 
+// In the row above only the cell of the same column speaks of the field.
+function sameColumn(row, field) {
+  const column = row.tagName === 'TR' ? field.closest('td, th')?.cellIndex : undefined;
+  return row.cells?.length > 1 && column !== undefined ? (row.cells[column] ?? row) : row;
+}
+
 function textBeside(field, side, levels) {
   let node = field;
   for (let level = 0; node && level < levels; level += 1, node = parentOf(node)) {
     if (node.tagName === 'FORM' || node.tagName === 'BODY') return '';
     for (let beside = node[NEXT[side]]; beside; beside = beside[NEXT[side]]) {
       if (isOthers(beside, field)) return '';
-      const text = textOf(beside, NO_CAPTION);
+      const text = textOf(sameColumn(beside, field), NO_CAPTION);
       if (text) return text;
     }
   }

@@ -1,0 +1,187 @@
+#include "DateShape.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+/// The longest pattern that is tried: a page's own expression may be slow on purpose.
+constexpr int longestPattern = 100;
+
+QStringList hintsOf(const FormField &field)
+{
+    return QStringList(field.placeholder()) + field.readTexts();
+}
+
+/// A run of one letter that stands for a part of a date, such as "MM" or "JJJJ".
+struct Run
+{
+    QChar letter;
+    int length = 0;
+
+    bool isMonth() const { return letter == QLatin1Char('m') || letter == QChar(0x43C); }
+    bool isYear() const
+    {
+        static const QString years = QStringLiteral("yaг");
+        return length == 4 || years.contains(letter);
+    }
+};
+
+struct Shape
+{
+    QVector<Run> runs;
+    QString separator;
+};
+
+/// "TT.MM.JJJJ" and its like as runs and what stands between them; empty when the text has none of
+/// that many parts.
+Shape shapeIn(const QString &text, int parts)
+{
+    static const QRegularExpression mask(
+        QStringLiteral("(?<!\\pL)([dtjдmмyaг])\\1{0,3}\\s*([./-]?)\\s*([dtjдmмyaг])\\3{0,3}"
+                       "(?:\\s*([./-]?)\\s*([dtjдmмyaг])\\5{0,3})?(?!\\pL)"));
+    static const QRegularExpression run(QStringLiteral("([dtjдmмyaг])\\1*"));
+    const QRegularExpressionMatch found = mask.match(text.toLower());
+    Shape shape;
+    if (!found.hasMatch())
+        return shape;
+    auto each = run.globalMatch(found.captured());
+    while (each.hasNext()) {
+        const QString letters = each.next().captured();
+        shape.runs.append({letters.at(0), letters.size()});
+    }
+    shape.separator = found.captured(2);
+    if (shape.runs.size() != parts)
+        return {};
+    return shape;
+}
+
+Shape shapeOf(const FormField &field, int parts)
+{
+    const QStringList hints = hintsOf(field);
+    for (const QString &hint : hints) {
+        const Shape shape = shapeIn(hint, parts);
+        const auto months = std::count_if(shape.runs.begin(), shape.runs.end(),
+                                          [](const Run &run) { return run.isMonth(); });
+        if (months == 1)
+            return shape;
+    }
+    return {};
+}
+
+QString part(const Run &run, const PMFieldTypes::Date &date)
+{
+    if (run.isMonth())
+        return twoFigures(date.month);
+    if (run.isYear())
+        return run.length == 2 ? twoFigures(date.year % 100) : QString::number(date.year);
+    return twoFigures(date.day);
+}
+
+QString inShape(const Shape &shape, const PMFieldTypes::Date &date)
+{
+    QStringList parts;
+    for (const Run &run : shape.runs)
+        parts.append(part(run, date));
+    return parts.join(shape.separator);
+}
+
+QString firstThatGoes(const FormField &field, const QStringList &texts)
+{
+    for (const QString &text : texts) {
+        if (fits(field, text) && matchesPattern(field, text))
+            return text;
+    }
+    return fits(field, texts.first()) ? texts.first() : QString();
+}
+
+} // namespace
+
+QString twoFigures(int number)
+{
+    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+bool fits(const FormField &field, const QString &text)
+{
+    return field.maxLength() <= 0 || text.size() <= field.maxLength();
+}
+
+bool matchesPattern(const FormField &field, const QString &text)
+{
+    if (field.pattern().isEmpty() || field.pattern().size() > longestPattern)
+        return true;
+    const QRegularExpression pattern(QStringLiteral("^(?:%1)$").arg(field.pattern()));
+    return !pattern.isValid() || pattern.match(text).hasMatch();
+}
+
+QString yearText(int year, const FormField &field)
+{
+    static const QRegularExpression twoLetters(QStringLiteral("(?<!\\pL)(yy|jj|aa|гг)(?!\\pL)"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    const QStringList hints = hintsOf(field);
+    const bool isShort = field.maxLength() == 2 || hints.indexOf(twoLetters) >= 0 ||
+                         field.placeholder().trimmed().size() == 2;
+    return isShort && !field.isSelect() ? twoFigures(year % 100) : QString::number(year);
+}
+
+QString expiryText(const PMFieldTypes::Date &date, const FormField &field)
+{
+    if (date.year == 0 || date.month == 0)
+        return {};
+    const QString month = twoFigures(date.month);
+    const QString year = QString::number(date.year);
+    const QString shortYear = twoFigures(date.year % 100);
+    if (field.inputType() == QLatin1String("month"))
+        return year + QLatin1Char('-') + month;
+    QStringList texts = {month + QLatin1Char('/') + shortYear,
+                         month + QLatin1Char('/') + year,
+                         month + shortYear,
+                         month + year,
+                         month + QLatin1Char('-') + shortYear,
+                         year + QLatin1Char('-') + month};
+    switch (field.maxLength()) {
+    case 6:
+        texts.move(3, 0);
+        break;
+    case 7:
+        texts.move(1, 0);
+        break;
+    default:
+        break;
+    }
+    const Shape shape = shapeOf(field, 2);
+    if (!shape.runs.isEmpty())
+        texts.prepend(inShape(shape, date));
+    return firstThatGoes(field, texts);
+}
+
+QString birthText(const PMFieldTypes::Date &date, const FormField &field, const QString &language)
+{
+    if (date.year == 0 || date.month == 0 || date.day == 0)
+        return {};
+    const QString day = twoFigures(date.day);
+    const QString month = twoFigures(date.month);
+    const QString year = QString::number(date.year);
+    const QString iso = QStringLiteral("%1-%2-%3").arg(year, month, day);
+    if (field.inputType() == QLatin1String("date"))
+        return iso;
+    const QString dotted = QStringLiteral("%1.%2.%3").arg(day, month, year);
+    const QString slashed = QStringLiteral("%1/%2/%3").arg(day, month, year);
+    const QString american = QStringLiteral("%1/%2/%3").arg(month, day, year);
+    QStringList texts = {iso, dotted, slashed, american};
+    const QString family = language.section(QLatin1Char('-'), 0, 0).toLower();
+    if (family == QLatin1String("de") || family == QLatin1String("ru"))
+        texts.prepend(dotted);
+    else if (family == QLatin1String("es") || family == QLatin1String("fr"))
+        texts.prepend(slashed);
+    else if (language.compare(QLatin1String("en-US"), Qt::CaseInsensitive) == 0)
+        texts.prepend(american);
+    else if (language.startsWith(QLatin1String("en-"), Qt::CaseInsensitive))
+        texts.prepend(slashed);
+    const Shape shape = shapeOf(field, 3);
+    if (!shape.runs.isEmpty())
+        texts.prepend(inShape(shape, date));
+    return firstThatGoes(field, texts);
+}
