@@ -219,5 +219,6 @@ FieldReading readField(const FormField &field)
     reading.also.append(reading.kind);
     reading.kind = told;
     reading.hasText = true;
+    reading.isTold = true;
     return reading;
 }

@@ -1,5 +1,12 @@
 #include "FormField.h"
 
+namespace {
+
+/// No page describes a field in so many letters; one that does shall not keep the program busy.
+constexpr int longestText = 1000;
+
+} // namespace
+
 bool FormField::hasType(const QStringList &types) const
 {
     const QString type = text("type");
@@ -56,7 +63,7 @@ QVector<FormField::Option> FormField::options() const
 
 QString FormField::text(const char *key) const
 {
-    return m_object.value(QLatin1String(key)).toString();
+    return m_object.value(QLatin1String(key)).toString().left(longestText);
 }
 
 QString FormField::attribute(const char *key, const char *sourceKey) const

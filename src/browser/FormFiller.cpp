@@ -7,7 +7,7 @@
 namespace {
 
 /// More fields than the extension ever reports.
-constexpr int mostFields = 20000;
+constexpr int mostFields = 200000;
 
 QVector<FormField> fieldsOf(const QJsonArray &entries)
 {

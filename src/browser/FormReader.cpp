@@ -10,7 +10,10 @@
 
 namespace {
 
+/// How many fields away a neighbour still counts.
 constexpr int near = 4;
+constexpr int mostButtons = 4;
+constexpr int longestCaption = 300;
 
 /// Reads the fields of a form one after another, each with what is known of those around it.
 class Reader
@@ -33,7 +36,7 @@ public:
         for (int i = 0; i < m_fields.size(); ++i) {
             if (m_fields.at(i).isRadio())
                 m_kinds[i] = radioKind(i);
-            else if (isDatePart(m_kinds.at(i)))
+            else if (isDatePart(m_kinds.at(i)) && !reading(i).isTold)
                 readDate(i);
         }
         for (int i = 0; i < m_fields.size(); ++i)
@@ -240,7 +243,7 @@ void Reader::readNeighbours(int at)
     case FieldKind::CardExpiry:
     case FieldKind::CardMonth:
     case FieldKind::CardYear:
-        if (!has(FieldKind::CardNumber) && !isNearCard(at))
+        if (!reading(at).isTold && !has(FieldKind::CardNumber) && !isNearCard(at))
             m_kinds[at] = FieldKind::Other;
         return;
     default:
@@ -287,14 +290,15 @@ FieldKind Reader::plainName(int at) const
 FormSurroundings FormSurroundings::of(const QJsonObject &form, const QString &pageTitle)
 {
     FormSurroundings around;
-    const auto text = [&](const char *key) { return form.value(QLatin1String(key)).toString(); };
+    const auto line = [](const QJsonValue &value) { return value.toString().left(longestCaption); };
+    const auto text = [&](const char *key) { return line(form.value(QLatin1String(key))); };
     const QJsonArray buttons = form.value(QLatin1String("buttons")).toArray();
-    for (const QJsonValue &button : buttons)
-        around.captions.append(button.toString());
+    for (int i = 0; i < qMin(mostButtons, buttons.size()); ++i)
+        around.captions.append(line(buttons.at(i)));
     around.captions.append(text("title"));
     const QJsonArray fields = form.value(QLatin1String("fields")).toArray();
     const QString heading = fields.first().toObject().value(QLatin1String("heading")).toString();
-    around.captions += {heading, text("id"), text("name"), pageTitle};
+    around.captions += {line(heading), text("id"), text("name"), pageTitle.left(longestCaption)};
     return around;
 }
 

@@ -1,0 +1,371 @@
+#include "FieldClassifiers.h"
+#include "FormAnalysis.h"
+#include "ItemForms.h"
+#include "LoginForms.h"
+#include "PMCreditCard.h"
+#include "PMIdentity.h"
+
+#include <QJsonDocument>
+#include <QTest>
+
+Q_DECLARE_METATYPE(FillAction)
+Q_DECLARE_METATYPE(FieldKind)
+
+namespace {
+
+QJsonObject json(const QByteArray &text)
+{
+    return QJsonDocument::fromJson(text).object();
+}
+
+/// The values of all fields, in the order of the page; "-" for a field that receives none.
+QString valuesOf(const QVector<FilledForm> &forms, int count)
+{
+    QStringList values;
+    for (int i = 0; i < count; ++i)
+        values.append(QStringLiteral("-"));
+    for (const FilledForm &form : forms) {
+        for (const FilledForm::Field &field : form.fields)
+            values[field.opid.toInt()] = field.value;
+    }
+    return values.join(QLatin1Char('|'));
+}
+
+/// A page of fields as the extension reports them: visible lines of text unless they say otherwise.
+QJsonObject pageOf(const QByteArray &list, const char *language = "en")
+{
+    QJsonArray fields = QJsonDocument::fromJson("[" + list + "]").array();
+    for (int i = 0; i < fields.size(); ++i) {
+        QJsonObject field = fields.at(i).toObject();
+        field.insert(QStringLiteral("opid"), QString::number(i));
+        const QVector<QPair<QString, QJsonValue>> usual = {
+            {QStringLiteral("type"), QStringLiteral("text")},
+            {QStringLiteral("visible"), true},
+            {QStringLiteral("autocomplete"), QString()}};
+        for (const auto &pair : usual) {
+            if (!field.contains(pair.first))
+                field.insert(pair.first, pair.second);
+        }
+        fields.replace(i, field);
+    }
+    return {{QStringLiteral("language"), QLatin1String(language)},
+            {QStringLiteral("elements"), fields}};
+}
+
+int fieldsIn(const QJsonObject &page)
+{
+    return page.value(QLatin1String("elements")).toArray().size();
+}
+
+void fillIn(PMCreditCard &card)
+{
+    card.setCardholder(QStringLiteral("Ana Maria Lind"));
+    card.setNumber(QStringLiteral("4111 1111 1111 1111"));
+    card.setCode(QStringLiteral("123"));
+    card.setExpire({2029, 9, 0});
+}
+
+void fillIn(PMIdentity &identity)
+{
+    identity.setFirstName(QStringLiteral("Ana"));
+    identity.setLastName(QStringLiteral("Lind"));
+    identity.setBirthDate({1990, 2, 1});
+    identity.setGender(PMFieldTypes::Gender::Female);
+    identity.setEmail(QStringLiteral("ana@example.com"));
+    identity.setCountry(QStringLiteral("Germany"));
+    identity.setState(QStringLiteral("Hesse"));
+    identity.setCity(QStringLiteral("Kassel"));
+    identity.setZipCode(QStringLiteral("34117"));
+    identity.setAddressLine1(QStringLiteral("Lange Straße 12 b"));
+    identity.setAddressLine2(QStringLiteral("Hinterhaus"));
+    identity.setPhone({QStringLiteral("49"), QStringLiteral("561 12345")});
+    identity.setPhoneCell({QStringLiteral("49"), QStringLiteral("170 999")});
+}
+
+} // namespace
+
+class TestFormAnalysis : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesAlone_data();
+    void namesAlone();
+    void cardShapes_data();
+    void cardShapes();
+    void identityShapes_data();
+    void identityShapes();
+    void veto_data();
+    void veto();
+    void layers();
+    void badInput();
+};
+
+// Fields of which only the old keys are known: their type and name, the action, what they are taken
+// for.
+void TestFormAnalysis::namesAlone_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<FillAction>("action");
+    QTest::addColumn<FieldKind>("kind");
+    const auto row = [](const char *type, const char *name, FillAction action, FieldKind kind) {
+        QTest::addRow("%s %s %d", type, name, static_cast<int>(action))
+            << QString::fromUtf8(type) << QString::fromUtf8(name) << action << kind;
+    };
+    const auto card = FillAction::CreditCard;
+    row("text", "first_name", card, FieldKind::CardFirstName);
+    row("TEXT", "LNAME", card, FieldKind::CardLastName);
+    row("text", "fullname", card, FieldKind::CardLastName);
+    row("password", "cvv2", card, FieldKind::CardCode);
+    row("number", "securecode", card, FieldKind::CardCode);
+    row("text", "card_code", card, FieldKind::CardCode);
+    row("text", "promo_code", card, FieldKind::Unknown);
+    row("text", "card", card, FieldKind::Unknown);
+    row("text", "cardno", card, FieldKind::CardNumber);
+    row("text", "company_number", card, FieldKind::Unknown);
+    row("select-one", "number", card, FieldKind::Unknown);
+    row("text", "username", card, FieldKind::CardHolder);
+    row("select-one", "expirMonth", card, FieldKind::CardMonth);
+    row("text", "valid-year", card, FieldKind::CardYear);
+    row("select-one", "srokm", card, FieldKind::CardMonth);
+    row("select-one", "sroky", card, FieldKind::CardYear);
+    row("select-one", "month", card, FieldKind::Unknown);
+    row("text", "expiration", card, FieldKind::CardExpiry);
+    row("text", "delivery_date", card, FieldKind::Unknown);
+    const auto identity = FillAction::Identity;
+    row("text", "card-holder-first", identity, FieldKind::FirstName);
+    row("text", "Фамилия", identity, FieldKind::LastName);
+    row("text", "country_code", identity, FieldKind::Country);
+    row("text", "gorod", identity, FieldKind::City);
+    row("text", "state", identity, FieldKind::State);
+    row("text", "adres1", identity, FieldKind::AddressLine1);
+    row("text", "address2", identity, FieldKind::AddressLine2);
+    row("text", "zip_code", identity, FieldKind::PostalCode);
+    row("email", "email", identity, FieldKind::Email);
+    row("tel", "phone", identity, FieldKind::Unknown);
+    row("text", "telephone", identity, FieldKind::Phone);
+    row("text", "birthdate", identity, FieldKind::BirthDate);
+    row("select-one", "birth_month", identity, FieldKind::BirthMonth);
+    row("select-one", "birth_year", identity, FieldKind::BirthYear);
+    row("select-one", "year", identity, FieldKind::Unknown);
+    row("radio", "gender", identity, FieldKind::Gender);
+    row("checkbox", "gender", identity, FieldKind::Unknown);
+    row("select-one", "country", identity, FieldKind::Unknown);
+}
+
+void TestFormAnalysis::namesAlone()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, name);
+    QFETCH(FillAction, action);
+    const FormField field({{QStringLiteral("type"), type}, {QStringLiteral("name"), name}});
+    QTEST(kindOfNames(field, action), "kind");
+    QTEST(analyseForm({field}, {}, action).first(), "kind");
+}
+
+void TestFormAnalysis::cardShapes_data()
+{
+    QTest::addColumn<QByteArray>("fields");
+    QTest::addColumn<QString>("values");
+    const auto row = [](const char *fields, const char *values) {
+        QTest::addRow("%s", fields) << QByteArray(fields) << QString::fromUtf8(values);
+    };
+    const auto expiry = [&](const char *members, const char *value) {
+        QTest::addRow("%s", members) << QByteArray("{\"autocomplete\":\"cc-exp\",") + members + "}"
+                                     << QString::fromUtf8(value);
+    };
+    expiry(R"("label":"Expiry")", "09/29");
+    expiry(R"("placeholder":"MM / YY")", "09/29");
+    expiry(R"("placeholder":"MM/YYYY")", "09/2029");
+    expiry(R"("label":"Expires, YYYY-MM")", "2029-09");
+    expiry(R"("label":"Exp. date [MMYY]", "maxlength":4)", "0929");
+    expiry(R"("label":"Gültig bis: MM/JJJJ")", "09/2029");
+    expiry(R"("placeholder":"ММ/ГГ")", "09/29");
+    expiry(R"("placeholder":"MM/AA")", "09/29");
+    expiry(R"("maxlength":4)", "0929");
+    expiry(R"("maxlength":7)", "09/2029");
+    expiry(R"("pattern":"\\d{2}/\\d{4}")", "09/2029");
+    expiry(R"("pattern":"(0[1-9]|1[0-2])[0-9]{2}")", "0929");
+    expiry(R"("inputtype":"month")", "2029-09");
+    expiry(R"("maxlength":3)", "-");
+    row(R"({"label":"Card number"}, {"label":"Month","placeholder":"MM"}, {"label":"Year","maxlength":2})",
+        "4111111111111111|09|29");
+    row(R"({"label":"Number"}, {"label":"Expiry","type":"select-one"}, {"type":"select-one"}, {"label":"CVC"})",
+        "4111111111111111|09|2029|123");
+    row(R"({"label":"Card number","maxlength":4}, {"maxlength":4}, {"maxlength":4}, {"maxlength":4})",
+        "4111|1111|1111|1111");
+    row(R"({"label":"Card number","placeholder":"0000 0000 0000 0000"})", "4111 1111 1111 1111");
+    row(R"({"label":"Card number","placeholder":"0000 0000 0000 0000","maxlength":16})",
+        "4111111111111111");
+    row(R"({"label":"Card number","pattern":"(\\d{4} ?){4}"})", "4111111111111111");
+    row(R"({"label":"Card number","maxlength":10})", "-");
+    row(R"({"label":"Card number"}, {"label":"CVV","maxlength":2})", "4111111111111111|-");
+    row(R"({"label":"First name on card"}, {"label":"Last name on card"}, {"label":"Card number"})",
+        "Ana Maria|Lind|4111111111111111");
+    row(R"({"label":"Card type","type":"select-one","options":[{"text":"MasterCard","value":"m"},{"text":"VISA","value":"v"}]},
+            {"label":"Card number","isFilled":true}, {"label":"Name on card","isFixed":true})",
+        "VISA|-|-");
+}
+
+void TestFormAnalysis::cardShapes()
+{
+    QFETCH(QByteArray, fields);
+    PMCreditCard card;
+    fillIn(card);
+    const QJsonObject page = pageOf(fields);
+    QTEST(valuesOf(fillCardForms(page, card), fieldsIn(page)), "values");
+}
+
+void TestFormAnalysis::identityShapes_data()
+{
+    QTest::addColumn<QByteArray>("fields");
+    QTest::addColumn<QByteArray>("language");
+    QTest::addColumn<QString>("values");
+    const auto row = [](const char *fields, const char *values, const char *language = "en") {
+        QTest::addRow("%s %s", language, fields)
+            << QByteArray(fields) << QByteArray(language) << QString::fromUtf8(values);
+    };
+    row(R"({"label":"Full name"})", "Ana Lind");
+    row(R"({"label":"ФИО"})", "Lind Ana", "ru");
+    row(R"({"label":"Vorname"}, {"label":"Name"})", "Ana|Lind", "de");
+    row(R"({"label":"Country"}, {"label":"Country","maxlength":2})", "Germany|DE");
+    row(R"({"label":"Straße"}, {"label":"Nr."})", "Lange Straße|12 b", "de");
+    row(R"({"label":"Straße und Hausnummer"})", "Lange Straße 12 b", "de");
+    row(R"({"label":"Address","type":"textarea"})", "Lange Straße 12 b\nHinterhaus");
+    row(R"({"label":"Phone"})", "+49 561 12345");
+    row(R"({"label":"Mobile phone"})", "+49 170 999");
+    row(R"({"label":"Phone","pattern":"\\+?[0-9]+"})", "+4956112345");
+    row(R"({"label":"Phone","placeholder":"(000) 000-0000"})", "561 12345");
+    row(R"({"label":"Phone","maxlength":9})", "561 12345");
+    row(R"({"label":"Phone code","type":"select-one","options":[{"text":"France +33","value":"fr"},{"text":"Germany +49 ","value":"de"}]},
+            {"label":"Phone number"})",
+        "Germany +49 |561 12345");
+    row(R"({"label":"Dialling code"}, {"label":"Mobile number"})", "+49|170 999");
+    const char *dates[][3] = {
+        {"DD/MM/YYYY", "en", "01/02/1990"}, {"MM/DD/YYYY", "en", "02/01/1990"},
+        {"TT.MM.JJJJ", "de", "01.02.1990"}, {"JJ/MM/AAAA", "fr", "01/02/1990"},
+        {"дд.мм.гггг", "ru", "01.02.1990"}, {"yyyy-mm-dd", "en", "1990-02-01"},
+        {"", "de", "01.02.1990"},           {"", "en-US", "02/01/1990"},
+        {"", "en-GB", "01/02/1990"},        {"", "en", "1990-02-01"}};
+    for (const auto &date : dates) {
+        const QByteArray field =
+            QByteArray("{\"label\":\"Date of birth\",\"placeholder\":\"") + date[0] + "\"}";
+        row(field.constData(), date[2], date[1]);
+    }
+    row(R"({"label":"Date of birth","inputtype":"date"})", "1990-02-01", "de");
+    row(R"({"heading":"Date of birth","label":"Day"}, {"heading":"Date of birth","label":"Month"}, {"heading":"Date of birth","label":"Year"})",
+        "01|02|1990");
+    row(R"({"label":"Anrede","type":"select-one","options":[{"text":"Herr","value":"1"},{"text":"Frau","value":"2"}]})",
+        "Frau", "de");
+    row(R"({"label":"Male","type":"radio","name":"g","value":"1"}, {"label":"Female","type":"radio","name":"g","value":"2"})",
+        "-|2");
+    row(R"({"label":"Geschlecht"})", "weiblich", "de");
+    row(R"({"label":"City"}, {"label":"Zip","isFilled":true}, {"label":"Email","isFixed":true})",
+        "Kassel|-|-");
+}
+
+void TestFormAnalysis::identityShapes()
+{
+    QFETCH(QByteArray, fields);
+    QFETCH(QByteArray, language);
+    PMIdentity identity;
+    fillIn(identity);
+    const QJsonObject page = pageOf(fields, language.constData());
+    QTEST(valuesOf(fillIdentityForms(page, identity), fieldsIn(page)), "values");
+}
+
+// What must stay empty, beside what is filled.
+void TestFormAnalysis::veto_data()
+{
+    QTest::addColumn<QByteArray>("fields");
+    QTest::addColumn<QString>("values");
+    const auto row = [](const char *fields, const char *values) {
+        QTest::addRow("%s", fields) << QByteArray(fields) << QString::fromUtf8(values);
+    };
+    const QByteArray password = R"(, {"type":"password","label":"Password"})";
+    const char *never[] = {
+        R"({"label":"Enter the code","autocomplete":"one-time-code","name":"user"})",
+        R"({"label":"User name","inputtype":"search"})",
+        R"({"label":"User name","isSearch":true})",
+        R"({"label":"User name","visible":false})",
+        R"({"label":"User name","isFixed":true})",
+        R"({"name":"login_captcha"})",
+        R"({"label":"What is 3 + 4?","name":"user"})",
+        R"({"label":"Gift card number"})",
+        R"({"label":"Security question","name":"login_answer"})"};
+    for (const char *field : never) {
+        QTest::addRow("%s", field) << QByteArray(field) + password << QStringLiteral("-|secret");
+    }
+    row(R"({"label":"E-mail"}, {"type":"password","label":"New password"})", "-|-");
+    row(R"({"label":"E-mail"}, {"type":"password","autocomplete":"new-password"})", "-|-");
+    row(R"({"type":"password","label":"Old password"}, {"type":"password","label":"New password"},
+            {"type":"password","label":"Repeat"})",
+        "secret|-|-");
+    row(R"({"type":"password","label":"Memorable answer"}, {"type":"password","label":"Password"})",
+        "-|secret");
+    row(R"({"label":"User name","isFilled":true}, {"type":"password","label":"Password"})",
+        "anna|secret");
+}
+
+void TestFormAnalysis::veto()
+{
+    QFETCH(QByteArray, fields);
+    const QJsonObject page = pageOf(fields);
+    const auto forms = fillLoginForms(page, QStringLiteral("anna"), QStringLiteral("secret"));
+    QTEST(valuesOf(forms, fieldsIn(page)), "values");
+}
+
+void TestFormAnalysis::layers()
+{
+    const auto kindOf = [](const char *members) {
+        const QJsonObject page = pageOf(members);
+        const QJsonObject field = page.value(QLatin1String("elements"))[0].toObject();
+        return analyseForm({FormField(field)}, {}, FillAction::Identity).first();
+    };
+    QCOMPARE(kindOf(R"({"autocomplete":"section-a shipping address-level2","name":"zip"})"),
+             FieldKind::City);
+    QCOMPARE(kindOf(R"({"autocomplete":"home fax tel","label":"Phone"})"), FieldKind::Unknown);
+    // The token of a password in a plain field is there only to keep others out.
+    QCOMPARE(kindOf(R"({"autocomplete":"new-password","label":"City"})"), FieldKind::City);
+    QCOMPARE(kindOf(R"({"name":"x_gorod_y"})"), FieldKind::City);
+    QCOMPARE(kindOf(R"({"name":"thetownhere"})"), FieldKind::City);
+    // A word in the name gives way to what a person reads.
+    QCOMPARE(kindOf(R"({"name":"countrycode","label":"Telephone"})"), FieldKind::Phone);
+    QCOMPARE(kindOf(R"({"name":"estate","label":"Quantity"})"), FieldKind::Unknown);
+    // A generated password goes where one is chosen, and leaves the old one alone.
+    const QJsonObject page = pageOf(R"({"type":"password","label":"Current password"},
+        {"type":"password","label":"New password"}, {"type":"password","label":"Confirm"})");
+    QCOMPARE(valuesOf(fillPasswordForms(page, QStringLiteral("new")), 3),
+             QStringLiteral("-|new|new"));
+}
+
+void TestFormAnalysis::badInput()
+{
+    PMIdentity identity;
+    fillIn(identity);
+    const QJsonObject wrong = json(R"({"title":[],"language":{},"forms":[{"buttons":{},"fields":[
+        {"autocomplete":7,"label":[],"options":"x","maxlength":"4","pattern":{},"visible":true,
+         "type":"text","name":"city"},
+        {"autocomplete":"","type":"select-one","visible":true,"options":[null,[],{"text":1}]},
+        {"autocomplete":"","type":"text","visible":true,"label":"Phone","maxlength":-4,
+         "pattern":"(((","opid":"0"}]}]})");
+    QCOMPARE(fillIdentityForms(wrong, identity).size(), 1);
+    const QString lone(QChar(0xD800));
+    const QString large = QString(1 << 22, QLatin1Char('a'));
+    for (const QString &text : {lone, large, QString(1 << 20, QLatin1Char('('))}) {
+        QJsonObject page = pageOf(R"({"label":"Phone"})");
+        QJsonObject field = page.value(QLatin1String("elements"))[0].toObject();
+        for (const char *key : {"placeholder", "pattern", "name", "heading", "textBefore"})
+            field.insert(QLatin1String(key), text);
+        page.insert(QStringLiteral("elements"), QJsonArray{field});
+        QVERIFY(!fillIdentityForms(page, identity).isEmpty());
+    }
+    QJsonArray many;
+    for (int i = 0; i < 100000; ++i)
+        many.append(QJsonObject{{QStringLiteral("type"), QStringLiteral("text")}});
+    QVERIFY(fillIdentityForms({{QStringLiteral("elements"), many}}, identity).isEmpty());
+}
+
+QTEST_APPLESS_MAIN(TestFormAnalysis)
+#include "tst_formanalysis.moc"
