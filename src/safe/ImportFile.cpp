@@ -311,7 +311,8 @@ void finishEntry(ImportEntry &entry, const QStringList &further)
     const QString address = entry.text("url").trimmed();
     if (!address.isEmpty()) {
         entry.set("url", withScheme(address));
-        if (!isWebAddress(entry.text("url"))) {
+        entry.addressInNote = !isWebAddress(entry.text("url"));
+        if (entry.addressInNote && (!named || entry.type != PMListItem::Login)) {
             entry.set("url", address);
             entry.fault = ImportEntry::NotAWebAddress;
             return;
@@ -322,6 +323,11 @@ void finishEntry(ImportEntry &entry, const QStringList &further)
         entry.set("title", host.isEmpty() ? entry.text("login") : host);
     }
     QStringList note = further;
+    if (entry.addressInNote) {
+        // The login of an app is worth keeping; there is no page to open.
+        entry.set("url", {});
+        note.append(QStringLiteral("address: %1").arg(address));
+    }
     if (!entry.text("note").isEmpty())
         note.prepend(entry.text("note"));
     // A secure note has its text in a field of its own.

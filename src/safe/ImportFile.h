@@ -14,7 +14,7 @@ struct ImportEntry
 {
     enum Fault {
         None,
-        NotAWebAddress, ///< its address belongs to an app or a file
+        NotAWebAddress, ///< all that names it is the address of an app or a file
         Empty,          ///< nothing that could be kept
         UnknownKind,
         WrongColumns ///< the row has more or fewer cells than the first one
@@ -26,6 +26,7 @@ struct ImportEntry
     /// In an export of this program, all that the item was; `fields` hold what differs.
     std::shared_ptr<const PMItemDocument> document = {};
     Fault fault = None;
+    bool addressInNote = false; ///< as it is none of a web page
 
     QString text(const char *property) const;
     void set(const char *property, const QVariant &value);

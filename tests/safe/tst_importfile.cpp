@@ -136,10 +136,10 @@ void TestImportFile::faults_data()
     const QByteArray head = "name,url,username,password\n";
     using Faults = QVector<ImportEntry::Fault>;
     QTest::newRow("address of an app")
-        << head + "Shop,android://key@com.shop/,ana,pw\nOk,shop.example,ana,pw\n"
+        << head + ",android://key@com.shop/,,pw\nOk,shop.example,ana,pw\n"
         << Faults{ImportEntry::NotAWebAddress, ImportEntry::None};
     QTest::newRow("scripts and files")
-        << head + "a,javascript://x/%0aalert(1),b,c\na,file:///etc,b,c\n"
+        << head + ",javascript://x/%0aalert(1),b,c\n,file:///etc,b,c\n"
         << Faults{ImportEntry::NotAWebAddress, ImportEntry::NotAWebAddress};
     QTest::newRow("cells missing") << head + "a,b\nMail,,ana,pw\n"
                                    << Faults{ImportEntry::WrongColumns, ImportEntry::None};
@@ -254,6 +254,9 @@ void TestImportFile::nothingIsLost_data()
     row("further columns of a browser",
         "url,username,password,totp,extra,name,grouping\na.example,ana,p,JBSW,,Mail,Work\n",
         "https://a.example", "totp: JBSW\ngrouping: Work");
+    row("login of an app",
+        "name,url,username,password,note\nShop,android://key@com.shop/,ana,pw,n\n", "",
+        "n\naddress: android://key@com.shop/");
     row("realm of Firefox",
         "url,username,password,httpRealm,formActionOrigin,guid\nhttps://a.example,ana,p,Staff,,{1}",
         "https://a.example", "httpRealm: Staff");

@@ -18,6 +18,7 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QStackedWidget>
+#include <QStandardPaths>
 
 #include <utility>
 
@@ -34,7 +35,8 @@ QSize scaled(const QSize &size)
 QString chooseFile(QWidget *parent)
 {
     return QFileDialog::getOpenFileName(
-        parent, MoveInDialog::tr("Choose the exported file"), {},
+        parent, MoveInDialog::tr("Choose the exported file"),
+        QStandardPaths::writableLocation(QStandardPaths::DownloadLocation),
         MoveInDialog::tr("Exports of passwords (%1)").arg(QStringLiteral("*.csv *.json *.txt")) +
             QStringLiteral(";;") + MoveInDialog::tr("All files (%1)").arg(QStringLiteral("*")));
 }

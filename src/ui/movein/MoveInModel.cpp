@@ -24,7 +24,7 @@ void MoveInModel::setResult(const std::shared_ptr<ImportResult> &result)
     m_result = result;
     m_chosen.clear();
     for (int row = 0; row < rowCount(); ++row) {
-        const bool isThere = m_result->matches[std::size_t(row)] == ImportMatch::AlreadyThere;
+        const bool isThere = match(row) == ImportMatch::AlreadyThere;
         m_chosen.push_back(canChoose(row) && !isThere);
     }
     endResetModel();
@@ -39,6 +39,11 @@ int MoveInModel::rowCount(const QModelIndex &parent) const
 int MoveInModel::columnCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(ColumnCount);
+}
+
+ImportMatch MoveInModel::match(int row) const
+{
+    return m_result->matches[std::size_t(row)];
 }
 
 const ImportEntry &MoveInModel::entry(int row) const
@@ -64,10 +69,10 @@ QString MoveInModel::text(int row, int column) const
         return name.isEmpty() ? nothing : name;
     }
     case Becomes: {
-        const QString match = MoveInTexts::match(m_result->matches[std::size_t(row)]);
         if (one.fault != ImportEntry::None)
             return MoveInTexts::fault(one.fault);
-        return match.isEmpty() ? itemKindName(one.type) : match;
+        const QString remark = MoveInTexts::remark(one, match(row));
+        return remark.isEmpty() ? itemKindName(one.type) : remark;
     }
     default:
         return {};
@@ -95,9 +100,9 @@ Palette::Role MoveInModel::color(int row, int column) const
         return Palette::Muted;
     if (!canChoose(row))
         return Palette::Weak;
-    switch (m_result->matches[std::size_t(row)]) {
+    switch (match(row)) {
     case ImportMatch::New:
-        return Palette::Accent;
+        return entry(row).addressInNote ? Palette::Weak : Palette::Accent;
     case ImportMatch::AlreadyThere:
         return Palette::Muted;
     case ImportMatch::OtherPassword:
@@ -116,9 +121,8 @@ QVariant MoveInModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(row, index.column());
     case Qt::ToolTipRole:
-        return index.column() == Becomes
-                   ? MoveInTexts::matchAdvice(m_result->matches[std::size_t(row)])
-                   : text(row, index.column());
+        return index.column() == Becomes ? MoveInTexts::advice(entry(row), match(row))
+                                         : text(row, index.column());
     case Qt::AccessibleTextRole:
         return description(row);
     case Qt::CheckStateRole:
@@ -202,7 +206,7 @@ MoveInModel::Counts MoveInModel::counts() const
             counts.onlyLogins = counts.onlyLogins && entry(row).type == PMListItem::Login;
         } else if (!canChoose(row)) {
             ++counts.unreadable;
-        } else if (m_result->matches[place] == ImportMatch::AlreadyThere) {
+        } else if (match(row) == ImportMatch::AlreadyThere) {
             ++counts.alreadyThere;
         } else {
             ++counts.leftOut;

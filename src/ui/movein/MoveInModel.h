@@ -51,6 +51,7 @@ Q_SIGNALS:
 
 private:
     const ImportEntry &entry(int row) const;
+    ImportMatch match(int row) const;
     bool canChoose(int row) const { return entry(row).fault == ImportEntry::None; }
     QString text(int row, int column) const;
     QString description(int row) const;

@@ -66,12 +66,13 @@ MoveInReport MoveInReport::of(const ImportResult &result, const QVector<int> &ch
                 report.onlyLogins = report.onlyLogins && entry.type == PMListItem::Login;
             continue;
         }
-        const bool isThere = result.matches[std::size_t(i)] == ImportMatch::AlreadyThere;
+        const ImportMatch match = result.matches[std::size_t(i)];
+        const bool isThere = match == ImportMatch::AlreadyThere;
         if (entry.fault != ImportEntry::None)
             add(MoveInTexts::fault(entry.fault), entry, true);
         else
-            add(isThere ? MoveInTexts::match(ImportMatch::AlreadyThere) : Texts::tr("Not chosen"),
-                entry, !isThere);
+            add(isThere ? MoveInTexts::remark(entry, match) : Texts::tr("Not chosen"), entry,
+                !isThere);
     }
     return report;
 }

@@ -149,7 +149,7 @@ QString MoveInTexts::fault(ImportEntry::Fault fault)
     return {};
 }
 
-QString MoveInTexts::match(ImportMatch match)
+QString MoveInTexts::remark(const ImportEntry &entry, ImportMatch match)
 {
     switch (match) {
     case ImportMatch::AlreadyThere:
@@ -161,10 +161,10 @@ QString MoveInTexts::match(ImportMatch match)
     case ImportMatch::New:
         break;
     }
-    return {};
+    return entry.addressInNote ? Texts::tr("Without address") : QString();
 }
 
-QString MoveInTexts::matchAdvice(ImportMatch match)
+QString MoveInTexts::advice(const ImportEntry &entry, ImportMatch match)
 {
     switch (match) {
     case ImportMatch::AlreadyThere:
@@ -177,7 +177,9 @@ QString MoveInTexts::matchAdvice(ImportMatch match)
     case ImportMatch::New:
         break;
     }
-    return {};
+    return entry.addressInNote
+               ? Texts::tr("Its address belongs to an app or a file, and goes to the note.")
+               : QString();
 }
 
 QString MoveInTexts::shownAddress(const QString &address)

@@ -25,10 +25,10 @@ QString problem(const ImportResult &result);
 /// "Not a web address"; empty where there is none.
 QString fault(ImportEntry::Fault fault);
 
-/// "Already there"; empty where an entry is new.
-QString match(ImportMatch match);
+/// "Already there"; empty where an entry is new and nothing has to be said of it.
+QString remark(const ImportEntry &entry, ImportMatch match);
 /// The same with what comes of it.
-QString matchAdvice(ImportMatch match);
+QString advice(const ImportEntry &entry, ImportMatch match);
 
 /// An address without what may be secret in it.
 QString shownAddress(const QString &address);
