@@ -2,22 +2,24 @@
 
 #include "GPMAppSettings.h"
 #include "GPMWebSocketServer.h"
+#include "ItemForms.h"
 #include "LoginForms.h"
+#include "PMCreditCard.h"
+#include "PMIdentity.h"
 #include "PMLogin.h"
-#include "SecretBytes.h"
 #include "SiteAddress.h"
 
 #include <QDebug>
 
 #include <algorithm>
-#include <chrono>
 
 namespace {
 
 const QLatin1String reasonLogin("login");
+const QLatin1String reasonCreditCard("creditcard");
+const QLatin1String reasonIdentity("identity");
 const QLatin1String reasonPlacePassword("placepwd");
 const QLatin1String currentNoReload("currentNoReload");
-constexpr std::chrono::milliseconds passwordPatience = std::chrono::seconds(30);
 
 QString textOf(const QJsonObject &object, const char *key)
 {
@@ -48,15 +50,41 @@ bool putSubmittedFormLast(QVector<FilledForm> &forms)
     return true;
 }
 
-PMLogin *asLogin(PMListItem *item)
+QVector<FilledForm> fillItemForms(const QJsonObject &page, const PMListItem &item)
 {
-    auto *login = qobject_cast<PMLogin *>(item);
-    if (!login)
-        qWarning() << "Can't login. Item must be type of [Login]. Item id:" << item->id();
-    return login;
+    if (const auto *card = qobject_cast<const PMCreditCard *>(&item))
+        return fillCardForms(page, *card);
+    if (const auto *identity = qobject_cast<const PMIdentity *>(&item))
+        return fillIdentityForms(page, *identity);
+    return {};
 }
 
 } // namespace
+
+struct FormFillFlow::ItemAction
+{
+    PMListItem::Type type;
+    QLatin1String reason;
+    const char *notFound;
+    const char *wrongType;
+    const char *sending;
+
+    static const ItemAction login;
+    static const ItemAction creditCard;
+    static const ItemAction identity;
+};
+
+const FormFillFlow::ItemAction FormFillFlow::ItemAction::login = {
+    PMListItem::Login, reasonLogin, "Can't login. Item not found. Item id:",
+    "Can't login. Item must be type of [Login]. Item id:", "Send login command. Item id:"};
+const FormFillFlow::ItemAction FormFillFlow::ItemAction::creditCard = {
+    PMListItem::CreditCard, reasonCreditCard, "Can't login. Item not found. Item id:",
+    "Can't fill credit card data. Item must be type of [Credit Card]. Item id:",
+    "Send fill credit card command. Item id:"};
+const FormFillFlow::ItemAction FormFillFlow::ItemAction::identity = {
+    PMListItem::Identity, reasonIdentity, "Can't fill identity. Item not found. Item id:",
+    "Can't fill identity data. Item must be type of [Identity]. Item id:",
+    "Send fill identity command. Item id:"};
 
 FormFillFlow::FormFillFlow(GPMWebSocketServer &server, FindItem findItem,
                            const GPMAppSettings &settings, Clock clock, QObject *parent)
@@ -65,42 +93,52 @@ FormFillFlow::FormFillFlow(GPMWebSocketServer &server, FindItem findItem,
     , m_findItem(std::move(findItem))
     , m_settings(settings)
     , m_clock(std::move(clock))
+    , m_waiting(m_clock, this)
 {
-    m_forgetTimer.setSingleShot(true);
-    m_forgetTimer.setInterval(passwordPatience);
-    connect(&m_forgetTimer, &QTimer::timeout, this, &FormFillFlow::forgetWaitingPassword);
-}
-
-FormFillFlow::~FormFillFlow()
-{
-    forgetWaitingPassword();
 }
 
 void FormFillFlow::clear()
 {
     m_requests.clear();
-    forgetWaitingPassword();
+    m_waiting.forget();
 }
 
-void FormFillFlow::forgetWaitingPassword()
+/// The item that an action is for; null, and logged, when there is none such.
+PMListItem *FormFillFlow::findItem(const ItemAction &action, const QString &itemId) const
 {
-    m_forgetTimer.stop();
-    wipe(m_waiting.password);
-    m_waiting = WaitingPassword();
+    PMListItem *item = m_findItem(itemId);
+    if (!item) {
+        qWarning() << action.notFound << itemId;
+        return nullptr;
+    }
+    if (item->type() != action.type) {
+        qWarning() << action.wrongType << itemId;
+        return nullptr;
+    }
+    qDebug() << action.sending << itemId;
+    return item;
+}
+
+void FormFillFlow::sendRequest(const ItemAction &action, const QString &itemId,
+                               const QString &callerId, QJsonObject payload)
+{
+    FillRequest request;
+    request.reason = action.reason;
+    request.callerId = m_server.targetCaller(callerId);
+    request.fromExtension = !callerId.isEmpty();
+    const qint64 timestamp = m_requests.add(itemId, request, m_clock().toMSecsSinceEpoch());
+    payload.insert(QStringLiteral("reason"), action.reason);
+    payload.insert(QStringLiteral("itemid"), itemId);
+    payload.insert(QStringLiteral("timestamp"), QString::number(timestamp));
+    m_server.sendDocumentRequest(request.callerId, payload);
 }
 
 void FormFillFlow::doLoginDefaultAction(const QString &itemId, const QString &callerId,
                                         const QString &option)
 {
-    PMListItem *item = m_findItem(itemId);
-    if (!item) {
-        qWarning() << "Can't login. Item not found. Item id:" << itemId;
-        return;
-    }
-    const PMLogin *login = asLogin(item);
+    const PMListItem *login = findItem(ItemAction::login, itemId);
     if (!login)
         return;
-    qDebug() << "Send login command. Item id:" << itemId;
     const QString address = SiteAddress::withScheme(login->url());
     if (!SiteAddress::parse(address)) {
         Q_EMIT userNotice(tr("Can't login."),
@@ -113,17 +151,37 @@ void FormFillFlow::doLoginDefaultAction(const QString &itemId, const QString &ca
         Q_EMIT openInBrowserRequested(QUrl(address));
         return;
     }
-    FillRequest request;
-    request.reason = reasonLogin;
-    request.callerId = m_server.targetCaller(callerId);
-    request.fromExtension = !callerId.isEmpty();
-    const qint64 timestamp = m_requests.add(itemId, request, m_clock().toMSecsSinceEpoch());
-    m_server.sendDocumentRequest(request.callerId,
-                                 {{QStringLiteral("reason"), reasonLogin},
-                                  {QStringLiteral("itemid"), itemId},
-                                  {QStringLiteral("timestamp"), QString::number(timestamp)},
-                                  {QStringLiteral("url"), address},
-                                  {QStringLiteral("openmode"), openModeFor(option)}});
+    sendRequest(
+        ItemAction::login, itemId, callerId,
+        {{QStringLiteral("url"), address}, {QStringLiteral("openmode"), openModeFor(option)}});
+}
+
+void FormFillFlow::doCreditCardDefaultAction(const QString &itemId, const QString &callerId,
+                                             const QString &option)
+{
+    Q_UNUSED(option)
+    fillOpenPage(ItemAction::creditCard, itemId, callerId);
+}
+
+void FormFillFlow::doIdentityDefaultAction(const QString &itemId, const QString &callerId,
+                                           const QString &option)
+{
+    Q_UNUSED(option)
+    fillOpenPage(ItemAction::identity, itemId, callerId);
+}
+
+void FormFillFlow::fillOpenPage(const ItemAction &action, const QString &itemId,
+                                const QString &callerId)
+{
+    if (!findItem(action, itemId))
+        return;
+    if (!m_server.hasConnections()) {
+        qWarning() << "No connected extensions!";
+        Q_EMIT userNotice(tr("No browser is connected"),
+                          tr("To fill this into a page, open your browser with the extension."));
+        return;
+    }
+    sendRequest(action, itemId, callerId, {{QStringLiteral("openmode"), currentNoReload}});
 }
 
 QString FormFillFlow::openModeFor(const QString &option) const
@@ -143,21 +201,18 @@ void FormFillFlow::placePasswordValue(const QString &password)
         qWarning() << "No connected extension: it seems like plugins are not installed";
         return;
     }
-    forgetWaitingPassword();
-    m_waiting.password = password;
-    m_waiting.callerId = m_server.targetCaller({});
-    m_waiting.timestamp = m_requests.nextTimestamp(m_clock().toMSecsSinceEpoch());
-    m_forgetTimer.start();
-    m_server.sendDocumentRequest(
-        m_waiting.callerId, {{QStringLiteral("reason"), reasonPlacePassword},
-                             {QStringLiteral("timestamp"), QString::number(m_waiting.timestamp)},
-                             {QStringLiteral("openmode"), currentNoReload}});
+    const QString callerId = m_server.targetCaller({});
+    const qint64 timestamp = m_requests.nextTimestamp(m_clock().toMSecsSinceEpoch());
+    m_waiting.start(password, callerId, timestamp);
+    m_server.sendDocumentRequest(callerId,
+                                 {{QStringLiteral("reason"), reasonPlacePassword},
+                                  {QStringLiteral("timestamp"), QString::number(timestamp)},
+                                  {QStringLiteral("openmode"), currentNoReload}});
 }
 
 void FormFillFlow::parsePluginReplay(const QString &callerId, const QJsonObject &payload)
 {
-    static const QStringList itemReasons = {reasonLogin, QStringLiteral("creditcard"),
-                                            QStringLiteral("identity")};
+    static const QStringList itemReasons = {reasonLogin, reasonCreditCard, reasonIdentity};
     if (!payload.contains(QLatin1String("reason"))) {
         qWarning() << "Missing plugin replay format: no reason why";
         return;
@@ -183,30 +238,17 @@ void FormFillFlow::fillLoginPage(const QString &callerId, const QJsonObject &pay
     continueFill(callerId, reasonLogin, payload, LoginPage::IsThis);
 }
 
-/// Whether the answer is to the request for the waiting password. A late one describes a page that
-/// the user may have left. An extension need not name the request that it answers.
-bool FormFillFlow::isWaitedFor(const QString &callerId, const QJsonObject &payload) const
-{
-    if (m_waiting.password.isEmpty() || m_waiting.callerId != callerId)
-        return false;
-    // A timer stands still while the computer sleeps.
-    if (m_clock().toMSecsSinceEpoch() - m_waiting.timestamp > passwordPatience.count())
-        return false;
-    const QJsonValue timestamp = payload.value(QLatin1String("timestamp"));
-    return timestamp.isUndefined() || timestamp.toString().toLongLong() == m_waiting.timestamp;
-}
-
 void FormFillFlow::placeWaitingPassword(const QString &callerId, const QJsonObject &payload)
 {
-    if (!isWaitedFor(callerId, payload))
+    if (!m_waiting.isFor(callerId, payload))
         return;
-    const QVector<FilledForm> forms = fillPasswordForms(documentOf(payload), m_waiting.password);
+    const QVector<FilledForm> forms = fillPasswordForms(documentOf(payload), m_waiting.password());
     for (const FilledForm &form : forms) {
         QJsonObject instruction = toFillInstruction(form);
         instruction.insert(QStringLiteral("reason"), reasonPlacePassword);
         m_server.sendFillCommand(callerId, instruction);
     }
-    forgetWaitingPassword();
+    m_waiting.forget();
 }
 
 std::optional<FillRequest> FormFillFlow::findRequest(const QString &callerId, const QString &reason,
@@ -240,8 +282,30 @@ void FormFillFlow::continueFill(const QString &callerId, const QString &reason,
         qWarning() << "Empty result returned";
         return;
     }
-    if (const PMLogin *login = asLogin(item))
+    if (const auto *login = qobject_cast<const PMLogin *>(item))
         fillLogin(*login, *request, payload, loginPage);
+    else
+        fillItem(*item, *request, payload);
+}
+
+/// A card or a person goes into the page that the user sees, whatever its site, and once.
+void FormFillFlow::fillItem(const PMListItem &item, const FillRequest &request,
+                            const QJsonObject &payload)
+{
+    const QString itemId = item.id();
+    m_requests.remove(itemId);
+    const QVector<FilledForm> forms = fillItemForms(documentOf(payload), item);
+    if (forms.isEmpty()) {
+        Q_EMIT userNotice(tr("Nothing to fill"),
+                          tr("The page shows no empty fields for “%1”.").arg(item.title()));
+        return;
+    }
+    for (const FilledForm &form : forms) {
+        QJsonObject instruction = toFillInstruction(form);
+        instruction.insert(QStringLiteral("reason"), request.reason);
+        m_server.sendFillCommand(request.callerId, instruction);
+    }
+    Q_EMIT itemUsed(itemId);
 }
 
 void FormFillFlow::fillLogin(const PMLogin &login, const FillRequest &request,

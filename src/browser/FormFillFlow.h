@@ -2,11 +2,11 @@
 
 #include "Clock.h"
 #include "FillRequests.h"
+#include "WaitingPassword.h"
 
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
-#include <QTimer>
 #include <QUrl>
 #include <QVector>
 
@@ -33,7 +33,6 @@ public:
     /// The server and the settings must outlive the flow.
     FormFillFlow(GPMWebSocketServer &server, FindItem findItem, const GPMAppSettings &settings,
                  Clock clock = systemTime, QObject *parent = nullptr);
-    ~FormFillFlow() override;
 
     /// Forgets all that is pending, as when the safe is locked.
     void clear();
@@ -45,6 +44,13 @@ public Q_SLOTS:
     /// @param option "currentNoReload" or "current"; anything else means the mode of the settings
     void doLoginDefaultAction(const QString &itemId, const QString &callerId,
                               const QString &option);
+
+    /// Starts filling the card, or the person, into the page that the user sees.
+    /// @param callerId the extension that the user chose the item in; empty for the main window
+    void doCreditCardDefaultAction(const QString &itemId, const QString &callerId,
+                                   const QString &option);
+    void doIdentityDefaultAction(const QString &itemId, const QString &callerId,
+                                 const QString &option);
 
     /// Starts putting the password into the page that the user sees; forgotten when that page is
     /// not described within half a minute.
@@ -70,15 +76,14 @@ private:
     /// Whether the extension may still be asked for the login page when this one does not do.
     enum class LoginPage { MayBeAskedFor, IsThis };
 
-    /// A password on its way into a page. Wiped when it is forgotten.
-    struct WaitingPassword
-    {
-        QString password;
-        QString callerId;
-        qint64 timestamp = 0;
-    };
+    /// What the log and the extension hear of an action on a kind of item.
+    struct ItemAction;
 
-    bool isWaitedFor(const QString &callerId, const QJsonObject &payload) const;
+    PMListItem *findItem(const ItemAction &action, const QString &itemId) const;
+    void fillOpenPage(const ItemAction &action, const QString &itemId, const QString &callerId);
+    /// Enters the request and sends it, with what the payload has already.
+    void sendRequest(const ItemAction &action, const QString &itemId, const QString &callerId,
+                     QJsonObject payload);
     void placeWaitingPassword(const QString &callerId, const QJsonObject &payload);
     void continueFill(const QString &callerId, const QString &reason, const QJsonObject &payload,
                       LoginPage loginPage);
@@ -86,12 +91,12 @@ private:
                                            const QJsonObject &payload) const;
     void fillLogin(const PMLogin &login, const FillRequest &request, const QJsonObject &payload,
                    LoginPage loginPage);
+    void fillItem(const PMListItem &item, const FillRequest &request, const QJsonObject &payload);
     void askForLoginPage(const PMLogin &login, const FillRequest &request);
     void sendLoginForms(const QString &callerId, const QVector<FilledForm> &forms, bool submit);
     void reportSiteIcon(const PMLogin &login, const QString &iconAddress);
     bool isSubmitted(const PMLogin &login, const FillRequest &request) const;
     QString openModeFor(const QString &option) const;
-    void forgetWaitingPassword();
 
     GPMWebSocketServer &m_server;
     FindItem m_findItem;
@@ -99,5 +104,4 @@ private:
     Clock m_clock;
     FillRequests m_requests;
     WaitingPassword m_waiting;
-    QTimer m_forgetTimer{this};
 };

@@ -214,8 +214,26 @@ void GPMAppCore::doItemDefaultAction(const QString &itemId, const QString &calle
                                      const QString &option)
 {
     const PMListItem *item = m_safe ? m_safe->item(itemId) : nullptr;
-    if (item && item->type() == PMListItem::Login)
+    if (!item)
+        return;
+    if (item->type() == PMListItem::Login)
         doLoginDefaultAction(itemId, callerId, option);
+    else if (item->type() == PMListItem::CreditCard)
+        doCreditCardDefaultAction(itemId, callerId, option);
+    else if (item->type() == PMListItem::Identity)
+        doIdentityDefaultAction(itemId, callerId, option);
+}
+
+void GPMAppCore::doCreditCardDefaultAction(const QString &itemId, const QString &callerId,
+                                           const QString &option)
+{
+    m_link->flow().doCreditCardDefaultAction(itemId, callerId, option);
+}
+
+void GPMAppCore::doIdentityDefaultAction(const QString &itemId, const QString &callerId,
+                                         const QString &option)
+{
+    m_link->flow().doIdentityDefaultAction(itemId, callerId, option);
 }
 
 void GPMAppCore::doLoginDefaultAction(const QString &itemId, const QString &callerId,

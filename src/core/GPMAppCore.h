@@ -119,6 +119,10 @@ public Q_SLOTS:
     void doItemDefaultAction(const QString &itemId, const QString &callerId, const QString &option);
     void doLoginDefaultAction(const QString &itemId, const QString &callerId,
                               const QString &option);
+    void doCreditCardDefaultAction(const QString &itemId, const QString &callerId,
+                                   const QString &option);
+    void doIdentityDefaultAction(const QString &itemId, const QString &callerId,
+                                 const QString &option);
     void placePasswordValue(const QString &password);
     void parsePluginReplay(const QString &callerId, const QJsonObject &data);
     void fillLoginPage(const QString &callerId, const QJsonObject &data);

@@ -3,6 +3,8 @@
 #include "FormFillFlow.h"
 #include "GPMAppSettings.h"
 #include "GPMWebSocketServer.h"
+#include "PMCreditCard.h"
+#include "PMIdentity.h"
 #include "PMLogin.h"
 #include "PMSecureNote.h"
 
@@ -35,6 +37,10 @@ QJsonValue pageWith(const QString &names)
             {"opid":"3","type":"text","visible":true,"name":"email"}]})"},
         {QStringLiteral("password"), R"({"formUid":"password","fields":[
             {"opid":"4","type":"password","visible":true}]})"},
+        {QStringLiteral("card"), R"({"formUid":"card","fields":[
+            {"opid":"6","type":"text","visible":true,"name":"cardnumber"}]})"},
+        {QStringLiteral("person"), R"({"formUid":"person","fields":[
+            {"opid":"7","type":"text","visible":true,"name":"city"}]})"},
         {QStringLiteral("search"), R"({"formUid":"search","fields":[
             {"opid":"5","type":"text","visible":true,"name":"q"}]})"}};
     QByteArrayList list;
@@ -93,6 +99,7 @@ private Q_SLOTS:
     void refusedItems();
     void wrongAddress();
     void withoutExtension();
+    void cardsAndIdentities();
     void conversation_data();
     void conversation();
     void oddReply_data();
@@ -268,6 +275,68 @@ void TestFormFillFlow::withoutExtension()
 }
 
 // Each line is an answer to one request, "action address forms", and what the extension then gets.
+// The page that is open is filled, whatever its site, and once for a request.
+void TestFormFillFlow::cardsAndIdentities()
+{
+    auto card = std::make_unique<PMCreditCard>();
+    card->setNumber(QStringLiteral("4111111111111111"));
+    auto identity = std::make_unique<PMIdentity>();
+    identity->setCity(QStringLiteral("Kassel"));
+    using Action = void (FormFillFlow::*)(const QString &, const QString &, const QString &);
+    struct Kind
+    {
+        std::unique_ptr<PMListItem> item;
+        Action act;
+        const char *reason;
+        const char *filled;
+    };
+    Kind kinds[] = {{std::move(card), &FormFillFlow::doCreditCardDefaultAction, "creditcard",
+                     "card(4111111111111111)"},
+                    {std::move(identity), &FormFillFlow::doIdentityDefaultAction, "identity",
+                     "person(Kassel)"}};
+    const QString all = QStringLiteral("login+card+person");
+    for (Kind &kind : kinds) {
+        m_item = std::move(kind.item);
+        m_item->setId(itemId);
+        m_client->frames.clear();
+        (m_flow.get()->*kind.act)(itemId, {}, QStringLiteral("current"));
+        m_client->sayHello();
+        m_request = payloadOf(m_client->frames.last());
+        QCOMPARE(text(m_request, "reason"), QLatin1String(kind.reason));
+        QCOMPARE(text(m_request, "openmode"), QStringLiteral("currentNoReload"));
+
+        QJsonObject payload = reply(all, QStringLiteral("http://elsewhere.example"));
+        expectWarning(discardedReply); // it says that it is for a login
+        QCOMPARE(answer(payload), QString());
+        payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
+        QSignalSpy used(m_flow.get(), &FormFillFlow::itemUsed);
+        QCOMPARE(answer(payload), QLatin1String(kind.filled));
+        QCOMPARE(text(payloadOf(m_client->frames.first()), "reason"), QLatin1String(kind.reason));
+        QCOMPARE(used.size(), 1);
+        expectWarning(discardedReply);
+        QCOMPARE(answer(payload), QString());
+
+        QSignalSpy notice(m_flow.get(), &FormFillFlow::userNotice);
+        (m_flow.get()->*kind.act)(itemId, {}, {});
+        m_client->sayHello();
+        m_request = payloadOf(m_client->frames.last());
+        payload = reply(QStringLiteral("search"));
+        payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
+        QCOMPARE(answer(payload), QString());
+        QCOMPARE(notice.size(), 1);
+    }
+    expectWarning("^Can't fill credit card data. Item must be type of \\[Credit Card\\].");
+    m_flow->doCreditCardDefaultAction(itemId, {}, {});
+    expectWarning("^Can't fill identity. Item not found. Item id: \"gone\"$");
+    m_flow->doIdentityDefaultAction(QStringLiteral("gone"), {}, {});
+    m_client->close();
+    QTRY_VERIFY(!m_server->hasConnections());
+    QSignalSpy notice(m_flow.get(), &FormFillFlow::userNotice);
+    expectWarning("^No connected extensions!$");
+    m_flow->doIdentityDefaultAction(itemId, {}, {});
+    QCOMPARE(notice.size(), 1);
+}
+
 void TestFormFillFlow::conversation_data()
 {
     QTest::addColumn<QStringList>("lines");

@@ -34,6 +34,7 @@ const FIELDS = [
   [options(['0', 'August'], ['1', 'September']), '9', '1'],
   [options(['28', '28'], ['29', '29']), '2029', '29'],
   [options(['de', 'Deutschland'], ['nl', 'Niederlande']), 'Germany', 'de'],
+  [`<html lang=es>${options(['1', 'Francia'], ['2', 'Alemania'])}`, 'Germany', '2'],
   [options(['x', 'Germany (East)'], ['y', ' germany ']), 'Germany', 'y'],
   [options(['f', 'Frau'], ['m', 'Herr']), 'male', 'm'],
   [options(['fr', 'France']), 'Atlantis', '', false],

@@ -26,6 +26,25 @@ function isRegion(code, wanted, language) {
   });
 }
 
+const LETTERS = [...'ABCDEFGHIJKLMNOPQRSTUVWXYZ'];
+let regions;
+
+// The code of the country with the English name; undefined for none.
+function regionNamed(name) {
+  if (!regions) {
+    const names = new Intl.DisplayNames(['en'], { type: 'region', fallback: 'none' });
+    const codes = LETTERS.flatMap((first) => LETTERS.map((second) => first + second));
+    // Of two codes for one country, the older comes later.
+    regions = new Map(codes.reverse().map((code) => [names.of(code), code]).filter(([of]) => of).map(([of, code]) => [fold(of), code]));
+  }
+  return regions.get(name);
+}
+
+function isRegionName(text, wanted, language) {
+  const code = text === '' ? undefined : regionNamed(wanted);
+  return code !== undefined && fold(new Intl.DisplayNames([language, 'en'], { type: 'region' }).of(code)) === text;
+}
+
 // Strongest first.
 const MEANINGS = [
   ({ text }, wanted) => text === wanted,
@@ -37,6 +56,7 @@ const MEANINGS = [
   ({ value }, wanted) => sameYear(value, wanted),
   ({ text, value }, wanted) => sameInitial(text, wanted) || sameInitial(value, wanted),
   ({ value }, wanted, language) => isRegion(value, wanted, language),
+  ({ text }, wanted, language) => isRegionName(text, wanted, language),
 ];
 
 /** The index of the choice ({text, value}) that means the wanted text, -1 for none. */
