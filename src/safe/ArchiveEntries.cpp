@@ -29,7 +29,7 @@ bool isForbidden(const QString &name)
 bool isPortable(const QString &fileName)
 {
     static const QRegularExpression device(
-        QStringLiteral("^(con|prn|aux|nul|com[0-9]|lpt[0-9])(\\.|$)"),
+        QStringLiteral("^(con|prn|aux|nul|conin\\$|conout\\$|(com|lpt)[0-9¹²³]) *(\\.|$)"),
         QRegularExpression::CaseInsensitiveOption);
     return !fileName.endsWith(QLatin1Char('.')) && !fileName.endsWith(QLatin1Char(' ')) &&
            !device.match(fileName).hasMatch();
@@ -55,6 +55,11 @@ ArchiveEntries::Place ArchiveEntries::place(const QString &name)
             return Place::Safe;
     }
     return Place::Elsewhere;
+}
+
+QString ArchiveEntries::sameFile(const QString &name)
+{
+    return name.toCaseFolded();
 }
 
 bool ArchiveEntries::isTooLarge(qint64 unpackedSize, qint64 archiveSize)

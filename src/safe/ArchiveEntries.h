@@ -15,6 +15,9 @@ enum class Place {
 /// @param name with forward slashes, as it stands in the archive
 Place place(const QString &name);
 
+/// What two names share that are the same file, here or where case does not count.
+QString sameFile(const QString &name);
+
 /// Whether an archive unpacks to more than can be meant honestly: over 4 GiB, or over a hundred
 /// times its own size.
 bool isTooLarge(qint64 unpackedSize, qint64 archiveSize);

@@ -3,6 +3,7 @@
 #include "ArchiveEntries.h"
 
 #include <QBuffer>
+#include <QtEndian>
 
 #include <quazip.h>
 #include <quazipfile.h>
@@ -15,7 +16,21 @@ const int pieceSize = 131072;
 const qint64 largestSmallFile = 1024 * 1024;
 const char localHeader[] = "PK\3\4";
 const char endOfDirectory[] = "PK\5\6"; // first in an archive without entries
+const int endSize = 22;                 ///< of the record that this begins, without a comment
 const quint16 storedMethod = 0;
+
+/// Whether the record that ends an archive, with its comment, is there to its last byte.
+bool endsWhole(QIODevice &device)
+{
+    const qint64 longestComment = 0xffff;
+    device.seek(std::max<qint64>(0, device.size() - endSize - longestComment));
+    const QByteArray tail = device.readAll();
+    const int end = tail.lastIndexOf(endOfDirectory);
+    if (end < 0 || tail.size() - end < endSize)
+        return false;
+    const auto *size = reinterpret_cast<const uchar *>(tail.constData()) + end + endSize - 2;
+    return tail.size() - end >= endSize + qFromLittleEndian<quint16>(size);
+}
 
 ArchiveResult::Outcome notOpened(QIODevice &device)
 {
@@ -46,7 +61,7 @@ ArchiveReader::Outcome ArchiveReader::open()
     m_zip->setAutoClose(false);
     m_zip->setFileNameCodec("UTF-8");
     if (m_zip->open(QuaZip::mdUnzip))
-        return Outcome::Done;
+        return endsWhole(*m_device) ? Outcome::Done : Outcome::Damaged;
     return notOpened(*m_device);
 }
 
@@ -98,12 +113,14 @@ std::optional<QByteArray> ArchiveReader::file(const char *name)
 
 ArchiveReader::Outcome ArchiveReader::examine(const QuaZipFileInfo64 &info)
 {
-    if (info.isSymbolicLink() ||
-        ArchiveEntries::place(info.name) == ArchiveEntries::Place::Forbidden)
+    const ArchiveEntries::Place place = ArchiveEntries::place(info.name);
+    if (info.isSymbolicLink() || place == ArchiveEntries::Place::Forbidden)
         return Outcome::UnsafeEntry;
-    if (m_names.contains(info.name))
+    const QString name =
+        place == ArchiveEntries::Place::Safe ? ArchiveEntries::sameFile(info.name) : info.name;
+    if (m_names.contains(name))
         return Outcome::NameTwice;
-    m_names.insert(info.name);
+    m_names.insert(name);
     const bool readable = info.method == storedMethod || info.method == Z_DEFLATED;
     return readable && !info.isEncrypted() ? Outcome::Done : Outcome::Unsupported;
 }

@@ -82,6 +82,12 @@ ArchiveResult::Outcome ArchiveWriter::writeEntries(QIODevice &device)
 
 ArchiveResult::Outcome ArchiveWriter::writeEntry(QuaZip &zip, const SafeFiles::File &file)
 {
+    // An archive that holds both would not be unpacked.
+    const QString name = ArchiveEntries::sameFile(file.entryName);
+    if (m_names.contains(name)) {
+        m_leftOut.append(file.path);
+        return Outcome::Done;
+    }
     const std::unique_ptr<QIODevice> source = m_environment.files->open(file.path);
     if (!source) {
         if (!m_folder.holdsSafe())
@@ -91,6 +97,7 @@ ArchiveResult::Outcome ArchiveWriter::writeEntry(QuaZip &zip, const SafeFiles::F
             m_leftOut.append(file.path);
         return Outcome::Done;
     }
+    m_names.insert(name);
     zip.setZip64Enabled(source->size() > largestPlainSize);
     QuaZipFile entry(&zip);
     if (!entry.open(QIODevice::WriteOnly, entryInfo(file)))

@@ -37,4 +37,5 @@ private:
     QByteArray m_piece;
     qint64 m_written = 0; ///< bytes that went into entries
     QStringList m_leftOut;
+    QSet<QString> m_names; ///< of the entries written
 };

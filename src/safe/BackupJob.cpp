@@ -116,9 +116,11 @@ ArchiveResult::Outcome BackupJob::check(const QString &path, WorkControl &contro
         outcome = archive.check(control);
     if (outcome == Outcome::Cancelled)
         return outcome;
-    const bool good =
-        outcome == Outcome::Done && readBackup(*environment.files, path).good();
-    return good ? Outcome::Done : Outcome::Damaged;
+    const bool good = outcome == Outcome::Done && readBackup(*environment.files, path).good();
+    if (good)
+        return Outcome::Done;
+    // Gone with its folder, it says nothing of the disk.
+    return QFileInfo::exists(path) ? Outcome::Damaged : Outcome::CannotWrite;
 }
 
 void BackupJob::clearUnfinished(const QString &safeFolder) const
