@@ -79,10 +79,11 @@ double secondsOf(ArchiveTask &task, double &longestHold)
     QEventLoop loop;
     QElapsedTimer sinceTick;
     QTimer ticks;
-    QObject::connect(&ticks, &QTimer::timeout, [&] {
+    const auto tick = [&] {
         longestHold = std::max(longestHold, static_cast<double>(sinceTick.nsecsElapsed()) / 1e6);
         sinceTick.restart();
-    });
+    };
+    QObject::connect(&ticks, &QTimer::timeout, tick);
     QObject::connect(&task, &ArchiveTask::finished, &loop, &QEventLoop::quit);
     sinceTick.start();
     ticks.start(1);
@@ -90,6 +91,7 @@ double secondsOf(ArchiveTask &task, double &longestHold)
     timer.start();
     task.start();
     loop.exec();
+    tick(); // what the end of the task brings with it
     if (!task.result().good())
         qFatal("export or import failed");
     return static_cast<double>(timer.nsecsElapsed()) / 1e9;

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "SafeExport.h"
+#include "SafeImport.h"
 #include "SafeTesting.h"
-#include "WorkControl.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -51,9 +52,75 @@ private:
     }
 };
 
+/// Opens the file whose path holds the text in a way of its own.
+class OpeningFiles : public FileLayer
+{
+public:
+    QString name;
+    std::function<std::unique_ptr<QIODevice>(const QString &path)> change;
+
+    std::unique_ptr<QIODevice> open(const QString &path) override
+    {
+        return path.contains(name) ? change(path) : FileLayer::open(path);
+    }
+};
+
+using Files = std::shared_ptr<FileLayer>;
+
+inline Files realFiles()
+{
+    return std::make_shared<FileLayer>();
+}
+
+inline SafeEnvironment environmentOf(const Files &files,
+                                     const QDateTime &now = QDateTime(QDate(2026, 3, 4),
+                                                                      QTime(12, 0), Qt::UTC))
+{
+    SafeEnvironment environment;
+    environment.files = files;
+    environment.lockWaitMs = 0;
+    environment.clock = [now] { return now; };
+    return environment;
+}
+
+inline ArchiveResult exportTo(const QString &folder, const QString &target,
+                              const Files &files = realFiles(), WorkControl::Report report = {})
+{
+    WorkControl control(std::move(report));
+    return exportSafe(environmentOf(files), SafeFolder(folder), target, control);
+}
+
+inline ArchiveResult importFrom(const QString &archive, const QString &safes,
+                                const Files &files = realFiles(), WorkControl::Report report = {})
+{
+    WorkControl control(std::move(report));
+    const SafeEnvironment environment = environmentOf(files);
+    return SafeImport(environment, safes).run(archive, control);
+}
+
+const int smallSafeItems = 2;
+
+/// A safe in which there is little, for tests that go over every operation.
+inline void makeSmallSafe(const QString &folder)
+{
+    copySampleSafe(folder);
+    const QDir content(folder + QStringLiteral("/content"));
+    for (const QString &name : content.entryList(QDir::Files)) {
+        if (name > QLatin1String("00000000-0000-0003"))
+            QFile::remove(content.filePath(name));
+    }
+    QDir(folder + QStringLiteral("/attachment")).removeRecursively();
+}
+
+/// Folders and files in a folder, also those that are hidden.
+inline QStringList namesIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::Dirs | QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
 struct Ran
 {
-    int exitCode = -1;
+    int exitCode = -1; ///< -1: it was killed
     QString output;
 };
 
@@ -67,12 +134,6 @@ inline Ran runProgram(const QString &program, const QStringList &arguments,
     if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
         return {};
     return {process.exitCode(), QString::fromUtf8(process.readAll())};
-}
-
-/// Runs this test program anew in one of its roles.
-inline Ran runRole(const QStringList &arguments)
-{
-    return runProgram(QCoreApplication::applicationFilePath(), arguments);
 }
 
 inline bool makeArchive(const QString &kind, const QString &safe, const QString &target)

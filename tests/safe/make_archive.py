@@ -103,6 +103,12 @@ elif case == "symbolic link":
     write(files + [(info("content/link", create_system=3, external_attr=0o120777 << 16), "/etc")])
 elif case == "name twice":
     write(files + [files[0]])
+elif case == "name in other case":
+    name = next(name for name, _ in files if name.startswith("content/") and "b" in name)
+    write(files + [("content/" + name[8:].upper(), b"1")])
+elif case == "nul":
+    write(files + [("content/aZb", b"1")])
+    patch(lambda content: content.replace(b"content/aZb", b"content/a\0b"))
 elif case == "unknown name twice":
     write(files + [("notes.txt", b"1"), ("notes.txt", b"2")])
 elif case == "hundred times":
@@ -127,7 +133,9 @@ elif case == "reversed":
     write(list(reversed(files)))
 elif case == "unknown entries":
     write(files + [("notes.txt", b"x"), ("more/inside/it", b"y"), ("content/sub/z", b"z"),
-                   ("safe.sync", b"{}"), (".sourcelock", b"1"), ("content/nul", b"n")])
+                   ("safe.sync", b"{}"), (".sourcelock", b"1"), ("content/nul", b"n"),
+                   ("content/COM1.txt", b"c"), ("content/con .x", b"c"), ("content/dot.", b"d"),
+                   ("favicon/space ", b"s"), ("README", b"1"), ("readme", b"2")])
 elif case == "streamed":
     class Pipe:
         """Cannot seek, so sizes come behind the content."""

@@ -2,14 +2,11 @@
 #include "BackupSchedule.h"
 #include "Backups.h"
 #include "SafeDescriptionFile.h"
-#include "SafeImport.h"
 
 #include <QLockFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <unistd.h>
 
 namespace {
 
@@ -28,24 +25,11 @@ void setModified(const QString &safe, qint64 modified)
         qFatal("can't write the description");
 }
 
-/// Gives another file in place of the one whose name ends so.
-class SwappedFiles : public FileLayer
-{
-public:
-    QString ending;
-    QString instead;
-
-    std::unique_ptr<QIODevice> open(const QString &path) override
-    {
-        return FileLayer::open(path.endsWith(ending) ? instead : path);
-    }
-};
-
 /// Counts what is read.
 class CountingFile : public QFile
 {
 public:
-    CountingFile(const QString &path, std::atomic<qint64> &count)
+    CountingFile(const QString &path, qint64 &count)
         : QFile(path)
         , m_count(count)
     {
@@ -61,31 +45,52 @@ protected:
     }
 
 private:
-    std::atomic<qint64> &m_count;
+    qint64 &m_count;
 };
 
-class CountingFiles : public FileLayer
+/// Gives another file in place of the one whose path holds the text.
+std::shared_ptr<OpeningFiles> swapped(const QString &name, const QString &instead)
 {
-public:
-    std::atomic<qint64> bytes{0};
-
-    std::unique_ptr<QIODevice> open(const QString &path) override
-    {
-        return std::make_unique<CountingFile>(path, bytes);
-    }
-};
-
-BackupJob makeJob(const QStringList &safes, const QString &folder, const QDateTime &now,
-                  const std::shared_ptr<FileLayer> &files)
-{
-    BackupJob job;
-    job.environment.files = files;
-    job.environment.clock = [now] { return now; };
-    job.backupFolder = folder;
-    job.keep = 3;
-    job.safeFolders = safes;
-    return job;
+    auto files = std::make_shared<OpeningFiles>();
+    files->name = name;
+    files->change = [instead](const QString &) { return FileLayer().open(instead); };
+    return files;
 }
+
+/// The backups of the program, with a clock that the test sets.
+struct Program
+{
+    Program(const QString &folder, const QStringList &safes)
+        : settings(folder + QStringLiteral("/config"), {}, [this] { return now; })
+        , known(settings, folder + QStringLiteral("/safes"), environment())
+        , backups(settings, known, folder + QStringLiteral("/hidden/backup"), environment())
+        , finished(&backups, &Backups::finished)
+        , failed(&backups, &Backups::failed)
+    {
+        settings.setBackupPath({});
+        settings.setRecentList(safes);
+    }
+
+    SafeEnvironment environment()
+    {
+        SafeEnvironment result;
+        result.clock = [this] { return now; };
+        return result;
+    }
+    /// Whether the timer starts a run now; waits for its end.
+    bool runs()
+    {
+        backups.check();
+        return backups.isRunning() && finished.wait();
+    }
+
+    QDateTime now = firstDay.toUTC();
+    GPMAppSettings settings;
+    KnownSafes known;
+    Backups backups;
+    QSignalSpy finished;
+    QSignalSpy failed;
+};
 
 } // namespace
 
@@ -98,30 +103,33 @@ private:
     QString m_safe;
     QString m_folder; ///< of the backups
 
-    QVector<BackupJob::Result>
-    run(const QStringList &safes, int day = 0,
-        const std::shared_ptr<FileLayer> &files = std::make_shared<FileLayer>(), int keep = 3)
+    QVector<BackupJob::Result> run(const QStringList &safes, int day = 0,
+                                   const Files &layer = realFiles(), int keep = 3)
     {
-        BackupJob job = makeJob(safes, m_folder, firstDay.addDays(day), files);
+        BackupJob job;
+        job.environment = environmentOf(layer, firstDay.addDays(day));
+        job.backupFolder = m_folder;
         job.keep = keep;
+        job.safeFolders = safes;
         WorkControl control;
         return job.run(control);
     }
-    BackupJob::Result
-    runOne(int day = 0, const std::shared_ptr<FileLayer> &files = std::make_shared<FileLayer>())
+    BackupJob::Result runOne(int day = 0, const Files &layer = realFiles())
     {
-        return run({m_safe}, day, files).first();
+        return run({m_safe}, day, layer).first();
+    }
+    /// A backup on each of three days.
+    void runThreeDays()
+    {
+        for (int day = 0; day < 3; ++day) {
+            setModified(m_safe, 0x200 + day);
+            QCOMPARE(runOne(day).state, State::Written);
+        }
     }
     QString newSafe(const QString &place, qint64 created)
     {
         const QString path = m_temporary->filePath(place);
-        copySampleSafe(path);
-        const QDir content(path + QStringLiteral("/content"));
-        for (const QString &name : content.entryList(QDir::Files)) {
-            if (name > QLatin1String("00000000-0000-0003"))
-                QFile::remove(content.filePath(name));
-        }
-        QDir(path + QStringLiteral("/attachment")).removeRecursively();
+        makeSmallSafe(path);
         FileLayer files;
         SafeDescription description = *readDescription(files, path);
         description.created = created;
@@ -220,11 +228,7 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(first.path).permissions() & (QFile::ReadGroup | QFile::ReadOther), 0);
         QCOMPARE(runProgram(QStringLiteral("unzip"), {QStringLiteral("-t"), first.path}).exitCode,
                  0);
-        WorkControl control;
-        const SafeEnvironment environment;
-        QVERIFY(SafeImport(environment, m_temporary->filePath(QStringLiteral("safes")))
-                    .run(first.path, control)
-                    .good());
+        QVERIFY(importFrom(first.path, m_temporary->filePath(QStringLiteral("safes"))).good());
         QCOMPARE(runOne(1).state, State::Unchanged);
         setModified(m_safe, 0x101);
         QCOMPARE(runOne(2).state, State::Written);
@@ -272,7 +276,7 @@ private Q_SLOTS:
 
         // A count that makes no sense keeps the newest.
         setModified(m_safe, 0x300);
-        QCOMPARE(run({m_safe}, 6, std::make_shared<FileLayer>(), 0).first().state, State::Written);
+        QCOMPARE(run({m_safe}, 6, realFiles(), 0).first().state, State::Written);
         expected = before + names(QStringLiteral("My_safe"), {QStringLiteral("20260310_300")});
         expected.sort();
         QCOMPARE(files(), expected);
@@ -285,10 +289,7 @@ private Q_SLOTS:
             setModified(m_safe, 0x900 + i);
             runOne(3000 + i);
         }
-        for (int day = 0; day < 3; ++day) {
-            setModified(m_safe, 0x200 + day);
-            QCOMPARE(runOne(day).state, State::Written);
-        }
+        runThreeDays();
         QCOMPARE(files(), names(QStringLiteral("My_safe"),
                                 {QStringLiteral("20260304_200"), QStringLiteral("20260305_201"),
                                  QStringLiteral("20260306_202")}));
@@ -296,10 +297,7 @@ private Q_SLOTS:
 
     void whatMayLackSomethingPushesNothingOut()
     {
-        for (int day = 0; day < 3; ++day) {
-            setModified(m_safe, 0x200 + day);
-            runOne(day);
-        }
+        runThreeDays();
         const QStringList before = files();
         // Two generations of one item, as a change of password leaves them that was interrupted.
         const QString item =
@@ -309,8 +307,7 @@ private Q_SLOTS:
         QCOMPARE(runOne(3).state, State::Written);
         QVERIFY(QFile::remove(item + QStringLiteral(".1")));
         // A file that does not open.
-        auto unreadable = std::make_shared<SwappedFiles>();
-        unreadable->ending = QStringLiteral("content/00000000-0000-0001-0000-000000001234");
+        const Files unreadable = swapped(item, {});
         setModified(m_safe, 0x204);
         QCOMPARE(runOne(4, unreadable).state, State::Written);
         QCOMPARE(files(),
@@ -325,52 +322,15 @@ private Q_SLOTS:
         const QStringList before = files();
         const QString damaged = m_temporary->filePath(QStringLiteral("damaged"));
         QVERIFY(makeArchive(QStringLiteral("checksum"), m_safe, damaged));
-        auto swapped = std::make_shared<SwappedFiles>();
-        swapped->ending = QStringLiteral(".part");
-        swapped->instead = damaged;
-        const BackupJob::Result result = runOne(1, swapped);
+        const BackupJob::Result result = runOne(1, swapped(QStringLiteral(".part"), damaged));
         QCOMPARE(result.state, State::Failed);
         QCOMPARE(result.outcome, Outcome::Damaged);
         QCOMPARE(files(), before);
     }
 
-    /// Each operation fails once, and then with everything behind it.
-    void everyFailureLeavesTheEarlierBackups()
+    void whatAKilledRunLeftIsClearedAway()
     {
-        for (int day = 0; day < 3; ++day) {
-            setModified(m_safe, 0x200 + day);
-            runOne(day);
-        }
-        const QMap<QString, QByteArray> before = snapshot(m_folder);
-        setModified(m_safe, 0x203);
-        auto counting = std::make_shared<FaultyArchiveFiles>();
-        runOne(3, counting);
-        QVERIFY(counting->operations > 15);
-        for (int failAt = 1; failAt <= counting->operations; ++failAt) {
-            for (const bool andAllBehind : {false, true}) {
-                QDir(m_folder).removeRecursively();
-                QDir().mkpath(m_folder);
-                for (auto file = before.begin(); file != before.end(); ++file)
-                    writeFile(m_folder + QLatin1Char('/') + file.key(), file.value());
-                auto faulty = std::make_shared<FaultyArchiveFiles>();
-                faulty->failAt = failAt;
-                faulty->andAllBehind = andAllBehind;
-                const BackupJob::Result result = runOne(3, faulty);
-                QMap<QString, QByteArray> after = snapshot(m_folder);
-                if (result.state == State::Written) {
-                    FileLayer real;
-                    QVERIFY(readBackup(real, result.path).good());
-                    QVERIFY(after.contains(before.lastKey()));
-                    continue;
-                }
-                QCOMPARE(result.state, State::Failed);
-                const QString unfinished = QStringLiteral("My_safe_20260307_203.gpm.part");
-                QVERIFY(!after.contains(unfinished) || andAllBehind);
-                after.remove(unfinished);
-                QCOMPARE(after, before);
-            }
-        }
-        // What could not be removed is cleared away by the next, and what is another's is not.
+        runThreeDays();
         const QString others = QStringLiteral("Another_20260307_203.gpm.part");
         for (const QString &left : {QStringLiteral("My_safe_20260307_202.gpm.part"),
                                     QStringLiteral("My_safe_20260307_202.gpm.part.AbCdEf"), others})
@@ -379,35 +339,8 @@ private Q_SLOTS:
         QCOMPARE(runOne(4).state, State::Written);
         QCOMPARE(files(), QStringList{others} +
                               names(QStringLiteral("My_safe"),
-                                    {QStringLiteral("20260306_202"), QStringLiteral("20260307_203"),
+                                    {QStringLiteral("20260305_201"), QStringLiteral("20260306_202"),
                                      QStringLiteral("20260308_204")}));
-    }
-
-    void aKilledProcessLeavesWholeBackups()
-    {
-        auto counting = std::make_shared<FaultyArchiveFiles>();
-        for (int day = 0; day < 3; ++day) {
-            setModified(m_safe, 0x200 + day);
-            counting->operations = 0;
-            runOne(day, counting);
-        }
-        setModified(m_safe, 0x203);
-        FileLayer real;
-        for (int dieAt = 1;; ++dieAt) {
-            const int code =
-                runRole({QStringLiteral("--back-up"), m_safe, m_folder, QString::number(dieAt)})
-                    .exitCode;
-            QVERIFY(listBackups(real, m_folder).size() >= 3);
-            if (code == 0)
-                break;
-            QCOMPARE(code, 99);
-        }
-        // One that died before it removed the oldest leaves that to the next.
-        setModified(m_safe, 0x204);
-        QCOMPARE(runOne(4).state, State::Written);
-        QCOMPARE(files(), names(QStringLiteral("My_safe"),
-                                {QStringLiteral("20260306_202"), QStringLiteral("20260307_203"),
-                                 QStringLiteral("20260308_204")}));
     }
 
     void theListReadsDescriptionsAlone()
@@ -425,10 +358,14 @@ private Q_SLOTS:
                             m_folder + QStringLiteral("/by hand.gpm")));
         writeFile(m_folder + QStringLiteral("/foreign.gpm"), "foreign");
 
-        CountingFiles counting;
+        OpeningFiles counting;
+        qint64 bytes = 0;
+        counting.change = [&bytes](const QString &path) {
+            return std::make_unique<CountingFile>(path, bytes);
+        };
         const QVector<BackupEntry> list = listBackups(counting, m_folder);
         QCOMPARE(list.size(), 4);
-        QVERIFY2(counting.bytes < 1000000, qPrintable(QString::number(counting.bytes)));
+        QVERIFY2(bytes < 1000000, qPrintable(QString::number(bytes)));
         for (int i = 1; i < list.size(); ++i)
             QVERIFY(list.at(i - 1).made >= list.at(i).made);
         for (const BackupEntry &entry : list) {
@@ -437,138 +374,139 @@ private Q_SLOTS:
         }
         // The day in the name stands where a copy of the file got another time.
         QCOMPARE(list.at(2).made.date(), QDate(2026, 3, 5));
+        QVERIFY(!list.at(2).timeKnown && list.at(0).timeKnown);
         QCOMPARE(list.at(2).description.modified, qint64(0x300));
         QCOMPARE(listBackups(counting, m_folder, QStringLiteral("My_safe")).size(), 2);
     }
 
+    /// What the settings and the list of safes tell.
+    void theOverviewIsTrue()
+    {
+        const QString other = newSafe(QStringLiteral("Other"), 8);
+        const QString gone = m_temporary->filePath(QStringLiteral("gone"));
+        // Another safe whose folder has the same name.
+        const QString same = newSafe(QStringLiteral("elsewhere/My_safe"), 6);
+        Program program(m_temporary->path(), {m_safe, other, gone, same});
+        BackupOverview overview = program.backups.overview().result();
+        QCOMPARE(overview.place, BackupOverview::Place::Usable); // it can be made
+        QVERIFY(overview.archives.isEmpty());
+
+        run({m_safe, other}, 0);
+        setModified(other, 0x101);
+        const QString damaged = m_folder + QStringLiteral("/My_safe_20260401_100.gpm");
+        writeFile(damaged,
+                  contentOf(m_folder + QStringLiteral("/My_safe_20260304_100.gpm")).left(400));
+        writeFile(m_folder + QStringLiteral("/letter.gpm"), "Dear Ana");
+        overview = program.backups.overview().result();
+        QMap<QString, Outcome> outcomes;
+        for (const BackupEntry &entry : qAsConst(overview.archives))
+            outcomes.insert(QFileInfo(entry.path).fileName(), entry.outcome);
+        const QMap<QString, Outcome> expected{
+            {QStringLiteral("My_safe_20260304_100.gpm"), Outcome::Done},
+            {QStringLiteral("Other_20260304_100.gpm"), Outcome::Done},
+            {QStringLiteral("My_safe_20260401_100.gpm"), Outcome::Damaged},
+            {QStringLiteral("letter.gpm"), Outcome::NotAnArchive}};
+        QCOMPARE(outcomes, expected);
+        QCOMPARE(overview.safes.size(), 4);
+        const auto safe = [&](int i) { return overview.safes.at(i); };
+        QCOMPARE(safe(0).last->name->day, firstDay.date());
+        QVERIFY(safe(0).unchanged && !safe(1).unchanged);
+        QVERIFY(safe(1).last && !safe(2).available && !safe(3).last);
+        QCOMPARE(program.backups.lastOf(m_safe).result()->path, safe(0).last->path);
+        QVERIFY(!program.backups.lastOf(same).result() && !program.backups.lastOf(gone).result());
+
+        program.settings.setBackupPath(m_safe + QStringLiteral("/safe.meta/backup"));
+        QCOMPARE(program.backups.overview().result().place, BackupOverview::Place::NotThere);
+        program.settings.setBackupPath(m_safe + QStringLiteral("/safe.meta"));
+        QCOMPARE(program.backups.overview().result().place, BackupOverview::Place::NotWritable);
+    }
+
     void runsOfTheProgram()
     {
-        QDateTime now = firstDay.toUTC();
-        GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")), {},
-                                [&now] { return now; });
-        settings.setBackupPath({});
-        settings.setRecentList({m_safe});
-        SafeEnvironment environment;
-        environment.clock = [&now] { return now; };
-        KnownSafes known(settings, m_temporary->filePath(QStringLiteral("safes")), environment);
-        Backups backups(settings, known, m_folder, environment);
-        QSignalSpy finished(&backups, &Backups::finished);
-        QSignalSpy failed(&backups, &Backups::failed);
-        const auto runs = [&] {
-            backups.check();
-            const bool running = backups.isRunning();
-            return running && finished.wait();
-        };
-        QVERIFY(!runs()); // the settings began now
+        Program program(m_temporary->path(), {m_safe});
+        Backups &backups = program.backups;
+        QDateTime &now = program.now;
+        QVERIFY(!program.runs()); // the settings began now
         now = now.addDays(1);
         QCOMPARE(backups.next(), now);
-        QVERIFY(runs());
+        QVERIFY(program.runs());
         QCOMPARE(files().size(), 1);
-        QCOMPARE(settings.backupCheck(), now);
-        QVERIFY(!runs());
+        QCOMPARE(program.settings.backupCheck(), now);
+        QVERIFY(!program.runs());
+        QCOMPARE(backups.next(), now.addDays(1));
         const GPMAppSettings stored(m_temporary->filePath(QStringLiteral("config")), {});
         QCOMPARE(stored.backupCheck(), now);
 
         // A folder that cannot be written to: told once, tried again after an hour.
         setModified(m_safe, 0x101);
-        settings.setBackupPath(m_safe + QStringLiteral("/safe.meta/backup"));
+        program.settings.setBackupPath(m_safe + QStringLiteral("/safe.meta/backup"));
         now = now.addDays(1);
-        QVERIFY(runs());
-        QCOMPARE(failed.count(), 1);
-        QVERIFY(!runs());
+        QVERIFY(program.runs());
+        QCOMPARE(program.failed.count(), 1);
+        QCOMPARE(backups.lastResults().first().outcome, Outcome::CannotWrite);
+        QVERIFY(!program.runs());
+        QCOMPARE(backups.next(), now.addSecs(3600));
         now = now.addSecs(3601);
-        QVERIFY(runs());
-        QCOMPARE(failed.count(), 1);
-        // The user asks: told again.
-        QVERIFY(backups.backUpNow());
-        QVERIFY(!backups.backUpNow());
-        QVERIFY(finished.wait());
-        QCOMPARE(failed.count(), 2);
-        QVERIFY(settings.backupCheck() < now.addSecs(-3600));
+        QVERIFY(program.runs());
+        QCOMPARE(program.failed.count(), 1);
+        // The user asks: told again, unless it is shown anyway.
+        for (const bool shown : {true, false}) {
+            backups.setShown(shown);
+            QVERIFY(backups.backUpNow());
+            QVERIFY(!backups.backUpNow());
+            QVERIFY(program.finished.wait());
+            QCOMPARE(program.failed.count(), shown ? 1 : 2);
+        }
+        QVERIFY(program.settings.backupCheck() < now.addSecs(-3600));
         // A clock set back does not put the next try off.
-        settings.setBackupPath(m_folder);
+        program.settings.setBackupPath(m_folder);
         now = now.addDays(-100);
-        QVERIFY(runs());
+        QCOMPARE(backups.next(), now);
+        QVERIFY(program.runs());
         QCOMPARE(files().size(), 2);
-        QCOMPARE(settings.backupCheck(), now);
-        QCOMPARE(failed.count(), 2);
+        QCOMPARE(program.settings.backupCheck(), now);
+        QCOMPARE(program.failed.count(), 2);
     }
 
     void aSafeThatIsLeftOutIsTriedAlone()
     {
         const QString other = newSafe(QStringLiteral("Other"), 8);
-        QDateTime now = firstDay.toUTC();
-        GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")), {},
-                                [&now] { return now; });
-        settings.setBackupPath(m_folder);
-        settings.setRecentList({m_safe, other});
-        SafeEnvironment environment;
-        environment.clock = [&now] { return now; };
-        KnownSafes known(settings, m_temporary->filePath(QStringLiteral("safes")), environment);
-        Backups backups(settings, known, m_folder, environment);
-        QSignalSpy finished(&backups, &Backups::finished);
-        QSignalSpy failed(&backups, &Backups::failed);
+        Program program(m_temporary->path(), {m_safe, other});
         // As a change of password holds it.
         QLockFile held(m_safe + QStringLiteral("/.sourcelock"));
         QVERIFY(held.lock());
-        now = now.addDays(1);
-        backups.check();
-        QVERIFY(finished.wait());
+        program.now = program.now.addDays(1);
+        QVERIFY(program.runs());
         QCOMPARE(files(), names(QStringLiteral("Other"), {QStringLiteral("20260305_100")}));
+        QCOMPARE(program.backups.next(), program.now.addSecs(60));
         setModified(other, 0x101);
-        now = now.addSecs(30);
-        backups.check();
-        QVERIFY(!backups.isRunning());
+        program.now = program.now.addSecs(30);
+        QVERIFY(!program.runs());
         held.unlock();
-        now = now.addSecs(31);
-        backups.check();
-        QVERIFY(finished.wait());
+        program.now = program.now.addSecs(31);
+        QVERIFY(program.runs());
         QCOMPARE(files(), names(QStringLiteral("My_safe"), {QStringLiteral("20260305_100")}) +
                               names(QStringLiteral("Other"), {QStringLiteral("20260305_100")}));
-        QVERIFY(failed.isEmpty());
+        QVERIFY(program.failed.isEmpty());
     }
 
     void aCancelledRunLeavesNothing()
     {
-        GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")), {});
-        settings.setRecentList({m_safe});
-        settings.setBackupPath(m_folder);
-        settings.setBackupCheck({});
-        KnownSafes known(settings, m_temporary->filePath(QStringLiteral("safes")));
-        auto backups = std::make_unique<Backups>(settings, known, m_folder);
-        QSignalSpy finished(backups.get(), &Backups::finished);
-        connect(backups.get(), &Backups::started, this, [&] { backups->cancel(); });
-        QVERIFY(backups->backUpNow());
-        QVERIFY(finished.wait());
+        Program program(m_temporary->path(), {m_safe});
+        Backups &backups = program.backups;
+        connect(&backups, &Backups::started, this, [&] { backups.cancel(); });
+        QVERIFY(backups.backUpNow());
+        QVERIFY(program.finished.wait());
         QCOMPARE(files(), QStringList());
-        QVERIFY(backups->backUpNow());
-        backups->stop(); // the program ends
-        QVERIFY(!backups->isRunning());
+        QVERIFY(backups.backUpNow());
+        backups.stop(); // the program ends
+        QVERIFY(!backups.isRunning());
         QVERIFY(files().isEmpty());
-        backups->check();
-        QVERIFY(!backups->isRunning());
+        program.settings.setBackupCheck({});
+        QVERIFY(!program.runs());
     }
 };
 
-static int backUpAndDie(const QStringList &arguments)
-{
-    auto files = std::make_shared<FaultyArchiveFiles>();
-    files->failAt = arguments.value(4).toInt();
-    files->fault = [] { _exit(99); };
-    WorkControl control;
-    const auto results =
-        makeJob({arguments.value(2)}, arguments.value(3), firstDay.addDays(3), files).run(control);
-    const State state = results.first().state;
-    return state == State::Written || state == State::Unchanged ? 0 : 1;
-}
-
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    if (application.arguments().value(1) == QLatin1String("--back-up"))
-        return backUpAndDie(application.arguments());
-    TestBackups test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestBackups)
 
 #include "tst_backups.moc"
