@@ -74,7 +74,10 @@ void GPMAppCore::startGuard()
     connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkInactivity);
     connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkScreenSaverRunning);
     connect(&m_guardTimer, &QTimer::timeout, this, &GPMAppCore::checkBackupJob);
-    m_guard.setBackupCheck([this] { m_backups.check(); });
+    m_guard.setBackupCheck([this] {
+        if (!m_safe || !m_safe->isChangingPassword())
+            m_backups.check();
+    });
     connect(&m_backups, &Backups::failed, this, &GPMAppCore::tellBackupFailures);
     m_guardTimer.start(LockGuard::checkMs);
 }
@@ -165,6 +168,13 @@ void GPMAppCore::cancelUnlock()
 {
     if (m_safe)
         m_safe->cancelUnlock();
+}
+
+bool GPMAppCore::changePassword(const QString &newPassword, const QString &hint)
+{
+    // It lets go of the safe soon; the change waits for that.
+    m_backups.cancel();
+    return m_safe && m_safe->changePasswordAsync(newPassword, hint);
 }
 
 bool GPMAppCore::saveCurrentSafe()

@@ -88,6 +88,10 @@ public:
     /// Takes a new item into the safe and saves; null when the safe is locked.
     PMListItem *modelAddItem(std::unique_ptr<PMListItem> item);
 
+    /// Starts to change the password of the open safe, and stops a backup for that; progress and
+    /// end are told by the safe. False when it cannot begin.
+    bool changePassword(const QString &newPassword, const QString &hint);
+
     /// Writes what is changed, now. False when something could not be written: it stays marked as
     /// changed, and no message is sent. True when there is nothing to write.
     bool saveCurrentSafe();

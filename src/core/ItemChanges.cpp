@@ -110,6 +110,12 @@ void ItemChanges::purge(const QStringList &itemIds)
     const std::shared_ptr<GPMSafe> safe = m_safe();
     if (!safe || itemIds.isEmpty())
         return;
+    if (safe->isChangingPassword()) {
+        Q_EMIT message(tr("Can't delete now."),
+                       tr("The password of the safe is being changed. Delete the items when that "
+                          "is done."));
+        return;
+    }
     const QStringList all = itemIds + attachmentsGoingWith(itemIds);
     const bool removed = safe->removeItems(all);
     dropReferences(*safe, all);

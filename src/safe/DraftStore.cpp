@@ -56,6 +56,7 @@ void DraftStore::close()
 {
     m_worker.waitForDone();
     m_password.reset();
+    m_next = {};
     m_folder.clear();
     ++m_session;
 }
@@ -81,6 +82,17 @@ bool DraftStore::write(const SafeEnvironment &environment, const QString &path,
            writeItemFile(environment, path, password, document);
 }
 
+bool DraftStore::writeBoth(const SafeEnvironment &environment, const QString &path,
+                           const QByteArray &password, const Next &next, const KeptDraft &draft)
+{
+    if (next.password) {
+        if (!write(environment, path + nextEnding, next.password->view(), draft))
+            return false;
+        next.keys->insert(draft.key);
+    }
+    return write(environment, path, password, draft);
+}
+
 std::optional<KeptDraft> DraftStore::read(FileLayer &files, const QString &path,
                                           const QByteArray &password)
 {
@@ -102,7 +114,7 @@ bool DraftStore::keep(const KeptDraft &draft)
         return false;
     m_worker.waitForDone();
     const QString path = filePath(draft.key);
-    if (write(m_environment, path, m_password->view(), draft))
+    if (writeBoth(m_environment, path, m_password->view(), m_next, draft))
         return true;
     qWarning() << "DraftStore::keep"
                << "Can't write draft file:" << path;
@@ -123,10 +135,10 @@ void DraftStore::keepAsync(const KeptDraft &draft)
         qWarning() << "DraftStore::keep"
                    << "Can't write draft file:" << path;
     });
-    watcher->setFuture(QtConcurrent::run(
-        &m_worker, [environment = m_environment, path, password = m_password, draft] {
-            return write(environment, path, password->view(), draft);
-        }));
+    watcher->setFuture(QtConcurrent::run(&m_worker, [environment = m_environment, path,
+                                                     password = m_password, next = m_next, draft] {
+        return writeBoth(environment, path, password->view(), next, draft);
+    }));
 }
 
 void DraftStore::remove(const QString &key)
@@ -134,7 +146,9 @@ void DraftStore::remove(const QString &key)
     if (!isOpen())
         return;
     const QString path = filePath(key);
-    QtConcurrent::run(&m_worker, [files = m_environment.files, path] {
+    QtConcurrent::run(&m_worker, [files = m_environment.files, path, prepared = m_next.keys, key] {
+        if (prepared)
+            prepared->remove(key);
         for (const QString &file : {path, path + nextEnding}) {
             if (!files->remove(file))
                 qWarning() << "DraftStore::remove"
@@ -170,14 +184,15 @@ void DraftStore::loadAsync()
                        << "Can't read draft file:" << path;
         Q_EMIT loaded(result.drafts, result.unreadable);
     });
-    watcher->setFuture(QtConcurrent::run(
-        &m_worker, [environment = m_environment, folder = m_folder, password = m_password] {
-            return load(environment, folder, password->view());
-        }));
+    watcher->setFuture(QtConcurrent::run(&m_worker, [environment = m_environment, folder = m_folder,
+                                                     password = m_password,
+                                                     changing = m_next.password != nullptr] {
+        return load(environment, folder, password->view(), changing);
+    }));
 }
 
 DraftStore::Loaded DraftStore::load(const SafeEnvironment &environment, const QString &folder,
-                                    const QByteArray &password)
+                                    const QByteArray &password, bool changing)
 {
     FileLayer &files = *environment.files;
     Loaded result;
@@ -195,7 +210,7 @@ DraftStore::Loaded DraftStore::load(const SafeEnvironment &environment, const QS
             files.replace(path + nextEnding, path);
         } else {
             draft = read(files, path, password);
-            if (draft)
+            if (draft && !changing)
                 files.remove(path + nextEnding);
         }
         if (!draft) {
@@ -208,47 +223,62 @@ DraftStore::Loaded DraftStore::load(const SafeEnvironment &environment, const QS
     return result;
 }
 
-bool DraftStore::prepareChange(const QByteArray &newPassword)
+QFuture<bool> DraftStore::prepareChange(const Password &newPassword)
 {
-    m_prepared.clear();
     if (!isOpen())
-        return true;
-    m_worker.waitForDone();
-    const QStringList list = keys(m_folder);
+        return QtConcurrent::run(&m_worker, [] { return true; });
+    m_next = {newPassword, std::make_shared<QSet<QString>>()};
+    return QtConcurrent::run(&m_worker, [environment = m_environment, folder = m_folder,
+                                         password = m_password, next = m_next] {
+        return prepare(environment, folder, password->view(), next);
+    });
+}
+
+bool DraftStore::prepare(const SafeEnvironment &environment, const QString &folder,
+                         const QByteArray &password, const Next &next)
+{
+    const QStringList list = keys(folder);
     for (const QString &key : list) {
-        const QString path = filePath(key);
-        const std::optional<KeptDraft> draft = read(*m_environment.files, path, m_password->view());
+        const QString path = folder + QLatin1Char('/') + key;
+        const std::optional<KeptDraft> draft = read(*environment.files, path, password);
         if (!draft)
             continue;
-        if (!write(m_environment, path + nextEnding, newPassword, *draft)) {
+        if (!write(environment, path + nextEnding, next.password->view(), *draft)) {
             qWarning() << "DraftStore::prepareChange"
                        << "Can't write draft file:" << path + nextEnding;
-            rollBackChange();
             return false;
         }
-        m_prepared.append(key);
+        next.keys->insert(key);
     }
     return true;
 }
 
-void DraftStore::commitChange(const Password &newPassword)
+void DraftStore::commitChange()
 {
-    if (!isOpen())
+    const Next next = std::exchange(m_next, {});
+    if (!isOpen() || !next.password)
         return;
-    m_password = newPassword;
-    const QStringList prepared = std::exchange(m_prepared, {});
-    for (const QString &key : prepared) {
-        const QString path = filePath(key);
-        // Where this fails, reading finds the copy.
-        if (!m_environment.files->replace(path + nextEnding, path))
-            qWarning() << "DraftStore::commitChange"
-                       << "Can't replace draft file:" << path;
-    }
+    m_password = next.password;
+    QtConcurrent::run(&m_worker,
+                      [files = m_environment.files, folder = m_folder, prepared = next.keys] {
+                          for (const QString &key : qAsConst(*prepared)) {
+                              const QString path = folder + QLatin1Char('/') + key;
+                              // Where this fails, reading finds the copy.
+                              if (!files->replace(path + nextEnding, path))
+                                  qWarning() << "DraftStore::commitChange"
+                                             << "Can't replace draft file:" << path;
+                          }
+                      });
 }
 
 void DraftStore::rollBackChange()
 {
-    const QStringList prepared = std::exchange(m_prepared, {});
-    for (const QString &key : prepared)
-        m_environment.files->remove(filePath(key) + nextEnding);
+    const Next next = std::exchange(m_next, {});
+    if (!isOpen() || !next.password)
+        return;
+    QtConcurrent::run(&m_worker,
+                      [files = m_environment.files, folder = m_folder, prepared = next.keys] {
+                          for (const QString &key : qAsConst(*prepared))
+                              files->remove(folder + QLatin1Char('/') + key + nextEnding);
+                      });
 }

@@ -5,7 +5,9 @@
 #include "SecretBytes.h"
 
 #include <QDateTime>
+#include <QFuture>
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 #include <QThreadPool>
 #include <QVector>
@@ -54,12 +56,15 @@ public:
     /// Reads the drafts on the worker; loaded() follows.
     void loadAsync();
 
-    /// Writes every draft beside itself under another password. False, with nothing left, when one
-    /// cannot be written. One that does not open now is passed over.
-    bool prepareChange(const QByteArray &newPassword);
-    /// Lets what prepareChange() wrote take the place of the drafts.
-    void commitChange(const Password &newPassword);
+    /// Writes every draft beside itself under another password, on the worker, and from now on
+    /// each that is kept. The result is false when one cannot be written; one that does not open
+    /// now is passed over. commitChange() or rollBackChange() has to follow.
+    QFuture<bool> prepareChange(const Password &newPassword);
+    /// Lets what was written under the new password take the place of the drafts, on the worker.
+    void commitChange();
     void rollBackChange();
+    /// Waits for the worker.
+    void wait() { m_worker.waitForDone(); }
 
 Q_SIGNALS:
     /// @param unreadable files that are no drafts of this safe; they are left as they are
@@ -72,13 +77,27 @@ private:
         QStringList unreadable;
     };
 
+    /// The drafts that have a copy under the next password; for the worker alone.
+    using Prepared = std::shared_ptr<QSet<QString>>;
+
+    /// A change of password that is under way, if any.
+    struct Next
+    {
+        Password password;
+        Prepared keys;
+    };
+
     bool isOpen() const { return m_password != nullptr && !m_folder.isEmpty(); }
     static bool write(const SafeEnvironment &environment, const QString &path,
                       const QByteArray &password, const KeptDraft &draft);
+    static bool writeBoth(const SafeEnvironment &environment, const QString &path,
+                          const QByteArray &password, const Next &next, const KeptDraft &draft);
     static std::optional<KeptDraft> read(FileLayer &files, const QString &path,
                                          const QByteArray &password);
     static Loaded load(const SafeEnvironment &environment, const QString &folder,
-                       const QByteArray &password);
+                       const QByteArray &password, bool changing);
+    static bool prepare(const SafeEnvironment &environment, const QString &folder,
+                        const QByteArray &password, const Next &next);
     static QStringList keys(const QString &folder);
 
     SafeEnvironment m_environment;
@@ -86,6 +105,6 @@ private:
     Password m_password;
     int m_session = 0; ///< counts the locks
     bool m_failed = false;
-    QStringList m_prepared; ///< keys that have a copy under the next password
-    QThreadPool m_worker;   ///< one thread, so that files keep their order
+    Next m_next;
+    QThreadPool m_worker; ///< one thread, so that files keep their order
 };

@@ -24,8 +24,15 @@ GPMSafe::GPMSafe(SafeEnvironment environment, QObject *parent)
     , m_attachments(*this, m_state)
     , m_meetings(*this, m_state)
     , m_drafts(m_state.environment)
-    , m_passwordChange(m_state, m_drafts)
+    , m_passwordChange(m_state, m_drafts, [this] {
+        m_meetings.take();
+        m_attachments.handOn();
+    })
 {
+    connect(&m_passwordChange, &SafePasswordChange::progress, this,
+            &GPMSafe::passwordChangeProgress);
+    connect(&m_passwordChange, &SafePasswordChange::finished, this,
+            &GPMSafe::onPasswordChangeFinished);
 }
 
 GPMSafe::~GPMSafe()
@@ -187,6 +194,7 @@ void GPMSafe::onUnlockFinished(SafeUnlock::Outcome outcome)
 void GPMSafe::lock()
 {
     m_unlock.reset();
+    m_passwordChange.stop();
     waitForWriter();
     if (!isUnlocked())
         return;
@@ -210,6 +218,7 @@ bool GPMSafe::saveChanges()
 {
     if (!isUnlocked())
         return false;
+    m_passwordChange.stop();
     waitForWriter();
     return m_saving.saveNow().good();
 }
@@ -218,12 +227,15 @@ void GPMSafe::saveChangesAsync()
 {
     if (!isUnlocked())
         return;
+    if (isChangingPassword()) {
+        m_saveWaits = true;
+        return;
+    }
     cancelMeeting();
     m_saving.saveLater();
 }
 
-bool GPMSafe::changePassword(const QString &newPassword,
-                             const std::function<void(int, int)> &progress)
+bool GPMSafe::mayChangePassword(const QString &newPassword) const
 {
     const char operation[] = "GPMSafe::changePassword";
     if (newPassword.isEmpty()) {
@@ -234,9 +246,35 @@ bool GPMSafe::changePassword(const QString &newPassword,
         qWarning() << operation << "Safe is locked:" << folder();
         return false;
     }
+    return !isChangingPassword();
+}
+
+bool GPMSafe::changePassword(const QString &newPassword,
+                             const std::function<void(int, int)> &progress)
+{
+    if (!mayChangePassword(newPassword))
+        return false;
     // A meeting with the mirror holds the lock file, too.
     settle();
     return m_passwordChange.run(newPassword, progress);
+}
+
+bool GPMSafe::changePasswordAsync(const QString &newPassword, const QString &hint)
+{
+    if (!mayChangePassword(newPassword))
+        return false;
+    cancelMeeting();
+    m_passwordChange.start(newPassword, hint);
+    return true;
+}
+
+void GPMSafe::onPasswordChangeFinished(PasswordChangeOutcome outcome)
+{
+    // What had to wait goes on under the password that is in force now.
+    if (std::exchange(m_saveWaits, false))
+        saveChangesAsync();
+    m_attachments.addWaiting();
+    Q_EMIT passwordChangeFinished(outcome);
 }
 
 std::unique_ptr<ArchiveTask> GPMSafe::exportArchive(const QString &archivePath)
@@ -321,7 +359,7 @@ void GPMSafe::touchItem(PMListItem &item)
 
 bool GPMSafe::removeItems(const QStringList &ids)
 {
-    if (!isUnlocked() || !commitDeleted(ids))
+    if (!isUnlocked() || isChangingPassword() || !commitDeleted(ids))
         return false;
     // A write still under way would bring the file back.
     waitForWriter();
@@ -353,7 +391,7 @@ bool GPMSafe::commitDeleted(const QStringList &ids)
 
 bool GPMSafe::meetMirror(const QString &mirrorFolder, const SyncRecord::Deletions &deleted)
 {
-    return m_meetings.start(mirrorFolder, deleted);
+    return !isChangingPassword() && m_meetings.start(mirrorFolder, deleted);
 }
 
 void GPMSafe::cancelMeeting()

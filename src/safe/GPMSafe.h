@@ -66,6 +66,15 @@ public:
     bool changePassword(const QString &newPassword,
                         const std::function<void(int done, int total)> &progress = {});
 
+    /// The same on the writer, with a new hint; passwordChangeProgress() and then
+    /// passwordChangeFinished() follow. Until then edits are kept in memory and saved behind it,
+    /// items cannot be removed, and the mirror is not met. Locking cancels it. False when it cannot
+    /// begin.
+    bool changePasswordAsync(const QString &newPassword, const QString &hint);
+    /// passwordChangeFinished() follows, with Changed when every file was written already.
+    void cancelPasswordChange() { m_passwordChange.cancel(); }
+    bool isChangingPassword() const { return m_passwordChange.isRunning(); }
+
     /// Makes the safe and its mirror alike on the writer; mirrorMet() follows. It gives way to
     /// everything else that writes. False when the safe is locked or a meeting is under way.
     /// @param deleted items removed since the last meeting
@@ -141,6 +150,8 @@ Q_SIGNALS:
     void unlockProgress(int done, int total);
     void unlockFinished(SafeUnlock::Outcome outcome);
     void saved(bool good, const QStringList &failedPaths);
+    void passwordChangeProgress(int done, int total);
+    void passwordChangeFinished(PasswordChangeOutcome outcome);
     /// A new attachment is in, or is not because of a fault; its title is that of the given item.
     void attachmentDone(const QString &id, const QString &title, AttachmentFault fault);
     /// How far a meeting is, counted in items that may differ.
@@ -156,6 +167,8 @@ Q_SIGNALS:
 
 private:
     bool canUnlock() const;
+    bool mayChangePassword(const QString &newPassword) const;
+    void onPasswordChangeFinished(PasswordChangeOutcome outcome);
     void takeUnlocked(SafeUnlock &unlock);
     void onUnlockFinished(SafeUnlock::Outcome outcome);
     void waitForWriter();
@@ -168,4 +181,5 @@ private:
     MirrorMeetings m_meetings;
     DraftStore m_drafts;
     SafePasswordChange m_passwordChange;
+    bool m_saveWaits = false; ///< for the end of a change of password
 };

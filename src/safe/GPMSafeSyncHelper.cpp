@@ -28,6 +28,7 @@ GPMSafeSyncHelper::GPMSafeSyncHelper(std::shared_ptr<GPMSafe> safe, const QStrin
             &GPMSafeSyncHelper::onMirrorChanged);
     connect(m_safe.get(), &GPMSafe::lockedChanged, this, &GPMSafeSyncHelper::onLockedChanged);
     connect(m_safe.get(), &GPMSafe::saved, this, &GPMSafeSyncHelper::synchronize);
+    connect(m_safe.get(), &GPMSafe::passwordChangeFinished, this, &GPMSafeSyncHelper::synchronize);
     connect(m_safe.get(), &GPMSafe::mirrorMet, this, &GPMSafeSyncHelper::onFinished);
     connect(m_safe.get(), &GPMSafe::meetingProgress, this, &GPMSafeSyncHelper::progress);
     connect(m_safe.get(), &GPMSafe::itemAboutToBeRemoved, this, &GPMSafeSyncHelper::onItemRemoved);

@@ -62,23 +62,28 @@ void ItemStore::markSaved(const QVector<SaveJob::Item> &saved)
     }
 }
 
-QVector<PasswordChange::Item> ItemStore::planPasswordChange(const SafeFolder &folder) const
+std::optional<PasswordChange::Item> ItemStore::forPasswordChange(const QString &id) const
 {
-    QVector<PasswordChange::Item> list;
-    for (const auto &[id, entry] : m_entries)
-        list.append(PasswordChange::plan(*entry.item, entry.name, folder));
-    return list;
+    const auto found = m_entries.find(id);
+    if (found == m_entries.end())
+        return std::nullopt;
+    const PMListItem &item = *found->second.item;
+    return PasswordChange::Item{found->second.name, PMItemDocument::fromItem(item),
+                                item.type() == PMListItem::Attachment, item.revision(),
+                                item.modified()};
 }
 
 void ItemStore::takePasswordChange(const QVector<PasswordChange::Item> &written)
 {
     for (const PasswordChange::Item &change : written) {
         LoadedItems::Entry &entry = m_entries.at(change.oldName.id);
+        const bool editedSince = entry.item->revision() != change.revision;
         entry.name = change.newName;
+        entry.written = change.modified;
         if (change.attachment)
             entry.item->setProperty(
                 "hash", change.document.publicFields.value(QStringLiteral("hash")).toString());
-        entry.item->markSaved(entry.item->revision());
-        entry.written = entry.item->modified();
+        if (!editedSince)
+            entry.item->markSaved(entry.item->revision());
     }
 }

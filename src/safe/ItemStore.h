@@ -35,8 +35,9 @@ public:
     QVector<SaveJob::Item> changed() const;
     void markSaved(const QVector<SaveJob::Item> &saved);
 
-    /// What a change of password has to do, and what it did.
-    QVector<PasswordChange::Item> planPasswordChange(const SafeFolder &folder) const;
+    /// An item as a change of password writes it; nothing when there is none.
+    std::optional<PasswordChange::Item> forPasswordChange(const QString &id) const;
+    /// What was edited meanwhile stays marked as changed.
     void takePasswordChange(const QVector<PasswordChange::Item> &written);
 
 private:

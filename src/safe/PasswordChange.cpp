@@ -1,104 +1,138 @@
 #include "PasswordChange.h"
 
 #include "SafeCrypto.h"
+#include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
 
 #include <QDebug>
 #include <QFile>
+#include <QMutexLocker>
 #include <QtConcurrent>
 
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 static const char operation[] = "GPMSafe::changePassword";
 
-PasswordChange::Item PasswordChange::plan(const PMListItem &item, const ItemFileName &name,
-                                          const SafeFolder &folder)
+PasswordChange::PasswordChange(Safe safe)
+    : m_safe(std::move(safe))
+    , m_lock(m_safe.folder.path(SafeLayout::lockFile))
 {
-    ItemFileName next = name;
-    do
-        ++next.generation;
-    while (QFile::exists(folder.contentPath(next)) || QFile::exists(folder.attachmentPath(next)));
-    return {name, next, PMItemDocument::fromItem(item), item.type() == PMListItem::Attachment};
 }
 
-bool PasswordChange::isComplete(const QVector<Item> &items, const SafeFolder &folder)
+PasswordChangeOutcome PasswordChange::run(const WorkControl &control,
+                                          const std::function<bool()> &draftsReady,
+                                          const std::function<void(int)> &progress)
 {
-    return std::all_of(items.begin(), items.end(), [&folder](const Item &item) {
-        return !item.attachment || QFile::exists(folder.attachmentPath(item.oldName));
+    using Outcome = PasswordChangeOutcome;
+    if (!m_lock.lock(m_safe.environment.lockWaitMs, control)) {
+        if (control.isCancelled())
+            return Outcome::Cancelled;
+        qWarning() << operation
+                   << "Can't take the lock file:" << m_safe.folder.path(SafeLayout::lockFile);
+        return m_lock.isHeldByAnother() ? Outcome::Busy : Outcome::NotWritten;
+    }
+    Outcome outcome = Outcome::NotWritten;
+    if (!isComplete()) {
+        // What does not open now would never open again under the new password.
+        qWarning() << operation << "Some object are null, cancel action";
+        outcome = Outcome::Damaged;
+    } else if (draftsReady()) {
+        outcome = rewrite(control, progress);
+    }
+    if (outcome != Outcome::Changed)
+        m_lock.unlock();
+    return outcome;
+}
+
+/// Next generations are the first whose files are not there, so that what an interrupted change
+/// left stays as it is.
+void PasswordChange::chooseNames()
+{
+    for (Item &item : m_items) {
+        item.newName = item.oldName;
+        do
+            ++item.newName.generation;
+        while (QFile::exists(m_safe.folder.contentPath(item.newName)) ||
+               QFile::exists(m_safe.folder.attachmentPath(item.newName)));
+    }
+}
+
+/// Whether every attachment has its bytes.
+bool PasswordChange::isComplete() const
+{
+    return std::all_of(m_items.begin(), m_items.end(), [this](const Item &item) {
+        return !item.attachment || QFile::exists(m_safe.folder.attachmentPath(item.oldName));
     });
 }
 
-PasswordChange::PasswordChange(const SafeEnvironment &environment, const SafeFolder &folder,
-                               const QByteArray &oldPassword, const QByteArray &newPassword,
-                               QVector<Item> items)
-    : m_environment(environment)
-    , m_folder(folder)
-    , m_oldPassword(oldPassword)
-    , m_newPassword(newPassword)
-    , m_items(std::move(items))
+PasswordChangeOutcome PasswordChange::rewrite(const WorkControl &control,
+                                              const std::function<void(int)> &progress)
 {
-}
-
-bool PasswordChange::run(const std::function<void(int)> &progress,
-                         const std::atomic<bool> *cancelled)
-{
+    chooseNames();
+    if (control.isCancelled())
+        return PasswordChangeOutcome::Cancelled;
     if (!backUpPassId())
-        return false;
-    if (writePassId() && writeItems(progress, cancelled)) {
+        return PasswordChangeOutcome::NotWritten;
+    // Behind the last item there is no way back any more.
+    if (writePassId() && writeItems(control, progress) && !control.isCancelled() &&
+        writeNewDescription()) {
         qDebug() << operation << "New items saved:" << m_items.size();
         qDebug() << operation << "New pass id written";
-        return true;
+        return PasswordChangeOutcome::Changed;
     }
     cleanUp();
-    return false;
+    return control.isCancelled() ? PasswordChangeOutcome::Cancelled
+                                 : PasswordChangeOutcome::NotWritten;
 }
 
 void PasswordChange::removeOldFiles()
 {
     qDebug() << operation << "Remove old items from the safe";
     for (const Item &item : std::as_const(m_items)) {
-        QStringList paths{m_folder.contentPath(item.oldName)};
+        QStringList paths{m_safe.folder.contentPath(item.oldName)};
         if (item.attachment)
-            paths.append(m_folder.attachmentPath(item.oldName));
+            paths.append(m_safe.folder.attachmentPath(item.oldName));
         for (const QString &old : std::as_const(paths)) {
-            if (!m_environment.files->remove(old))
+            if (!files().remove(old))
                 qWarning() << operation << "Can't remove old file:" << old;
         }
     }
+    m_lock.unlock();
 }
 
 bool PasswordChange::backUpPassId()
 {
+    const QMutexLocker locker(m_safe.mutex.get());
     // Replaced in one step, so that there is no moment with neither an old nor a new copy.
-    const std::optional<QByteArray> passId =
-        m_environment.files->read(m_folder.path(SafeLayout::passId));
-    if (passId &&
-        m_environment.files->writeBytes(m_folder.path(SafeLayout::passIdBackup), *passId)) {
+    const std::optional<QByteArray> passId = files().read(m_safe.folder.path(SafeLayout::passId));
+    if (passId && files().writeBytes(m_safe.folder.path(SafeLayout::passIdBackup), *passId)) {
         m_oldPassId = *passId;
         return true;
     }
-    qWarning() << operation << "Can't back up pass id file at:" << m_folder.root();
+    qWarning() << operation << "Can't back up pass id file at:" << m_safe.folder.root();
     return false;
 }
 
 bool PasswordChange::writePassId()
 {
-    const QString passId = makePassId(m_newPassword, m_environment.random);
+    const QMutexLocker locker(m_safe.mutex.get());
+    const QString passId = makePassId(m_safe.newPassword->view(), m_safe.environment.random);
     if (!passId.isEmpty() &&
-        m_environment.files->writeBytes(m_folder.path(SafeLayout::passId), passId.toLatin1()))
+        files().writeBytes(m_safe.folder.path(SafeLayout::passId), passId.toLatin1()))
         return true;
-    qWarning() << operation << "Can't save pass id file at:" << m_folder.root();
+    qWarning() << operation << "Can't save pass id file at:" << m_safe.folder.root();
     return false;
 }
 
-bool PasswordChange::writeItems(const std::function<void(int)> &progress,
-                                const std::atomic<bool> *cancelled)
+bool PasswordChange::writeItems(const WorkControl &control,
+                                const std::function<void(int)> &progress)
 {
     std::atomic<bool> failed{false};
     std::atomic<int> done{0};
     QtConcurrent::blockingMap(m_items, [&](Item &item) {
-        if (failed || (cancelled && *cancelled))
+        if (failed || control.isCancelled())
             return;
         if (!writeItem(item))
             failed = true;
@@ -112,47 +146,62 @@ bool PasswordChange::writeItems(const std::function<void(int)> &progress,
 bool PasswordChange::writeItem(Item &item)
 {
     if (item.attachment && !reencryptAttachment(item)) {
-        qWarning() << operation
-                   << "Can't re-encrypt attachment file:" << m_folder.attachmentPath(item.oldName);
+        qWarning() << operation << "Can't re-encrypt attachment file:"
+                   << m_safe.folder.attachmentPath(item.oldName);
         return false;
     }
-    if (writeItemFile(m_environment, m_folder.contentPath(item.newName), m_newPassword,
-                      item.document))
+    if (writeItemFile(m_safe.environment, m_safe.folder.contentPath(item.newName),
+                      m_safe.newPassword->view(), item.document))
         return true;
-    qWarning() << operation << "Can't save item to file:" << m_folder.contentPath(item.newName);
+    qWarning() << operation
+               << "Can't save item to file:" << m_safe.folder.contentPath(item.newName);
     return false;
 }
 
 bool PasswordChange::reencryptAttachment(Item &item)
 {
-    QFile source(m_folder.attachmentPath(item.oldName));
+    QFile source(m_safe.folder.attachmentPath(item.oldName));
     if (!source.open(QIODevice::ReadOnly))
         return false;
-    const QString newPath = m_folder.attachmentPath(item.newName);
-    const bool written = m_environment.files->write(newPath, [&](QIODevice &destination) {
-        return reencryptStream(m_oldPassword, m_newPassword, source, destination,
-                               m_environment.random);
+    const QString newPath = m_safe.folder.attachmentPath(item.newName);
+    const bool written = files().write(newPath, [&](QIODevice &destination) {
+        return reencryptStream(m_safe.oldPassword->view(), m_safe.newPassword->view(), source,
+                               destination, m_safe.environment.random);
     });
     const QString hash = written ? fileHash(newPath) : QString();
     item.document.publicFields.insert(QStringLiteral("hash"), hash);
     return !hash.isEmpty();
 }
 
+bool PasswordChange::writeNewDescription()
+{
+    if (m_safe.newDescription.isEmpty())
+        return true;
+    const QMutexLocker locker(m_safe.mutex.get());
+    m_descriptionTouched = true;
+    if (writeDescription(files(), m_safe.folder.root(), m_safe.newDescription))
+        return true;
+    qWarning() << operation << "Can't save safe meta file:" << m_safe.folder.path(SafeLayout::meta);
+    return false;
+}
+
 void PasswordChange::cleanUp()
 {
     qWarning() << operation << "Cleanup on error";
-    FileLayer &files = *m_environment.files;
+    const QMutexLocker locker(m_safe.mutex.get());
     // A full disk may refuse even the copy; moving the backup back needs no room.
-    const QString backup = m_folder.path(SafeLayout::passIdBackup);
-    const bool copied = files.writeBytes(m_folder.path(SafeLayout::passId), m_oldPassId);
-    if (!copied && !files.replace(backup, m_folder.path(SafeLayout::passId)))
+    const QString backup = m_safe.folder.path(SafeLayout::passIdBackup);
+    const bool copied = files().writeBytes(m_safe.folder.path(SafeLayout::passId), m_oldPassId);
+    if (!copied && !files().replace(backup, m_safe.folder.path(SafeLayout::passId)))
         qCritical() << operation << "Can't put pass id back, its copy is at:" << backup;
     else if (copied)
-        files.remove(backup);
+        files().remove(backup);
+    if (m_descriptionTouched)
+        writeDescription(files(), m_safe.folder.root(), m_safe.oldDescription);
 
     for (const Item &item : std::as_const(m_items)) {
-        files.remove(m_folder.contentPath(item.newName));
+        files().remove(m_safe.folder.contentPath(item.newName));
         if (item.attachment)
-            files.remove(m_folder.attachmentPath(item.newName));
+            files().remove(m_safe.folder.attachmentPath(item.newName));
     }
 }

@@ -27,7 +27,7 @@ bool SafeAttachments::prepare(PMListItem &item) const
 
 PMListItem *SafeAttachments::add(std::unique_ptr<PMListItem> item, QIODevice &bytes)
 {
-    if (!item || !prepare(*item))
+    if (!item || m_safe.isChangingPassword() || !prepare(*item))
         return nullptr;
     const QString target = m_state.folder.attachmentPath({item->id(), 0});
     const bool written = m_state.environment.files->write(target, [&](QIODevice &destination) {
@@ -48,10 +48,21 @@ void SafeAttachments::addAsync(std::unique_ptr<PMListItem> item, const Attachmen
 {
     if (!item || !prepare(*item))
         return;
+    if (m_safe.isChangingPassword()) {
+        m_waiting.push_back({std::move(item), source, parentId});
+        return;
+    }
     m_safe.cancelMeeting();
     const QString target = m_state.folder.attachmentPath({item->id(), 0});
     m_intake.add(std::move(item), parentId,
                  {m_state.environment, target, m_state.password, source});
+}
+
+void SafeAttachments::addWaiting()
+{
+    std::vector<Waiting> waiting = std::exchange(m_waiting, {});
+    for (Waiting &each : waiting)
+        addAsync(std::move(each.item), each.source, each.parentId);
 }
 
 void SafeAttachments::take(AttachmentIntake::Arrival arrival)

@@ -3,6 +3,8 @@
 #include "AttachmentIntake.h"
 #include "SafeState.h"
 
+#include <vector>
+
 class GPMSafe;
 
 /// The attachments of a safe: takes new ones in and gives the bytes of those that are there.
@@ -15,6 +17,8 @@ public:
     PMListItem *add(std::unique_ptr<PMListItem> item, QIODevice &bytes);
     void addAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
                   const QString &parentId);
+    /// Goes on with those that came during a change of password.
+    void addWaiting();
     /// Takes in what is encrypted by now; everything once the writer has nothing left to do.
     void handOn() { m_intake.handOn(); }
 
@@ -22,10 +26,18 @@ public:
     qint64 size(const QString &id) const;
 
 private:
+    struct Waiting
+    {
+        std::unique_ptr<PMListItem> item;
+        AttachmentSource source;
+        QString parentId;
+    };
+
     bool prepare(PMListItem &item) const;
     void take(AttachmentIntake::Arrival arrival);
 
     GPMSafe &m_safe;
     SafeState &m_state;
     AttachmentIntake m_intake;
+    std::vector<Waiting> m_waiting;
 };

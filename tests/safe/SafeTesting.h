@@ -56,11 +56,13 @@ public:
     int failAt = 0; ///< 1 is the first; 0: none
     bool andAllBehind = false;
     std::function<void()> fault = [] {}; ///< called in the middle of the failing operation
+    QString failPath;                    ///< writes of this file fail, too
+    std::function<void(int)> watch;      ///< told the number of each operation as it begins
     std::atomic<int> operations{0};
 
     bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
     {
-        if (!fails())
+        if (!fails() && path != failPath)
             return FileLayer::write(path, produce, mode);
         const auto produceAndFail = [&](QIODevice &device) {
             produce(device);
@@ -81,6 +83,8 @@ protected:
     bool fails()
     {
         const int number = ++operations;
+        if (watch)
+            watch(number);
         return failAt > 0 && (number == failAt || (andAllBehind && number > failAt));
     }
 };

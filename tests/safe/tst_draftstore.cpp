@@ -286,7 +286,8 @@ private Q_SLOTS:
         QVERIFY(test.safe->drafts().keep(test.draft(QStringLiteral("kept"))));
         // The copy under the new password is there, and the old file still is.
         const QString path = test.draftPath();
-        QVERIFY(test.safe->drafts().prepareChange(otherPassword.toUtf8()));
+        const auto next = std::make_shared<const SecretBytes>(SecretBytes::fromText(otherPassword));
+        QVERIFY(test.safe->drafts().prepareChange(next).result());
         QCOMPARE(test.draftFiles().size(), 2);
         const QMap<QString, QByteArray> crashed = snapshot(test.environment.draftsFolder);
         test.safe->drafts().rollBackChange();

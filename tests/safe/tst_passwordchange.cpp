@@ -1,3 +1,4 @@
+#include "PMItemFactory.h"
 #include "SafeCrypto.h"
 #include "SafeTesting.h"
 
@@ -21,8 +22,27 @@ struct Changed
     int operations = 0;
 };
 
+enum Way { AtOnce, OnTheWriter };
+
+/// Starts a change and lets the event loop run until it has ended.
+PasswordChangeOutcome changeOnWriter(GPMSafe &safe, const QString &password, const QString &hint)
+{
+    PasswordChangeOutcome outcome = PasswordChangeOutcome::Busy;
+    QEventLoop loop;
+    const auto connection = QObject::connect(&safe, &GPMSafe::passwordChangeFinished, &loop,
+                                             [&](PasswordChangeOutcome result) {
+                                                 outcome = result;
+                                                 loop.quit();
+                                             });
+    if (!safe.changePasswordAsync(password, hint))
+        qFatal("the change does not begin");
+    loop.exec();
+    QObject::disconnect(connection);
+    return outcome;
+}
+
 /// Changes the password of the sample safe in a folder over files that fail.
-Changed change(const QString &folder, const std::shared_ptr<FaultyFiles> &files,
+Changed change(const QString &folder, const std::shared_ptr<FaultyFiles> &files, Way way = AtOnce,
                RandomSource random = systemRandom, int lockWaitMs = 0)
 {
     SafeEnvironment environment;
@@ -32,10 +52,13 @@ Changed change(const QString &folder, const std::shared_ptr<FaultyFiles> &files,
     GPMSafe safe(environment);
     if (!safe.open(folder) || !safe.unlock(samplePassword))
         qFatal("the sample safe does not open");
-    const bool good = safe.changePassword(newPassword);
+    const bool good = way == AtOnce ? safe.changePassword(newPassword)
+                                    : changeOnWriter(safe, newPassword, safe.hint()) ==
+                                          PasswordChangeOutcome::Changed;
     // Whatever happened, the object in memory goes on under the password that is in force.
     if (!safe.isPassword(good ? newPassword : samplePassword) || safe.itemCount() != itemCount)
         qFatal("the open safe is not as the change left it");
+    safe.lock();
     return {good, files->operations};
 }
 
@@ -61,6 +84,80 @@ private:
     std::unique_ptr<QTemporaryDir> m_temporary;
     QString m_folder;
     QMap<QString, QByteArray> m_before;
+
+    /// Does something at a file operation of a change, and looks at what became of both.
+    void interleave(const QString &action, int at)
+    {
+        auto files = std::make_shared<FaultyFiles>();
+        SafeEnvironment environment;
+        environment.files = files;
+        GPMSafe safe(environment);
+        QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
+        files->operations = 0;
+        const QString loginId = QStringLiteral("00000000-0000-0001-0000-000000001234");
+        const QString note = QStringLiteral("written meanwhile");
+        QString added;
+        const auto act = [&] {
+            if (action == QLatin1String("cancel")) {
+                safe.cancelPasswordChange();
+            } else if (action == QLatin1String("lock")) {
+                safe.item(loginId)->setNote(note);
+                safe.lock();
+            } else if (action == QLatin1String("add")) {
+                added = safe.addItem(makeItem(PMListItem::Login))->id();
+                safe.saveChangesAsync();
+            } else if (action == QLatin1String("attach")) {
+                safe.addAttachmentAsync(makeItem(PMListItem::Attachment), {{}, "some bytes"},
+                                        loginId);
+            } else if (action == QLatin1String("remove")) {
+                QCOMPARE(safe.removeItems({loginId}), !safe.isChangingPassword());
+            } else {
+                safe.item(loginId)->setNote(note);
+                if (action == QLatin1String("edit"))
+                    safe.saveChangesAsync();
+                else
+                    QVERIFY(safe.saveChanges()); // as at the end of a session
+            }
+        };
+        files->watch = [&](int operation) {
+            if (operation == at)
+                QMetaObject::invokeMethod(&safe, act, Qt::QueuedConnection);
+        };
+        const bool changed =
+            changeOnWriter(safe, newPassword, safe.hint()) == PasswordChangeOutcome::Changed;
+        // What is behind the change may come late: the first item is there without a save, too.
+        QTRY_VERIFY(files->operations >= at);
+        QCoreApplication::processEvents();
+        const int items = action == QLatin1String("lock") ? itemCount : safe.itemCount();
+        safe.lock();
+        files->watch = {};
+
+        const QString password = changed ? newPassword : samplePassword;
+        GPMSafe after;
+        QVERIFY(after.open(m_folder) && after.unlock(password));
+        QVERIFY(after.unreadableFiles().isEmpty());
+        if (action == QLatin1String("cancel")) {
+            if (!changed)
+                QCOMPARE(snapshot(m_folder), m_before);
+            QVERIFY(opensWhole(m_folder, password));
+        } else if (action == QLatin1String("add")) {
+            QVERIFY(changed && after.item(added));
+            QCOMPARE(after.itemCount(), itemCount + 1);
+        } else if (action == QLatin1String("attach")) {
+            QVERIFY(changed);
+            const QStringList refs = after.item(loginId)->refs();
+            QBuffer bytes;
+            bytes.open(QIODevice::WriteOnly);
+            QVERIFY(!refs.isEmpty() && after.readAttachment(refs.last(), bytes));
+            QCOMPARE(bytes.data(), QByteArray("some bytes"));
+        } else if (action == QLatin1String("remove")) {
+            QVERIFY(changed);
+            QCOMPARE(after.itemCount(), items);
+        } else {
+            QCOMPARE(after.item(loginId)->note(), note);
+            QCOMPARE(after.itemCount(), itemCount);
+        }
+    }
 
 private Q_SLOTS:
     void init()
@@ -122,7 +219,7 @@ private Q_SLOTS:
                 auto files = std::make_shared<FaultyFiles>();
                 files->failAt = failAt;
                 files->andAllBehind = andAllBehind;
-                QVERIFY(!change(m_folder, files).good);
+                QVERIFY(!change(m_folder, files, andAllBehind ? OnTheWriter : AtOnce).good);
                 QMap<QString, QByteArray> after = snapshot(m_folder);
                 QCOMPARE(after.value(QStringLiteral("safe.passid")),
                          m_before.value(QStringLiteral("safe.passid")));
@@ -137,7 +234,7 @@ private Q_SLOTS:
             init();
             auto files = std::make_shared<FaultyFiles>();
             files->failAt = failAt;
-            QVERIFY(change(m_folder, files).good);
+            QVERIFY(change(m_folder, files, OnTheWriter).good);
             QVERIFY(opensWhole(m_folder, newPassword));
         }
     }
@@ -149,7 +246,7 @@ private Q_SLOTS:
             const RandomSource random = [&left](unsigned char *buffer, int size) {
                 return --left >= 0 && systemRandom(buffer, size);
             };
-            QVERIFY(!change(m_folder, std::make_shared<FaultyFiles>(), random).good);
+            QVERIFY(!change(m_folder, std::make_shared<FaultyFiles>(), AtOnce, random).good);
             QCOMPARE(snapshot(m_folder), m_before);
         }
     }
@@ -194,6 +291,80 @@ private Q_SLOTS:
         QVERIFY(other.waitForFinished());
         // What the dead process left is no obstacle.
         QVERIFY(change(m_folder, std::make_shared<FaultyFiles>()).good);
+    }
+
+    /// Something comes in between at each of the file operations, on the event loop.
+    void whatComesInBetween_data()
+    {
+        QTest::addColumn<QString>("action");
+        for (const char *action : {"cancel", "edit", "add", "attach", "remove", "lock", "save"})
+            QTest::newRow(action) << QString::fromLatin1(action);
+    }
+    void whatComesInBetween()
+    {
+        QFETCH(QString, action);
+        const int operations =
+            change(m_folder, std::make_shared<FaultyFiles>(), OnTheWriter).operations;
+        const int step = action == QLatin1String("cancel") ? 1 : 4;
+        for (int at = 1; at <= operations; at += step) {
+            init();
+            interleave(action, at);
+            if (QTest::currentTestFailed())
+                return;
+        }
+    }
+
+    /// The hint changes with the password and stays with the old one.
+    void theHintGoesWithThePassword()
+    {
+        const QString hint = QStringLiteral("Another hint");
+        // A description that cannot be written is the last that can go wrong.
+        auto files = std::make_shared<FaultyFiles>();
+        files->failPath = m_folder + QStringLiteral("/safe.meta");
+        SafeEnvironment environment;
+        environment.files = files;
+        GPMSafe safe(environment);
+        QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
+        const QString oldHint = safe.hint();
+        QVERIFY(changeOnWriter(safe, newPassword, hint) == PasswordChangeOutcome::NotWritten);
+        QCOMPARE(safe.hint(), oldHint);
+        QMap<QString, QByteArray> after = snapshot(m_folder);
+        QVERIFY(!after.take(QStringLiteral("safe.restore")).contains(hint.toUtf8()));
+        m_before.remove(QStringLiteral("safe.restore"));
+        QCOMPARE(after, m_before);
+
+        files->failPath.clear();
+        QVERIFY(changeOnWriter(safe, newPassword, hint) == PasswordChangeOutcome::Changed);
+        safe.lock();
+        GPMSafe other;
+        QVERIFY(other.open(m_folder));
+        QCOMPARE(other.hint(), hint);
+        QVERIFY(opensWhole(m_folder, newPassword));
+    }
+
+    /// The wait for another program leaves the event loop alone and can be cancelled.
+    void waitsForTheLockOffTheLoop()
+    {
+        QLockFile held(m_folder + QStringLiteral("/.sourcelock"));
+        QVERIFY(held.lock());
+        SafeEnvironment environment;
+        environment.lockWaitMs = 1000000;
+        GPMSafe safe(environment);
+        QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
+        QTimer::singleShot(300, &safe, &GPMSafe::cancelPasswordChange);
+        QVERIFY(changeOnWriter(safe, newPassword, safe.hint()) == PasswordChangeOutcome::Cancelled);
+        // Locking does not wait either.
+        QVERIFY(safe.changePasswordAsync(newPassword, safe.hint()));
+        QTimer::singleShot(300, &safe, &GPMSafe::lock);
+        QTRY_VERIFY(!safe.isUnlocked());
+        QVERIFY(opensWhole(m_folder, samplePassword));
+        held.unlock();
+        environment.lockWaitMs = 0;
+        QLockFile again(m_folder + QStringLiteral("/.sourcelock"));
+        QVERIFY(again.lock());
+        GPMSafe impatient(environment);
+        QVERIFY(impatient.open(m_folder) && impatient.unlock(samplePassword));
+        QVERIFY(changeOnWriter(impatient, newPassword, {}) == PasswordChangeOutcome::Busy);
     }
 
     /// A process that dies inside each of the operations leaves whole files, and one of the two
@@ -242,7 +413,7 @@ static int changeAndDie(const QString &folder, int dieAt)
     auto files = std::make_shared<FaultyFiles>();
     files->failAt = dieAt;
     files->fault = [] { _exit(9); };
-    change(folder, files);
+    change(folder, files, OnTheWriter);
     return 0;
 }
 
