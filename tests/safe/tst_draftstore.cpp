@@ -272,6 +272,31 @@ private Q_SLOTS:
         QVERIFY(operation > 3);
     }
 
+    /// What is typed while the password changes is there under the one that is in force then.
+    void typedDuringAChangeOfPassword()
+    {
+        for (const bool cancelled : {false, true}) {
+            Safe test;
+            QVERIFY(test.safe->addItem(std::make_unique<PMLogin>()));
+            const QString key = DraftStore::newKey();
+            QVERIFY(test.safe->drafts().keep(test.draft(QStringLiteral("former"), key)));
+            QSignalSpy finished(test.safe.get(), &GPMSafe::passwordChangeFinished);
+            QVERIFY(test.safe->changePasswordAsync(otherPassword, {}));
+            test.safe->drafts().keepAsync(test.draft(QStringLiteral("typed"), key));
+            test.safe->drafts().keepAsync(test.draft(QStringLiteral("new one")));
+            if (cancelled)
+                test.safe->cancelPasswordChange();
+            QTRY_COMPARE(finished.count(), 1);
+            test.reopen(cancelled ? samplePassword : otherPassword);
+            QStringList titles;
+            for (const KeptDraft &draft : test.load())
+                titles.append(draft.document.toItem()->title());
+            titles.sort();
+            QCOMPARE(titles, QStringList({QStringLiteral("new one"), QStringLiteral("typed")}));
+            QCOMPARE(test.draftFiles().size(), 2);
+        }
+    }
+
     void interruptedChangeOfPassword_data()
     {
         QTest::addColumn<QString>("inForce");
@@ -291,6 +316,7 @@ private Q_SLOTS:
         QCOMPARE(test.draftFiles().size(), 2);
         const QMap<QString, QByteArray> crashed = snapshot(test.environment.draftsFolder);
         test.safe->drafts().rollBackChange();
+        test.safe->drafts().wait();
         QCOMPARE(test.draftFiles().size(), 1);
         if (inForce == otherPassword)
             QVERIFY(test.safe->changePassword(otherPassword));
