@@ -50,6 +50,7 @@ enum class FieldKind {
 
     // Words that need their surroundings to mean something. The reader hands none of them out.
     CurrentPassword,
+    RepeatedPassword,
     SomeName,
     SomeNumber,
     SomeCode,

@@ -67,14 +67,18 @@ const Row<FieldKind> fieldRows[] = {
      "usuario|nombre de usuario|identificador|identifiant|utilisateur|nom d utilisateur|numero client|numero de client|"
      "логин|имя пользователя|пользователь|учетная запись"},
     {FieldKind::NewPassword,
-     "new password|newpassword|confirm password|confirm new password|password confirmation|passwordconfirm|repeat password|"
-     "repeat new password|retype password|re enter password|re type password|verify password|password again|choose a password|"
-     "choose password|create a password|create password|desired password|password2|password 2|pass 2|neues passwort|"
-     "neues kennwort|passwort wiederholen|kennwort wiederholen|passwort bestatigen|neues passwort bestatigen|passwort wahlen|"
-     "nueva contrasena|repite la contrasena|repetir contrasena|confirmar contrasena|confirma la contrasena|crea una contrasena|"
-     "nouveau mot de passe|confirmer le mot de passe|confirmez le mot de passe|confirmation du mot de passe|choisissez un mot de passe|"
-     "новый пароль|повторите пароль|повтор пароля|подтвердите пароль|подтверждение пароля|придумайте пароль|new password 1|"
-     "new password 2|password again|repeatpassword|confirmpassword"},
+     "new password|newpassword|choose a password|choose password|create a password|create password|desired password|"
+     "neues passwort|neues kennwort|passwort wahlen|nueva contrasena|crea una contrasena|nouveau mot de passe|"
+     "choisissez un mot de passe|новый пароль|подтверждение пароля|придумайте пароль|new password 1"},
+    {FieldKind::RepeatedPassword,
+     "confirm password|confirm new password|password confirmation|passwordconfirm|repeat password|repeat new password|"
+     "retype password|re enter password|re type password|verify password|password again|password2|password 2|pass 2|"
+     "passwort wiederholen|kennwort wiederholen|passwort bestatigen|neues passwort bestatigen|repite la contrasena|"
+     "repetir contrasena|confirmar contrasena|confirma la contrasena|confirmer le mot de passe|"
+     "confirmez le mot de passe|confirmation du mot de passe|повторите пароль|повтор пароля|подтвердите пароль|"
+     "new password 2|repeatpassword|confirmpassword|passwort erneut|repetez mot de passe|repetez le mot de passe|"
+     "confirmez votre mot de passe|check password|passwd 2|mot de passe verif|confirmation password|contrasena otra vez|"
+     "repita la contrasena|confirme la contrasena|еще раз пароль|пароль еще раз|wiederhole passwort"},
     {FieldKind::Password,
      "password|passwd|pasword|pwd|passwort|kennwort|contrasena|=clave|clave de acceso|mot de passe|mdp|пароль|=pin|passphrase|parol"},
     {FieldKind::CurrentPassword,
@@ -97,11 +101,11 @@ const Row<FieldKind> fieldRows[] = {
      "card number|cardnumber|card num|cardnum|card no|cardno|card nr|card num ber|cc number|ccnumber|cc num|ccnum|cc no|ccno|cc nr|"
      "credit card number|creditcardnumber|credit card no|credit card|creditcard|debit card number|pan|pan 1|pan 2|pan 3|pan 4|"
      "number on card|pmt card nr|kartennummer|kreditkartennummer|karten nr|kartennr|kreditkarte|knr|"
-     "numero de tarjeta|numero tarjeta|no tarjeta|no de tarjeta|n tarjeta|num tarjeta|numero de la tarjeta|tarjeta de credito|"
+     "numero de tarjeta|nro de tarjeta|nro tarjeta|numero tarjeta|no tarjeta|no de tarjeta|n tarjeta|num tarjeta|numero de la tarjeta|tarjeta de credito|"
      "numero de carte|numero de la carte|numero carte|n de carte|no de carte|numero de carte bancaire|carte bancaire|"
      "номер карты|номер банковской карты|nomer karty|=karta"},
     {FieldKind::CardCode,
-     "cvv|cvv 2|cvc|cvc 2|csc|cvn|cid|ccid|cc id|cc cid|cc cvv|cc csc|cc code|cc checkcode|check code|checkcode|security code|securitycode|"
+     "cvv|cvv 2|ccv|cvc|cvc 2|csc|cvn|cid|ccid|cc id|cc cid|cc cvv|cc csc|cc code|cc checkcode|check code|checkcode|security code|securitycode|"
      "card code|card security code|card verification|card verification number|card verification code|verification value|"
      "card verification value|security number|3 digit security number|cv 2|card id number|cvd|"
      "prufziffer|kartenprufnummer|prufnummer|kartenprufziffer|sicherheitscode|sicherheitsnummer|"

@@ -146,6 +146,7 @@ FieldKind kindInPassword(FieldKind kind)
     case FieldKind::Never:
     case FieldKind::NewPassword:
     case FieldKind::CurrentPassword:
+    case FieldKind::RepeatedPassword:
     case FieldKind::CardCode:
         return kind;
     default:

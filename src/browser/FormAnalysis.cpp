@@ -26,8 +26,17 @@ bool isTrap(const FormField &field)
     return !field.isVisible() && !field.isSelect() && !field.isRadio();
 }
 
+/// Everybody can read along in a line of text: a password of the user's does not go there. One that
+/// was just generated may.
+bool isReadable(const FormField &field, FieldKind read, FillAction action)
+{
+    return read == FieldKind::Password && action == FillAction::Login && !field.isPassword();
+}
+
 bool isVetoed(const FormField &field, FieldKind read, FillAction action)
 {
+    if (isReadable(field, read, action))
+        return true;
     if (read == FieldKind::Never || isTrap(field) || field.isFixed())
         return true;
     // Who chooses a login means this one, whatever stood there.

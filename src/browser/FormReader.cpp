@@ -227,7 +227,7 @@ void Reader::readNeighbours(int at)
     const FieldKind before = kindAt(at - 1);
     switch (m_kinds.at(at)) {
     case FieldKind::HouseNumber:
-        if (before != FieldKind::AddressLine1)
+        if (before != FieldKind::AddressLine1 && kindAt(at + 1) != FieldKind::AddressLine1)
             m_kinds[at] = FieldKind::Other;
         return;
     case FieldKind::AddressLine1:
@@ -305,7 +305,7 @@ FormSurroundings FormSurroundings::of(const QJsonObject &form, const QString &pa
 QVector<FieldKind> readForm(const QVector<FormField> &fields, const FormSurroundings &around)
 {
     QVector<FieldKind> kinds = Reader(fields, around).read();
-    if (isNewsletter(fields, around))
+    if (isNewsletter(fields, kinds, around))
         kinds.fill(FieldKind::Never);
     return kinds;
 }

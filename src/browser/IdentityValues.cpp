@@ -89,7 +89,8 @@ Street streetOf(const QString &line)
 QString addressValue(const PMIdentity &identity, const FieldPlace &place)
 {
     const QString line = identity.addressLine1();
-    if (place.kinds.value(place.at + 1) == FieldKind::HouseNumber)
+    if (place.kinds.value(place.at + 1) == FieldKind::HouseNumber ||
+        place.kinds.value(place.at - 1) == FieldKind::HouseNumber)
         return streetOf(line).name;
     const QString second = identity.addressLine2();
     const bool isWhole = place.field().hasType({QStringLiteral("textarea")});

@@ -25,7 +25,8 @@ CaptionKind purposeOf(const FormSurroundings &around)
 QVector<int> passwordsIn(const QVector<FormField> &fields, const QVector<FieldKind> &kinds)
 {
     static const QVector<FieldKind> passwords = {FieldKind::Password, FieldKind::CurrentPassword,
-                                                 FieldKind::NewPassword};
+                                                 FieldKind::NewPassword,
+                                                 FieldKind::RepeatedPassword};
     QVector<int> found;
     for (int i = 0; i < fields.size(); ++i) {
         if (fields.at(i).isPassword() && fields.at(i).isVisible() &&
@@ -47,6 +48,10 @@ void assignSinglePassword(int at, CaptionKind purpose, QVector<FieldKind> &kinds
 {
     if (kinds.at(at) == FieldKind::NewPassword)
         return;
+    if (kinds.at(at) == FieldKind::RepeatedPassword) {
+        kinds[at] = FieldKind::NewPassword;
+        return;
+    }
     const bool isChosen = purpose == CaptionKind::SignUp ||
                           purpose == CaptionKind::ChangePassword ||
                           (purpose != CaptionKind::SignIn && asksForPerson(kinds));
@@ -59,6 +64,12 @@ bool isOldBeside(const FieldReading &first, const FieldReading &second, CaptionK
 {
     return purpose == CaptionKind::ChangePassword && first.kind == FieldKind::Password &&
            second.kind == FieldKind::NewPassword;
+}
+
+/// A hidden figure beside the number of a card is no password, whatever it is called.
+bool isCardSecret(const FieldReading &reading, const QVector<FieldKind> &kinds)
+{
+    return reading.named.isEmpty() && !reading.isTold && kinds.contains(FieldKind::CardNumber);
 }
 
 void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> &readings,
@@ -145,6 +156,11 @@ void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReadi
                       const FormSurroundings &around, QVector<FieldKind> &kinds)
 {
     const CaptionKind purpose = purposeOf(around);
+    const QVector<int> hidden = passwordsIn(fields, kinds);
+    for (const int at : hidden) {
+        if (isCardSecret(readings.at(at), kinds))
+            kinds[at] = FieldKind::Other;
+    }
     const QVector<int> passwords = passwordsIn(fields, kinds);
     if (!passwords.isEmpty())
         assignPasswords(passwords, readings, purpose, kinds);
@@ -166,7 +182,8 @@ void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReadi
         std::replace_if(kinds.begin(), kinds.end(), isIdentityKind, FieldKind::Other);
 }
 
-bool isNewsletter(const QVector<FormField> &fields, const FormSurroundings &around)
+bool isNewsletter(const QVector<FormField> &fields, const QVector<FieldKind> &kinds,
+                  const FormSurroundings &around)
 {
     int lines = 0;
     for (const FormField &field : fields) {
@@ -174,6 +191,7 @@ bool isNewsletter(const QVector<FormField> &fields, const FormSurroundings &arou
             return false;
         lines += field.isLine() && field.isVisible() ? 1 : 0;
     }
-    return lines > 0 && lines <= mostNewsletterFields &&
+    const bool isForCard = std::any_of(kinds.begin(), kinds.end(), isCardKind);
+    return lines > 0 && lines <= mostNewsletterFields && !isForCard &&
            purposeOf(around) == CaptionKind::Newsletter;
 }

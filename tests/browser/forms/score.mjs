@@ -28,7 +28,7 @@ export function score(pages) {
       const values = Object.entries(told).filter(([action]) => !['read', 'place'].includes(action));
       const wrong = values.some(([, value]) => !kinds.includes(value));
       const hit = !wrong && kinds.some((kind) => told[actionOf(kind)] === kind);
-      const placed = kinds[0] === 'new-password' ? told.place === 'new-password' : !told.place || kinds[0] === 'password';
+      const placed = kinds[0] === 'new-password' ? Boolean(told.place) : !told.place || kinds[0] === 'password';
       const none = kinds.every((kind) => !actionOf(kind));
       let outcome = 'miss';
       if (wrong || !placed) outcome = 'wrong';
