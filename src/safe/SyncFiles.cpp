@@ -66,12 +66,17 @@ QString textOf(const QCryptographicHash &sum)
 std::optional<SyncListing> SyncListing::of(const SafeFolder &folder, bool copies)
 {
     SyncListing listing;
-    listing.taken = millisecondsOf(fs::file_time_type::clock::now());
+    listing.taken = fileClock();
     // Items first: the bytes of an attachment are written before its item.
     if (!list(folder.path(SafeLayout::content), copies, listing.content))
         return std::nullopt;
     list(folder.path(SafeLayout::attachment), copies, listing.attachment);
     return listing;
+}
+
+qint64 fileClock()
+{
+    return millisecondsOf(fs::file_time_type::clock::now());
 }
 
 bool SyncListing::hasItem(const QMap<QString, FileStamp> &files, const QString &id)

@@ -26,6 +26,9 @@ struct SyncListing
     static bool hasItem(const QMap<QString, FileStamp> &files, const QString &id);
 };
 
+/// Now, as the times of files count: ms since an epoch of the system's own.
+qint64 fileClock();
+
 /// A mirror is a folder that others write to. Whether its two folders are folders of its own and no
 /// links that lead elsewhere.
 bool isOwnMirror(const SafeFolder &mirror);

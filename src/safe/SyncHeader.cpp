@@ -15,7 +15,30 @@
 
 namespace {
 
-const int shortestPassId = 1000; // what is shorter has not arrived whole
+const int passIdLength = 784;           // of what is encrypted in it
+const qint64 longestArrival = 86400000; // ms
+
+/// The length of what is encrypted in a text; 0 for one that has not arrived whole, whoever can
+/// open it.
+int encryptedLength(const QByteArray &text)
+{
+    const int headerBehindOffset = 32;
+    const int block = 16;
+    const auto bytes = QByteArray::fromBase64Encoding(
+        text, QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
+    if (!bytes || (*bytes).isEmpty())
+        return 0;
+    const int length =
+        (*bytes).size() - static_cast<unsigned char>((*bytes).at(0)) - headerBehindOffset;
+    return length > 0 && length % block == 0 ? length : 0;
+}
+
+/// Whether a file in the mirror that is not whole may still become so.
+bool mayArrive(const QString &path)
+{
+    const auto stamp = stampOf(path);
+    return stamp && stamp->time + longestArrival > fileClock();
+}
 
 /// The versions of an item that this side has had together with the mirror.
 SyncHistory historyOf(const SyncRecord &record, const QString &id)
@@ -69,13 +92,14 @@ SyncHeader::PassId SyncHeader::comparePassIds() const
 {
     const QString path = m_work.mirror.path(SafeLayout::passId);
     const auto mirror = readPlainFile(m_work.files(), path);
-    if (!mirror)
-        return QFileInfo::exists(path) ? PassId::Arriving : PassId::Send;
+    if (!mirror && !QFileInfo::exists(path))
+        return PassId::Send;
+    // Who has a later one sends it again when ours is back.
+    if (!mirror || encryptedLength(*mirror) != passIdLength)
+        return mayArrive(path) ? PassId::Arriving : PassId::Send;
     const SafeFolder &safe = m_work.safe.folder;
     if (mirror == m_work.files().read(safe.path(SafeLayout::passId)))
         return PassId::Equal;
-    if (mirror->size() < shortestPassId)
-        return PassId::Arriving;
     if (checkPassId(m_work.password(), QString::fromLatin1(*mirror)))
         return PassId::Take;
     // It is this computer that changed it when the mirror has what was met, then or before, or
@@ -99,13 +123,15 @@ bool SyncHeader::readDeletions()
     const QString name = QLatin1String(SafeLayout::mirrorDeletions);
     if (m_mirrorFiles.contains(name)) {
         const auto told = readTold(name);
-        // Under the password before, it says nothing that this side has not met or will meet.
-        if (!told && m_passId != PassId::Send)
+        // What is whole and does not open is of another password. Who knows more deletions tells
+        // of them again when ours are there.
+        const QByteArray text =
+            readPlainFile(m_work.files(), inMirror(name)).value_or(QByteArray());
+        if (!told && encryptedLength(text) == 0 && mayArrive(inMirror(name)))
             return false;
-        if (told) {
+        if (told)
             m_work.record.addDeletions(told->deletions);
-            m_sentDeletions = told->deletions;
-        }
+        m_sentDeletions = told ? std::make_optional(told->deletions) : std::nullopt;
     }
     const QStringList copies = copiesOf(SafeLayout::mirrorDeletions);
     for (const QString &copy : copies) {
@@ -219,7 +245,7 @@ bool SyncHeader::sendDeletions()
 {
     SyncRecord told;
     told.deletions = m_work.record.deletions;
-    if (told.deletions == m_sentDeletions && m_passId != PassId::Send)
+    if (m_sentDeletions == told.deletions && m_passId != PassId::Send)
         return true;
     // What an item's deletion leaves over has to be kept before the others hear of it.
     if (m_work.result.state != SyncState::Done)
@@ -238,10 +264,7 @@ void SyncHeader::clearCopies()
     const QStringList copies = copiesOf(SafeLayout::passId);
     for (const QString &copy : copies) {
         const auto bytes = readPlainFile(m_work.files(), inMirror(copy));
-        const auto decoded = QByteArray::fromBase64Encoding(
-            bytes.value_or(QByteArray()),
-            QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
-        if (bytes && decoded && bytes->size() >= shortestPassId)
+        if (bytes && encryptedLength(*bytes) == passIdLength)
             m_merged.append(inMirror(copy));
     }
     for (const QString &path : std::as_const(m_merged))

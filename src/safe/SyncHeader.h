@@ -37,8 +37,9 @@ private:
 
     SyncWork &m_work;
     SyncMirror &m_mirror;
-    QStringList m_mirrorFiles;             ///< names
-    SyncRecord::Deletions m_sentDeletions; ///< as the mirror tells of them
-    QStringList m_merged;                  ///< paths of copies that are of no use any more
+    QStringList m_mirrorFiles; ///< names
+    QStringList m_merged;      ///< paths of copies that are of no use any more
+    /// As the mirror tells of them; nothing when it does so in a file that does not open.
+    std::optional<SyncRecord::Deletions> m_sentDeletions = SyncRecord::Deletions();
     PassId m_passId = PassId::Equal;
 };

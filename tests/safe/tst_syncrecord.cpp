@@ -15,11 +15,15 @@ private Q_SLOTS:
     {
         SyncRecord record;
         record.files.insert(QStringLiteral("content/a"),
-                            {QStringLiteral("h"), {7, 11}, {7, 13}, 5});
-        record.addDeletions({{QStringLiteral("x"), {1600000000123, 0}}});
+                            {QStringLiteral("h"), {7, 11}, {7, 13}, 5, {2, 4}});
+        record.unread.insert(QStringLiteral("b"), {QStringLiteral("i"), {3, 17}, 9, true, false});
+        record.setPassId(QStringLiteral("first"));
+        record.setPassId(QStringLiteral("second"));
+        record.addDeletions({{QStringLiteral("x"), {1600000000123, 0, {8, 1}}}});
         const std::optional<SyncRecord> read = SyncRecord::fromJson(record.toJson());
         QVERIFY(read);
-        QCOMPARE(read->toJson(), record.toJson());
+        QVERIFY(*read == record);
+        QCOMPARE(read->earlierPassIds, QStringList{QStringLiteral("first")});
         const SyncRecord::File file = read->files.value(QStringLiteral("content/a"));
         QCOMPARE(file.hash, QStringLiteral("h"));
         QVERIFY(file.local == (FileStamp{7, 11}) && file.mirror == (FileStamp{7, 13}));
@@ -83,6 +87,16 @@ private Q_SLOTS:
         row("copy behind the ending", ".12 (Conflicted Copy)", next, true);
         row("other mark", ".sync-conflict-20260131-101112-ABC7DEF", id, true);
         row("other mark of a generation", ".sync-conflict-20260131-101112-ABC7DEF.12", next, true);
+        row("German", " (In Konflikt stehende Kopie von Ana 2026-01-31)", id, true);
+        row("Russian", " (конфликтующая копия с ана 2026-01-31)", id, true);
+        row("without a word for it", " (Ana 2026-01-31)", id, true);
+        row("number in brackets", " (1)", id, true);
+        row("number in brackets, of a generation", " (2).12", next, true);
+        row("number", " 2", id, true);
+        row("name of a computer", "-DESKTOP-4AB12", id, true);
+        row("two marks", " (conflicted copy 2026-01-31) (1)", id, true);
+        row("server's mark", "_conflict-20260131-101112", id, true);
+        row("user's name for it", "-old", {}, false);
         row("interrupted write", ".AbCdEf", {}, false);
         row("interrupted write of a generation", ".1.AbCdEf", {}, false);
         row("user's copy", " (copy)", {}, false);
@@ -105,12 +119,13 @@ private Q_SLOTS:
     void knowsCopiesOfOtherFiles()
     {
         const QString original = QStringLiteral("safe.meta");
-        QVERIFY(!isConflictCopyOf(original, original));
-        QVERIFY(
-            isConflictCopyOf(QStringLiteral("safe (conflicted copy 2026-01-31).meta"), original));
-        QVERIFY(isConflictCopyOf(QStringLiteral("safe.sync-conflict-20260131-101112-A.meta"),
-                                 original));
-        QVERIFY(!isConflictCopyOf(QStringLiteral("safe (copy).meta"), original));
+        for (const char *copy :
+             {"safe (conflicted copy 2026-01-31).meta", "safe.sync-conflict-20260131-101112-A.meta",
+              "safe-LAPTOP.meta", "safe (1).meta", "safe.meta (Ana 2026-01-31)"})
+            QVERIFY2(isConflictCopyOf(QString::fromLatin1(copy), original), copy);
+        for (const char *other : {"safe.meta", "safe (copy).meta", "safe-old.meta", "safe2.meta",
+                                  "safe (1).passid", "my safe (1).meta"})
+            QVERIFY2(!isConflictCopyOf(QString::fromLatin1(other), original), other);
     }
 
     void findsTheFoldersOfAccounts_data()

@@ -1,14 +1,18 @@
 #include "PMAttachment.h"
 #include "PMLogin.h"
+#include "SafeCrypto.h"
 #include "SafeTesting.h"
 #include "SyncRound.h"
 
 #include <QBuffer>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <filesystem>
 #include <random>
+#include <sys/stat.h>
 
 namespace {
 
@@ -289,16 +293,197 @@ private Q_SLOTS:
         QCOMPARE(snapshot(m_one.folder), before);
     }
 
-    /// Forged by somebody who can write to the folder but not open the safe.
-    void believesNoForeignDeletions()
+    /// What somebody does who can write to the mirror but not open the safe.
+    void withstands_data()
+    {
+        QTest::addColumn<QString>("deed");
+        for (const char *deed :
+             {"old version", "old version beside", "another item's file", "forged deletions",
+              "old pass id", "link in place of an item", "link in place of the pass id",
+              "link in place of a folder", "endless item", "pipe", "emptied folder"})
+            QTest::newRow(deed) << QString::fromLatin1(deed);
+    }
+
+    void withstands()
+    {
+        QFETCH(const QString, deed);
+        const QString id = add(m_one, QStringLiteral("first"));
+        const QString other = add(m_one, QStringLiteral("other"));
+        meet();
+        const QString file = inMirror(QStringLiteral("content/") + id);
+        const QString passId = inMirror(QStringLiteral("safe.passid"));
+        const QByteArray oldVersion = contentOf(file);
+        const QByteArray oldPassId = contentOf(passId);
+        rename(m_one, id, QStringLiteral("second"));
+        meet();
+        if (deed == QLatin1String("old pass id")) {
+            for (Computer *computer : {&m_one, &m_two}) {
+                computer->work([](GPMSafe &safe) { QVERIFY(safe.changePassword(newPassword)); });
+                computer->password = newPassword;
+                QCOMPARE(computer->synchronise(m_mirror).state, SyncState::Done);
+            }
+        }
+        const QStringList expected = m_one.items();
+        const QString outside = m_temporary->filePath(QStringLiteral("outside"));
+        writeFile(outside, "mine");
+
+        SyncRecord forged;
+        forged.addDeletions({{id, {m_one.time + day, 0, {}}}});
+        const QHash<QString, std::function<void()>> deeds{
+            {QStringLiteral("old version"), [&] { writeFile(file, oldVersion); }},
+            {QStringLiteral("old version beside"),
+             [&] { writeFile(file + QStringLiteral(" (1)"), oldVersion); }},
+            {QStringLiteral("another item's file"),
+             [&] { writeFile(file, contentOf(inMirror(QStringLiteral("content/") + other))); }},
+            {QStringLiteral("forged deletions"),
+             [&] { writeFile(inMirror(QStringLiteral("safe.deletions")), forged.toJson()); }},
+            {QStringLiteral("old pass id"), [&] { writeFile(passId, oldPassId); }},
+            {QStringLiteral("link in place of an item"),
+             [&] { QVERIFY(QFile::remove(file) && QFile::link(outside, file)); }},
+            {QStringLiteral("link in place of the pass id"),
+             [&] { QVERIFY(QFile::remove(passId) && QFile::link(outside, passId)); }},
+            {QStringLiteral("link in place of a folder"),
+             [&] {
+                 const QString folder = inMirror(QStringLiteral("content"));
+                 QVERIFY(QDir().rename(folder, m_temporary->filePath(QStringLiteral("moved"))));
+                 QVERIFY(QFile::link(m_temporary->filePath(QStringLiteral("moved")), folder));
+             }},
+            {QStringLiteral("endless item"),
+             [&] {
+                 QFile endless(file);
+                 QVERIFY(endless.open(QIODevice::WriteOnly) && endless.resize(1LL << 40));
+             }},
+            {QStringLiteral("pipe"),
+             [&] {
+                 QVERIFY(QFile::remove(passId));
+                 QCOMPARE(mkfifo(QFile::encodeName(passId), 0600), 0);
+             }},
+            {QStringLiteral("emptied folder"),
+             [&] {
+                 QVERIFY(QDir(m_mirror).removeRecursively());
+                 QVERIFY(SyncMirror::enableSynchronization(*m_one.files, m_mirror));
+             }},
+        };
+        deeds.value(deed)();
+        for (int round = 0; round < 2; ++round) {
+            for (Computer *computer : {&m_two, &m_one}) {
+                const SyncResult result = computer->synchronise(m_mirror);
+                QVERIFY(result.state != SyncState::NewPasswordNeeded);
+                QVERIFY(result.removed.isEmpty() && result.taken.isEmpty());
+                QCOMPARE(computer->items(), expected);
+            }
+        }
+        QCOMPARE(contentOf(outside), QByteArray("mine"));
+        QVERIFY(!snapshot(m_mirror).values().contains(
+            deed == QLatin1String("old version") ? oldVersion : QByteArray("nothing")));
+    }
+
+    /// Until a day has passed it may still arrive; then the item goes on beside it.
+    void goesOnWithoutWhatStaysBroken()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        const QString file = inMirror(QStringLiteral("content/") + id);
+        meet();
+        const QByteArray broken = contentOf(file).left(400);
+        writeFile(file, broken);
+        rename(m_one, id, QStringLiteral("second"));
+        for (const qint64 later : {qint64(0), day / 2}) {
+            m_one.time += later;
+            const SyncResult result = m_one.synchronise(m_mirror);
+            QCOMPARE(result.state, SyncState::Waiting);
+            QCOMPARE(result.waiting, QStringList{id});
+        }
+        m_one.time += day;
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+        QCOMPARE(m_one.items(), QStringList{id + QStringLiteral(" second")});
+        QCOMPARE(contentOf(file), broken);
+        m_two.synchronise(m_mirror);
+        QVERIFY(m_two.items().contains(id + QStringLiteral(" second")));
+
+        // What is only there is waited for, and nothing is written over it.
+        const QString lost = QStringLiteral("00000000-0000-0000-0000-00000000000a");
+        writeFile(inMirror(QStringLiteral("content/") + lost), broken);
+        for (int i = 0; i < 3; ++i) {
+            m_one.time += day;
+            const SyncResult result = m_one.synchronise(m_mirror);
+            QCOMPARE(result.state, SyncState::Waiting);
+            QCOMPARE(result.waiting, QStringList{lost});
+        }
+        QCOMPARE(contentOf(inMirror(QStringLiteral("content/") + lost)), broken);
+    }
+
+    /// On a file system that counts in steps of two seconds.
+    void seesASecondChangeOfTheSameTimeAndLength()
     {
         const QString id = add(m_one, QStringLiteral("first"));
         meet();
-        SyncRecord forged;
-        forged.addDeletions({{id, {m_one.time + day, 0}}});
-        writeFile(inMirror(QStringLiteral("safe.deletions")), forged.toJson());
-        QVERIFY(m_two.synchronise(m_mirror).removed.isEmpty());
-        QCOMPARE(m_two.items().size(), 1);
+        const QString file = m_one.folder + QStringLiteral("/content/") + id;
+        const auto time = std::filesystem::last_write_time(file.toStdString());
+        const qint64 length = QFileInfo(file).size();
+        PMLogin changed;
+        changed.setId(id);
+        changed.setTitle(QStringLiteral("other"));
+        changed.setModified(m_one.environment().clock());
+        do {
+            QVERIFY(writeItemFile(m_one.environment(), file, m_one.password.toUtf8(),
+                                  PMItemDocument::fromItem(changed)));
+            changed.setNote(changed.note().size() > 200 ? QString()
+                                                        : changed.note() + QLatin1Char('x'));
+        } while (QFileInfo(file).size() != length);
+        std::filesystem::last_write_time(file.toStdString(), time);
+        meet();
+        QCOMPARE(m_two.items(), QStringList{id + QStringLiteral(" other")});
+    }
+
+    void clearsCopiesOfTheOtherFiles()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        meet();
+        m_two.work([](GPMSafe &safe) {
+            safe.setName(QStringLiteral("Renamed"));
+            QVERIFY(safe.writeMetaFile());
+        });
+        remove(m_two, id);
+        // The provider of the second computer finds that the first one was quicker.
+        const QString replica = m_temporary->filePath(QStringLiteral("replica"));
+        QDir().mkpath(replica);
+        copyFolder(m_mirror, replica);
+        QCOMPARE(m_two.synchronise(replica).state, SyncState::Done);
+        for (const char *name : {"passid", "meta", "restore", "deletions"}) {
+            const QString ending = QLatin1Char('.') + QLatin1String(name);
+            writeFile(inMirror(QStringLiteral("safe (Ana's conflicted copy 2026-01-02)") + ending),
+                      contentOf(replica + QStringLiteral("/safe") + ending));
+        }
+        const QStringList foreign{QStringLiteral("safe (1).meta"), QStringLiteral("safe-MY.passid"),
+                                  QStringLiteral("safe (mine).meta")};
+        for (const QString &name : foreign)
+            writeFile(inMirror(name), "{\"created\": 5, \"name\": \"Other\"}");
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+        QVERIFY(m_one.items().isEmpty());
+        m_one.work([](GPMSafe &safe) { QCOMPARE(safe.name(), QStringLiteral("Renamed")); });
+        const QStringList left =
+            QDir(m_mirror)
+                .entryList({QStringLiteral("safe?*.*")}, QDir::Files, QDir::Name)
+                .filter(QRegularExpression(QStringLiteral("[ -]")));
+        QCOMPARE(QSet<QString>(left.begin(), left.end()),
+                 QSet<QString>(foreign.begin(), foreign.end()));
+    }
+
+    /// The safe is in the middle of a change of password that a crash has cut short.
+    void sendsNoHalfChangeOfPassword()
+    {
+        add(m_one, QStringLiteral("first"));
+        add(m_one, QStringLiteral("second"));
+        meet();
+        const QString passId = m_one.folder + QStringLiteral("/safe.passid");
+        writeFile(passId + QStringLiteral(".bak"), contentOf(passId));
+        writeFile(passId, makePassId(newPassword.toUtf8()).toLatin1());
+        const QMap<QString, QByteArray> safe = snapshot(m_one.folder);
+        const QMap<QString, QByteArray> mirror = snapshot(m_mirror);
+        m_one.password = newPassword;
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Busy);
+        QCOMPARE(snapshot(m_mirror), mirror);
+        QCOMPARE(snapshot(m_one.folder), safe);
     }
 
     void makesADamagedRecordAnew()

@@ -1,0 +1,511 @@
+#include "DeletedList.h"
+#include "ItemTimes.h"
+#include "PMLogin.h"
+#include "SafeCrypto.h"
+#include "SafeLayout.h"
+#include "SafeTesting.h"
+#include "SyncFileName.h"
+#include "SyncRound.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QUuid>
+#include <QtTest>
+
+#include <filesystem>
+#include <random>
+
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr unsigned seeds = 2;
+#else
+constexpr unsigned seeds = 12;
+#endif
+
+const qint64 day = 86400000;
+
+/// Random choices from a seed.
+class Dice
+{
+public:
+    explicit Dice(unsigned seed)
+        : m_random(seed)
+    {
+    }
+    int pick(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
+    bool oneIn(int count) { return pick(count) == 0; }
+    QString any(const QStringList &list) { return list.at(pick(list.size())); }
+
+private:
+    std::mt19937 m_random;
+};
+
+QStringList filesIn(const QString &folder)
+{
+    QStringList names = snapshot(folder).keys();
+    // Nothing that is being written, and no lock.
+    const QRegularExpression own(QStringLiteral("^(content|attachment)/|^safe[^/]*$"));
+    return names.filter(own);
+}
+
+/// Gives files that were just written a time of their own, as if each change came long after the
+/// one before it.
+void age(const QString &folder, int &time)
+{
+    namespace fs = std::filesystem;
+    const auto young = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    const QStringList names = filesIn(folder);
+    for (const QString &name : names) {
+        const fs::path path((folder + QLatin1Char('/') + name).toStdString());
+        if (fs::last_write_time(path) > young)
+            fs::last_write_time(path,
+                                young - std::chrono::hours(1000) + std::chrono::seconds(++time));
+    }
+}
+
+/// The folder that a provider keeps on its server. Every computer has a copy of it, into which
+/// changes come one file at a time, in any order, sometimes half of one first.
+class Provider
+{
+public:
+    struct Replica
+    {
+        QString folder;
+        QMap<QString, int> versions;        ///< by path: what was last seen of the server
+        QMap<QString, QByteArray> contents; ///< and what it was
+        QMap<QString, QByteArray> halves;   ///< what has arrived of a file of which more comes
+
+        QString file(const QString &path) const { return folder + QLatin1Char('/') + path; }
+    };
+
+    explicit Provider(Dice &dice)
+        : m_dice(dice)
+    {
+    }
+
+    QStringList paths(const Replica &replica) const
+    {
+        QStringList all = filesIn(replica.folder) + m_files.keys();
+        all.removeDuplicates();
+        all.sort();
+        return all;
+    }
+
+    /// Brings one file of a replica and of the server together. True when something changed.
+    bool exchange(Replica &replica, const QString &path)
+    {
+        const QByteArray bytes = contentOf(replica.file(path));
+        const bool isThere = QFile::exists(replica.file(path));
+        const bool isHalf = replica.halves.contains(path) && replica.halves[path] == bytes;
+        const bool changedHere = !isHalf && (isThere != replica.contents.contains(path) ||
+                                             (isThere && bytes != replica.contents[path]));
+        const File server = m_files.value(path);
+        if (server.version == replica.versions.value(path)) {
+            if (changedHere)
+                upload(replica, path, isThere, bytes);
+            return changedHere;
+        }
+        // A removal loses to a change. Of two changes, this computer's becomes a file of its own.
+        if (changedHere && isThere && server.exists && bytes != server.content) {
+            if (!QFile::rename(replica.file(path), replica.file(copyName(path))))
+                qFatal("can't rename %s", qPrintable(path));
+        }
+        if (changedHere && isThere && !server.exists)
+            upload(replica, path, true, bytes);
+        else
+            download(replica, path, server);
+        return true;
+    }
+
+    void stopHalves() { m_halves = false; }
+    void startHalves() { m_halves = true; }
+
+private:
+    struct File
+    {
+        QByteArray content;
+        int version = 0;
+        bool exists = false;
+    };
+
+    void upload(Replica &replica, const QString &path, bool isThere, const QByteArray &bytes)
+    {
+        m_files[path] = {bytes, ++m_versions, isThere};
+        note(replica, path, m_files[path]);
+    }
+
+    void download(Replica &replica, const QString &path, const File &server)
+    {
+        if (!server.exists) {
+            QFile::remove(replica.file(path));
+        } else if (m_halves && m_dice.oneIn(6)) {
+            replica.halves[path] = server.content.left(server.content.size() / 2);
+            writeFile(replica.file(path), replica.halves[path]);
+            return;
+        } else {
+            writeFile(replica.file(path), server.content);
+        }
+        note(replica, path, server);
+    }
+
+    static void note(Replica &replica, const QString &path, const File &server)
+    {
+        replica.halves.remove(path);
+        replica.versions[path] = server.version;
+        if (server.exists)
+            replica.contents[path] = server.content;
+        else
+            replica.contents.remove(path);
+    }
+
+    QString copyName(const QString &path)
+    {
+        const QStringList forms{QStringLiteral(" (Ana's conflicted copy 2026-01-02 %1)"),
+                                QStringLiteral(".sync-conflict-20260102-%1-ABCDEFG"),
+                                QStringLiteral(" (%1)"), QStringLiteral("-LAPTOP-%1")};
+        const int form = m_dice.pick(forms.size());
+        const int number = (form == 1 ? 100000 : 1) + ++m_copies;
+        const QString mark = forms[form].arg(number);
+        const int dot = path.lastIndexOf(QLatin1Char('.'));
+        return dot < 0 ? path + mark : path.left(dot) + mark + path.mid(dot);
+    }
+
+    Dice &m_dice;
+    QMap<QString, File> m_files;
+    int m_versions = 0;
+    int m_copies = 0;
+    bool m_halves = true;
+};
+
+/// A safe on one computer, with the provider's folder there. Items are written as a safe writes
+/// them, but without opening it each time.
+struct Computer
+{
+    SafeFolder safe;
+    Provider::Replica replica;
+    QString password = samplePassword;
+    qint64 clockError = 0;
+    std::shared_ptr<FaultyFiles> files = std::make_shared<FaultyFiles>();
+    SyncRecord::Deletions deleted{};
+
+    SafeEnvironment environment(qint64 now) const
+    {
+        SafeEnvironment world;
+        world.files = files;
+        world.lockWaitMs = 0;
+        world.clock = [now] { return QDateTime::fromMSecsSinceEpoch(now, Qt::UTC); };
+        return world;
+    }
+};
+
+using Items = QMap<QString, QPair<ItemFileName, PMItemDocument>>;
+
+Items itemsOf(const Computer &computer)
+{
+    Items items;
+    const QString folder = computer.safe.path(SafeLayout::content);
+    const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
+    for (const QString &name : names) {
+        const ItemFileName file = ItemFileName::parse(name);
+        if (auto document = readItemFile(*computer.files, folder + QLatin1Char('/') + name,
+                                         computer.password.toUtf8()))
+            items.insert(file.id, {file, *document});
+    }
+    return items;
+}
+
+QString titleOf(const PMItemDocument &document)
+{
+    return document.publicFields.value(QStringLiteral("title")).toString();
+}
+
+/// Three computers, a provider, and a user who does not look which of them has arrived where.
+class Fleet
+{
+public:
+    Fleet(unsigned seed, const QString &place)
+        : m_dice(seed)
+        , m_provider(m_dice)
+    {
+        for (int i = 0; i < 3; ++i) {
+            Computer &computer = m_computers[i];
+            computer.safe = SafeFolder(QStringLiteral("%1/safe%2").arg(place).arg(i));
+            computer.replica.folder = QStringLiteral("%1/mirror%2").arg(place).arg(i);
+            QDir().mkpath(computer.safe.root());
+            if (!SyncMirror::enableSynchronization(*computer.files, computer.replica.folder))
+                qFatal("no mirror");
+        }
+        if (!GPMSafe(m_computers[0].environment(m_time))
+                 .init(m_computers[0].safe.root(), samplePassword, QStringLiteral("Mine"), {}))
+            qFatal("no safe");
+        const QMap<QString, QByteArray> files = snapshot(m_computers[0].safe.root());
+        for (int i = 1; i < 3; ++i) {
+            for (const char *inner : {"content", "attachment", "favicon"})
+                QDir().mkpath(m_computers[i].safe.path(inner));
+            for (auto file = files.begin(); file != files.end(); ++file)
+                writeFile(m_computers[i].safe.root() + QLatin1Char('/') + file.key(), file.value());
+        }
+    }
+
+    void step()
+    {
+        m_time += 1 + m_dice.pick(10000);
+        Computer &computer = m_computers[m_dice.pick(3)];
+        switch (m_dice.pick(14)) {
+        case 0:
+            add(computer);
+            break;
+        case 1:
+        case 2:
+        case 3:
+            edit(computer);
+            break;
+        case 4:
+            remove(computer);
+            break;
+        case 5:
+            computer.clockError = (m_dice.pick(3) - 1) * day;
+            break;
+        case 6:
+            if (m_dice.oneIn(10))
+                changePassword(computer, QStringLiteral("password %1").arg(++m_passwords));
+            break;
+        case 7:
+            if (m_dice.oneIn(10))
+                QFile::remove(computer.safe.path(SafeLayout::syncRecord));
+            break;
+        case 8:
+        case 9:
+        case 10:
+            exchange(computer);
+            break;
+        default:
+            synchronise(computer, true);
+        }
+    }
+
+    /// Everything arrives everywhere. False when the computers never come to rest.
+    bool settle()
+    {
+        m_provider.stopHalves();
+        for (int round = 0; round < 30; ++round) {
+            const QMap<QString, QByteArray> before = everything();
+            for (Computer &computer : m_computers) {
+                for (int again = 0; again < 2; ++again) {
+                    const QStringList paths = m_provider.paths(computer.replica);
+                    for (const QString &path : paths)
+                        m_provider.exchange(computer.replica, path);
+                }
+                synchronise(computer, false);
+            }
+            if (everything() == before) {
+                m_provider.startHalves();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    QStringList list(int number) const
+    {
+        QStringList lines;
+        const Items items = itemsOf(m_computers[number]);
+        for (auto item = items.begin(); item != items.end(); ++item)
+            lines += item->first.text() + QLatin1Char(' ') + titleOf(item->second);
+        return lines;
+    }
+
+    /// Titles that nobody replaced or deleted on purpose and that are nowhere.
+    QStringList lost() const
+    {
+        const QStringList there = list(0);
+        QStringList missing;
+        for (const QString &title : m_alive) {
+            const QRegularExpression line(QStringLiteral("^\\S+ %1($| \\()").arg(title));
+            if (there.filter(line).isEmpty())
+                missing += title;
+        }
+        return missing;
+    }
+
+private:
+    qint64 now(const Computer &computer) const { return m_time + computer.clockError; }
+
+    QMap<QString, QByteArray> everything() const
+    {
+        QMap<QString, QByteArray> all;
+        for (const Computer &computer : m_computers) {
+            for (const QString &folder : {computer.safe.root(), computer.replica.folder}) {
+                const QStringList names = filesIn(folder);
+                for (const QString &name : names) {
+                    if (name != QLatin1String(SafeLayout::syncRecord))
+                        all.insert(folder + name, contentOf(folder + QLatin1Char('/') + name));
+                }
+            }
+        }
+        return all;
+    }
+
+    void write(const Computer &computer, const ItemFileName &name, const PMItemDocument &document)
+    {
+        if (!writeItemFile(computer.environment(m_time), computer.safe.contentPath(name),
+                           computer.password.toUtf8(), document))
+            qFatal("can't write an item");
+        rest(computer);
+    }
+
+    void add(Computer &computer)
+    {
+        PMLogin login;
+        login.setId(QUuid::createUuidV5(QUuid(), QString::number(++m_titles))
+                        .toString(QUuid::WithoutBraces));
+        login.setTitle(QString::number(m_titles));
+        login.setModified(QDateTime::fromMSecsSinceEpoch(now(computer), Qt::UTC));
+        m_alive += login.title();
+        write(computer, {login.id(), 0}, PMItemDocument::fromItem(login));
+    }
+
+    void edit(Computer &computer)
+    {
+        const Items items = itemsOf(computer);
+        if (items.isEmpty())
+            return;
+        const auto &item = items[m_dice.any(items.keys())];
+        const std::unique_ptr<PMListItem> edited = item.second.toItem();
+        m_alive.removeAll(edited->title().section(QLatin1Char(' '), 0, 0));
+        m_alive += QString::number(++m_titles);
+        edited->setTitle(m_alive.last());
+        const qint64 time =
+            nextModified(now(computer), edited->modified().toMSecsSinceEpoch(), systemRandom);
+        edited->setModified(QDateTime::fromMSecsSinceEpoch(time, Qt::UTC));
+        write(computer, item.first, PMItemDocument::fromItem(*edited));
+    }
+
+    void remove(Computer &computer)
+    {
+        const Items items = itemsOf(computer);
+        if (items.isEmpty())
+            return;
+        const QString id = m_dice.any(items.keys());
+        const std::unique_ptr<PMListItem> gone = items[id].second.toItem();
+        m_alive.removeAll(gone->title().section(QLatin1Char(' '), 0, 0));
+        recordDeletedIds(*computer.files, computer.safe.path(SafeLayout::deletedList), {id});
+        const QDir folder(computer.safe.path(SafeLayout::content));
+        const QStringList names = folder.entryList({id + QLatin1Char('*')}, QDir::Files);
+        for (const QString &name : names)
+            QFile::remove(folder.filePath(name));
+        // Sometimes nobody was there to note when.
+        if (!m_dice.oneIn(4))
+            computer.deleted.insert(id, {now(computer), 0, {gone->modified().toMSecsSinceEpoch()}});
+    }
+
+    void changePassword(Computer &computer, const QString &password)
+    {
+        GPMSafe safe(computer.environment(now(computer)));
+        if (!safe.open(computer.safe.root()) || !safe.unlock(computer.password))
+            qFatal("the safe does not open");
+        if (safe.changePassword(password))
+            computer.password = password;
+        if (!m_known.contains(password))
+            m_known += password;
+    }
+
+    /// Some of the files, each computer at its own pace.
+    void exchange(Computer &computer)
+    {
+        const int share = 1 + m_dice.pick(3);
+        const QStringList paths = m_provider.paths(computer.replica);
+        for (const QString &path : paths) {
+            if (m_dice.oneIn(share))
+                m_provider.exchange(computer.replica, path);
+        }
+        rest(computer);
+    }
+
+    void synchronise(Computer &computer, bool mayFail)
+    {
+        computer.files->operations = 0;
+        computer.files->failAt = mayFail && m_dice.oneIn(3) ? 1 + m_dice.pick(6) : 0;
+        computer.files->andAllBehind = m_dice.oneIn(2);
+        SyncRound round(
+            {computer.environment(now(computer)), computer.safe,
+             std::make_shared<const SecretBytes>(SecretBytes::fromText(computer.password)),
+             std::make_shared<QMutex>(), computer.deleted},
+            computer.replica.folder);
+        WorkControl control;
+        const SyncResult result = round.run(control);
+        computer.files->failAt = 0;
+        rest(computer);
+        if (result.state != SyncState::NewPasswordNeeded)
+            return;
+        const QByteArray passId =
+            contentOf(computer.replica.file(QLatin1String(SafeLayout::passId)));
+        for (const QString &password : std::as_const(m_known)) {
+            if (checkPassId(password.toUtf8(), QString::fromLatin1(passId))) {
+                changePassword(computer, password);
+                break;
+            }
+        }
+    }
+
+    /// Time passes, or it does not.
+    void rest(const Computer &computer)
+    {
+        if (m_dice.oneIn(3))
+            return;
+        age(computer.safe.root(), m_age);
+        age(computer.replica.folder, m_age);
+    }
+
+    Dice m_dice;
+    Provider m_provider;
+    Computer m_computers[3];
+    QStringList m_alive;
+    QStringList m_known{samplePassword};
+    qint64 m_time = 1700000000000;
+    int m_titles = 0;
+    int m_passwords = 0;
+    int m_age = 0;
+};
+
+} // namespace
+
+class TestSyncProviders : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void losesNothing_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+        // More of them on demand.
+        const unsigned first =
+            qEnvironmentVariable("SYNC_FIRST_SEED", QStringLiteral("1")).toUInt();
+        const unsigned count = qEnvironmentVariable("SYNC_SEEDS", QString::number(seeds)).toUInt();
+        for (unsigned seed = first; seed < first + count; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    /// Real rounds on real files, through folders that a provider keeps alike as providers do.
+    void losesNothing()
+    {
+        QFETCH(const unsigned, seed);
+        const QTemporaryDir place;
+        Fleet fleet(seed, place.path());
+        for (int part = 0; part < 2; ++part) {
+            for (int i = 0; i < 60; ++i)
+                fleet.step();
+            const bool rested = fleet.settle();
+            QVERIFY(rested);
+            QCOMPARE(fleet.list(1), fleet.list(0));
+            QCOMPARE(fleet.list(2), fleet.list(0));
+            QVERIFY2(fleet.lost().isEmpty(),
+                     qPrintable(fleet.lost().join(QLatin1Char(',')) + QLatin1Char('\n') +
+                                fleet.list(0).join(QLatin1Char('\n'))));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSyncProviders)
+#include "tst_syncproviders.moc"
