@@ -64,6 +64,8 @@ struct ImportFile
     std::vector<ImportEntry> entries;
     Problem problem = None;
     QStringList header; ///< of a CSV file whose format is not known
+
+    bool isJson() const { return format == BitwardenJson || format == OwnJson; }
 };
 
 /// Where the columns of a CSV file go whose format is not known: a property for each one, from the

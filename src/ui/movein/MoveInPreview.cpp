@@ -79,9 +79,11 @@ void MoveInPreview::setResult(const QString &fileName, const std::shared_ptr<Imp
     m_model->setResult(result);
     if (!result)
         return;
+    const int count = int(result->file.entries.size());
     m_file->setText(QStringLiteral("<b>%1</b> · %2 · %3")
                         .arg(fileName.toHtmlEscaped(), MoveInTexts::recognised(result->file.format),
-                             tr("%n rows", nullptr, int(result->file.entries.size()))));
+                             result->file.isJson() ? tr("%n entries", nullptr, count)
+                                                   : tr("%n rows", nullptr, count)));
     m_table->setCurrentIndex(m_model->index(0, MoveInModel::Chosen));
     m_table->scrollToTop();
 }

@@ -56,11 +56,6 @@ QString unknownProblem(ImportFile::Problem problem)
     return Texts::tr("The names of the columns are not known. Say what each column holds.");
 }
 
-bool isJson(const ImportFile &file)
-{
-    return file.format == ImportFile::BitwardenJson || file.format == ImportFile::OwnJson;
-}
-
 } // namespace
 
 QVector<MoveInTexts::Guide> MoveInTexts::guides()
@@ -203,10 +198,10 @@ QString MoveInTexts::shownAddress(const QString &address)
 
 QString MoveInTexts::place(const ImportFile &file, const ImportEntry &entry)
 {
-    return (isJson(file) ? Texts::tr("Entry %1") : Texts::tr("Row %1")).arg(entry.number);
+    return (file.isJson() ? Texts::tr("Entry %1") : Texts::tr("Row %1")).arg(entry.number);
 }
 
 QString MoveInTexts::standIn(const ImportFile &file, const ImportEntry &entry)
 {
-    return (isJson(file) ? Texts::tr("(entry %1)") : Texts::tr("(row %1)")).arg(entry.number);
+    return (file.isJson() ? Texts::tr("(entry %1)") : Texts::tr("(row %1)")).arg(entry.number);
 }
