@@ -3,17 +3,17 @@
 #include <algorithm>
 #include <utility>
 
-static int countItems(const GPMSafe &safe)
-{
-    const std::vector<PMListItem *> items = safe.items();
-    return static_cast<int>(std::count_if(items.begin(), items.end(),
-                                          [](const PMListItem *item) { return !item->deleted(); }));
-}
-
 OpenSafeTrace::OpenSafeTrace(KnownSafes &safes, Clock clock)
     : m_safes(safes)
     , m_clock(std::move(clock))
 {
+}
+
+int OpenSafeTrace::countItems(const GPMSafe &safe)
+{
+    const std::vector<PMListItem *> items = safe.items();
+    return static_cast<int>(std::count_if(items.begin(), items.end(),
+                                          [](const PMListItem *item) { return !item->deleted(); }));
 }
 
 void OpenSafeTrace::follow(const std::shared_ptr<GPMSafe> &safe)

@@ -20,6 +20,9 @@ public:
     /// The safe that is the current one from now on, locked or not; may be null.
     void follow(const std::shared_ptr<GPMSafe> &safe);
 
+    /// The items of an unlocked safe without those in the trash.
+    static int countItems(const GPMSafe &safe);
+
     /// Notes how many items there are, while the safe still has them.
     void beforeLock();
 

@@ -156,14 +156,21 @@ KnownSafes::Found KnownSafes::locate(const QString &goneFolder, const QString &f
     return Found::Taken;
 }
 
-bool KnownSafes::rename(const QString &folder, const QString &name)
+bool KnownSafes::rename(const QString &folder, const QString &name, GPMSafe *current)
 {
-    const std::shared_ptr<GPMSafe> safe = open(folder);
+    const std::shared_ptr<GPMSafe> closed = current ? nullptr : open(folder);
+    GPMSafe *safe = current ? current : closed.get();
     if (!safe)
         return false;
+    // A save that is under way would write the old name behind this.
+    if (safe->isUnlocked())
+        safe->saveChanges();
+    const QString former = safe->name();
     safe->setName(name);
-    if (!safe->writeMetaFile())
+    if (!safe->writeMetaFile()) {
+        safe->setName(former);
         return false;
+    }
     m_facts.change(folder, [&name](SafeFact &fact) { fact.name = name; });
     Q_EMIT changed();
     return true;
@@ -172,12 +179,22 @@ bool KnownSafes::rename(const QString &folder, const QString &name)
 void KnownSafes::remove(const QString &folder)
 {
     const bool standard = isSameFolder(QFileInfo(folder).path(), m_safesFolder);
-    if (standard && QDir(folder).exists())
-        m_facts.change(folder, [](SafeFact &fact) { fact.isHidden = true; });
-    else
-        m_facts.forget(folder);
+    if (!standard || !QDir(folder).exists()) {
+        forget(folder);
+        return;
+    }
+    // What lies there is listed by itself.
+    m_facts.change(folder, [](SafeFact &fact) { fact.isHidden = true; });
     dropFromList(folder);
     m_settings.storeSettings();
+    Q_EMIT changed();
+}
+
+void KnownSafes::forget(const QString &folder)
+{
+    dropFromList(folder);
+    m_settings.storeSettings();
+    m_facts.forget(folder);
     Q_EMIT changed();
 }
 

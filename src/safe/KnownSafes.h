@@ -69,11 +69,15 @@ public:
     /// it holds for that one. Another safe is refused.
     Found locate(const QString &goneFolder, const QString &folder);
 
-    /// Gives a safe that is not open another name. False when it cannot be written.
-    bool rename(const QString &folder, const QString &name);
+    /// Gives a safe another name. False when it cannot be written: it has the old one then.
+    /// @param current the object of the safe where there is one, which would write the old name
+    bool rename(const QString &folder, const QString &name, GPMSafe *current = nullptr);
 
     /// Takes a safe off the list; its files stay. Opening its folder brings it back.
     void remove(const QString &folder);
+
+    /// The safe of a folder is no more.
+    void forget(const QString &folder);
 
     /// A task, to be started, that makes a new safe in the standard place from an archive; see
     /// SafeImport. The safe is put at the front of the list when it is there.

@@ -9,6 +9,8 @@
 #include "lock/SecureWindow.h"
 #include "lock/UnlockLogic.h"
 #include "main/MainView.h"
+#include "main/SafeMenu.h"
+#include "safes/SafeDesk.h"
 #include "settings/SettingsTable.h"
 #include "style/Theme.h"
 #include "wizard/FirstRun.h"
@@ -44,6 +46,7 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
                               [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); }})
             .settings();
     });
+    m_safeDesk = std::make_unique<SafeDesk>(m_core, *m_theme);
     makeFirstRun();
 }
 
@@ -99,6 +102,7 @@ void PMUiProvider::createMainWindow()
     m_window->setTrayCheck(m_hasTray);
     m_sideWindows->setMain(m_window.get());
     m_firstRun->setMain(m_window.get());
+    connectSafeDesk(*view);
     connectView(*view);
     view->setItemOrder(m_settings.itemOrder());
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
@@ -132,6 +136,25 @@ void PMUiProvider::connectView(MainView &view)
     connect(&view, &MainView::setUpRequested, m_firstRun.get(), &FirstRun::open);
     connect(&view, &MainView::helpRequested, this, &PMUiProvider::showAbout);
     connect(&view, &MainView::exitRequested, this, &PMUiProvider::exitByUser);
+}
+
+void PMUiProvider::connectSafeDesk(MainView &view)
+{
+    SecureWindow *window = m_window.get();
+    const SafeDesk::Ways ways{
+        dialogAsker(window), dialogFileChooser(window, m_settings),
+        [](const QString &path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }};
+    m_safeDesk->setWindow({window, [window] { return window->leaveByUser(); },
+                           [window](const QString &folder) { window->switchSafe(folder); },
+                           [window] { window->createSafe(); }},
+                          ways);
+    window->pages().setFolderChoice(
+        [choose = ways.choose] { return choose.folder(tr("Choose the folder of the safe")); });
+    connect(window, &SecureWindow::safesRequested, m_safeDesk.get(), &SafeDesk::openList);
+    connect(window, &SecureWindow::importRequested, m_safeDesk.get(), &SafeDesk::importArchive);
+    const SafeMenu &menu = view.safeMenu();
+    connect(&menu, &SafeMenu::safesRequested, m_safeDesk.get(), &SafeDesk::openList);
+    connect(&menu, &SafeMenu::exportSafeRequested, m_safeDesk.get(), &SafeDesk::exportCurrent);
 }
 
 void PMUiProvider::makeTray()

@@ -15,6 +15,7 @@ class FirstRun;
 class GPMAppCore;
 class MainView;
 class QUrl;
+class SafeDesk;
 class SecureWindow;
 class SideWindows;
 class Theme;
@@ -71,6 +72,7 @@ private:
     void lock();
     void exitByUser();
     void showFirstPage();
+    void connectSafeDesk(MainView &view);
     void connectView(MainView &view);
     void makeTray();
     void makeLockShortcut();
@@ -85,6 +87,7 @@ private:
     PMTranslator m_translator;
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<SideWindows> m_sideWindows;
+    std::unique_ptr<SafeDesk> m_safeDesk;
     std::unique_ptr<FirstRun> m_firstRun;
     std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<TrayIcon> m_tray;

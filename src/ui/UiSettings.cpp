@@ -7,6 +7,7 @@
 namespace {
 
 const QString lastUsedSafeKey = QStringLiteral("LastUsedSafe");
+const QString lastFolderKey = QStringLiteral("LastFolderForOpenDialog");
 const QString screenNumberKey = QStringLiteral("LastMainWindowScreenNumber");
 const QString setUpDoneKey = QStringLiteral("SetUpDone");
 const QString itemOrderKey = QStringLiteral("ItemOrder");
@@ -38,6 +39,16 @@ QString UiSettings::lastUsedSafe() const
 void UiSettings::setLastUsedSafe(const QString &folder)
 {
     m_store.setValue(lastUsedSafeKey, folder);
+}
+
+QString UiSettings::lastFolder() const
+{
+    return m_store.value(lastFolderKey).toString();
+}
+
+void UiSettings::setLastFolder(const QString &folder)
+{
+    m_store.setValue(lastFolderKey, folder);
 }
 
 int UiSettings::mainWindowScreenNumber() const

@@ -16,6 +16,10 @@ public:
     QString lastUsedSafe() const;
     void setLastUsedSafe(const QString &folder);
 
+    /// The folder last used in a dialog that opens or saves a file.
+    QString lastFolder() const;
+    void setLastFolder(const QString &folder);
+
     /// The number of the screen that the main window was on; the first when it is not known.
     int mainWindowScreenNumber() const;
     void setMainWindowScreenNumber(int number);

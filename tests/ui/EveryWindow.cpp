@@ -9,12 +9,16 @@
 #include "WindowChecks.h"
 #include "attachments/AttachmentPreview.h"
 #include "attachments/RenameDialog.h"
+#include "dialogs/ProgressDialog.h"
 #include "lock/PagesStack.h"
 #include "main/ItemPane.h"
 #include "main/MainView.h"
 #include "main/SafeMenu.h"
 #include "main/ShortcutsDialog.h"
 #include "movein/MoveInDialog.h"
+#include "safes/ArchiveDesk.h"
+#include "safes/DeleteSafeDialog.h"
+#include "safes/SafesDialog.h"
 #include "style/Style.h"
 #include "wizard/ExtensionPage.h"
 #include "wizard/FirstRun.h"
@@ -291,6 +295,48 @@ QWidget *renameDialog(Stage &stage)
 {
     return shownBeside(
         stage, new RenameDialog(QStringLiteral("recovery-codes.txt"), stage.theme, stage.main));
+}
+
+/// The list of safes: the open one, one in the cloud folder, and one that has gone.
+QWidget *safeList(Stage &stage)
+{
+    KnownSafes &known = stage.test.core.knownSafes();
+    const QString work = stage.test.folder.filePath(QStringLiteral("work"));
+    const QString family = QStringLiteral("/media/ana/stick/family");
+    const QString personal = stage.test.core.currentSafe()->folder();
+    if (known.listed(work).isEmpty()) {
+        known.create(QStringLiteral("Work"), testPassword, QStringLiteral("w"), work);
+        known.facts().change(work, [](SafeFact &fact) {
+            fact.itemCount = 61;
+            fact.lastOpened = QDateTime::currentDateTimeUtc().addDays(-3);
+            fact.mirrorFolder = QStringLiteral("/cloud/work");
+            fact.lastSynchronised = QDateTime::currentDateTimeUtc().addDays(-1);
+        });
+        known.facts().change(family, [](SafeFact &fact) { fact.name = QStringLiteral("Family"); });
+    }
+    GPMAppSettings &settings = stage.test.core.settings();
+    settings.setRecentList({personal, work, family});
+    Q_EMIT stage.main->findChild<SafeMenu *>()->safesRequested();
+    auto *list = qobject_cast<SafesDialog *>(stage.window("safesDialog"));
+    return QTest::qWaitFor([list] { return !list->isReading(); }) ? list : nullptr;
+}
+
+QWidget *deleteSafe(Stage &stage)
+{
+    SafeInfo safe;
+    safe.name = stage.test.core.currentSafe()->name();
+    safe.folder = stage.test.core.currentSafe()->folder();
+    return shownBeside(stage, new DeleteSafeDialog(safe, {}, stage.theme, stage.main));
+}
+
+QWidget *progress(Stage &stage)
+{
+    auto *dialog = new ProgressDialog(
+        ArchiveDesk::tr("Export safe"),
+        ArchiveDesk::tr("Exporting “%1”…").arg(stage.test.core.currentSafe()->name()), stage.theme,
+        stage.main);
+    dialog->setProgress(2, 3);
+    return shownBeside(stage, dialog);
 }
 
 QWidget *shortcuts(Stage &stage)
@@ -575,7 +621,9 @@ QSet<QString> Stage::ownWords() const
                       extensionFolder,
                       QString::fromUtf8(browserExport),
                       QString::fromUtf8(unknownExport),
-                      QStringLiteral("passwords.csv")};
+                      QStringLiteral("passwords.csv"),
+                      QStringLiteral("Work Family"),
+                      test.core.currentSafe()->folder()};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();
         for (int i = 0; i < meta.propertyCount(); ++i)
@@ -638,6 +686,9 @@ const QVector<WindowCase> &everyWindow()
         {"move-in-preview", moveInFile(browserExport, "addButton")},
         {"move-in-end", moveInEnd},
         {"export", exportDialog},
+        {"safes", safeList},
+        {"safe-delete", deleteSafe},
+        {"progress", progress},
         {"shortcuts", shortcuts},
         {"question", question}};
     return cases;

@@ -10,18 +10,19 @@ const int fieldWidth = 360;
 
 } // namespace
 
-RenameDialog::RenameDialog(const QString &name, const Theme &theme, QWidget *parent)
+RenameDialog::RenameDialog(const QString &name, const Theme &theme, QWidget *parent,
+                           const QString &captionText)
     : FramedDialog(tr("Rename"), theme, parent)
     , m_field(new TextField(name, this))
 {
     setObjectName(QStringLiteral("renameDialog"));
-    auto *caption = makeLabel(tr("File name"), "muted", this);
+    auto *caption = makeLabel(captionText.isEmpty() ? tr("File name") : captionText, "muted", this);
     caption->setBuddy(m_field);
     m_field->setObjectName(QStringLiteral("nameField"));
-    m_field->setAccessibleName(tr("File name"));
+    m_field->setAccessibleName(caption->text());
     m_field->setMinimumWidth(Style::scaled(fieldWidth));
     // The ending, by which programs know the file, is seldom what is to be changed.
-    const int dot = name.lastIndexOf(QLatin1Char('.'));
+    const int dot = captionText.isEmpty() ? name.lastIndexOf(QLatin1Char('.')) : -1;
     m_field->setSelection(0, dot > 0 ? dot : name.size());
     auto *rename = makeButton(tr("Rename"), "primary", this);
     rename->setDefault(true);

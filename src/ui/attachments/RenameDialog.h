@@ -10,7 +10,9 @@ class RenameDialog : public FramedDialog
     Q_OBJECT
 
 public:
-    RenameDialog(const QString &name, const Theme &theme, QWidget *parent);
+    /// @param caption what is renamed; a file when it is left out
+    RenameDialog(const QString &name, const Theme &theme, QWidget *parent,
+                 const QString &caption = {});
 
     QString name() const;
 

@@ -11,6 +11,7 @@ namespace {
 
 const int usualWidth = 420;
 const int smallestTextHeight = 36;
+const int iconSize = 24;
 const int steps = 1000; ///< a bar counts no bytes: they may be more than an int holds
 
 } // namespace
@@ -31,7 +32,6 @@ ProgressDialog::ProgressDialog(const QString &title, const QString &text, const 
     setStyleProperty(*m_text, "tone", QStringLiteral("text"));
     m_text->setWordWrap(true);
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_text->setMinimumHeight(Style::scaled(smallestTextHeight));
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_text->setFocusPolicy(Qt::NoFocus);
     m_icon->hide();
@@ -69,6 +69,9 @@ ProgressDialog::ProgressDialog(const QString &title, const QString &text, const 
 void ProgressDialog::setText(const QString &text)
 {
     m_text->setMessage(text);
+    const int icon = m_icon->isHidden() ? 0 : Style::scaled(iconSize) + Style::gap;
+    keepTextHeight(*m_text, Style::scaled(usualWidth) - 2 * Style::margin - icon);
+    m_text->setMinimumHeight(qMax(m_text->minimumHeight(), Style::scaled(smallestTextHeight)));
     setAccessibleDescription(text);
 }
 
@@ -100,7 +103,7 @@ void ProgressDialog::tell(bool good, const QString &text, const Way &way)
     m_wayAtEnd = way;
     const QIcon icon = good ? m_theme.icon(QStringLiteral("circle-check"), Palette::Strong)
                             : m_theme.icon(QStringLiteral("alert-triangle"), Palette::Weak);
-    const int size = Style::scaled(24);
+    const int size = Style::scaled(iconSize);
     m_icon->setPixmap(icon.pixmap(windowHandle(), QSize(size, size)));
     m_icon->setVisible(true);
     m_bar->hide();

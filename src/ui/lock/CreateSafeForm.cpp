@@ -1,5 +1,6 @@
 #include "CreateSafeForm.h"
 
+#include "FileNames.h"
 #include "GPMAppCore.h"
 #include "style/Style.h"
 #include "style/Theme.h"
@@ -8,6 +9,7 @@
 #include "widgets/TextField.h"
 
 #include <QBoxLayout>
+#include <QDir>
 
 CreateSafeForm::CreateSafeForm(GPMAppCore &core, const Theme &theme, Ground ground, QWidget *parent)
     : QWidget(parent)
@@ -85,6 +87,7 @@ void CreateSafeForm::reset()
         field->setText(QString());
     clearSecrets();
     m_failure->setMessage({});
+    m_chosenFolder.clear();
     m_reached = -1;
     showMessages();
 }
@@ -109,6 +112,21 @@ CreateSafeRules::Input CreateSafeForm::input() const
 {
     return {m_fields[CreateSafeRules::Name]->text(), m_password->text(), m_confirm->text(),
             m_fields[CreateSafeRules::Hint]->text()};
+}
+
+void CreateSafeForm::setFolder(const QString &chosen)
+{
+    m_chosenFolder = chosen;
+    m_failure->setMessage({});
+    Q_EMIT changed();
+}
+
+QString CreateSafeForm::folder() const
+{
+    if (m_chosenFolder.isEmpty() || KnownSafes::isFree(m_chosenFolder))
+        return m_chosenFolder;
+    const QString name = cleanFileName(m_fields[CreateSafeRules::Name]->text().trimmed());
+    return m_chosenFolder + QLatin1Char('/') + name;
 }
 
 bool CreateSafeForm::canCreate() const
@@ -136,7 +154,15 @@ bool CreateSafeForm::create()
     const CreateSafeRules::Input entered = input();
     if (!CreateSafeRules::canCreate(entered))
         return false;
-    if (!m_core.createSafe(entered.name, entered.password, entered.hint)) {
+    const QString place = folder();
+    if (!place.isEmpty() && !KnownSafes::isFree(place)) {
+        m_failure->setMessage(tr("Create safe failed!") + QLatin1Char('\n') +
+                              tr("A safe needs an empty folder that you may write to. This one is "
+                                 "not:\n%1")
+                                  .arg(QDir::toNativeSeparators(place)));
+        return false;
+    }
+    if (!m_core.createSafe(entered.name, entered.password, entered.hint, place)) {
         m_failure->setMessage(tr("Create safe failed!"));
         return false;
     }

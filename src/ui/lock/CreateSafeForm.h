@@ -29,6 +29,13 @@ public:
     void takeFocus();
     void clearSecrets();
 
+    /// Makes the safe in a folder that the user chose, or in a new one inside when there are files
+    /// in it; in the standard place when it is empty.
+    void setFolder(const QString &chosen);
+    const QString &chosenFolder() const { return m_chosenFolder; }
+    /// The safe's own folder; empty in the standard place.
+    QString folder() const;
+
     bool canCreate() const;
     /// Makes the safe and empties the fields; otherwise says that it failed.
     bool create();
@@ -59,5 +66,6 @@ private:
     std::array<QLineEdit *, CreateSafeRules::FieldCount> m_fields;
     std::array<MessageLabel *, CreateSafeRules::FieldCount> m_messages;
     MessageLabel *m_failure;
+    QString m_chosenFolder;
     int m_reached = -1; ///< the last field that the user edited
 };

@@ -5,8 +5,10 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
+#include "widgets/ElidedLabel.h"
 
 #include <QBoxLayout>
+#include <QDir>
 #include <QKeyEvent>
 #include <QScrollArea>
 
@@ -23,14 +25,22 @@ CreateSafePage::CreateSafePage(GPMAppCore &core, const Theme &theme, QWidget *pa
     , m_form(new CreateSafeForm(core, theme, CreateSafeForm::Dark, this))
     , m_back(makeButton(tr("Back"), "plain", this))
     , m_create(makeButton(tr("Create"), "primary", this))
+    , m_where(new ElidedLabel("muted", this))
+    , m_choose(makeButton(tr("Choose…"), "link", this))
 {
     setObjectName(QStringLiteral("createSafePage"));
     m_offer->setObjectName(QStringLiteral("createOffer"));
     m_back->setObjectName(QStringLiteral("backButton"));
     m_create->setObjectName(QStringLiteral("createButton"));
+    m_where->setObjectName(QStringLiteral("newSafeFolder"));
+    m_choose->setObjectName(QStringLiteral("chooseFolderButton"));
     layOut(theme);
-    connect(m_form, &CreateSafeForm::changed, this,
-            [this] { m_create->setEnabled(m_form->canCreate()); });
+    setFolderChoice({});
+    connect(m_form, &CreateSafeForm::changed, this, [this] {
+        m_create->setEnabled(m_form->canCreate());
+        showFolder();
+    });
+    connect(m_choose, &QPushButton::clicked, this, &CreateSafePage::chooseFolder);
     connect(m_form, &CreateSafeForm::submitted, m_form, &CreateSafeForm::create);
     connect(m_create, &QPushButton::clicked, m_form, &CreateSafeForm::create);
     connect(m_back, &QPushButton::clicked, this, &CreateSafePage::backRequested);
@@ -52,6 +62,11 @@ void CreateSafePage::layOut(const Theme &theme)
     column->addWidget(warning);
     column->addSpacing(Style::margin);
     column->addWidget(m_form);
+    auto *where = new QHBoxLayout;
+    where->setSpacing(Style::spacing);
+    where->addWidget(m_where, 1);
+    where->addWidget(m_choose);
+    column->addLayout(where);
     column->addSpacing(Style::spacing);
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(10);
@@ -85,15 +100,53 @@ void CreateSafePage::layOut(const Theme &theme)
     restore->setObjectName(QStringLiteral("restoreFromCreateLink"));
     restore->setIcon(theme.lockIcon(QStringLiteral("archive"), Palette::SidebarText));
     connect(restore, &QPushButton::clicked, this, &CreateSafePage::restoreRequested);
+    auto *import = makeButton(tr("Import from an archive…"), "link", this);
+    import->setObjectName(QStringLiteral("importFromCreateLink"));
+    import->setIcon(theme.lockIcon(QStringLiteral("file-import"), Palette::SidebarText));
+    connect(import, &QPushButton::clicked, this, &CreateSafePage::importRequested);
     auto *links = new QHBoxLayout;
     links->setContentsMargins(Style::margin, 0, Style::margin, 0);
+    links->addWidget(import);
     links->addStretch();
     links->addWidget(restore);
     all->addLayout(links);
     // The way on comes before the way back.
-    setTabOrder(m_form->lastField(), m_create);
+    setTabOrder(m_form->lastField(), m_choose);
+    setTabOrder(m_choose, m_create);
     setTabOrder(m_create, m_back);
-    setTabOrder(m_back, restore);
+    setTabOrder(m_back, import);
+    setTabOrder(import, restore);
+}
+
+void CreateSafePage::setFolderChoice(const std::function<QString()> &choose)
+{
+    m_chooseFolder = choose;
+    m_where->setVisible(choose != nullptr);
+    m_choose->setVisible(choose != nullptr);
+    showFolder();
+}
+
+void CreateSafePage::chooseFolder()
+{
+    // Chosen already: the same button leads back.
+    if (!m_form->chosenFolder().isEmpty()) {
+        m_form->setFolder({});
+        return;
+    }
+    const QString folder = m_chooseFolder();
+    if (!folder.isEmpty())
+        m_form->setFolder(folder);
+}
+
+void CreateSafePage::showFolder()
+{
+    const bool chosen = !m_form->chosenFolder().isEmpty();
+    const QString folder = QDir::toNativeSeparators(m_form->folder());
+    m_where->setFullText(chosen ? tr("In %1").arg(folder) : tr("Kept with your other safes"));
+    m_where->setToolTip(folder);
+    m_choose->setText(chosen ? tr("Usual place") : tr("Choose…"));
+    m_choose->setAccessibleName(chosen ? tr("Keep the safe in the usual place")
+                                       : tr("Choose the folder of the safe…"));
 }
 
 void CreateSafePage::start()

@@ -2,7 +2,10 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class CreateSafeForm;
+class ElidedLabel;
 class GPMAppCore;
 class QLabel;
 class QPushButton;
@@ -22,8 +25,12 @@ public:
     void takeFocus();
     void clearSecrets();
 
+    /// How the folder of the safe is chosen; without this it goes to the standard place.
+    void setFolderChoice(const std::function<QString()> &choose);
+
 Q_SIGNALS:
     void backRequested();
+    void importRequested();
     void restoreRequested();
 
 protected:
@@ -31,10 +38,15 @@ protected:
 
 private:
     void layOut(const Theme &theme);
+    void chooseFolder();
+    void showFolder();
 
     GPMAppCore &m_core;
     QLabel *m_offer;
     CreateSafeForm *m_form;
     QPushButton *m_back;
     QPushButton *m_create;
+    ElidedLabel *m_where;
+    QPushButton *m_choose;
+    std::function<QString()> m_chooseFolder;
 };

@@ -82,6 +82,12 @@ void MasterPasswordPage::makeFields(const Theme &theme)
     m_restore->setObjectName(QStringLiteral("restoreLink"));
     m_restore->setIcon(theme.lockIcon(QStringLiteral("archive"), Palette::SidebarText));
     m_create->setIcon(theme.lockIcon(QStringLiteral("plus"), Palette::SidebarText));
+    m_safes = makeButton(tr("Safes…"), "link", this);
+    m_safes->setObjectName(QStringLiteral("safesButton"));
+    m_safes->setIcon(theme.lockIcon(QStringLiteral("squares"), Palette::SidebarText));
+    m_import = makeButton(tr("Import…"), "link", this);
+    m_import->setObjectName(QStringLiteral("importSafeButton"));
+    m_import->setIcon(theme.lockIcon(QStringLiteral("file-import"), Palette::SidebarText));
 }
 
 void MasterPasswordPage::layOut()
@@ -123,10 +129,16 @@ void MasterPasswordPage::layOut()
     all->addStretch(4);
     auto *links = new QHBoxLayout;
     links->setSpacing(Style::spacing);
+    links->addWidget(m_safes);
+    links->addWidget(m_import);
     links->addStretch();
     links->addWidget(m_restore);
     links->addWidget(m_create);
     all->addLayout(links);
+    setTabOrder(m_notNow, m_safes);
+    setTabOrder(m_safes, m_import);
+    setTabOrder(m_import, m_restore);
+    setTabOrder(m_restore, m_create);
 }
 
 void MasterPasswordPage::connectFields()
@@ -143,6 +155,8 @@ void MasterPasswordPage::connectFields()
     connect(m_unlock, &QPushButton::clicked, this, &MasterPasswordPage::unlock);
     connect(m_notNow, &QPushButton::clicked, this, &MasterPasswordPage::dismissed);
     connect(m_create, &QPushButton::clicked, this, &MasterPasswordPage::createRequested);
+    connect(m_safes, &QPushButton::clicked, this, &MasterPasswordPage::safesRequested);
+    connect(m_import, &QPushButton::clicked, this, &MasterPasswordPage::importRequested);
     connect(m_restore, &QPushButton::clicked, this, &MasterPasswordPage::restoreRequested);
     m_password->installEventFilter(this);
 }
@@ -209,8 +223,8 @@ void MasterPasswordPage::showState()
     m_message->setMessage(m_logic.message());
     m_selector->setEnabled(!unlocking);
     m_password->setEnabled(!unlocking && state != State::Unavailable);
-    m_create->setEnabled(!unlocking);
-    m_restore->setEnabled(!unlocking);
+    for (QPushButton *way : {m_create, m_restore, m_safes, m_import})
+        way->setEnabled(!unlocking);
     showProgress(unlocking);
 }
 
@@ -221,7 +235,8 @@ void MasterPasswordPage::showProgress(bool unlocking)
     m_progress->setVisible(unlocking);
     m_progress->setRange(0, total);
     m_progress->setValue(m_logic.itemsDone());
-    m_unlock->setText(unlocking ? tr("Cancel") : tr("Unlock"));
+    const QString unlock = m_logic.isOpenElsewhere() ? tr("Unlock anyway") : tr("Unlock");
+    m_unlock->setText(unlocking ? tr("Cancel") : unlock);
     setStyleProperty(*m_unlock, "look",
                      unlocking ? QStringLiteral("plain") : QStringLiteral("primary"));
     if (unlocking && total > 0)

@@ -29,6 +29,9 @@ public:
 
 Q_SIGNALS:
     void createRequested();
+    /// A safe is to be made from an archive; the list of safes is wanted.
+    void importRequested();
+    void safesRequested();
     void restoreRequested();
     /// The user does not want to unlock now.
     void dismissed();
@@ -61,5 +64,7 @@ private:
     QPushButton *m_unlock;
     QPushButton *m_notNow;
     QPushButton *m_create;
+    QPushButton *m_safes;
+    QPushButton *m_import;
     QPushButton *m_restore;
 };

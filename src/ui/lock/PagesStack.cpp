@@ -21,11 +21,19 @@ PagesStack::PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent)
     addWidget(m_createPage);
     connect(m_unlockPage, &MasterPasswordPage::createRequested, this, &PagesStack::showCreatePage);
     connect(m_unlockPage, &MasterPasswordPage::dismissed, this, &PagesStack::dismissed);
+    connect(m_unlockPage, &MasterPasswordPage::importRequested, this, &PagesStack::importRequested);
+    connect(m_unlockPage, &MasterPasswordPage::safesRequested, this, &PagesStack::safesRequested);
+    connect(m_createPage, &CreateSafePage::importRequested, this, &PagesStack::importRequested);
     connect(&m_unlockPage->crystal(), &Crystal::unlocked, this, &PagesStack::keyTurned);
     connect(m_unlockPage, &MasterPasswordPage::restoreRequested, this,
             &PagesStack::restoreRequested);
     connect(m_createPage, &CreateSafePage::restoreRequested, this, &PagesStack::restoreRequested);
     connect(m_createPage, &CreateSafePage::backRequested, this, &PagesStack::showUnlockPage);
+}
+
+void PagesStack::setFolderChoice(const std::function<QString()> &choose)
+{
+    m_createPage->setFolderChoice(choose);
 }
 
 void PagesStack::showFirstPage()

@@ -2,6 +2,8 @@
 
 #include <QStackedWidget>
 
+#include <functional>
+
 class CreateSafePage;
 class GPMAppCore;
 class MasterPasswordPage;
@@ -25,6 +27,9 @@ public:
     void takeFocus();
     void clearSecrets();
 
+    /// How the folder of a new safe is chosen; without this every one goes to the standard place.
+    void setFolderChoice(const std::function<QString()> &choose);
+
     /// Turns the key-hole of the page that has unlocked a safe; keyTurned tells when that is done,
     /// which is at once on another page and without motion.
     void turnKey();
@@ -32,6 +37,8 @@ public:
 Q_SIGNALS:
     void keyTurned();
     void dismissed();
+    void importRequested();
+    void safesRequested();
     void restoreRequested();
 
 private:

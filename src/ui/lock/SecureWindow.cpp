@@ -66,6 +66,9 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     settings->setContext(Qt::WidgetWithChildrenShortcut);
     connect(settings, &QShortcut::activated, this, &SecureWindow::settingsRequested);
     connect(m_pages, &PagesStack::dismissed, this, &QWidget::close);
+    connect(m_pages, &PagesStack::importRequested, this, &SecureWindow::importRequested);
+    connect(m_pages, &PagesStack::safesRequested, this, &SecureWindow::safesRequested);
+    connect(&core.knownSafes(), &KnownSafes::changed, this, &SecureWindow::showTitle);
     connect(m_pages, &PagesStack::restoreRequested, this, &SecureWindow::restoreRequested);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
@@ -179,11 +182,19 @@ void SecureWindow::lockByUser()
         leaveSafe(&GPMAppCore::lockCurrentSafe);
 }
 
+bool SecureWindow::leaveByUser()
+{
+    lockByUser();
+    return !m_open;
+}
+
 void SecureWindow::switchSafe(const QString &folder)
 {
     lockByUser();
-    if (!m_open)
-        m_pages->unlockLogic().choose(folder);
+    if (m_open)
+        return;
+    m_pages->unlockLogic().choose(folder);
+    m_pages->showUnlockPage();
 }
 
 void SecureWindow::createSafe()

@@ -47,6 +47,8 @@ public:
     /// Locks the safe, or ends the program, for the user, who first decides about what is edited
     /// and about what cannot be written.
     void lockByUser();
+    /// The same; false when the user stays in the safe.
+    bool leaveByUser();
     void exitByUser();
 
     /// Locks the safe in the same way and goes on to the page that unlocks another one, or that
@@ -63,6 +65,9 @@ Q_SIGNALS:
     void exitRequested();
     /// The settings are wanted from a lock page.
     void settingsRequested();
+    /// A safe is to be made from an archive; the list of safes is wanted.
+    void importRequested();
+    void safesRequested();
     /// A backup is to become a safe again.
     void restoreRequested();
     void _requestOpenShuttersPrivate(QPrivateSignal);

@@ -1,6 +1,7 @@
 #include "UnlockLogic.h"
 
 #include "GPMAppCore.h"
+#include "SafeUse.h"
 
 #include <QDir>
 
@@ -71,6 +72,7 @@ void UnlockLogic::choose(const QString &folder)
         return;
     m_folder = folder;
     m_message.clear();
+    m_openElsewhere = false;
     if (!m_core.selectSafe(folder)) {
         // It stays chosen, so that the page can say what is wrong with it.
         m_folder = folder;
@@ -95,12 +97,34 @@ void UnlockLogic::unlock(const QString &password)
         Q_EMIT refused();
         return;
     }
+    if (warnOfOther())
+        return;
+    m_openElsewhere = false;
     m_message.clear();
     m_unlocking = true;
     m_done = 0;
     m_total = 0;
     Q_EMIT changed();
     m_core.unlockCurrentSafe(password);
+}
+
+bool UnlockLogic::warnOfOther()
+{
+    // Told once: the next time the user wants it.
+    if (m_openElsewhere)
+        return false;
+    const auto other = SafeUse::other(m_core.currentSafe()->folder());
+    if (!other)
+        return false;
+    m_openElsewhere = true;
+    setMessage(
+        other->isHere
+            ? tr("Another program on this computer has this safe open. What both change at "
+                 "the same time can get lost, so close it there first.")
+            : tr("This safe is open on the computer “%1”, or was when that computer stopped. "
+                 "What both change at the same time can get lost, so close it there first.")
+                  .arg(other->computer));
+    return true;
 }
 
 void UnlockLogic::cancel()
@@ -126,6 +150,7 @@ void UnlockLogic::reload()
 void UnlockLogic::takeCurrentSafe()
 {
     m_unlocking = false;
+    m_openElsewhere = false;
     m_message.clear();
     m_folder = m_core.currentSafe() ? m_core.currentSafe()->folder() : QString();
     Q_EMIT changed();

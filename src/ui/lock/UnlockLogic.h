@@ -28,6 +28,8 @@ public:
     QString invitation() const;
     /// What went wrong last; empty when nothing did.
     QString message() const { return m_message; }
+    /// Another program has the chosen safe open; the user was told, and unlocks it anyway or not.
+    bool isOpenElsewhere() const { return m_openElsewhere; }
     int itemsDone() const { return m_done; }
     int itemsTotal() const { return m_total; }
 
@@ -47,6 +49,7 @@ private:
     const KnownSafes::Entry *chosen() const;
     void reload();
     void takeCurrentSafe();
+    bool warnOfOther();
     void onFinished(SafeUnlock::Outcome outcome);
     void setMessage(const QString &message);
 
@@ -55,6 +58,7 @@ private:
     QString m_folder;
     QString m_message;
     bool m_unlocking = false;
+    bool m_openElsewhere = false;
     int m_done = 0;
     int m_total = 0;
 };

@@ -120,6 +120,10 @@ void MainView::connectParts()
     connect(m_sidebar, &Sidebar::exitRequested, this, &MainView::exitRequested);
     m_sidebar->setSafeMenu(m_safeMenu);
     connect(m_safeMenu, &SafeMenu::safeChosen, this, &MainView::safeChosen);
+    connect(&m_core.knownSafes(), &KnownSafes::changed, this, [this] {
+        const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+        m_sidebar->setSafe(safe && safe->isUnlocked() ? safe->name() : QString());
+    });
     connect(m_safeMenu, &SafeMenu::createRequested, this, &MainView::createSafeRequested);
     connect(m_safeMenu, &SafeMenu::lockRequested, this, &MainView::lockRequested);
     connect(m_safeMenu, &SafeMenu::bringOverRequested, m_moveDesk, &MoveDesk::bringOver);

@@ -31,10 +31,12 @@ QVector<SafeMenu::Row> SafeMenu::rows() const
     const Row line{nullptr};
     return {
         {"createSafeAction", "plus", tr("Create new..."), &SafeMenu::createRequested},
+        {"safesAction", "squares", tr("Safes…"), &SafeMenu::safesRequested},
         line,
         {"bringOverAction", "file-import", tr("Bring passwords over…"),
          &SafeMenu::bringOverRequested},
         {"exportItemsAction", "file-export", tr("Export items…"), &SafeMenu::exportItemsRequested},
+        {"exportSafeAction", "archive", tr("Export safe…"), &SafeMenu::exportSafeRequested},
         line,
         {"lockAction", "lock", tr("Lock"), &SafeMenu::lockRequested, "Ctrl+L"},
     };
@@ -53,8 +55,10 @@ void SafeMenu::addSafes()
 {
     delete findChild<QActionGroup *>();
     auto *group = new QActionGroup(this);
-    const QString current = m_core.currentSafe() ? m_core.currentSafe()->folder() : QString();
-    const QVector<KnownSafes::Entry> entries = m_core.knownSafes().entries();
+    const KnownSafes &known = m_core.knownSafes();
+    const QString current =
+        m_core.currentSafe() ? known.listed(m_core.currentSafe()->folder()) : QString();
+    const QVector<KnownSafes::Entry> entries = known.entries();
     for (const KnownSafes::Entry &entry : entries) {
         const QString name =
             entry.available ? entry.name : tr("%1 (not available)").arg(entry.name);

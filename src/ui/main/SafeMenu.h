@@ -19,6 +19,8 @@ public:
 Q_SIGNALS:
     void safeChosen(const QString &folder);
     void createRequested();
+    void safesRequested();
+    void exportSafeRequested();
     void bringOverRequested();
     void exportItemsRequested();
     void lockRequested();

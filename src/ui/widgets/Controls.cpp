@@ -59,6 +59,12 @@ void setStyleProperty(QWidget &widget, const char *name, const QVariant &value)
     widget.update();
 }
 
+void keepTextHeight(QLabel &label, int width)
+{
+    label.ensurePolished();
+    label.setMinimumHeight(label.heightForWidth(width));
+}
+
 QHBoxLayout *centred(QWidget *widget)
 {
     auto *row = new QHBoxLayout;

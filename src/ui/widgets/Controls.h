@@ -18,6 +18,9 @@ QToolButton *makeIconButton(const QIcon &icon, const QString &name, const char *
 /// A frame with round corners that groups rows.
 QFrame *makeCard(QWidget *parent);
 
+/// Keeps room for a text that wraps in the given width: a window's smallest size forgets it.
+void keepTextHeight(QLabel &label, int width);
+
 /// A row that keeps a widget in its middle. Unlike an alignment it lets texts wrap in the widget.
 QHBoxLayout *centred(QWidget *widget);
 
