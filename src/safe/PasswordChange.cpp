@@ -3,6 +3,7 @@
 #include "SafeCrypto.h"
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
+#include "SafeUse.h"
 
 #include <QDebug>
 #include <QFile>
@@ -26,6 +27,11 @@ PasswordChangeOutcome PasswordChange::run(const WorkControl &control,
                                           const std::function<void(int)> &progress)
 {
     using Outcome = PasswordChangeOutcome;
+    if (SafeUse::other(m_safe.folder.root())) {
+        // It would go on to save items under the old password.
+        qWarning() << operation << "Another program has the safe open:" << m_safe.folder.root();
+        return Outcome::Busy;
+    }
     if (!m_lock.lock(m_safe.environment.lockWaitMs, control)) {
         if (control.isCancelled())
             return Outcome::Cancelled;

@@ -177,6 +177,11 @@ private Q_SLOTS:
             // It runs, so its mark stays even when the user goes on.
             QVERIFY(!ours.take(home.path(), true));
             QCOMPARE(removeSafe(home.path()).outcome, SafeRemoval::Outcome::InUse);
+            // It would go on to save items under the old password.
+            GPMSafe safe;
+            QVERIFY(safe.open(home.path()) && safe.unlock(samplePassword));
+            QVERIFY(!safe.changePassword(QStringLiteral("new")));
+            safe.lock();
             program.crash();
             QVERIFY(!SafeUse::other(home.path()));
         }
