@@ -150,6 +150,8 @@ void PMUiProvider::connectSafeDesk(MainView &view)
                           ways);
     window->pages().setFolderChoice(
         [choose = ways.choose] { return choose.folder(tr("Choose the folder of the safe")); });
+    m_firstRun->setSafeWays(
+        {[this] { m_safeDesk->openFolder(); }, [this] { m_safeDesk->importArchive(); }});
     connect(window, &SecureWindow::safesRequested, m_safeDesk.get(), &SafeDesk::openList);
     connect(window, &SecureWindow::importRequested, m_safeDesk.get(), &SafeDesk::importArchive);
     const SafeMenu &menu = view.safeMenu();

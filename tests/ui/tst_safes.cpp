@@ -10,6 +10,7 @@
 #include "safes/DeleteSafeDialog.h"
 #include "safes/SafeDesk.h"
 #include "style/Theme.h"
+#include "wizard/NewSafePage.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -337,6 +338,24 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(folder).path(), desk.path("documents"));
         QVERIFY(QFile::exists(folder + QStringLiteral("/safe.meta")));
         QVERIFY(QDir(desk.path("documents/letters")).exists());
+    }
+
+    void theFirstStepsTakeASafeThatIsThereAlready()
+    {
+        Desk desk;
+        QVERIFY(desk.makeSafe("Old"));
+        desk.test.core.selectSafe({});
+        desk.test.core.knownSafes().remove(desk.path("Old"));
+        desk.chosen = desk.path("Old");
+        NewSafePage page(desk.test.core, desk.theme, nullptr,
+                         {[&desk] { desk.desk.openFolder(); }, [] {}});
+        QVERIFY(!page.canGoOn());
+        find<QPushButton>(page, "openFolderLink")->click();
+        QVERIFY(page.canGoOn());
+        QVERIFY(page.goOn());
+        QVERIFY(find<QLabel>(page, "safeMade")->text().contains(QStringLiteral("Old")));
+        QCOMPARE(desk.window->pages().unlockLogic().chosenFolder(), desk.path("Old"));
+        QVERIFY(!desk.test.core.currentSafe()->isUnlocked());
     }
 
     void theNameOfAnArchiveIsOneThatFilesMayHave()

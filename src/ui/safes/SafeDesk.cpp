@@ -7,6 +7,7 @@
 #include "attachments/RenameDialog.h"
 #include "dialogs/ProgressDialog.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QHash>
 
@@ -35,6 +36,13 @@ void SafeDesk::setWindow(const Window &window, const Ways &ways)
     m_window = window;
     m_ways = ways;
     m_archives->setWays({ways.choose, ways.showFolder, window.openSafe});
+}
+
+/// A window that blocks the main one, as the first steps do, would block what is not above it.
+QWidget *SafeDesk::main() const
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal ? modal : m_window.widget;
 }
 
 QWidget *SafeDesk::above() const
@@ -109,7 +117,7 @@ void SafeDesk::exportCurrent()
 
 void SafeDesk::importArchive()
 {
-    m_archives->importArchive(m_window.widget);
+    m_archives->importArchive(main());
 }
 
 void SafeDesk::openFolder()

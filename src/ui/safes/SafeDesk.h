@@ -69,6 +69,7 @@ private:
                      ProgressDialog &progress);
     bool closeIfCurrent(const QString &folder);
     void tell(const QString &title, const QString &text);
+    QWidget *main() const;
     QWidget *above() const;
 
     GPMAppCore &m_core;

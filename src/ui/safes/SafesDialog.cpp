@@ -35,6 +35,7 @@ SafesDialog::SafesDialog(GPMAppCore &core, const CloudOffers &offers, const Them
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SafesDialog::showRows);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SafesDialog::showRows);
     connect(&core.backups(), &Backups::finished, this, &SafesDialog::refresh);
+    connect(&theme, &Theme::changed, this, &SafesDialog::showRows);
     if (core.currentSafe())
         m_selected = core.knownSafes().listed(core.currentSafe()->folder());
     refresh();

@@ -4,7 +4,6 @@
 #include "GPMAppCore.h"
 #include "LanguagePage.h"
 #include "MoveInPage.h"
-#include "NewSafePage.h"
 #include "PMTranslator.h"
 #include "ReadyPage.h"
 #include "SetupWizard.h"
@@ -30,7 +29,9 @@ QVector<WizardStep> FirstRun::steps() const
         return new LanguagePage(m_translator, m_core.settings().languageFile(), m_chooseLanguage,
                                 parent);
     };
-    const auto safe = [this](QWidget *parent) { return new NewSafePage(m_core, m_theme, parent); };
+    const auto safe = [this](QWidget *parent) {
+        return new NewSafePage(m_core, m_theme, parent, m_safeWays);
+    };
     QVector<WizardStep> all = {
         {"language", tr("Welcome"), tr("Which language do you want to use?"),
          [this] { return m_translator.availableLanguages().size() > 1; }, language},

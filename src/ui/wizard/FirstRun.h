@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NewSafePage.h"
 #include "WizardStep.h"
 
 #include <QObject>
@@ -25,6 +26,9 @@ public:
     FirstRun(GPMAppCore &core, UiSettings &uiSettings, const Theme &theme,
              const PMTranslator &translator, ChooseLanguage chooseLanguage);
 
+    /// What leads to a safe that is there already.
+    void setSafeWays(const NewSafePage::Ways &ways) { m_safeWays = ways; }
+
     /// The window in front of which the wizard opens. One that is open moves over to it.
     void setMain(QWidget *main);
 
@@ -48,6 +52,7 @@ private:
     const Theme &m_theme;
     const PMTranslator &m_translator;
     ChooseLanguage m_chooseLanguage;
+    NewSafePage::Ways m_safeWays;
     QPointer<QWidget> m_main;
     QPointer<SetupWizard> m_wizard;
     QString m_resumeAt; ///< a step of the wizard that was open on a window that is gone

@@ -2,10 +2,11 @@
 
 #include "GPMAppCore.h"
 #include "lock/CreateSafeForm.h"
+#include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
 
-NewSafePage::NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent)
+NewSafePage::NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent, const Ways &ways)
     : WizardPage(parent)
     , m_core(core)
     , m_form(new CreateSafeForm(core, theme, CreateSafeForm::Plain, this))
@@ -13,6 +14,8 @@ NewSafePage::NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent)
                                 "remind you of the password, and nobody else."),
                              "muted", this))
     , m_made(makeLabel({}, "heading", this))
+    , m_ways(makeWays(ways))
+    , m_knownBefore(core.knownSafes().entries().size())
 {
     m_hintAdvice->setWordWrap(true);
     m_made->setObjectName(QStringLiteral("safeMade"));
@@ -24,11 +27,43 @@ NewSafePage::NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent)
     column->addWidget(m_form);
     column->addWidget(m_hintAdvice);
     column->addWidget(m_made);
+    column->addSpacing(Style::spacing);
+    column->addWidget(m_ways);
     column->addStretch();
     connect(m_form, &CreateSafeForm::changed, this, &WizardPage::changed);
+    connect(&core.knownSafes(), &KnownSafes::changed, this, &NewSafePage::showState);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &NewSafePage::showState);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &NewSafePage::showState);
     showState();
+}
+
+QWidget *NewSafePage::makeWays(const Ways &ways)
+{
+    auto *row = new QWidget(this);
+    auto *column = new QVBoxLayout(row);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    if (!ways.openFolder)
+        return row;
+    column->addWidget(makeLabel(tr("Do you have a safe already?"), "muted", row));
+    auto *open = makeButton(tr("Open its folder…"), "link", row);
+    open->setObjectName(QStringLiteral("openFolderLink"));
+    connect(open, &QPushButton::clicked, this, ways.openFolder);
+    auto *import = makeButton(tr("Import an archive…"), "link", row);
+    import->setObjectName(QStringLiteral("importArchiveLink"));
+    connect(import, &QPushButton::clicked, this, ways.importArchive);
+    auto *links = new QHBoxLayout;
+    links->setSpacing(Style::spacing);
+    links->addWidget(open);
+    links->addWidget(import);
+    links->addStretch();
+    column->addLayout(links);
+    return row;
+}
+
+bool NewSafePage::isFound() const
+{
+    return !isMade() && m_core.knownSafes().entries().size() > m_knownBefore;
 }
 
 bool NewSafePage::isMade() const
@@ -39,9 +74,14 @@ bool NewSafePage::isMade() const
 void NewSafePage::showState()
 {
     const bool made = isMade();
-    m_form->setVisible(!made);
-    m_hintAdvice->setVisible(!made);
-    m_made->setVisible(made);
+    const bool found = isFound();
+    m_form->setVisible(!made && !found);
+    m_hintAdvice->setVisible(!made && !found);
+    m_ways->setVisible(!made && !found);
+    m_made->setVisible(made || found);
+    if (found)
+        m_made->setText(tr("“%1” is there. Unlock it with its master password after these steps.")
+                            .arg(m_core.knownSafes().entries().first().name));
     if (made)
         m_made->setText(tr("Your safe “%1” is open.").arg(m_core.currentSafe()->name()));
     Q_EMIT changed();
@@ -49,27 +89,27 @@ void NewSafePage::showState()
 
 QString NewSafePage::onward() const
 {
-    return isMade() ? QString() : tr("Create");
+    return isMade() || isFound() ? QString() : tr("Create");
 }
 
 bool NewSafePage::canSkip() const
 {
-    return !isMade();
+    return !isMade() && !isFound();
 }
 
 bool NewSafePage::canGoOn() const
 {
-    return isMade() || m_form->canCreate();
+    return isMade() || isFound() || m_form->canCreate();
 }
 
 bool NewSafePage::goOn()
 {
-    return isMade() || m_form->create();
+    return isMade() || isFound() || m_form->create();
 }
 
 void NewSafePage::takeFocus()
 {
-    if (!isMade())
+    if (!isMade() && !isFound())
         m_form->takeFocus();
 }
 

@@ -2,6 +2,8 @@
 
 #include "WizardPage.h"
 
+#include <functional>
+
 class CreateSafeForm;
 class GPMAppCore;
 class QLabel;
@@ -13,7 +15,15 @@ class NewSafePage : public WizardPage
     Q_OBJECT
 
 public:
-    NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent);
+    /// What leads to a safe that is there already.
+    struct Ways
+    {
+        std::function<void()> openFolder;
+        std::function<void()> importArchive;
+    };
+
+    /// @param ways not offered when they are left out
+    NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent, const Ways &ways = {});
 
     QString onward() const override;
     bool canSkip() const override;
@@ -23,11 +33,16 @@ public:
     void clearSecrets() override;
 
 private:
+    QWidget *makeWays(const Ways &ways);
     bool isMade() const;
+    /// The user has led to a safe, which is still locked.
+    bool isFound() const;
     void showState();
 
     GPMAppCore &m_core;
     CreateSafeForm *m_form;
     QLabel *m_hintAdvice;
     QLabel *m_made;
+    QWidget *m_ways;
+    int m_knownBefore;
 };
