@@ -28,8 +28,13 @@ ItemMenu::ItemMenu(ItemActions &actions, const QStringList &ids, const Theme &th
                 favorite ? tr("Remove from favourites") : tr("Add to favourites")),
             &QAction::triggered, &m_actions,
             [this, ids, favorite] { m_actions.setFavorite(ids, !favorite); });
-    connect(add("exportAction", "file-export", tr("Export…")), &QAction::triggered, this,
-            &ItemMenu::exportRequested);
+    // What an attachment holds is not text: it is saved from its own page.
+    const auto isText = [](const PMListItem *item) {
+        return item->type() != PMListItem::Attachment;
+    };
+    if (std::any_of(items.begin(), items.end(), isText))
+        connect(add("exportAction", "file-export", tr("Export…")), &QAction::triggered, this,
+                &ItemMenu::exportRequested);
     addSeparator();
     connect(add("removeAction", "trash", tr("Remove"), "Del"), &QAction::triggered, this,
             &ItemMenu::removeRequested);

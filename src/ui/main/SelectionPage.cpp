@@ -81,7 +81,10 @@ void SelectionPage::setItems(const QVector<PMListItem *> &items)
     m_allFavorite = all(&PMListItem::favorite);
     m_favorite->setText(m_allFavorite ? tr("Remove from favourites") : tr("Add to favourites"));
     m_favorite->setVisible(!trashed);
-    m_export->setVisible(!trashed);
+    const bool hasText = std::any_of(items.begin(), items.end(), [](const PMListItem *item) {
+        return item->type() != PMListItem::Attachment;
+    });
+    m_export->setVisible(!trashed && hasText);
     m_restore->setVisible(trashed);
     m_remove->setText(all(&PMListItem::deleted) ? tr("Delete forever") : tr("Remove"));
 }
