@@ -5,7 +5,7 @@
 #include <QStringList>
 
 /// One input field of a page as the extension reports it. Whatever is missing or of the wrong JSON
-/// type reads as empty, and as not visible. Texts are read up to 1000 letters.
+/// type reads as empty, and as not visible. Texts are read up to 1000 letters, values whole.
 class FormField
 {
 public:
@@ -16,7 +16,8 @@ public:
 
     QString opid() const { return m_object.value(QLatin1String("opid")).toString(); }
     QString gpmid() const { return m_object.value(QLatin1String("gpmid")).toString(); }
-    QString value() const { return text("value"); }
+    QString value() const { return m_object.value(QLatin1String("value")).toString(); }
+    bool hasValue() const { return m_object.value(QLatin1String("value")).isString(); }
     QString name() const { return attribute("name", "sourceName"); }
     QString id() const { return attribute("id", "sourceId"); }
     QString className() const { return attribute("class", "sourceClass"); }

@@ -1,0 +1,112 @@
+#include "LoginCapture.h"
+
+#include "FormReader.h"
+#include "KeywordScore.h"
+#include "LoginClassifiers.h"
+
+#include <QJsonArray>
+#include <QVector>
+
+namespace {
+
+constexpr int mostFields = 1000;
+
+/// The value with the highest score so far.
+struct Best
+{
+    QString value;
+    float score = 0.0F;
+
+    void offer(const QString &other, float otherScore)
+    {
+        if (otherScore <= score)
+            return;
+        value = other;
+        score = otherScore;
+    }
+};
+
+bool isSignUpForm(const QString &title, const QVector<FormField> &fields)
+{
+    static const QStringList titleWords = {QStringLiteral("регистрация"), QStringLiteral("signup"),
+                                           QStringLiteral("sign-up"), QStringLiteral("registr")};
+    // In code nobody writes Cyrillic.
+    static const QStringList codeWords = titleWords.mid(1);
+    if (containsAny({title}, titleWords))
+        return true;
+    for (const FormField &field : fields) {
+        if (containsAny(field.attributeTexts(), codeWords))
+            return true;
+    }
+    return false;
+}
+
+/// The password that stands in two fields, as a new one does beside its confirmation; empty when
+/// none does.
+QString repeatedPassword(const QVector<FormField> &passwords)
+{
+    for (int i = 0; i < passwords.size(); ++i) {
+        for (int j = i + 1; j < passwords.size(); ++j) {
+            if (!passwords.at(i).value().isEmpty() &&
+                passwords.at(i).value() == passwords.at(j).value())
+                return passwords.at(i).value();
+        }
+    }
+    return {};
+}
+
+void readSurroundings(const QJsonObject &form, const QVector<FormField> &fields,
+                      CapturedLogin &login)
+{
+    const auto around = FormSurroundings::of(form, form.value(QLatin1String("title")).toString());
+    const QVector<FieldKind> kinds = readForm(fields, around);
+    for (int i = 0; i < fields.size(); ++i) {
+        if (!fields.at(i).isVisible())
+            continue;
+        const QString value = fields.at(i).value();
+        const FieldKind kind = kinds.at(i);
+        const bool isPassword = kind == FieldKind::Password || kind == FieldKind::NewPassword;
+        const bool isUserName = kind == FieldKind::UserName || kind == FieldKind::Email;
+        if (isPassword && fields.at(i).isPassword() &&
+            (login.password.isEmpty() || kind == FieldKind::NewPassword))
+            login.password = value;
+        else if (isUserName && login.userName.isEmpty())
+            login.userName = value;
+    }
+    login.isSignUp = login.isSignUp || (kinds.contains(FieldKind::NewPassword) &&
+                                        !kinds.contains(FieldKind::Password));
+}
+
+} // namespace
+
+CapturedLogin captureLogin(const QJsonObject &form)
+{
+    QVector<FormField> fields;
+    const QJsonArray entries = form.value(QLatin1String("fields")).toArray();
+    for (int i = 0; i < qMin(mostFields, entries.size()); ++i)
+        fields.append(FormField(entries.at(i).toObject()));
+
+    Best userName;
+    Best password;
+    QVector<FormField> passwords;
+    bool hasHints = false;
+    for (const FormField &field : qAsConst(fields)) {
+        hasHints = hasHints || field.hasHints();
+        if (visibleFieldScore(field) <= 0.0F || !field.hasValue())
+            continue;
+        userName.offer(field.value(), loginNameScore(field));
+        password.offer(field.value(), namedPasswordScore(field));
+        if (field.isPassword())
+            passwords.append(field);
+    }
+    CapturedLogin login;
+    login.userName = userName.value;
+    login.password = password.value;
+    login.isSignUp = isSignUpForm(form.value(QLatin1String("title")).toString(), fields);
+    const QString repeated = repeatedPassword(passwords);
+    if (!repeated.isEmpty())
+        login.password = repeated;
+    else if (hasHints)
+        readSurroundings(form, fields, login);
+    return login;
+}
