@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QStringList>
+#include <QVarLengthArray>
 
 #include <algorithm>
 
@@ -241,8 +242,17 @@ const Row<CaptionKind> captionRows[] = {
 };
 // clang-format on
 
+bool isPlain(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter.unicode() < 0x80; });
+}
+
+/// Without accents.
 QString folded(const QString &text)
 {
+    if (isPlain(text))
+        return text;
     QString plain;
     plain.reserve(text.size());
     const QString decomposed = text.normalized(QString::NormalizationForm_KD);
@@ -265,6 +275,46 @@ bool isWordBorder(QChar before, QChar at, QChar after)
         return true;
     return before.isUpper() && at.isUpper() && after.isLower();
 }
+
+/// The words of a text, as parts of one copy of it.
+class Words
+{
+public:
+    explicit Words(const QString &text)
+        : m_plain(folded(text))
+    {
+        const QString cased = m_plain;
+        m_plain = m_plain.toLower();
+        // Lower case may have another length where a letter has no simple one.
+        if (m_plain.size() != cased.size())
+            m_plain = cased;
+        int start = -1;
+        for (int i = 0; i < cased.size(); ++i) {
+            const QChar at = cased.at(i);
+            const bool isLetter = at.isLetterOrNumber();
+            const QChar after = i + 1 < cased.size() ? cased.at(i + 1) : QChar();
+            if (start >= 0 && (!isLetter || isWordBorder(cased.at(i - 1), at, after))) {
+                append(start, i);
+                start = -1;
+            }
+            if (isLetter && start < 0)
+                start = i;
+        }
+        if (start >= 0)
+            append(start, cased.size());
+    }
+    Words(const Words &) = delete;
+    Words &operator=(const Words &) = delete;
+
+    int size() const { return m_words.size(); }
+    QStringView at(int i) const { return m_words.at(i); }
+
+private:
+    void append(int from, int to) { m_words.append(QStringView(m_plain).mid(from, to - from)); }
+
+    QString m_plain;
+    QVarLengthArray<QStringView, 24> m_words;
+};
 
 /// Phrases by their first word, the longest first.
 template <typename Kind>
@@ -291,58 +341,56 @@ public:
                     m_phrases[words.first()].append({words, row.kind, text.size(), isWhole});
             }
         }
-        for (QVector<Phrase> &phrases : m_phrases) {
-            std::stable_sort(phrases.begin(), phrases.end(), [](const Phrase &a, const Phrase &b) {
-                return a.words.size() > b.words.size();
-            });
+        for (auto phrases = m_phrases.begin(); phrases != m_phrases.end(); ++phrases) {
+            std::stable_sort(
+                phrases->begin(), phrases->end(),
+                [](const Phrase &a, const Phrase &b) { return a.words.size() > b.words.size(); });
+            m_byWord.insert(phrases.key(), &*phrases);
         }
     }
 
     /// The longest phrase that begins at the position; null when none does.
-    const Phrase *find(const QStringList &words, int position) const
+    const Phrase *find(const Words &words, int position) const
     {
-        const auto found = m_phrases.constFind(words.at(position));
-        if (found == m_phrases.constEnd())
+        const auto found = m_byWord.constFind(words.at(position));
+        if (found == m_byWord.constEnd())
             return nullptr;
-        for (const Phrase &phrase : *found) {
+        for (const Phrase &phrase : **found) {
             if (phrase.isWhole && phrase.words.size() != words.size())
                 continue;
-            if (position + phrase.words.size() <= words.size() &&
-                std::equal(phrase.words.begin(), phrase.words.end(), words.begin() + position))
+            if (matches(phrase, words, position))
                 return &phrase;
         }
         return nullptr;
     }
 
 private:
+    static bool matches(const Phrase &phrase, const Words &words, int position)
+    {
+        const int count = phrase.words.size();
+        if (position + count > words.size())
+            return false;
+        for (int i = 1; i < count; ++i) {
+            if (words.at(position + i) != phrase.words.at(i))
+                return false;
+        }
+        return true;
+    }
+
     QHash<QString, QVector<Phrase>> m_phrases;
+    /// The same, to be asked with parts of a text; its keys and lists are those above.
+    QHash<QStringView, const QVector<Phrase> *> m_byWord;
 };
 
 } // namespace
 
 QStringList wordsOf(const QString &text)
 {
-    QStringList words;
-    QString word;
-    const QString plain = folded(text);
-    for (int i = 0; i < plain.size(); ++i) {
-        const QChar at = plain.at(i);
-        if (!at.isLetterOrNumber()) {
-            if (!word.isEmpty())
-                words.append(word.toLower());
-            word.clear();
-            continue;
-        }
-        const QChar after = i + 1 < plain.size() ? plain.at(i + 1) : QChar();
-        if (!word.isEmpty() && isWordBorder(plain.at(i - 1), at, after)) {
-            words.append(word.toLower());
-            word.clear();
-        }
-        word += at;
-    }
-    if (!word.isEmpty())
-        words.append(word.toLower());
-    return words;
+    const Words words(text);
+    QStringList list;
+    for (int i = 0; i < words.size(); ++i)
+        list.append(words.at(i).toString());
+    return list;
 }
 
 bool TextMeaning::names(FieldKind kind) const
@@ -355,7 +403,7 @@ TextMeaning meaningOf(const QString &text)
 {
     static const PhraseBook<FieldKind> book(fieldRows);
     TextMeaning meaning;
-    const QStringList words = wordsOf(text);
+    const Words words(text);
     for (int i = 0; i < words.size();) {
         const auto *phrase = book.find(words, i);
         if (!phrase) {
@@ -372,7 +420,7 @@ TextMeaning meaningOf(const QString &text)
 CaptionKind captionKindOf(const QString &text)
 {
     static const PhraseBook<CaptionKind> book(captionRows);
-    const QStringList words = wordsOf(text);
+    const Words words(text);
     CaptionKind kind = CaptionKind::None;
     int longest = 0;
     for (int i = 0; i < words.size(); ++i) {

@@ -25,6 +25,8 @@ bool isSum(const QString &text)
 
 QString withoutAsides(const QString &text)
 {
+    if (!text.contains(QLatin1Char('(')))
+        return text;
     QString plain;
     int depth = 0;
     for (const QChar letter : text) {
@@ -164,7 +166,7 @@ FieldKind kindInText(FieldKind kind)
 bool isExample(const QString &text)
 {
     static const QRegularExpression address(QStringLiteral("^\\S+@\\S+\\.\\S+$"));
-    return address.match(text).hasMatch();
+    return text.contains(QLatin1Char('@')) && address.match(text).hasMatch();
 }
 
 FieldReading readTextsOf(const FormField &field)
@@ -172,7 +174,11 @@ FieldReading readTextsOf(const FormField &field)
     FieldReading reading;
     const QStringList texts = field.readTexts();
     bool hasExample = false;
-    for (const QString &text : texts) {
+    for (int i = 0; i < texts.size(); ++i) {
+        const QString &text = texts.at(i);
+        // The label is often also the text before the field.
+        if (texts.indexOf(text) < i)
+            continue;
         if (isExample(text)) {
             hasExample = true;
             continue;
@@ -183,7 +189,8 @@ FieldReading readTextsOf(const FormField &field)
     if (!reading.hasText)
         take(reading, field.textAfter(), MainWord::First);
     take(reading, field.name(), MainWord::Last);
-    take(reading, field.id(), MainWord::Last);
+    if (field.id() != field.name())
+        take(reading, field.id(), MainWord::Last);
     if (reading.kind == FieldKind::Unknown && hasExample)
         reading.kind = FieldKind::Email;
     if (field.isInSearch())
@@ -192,7 +199,7 @@ FieldReading readTextsOf(const FormField &field)
         return readSelect(field, reading);
     if (field.isPassword())
         reading.kind = kindInPassword(reading.kind);
-    else if (field.hasType({QStringLiteral("textarea")}))
+    else if (field.isTextArea())
         reading.kind = kindInText(reading.kind);
     else if (!field.isLine())
         reading.kind = FieldKind::Other;

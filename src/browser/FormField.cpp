@@ -7,10 +7,17 @@ constexpr int longestText = 1000;
 
 } // namespace
 
+FormField::FormField(const QJsonObject &object)
+    : m_object(object)
+    , m_type(text("type").toLower())
+{
+    if (m_type.isEmpty())
+        m_type = text("inputtype").toLower();
+}
+
 bool FormField::hasType(const QStringList &types) const
 {
-    const QString type = text("type");
-    return types.contains(type.isEmpty() ? text("inputtype") : type, Qt::CaseInsensitive);
+    return types.contains(m_type);
 }
 
 bool FormField::isLine() const

@@ -9,10 +9,7 @@
 class FormField
 {
 public:
-    explicit FormField(const QJsonObject &object)
-        : m_object(object)
-    {
-    }
+    explicit FormField(const QJsonObject &object);
 
     QString opid() const { return m_object.value(QLatin1String("opid")).toString(); }
     QString gpmid() const { return m_object.value(QLatin1String("gpmid")).toString(); }
@@ -24,14 +21,15 @@ public:
     QString inputType() const { return text("inputtype"); }
     bool isVisible() const { return flag("visible"); }
 
-    /// Whether the field's type is one of these, ignoring case. The type is "type", and "inputtype"
+    /// Whether the field's type, in lower case, is one of these. The type is "type", and "inputtype"
     /// where "type" is empty.
     bool hasType(const QStringList &types) const;
     /// Whether it is a line of text of any kind, a password excepted.
     bool isLine() const;
-    bool isPassword() const { return hasType({QStringLiteral("password")}); }
-    bool isSelect() const { return hasType({QStringLiteral("select-one")}); }
-    bool isRadio() const { return hasType({QStringLiteral("radio")}); }
+    bool isPassword() const { return m_type == QLatin1String("password"); }
+    bool isSelect() const { return m_type == QLatin1String("select-one"); }
+    bool isRadio() const { return m_type == QLatin1String("radio"); }
+    bool isTextArea() const { return m_type == QLatin1String("textarea"); }
 
     /// Name, id and class.
     QStringList attributeTexts() const;
@@ -70,4 +68,5 @@ private:
     QString attribute(const char *key, const char *sourceKey) const;
 
     QJsonObject m_object;
+    QString m_type; ///< in lower case
 };

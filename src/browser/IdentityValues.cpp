@@ -93,7 +93,7 @@ QString addressValue(const PMIdentity &identity, const FieldPlace &place)
         place.kinds.value(place.at - 1) == FieldKind::HouseNumber)
         return streetOf(line).name;
     const QString second = identity.addressLine2();
-    const bool isWhole = place.field().hasType({QStringLiteral("textarea")});
+    const bool isWhole = place.field().isTextArea();
     return isWhole && !second.isEmpty() ? line + QLatin1Char('\n') + second : line;
 }
 
