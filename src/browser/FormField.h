@@ -21,8 +21,8 @@ public:
     QString inputType() const { return text("inputtype"); }
     bool isVisible() const { return flag("visible"); }
 
-    /// Whether the field's type, in lower case, is one of these. The type is "type", and "inputtype"
-    /// where "type" is empty.
+    /// Whether the field's type, in lower case, is one of these. The type is "type", and
+    /// "inputtype" where "type" is empty.
     bool hasType(const QStringList &types) const;
     /// Whether it is a line of text of any kind, a password excepted.
     bool isLine() const;
