@@ -1,6 +1,7 @@
 #include "ItemExport.h"
 #include "UiTesting.h"
 #include "dialogs/ProgressDialog.h"
+#include "main/MainView.h"
 #include "movein/ExportDialog.h"
 #include "movein/MoveInDialog.h"
 #include "movein/MoveInTexts.h"
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void badFiles();
     void unknownColumns();
     void fileIsDeleted();
+    void emptySafeLeadsHere();
     void shownAddresses_data();
     void shownAddresses();
     void exportAsksForThePassword();
@@ -332,6 +334,25 @@ void TestMoveIn::fileIsDeleted()
     QVERIFY(!QFile::exists(program.file));
     QVERIFY(program.asker.asked.last().text.contains(QLatin1String("SSD")));
     QVERIFY(program.text("deleteAdvice").contains(QLatin1String("is deleted")));
+}
+
+void TestMoveIn::emptySafeLeadsHere()
+{
+    TestCore test;
+    const Theme theme;
+    MainView view(test.core, theme);
+    openWithSafe(view, test);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    auto *way = find<QPushButton>(view, "bringOverButton");
+    QVERIFY(way->isVisible());
+    way->setFocus();
+    QTest::keyClick(way, Qt::Key_Return);
+    QPointer<MoveInDialog> dialog(view.findChild<MoveInDialog *>());
+    QVERIFY(dialog && dialog->isVisible());
+    // It would show what the safe holds.
+    test.core.lockCurrentSafe();
+    QVERIFY(!dialog || !dialog->isVisible());
 }
 
 void TestMoveIn::shownAddresses_data()
