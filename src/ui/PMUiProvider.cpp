@@ -43,7 +43,8 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
         return SettingsTable({m_core.settings(), m_settings, *m_theme, m_translator,
                               [this](const QString &language) { return setLanguage(language); },
                               [this](int percent) { return setTextPercent(percent); },
-                              [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); }})
+                              [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
+                              [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); }})
             .settings();
     });
     m_safeDesk = std::make_unique<SafeDesk>(m_core, *m_theme);
@@ -125,6 +126,8 @@ void PMUiProvider::connectView(MainView &view)
     connect(&view, &MainView::fieldGeneratorRequested, m_sideWindows.get(),
             &SideWindows::openGeneratorFor);
     connect(&view, &MainView::settingsRequested, m_sideWindows.get(), &SideWindows::openSettings);
+    connect(&view, &MainView::changePasswordRequested, m_sideWindows.get(),
+            &SideWindows::openChangePassword);
     connect(&view, &MainView::lockRequested, this, &PMUiProvider::lock);
     connect(&view, &MainView::safeChosen, m_window.get(), &SecureWindow::switchSafe);
     connect(&view, &MainView::createSafeRequested, m_window.get(), &SecureWindow::createSafe);

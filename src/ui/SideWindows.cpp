@@ -4,6 +4,7 @@
 #include "RandomSource.h"
 #include "backups/ArchiveImport.h"
 #include "backups/BackupRow.h"
+#include "widgets/Controls.h"
 
 #include <utility>
 
@@ -24,6 +25,7 @@ SideWindows::SideWindows(GPMAppCore &core, UiSettings &uiSettings, const Theme &
     , m_uiSettings(uiSettings)
     , m_theme(theme)
     , m_makeSettings(std::move(settings))
+    , m_passwordChange(core, theme)
 {
     connect(&core, &GPMAppCore::requestLock, this, &SideWindows::closeForLock);
     connect(&core, &GPMAppCore::safeLockedChanged, &m_recent,
@@ -91,6 +93,27 @@ QWidget *SideWindows::makeBackupRow(QWidget *parent)
     auto *row = new BackupRow({m_core.backups(), m_core.settings(), m_core.knownSafes()}, parent);
     connect(row, &BackupRow::restoreRequested, this, &SideWindows::openRestore);
     return row;
+}
+
+QWidget *SideWindows::makePasswordRow(QWidget *parent)
+{
+    auto *row = new QWidget(parent);
+    auto *change = makeButton(tr("Change password…"), "plain", row);
+    change->setObjectName(QStringLiteral("changePasswordButton"));
+    auto *line = new QHBoxLayout(row);
+    line->setContentsMargins({});
+    line->addWidget(change);
+    line->addStretch();
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    change->setEnabled(safe && safe->isUnlocked());
+    connect(&m_core, &GPMAppCore::safeLockedChanged, change, &QWidget::setDisabled);
+    connect(change, &QPushButton::clicked, this, &SideWindows::openChangePassword);
+    return row;
+}
+
+void SideWindows::openChangePassword()
+{
+    m_passwordChange.open(m_main);
 }
 
 void SideWindows::openRestore()

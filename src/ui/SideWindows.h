@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backups/RestoreDialog.h"
+#include "dialogs/PasswordChangeDesk.h"
 #include "dialogs/PasswordGeneratorDialog.h"
 #include "dialogs/RecentPasswords.h"
 #include "settings/SettingsDialog.h"
@@ -32,11 +33,15 @@ public:
 
     /// What the settings show of backups.
     QWidget *makeBackupRow(QWidget *parent);
+    /// What leads from the settings to another master password.
+    QWidget *makePasswordRow(QWidget *parent);
 
 public Q_SLOTS:
     /// Opens the generator for the page in the user's browser.
     void openGenerator();
     void openSettings();
+    /// Lets the user change the master password of the open safe.
+    void openChangePassword();
     /// Lets the user choose a backup and makes a safe from it.
     void openRestore();
 
@@ -54,6 +59,7 @@ private:
     const Theme &m_theme;
     std::function<QVector<Setting>()> m_makeSettings;
     RecentPasswords m_recent;
+    PasswordChangeDesk m_passwordChange;
     QPointer<QWidget> m_main;
     QPointer<PasswordGeneratorDialog> m_generator;
     QPointer<SettingsDialog> m_settings;

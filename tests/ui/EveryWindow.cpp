@@ -39,6 +39,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMetaProperty>
+#include <QProgressBar>
 
 namespace {
 
@@ -139,6 +140,39 @@ QWidget *backupSettings(Stage &stage)
         return nullptr;
     QObject::disconnect(connection);
     return settings;
+}
+
+QWidget *changePassword(Stage &stage)
+{
+    Q_EMIT stage.main->findChild<MainView *>()->changePasswordRequested();
+    return stage.window("changePasswordDialog");
+}
+
+/// The entries of a change, some of them wrong.
+QWidget *changePasswordFaults(Stage &stage)
+{
+    QWidget *window = changePassword(stage);
+    QTest::keyClicks(find<QLineEdit>(*window, "oldPassword"), QStringLiteral("not it"));
+    QTest::keyClicks(find<QLineEdit>(*window, "newPassword"), QStringLiteral("walnut 7 harbour"));
+    find<QAbstractButton>(*window, "changeButton")->click();
+    return window;
+}
+
+/// What is said when the password is changed.
+QWidget *passwordChanged(Stage &stage)
+{
+    const QLatin1String next("walnut 7 harbour");
+    QWidget *window = changePassword(stage);
+    const std::shared_ptr<GPMSafe> safe = stage.test.core.currentSafe();
+    const QString former = safe->isPassword(next) ? next : testPassword;
+    const QString latter = former == next ? testPassword : next;
+    QTest::keyClicks(find<QLineEdit>(*window, "oldPassword"), former);
+    QTest::keyClicks(find<QLineEdit>(*window, "newPassword"), latter);
+    QTest::keyClicks(find<QLineEdit>(*window, "confirmPassword"), latter);
+    find<QAbstractButton>(*window, "changeButton")->click();
+    QWidget *progress = stage.window("progressDialog");
+    const auto *bar = find<QProgressBar>(*progress, "progressBar");
+    return QTest::qWaitFor([bar] { return !bar->isVisible(); }, 30000) ? progress : nullptr;
 }
 
 /// What an earlier case restored would be backed up and listed, too.
@@ -678,6 +712,9 @@ const QVector<WindowCase> &everyWindow()
         {"settings-backup", backupSettings},
         {"restore", restoreList},
         {"restored", restored},
+        {"change-password", changePassword},
+        {"change-password-faults", changePasswordFaults},
+        {"password-changed", passwordChanged},
         {"settings-hotkeys", settingsPage(4)},
         {"settings-appearance", settingsPage(5)},
         {"wizard-language", firstWizardStep},

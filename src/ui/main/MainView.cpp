@@ -126,6 +126,8 @@ void MainView::connectParts()
     });
     connect(m_safeMenu, &SafeMenu::createRequested, this, &MainView::createSafeRequested);
     connect(m_safeMenu, &SafeMenu::lockRequested, this, &MainView::lockRequested);
+    connect(m_safeMenu, &SafeMenu::changePasswordRequested, this,
+            &MainView::changePasswordRequested);
     connect(m_safeMenu, &SafeMenu::bringOverRequested, m_moveDesk, &MoveDesk::bringOver);
     connect(m_safeMenu, &SafeMenu::exportItemsRequested, m_moveDesk, &MoveDesk::exportAll);
     connect(m_list, &ItemListPane::bringOverRequested, m_moveDesk, &MoveDesk::bringOver);

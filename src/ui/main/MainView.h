@@ -72,6 +72,7 @@ Q_SIGNALS:
     void generatorRequested();
     /// The generator is wanted for a field that is edited, as long as the owner lives.
     void fieldGeneratorRequested(QObject *owner, const MainView::Place &place);
+    void changePasswordRequested();
     void settingsRequested();
     void helpRequested();
     void setUpRequested();

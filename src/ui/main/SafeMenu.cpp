@@ -38,6 +38,7 @@ QVector<SafeMenu::Row> SafeMenu::rows() const
         {"exportItemsAction", "file-export", tr("Export items…"), &SafeMenu::exportItemsRequested},
         {"exportSafeAction", "archive", tr("Export safe…"), &SafeMenu::exportSafeRequested},
         line,
+        {"changePasswordAction", "key", tr("Change password…"), &SafeMenu::changePasswordRequested},
         {"lockAction", "lock", tr("Lock"), &SafeMenu::lockRequested, "Ctrl+L"},
     };
 }

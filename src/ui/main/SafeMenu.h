@@ -23,6 +23,7 @@ Q_SIGNALS:
     void exportSafeRequested();
     void bringOverRequested();
     void exportItemsRequested();
+    void changePasswordRequested();
     void lockRequested();
 
 private:

@@ -105,35 +105,48 @@ QVector<Setting> SettingsTable::security() const
     interval.most = longestInactivity;
     interval.unit = tr(" min", "minutes");
     interval.neededSwitch = "autolock_inactive";
-    return {bound({"autolock_inactive",
-                   Setting::Security,
-                   tr("Lock after inactivity"),
-                   tr("The safe locks when you leave the computer alone."),
-                   tr("auto-lock idle away"),
-                   Setting::Switch,
-                   {},
-                   {}},
-                  "autolockInactive"),
-            bound(interval, "inactivityInterval"),
-            bound({"autolock_screensaver",
-                   Setting::Security,
-                   tr("Lock when the screen saver starts"),
-                   tr("The safe locks together with the screen."),
-                   tr("auto-lock"),
-                   Setting::Switch,
-                   {},
-                   {}},
-                  "autolockScreensaver"),
-            bound({"clear_clipboard",
-                   Setting::Security,
-                   tr("Clear copied values after 60 seconds"),
-                   tr("What you copied from the safe does not stay on the clipboard, where other "
-                      "programs can read it."),
-                   tr("clipboard copy password wipe"),
-                   Setting::Switch,
-                   {},
-                   {}},
-                  "clearClipboard")};
+    Setting password = {"master_password",
+                        Setting::Security,
+                        tr("Master password"),
+                        tr("The one that opens this safe."),
+                        tr("change hint"),
+                        Setting::Panel,
+                        {},
+                        {}};
+    password.makePanel = m_parts.makePasswordRow;
+    QVector<Setting> rows = {
+        bound({"autolock_inactive",
+               Setting::Security,
+               tr("Lock after inactivity"),
+               tr("The safe locks when you leave the computer alone."),
+               tr("auto-lock idle away"),
+               Setting::Switch,
+               {},
+               {}},
+              "autolockInactive"),
+        bound(interval, "inactivityInterval"),
+        bound({"autolock_screensaver",
+               Setting::Security,
+               tr("Lock when the screen saver starts"),
+               tr("The safe locks together with the screen."),
+               tr("auto-lock"),
+               Setting::Switch,
+               {},
+               {}},
+              "autolockScreensaver"),
+        bound({"clear_clipboard",
+               Setting::Security,
+               tr("Clear copied values after 60 seconds"),
+               tr("What you copied from the safe does not stay on the clipboard, where other "
+                  "programs can read it."),
+               tr("clipboard copy password wipe"),
+               Setting::Switch,
+               {},
+               {}},
+              "clearClipboard")};
+    if (m_parts.makePasswordRow)
+        rows.prepend(password);
+    return rows;
 }
 
 QVector<Setting> SettingsTable::browser() const

@@ -25,6 +25,8 @@ public:
         std::function<bool(int)> setTextPercent;
         /// How backups stand, with what can be done about them.
         std::function<QWidget *(QWidget *parent)> makeBackupRow;
+        /// The way to another master password.
+        std::function<QWidget *(QWidget *parent)> makePasswordRow;
     };
 
     explicit SettingsTable(const Parts &parts);

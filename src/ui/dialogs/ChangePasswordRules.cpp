@@ -1,0 +1,89 @@
+#include "ChangePasswordRules.h"
+
+#include "PasswordStrength.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(ChangePasswordRules)
+};
+
+QString fault(const ChangePasswordRules::Input &input, ChangePasswordRules::Field field)
+{
+    switch (field) {
+    case ChangePasswordRules::Old:
+        if (input.oldPassword.isEmpty())
+            return Words::tr("Old password can not be empty");
+        return input.oldRefused ? Words::tr("Old password is invalid. Try again") : QString();
+    case ChangePasswordRules::New:
+        if (input.newPassword.isEmpty())
+            return Words::tr("New password can not be empty");
+        if (input.newPassword == input.oldPassword)
+            return Words::tr("New password can not be the same as the old password");
+        return {};
+    case ChangePasswordRules::Confirm:
+        if (input.confirm.isEmpty())
+            return Words::tr("Confirm password can not be empty");
+        if (input.confirm != input.newPassword)
+            return Words::tr("Password does not match");
+        return {};
+    case ChangePasswordRules::Hint:
+        return input.hint.isEmpty() ? Words::tr("Hint can not be empty") : QString();
+    case ChangePasswordRules::FieldCount:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+ChangePasswordRules::Message ChangePasswordRules::message(const Input &input, Field field)
+{
+    const QString text = fault(input, field);
+    if (!text.isEmpty() || field != New)
+        return {text};
+    const int level = passwordStrengthLevel(input.newPassword);
+    return {passwordStrengthLabel(level), level};
+}
+
+ChangePasswordRules::Field ChangePasswordRules::firstFault(const Input &input)
+{
+    int field = Old;
+    while (field < FieldCount && fault(input, Field(field)).isEmpty())
+        ++field;
+    return Field(field);
+}
+
+QString ChangePasswordRules::endMessage(PasswordChangeOutcome outcome, const QString &safeName,
+                                        bool byUser)
+{
+    switch (outcome) {
+    case PasswordChangeOutcome::Changed:
+        return Words::tr("“%1” has its new password. From now on only that one opens it. Backups "
+                         "made before still open with the old one.")
+            .arg(safeName);
+    case PasswordChangeOutcome::Cancelled:
+        return byUser ? Words::tr("The password was not changed. The old one still opens “%1”.")
+                            .arg(safeName)
+                      : Words::tr("“%1” was locked before the change was done. The old password "
+                                  "still opens it.")
+                            .arg(safeName);
+    case PasswordChangeOutcome::Busy:
+        return Words::tr("The password was not changed: another program is using the safe. The "
+                         "old one still opens it. Wait until the other program is done, then try "
+                         "again.");
+    case PasswordChangeOutcome::Damaged:
+        return Words::tr("The password was not changed: some files of the safe do not open, and "
+                         "under a new password they would be lost. The old one still opens the "
+                         "safe. Bring these files back from a backup or move them out of the "
+                         "folder of the safe, then try again.");
+    case PasswordChangeOutcome::NotWritten:
+        return Words::tr("The password was not changed: the files of the safe could not be "
+                         "written. The old one still opens it. Check the free space and that the "
+                         "folder of the safe can be written to, then try again.");
+    }
+    return {};
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "PasswordChange.h"
+
+#include <QObject>
+#include <QPointer>
+
+class ChangePasswordDialog;
+class GPMAppCore;
+class ProgressDialog;
+class QWidget;
+class Theme;
+
+/// Changes the master password of the open safe for the user: asks for it, shows how far the change
+/// is and says how it has ended.
+class PasswordChangeDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    PasswordChangeDesk(GPMAppCore &core, const Theme &theme, QObject *parent = nullptr);
+
+    /// @param window what the windows are shown above, and their owner
+    void open(QWidget *window);
+
+private:
+    void start(const QString &newPassword, const QString &hint);
+    void tellEnd(PasswordChangeOutcome outcome);
+
+    GPMAppCore &m_core;
+    const Theme &m_theme;
+    QPointer<QWidget> m_window;
+    QPointer<ChangePasswordDialog> m_dialog;
+    QPointer<ProgressDialog> m_progress;
+    bool m_cancelled = false;
+};

@@ -1,0 +1,218 @@
+#include "UiTesting.h"
+#include "dialogs/ChangePasswordRules.h"
+#include "dialogs/PasswordChangeDesk.h"
+#include "style/Theme.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+
+using namespace ChangePasswordRules;
+
+Q_DECLARE_METATYPE(ChangePasswordRules::Input)
+
+namespace {
+
+const int items = 12;
+const QString nextPassword = QStringLiteral("walnut 7 harbour");
+
+/// The window as a user meets it, above an open safe.
+struct Desk
+{
+    Desk()
+    {
+        if (!test.createSafe())
+            qFatal("No safe to test with");
+        for (int i = 0; i < items; ++i)
+            test.addLogin(QString::number(i));
+        window.show();
+        // A window that becomes active later would take the keyboard.
+        const bool ready = QTest::qWaitForWindowActive(&window);
+        desk.open(&window);
+        QApplication::setActiveWindow(dialog());
+        if (!ready || QApplication::activeWindow() != dialog())
+            qFatal("The window does not come up");
+    }
+
+    QWidget *shown(const char *name) const
+    {
+        for (QWidget *top : QApplication::topLevelWidgets()) {
+            if (top->isVisible() && top->objectName() == QLatin1String(name))
+                return top;
+        }
+        return nullptr;
+    }
+    QWidget *dialog() const { return shown("changePasswordDialog"); }
+    void type(const char *field, const QString &text) const
+    {
+        auto *line = find<QLineEdit>(*dialog(), field);
+        line->clear();
+        QTest::keyClicks(line, text);
+    }
+    void fill(const QString &old) const
+    {
+        type("oldPassword", old);
+        type("newPassword", nextPassword);
+        type("confirmPassword", nextPassword);
+        type("passwordHint", QStringLiteral("a new hint"));
+    }
+    void confirm() const { find<QPushButton>(*dialog(), "changeButton")->click(); }
+    QString end() const
+    {
+        const QWidget *progress = shown("progressDialog");
+        const bool ended = progress && QTest::qWaitFor([progress] {
+                               return !find<QProgressBar>(*progress, "progressBar")->isVisible();
+                           });
+        return ended ? find<QLabel>(*progress, "progressText")->text() : QString();
+    }
+    /// Whether a password opens the safe after everything was forgotten.
+    bool opens(const QString &password)
+    {
+        GPMSafe safe;
+        return safe.open(test.core.currentSafe()->folder()) && safe.unlock(password) &&
+               safe.unreadableFiles().isEmpty() && safe.itemCount() == items;
+    }
+
+    TestCore test;
+    Theme theme;
+    QWidget window;
+    PasswordChangeDesk desk{test.core, theme};
+};
+
+} // namespace
+
+class TestChangePassword : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void messages_data();
+    void messages();
+    void aWrongOldPasswordIsAskedForAgain();
+    void theNewPasswordOpensTheSafe();
+    void cancelledOrLocked_data();
+    void cancelledOrLocked();
+    void aLockClosesAndForgets();
+};
+
+void TestChangePassword::messages_data()
+{
+    QTest::addColumn<Input>("entered");
+    QTest::addColumn<int>("field");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("fault"); ///< the first field that stands against it
+    const auto row = [](const char *tag, const Input &entered, Field field, const char *text,
+                        Field fault) {
+        QTest::newRow(tag) << entered << int(field) << QString::fromLatin1(text) << int(fault);
+    };
+    const auto input = [](const char *old, const char *next, const char *confirm, const char *hint,
+                          bool refused = false) {
+        return Input{QLatin1String(old), QLatin1String(next), QLatin1String(confirm),
+                     QLatin1String(hint), refused};
+    };
+    row("no old", input("", "b", "b", "h"), Old, "Old password can not be empty", Old);
+    row("old refused", input("a", "b", "b", "h", true), Old, "Old password is invalid. Try again",
+        Old);
+    row("old", input("a", "", "", ""), Old, "", New);
+    row("no new", input("a", "", "", "h"), New, "New password can not be empty", New);
+    row("same", input("abc", "abc", "abc", "h"), New,
+        "New password can not be the same as the old password", New);
+    row("other case", input("Abc", "abc", "abc", "h"), New, "Weak", FieldCount);
+    row("strong", input("a", "tr0ub4dor&3 horse Battery", "", "h"), New, "Strong", Confirm);
+    row("no confirmation", input("a", "b", "", "h"), Confirm, "Confirm password can not be empty",
+        Confirm);
+    row("no match", input("a", "Abc", "abc", "h"), Confirm, "Password does not match", Confirm);
+    row("no hint", input("a", "b", "b", ""), Hint, "Hint can not be empty", Hint);
+    row("old before all", input("a", "a", "c", "", true), Hint, "Hint can not be empty", Old);
+}
+
+void TestChangePassword::messages()
+{
+    QFETCH(Input, entered);
+    QFETCH(int, field);
+    QTEST(message(entered, Field(field)).text, "text");
+    QTEST(int(firstFault(entered)), "fault");
+}
+
+void TestChangePassword::aWrongOldPasswordIsAskedForAgain()
+{
+    Desk test;
+    test.fill(QStringLiteral("not it"));
+    test.confirm();
+    const auto *told = find<QLabel>(*test.dialog(), "oldPasswordMessage");
+    QCOMPARE(told->text(), QStringLiteral("Old password is invalid. Try again"));
+    QVERIFY(find<QLineEdit>(*test.dialog(), "oldPassword")->hasFocus());
+    QVERIFY(!test.test.core.currentSafe()->isChangingPassword());
+    // Typing anew takes the word back.
+    test.type("oldPassword", testPassword);
+    QVERIFY(told->text().isEmpty());
+    test.confirm();
+    QVERIFY(test.end().contains(QStringLiteral("new password")));
+}
+
+void TestChangePassword::theNewPasswordOpensTheSafe()
+{
+    Desk test;
+    auto *old = find<QLineEdit>(*test.dialog(), "oldPassword");
+    QVERIFY(old->hasFocus());
+    // By the keyboard alone.
+    test.type("oldPassword", testPassword);
+    QTest::keyClick(old, Qt::Key_Return);
+    test.fill(testPassword);
+    QTest::keyClick(find<QLineEdit>(*test.dialog(), "passwordHint"), Qt::Key_Return);
+    QVERIFY(test.end().contains(QStringLiteral("new password")));
+    const std::shared_ptr<GPMSafe> safe = test.test.core.currentSafe();
+    QCOMPARE(safe->hint(), QStringLiteral("a new hint"));
+    test.test.core.lockCurrentSafe();
+    QVERIFY(!safe->unlock(testPassword));
+    QVERIFY(safe->unlock(nextPassword));
+    QVERIFY(test.opens(nextPassword));
+}
+
+void TestChangePassword::cancelledOrLocked_data()
+{
+    QTest::addColumn<bool>("lock");
+    QTest::newRow("cancelled") << false;
+    QTest::newRow("locked") << true;
+}
+
+void TestChangePassword::cancelledOrLocked()
+{
+    QFETCH(bool, lock);
+    Desk test;
+    test.fill(testPassword);
+    test.confirm();
+    QVERIFY(test.test.core.currentSafe()->isChangingPassword());
+    // Nothing has been written behind the first turn of the event loop.
+    if (lock)
+        test.test.core.lockCurrentSafe();
+    else
+        find<QPushButton>(*test.shown("progressDialog"), "closeButton")->click();
+    QVERIFY(test.end().contains(lock ? QStringLiteral("was locked")
+                                     : QStringLiteral("was not changed")));
+    test.test.core.lockCurrentSafe();
+    QVERIFY(test.opens(testPassword));
+    QVERIFY(!test.opens(nextPassword));
+}
+
+void TestChangePassword::aLockClosesAndForgets()
+{
+    Desk test;
+    test.fill(testPassword);
+    QPointer<QWidget> dialog = test.dialog();
+    QList<QLineEdit *> fields = dialog->findChildren<QLineEdit *>();
+    test.test.core.lockCurrentSafe();
+    QVERIFY(!test.dialog());
+    for (const QLineEdit *field : qAsConst(fields))
+        QVERIFY(field->text() != testPassword && field->text() != nextPassword);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!dialog);
+    // And does not come up without an open safe.
+    test.desk.open(&test.window);
+    QVERIFY(!test.dialog());
+}
+
+QTEST_MAIN(TestChangePassword)
+
+#include "tst_changepassword.moc"
