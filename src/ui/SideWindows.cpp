@@ -102,8 +102,12 @@ QWidget *SideWindows::makePasswordRow(QWidget *parent)
     change->setObjectName(QStringLiteral("changePasswordButton"));
     auto *line = new QHBoxLayout(row);
     line->setContentsMargins({});
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    texts->addWidget(makeLabel(tr("Master password"), "plain", row));
+    texts->addWidget(makeLabel(tr("The one that opens this safe."), "muted", row));
+    line->addLayout(texts, 1);
     line->addWidget(change);
-    line->addStretch();
     const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
     change->setEnabled(safe && safe->isUnlocked());
     connect(&m_core, &GPMAppCore::safeLockedChanged, change, &QWidget::setDisabled);

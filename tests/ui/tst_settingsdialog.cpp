@@ -172,7 +172,7 @@ void TestSettingsDialog::everySettingIsTested()
     for (const char *id :
          {"autolock_inactive", "inactivity_interval", "autolock_screensaver", "clear_clipboard",
           "login_mode", "plugin_login_mode", "plugin_open_mode", "enable_backup", "backup_interval",
-          "backup_state", "backup_count", "lock_hotkey", "plugin_hotkey"})
+          "backup_state", "backup_count", "lock_hotkey", "plugin_hotkey", "master_password"})
         tested.append(QLatin1String(id));
     Program program;
     QStringList shown;

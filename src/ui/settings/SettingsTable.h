@@ -26,7 +26,7 @@ public:
         /// How backups stand, with what can be done about them.
         std::function<QWidget *(QWidget *parent)> makeBackupRow;
         /// The way to another master password.
-        std::function<QWidget *(QWidget *parent)> makePasswordRow;
+        std::function<QWidget *(QWidget *parent)> makePasswordRow = {};
     };
 
     explicit SettingsTable(const Parts &parts);
