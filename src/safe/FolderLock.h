@@ -19,5 +19,8 @@ public:
     bool isHeldByAnother() const { return m_file.error() == QLockFile::LockFailedError; }
 
 private:
+    void removeUnnamed();
+
+    QString m_path;
     QLockFile m_file;
 };

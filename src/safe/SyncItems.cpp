@@ -98,12 +98,18 @@ bool SyncItems::makeCopy(const SyncVersions::Item &item, const SyncActions::Copy
     if (!hash.isEmpty() && !copySynced(m_work.files(), item.attachments.value(hash),
                                        safe.attachmentPath(name), hash, m_work.control))
         return m_work.fail(SyncSide::Local, safe.attachmentPath(name));
-    const QMutexLocker locker(m_work.safe.mutex.get());
-    if (!writeItemFile(m_work.safe.environment, safe.contentPath(name), m_work.password(),
-                       document))
-        return m_work.fail(SyncSide::Local, safe.contentPath(name));
+    const QString path = safe.contentPath(name);
+    {
+        const QMutexLocker locker(m_work.safe.mutex.get());
+        if (!writeItemFile(m_work.safe.environment, path, m_work.password(), document))
+            return m_work.fail(SyncSide::Local, path);
+    }
     m_work.result.taken.append({name, document});
     ++m_work.result.copies;
+    // Also to the mirror before anything is replaced: this computer may not come back.
+    const QString fileHash = hashOfFile(m_work.files(), path, m_work.control);
+    if (!m_mirror.commitNewOrChanged({name, fileHash, hash}, m_work.control))
+        return m_work.fail(SyncSide::Mirror);
     return true;
 }
 

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <random>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -80,6 +81,14 @@ struct Computer
     }
 };
 
+void makeOld(const QString &path)
+{
+    namespace fs = std::filesystem;
+    std::error_code none;
+    fs::last_write_time(path.toStdString(),
+                        fs::file_time_type::clock::now() - std::chrono::hours(1), none);
+}
+
 void copyFolder(const QString &from, const QString &to)
 {
     const QMap<QString, QByteArray> files = snapshot(from);
@@ -102,6 +111,8 @@ private:
     QString m_mirror;
     Computer m_one;
     Computer m_two;
+    QMap<QString, QMap<QString, QByteArray>> m_before; ///< files of the sides before a round
+    QString m_gone;                                    ///< id of an item that goes in it
 
     QString add(Computer &computer, const QString &title)
     {
@@ -152,6 +163,39 @@ private:
             QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
             QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Done);
         }
+    }
+
+    /// A round with something of every kind to do, and its sides as they are before it.
+    void makeWork()
+    {
+        const QString changed = add(m_one, QStringLiteral("changed"));
+        m_gone = add(m_one, QStringLiteral("gone"));
+        attach(m_one, "some bytes");
+        meet();
+        rename(m_two, changed, QStringLiteral("theirs"));
+        add(m_two, QStringLiteral("new"));
+        remove(m_two, m_gone);
+        QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Done);
+        m_one.time += day;
+        rename(m_one, changed, QStringLiteral("mine"));
+        attach(m_one, "other bytes");
+        m_one.work([](GPMSafe &safe) { QVERIFY(safe.changePassword(samplePassword)); });
+        m_before.clear();
+        for (const QString &side : {m_one.folder, m_two.folder, m_mirror})
+            m_before.insert(side, snapshot(side));
+        m_one.files->operations = 0;
+    }
+
+    void putWorkBack()
+    {
+        for (auto side = m_before.begin(); side != m_before.end(); ++side) {
+            QDir(side.key()).removeRecursively();
+            for (const char *inner : {"content", "attachment", "favicon"})
+                QDir().mkpath(side.key() + QLatin1Char('/') + QLatin1String(inner));
+            for (auto file = side->begin(); file != side->end(); ++file)
+                writeFile(side.key() + QLatin1Char('/') + file.key(), file.value());
+        }
+        m_one.files->operations = 0;
     }
 
     QString inMirror(const QString &name) const { return m_mirror + QLatin1Char('/') + name; }
@@ -565,58 +609,87 @@ private Q_SLOTS:
         }
     }
 
-    /// The disk is full, or the power fails, at every write and removal of a round with everything
-    /// in it; the next round ends well.
-    void survivesEveryFailure()
+    /// It died before it had written into the lock file who it is.
+    void takesTheLockOfADeadProcess()
     {
-        const QString changed = add(m_one, QStringLiteral("changed"));
-        const QString gone = add(m_one, QStringLiteral("gone"));
-        attach(m_one, "some bytes");
-        meet();
-        rename(m_two, changed, QStringLiteral("theirs"));
-        add(m_two, QStringLiteral("new"));
-        remove(m_two, gone);
-        QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Done);
-        m_one.time += day;
-        rename(m_one, changed, QStringLiteral("mine"));
-        attach(m_one, "other bytes");
-        m_one.work([](GPMSafe &safe) { QVERIFY(safe.changePassword(samplePassword)); });
-        const QString one = m_temporary->filePath(QStringLiteral("one before"));
-        const QString mirror = m_temporary->filePath(QStringLiteral("mirror before"));
-        QDir().mkpath(one);
-        QDir().mkpath(mirror);
-        copyFolder(m_one.folder, one);
-        QVERIFY(QFile::copy(m_one.folder + QStringLiteral("/safe.sync"),
-                            one + QStringLiteral("/safe.sync")));
-        copyFolder(m_mirror, mirror);
-        QStringList expected;
-        for (int failAt = 0;; ++failAt) {
-            QDir(m_one.folder).removeRecursively();
-            QDir(m_mirror).removeRecursively();
-            copyFolder(one, m_one.folder);
-            QFile::copy(one + QStringLiteral("/safe.sync"),
-                        m_one.folder + QStringLiteral("/safe.sync"));
-            copyFolder(mirror, m_mirror);
-            m_one.files->operations = 0;
-            m_one.files->failAt = failAt;
-            m_one.files->andAllBehind = failAt % 2 == 0;
-            const SyncState state = m_one.synchronise(m_mirror).state;
-            const bool failed = failAt > 0 && m_one.files->operations >= failAt;
-            m_one.files->failAt = 0;
-            if (failAt > 0 && !failed)
-                break;
-            QVERIFY(failed || state == SyncState::Done);
-            QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
-            QStringList items = m_one.items();
-            if (failAt == 0)
-                expected = items;
-            QCOMPARE(items, expected);
-            QVERIFY(!snapshot(m_mirror).keys().join(QLatin1Char('|')).contains(gone));
-        }
+        const QString lock = m_one.folder + QStringLiteral("/.sourcelock");
+        writeFile(lock, {});
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Busy);
+        makeOld(lock);
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+    }
+
+    void isInterrupted_data()
+    {
+        QTest::addColumn<QString>("how");
+        for (const char *how : {"one write fails", "all behind fail", "killed inside", "killed"})
+            QTest::newRow(how) << QString::fromLatin1(how);
+    }
+
+    /// The disk is full, or the process dies, at every write and removal of a round with everything
+    /// in it, on either side, or at any moment; the next rounds make both sides equal.
+    void isInterrupted()
+    {
+        QFETCH(const QString, how);
+        makeWork();
+        QVERIFY(m_one.synchronise(m_mirror).state == SyncState::Done);
+        const int operations = m_one.files->operations;
+        const QStringList expected = m_one.items();
         QCOMPARE(expected.filter(QStringLiteral("theirs (")).size(), 1);
         QCOMPARE(expected.size(), 5);
+        std::mt19937 random(1);
+        for (int at = 1; at <= operations; ++at) {
+            putWorkBack();
+            if (how.startsWith(QLatin1String("killed"))) {
+                QProcess child;
+                const bool inside = how == QLatin1String("killed inside");
+                child.start(QCoreApplication::applicationFilePath(),
+                            {QStringLiteral("--round"), m_one.folder, m_mirror,
+                             QString::number(m_one.time), QString::number(inside ? at : 0)});
+                QVERIFY(child.waitForStarted());
+                if (!inside && !child.waitForFinished(static_cast<int>(random() % 150)))
+                    child.kill();
+                QVERIFY(child.state() == QProcess::NotRunning || child.waitForFinished());
+                QVERIFY(!inside || child.exitCode() == 9);
+                // The computer is started again some time later.
+                makeOld(m_one.folder + QStringLiteral("/.sourcelock"));
+            } else {
+                m_one.files->failAt = at;
+                m_one.files->andAllBehind = how.startsWith(QLatin1String("all"));
+                QVERIFY(m_one.synchronise(m_mirror).state != SyncState::Done ||
+                        !m_one.files->andAllBehind);
+                QVERIFY(m_one.files->operations >= at);
+                m_one.files->failAt = 0;
+            }
+            const SyncState next = m_one.synchronise(m_mirror).state;
+            QVERIFY2(next == SyncState::Done, QByteArray::number(static_cast<int>(next)));
+            QCOMPARE(m_one.items(), expected);
+            QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Done);
+            QCOMPARE(m_two.items(), expected);
+            QVERIFY(!snapshot(m_mirror).keys().join(QLatin1Char('|')).contains(m_gone));
+        }
     }
 };
 
-QTEST_GUILESS_MAIN(TestSyncRound)
+/// A process that makes one round and dies inside the given operation, or does not.
+static int makeRound(const QStringList &arguments)
+{
+    Computer computer{arguments.value(2)};
+    computer.time = arguments.value(4).toLongLong();
+    computer.files->failAt = arguments.value(5).toInt();
+    computer.files->fault = [] { _exit(9); };
+    computer.synchronise(arguments.value(3));
+    return 0;
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--round"))
+        return makeRound(arguments);
+    TestSyncRound test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_syncround.moc"
