@@ -213,6 +213,14 @@ void GPMAppCore::lockBecause(LockReason reason)
     m_privateFiles.wipe();
 }
 
+void GPMAppCore::giveUpChanges()
+{
+    if (!m_safe || !m_safe->isUnlocked())
+        return;
+    m_safe->giveUpChanges();
+    Q_EMIT changesGivenUp();
+}
+
 void GPMAppCore::prepareForSessionEnd()
 {
     Q_EMIT requestKeepDraft();

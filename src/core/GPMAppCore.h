@@ -99,6 +99,9 @@ public:
     /// Whether something changed is not on the disk, as after a save that failed.
     bool hasUnsavedChanges() const;
 
+    /// Loses what is not saved when the safe locks next, as the user has decided.
+    void giveUpChanges();
+
     /// The items in the trash.
     QStringList trashedIds() const;
     /// The attachments that go with items when these are deleted for good: those that no other item
@@ -170,6 +173,8 @@ Q_SIGNALS:
     void requestLock();
     /// What is being edited is to be kept now.
     void requestKeepDraft();
+    /// What is not saved is to be lost, and so is what was kept of it.
+    void changesGivenUp();
     /// The main window is to come to the front; the address is that of the browser's page, if any.
     void requestShowMainWindow(const QString &url);
     /// Something that the user has to know.

@@ -199,10 +199,12 @@ void GPMSafe::lock()
     if (!isUnlocked())
         return;
     settle();
-    const SaveJob::Result result = m_saving.saveNow();
-    m_saving.keepUnsaved(m_drafts);
-    if (!result.good())
-        Q_EMIT saved(false, result.failedPaths);
+    if (!std::exchange(m_givesUp, false)) {
+        const SaveJob::Result result = m_saving.saveNow();
+        m_saving.keepUnsaved(m_drafts);
+        if (!result.good())
+            Q_EMIT saved(false, result.failedPaths);
+    }
     m_drafts.close();
     m_state.password.reset();
     m_state.unreadableFiles.clear();

@@ -53,6 +53,8 @@ public:
     /// Saves what is changed, then forgets password and items. What cannot be written is kept as a
     /// draft, and saved() tells.
     void lock();
+    /// The next lock neither saves nor keeps what is changed.
+    void giveUpChanges() { m_givesUp = true; }
 
     /// Writes every changed item. False when one could not be written: it stays marked as changed,
     /// the others are written.
@@ -175,6 +177,7 @@ private:
     void settle();
 
     SafeState m_state;
+    bool m_givesUp = false;
     std::unique_ptr<SafeUnlock> m_unlock;
     SafeSaving m_saving;
     SafeAttachments m_attachments;

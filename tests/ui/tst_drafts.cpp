@@ -417,6 +417,29 @@ private Q_SLOTS:
         QCOMPARE(desk.test.login(id)->login(), QStringLiteral("bea"));
     }
 
+    void whatTheUserGaveUpIsNotKept()
+    {
+        Desk desk;
+        const QString other = desk.test.addLogin(QStringLiteral("Other"));
+        const QString id = desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        QTRY_COMPARE(desk.files().size(), 1);
+        desk.takeAway([&] {
+            desk.saveInVain();
+            desk.test.login(other)->setNote(QStringLiteral("changed"));
+            desk.test.core.giveUpChanges();
+            desk.lock();
+        });
+        QCOMPARE(desk.files(), QStringList());
+        desk.unlock();
+        QCOMPARE(desk.offer(), QString());
+        QVERIFY(desk.test.login(id)->login() != QStringLiteral("bea"));
+        // It was about that one lock.
+        desk.test.login(other)->setNote(QStringLiteral("changed again"));
+        desk.lock();
+        desk.unlock();
+        QCOMPARE(desk.test.login(other)->note(), QStringLiteral("changed again"));
+    }
+
     void aDraftOutlivesALockWithoutASave()
     {
         Desk desk;

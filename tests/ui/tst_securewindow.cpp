@@ -302,6 +302,7 @@ void TestSecureWindow::failedSaveAsks()
     QCOMPARE(test.core.currentSafe()->isUnlocked(), !locked);
     QCOMPARE(quit.count(), ends && locked ? 1 : 0);
     QVERIFY(!shown.window.isLosingChanges());
+    QVERIFY(!QDir(test.folder.filePath(QStringLiteral("data/drafts"))).exists() || !locked);
     putFolderBack(test);
 }
 

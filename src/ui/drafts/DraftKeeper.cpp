@@ -25,6 +25,7 @@ DraftKeeper::DraftKeeper(GPMAppCore &core, ItemPane &pane, QObject *parent)
     connect(&pane, &ItemPane::saved, this, &DraftKeeper::onSaved);
     connect(&pane, &ItemPane::editEnded, this, &DraftKeeper::onEnded);
     connect(&core, &GPMAppCore::requestKeepDraft, this, &DraftKeeper::onKeepRequested);
+    connect(&core, &GPMAppCore::changesGivenUp, this, &DraftKeeper::removeSaved);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &DraftKeeper::followSafe);
     // What was not written by then is offered again; a later save tells nothing of it.
     connect(&core, &GPMAppCore::safeLockedChanged, this, [this] { m_savedKeys.clear(); });
@@ -68,8 +69,12 @@ void DraftKeeper::onSaved()
 void DraftKeeper::onWritten()
 {
     // A disk that was full when the item was saved must not cost the draft as well.
-    if (m_savedKeys.isEmpty() || m_core.hasUnsavedChanges())
-        return;
+    if (!m_savedKeys.isEmpty() && !m_core.hasUnsavedChanges())
+        removeSaved();
+}
+
+void DraftKeeper::removeSaved()
+{
     const QStringList keys = std::exchange(m_savedKeys, {});
     for (const QString &key : keys)
         m_core.currentSafe()->drafts().remove(key);

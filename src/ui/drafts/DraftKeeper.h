@@ -31,6 +31,7 @@ private:
     void onEnded();
     void onSaved();
     void onWritten();
+    void removeSaved();
     void keepLater();
     bool keepNow();
     void onKeepRequested();

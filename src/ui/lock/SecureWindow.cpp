@@ -221,6 +221,8 @@ void SecureWindow::leaveSafe(void (GPMAppCore::*way)())
     if (answer == SaveAnswer::Cancel)
         return;
     const QScopedValueRollback<bool> losing(m_losingChanges, answer == SaveAnswer::Lose);
+    if (m_losingChanges)
+        m_core.giveUpChanges();
     (m_core.*way)();
 }
 
