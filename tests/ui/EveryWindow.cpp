@@ -222,7 +222,11 @@ Show search(const char *words)
 {
     return [words](Stage &stage) {
         find<QLineEdit>(*stage.main, "searchField")->setText(QLatin1String(words));
-        return stage.main;
+        // What was shown of the selection goes a moment after the list.
+        const auto *pane = stage.main->findChild<ItemPane *>();
+        const bool follows =
+            QTest::qWaitFor([pane] { return pane->isVisible() && pane->shownId().isEmpty(); });
+        return follows ? stage.main : nullptr;
     };
 }
 

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void menuOffersWhatApplies();
     void dropsOnTheSidebar();
     void duplicates();
+    void sidebarFoldsInANarrowWindow();
     void shortcutsAreOnesOwn();
     void copyKeyCopiesWhatIsAskedFor_data();
     void copyKeyCopiesWhatIsAskedFor();
@@ -857,6 +858,33 @@ void TestMainView::duplicates()
     QCOMPARE(copy->useCount(), 0);
     QVERIFY(copy->refs().isEmpty());
     QVERIFY(copy->id() != shop->id());
+}
+
+void TestMainView::sidebarFoldsInANarrowWindow()
+{
+    View shown;
+    shown.test.addLogin(QStringLiteral("Shop"));
+    const auto *sidebar = shown.field<QWidget>("sidebar");
+    const int wide = sidebar->width();
+    shown.view.resize(shown.view.minimumSizeHint());
+    QTRY_VERIFY(sidebar->width() < wide / 3);
+    QVERIFY(shown.view.width() < 1366 / 1.5);
+    // Words are gone from the screen, not from what is told.
+    const auto *categories = shown.field<QListView>("categoryList");
+    QTRY_VERIFY(categories->model()
+                    ->index(0, 0)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .contains(QStringLiteral("1 item")));
+    const auto *switcher = shown.field<QPushButton>("safeSwitcher");
+    QVERIFY(switcher->toolTip().startsWith(shown.test.core.currentSafe()->name()));
+    QVERIFY(switcher->accessibleName().contains(shown.test.core.currentSafe()->name()));
+    for (const char *name : {"lockButton", "menuButton", "settingsButton"}) {
+        const auto *button = shown.field<QWidget>(name);
+        QVERIFY2(sidebar->rect().contains(button->geometry()), name);
+    }
+    shown.view.resize(1000, 680);
+    QTRY_COMPARE(sidebar->width(), wide);
 }
 
 void TestMainView::shortcutsAreOnesOwn()

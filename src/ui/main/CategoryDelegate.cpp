@@ -62,19 +62,28 @@ void CategoryDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
 
     const QColor text = palette.color(selected ? Palette::White : Palette::SidebarText);
     const int side = Style::iconSize;
-    paintSvg(*painter, QRectF(row.left() + 10, row.center().y() - side / 2.0 + 0.5, side, side),
+    const int left = m_folded ? (row.width() - side) / 2 : 10;
+    paintSvg(*painter, QRectF(row.left() + left, row.center().y() - side / 2.0 + 0.5, side, side),
              index.data(CategoryModel::IconNameRole).toString(), text);
-    QFont font = option.font;
+    if (!m_folded)
+        paintTexts(*painter, row, option.font, index, selected);
+    painter->restore();
+}
+
+void CategoryDelegate::paintTexts(QPainter &painter, const QRect &row, QFont font,
+                                  const QModelIndex &index, bool selected) const
+{
+    const Palette &palette = m_theme.palette();
+    const QColor text = palette.color(selected ? Palette::White : Palette::SidebarText);
     font.setPixelSize(Style::textSize);
     font.setWeight(selected ? QFont::DemiBold : QFont::Normal);
-    painter->setFont(font);
-    painter->setPen(text);
-    painter->drawText(row.adjusted(19 + side, 0, -Style::scaled(44), 0),
-                      Qt::AlignVCenter | Qt::AlignLeft, index.data().toString());
+    painter.setFont(font);
+    painter.setPen(text);
+    painter.drawText(row.adjusted(19 + Style::iconSize, 0, -Style::scaled(44), 0),
+                     Qt::AlignVCenter | Qt::AlignLeft, index.data().toString());
     font.setPixelSize(Style::scaled(11));
-    painter->setFont(font);
-    painter->setPen(selected ? text : palette.color(Palette::SidebarMuted));
-    painter->drawText(row.adjusted(0, 0, -10, 0), Qt::AlignVCenter | Qt::AlignRight,
-                      index.data(CategoryModel::CountRole).toString());
-    painter->restore();
+    painter.setFont(font);
+    painter.setPen(selected ? text : palette.color(Palette::SidebarMuted));
+    painter.drawText(row.adjusted(0, 0, -10, 0), Qt::AlignVCenter | Qt::AlignRight,
+                     index.data(CategoryModel::CountRole).toString());
 }

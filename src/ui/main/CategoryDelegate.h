@@ -17,8 +17,15 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
+    /// Paints icons without words.
+    void setFolded(bool folded) { m_folded = folded; }
+
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
+    void paintTexts(QPainter &painter, const QRect &row, QFont font, const QModelIndex &index,
+                    bool selected) const;
+
     const Theme &m_theme;
+    bool m_folded = false;
 };

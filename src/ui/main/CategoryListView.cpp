@@ -15,13 +15,20 @@ CategoryListView::CategoryListView(CategoryModel &model, const Theme &theme, QWi
     : QListView(parent)
     , m_model(model)
     , m_theme(theme)
+    , m_delegate(new CategoryDelegate(theme, this))
 {
     setModel(&model);
-    setItemDelegate(new CategoryDelegate(theme, this));
+    setItemDelegate(m_delegate);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setMouseTracking(true);
     setDragDropMode(DropOnly);
+}
+
+void CategoryListView::setFolded(bool folded)
+{
+    m_delegate->setFolded(folded);
+    viewport()->update();
 }
 
 QModelIndex CategoryListView::targetOf(const QDropEvent &event) const

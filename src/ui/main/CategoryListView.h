@@ -5,6 +5,7 @@
 #include <QListView>
 #include <QPersistentModelIndex>
 
+class CategoryDelegate;
 class CategoryModel;
 class Theme;
 
@@ -15,6 +16,9 @@ class CategoryListView : public QListView
 
 public:
     CategoryListView(CategoryModel &model, const Theme &theme, QWidget *parent);
+
+    /// Shows icons alone.
+    void setFolded(bool folded);
 
 Q_SIGNALS:
     void itemsDropped(const ItemCategory &category, const QStringList &ids);
@@ -35,5 +39,6 @@ private:
 
     CategoryModel &m_model;
     const Theme &m_theme;
+    CategoryDelegate *m_delegate;
     QPersistentModelIndex m_target; ///< what items are being dragged over
 };

@@ -65,6 +65,7 @@ QVariant CategoryModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return categoryName(shown);
     case Qt::AccessibleTextRole:
+    case Qt::ToolTipRole: // all that is left of the words in a folded sidebar
         return tr("%1, %2").arg(categoryName(shown), itemCountText(count(shown)));
     case CountRole:
         return count(shown);

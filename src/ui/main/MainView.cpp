@@ -106,6 +106,8 @@ void MainView::layOut()
     all->setSpacing(0);
     all->addWidget(m_sidebar);
     all->addLayout(right, 1);
+    // The sidebar gives way, which the layout does not know.
+    all->setSizeConstraint(QLayout::SetNoConstraint);
 }
 
 void MainView::connectParts()
@@ -252,6 +254,19 @@ void MainView::createItem(PMListItem::Type type)
 void MainView::setSetUpDone(bool done)
 {
     m_sidebar->setSetUpDone(done);
+}
+
+QSize MainView::minimumSizeHint() const
+{
+    const QSize size = SecureContent::minimumSizeHint();
+    return {Sidebar::foldedWidth() + m_splitter->minimumSizeHint().width(), size.height()};
+}
+
+void MainView::resizeEvent(QResizeEvent *event)
+{
+    // Its words are the first to go where all of them do not fit.
+    m_sidebar->setFolded(width() < Sidebar::fullWidth() + m_splitter->minimumSizeHint().width());
+    SecureContent::resizeEvent(event);
 }
 
 QByteArray MainView::splitterState() const

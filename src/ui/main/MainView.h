@@ -47,6 +47,7 @@ public:
     void leaveRoom(const QSize &buttons) override;
     QVariantMap place() const override;
     void goTo(const QVariantMap &place) override;
+    QSize minimumSizeHint() const override;
     QByteArray splitterState() const override;
     void restoreSplitter(const QByteArray &state) override;
 
@@ -77,6 +78,9 @@ Q_SIGNALS:
     void helpRequested();
     void setUpRequested();
     void exitRequested();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void layOut();

@@ -22,15 +22,14 @@ SafeSwitcher::SafeSwitcher(const Theme &theme, QWidget *parent)
     setObjectName(QStringLiteral("safeSwitcher"));
     setProperty("look", QStringLiteral("switcher"));
     setCursor(Qt::PointingHandCursor);
-    setToolTip(tr("Switch to another safe"));
     setFixedHeight(Style::scaled(switcherHeight));
 
     auto *crystal = new QSvgWidget(QStringLiteral(":/crystal.svg"), this);
     crystal->setFixedSize(34, 34);
-    auto *arrow = new QLabel(this);
-    const auto showArrow = [this, arrow] {
-        arrow->setPixmap(m_theme.icon(QStringLiteral("selector"), Palette::SidebarMuted)
-                             .pixmap(arrow->window()->windowHandle(), QSize(16, 16)));
+    m_arrow = new QLabel(this);
+    const auto showArrow = [this] {
+        m_arrow->setPixmap(m_theme.icon(QStringLiteral("selector"), Palette::SidebarMuted)
+                               .pixmap(m_arrow->window()->windowHandle(), QSize(16, 16)));
     };
     showArrow();
     connect(&theme, &Theme::changed, this, showArrow);
@@ -40,16 +39,15 @@ SafeSwitcher::SafeSwitcher(const Theme &theme, QWidget *parent)
     names->addWidget(m_name);
     names->addWidget(m_state);
     names->addStretch();
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 0, 6, 0);
-    row->setSpacing(9);
-    row->addWidget(crystal);
-    row->addLayout(names, 1);
-    row->addWidget(arrow);
+    m_row = new QHBoxLayout(this);
+    m_row->setSpacing(9);
+    m_row->addWidget(crystal);
+    m_row->addLayout(names);
+    m_row->addWidget(m_arrow);
     const QList<QWidget *> inner = findChildren<QWidget *>();
     for (QWidget *widget : inner)
         widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-    describe();
+    setFolded(false);
 }
 
 void SafeSwitcher::setSafe(const QString &name)
@@ -64,8 +62,25 @@ void SafeSwitcher::setState(const QString &state)
     describe();
 }
 
+void SafeSwitcher::setFolded(bool folded)
+{
+    m_folded = folded;
+    for (QWidget *part : {static_cast<QWidget *>(m_name), static_cast<QWidget *>(m_state),
+                          static_cast<QWidget *>(m_arrow)})
+        part->setVisible(!folded);
+    m_row->setContentsMargins(folded ? 0 : 6, 0, folded ? 0 : 6, 0);
+    // The crystal, in the middle when it is alone.
+    m_row->setStretch(0, folded ? 1 : 0);
+    m_row->setStretch(1, folded ? 0 : 1);
+    m_row->setAlignment(m_row->itemAt(0)->widget(), Qt::AlignCenter);
+    describe();
+}
+
 void SafeSwitcher::describe()
 {
+    // Its words are nowhere else where there is no place for them.
+    setToolTip(m_folded ? m_name->fullText() + QLatin1Char('\n') + m_state->fullText()
+                        : tr("Switch to another safe"));
     setAccessibleName(tr("Safe: %1").arg(m_name->fullText()));
     setAccessibleDescription(m_state->fullText());
 }

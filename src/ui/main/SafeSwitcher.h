@@ -3,6 +3,8 @@
 #include <QPushButton>
 
 class ElidedLabel;
+class QHBoxLayout;
+class QLabel;
 class Theme;
 
 /// Shows which safe is open; what can be done with it is in the menu that it gets.
@@ -16,10 +18,16 @@ public:
     void setSafe(const QString &name);
     void setState(const QString &state);
 
+    /// Shows the crystal alone.
+    void setFolded(bool folded);
+
 private:
     void describe();
 
     const Theme &m_theme;
     ElidedLabel *m_name;
     ElidedLabel *m_state;
+    QLabel *m_arrow;
+    QHBoxLayout *m_row;
+    bool m_folded = false;
 };

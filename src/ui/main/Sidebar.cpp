@@ -15,6 +15,7 @@
 namespace {
 
 const int sidebarWidth = 216;
+const int foldedSidebarWidth = 56;
 
 } // namespace
 
@@ -26,10 +27,8 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
 {
     setObjectName(QStringLiteral("sidebar"));
     setAttribute(Qt::WA_StyledBackground);
-    setFixedWidth(qMax(sidebarWidth, Style::scaled(sidebarWidth)));
-    auto *head = new QHBoxLayout;
-    head->setContentsMargins(10, 8, 10, 6);
-    head->addWidget(m_switcher);
+    m_head = new QHBoxLayout;
+    m_head->addWidget(m_switcher);
 
     m_list->setObjectName(QStringLiteral("categoryList"));
     m_list->setAccessibleName(tr("Categories"));
@@ -42,10 +41,32 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins({});
     all->setSpacing(0);
-    all->addLayout(head);
+    all->addLayout(m_head);
     all->addWidget(m_list, 1);
-    all->addLayout(makeFoot(theme));
+    m_foot = makeFoot(theme);
+    all->addLayout(m_foot);
     setTabOrder(m_switcher, m_list);
+    setFolded(false);
+}
+
+int Sidebar::fullWidth()
+{
+    return qMax(sidebarWidth, Style::scaled(sidebarWidth));
+}
+
+int Sidebar::foldedWidth()
+{
+    return qMax(foldedSidebarWidth, Style::scaled(foldedSidebarWidth));
+}
+
+void Sidebar::setFolded(bool folded)
+{
+    setFixedWidth(folded ? foldedWidth() : fullWidth());
+    m_head->setContentsMargins(10, 8, 10, 6);
+    m_foot->setDirection(folded ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_foot->setContentsMargins(folded ? 10 : 14, 4, folded ? 10 : 14, 12);
+    m_switcher->setFolded(folded);
+    m_list->setFolded(folded);
 }
 
 QBoxLayout *Sidebar::makeFoot(const Theme &theme)
@@ -65,7 +86,6 @@ QBoxLayout *Sidebar::makeFoot(const Theme &theme)
         {"settingsButton", "settings", tr("Settings"), "Ctrl+,", &Sidebar::settingsRequested},
     };
     auto *foot = new QHBoxLayout;
-    foot->setContentsMargins(14, 4, 14, 12);
     foot->setSpacing(0);
     for (const Button &button : buttons) {
         auto *tool = makeIconButton(theme.icon(QLatin1String(button.icon), Palette::SidebarText),
@@ -76,10 +96,10 @@ QBoxLayout *Sidebar::makeFoot(const Theme &theme)
                 button.text,
                 QKeySequence(QLatin1String(button.keys)).toString(QKeySequence::NativeText)));
         connect(tool, &QToolButton::clicked, this, button.signal);
-        foot->addWidget(tool);
+        foot->addWidget(tool, 0, Qt::AlignCenter);
         foot->addStretch();
     }
-    foot->addWidget(makeMenuButton(theme));
+    foot->addWidget(makeMenuButton(theme), 0, Qt::AlignCenter);
     return foot;
 }
 

@@ -32,6 +32,11 @@ public:
     void takeFocus();
     void setSetUpDone(bool done);
 
+    /// Shows icons without words, which takes a quarter of the width.
+    void setFolded(bool folded);
+    static int fullWidth();
+    static int foldedWidth();
+
 Q_SIGNALS:
     void categoryChosen(const ItemCategory &category);
     void itemsDropped(const ItemCategory &category, const QStringList &ids);
@@ -54,6 +59,8 @@ private:
     CategoryModel *m_model;
     CategoryListView *m_list;
     SafeSwitcher *m_switcher;
+    QBoxLayout *m_head;
+    QBoxLayout *m_foot;
     QAction *m_setUp = nullptr;
     bool m_marking = false;
 };
