@@ -304,7 +304,7 @@ void TestSettingsDialog::hotkeys_data()
     QTest::newRow("space") << int(Qt::Key_Space) << none << bare;
     QTest::newRow("enter") << int(Qt::Key_Return) << none << bare;
     QTest::newRow("key of the program")
-        << int(Qt::CTRL | Qt::Key_F) << none << QStringLiteral("search");
+        << int(Qt::CTRL | Qt::Key_F) << none << QStringLiteral("Search");
     QTest::newRow("key of texts") << int(Qt::CTRL | Qt::Key_V) << none << QStringLiteral("paste");
     QTest::newRow("other hotkey") << int(Qt::CTRL | Qt::ALT | Qt::Key_B) << none
                                   << QStringLiteral("Browser plugin hotkey");

@@ -1,5 +1,7 @@
 #include "ProgramShortcuts.h"
 
+#include "main/ShortcutTable.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QShortcut>
@@ -36,28 +38,9 @@ QVector<TakenKeys> textKeys()
 
 QString nameOf(const QKeySequence &keys)
 {
-    static const struct
-    {
-        const char *keys;
-        const char *name;
-    } commands[] = {
-        {"Ctrl+F", QT_TRANSLATE_NOOP("ProgramShortcuts", "search")},
-        {"Ctrl+N", QT_TRANSLATE_NOOP("ProgramShortcuts", "new item")},
-        {"Ctrl+E", QT_TRANSLATE_NOOP("ProgramShortcuts", "edit")},
-        {"F2", QT_TRANSLATE_NOOP("ProgramShortcuts", "edit")},
-        {"Ctrl+S", QT_TRANSLATE_NOOP("ProgramShortcuts", "save")},
-        {"Ctrl+Return", QT_TRANSLATE_NOOP("ProgramShortcuts", "log in")},
-        {"Ctrl+Enter", QT_TRANSLATE_NOOP("ProgramShortcuts", "log in")},
-        {"Ctrl+B", QT_TRANSLATE_NOOP("ProgramShortcuts", "copy the user name")},
-        {"Ctrl+Shift+C", QT_TRANSLATE_NOOP("ProgramShortcuts", "copy the password")},
-        {"Ctrl+G", QT_TRANSLATE_NOOP("ProgramShortcuts", "password generator")},
-        {"Ctrl+L", QT_TRANSLATE_NOOP("ProgramShortcuts", "lock")},
-        {"Ctrl+,", QT_TRANSLATE_NOOP("ProgramShortcuts", "settings")},
-        {"Ctrl+Q", QT_TRANSLATE_NOOP("ProgramShortcuts", "exit")},
-    };
-    for (const auto &command : commands) {
-        if (keys == QKeySequence(QLatin1String(command.keys)))
-            return text(command.name);
+    for (const ShortcutRow &row : shortcutTable()) {
+        if (row.keys.contains(keys))
+            return row.text;
     }
     return text(QT_TRANSLATE_NOOP("ProgramShortcuts", "a command of this program"));
 }

@@ -5,6 +5,7 @@
 #include "style/Theme.h"
 #include "widgets/Controls.h"
 #include "widgets/ElidedLabel.h"
+#include "widgets/MessageLabel.h"
 #include "widgets/NumberBox.h"
 #include "widgets/SelectBox.h"
 #include "widgets/Toggle.h"
@@ -26,7 +27,7 @@ SettingRow::SettingRow(const Setting &setting, const Help &help, QWidget *parent
     , m_help(help)
     , m_label(makeLabel(setting.label, "plain", this))
     , m_explanation(makeLabel(setting.explanation, "muted", this))
-    , m_fault(makeLabel({}, "error", this))
+    , m_fault(new MessageLabel(this))
 {
     setObjectName(QLatin1String(setting.id) + QStringLiteral("Row"));
     QWidget *editor = makeEditor();
@@ -144,7 +145,6 @@ void SettingRow::describe()
     m_label->setWordWrap(true);
     m_label->setBuddy(m_control);
     m_explanation->setWordWrap(true);
-    m_fault->setWordWrap(true);
     m_fault->setObjectName(QLatin1String(m_setting.id) + QStringLiteral("Fault"));
     m_fault->hide();
     const QString own = m_setting.editor == Setting::Folder ? tr("%1: choose").arg(m_setting.label)
@@ -210,7 +210,7 @@ void SettingRow::apply(const QVariant &value)
 
 void SettingRow::showFault(const QString &fault)
 {
-    m_fault->setText(fault);
     m_fault->setVisible(!fault.isEmpty());
+    m_fault->setMessage(fault);
     m_control->setAccessibleDescription(fault.isEmpty() ? m_setting.explanation : fault);
 }

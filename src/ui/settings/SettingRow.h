@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QBoxLayout;
+class MessageLabel;
 class QLabel;
 class Theme;
 
@@ -57,7 +58,7 @@ private:
     Help m_help;
     QLabel *m_label;
     QLabel *m_explanation;
-    QLabel *m_fault;
+    MessageLabel *m_fault;
     QWidget *m_control = nullptr; ///< what takes the keyboard
     std::function<void(const QVariant &)> m_show;
 };
