@@ -1,7 +1,9 @@
 #include "GPMSafe.h"
+#include "PMCountryTable.h"
 #include "PMCreditCard.h"
 #include "PMItemFactory.h"
 #include "UiTesting.h"
+#include "editor/CountryNames.h"
 #include "editor/EditorDefaults.h"
 #include "editor/FieldRules.h"
 #include "editor/SafeItemEditor.h"
@@ -14,6 +16,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -23,6 +26,7 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QToolButton>
+#include <QTranslator>
 
 #include <functional>
 
@@ -208,6 +212,8 @@ private Q_SLOTS:
     void aMeanwhileChangeIsNotSetBack();
     void madePasswordGoesWhereItWasAskedFor();
     void countryDefaults();
+    void countriesAreShownInTheLanguageAndStoredInEnglish_data();
+    void countriesAreShownInTheLanguageAndStoredInEnglish();
     void datesAndCountriesAreChosenByKeyboard();
     void everyKindIsMadeFromTheMenu();
     void aClickCopies();
@@ -533,6 +539,67 @@ void TestSafeItemEditor::countryDefaults()
     QVERIFY(!editing.field<SafeItemEditor>("itemEditor")->isModified());
     QVERIFY(editing.view.mayLeave());
     QVERIFY(editing.asker.asked.isEmpty());
+}
+
+void TestSafeItemEditor::countriesAreShownInTheLanguageAndStoredInEnglish_data()
+{
+    QTest::addColumn<QString>("languageName");
+    QTest::addColumn<QString>("germany");
+    const auto row = [](const char *language, const char *germany) {
+        QTest::newRow(germany) << QString::fromUtf8(language) << QString::fromUtf8(germany);
+    };
+    row("English", "Germany");
+    row("Deutsch", "Deutschland");
+    row("Español", "Alemania");
+    row("Français", "Allemagne");
+    row("Русский", "Германия");
+}
+
+void TestSafeItemEditor::countriesAreShownInTheLanguageAndStoredInEnglish()
+{
+    struct Language : QTranslator
+    {
+        QString name;
+        bool isEmpty() const override { return false; }
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return qstrcmp(text, "SettingsLocaleTitle") == 0 ? name : QString();
+        }
+    };
+    QFETCH(QString, germany);
+    QFETCH(QString, languageName);
+    Language language;
+    language.name = languageName;
+    QCoreApplication::installTranslator(&language);
+    for (const PMCountryTable::Country &country : PMCountryTable::instance().countries()) {
+        const QString shown = CountryNames::shown(country.name);
+        QVERIFY(!shown.isEmpty());
+        QCOMPARE(CountryNames::stored(shown.toUpper()), country.name);
+        QCOMPARE(CountryNames::stored(country.name), country.name);
+    }
+
+    Editing editing;
+    editing.openNew(PMListItem::Passport);
+    replace(editing.field("titleField"), QStringLiteral("Pass"));
+    // Key events of tests know Latin letters alone.
+    editing.field("countryField")->setText(germany.toLower());
+    editing.press(Qt::Key_S, Qt::ControlModifier);
+    PMListItem *pass = editing.test.core.currentSafe()->items().front();
+    QCOMPARE(pass->property("country").toString(), QStringLiteral("Germany"));
+    editing.press(Qt::Key_F2);
+    QLineEdit *country = editing.field("countryField");
+    QCOMPARE(country->text(), germany);
+    country->completer()->setCompletionPrefix(QStringLiteral("ermany"));
+    QCOMPARE(country->completer()->currentCompletion(), germany);
+    find<QPushButton>(editing.view, "discardButton")->click();
+
+    // A name that another program has written is not changed by a look at it.
+    pass->setProperty("country", germany);
+    editing.press(Qt::Key_F2);
+    QCOMPARE(editing.field("countryField")->text(), germany);
+    QVERIFY(!editing.field<SafeItemEditor>("itemEditor")->isModified());
+    find<QPushButton>(editing.view, "discardButton")->click();
+    QCoreApplication::removeTranslator(&language);
 }
 
 void TestSafeItemEditor::datesAndCountriesAreChosenByKeyboard()

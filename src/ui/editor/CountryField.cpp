@@ -1,19 +1,24 @@
 #include "CountryField.h"
 
+#include "CountryNames.h"
 #include "PMCountryTable.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QCollator>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace {
 
 const int rowsShown = 10;
+const int searchRole = Qt::UserRole + 1;
 const int popupWidth = 280;
 
 /// Offers countries with their codes and puts in what the row stands for.
@@ -31,14 +36,24 @@ public:
 QStandardItemModel *makeModel(CountryField::Content content, QObject *parent)
 {
     auto *model = new QStandardItemModel(parent);
+    const bool isName = content == CountryField::Names;
+    QVector<QStandardItem *> rows;
     for (const PMCountryTable::Country &country : PMCountryTable::instance().countries()) {
-        const bool isName = content == CountryField::Names;
+        const QString name = CountryNames::shown(country.name);
         //: a country and its dialling code
-        auto *row = new QStandardItem(
-            isName ? country.name : CountryField::tr("%1  +%2").arg(country.name, country.code));
-        row->setData(isName ? country.name : QLatin1Char('+') + country.code, Qt::UserRole);
-        model->appendRow(row);
+        auto *row =
+            new QStandardItem(isName ? name : CountryField::tr("%1  +%2").arg(name, country.code));
+        row->setData(isName ? name : QLatin1Char('+') + country.code, Qt::UserRole);
+        // Found by its English name in every language.
+        row->setData(row->text() + QLatin1Char('\n') + country.name, searchRole);
+        rows.append(row);
     }
+    QCollator collator;
+    std::sort(rows.begin(), rows.end(), [&](const QStandardItem *a, const QStandardItem *b) {
+        return collator.compare(a->text(), b->text()) < 0;
+    });
+    for (QStandardItem *row : qAsConst(rows))
+        model->appendRow(row);
     return model;
 }
 
@@ -50,6 +65,7 @@ CountryField::CountryField(Content content, const Theme &theme, QWidget *parent)
     , m_completer(new CountryCompleter(this))
 {
     m_completer->setModel(makeModel(content, m_completer));
+    m_completer->setCompletionRole(searchRole);
     m_completer->setFilterMode(Qt::MatchContains);
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setMaxVisibleItems(rowsShown);
@@ -92,7 +108,7 @@ void CountryField::showAll()
 
 void CountryField::replaceName()
 {
-    const auto country = PMCountryTable::instance().find(text().trimmed());
+    const auto country = PMCountryTable::instance().find(CountryNames::stored(text()).trimmed());
     if (m_content == Codes && country)
         setCode(country->code);
 }

@@ -1,6 +1,7 @@
 #include "FieldText.h"
 
 #include "CardNumber.h"
+#include "CountryNames.h"
 #include "DateText.h"
 
 using PMFieldTypes::Date;
@@ -37,6 +38,8 @@ QString FieldText::fromValue(const ItemField &field, const QVariant &value, cons
         return value.toInt() == 0 ? QString() : value.toString();
     case ItemField::CardNumber:
         return CardNumber::grouped(value.toString());
+    case ItemField::Country:
+        return CountryNames::shown(value.toString());
     default:
         return value.toString();
     }
@@ -55,6 +58,8 @@ QVariant FieldText::toValue(const ItemField &field, const QString &text, const Q
         return numberValue(text);
     case ItemField::CardNumber:
         return CardNumber::digits(text);
+    case ItemField::Country:
+        return CountryNames::stored(text);
     default:
         return text;
     }

@@ -150,6 +150,9 @@ void LineInput::tidyDate()
 
 QVariant LineInput::value() const
 {
+    // A country in other words than the table's stays in those unless it is typed anew.
+    if (field().form == ItemField::Country && m_line->text() == m_givenText)
+        return m_given;
     return FieldText::toValue(field(), m_line->text(), m_locale);
 }
 
@@ -157,6 +160,8 @@ void LineInput::setValue(const QVariant &value)
 {
     const QSignalBlocker blocker(m_line);
     m_line->setText(FieldText::fromValue(field(), value, m_locale));
+    m_given = value;
+    m_givenText = m_line->text();
     // A long value shows its beginning.
     m_line->setCursorPosition(0);
     if (m_brand)

@@ -31,4 +31,6 @@ private:
     QLocale m_locale;
     QLineEdit *m_line;
     BrandMark *m_brand = nullptr;
+    QVariant m_given; ///< and the text that was made of it
+    QString m_givenText;
 };

@@ -4,6 +4,7 @@
 #include "PMCreditCard.h"
 #include "PMFieldTypes.h"
 #include "editor/CardNumber.h"
+#include "editor/CountryNames.h"
 #include "editor/DateText.h"
 
 #include <QCoreApplication>
@@ -181,6 +182,8 @@ QString itemFieldText(const PMListItem &item, const ItemField &field,
         return genderText(value.toInt());
     case ItemField::CardNumber:
         return CardNumber::grouped(value.toString());
+    case ItemField::Country:
+        return CountryNames::shown(value.toString());
     case ItemField::CardType:
         return cardTypeText(value.toInt());
     case ItemField::FillType:
