@@ -40,7 +40,7 @@ const Row<FieldKind> fieldRows[] = {
      "honeypot|leave this field blank|leave this field empty|leave blank"},
 
     {FieldKind::Other,
-     "middle name|middlename|middle initial|=mi|maiden name|second name|otchestvo|отчество|segundo apellido|apellido materno|"
+     "address line 3|address 3|line 3|street 3|street line 3|middle name|middlename|middle initial|=mi|maiden name|second name|otchestvo|отчество|segundo apellido|apellido materno|"
      "nickname|=nick|screen name|display name|preferred name|alias|=handle|avatar|"
      "quantity|qty|=amount|=price|=total|=size|=color|=colour|subject|message|comment|comments|notes|order notes|remarks|special requests|"
      "delivery instructions|instructions|bemerkung|nachricht|betreff|kommentar|mensaje|asunto|comentario|comentarios|commentaire|=objet|"
@@ -91,7 +91,7 @@ const Row<FieldKind> fieldRows[] = {
     {FieldKind::CardLastName, "last name on card|cardholder last name|card last name|card last|cc last name|cc last|"
      "card holder last name|nachname des karteninhabers"},
     {FieldKind::CardHolder,
-     "name on card|name on the card|name on credit card|name as it appears on card|name as it appears on the card|name as on card|"
+     "name on card|card user name|card username|name on the card|name on credit card|name as it appears on card|name as it appears on the card|name as on card|"
      "cardholder|card holder|cardholder name|card holder name|cardholder s name|card holder s name|cardholders name|cc name|ccname|"
      "card name|cardname|cc holder|ccholder|cc owner|card owner|=owner|=holder|holder name|card holder full name|name on your card|"
      "name of cardholder|karteninhaber|name des karteninhabers|name auf der karte|name auf karte|=inhaber|kontoinhaber|"

@@ -188,9 +188,11 @@ FieldReading readTextsOf(const FormField &field)
     }
     if (!reading.hasText)
         take(reading, field.textAfter(), MainWord::First);
-    take(reading, field.name(), MainWord::Last);
-    if (field.id() != field.name())
-        take(reading, field.id(), MainWord::Last);
+    const QString name = field.name();
+    const QString id = field.id();
+    take(reading, name, MainWord::Last);
+    if (id != name)
+        take(reading, id, MainWord::Last);
     if (reading.kind == FieldKind::Unknown && hasExample)
         reading.kind = FieldKind::Email;
     if (field.isInSearch())

@@ -75,5 +75,6 @@ QString FormField::text(const char *key) const
 
 QString FormField::attribute(const char *key, const char *sourceKey) const
 {
-    return m_object.value(QLatin1String(key)).isString() ? text(key) : text(sourceKey);
+    const QJsonValue value = m_object.value(QLatin1String(key));
+    return value.isString() ? value.toString().left(longestText) : text(sourceKey);
 }
