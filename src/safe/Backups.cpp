@@ -1,9 +1,7 @@
 #include "Backups.h"
 
 #include "BackupSchedule.h"
-#include "SafeDescriptionFile.h"
 
-#include <QDir>
 #include <QtConcurrent>
 
 #include <algorithm>
@@ -93,19 +91,6 @@ QFuture<BackupOverview> Backups::archivesIn(const QString &folder) const
 {
     const std::shared_ptr<FileLayer> files = m_environment.files;
     return QtConcurrent::run([=] { return BackupOverview::read(*files, folder, {}); });
-}
-
-QFuture<std::optional<BackupEntry>> Backups::lastOf(const QString &safeFolder) const
-{
-    const std::shared_ptr<FileLayer> files = m_environment.files;
-    const QString place = folder();
-    return QtConcurrent::run([=]() -> std::optional<BackupEntry> {
-        const std::optional<SafeDescription> safe = readDescription(*files, safeFolder);
-        if (!safe)
-            return std::nullopt;
-        const QString name = QDir(safeFolder).dirName();
-        return lastBackup(listBackups(*files, place, name), safeFolder, *safe);
-    });
 }
 
 QStringList Backups::safeFolders() const

@@ -50,9 +50,6 @@ public:
     QFuture<BackupOverview> overview() const;
     /// The archives in any folder, read on a worker.
     QFuture<BackupOverview> archivesIn(const QString &folder) const;
-    /// The newest backup of the safe in a folder, read on a worker; nothing when there is none, or
-    /// no such safe.
-    QFuture<std::optional<BackupEntry>> lastOf(const QString &safeFolder) const;
 
 Q_SIGNALS:
     void started();

@@ -1,6 +1,5 @@
 #include "SafeDetails.h"
 
-#include "BackupList.h"
 #include "SafeDescriptionFile.h"
 #include "SafeFiles.h"
 #include "SafeLayout.h"
@@ -29,19 +28,6 @@ SafeDetails lookAt(const SafeEnvironment &environment, const QString &folder)
     return details;
 }
 
-/// When the safe was backed up last. Backups go by the name of its folder; another safe in a folder
-/// of that name was created at another time.
-QDateTime lastBackup(const QVector<BackupEntry> &newestFirst, const SafeDetails &safe)
-{
-    const QString folderName = QDir(safe.folder).dirName();
-    for (const BackupEntry &backup : newestFirst) {
-        if (backup.name && backup.name->safeFolder == folderName &&
-            backup.description.created == safe.description.created)
-            return backup.made;
-    }
-    return {};
-}
-
 } // namespace
 
 QVector<SafeDetails> readSafeDetails(const SafeEnvironment &environment, const QStringList &folders,
@@ -55,7 +41,7 @@ QVector<SafeDetails> readSafeDetails(const SafeEnvironment &environment, const Q
             break;
         SafeDetails details = lookAt(environment, folder);
         if (details.place == SafePlace::Here) {
-            details.lastBackup = lastBackup(backups, details);
+            details.lastBackup = lastBackup(backups, folder, details.description);
             const auto passId =
                 environment.files->read(SafeFolder(folder).path(SafeLayout::passId));
             const QByteArray mark =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BackupOverview.h"
 #include "SafeDescription.h"
 #include "SafeEnvironment.h"
 #include "SafePlace.h"
@@ -14,10 +15,10 @@ struct SafeDetails
 {
     QString folder;
     SafePlace place = SafePlace::Here;
-    SafeDescription description; ///< while it is Here
-    qint64 size = 0;             ///< in bytes
-    QDateTime lastBackup;        ///< null: none in the folder of the backups
-    QString copyOf;              ///< folder of another one in the list that it is a copy of
+    SafeDescription description;           ///< while it is Here
+    qint64 size = 0;                       ///< in bytes
+    std::optional<BackupEntry> lastBackup; ///< nothing: none in the folder of the backups
+    QString copyOf; ///< folder of another one in the list that it is a copy of
 };
 
 /// Looks at the folders, in their order, and at the backups there are. On any thread, where it

@@ -10,6 +10,7 @@
 #include "lock/UnlockLogic.h"
 #include "main/MainView.h"
 #include "main/SafeMenu.h"
+#include "safes/ArchiveDesk.h"
 #include "safes/SafeDesk.h"
 #include "settings/SettingsTable.h"
 #include "style/Theme.h"
@@ -109,8 +110,6 @@ void PMUiProvider::createMainWindow()
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
     connect(m_window.get(), &SecureWindow::settingsRequested, m_sideWindows.get(),
             &SideWindows::openSettings);
-    connect(m_sideWindows.get(), &SideWindows::safeChosen, m_window.get(),
-            &SecureWindow::switchSafe);
     connect(m_window.get(), &SecureWindow::restoreRequested, m_sideWindows.get(),
             &SideWindows::openRestore);
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
@@ -157,6 +156,10 @@ void PMUiProvider::connectSafeDesk(MainView &view)
         {[this] { m_safeDesk->openFolder(); }, [this] { m_safeDesk->importArchive(); }});
     connect(window, &SecureWindow::safesRequested, m_safeDesk.get(), &SafeDesk::openList);
     connect(window, &SecureWindow::importRequested, m_safeDesk.get(), &SafeDesk::importArchive);
+    connect(m_sideWindows.get(), &SideWindows::restoreRequested, window,
+            [this, window](const QString &archive) {
+                m_safeDesk->archives().importFrom(archive, window);
+            });
     const SafeMenu &menu = view.safeMenu();
     connect(&menu, &SafeMenu::safesRequested, m_safeDesk.get(), &SafeDesk::openList);
     connect(&menu, &SafeMenu::exportSafeRequested, m_safeDesk.get(), &SafeDesk::exportCurrent);

@@ -2,7 +2,6 @@
 
 #include "GPMAppCore.h"
 #include "RandomSource.h"
-#include "backups/ArchiveImport.h"
 #include "backups/BackupRow.h"
 #include "widgets/Controls.h"
 
@@ -124,20 +123,14 @@ void SideWindows::openRestore()
 {
     if (!m_restore) {
         m_restore = new RestoreDialog({m_core.backups(), m_core.settings()}, m_theme, m_main);
-        connect(m_restore, &RestoreDialog::chosen, this, &SideWindows::restore);
+        connect(m_restore, &RestoreDialog::chosen, this, [this](const QString &archive) {
+            // It would lie above what the user is led to.
+            if (m_settings)
+                m_settings->close();
+            Q_EMIT restoreRequested(archive);
+        });
     }
     bringUp(*m_restore);
-}
-
-void SideWindows::restore(const QString &archive, const QString &name)
-{
-    auto *import = new ArchiveImport(m_core.knownSafes(), archive, name, m_theme, m_main);
-    connect(import, &ArchiveImport::safeChosen, this, [this](const QString &folder) {
-        if (m_settings)
-            m_settings->close();
-        Q_EMIT safeChosen(folder);
-    });
-    import->start();
 }
 
 void SideWindows::closeForLock()

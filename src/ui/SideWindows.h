@@ -42,15 +42,14 @@ public Q_SLOTS:
     void openSettings();
     /// Lets the user change the master password of the open safe.
     void openChangePassword();
-    /// Lets the user choose a backup and makes a safe from it.
+    /// Lets the user choose a backup.
     void openRestore();
 
 Q_SIGNALS:
-    /// The user wants to go to another safe.
-    void safeChosen(const QString &folder);
+    /// A safe is to be made from the chosen backup.
+    void restoreRequested(const QString &archive);
 
 private:
-    void restore(const QString &archive, const QString &name);
     void showGenerator(const PasswordTarget &target);
     void closeForLock();
 

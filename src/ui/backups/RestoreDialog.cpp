@@ -182,7 +182,7 @@ void RestoreDialog::choose()
     const BackupEntry *entry = current();
     if (!entry || !entry->good())
         return;
-    const BackupEntry found = *entry;
+    const QString path = entry->path;
     accept();
-    Q_EMIT chosen(found.path, found.description.name);
+    Q_EMIT chosen(path);
 }

@@ -39,7 +39,7 @@ public:
 
 Q_SIGNALS:
     /// The window closes with it.
-    void chosen(const QString &path, const QString &name);
+    void chosen(const QString &path);
 
 private:
     void layOut();

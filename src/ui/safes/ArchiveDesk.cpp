@@ -122,16 +122,17 @@ void ArchiveDesk::tellImported(const ArchiveResult &result, const QString &fileN
                                  importMessage(result.outcome));
         return;
     }
+    const std::shared_ptr<GPMSafe> made = m_core.knownSafes().open(result.path);
+    const QString text = tr("“%1” is now in the list of your safes. It opens with the master "
+                            "password that it had when the file was made.")
+                             .arg(made ? made->name() : fileName);
     const std::shared_ptr<GPMSafe> &current = m_core.currentSafe();
-    if (!current || !current->isUnlocked()) {
-        progress.finish();
-        m_ways.openSafe(result.path);
-    } else {
-        progress.tell(true,
-                      tr("A safe was made from “%1”. It opens with the master password that it had "
-                         "when the file was made.")
-                          .arg(fileName),
+    if (current && current->isUnlocked()) {
+        progress.tell(true, text,
                       {tr("Open it"), [this, folder = result.path] { m_ways.openSafe(folder); }});
+    } else {
+        m_ways.openSafe(result.path);
+        progress.tell(true, text);
     }
     Q_EMIT imported(result.path);
 }

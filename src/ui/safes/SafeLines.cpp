@@ -1,5 +1,6 @@
 #include "SafeLines.h"
 
+#include "backups/BackupTexts.h"
 #include "main/ItemKinds.h"
 #include "main/RelativeDate.h"
 
@@ -55,9 +56,10 @@ public:
         if (safe.fact.lastSynchronised.isValid() && !safe.fact.mirrorFolder.isEmpty())
             parts.append(tr("synchronised %1").arg(relativeDate(safe.fact.lastSynchronised, now)));
         if (safe.isRead)
-            parts.append(safe.details.lastBackup.isValid()
-                             ? tr("backed up %1").arg(relativeMoment(safe.details.lastBackup, now))
-                             : tr("no backup yet"));
+            parts.append(
+                safe.details.lastBackup
+                    ? tr("backed up %1").arg(BackupTexts::moment(*safe.details.lastBackup, now))
+                    : tr("no backup yet"));
         return parts.join(QStringLiteral(" · "));
     }
 };
