@@ -43,6 +43,7 @@
 
 namespace {
 
+const QString safeFolder = QStringLiteral("/home/ana/safes/personal");
 const QString extensionFolder = QStringLiteral("/opt/glaceron/extension");
 
 using ItemValues = std::initializer_list<std::pair<const char *, QVariant>>;
@@ -287,7 +288,7 @@ Show wizardStep(const char *id)
         auto *wizard = new SetupWizard(
             {row("safe", FirstRun::tr("Create a safe"),
                  [&stage](QWidget *parent) {
-                     return new NewSafePage(stage.test.core, stage.theme, parent);
+                     return new NewSafePage(stage.test.core, stage.theme, parent, {[] {}, [] {}});
                  }),
              row("move-in", FirstRun::tr("Bring your passwords over"),
                  [&stage](QWidget *parent) {
@@ -367,7 +368,7 @@ QWidget *deleteSafe(Stage &stage)
 {
     SafeInfo safe;
     safe.name = stage.test.core.currentSafe()->name();
-    safe.folder = stage.test.core.currentSafe()->folder();
+    safe.folder = safeFolder;
     return shownBeside(stage, new DeleteSafeDialog(safe, {}, stage.theme, stage.main));
 }
 
@@ -665,7 +666,7 @@ QSet<QString> Stage::ownWords() const
                       QString::fromUtf8(unknownExport),
                       QStringLiteral("passwords.csv"),
                       QStringLiteral("Work Family"),
-                      test.core.currentSafe()->folder()};
+                      safeFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();
         for (int i = 0; i < meta.propertyCount(); ++i)

@@ -270,6 +270,12 @@ private Q_SLOTS:
         QTRY_VERIFY(!list->isReading());
         QTRY_VERIFY(!find<QPushButton>(*list, "locateButton"));
         QCOMPARE(desk.listed().size(), 2);
+
+        UnlockLogic &logic = desk.window->pages().unlockLogic();
+        logic.choose(QStringLiteral("/media/ana/no such stick/safe"));
+        QVERIFY(logic.message().contains(QStringLiteral("drive")));
+        logic.choose(desk.path("no such folder"));
+        QVERIFY(!logic.message().contains(QStringLiteral("drive")));
     }
 
     void anArchiveGoesOutAndComesBack()

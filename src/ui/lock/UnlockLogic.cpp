@@ -76,7 +76,10 @@ void UnlockLogic::choose(const QString &folder)
     if (!m_core.selectSafe(folder)) {
         // It stays chosen, so that the page can say what is wrong with it.
         m_folder = folder;
-        m_message = tr("This safe is not available. Check that its folder is there:\n%1")
+        const bool drive = !QDir(folder).exists() && whyGone(folder) == SafePlace::DriveGone;
+        m_message = (drive ? tr("This safe is on a drive that is not connected. Connect it, then "
+                                "choose the safe again:\n%1")
+                           : tr("This safe is not available. Check that its folder is there:\n%1"))
                         .arg(QDir::toNativeSeparators(folder));
     }
     reload();
