@@ -379,6 +379,8 @@ QWidget *progress(Stage &stage)
         ArchiveDesk::tr("Exporting “%1”…").arg(stage.test.core.currentSafe()->name()), stage.theme,
         stage.main);
     dialog->setProgress(2, 3);
+    // Else it would wait for the work to end, in front of the windows to come.
+    QObject::connect(dialog, &ProgressDialog::cancelRequested, dialog, &ProgressDialog::finish);
     return shownBeside(stage, dialog);
 }
 
