@@ -2,9 +2,12 @@
 // unit.
 
 #include "GPMSafe.h"
+#include "PMAttachment.h"
+#include "PMLogin.h"
 #include "SafeLayout.h"
 #include "SyncRound.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -15,6 +18,8 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <chrono>
+#include <future>
 
 namespace {
 
@@ -47,19 +52,85 @@ void makeSides(const SafeFolder &safe, const SafeFolder &mirror)
     write(safe.path(SafeLayout::syncRecord), record.toJson());
 }
 
-double round(const SafeFolder &safe, const SafeFolder &mirror)
+SyncResult run(const SafeFolder &safe, const SafeFolder &mirror, WorkControl &control)
 {
-    QElapsedTimer timer;
-    timer.start();
     SyncRound sync({SafeEnvironment(), safe,
                     std::make_shared<const SecretBytes>(SecretBytes::fromText(password)),
                     std::make_shared<QMutex>()},
                    mirror.root());
+    return sync.run(control);
+}
+
+double millisecondsSince(const QElapsedTimer &timer)
+{
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+double round(const SafeFolder &safe, const SafeFolder &mirror)
+{
+    QElapsedTimer timer;
+    timer.start();
     WorkControl control;
-    const SyncResult result = sync.run(control);
+    const SyncResult result = run(safe, mirror, control);
     if (result.state != SyncState::Done || result.sent > 0 || !result.taken.isEmpty())
         qFatal("the round has found something to do");
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    return millisecondsSince(timer);
+}
+
+/// A real safe of 1,000 items with 200 MB of attachments meets an empty mirror. Tells, too, how
+/// long somebody waits who interrupts that to save.
+void meetFirst(const SafeFolder &safe, const SafeFolder &mirror)
+{
+    QDir().mkpath(safe.root());
+    SyncMirror::enableSynchronization(*SafeEnvironment().files, mirror.root());
+    {
+        GPMSafe made;
+        if (!made.init(safe.root(), password, QStringLiteral("Bench"), {}))
+            qFatal("can't make the safe");
+        const QByteArray bytes(2000000, 'x');
+        for (int i = 0; i < 1000; ++i) {
+            if (i % 10 != 0) {
+                made.addItem(std::make_unique<PMLogin>());
+                continue;
+            }
+            QBuffer content;
+            content.setData(bytes);
+            content.open(QIODevice::ReadOnly);
+            made.addAttachment(std::make_unique<PMAttachment>(), content);
+        }
+        if (!made.saveChanges())
+            qFatal("can't save the safe");
+    }
+    QElapsedTimer timer;
+    QVector<double> waits;
+    int meetings = 0;
+    double total = 0;
+    for (SyncState state = SyncState::Cancelled; state == SyncState::Cancelled; ++meetings) {
+        WorkControl control;
+        auto meeting = std::async(std::launch::async, [&] {
+            QElapsedTimer own;
+            own.start();
+            const SyncState end = run(safe, mirror, control).state;
+            total += millisecondsSince(own);
+            return end;
+        });
+        if (meetings < 10 &&
+            meeting.wait_for(std::chrono::milliseconds(300)) != std::future_status::ready) {
+            timer.start();
+            control.cancel();
+            meeting.wait();
+            waits.append(millisecondsSince(timer));
+        }
+        state = meeting.get();
+    }
+    std::sort(waits.begin(), waits.end());
+    QTextStream(stdout) << "first meeting of 1,000 items with 200 MB, interrupted " << waits.size()
+                        << " times: " << QString::number(total, 'f', 0)
+                        << " ms; who interrupts waits "
+                        << QString::number(waits.value(waits.size() / 2), 'f', 1)
+                        << " ms (median, slowest "
+                        << QString::number(waits.value(waits.size() - 1), 'f', 1) << " ms)"
+                        << Qt::endl;
 }
 
 } // namespace
@@ -88,5 +159,7 @@ int main(int argc, char *argv[])
                         << QString::number(times[rounds / 2], 'f', 1) << " ms (median of " << rounds
                         << ", slowest " << QString::number(times.last(), 'f', 1) << " ms)"
                         << Qt::endl;
+    meetFirst(SafeFolder(place.filePath(QStringLiteral("second"))),
+              SafeFolder(place.filePath(QStringLiteral("second mirror"))));
     return 0;
 }

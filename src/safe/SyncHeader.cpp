@@ -88,6 +88,11 @@ SyncState SyncHeader::read()
     return SyncState::Done;
 }
 
+bool SyncHeader::replacesPassword() const
+{
+    return m_passId == PassId::Send && QFileInfo::exists(m_work.mirror.path(SafeLayout::passId));
+}
+
 SyncHeader::PassId SyncHeader::comparePassIds() const
 {
     const QString path = m_work.mirror.path(SafeLayout::passId);

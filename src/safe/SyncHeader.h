@@ -16,8 +16,8 @@ public:
     SyncState read();
     /// Takes the items deleted here into the record.
     void noteDeletions(const SyncListing &local);
-    /// Whether the mirror is to hear of a new password.
-    bool sendsPassword() const { return m_passId == PassId::Send; }
+    /// Whether the mirror is to hear of a new password in the place of another.
+    bool replacesPassword() const;
 
     /// Writes what differs. False, too, when others may not hear of it as the round is not whole.
     bool write();

@@ -99,7 +99,7 @@ SyncState SyncRound::Run::prepare()
         return state;
     m_header.noteDeletions(*local);
     m_versions.emplace(m_work, *local, *mirror);
-    if (m_header.sendsPassword()) {
+    if (m_header.replacesPassword()) {
         // A change of password that was interrupted: until the user has brought it to an end, or
         // put the old one back, the mirror keeps what opens.
         const QString id = m_versions->unreadableHere();

@@ -609,6 +609,20 @@ private Q_SLOTS:
         }
     }
 
+    /// A damaged item, as a failing disk leaves it, does not keep the others from their mirror.
+    void meetsWithADamagedItem()
+    {
+        const QString whole = add(m_one, QStringLiteral("whole"));
+        const QString file =
+            m_one.folder + QStringLiteral("/content/") + add(m_one, QStringLiteral("damaged"));
+        const QByteArray half = contentOf(file).left(300);
+        writeFile(file, half);
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
+        QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Done);
+        QCOMPARE(m_two.items(), QStringList{whole + QStringLiteral(" whole")});
+        QCOMPARE(contentOf(file), half);
+    }
+
     /// It died before it had written into the lock file who it is.
     void takesTheLockOfADeadProcess()
     {
