@@ -1,9 +1,9 @@
 #include "GPMSafe.h"
 
 #include "DeletedList.h"
-#include "ItemTimes.h"
 #include "ExportTask.h"
 #include "ItemRemoval.h"
+#include "ItemTimes.h"
 #include "NewSafe.h"
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
@@ -169,6 +169,10 @@ void GPMSafe::takeUnlocked(SafeUnlock &attempt)
     m_state.password = attempt.password();
     m_drafts.open(id(), m_state.password);
     m_state.unreadableFiles = attempt.items().unreadableFiles();
+    FileLayer &files = *m_state.environment.files;
+    const auto former = files.read(m_state.folder.path(SafeLayout::passIdBackup));
+    m_state.changeInterrupted = attempt.items().looksInterrupted() && former &&
+                                former != files.read(m_state.folder.path(SafeLayout::passId));
     m_state.items.exchange(attempt.items().takeEntries());
     for (const QString &name : std::as_const(m_state.unreadableFiles))
         qWarning() << "GPMSafe::unlock"

@@ -115,6 +115,10 @@ public:
     /// as they are.
     const QStringList &unreadableFiles() const { return m_state.unreadableFiles; }
 
+    /// Whether a change of password was interrupted: some items open with the new password alone,
+    /// the others still with the old one, and the copy of the old pass id opens them all.
+    bool isChangeInterrupted() const { return m_state.changeInterrupted; }
+
     /// Takes a new item in; gives it an id and its times where it has none. It reaches the disk
     /// with the next save. Null, with nothing taken in, when the safe is locked or has an item of
     /// that id.

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QtConcurrent>
 
+#include <algorithm>
+
 namespace {
 
 struct ReadFile
@@ -68,4 +70,15 @@ QStringList LoadedItems::unreadableFiles() const
             names.append(name.text());
     }
     return names;
+}
+
+bool LoadedItems::looksInterrupted() const
+{
+    if (unreadableFiles().isEmpty())
+        return false;
+    return m_entries.empty() ||
+           std::any_of(m_failed.begin(), m_failed.end(), [this](const ItemFileName &name) {
+               const auto entry = m_entries.find(name.id);
+               return entry != m_entries.end() && entry->second.name.generation > name.generation;
+           });
 }

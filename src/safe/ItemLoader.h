@@ -46,6 +46,10 @@ public:
     /// Names of the files that could not be read and whose item is not there from another one.
     QStringList unreadableFiles() const;
 
+    /// Whether it looks as if a change of password had been interrupted, given that some items
+    /// could not be read: either older files of others are there that do not open, or none opens.
+    bool looksInterrupted() const;
+
 private:
     std::map<QString, Entry> m_entries;
     QList<ItemFileName> m_failed;

@@ -30,7 +30,8 @@ struct SafeState
     std::shared_ptr<const SecretBytes> password; ///< null while the safe is locked
     int session = 0;                             ///< counts the locks
     ItemStore items;
-    QStringList unreadableFiles; ///< names of files in the content folder
+    bool changeInterrupted = false; ///< of the password, as the safe was unlocked
+    QStringList unreadableFiles;    ///< names of files in the content folder
     std::shared_ptr<QMutex> mutex = std::make_shared<QMutex>(); ///< held for each write
     QThreadPool writer; ///< one thread, so that writes keep their order
 };

@@ -1,5 +1,6 @@
 #include "SafeUnlock.h"
 
+#include "FormerPassword.h"
 #include "SafeCrypto.h"
 #include "SafeLayout.h"
 
@@ -27,22 +28,23 @@ std::unique_ptr<SafeUnlock> SafeUnlock::make(const SafeEnvironment &environment,
         return nullptr;
     }
     return std::make_unique<SafeUnlock>(
-        environment, folder.path(SafeLayout::content), QString::fromLatin1(*passId),
+        environment, folder, QString::fromLatin1(*passId),
         std::make_shared<const SecretBytes>(SecretBytes::fromText(password)));
 }
 
 void SafeUnlock::logFailure(Outcome outcome, const SafeFolder &folder)
 {
-    if (outcome == Outcome::WrongPassword)
+    if (outcome == Outcome::WrongPassword || outcome == Outcome::FormerPassword ||
+        outcome == Outcome::InterruptedChange)
         qWarning() << operation << "Pass id doesn't match specified password";
     else if (outcome == Outcome::Unreadable)
         qWarning() << operation << "Can't read safe content directory:" << folder.root();
 }
 
-SafeUnlock::SafeUnlock(const SafeEnvironment &environment, const QString &contentFolder,
+SafeUnlock::SafeUnlock(const SafeEnvironment &environment, const SafeFolder &folder,
                        const QString &passId, std::shared_ptr<const SecretBytes> password)
     : m_environment(environment)
-    , m_contentFolder(contentFolder)
+    , m_folder(folder)
     , m_passId(passId)
     , m_password(std::move(password))
 {
@@ -60,11 +62,11 @@ SafeUnlock::Outcome SafeUnlock::run()
 {
     if (!checkPassId(m_password->view(), m_passId))
         return Outcome::WrongPassword;
-    const std::optional<QStringList> names = itemFileNames(m_contentFolder);
+    const std::optional<QStringList> names = itemFileNames(m_folder.path(SafeLayout::content));
     if (!names)
         return Outcome::Unreadable;
     const QFuture<LoadedFile> files =
-        loadItemFiles(*names, m_contentFolder, m_password, m_environment.files);
+        loadItemFiles(*names, m_folder.path(SafeLayout::content), m_password, m_environment.files);
     for (const LoadedFile &file : files)
         m_items.add(file);
     return Outcome::Unlocked;
@@ -73,10 +75,27 @@ SafeUnlock::Outcome SafeUnlock::run()
 void SafeUnlock::start()
 {
     connect(&m_check, &QFutureWatcher<bool>::finished, this, &SafeUnlock::onChecked);
-    const auto password = m_password;
-    const QString passId = m_passId;
-    m_check.setFuture(
-        QtConcurrent::run([password, passId] { return checkPassId(password->view(), passId); }));
+    // Nobody waits for it, as it may take long: it works on copies.
+    m_check.setFuture(QtConcurrent::run(
+        [files = m_environment.files, folder = m_folder, password = m_password, passId = m_passId] {
+            return check(*files, folder, password->view(), passId);
+        }));
+}
+
+SafeUnlock::Outcome SafeUnlock::check(FileLayer &files, const SafeFolder &folder,
+                                      const QByteArray &password, const QString &passId)
+{
+    if (checkPassId(password, passId))
+        return Outcome::Unlocked;
+    switch (formerPassword(files, folder, password)) {
+    case FormerPassword::No:
+        break;
+    case FormerPassword::Former:
+        return Outcome::FormerPassword;
+    case FormerPassword::Interrupted:
+        return Outcome::InterruptedChange;
+    }
+    return Outcome::WrongPassword;
 }
 
 void SafeUnlock::cancel()
@@ -89,15 +108,15 @@ void SafeUnlock::onChecked()
 {
     if (m_cancelled)
         Q_EMIT finished(Outcome::Cancelled);
-    else if (!m_check.result())
-        Q_EMIT finished(Outcome::WrongPassword);
+    else if (m_check.result() != Outcome::Unlocked)
+        Q_EMIT finished(m_check.result());
     else if (!startLoading())
         Q_EMIT finished(Outcome::Unreadable);
 }
 
 bool SafeUnlock::startLoading()
 {
-    const std::optional<QStringList> names = itemFileNames(m_contentFolder);
+    const std::optional<QStringList> names = itemFileNames(m_folder.path(SafeLayout::content));
     if (!names)
         return false;
     connect(&m_load, &QFutureWatcher<LoadedFile>::resultReadyAt, this,
@@ -105,7 +124,8 @@ bool SafeUnlock::startLoading()
     connect(&m_load, &QFutureWatcher<LoadedFile>::progressValueChanged, this,
             [this](int done) { Q_EMIT progress(done, m_load.progressMaximum()); });
     connect(&m_load, &QFutureWatcher<LoadedFile>::finished, this, &SafeUnlock::onLoaded);
-    m_load.setFuture(loadItemFiles(*names, m_contentFolder, m_password, m_environment.files));
+    m_load.setFuture(
+        loadItemFiles(*names, m_folder.path(SafeLayout::content), m_password, m_environment.files));
     return true;
 }
 

@@ -16,7 +16,14 @@ class SafeUnlock : public QObject
     Q_OBJECT
 
 public:
-    enum class Outcome { Unlocked, WrongPassword, Unreadable, Cancelled };
+    enum class Outcome {
+        Unlocked,
+        WrongPassword,
+        FormerPassword,    ///< the one of before the last change
+        InterruptedChange, ///< the one of before a change that was interrupted; it opens every item
+        Unreadable,
+        Cancelled
+    };
     Q_ENUM(Outcome)
 
     /// An attempt on the safe of a folder; null, logged, when there is nothing to try.
@@ -27,8 +34,8 @@ public:
     static void logFailure(Outcome outcome, const SafeFolder &folder);
 
     /// @param passId the safe's pass id
-    SafeUnlock(const SafeEnvironment &environment, const QString &contentFolder,
-               const QString &passId, std::shared_ptr<const SecretBytes> password);
+    SafeUnlock(const SafeEnvironment &environment, const SafeFolder &folder, const QString &passId,
+               std::shared_ptr<const SecretBytes> password);
     /// Cancels a run and waits for the files that workers have in hand.
     ~SafeUnlock() override;
 
@@ -48,15 +55,17 @@ Q_SIGNALS:
     void finished(SafeUnlock::Outcome outcome);
 
 private:
+    static Outcome check(FileLayer &files, const SafeFolder &folder, const QByteArray &password,
+                         const QString &passId);
     bool startLoading();
     void onChecked();
     void onLoaded();
 
     SafeEnvironment m_environment;
-    QString m_contentFolder;
+    SafeFolder m_folder;
     QString m_passId;
     std::shared_ptr<const SecretBytes> m_password;
-    QFutureWatcher<bool> m_check;
+    QFutureWatcher<Outcome> m_check;
     QFutureWatcher<LoadedFile> m_load;
     LoadedItems m_items;
     bool m_cancelled = false;

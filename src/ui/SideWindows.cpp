@@ -44,6 +44,7 @@ void SideWindows::setMain(QWidget *main)
     delete m_settings;
     delete m_restore;
     m_main = main;
+    m_passwordChange.setWindow(main);
 }
 
 void SideWindows::openGenerator()
@@ -116,7 +117,7 @@ QWidget *SideWindows::makePasswordRow(QWidget *parent)
 
 void SideWindows::openChangePassword()
 {
-    m_passwordChange.open(m_main);
+    m_passwordChange.open();
 }
 
 void SideWindows::openRestore()

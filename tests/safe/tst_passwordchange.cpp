@@ -1,3 +1,4 @@
+#include "FormerPassword.h"
 #include "PMItemFactory.h"
 #include "SafeCrypto.h"
 #include "SafeTesting.h"
@@ -72,6 +73,12 @@ bool opensWhole(const QString &folder, const QString &password)
     bytes.open(QIODevice::WriteOnly);
     return safe.readAttachment(attachmentId, bytes) && bytes.size() > 12000 &&
            safe.item(attachmentId)->property("hash").toString().size() == 44;
+}
+
+bool tellsOfInterruption(const QString &folder, const QString &password)
+{
+    GPMSafe safe;
+    return safe.open(folder) && safe.unlock(password) && safe.isChangeInterrupted();
 }
 
 } // namespace
@@ -195,6 +202,25 @@ private Q_SLOTS:
         QVERIFY(safe.open(m_folder) && safe.unlock(newPassword));
         QVERIFY(safe.changePassword(samplePassword));
         QVERIFY(opensWhole(m_folder, samplePassword));
+    }
+
+    /// A change that was done leaves a copy of the old pass id, too, and is no interrupted one; a
+    /// file that is damaged later does not make it one.
+    void aDoneChangeIsNotTakenForAnInterruptedOne()
+    {
+        QVERIFY(change(m_folder, std::make_shared<FaultyFiles>(), OnTheWriter).good);
+        FileLayer files;
+        const SafeFolder folder(m_folder);
+        for (const bool damaged : {false, true}) {
+            if (damaged)
+                writeFile(m_folder +
+                              QStringLiteral("/content/00000000-0000-0001-0000-000000001234.1"),
+                          "damaged");
+            QVERIFY(!tellsOfInterruption(m_folder, newPassword));
+            QVERIFY(formerPassword(files, folder, samplePassword.toUtf8()) ==
+                    FormerPassword::Former);
+            QVERIFY(formerPassword(files, folder, "neither") == FormerPassword::No);
+        }
     }
 
     void refusesBeforeItTouchesAnything()
@@ -384,12 +410,21 @@ private Q_SLOTS:
                      m_before.value(QStringLiteral("safe.meta")));
             const QString passId =
                 QString::fromLatin1(contentOf(m_folder + QStringLiteral("/safe.passid")));
+            // Only what was interrupted is told of, and that always.
+            const bool complete = opensWhole(m_folder, newPassword);
+            const bool told = tellsOfInterruption(m_folder, newPassword);
             const bool old = checkPassId(samplePassword.toUtf8(), passId);
             QVERIFY(old || checkPassId(newPassword.toUtf8(), passId));
-            if (old || opensWhole(m_folder, newPassword)) {
+            if (old || complete) {
+                QVERIFY(!told);
                 QVERIFY(!old || opensWhole(m_folder, samplePassword));
                 continue;
             }
+            QVERIFY(told);
+            FileLayer files;
+            const SafeFolder folder(m_folder);
+            QVERIFY(formerPassword(files, folder, samplePassword.toUtf8()) ==
+                    FormerPassword::Interrupted);
             const QString backup = m_folder + QStringLiteral("/safe.passid.bak");
             writeFile(m_folder + QStringLiteral("/safe.passid"), contentOf(backup));
             QVERIFY(opensWhole(m_folder, samplePassword));

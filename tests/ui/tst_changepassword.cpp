@@ -29,7 +29,8 @@ struct Desk
         window.show();
         // A window that becomes active later would take the keyboard.
         const bool ready = QTest::qWaitForWindowActive(&window);
-        desk.open(&window);
+        desk.setWindow(&window);
+        desk.open();
         QApplication::setActiveWindow(dialog());
         if (!ready || QApplication::activeWindow() != dialog())
             qFatal("The window does not come up");
@@ -209,7 +210,7 @@ void TestChangePassword::aLockClosesAndForgets()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!dialog);
     // And does not come up without an open safe.
-    test.desk.open(&test.window);
+    test.desk.open();
     QVERIFY(!test.dialog());
 }
 

@@ -87,3 +87,24 @@ QString ChangePasswordRules::endMessage(PasswordChangeOutcome outcome, const QSt
     }
     return {};
 }
+
+QString ChangePasswordRules::interruptedMessage(const QString &safeName, int opened, int total)
+{
+    const QString found =
+        opened < 0 ? Words::tr("A change of the password of “%1” was interrupted. The new password "
+                               "opens the safe, but perhaps not every item; this old one still "
+                               "opens them all.")
+                         .arg(safeName)
+                   : Words::tr("A change of the password of “%1” was interrupted. The new password "
+                               "opens %2 of %3 items; the old one still opens those that were "
+                               "there before. Change nothing now: it would be missing when you go "
+                               "back.")
+                         .arg(safeName)
+                         .arg(opened)
+                         .arg(total);
+    return found + QStringLiteral("\n\n") +
+           Words::tr("To go back to the old password, quit the program and open the folder of the "
+                     "safe. Keep a copy of “safe.passid” in another place. Then copy "
+                     "“safe.passid.bak” over “safe.passid”: every item opens with the old "
+                     "password again, and you can change it anew.");
+}

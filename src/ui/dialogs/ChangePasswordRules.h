@@ -34,4 +34,8 @@ Field firstFault(const Input &input);
 /// @param byUser it was the user who cancelled it, rather than a lock
 QString endMessage(PasswordChangeOutcome outcome, const QString &safeName, bool byUser);
 
+/// How a safe stands whose change of password was interrupted, and the way back.
+/// @param opened with the new password, of so many items; -1 when the old one was tried
+QString interruptedMessage(const QString &safeName, int opened, int total);
+
 } // namespace ChangePasswordRules

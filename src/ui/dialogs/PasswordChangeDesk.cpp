@@ -7,6 +7,16 @@
 #include <QDesktopServices>
 #include <QUrl>
 
+namespace {
+
+ProgressDialog::Way wayToFolder(const QString &folder)
+{
+    return {PasswordChangeDesk::tr("Open folder"),
+            [folder] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); }};
+}
+
+} // namespace
+
 PasswordChangeDesk::PasswordChangeDesk(GPMAppCore &core, const Theme &theme, QObject *parent)
     : QObject(parent)
     , m_core(core)
@@ -16,9 +26,10 @@ PasswordChangeDesk::PasswordChangeDesk(GPMAppCore &core, const Theme &theme, QOb
         if (m_dialog)
             m_dialog->reject();
     });
+    connect(&core, &GPMAppCore::unlockFinished, this, &PasswordChangeDesk::tellInterrupted);
 }
 
-void PasswordChangeDesk::open(QWidget *window)
+void PasswordChangeDesk::open()
 {
     const std::shared_ptr<GPMSafe> safe = m_core.currentSafe();
     if (!safe || !safe->isUnlocked())
@@ -28,11 +39,10 @@ void PasswordChangeDesk::open(QWidget *window)
     if (!shown && safe->isChangingPassword())
         shown = m_progress;
     if (!shown) {
-        m_window = window;
         m_dialog = new ChangePasswordDialog(
             {[safe](const QString &password) { return safe->isPassword(password); }, safe->hint(),
              m_core.platform()},
-            m_theme, window);
+            m_theme, m_window);
         m_dialog->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_dialog, &ChangePasswordDialog::confirmed, this, &PasswordChangeDesk::start);
         shown = m_dialog;
@@ -76,11 +86,26 @@ void PasswordChangeDesk::tellEnd(PasswordChangeOutcome outcome)
     ProgressDialog::Way way;
     if (safe &&
         (outcome == PasswordChangeOutcome::Damaged || outcome == PasswordChangeOutcome::NotWritten))
-        way = {tr("Open folder"), [folder = safe->folder()] {
-                   QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
-               }};
+        way = wayToFolder(safe->folder());
     m_progress->tell(
         outcome == PasswordChangeOutcome::Changed,
         ChangePasswordRules::endMessage(outcome, safe ? safe->name() : QString(), m_cancelled),
         way);
+}
+
+void PasswordChangeDesk::tellInterrupted(SafeUnlock::Outcome outcome)
+{
+    const std::shared_ptr<GPMSafe> safe = m_core.currentSafe();
+    const bool oldTried = outcome == SafeUnlock::Outcome::InterruptedChange;
+    if (!safe || (!oldTried && !(safe->isUnlocked() && safe->isChangeInterrupted())))
+        return;
+    const int opened = safe->itemCount();
+    delete m_progress;
+    m_progress = new ProgressDialog(tr("Change Password"), {}, m_theme, m_window);
+    m_progress->setAttribute(Qt::WA_DeleteOnClose);
+    m_progress->tell(
+        false,
+        ChangePasswordRules::interruptedMessage(safe->name(), oldTried ? -1 : opened,
+                                                opened + safe->unreadableFiles().size()),
+        wayToFolder(safe->folder()));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PasswordChange.h"
+#include "SafeUnlock.h"
 
 #include <QObject>
 #include <QPointer>
@@ -20,12 +21,15 @@ class PasswordChangeDesk : public QObject
 public:
     PasswordChangeDesk(GPMAppCore &core, const Theme &theme, QObject *parent = nullptr);
 
-    /// @param window what the windows are shown above, and their owner
-    void open(QWidget *window);
+    /// What the windows are shown above, and their owner.
+    void setWindow(QWidget *window) { m_window = window; }
+
+    void open();
 
 private:
     void start(const QString &newPassword, const QString &hint);
     void tellEnd(PasswordChangeOutcome outcome);
+    void tellInterrupted(SafeUnlock::Outcome outcome);
 
     GPMAppCore &m_core;
     const Theme &m_theme;

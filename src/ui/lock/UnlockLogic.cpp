@@ -170,6 +170,12 @@ void UnlockLogic::onFinished(SafeUnlock::Outcome outcome)
     case SafeUnlock::Outcome::WrongPassword:
         setMessage(tr("Wrong Password! Try again"));
         break;
+    case SafeUnlock::Outcome::FormerPassword:
+        setMessage(tr("This is the password from before it was changed. Use the new one."));
+        break;
+    case SafeUnlock::Outcome::InterruptedChange:
+        setMessage(tr("This is the password from before a change that was interrupted."));
+        break;
     case SafeUnlock::Outcome::Unreadable:
         setMessage(tr("The safe could not be read. Check that its folder is there and that you "
                       "may read it, then try again."));
