@@ -15,9 +15,8 @@ namespace {
 struct Question
 {
     QStringList infoFiles;
-    QStringList shared;  ///< besides the provider's folders
-    QStringList safes;   ///< folders of the known safes
-    QStringList mirrors; ///< of the known safes
+    QStringList shared; ///< besides the provider's folders
+    QStringList safes;  ///< folders of the known safes
 };
 
 bool isThere(const QString &folder, const QStringList &folders)
@@ -48,8 +47,7 @@ CloudFolders::Found search(FileLayer &files, const Question &question)
         const QVector<MirroredSafe> safes = mirroredSafes(files, place);
         for (const MirroredSafe &safe : safes) {
             // One that is mirrored at two places is offered once.
-            if (known.contains(safe.created) || isThere(safe.path, question.mirrors) ||
-                isThere(safe.path, question.safes))
+            if (known.contains(safe.created) || isThere(safe.path, question.safes))
                 continue;
             known.insert(safe.created);
             found.offers.append(safe);
@@ -60,9 +58,10 @@ CloudFolders::Found search(FileLayer &files, const Question &question)
 
 } // namespace
 
-CloudFolders::CloudFolders(const World &world, QObject *parent)
+CloudFolders::CloudFolders(KnownSafes &safes, const QStringList &infoFiles, QObject *parent)
     : QObject(parent)
-    , m_world(world)
+    , m_safes(safes)
+    , m_infoFiles(infoFiles)
 {
     connect(&m_watcher, &QFutureWatcher<Found>::finished, this, [this] {
         m_found = m_watcher.result();
@@ -70,7 +69,7 @@ CloudFolders::CloudFolders(const World &world, QObject *parent)
         if (std::exchange(m_onceMore, false))
             look();
     });
-    connect(&m_world.safes, &KnownSafes::changed, this, &CloudFolders::look);
+    connect(&m_safes, &KnownSafes::changed, this, &CloudFolders::look);
 }
 
 CloudFolders::~CloudFolders()
@@ -82,9 +81,9 @@ CloudFolders::~CloudFolders()
 QStringList CloudFolders::sharedFolders() const
 {
     QStringList folders = m_named;
-    const QStringList safes = m_world.facts.folders();
+    const QStringList safes = m_safes.facts().folders();
     for (const QString &safe : safes) {
-        const QString mirror = m_world.facts.of(safe).mirrorFolder;
+        const QString mirror = m_safes.facts().of(safe).mirrorFolder;
         if (!mirror.isEmpty())
             folders.append(QFileInfo(mirror).path());
     }
@@ -98,19 +97,20 @@ void CloudFolders::look()
         m_onceMore = true;
         return;
     }
-    Question question{m_world.infoFiles, sharedFolders(), {}, {}};
-    const QVector<KnownSafes::Entry> entries = m_world.safes.entries();
-    for (const KnownSafes::Entry &entry : entries)
-        question.safes.append(entry.folder);
-    const QStringList folders = m_world.facts.folders();
+    Question question{m_infoFiles, sharedFolders(), {}};
+    const QVector<KnownSafes::Entry> entries = m_safes.entries();
+    for (const KnownSafes::Entry &entry : entries) {
+        if (entry.available)
+            question.safes.append(entry.folder);
+    }
+    const QStringList folders = m_safes.facts().folders();
     for (const QString &folder : folders) {
-        const QString mirror = m_world.facts.of(folder).mirrorFolder;
-        // A safe that has gone may be taken over anew.
-        if (!mirror.isEmpty() && question.safes.contains(folder))
-            question.mirrors.append(mirror);
+        // One that was taken off the list is still there.
+        if (m_safes.facts().of(folder).isHidden)
+            question.safes.append(folder);
     }
     m_watcher.setFuture(QtConcurrent::run(
-        [question, files = m_world.environment.files] { return search(*files, question); }));
+        [question, files = m_safes.environment().files] { return search(*files, question); }));
 }
 
 void CloudFolders::add(const QString &folder)
@@ -122,8 +122,8 @@ void CloudFolders::add(const QString &folder)
 
 std::unique_ptr<ArchiveTask> CloudFolders::importSafe(const QString &mirrorFolder)
 {
-    const SafeEnvironment environment = m_world.environment;
-    const QString safesFolder = m_world.safesFolder;
+    const SafeEnvironment environment = m_safes.environment();
+    const QString safesFolder = m_safes.safesFolder();
     auto task = std::make_unique<ArchiveTask>([=](WorkControl &control) {
         return MirrorImport(environment, safesFolder).run(mirrorFolder, control);
     });
@@ -131,9 +131,9 @@ std::unique_ptr<ArchiveTask> CloudFolders::importSafe(const QString &mirrorFolde
         const ArchiveResult &result = started->result();
         if (!result.good())
             return;
-        m_world.facts.change(result.path,
-                             [&mirrorFolder](SafeFact &fact) { fact.mirrorFolder = mirrorFolder; });
-        m_world.safes.remember(result.path);
+        m_safes.facts().change(
+            result.path, [&mirrorFolder](SafeFact &fact) { fact.mirrorFolder = mirrorFolder; });
+        m_safes.remember(result.path);
     });
     return task;
 }

@@ -17,15 +17,6 @@ class CloudFolders : public QObject
     Q_OBJECT
 
 public:
-    struct World
-    {
-        KnownSafes &safes;
-        SafeFacts &facts;
-        QString safesFolder;   ///< where a safe that is taken over gets its folder
-        QStringList infoFiles; ///< of the provider; see providerInfoFiles()
-        SafeEnvironment environment{};
-    };
-
     /// What was found.
     struct Found
     {
@@ -34,7 +25,8 @@ public:
         QVector<MirroredSafe> offers; ///< safes that this computer does not know
     };
 
-    explicit CloudFolders(const World &world, QObject *parent = nullptr);
+    /// @param infoFiles of the provider; see providerInfoFiles()
+    CloudFolders(KnownSafes &safes, const QStringList &infoFiles, QObject *parent = nullptr);
     /// Waits until a search under way has ended.
     ~CloudFolders() override;
 
@@ -58,7 +50,8 @@ Q_SIGNALS:
 private:
     QStringList sharedFolders() const;
 
-    World m_world;
+    KnownSafes &m_safes;
+    QStringList m_infoFiles;
     QStringList m_named;
     Found m_found;
     bool m_onceMore = false;

@@ -50,12 +50,16 @@ bool opensPassId(FileLayer &files, const QString &folder, const SecretBytes &pas
 
 } // namespace
 
-CloudSync::CloudSync(const World &world, QObject *parent)
+CloudSync::CloudSync(KnownSafes &safes, std::function<QString()> backupFolder,
+                     GPMSafeSyncHelper::Pauses pauses, QObject *parent)
     : QObject(parent)
-    , m_world(world)
+    , m_facts(safes.facts())
+    , m_environment(safes.environment())
+    , m_backupFolder(std::move(backupFolder))
+    , m_pauses(pauses)
 {
     m_worker.setMaxThreadCount(1);
-    connect(&m_world.facts, &SafeFacts::changed, this, &CloudSync::onFactsChanged);
+    connect(&m_facts, &SafeFacts::changed, this, &CloudSync::onFactsChanged);
 }
 
 CloudSync::~CloudSync()
@@ -86,16 +90,17 @@ void CloudSync::setSafe(const std::shared_ptr<GPMSafe> &safe)
     if (!m_safe)
         return;
     connect(m_safe.get(), &GPMSafe::lockedChanged, this, &CloudSync::onLockedChanged);
+    connect(m_safe.get(), &GPMSafe::passwordChangeProgress, this, &CloudSync::passwordProgress);
+    connect(m_safe.get(), &GPMSafe::passwordChangeFinished, this, &CloudSync::onPasswordChanged);
     startHelper();
 }
 
 void CloudSync::startHelper()
 {
-    m_mirrorFolder = m_world.facts.of(m_safe->folder()).mirrorFolder;
+    m_mirrorFolder = m_facts.of(m_safe->folder()).mirrorFolder;
     if (m_mirrorFolder.isEmpty())
         return;
-    m_helper = std::make_unique<GPMSafeSyncHelper>(m_safe, m_mirrorFolder, m_world.environment,
-                                                   m_world.pauses);
+    m_helper = std::make_unique<GPMSafeSyncHelper>(m_safe, m_mirrorFolder, m_environment, m_pauses);
     connect(m_helper.get(), &GPMSafeSyncHelper::started, this, &CloudSync::onStarted);
     connect(m_helper.get(), &GPMSafeSyncHelper::progress, this, &CloudSync::onProgress);
     connect(m_helper.get(), &GPMSafeSyncHelper::synchronized, this, &CloudSync::onMet);
@@ -119,7 +124,7 @@ bool CloudSync::isCurrent(const QString &safeFolder) const
 
 void CloudSync::onFactsChanged(const QString &safeFolder)
 {
-    if (isCurrent(safeFolder) && m_world.facts.of(safeFolder).mirrorFolder != m_mirrorFolder) {
+    if (isCurrent(safeFolder) && m_facts.of(safeFolder).mirrorFolder != m_mirrorFolder) {
         stopHelper();
         startHelper();
     }
@@ -161,11 +166,11 @@ void CloudSync::onMet(SyncState state)
 void CloudSync::noteMeeting(int afterSeconds)
 {
     const QDateTime met = m_helper->lastMet();
-    const QDateTime noted = m_world.facts.of(m_safe->folder()).lastSynchronised;
+    const QDateTime noted = m_facts.of(m_safe->folder()).lastSynchronised;
     // A clock that was set back must not stop it.
     if (!met.isValid() || (noted.isValid() && qAbs(noted.secsTo(met)) < afterSeconds))
         return;
-    m_world.facts.change(m_safe->folder(), [&met](SafeFact &fact) { fact.lastSynchronised = met; });
+    m_facts.change(m_safe->folder(), [&met](SafeFact &fact) { fact.lastSynchronised = met; });
 }
 
 void CloudSync::tellTrouble()
@@ -195,7 +200,7 @@ CloudStatus CloudSync::status() const
 CloudStatus CloudSync::status(const QString &safeFolder) const
 {
     using State = CloudStatus::State;
-    const SafeFact fact = m_world.facts.of(safeFolder);
+    const SafeFact fact = m_facts.of(safeFolder);
     CloudStatus status;
     status.mirrorFolder = fact.mirrorFolder;
     status.last = fact.lastSynchronised;
@@ -224,9 +229,9 @@ CloudStatus CloudSync::status(const QString &safeFolder) const
 QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
 {
     QStringList mirrors;
-    const QStringList folders = m_world.facts.folders();
+    const QStringList folders = m_facts.folders();
     for (const QString &folder : folders) {
-        const QString mirror = m_world.facts.of(folder).mirrorFolder;
+        const QString mirror = m_facts.of(folder).mirrorFolder;
         if (!mirror.isEmpty() && !isSameFolder(folder, safeFolder) && QFileInfo(folder).isDir())
             mirrors.append(mirror);
     }
@@ -235,9 +240,9 @@ QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
 
 void CloudSync::turnOn(const QString &safeFolder, const QString &sharedFolder)
 {
-    const MirrorChoice::Wish wish{safeFolder, 0, sharedFolder, m_world.backupFolder(),
+    const MirrorChoice::Wish wish{safeFolder, 0, sharedFolder, m_backupFolder(),
                                   mirrorsOfOthers(safeFolder)};
-    const SafeEnvironment environment = m_world.environment;
+    const SafeEnvironment environment = m_environment;
     const auto prepare = [wish, environment] {
         MirrorChoice::Wish known = wish;
         const auto description = readDescription(*environment.files, wish.safeFolder);
@@ -260,7 +265,7 @@ void CloudSync::turnOn(const QString &safeFolder, const QString &sharedFolder)
 
 void CloudSync::join(const QString &safeFolder, const QString &mirrorFolder)
 {
-    m_world.facts.change(safeFolder, [&mirrorFolder](SafeFact &fact) {
+    m_facts.change(safeFolder, [&mirrorFolder](SafeFact &fact) {
         fact.mirrorFolder = mirrorFolder;
         fact.lastSynchronised = {};
     });
@@ -268,12 +273,12 @@ void CloudSync::join(const QString &safeFolder, const QString &mirrorFolder)
 
 void CloudSync::turnOff(const QString &safeFolder, bool removeCopy)
 {
-    const QString mirror = m_world.facts.of(safeFolder).mirrorFolder;
+    const QString mirror = m_facts.of(safeFolder).mirrorFolder;
     if (mirror.isEmpty())
         return;
-    const auto description = readDescription(*m_world.environment.files, safeFolder);
+    const auto description = readDescription(files(), safeFolder);
     const bool isMeeting = isCurrent(safeFolder) && m_helper && m_helper->isRunning();
-    m_world.facts.change(safeFolder, [](SafeFact &fact) {
+    m_facts.change(safeFolder, [](SafeFact &fact) {
         fact.mirrorFolder.clear();
         fact.lastSynchronised = {};
     });
@@ -301,7 +306,7 @@ void CloudSync::removeWhenMet(const QString &mirrorFolder, qint64 created)
 
 void CloudSync::removeCopyOf(const QString &mirrorFolder, qint64 created)
 {
-    const std::shared_ptr<FileLayer> files = m_world.environment.files;
+    const std::shared_ptr<FileLayer> files = m_environment.files;
     work<bool>([=] { return removeMirror(*files, mirrorFolder, created); },
                [=](bool good) { Q_EMIT copyRemoved(mirrorFolder, good); });
 }
@@ -324,7 +329,7 @@ void CloudSync::takePassword(const QString &password)
         return;
     }
     const auto secret = std::make_shared<const SecretBytes>(SecretBytes::fromText(password));
-    const auto files = m_world.environment.files;
+    const auto files = m_environment.files;
     work<bool>(
         [files, secret, mirror = m_mirrorFolder] { return opensPassId(*files, mirror, *secret); },
         [this, password](bool opens) {
@@ -339,15 +344,36 @@ void CloudSync::takePassword(const QString &password)
 
 void CloudSync::changePassword(const QString &password)
 {
-    const bool changed = m_safe->changePassword(password);
-    if (changed)
-        synchronize();
-    Q_EMIT passwordTaken(changed ? Taking::Taken : Taking::NotChanged);
+    m_isTaking = m_safe->changePasswordAsync(password, m_safe->hint());
+    if (!m_isTaking)
+        Q_EMIT passwordTaken(Taking::NotChanged);
+}
+
+void CloudSync::onPasswordChanged(PasswordChangeOutcome outcome)
+{
+    // The user may as well change it here.
+    if (!std::exchange(m_isTaking, false))
+        return;
+    switch (outcome) {
+    case PasswordChangeOutcome::Changed:
+        Q_EMIT passwordTaken(Taking::Taken);
+        break;
+    case PasswordChangeOutcome::Busy:
+        Q_EMIT passwordTaken(Taking::Busy);
+        break;
+    case PasswordChangeOutcome::Cancelled:
+        Q_EMIT passwordTaken(Taking::NotNeeded);
+        break;
+    case PasswordChangeOutcome::Damaged:
+    case PasswordChangeOutcome::NotWritten:
+        Q_EMIT passwordTaken(Taking::NotChanged);
+        break;
+    }
 }
 
 bool CloudSync::opensMirror(const QString &safeFolder, const QString &password) const
 {
-    const QString mirror = m_world.facts.of(safeFolder).mirrorFolder;
+    const QString mirror = m_facts.of(safeFolder).mirrorFolder;
     return !mirror.isEmpty() && !password.isEmpty() &&
-           opensPassId(*m_world.environment.files, mirror, SecretBytes::fromText(password));
+           opensPassId(files(), mirror, SecretBytes::fromText(password));
 }

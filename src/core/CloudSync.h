@@ -19,16 +19,9 @@ class CloudSync : public QObject
     Q_OBJECT
 
 public:
-    struct World
-    {
-        KnownSafes &safes;
-        SafeFacts &facts;
-        std::function<QString()> backupFolder;
-        SafeEnvironment environment{};
-        GPMSafeSyncHelper::Pauses pauses{};
-    };
-
-    explicit CloudSync(const World &world, QObject *parent = nullptr);
+    /// @param backupFolder where backups go, which no mirror may lie in
+    CloudSync(KnownSafes &safes, std::function<QString()> backupFolder,
+              GPMSafeSyncHelper::Pauses pauses = {}, QObject *parent = nullptr);
     /// Waits until what is being removed is gone.
     ~CloudSync() override;
 
@@ -59,6 +52,7 @@ public:
         Taken,
         Wrong,      ///< it does not open the mirror
         NotChanged, ///< the safe could not be encrypted anew; it is as it was
+        Busy,       ///< it is being backed up or archived
         NotNeeded,  ///< the safe was locked, or has the password already
     };
     /// Gives the current safe the password that its mirror has, and goes on; passwordTaken()
@@ -102,13 +96,20 @@ private:
     void removeWhenMet(const QString &mirrorFolder, qint64 created);
     void removeCopyOf(const QString &mirrorFolder, qint64 created);
     void changePassword(const QString &password);
+    void onPasswordChanged(PasswordChangeOutcome outcome);
 
-    World m_world;
+    FileLayer &files() const { return *m_environment.files; }
+
+    SafeFacts &m_facts;
+    SafeEnvironment m_environment;
+    std::function<QString()> m_backupFolder;
+    GPMSafeSyncHelper::Pauses m_pauses;
     std::shared_ptr<GPMSafe> m_safe;
     std::unique_ptr<GPMSafeSyncHelper> m_helper; ///< while the safe is mirrored
     QString m_mirrorFolder;
     int m_done = 0;
     int m_total = 0;
+    bool m_isTaking = false;                                      ///< a password
     CloudStatus::State m_told = CloudStatus::State::Synchronised; ///< the last trouble
     QThreadPool m_worker; ///< one thread, so that what is asked for keeps its order
 };

@@ -41,6 +41,9 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
                    safeEnvironment(places.dataFolder))
     , m_trace(m_knownSafes)
     , m_backups(m_settings, m_knownSafes, places.hiddenFolder + QStringLiteral("/backup"))
+    , m_cloud(
+          m_knownSafes, [this] { return m_backups.folder(); }, places.cloudPauses)
+    , m_cloudFolders(m_knownSafes, places.cloudInfoFiles)
     , m_privateFiles(PrivateFiles::places(places.runtimeFolder, places.dataFolder))
     , m_guard(
           m_settings, [this] { return m_safe && m_safe->isUnlocked(); }, places.activity())
@@ -53,6 +56,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     m_clipboard.adoptOtherCopies([this] { return m_settings.clearClipboard(); });
     connect(this, &GPMAppCore::currentSafeChanged, &m_trace, [this] { m_trace.follow(m_safe); });
     connect(this, &GPMAppCore::requestLock, &m_trace, &OpenSafeTrace::beforeLock);
+    connect(this, &GPMAppCore::currentSafeChanged, &m_cloud, [this] { m_cloud.setSafe(m_safe); });
     startGuard();
 }
 

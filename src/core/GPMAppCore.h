@@ -5,6 +5,8 @@
 #include "Backups.h"
 #include "BrowserLink.h"
 #include "ClipboardKeeper.h"
+#include "CloudFolders.h"
+#include "CloudSync.h"
 #include "GPMAppSettings.h"
 #include "Hotkeys.h"
 #include "ItemChanges.h"
@@ -38,6 +40,8 @@ public:
         quint16 port = 7899;        ///< of the browser link on 127.0.0.1
         QString runtimeFolder = {}; ///< for files that end with the session; may be empty
         std::function<std::unique_ptr<UserActivity>()> activity = &makeUserActivity;
+        QStringList cloudInfoFiles = providerInfoFiles(); ///< where the cloud folder is told of
+        GPMSafeSyncHelper::Pauses cloudPauses = {};
     };
 
     explicit GPMAppCore(const Places &places, QObject *parent = nullptr);
@@ -64,6 +68,9 @@ public:
     PrivateFiles &privateFiles() { return m_privateFiles; }
     LockGuard &guard() { return m_guard; }
     Backups &backups() { return m_backups; }
+    /// Keeps safes alike to their copies in a cloud folder.
+    CloudSync &cloud() { return m_cloud; }
+    CloudFolders &cloudFolders() { return m_cloudFolders; }
 
     /// Why the safe was locked, for the user; empty when the user did it or none was open.
     const QString &lockReason() const { return m_lockReason; }
@@ -158,6 +165,9 @@ public Q_SLOTS:
     void importSafeArchive(const QString &archivePath);
     void cancelImport();
 
+    /// Meets the mirror of the current safe now, if it has one.
+    void syncCurrentSafeSource() { m_cloud.synchronize(); }
+
     void exitPasswordManager();
 
 Q_SIGNALS:
@@ -195,6 +205,8 @@ private:
     KnownSafes m_knownSafes;
     OpenSafeTrace m_trace;
     Backups m_backups;
+    CloudSync m_cloud;
+    CloudFolders m_cloudFolders;
     std::unique_ptr<ArchiveTask> m_import;
     ClipboardKeeper m_clipboard;
     PrivateFiles m_privateFiles;

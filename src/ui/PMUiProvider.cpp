@@ -4,6 +4,7 @@
 #include "SideWindows.h"
 #include "TrayIcon.h"
 #include "WindowActivation.h"
+#include "cloud/CloudDesk.h"
 #include "dialogs/Question.h"
 #include "lock/PagesStack.h"
 #include "lock/SecureWindow.h"
@@ -45,10 +46,14 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
                               [this](const QString &language) { return setLanguage(language); },
                               [this](int percent) { return setTextPercent(percent); },
                               [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
-                              [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); }})
+                              [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); },
+                              [this](QWidget *row) { return m_cloud->makePanel(row); }})
             .settings();
     });
     m_safeDesk = std::make_unique<SafeDesk>(m_core, *m_theme);
+    m_cloud = std::make_unique<CloudDesk>(m_core, *m_theme);
+    m_safeDesk->setCloudOffers({[this] { return m_core.cloudFolders().found().offers.size(); },
+                                [this] { m_cloud->openImport(); }});
     makeFirstRun();
 }
 
@@ -68,6 +73,8 @@ void PMUiProvider::makeFirstRun()
     };
     m_firstRun =
         std::make_unique<FirstRun>(m_core, m_settings, *m_theme, m_translator, chooseLanguage);
+    connect(m_firstRun.get(), &FirstRun::cloudImportRequested, m_cloud.get(),
+            &CloudDesk::openImport);
 }
 
 void PMUiProvider::connectCore()
@@ -103,6 +110,7 @@ void PMUiProvider::createMainWindow()
     m_window = std::make_unique<SecureWindow>(m_core, *m_theme, view);
     m_window->setTrayCheck(m_hasTray);
     m_sideWindows->setMain(m_window.get());
+    m_cloud->setMain(m_window.get());
     m_firstRun->setMain(m_window.get());
     connectSafeDesk(*view);
     connectView(*view);
@@ -110,6 +118,9 @@ void PMUiProvider::createMainWindow()
     connect(m_window.get(), &SecureWindow::exitRequested, this, &PMUiProvider::exitByUser);
     connect(m_window.get(), &SecureWindow::settingsRequested, m_sideWindows.get(),
             &SideWindows::openSettings);
+    connect(m_window.get(), &SecureWindow::cloudImportRequested, m_cloud.get(),
+            &CloudDesk::openImport);
+    connect(m_cloud.get(), &CloudDesk::safeChosen, m_window.get(), &SecureWindow::switchSafe);
     connect(m_window.get(), &SecureWindow::restoreRequested, m_sideWindows.get(),
             &SideWindows::openRestore);
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
@@ -128,6 +139,8 @@ void PMUiProvider::connectView(MainView &view)
     connect(&view, &MainView::changePasswordRequested, m_sideWindows.get(),
             &SideWindows::openChangePassword);
     connect(&view, &MainView::lockRequested, this, &PMUiProvider::lock);
+    connect(&view.safeMenu(), &SafeMenu::synchronizeRequested, m_cloud.get(),
+            &CloudDesk::synchronize);
     connect(&view, &MainView::safeChosen, m_window.get(), &SecureWindow::switchSafe);
     connect(&view, &MainView::createSafeRequested, m_window.get(), &SecureWindow::createSafe);
     connect(&view, &MainView::itemOrderChanged, this,

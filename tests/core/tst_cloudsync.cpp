@@ -42,7 +42,6 @@ struct Computer
     SafeEnvironment world;
     GPMAppSettings settings;
     KnownSafes safes;
-    SafeFacts facts;
     CloudSync sync;
     CloudFolders folders;
     std::shared_ptr<GPMSafe> safe;
@@ -53,9 +52,9 @@ struct Computer
         , world{systemRandom, systemTime, disk, 1000, {}}
         , settings(home, home)
         , safes(settings, home + QStringLiteral("/safes"), world)
-        , facts(home + QStringLiteral("/safes.json"))
-        , sync({safes, facts, [this] { return home + QStringLiteral("/backup"); }, world, pauses})
-        , folders({safes, facts, home + QStringLiteral("/safes"), infoFiles, world})
+        , sync(
+              safes, [this] { return home + QStringLiteral("/backup"); }, pauses)
+        , folders(safes, infoFiles)
     {
     }
 

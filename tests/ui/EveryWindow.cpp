@@ -9,6 +9,7 @@
 #include "WindowChecks.h"
 #include "attachments/AttachmentPreview.h"
 #include "attachments/RenameDialog.h"
+#include "cloud/CloudPasswordDialog.h"
 #include "dialogs/ProgressDialog.h"
 #include "lock/PagesStack.h"
 #include "main/ItemPane.h"
@@ -35,6 +36,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -471,11 +474,34 @@ Stage::Stage(Safe safe)
     test.createSafe();
     if (safe == Filled || safe == Interrupted)
         fillSafe();
+    if (safe == Shared)
+        shareSafe();
     if (safe == Locked)
         test.core.lockCurrentSafe();
 }
 
 Stage::~Stage() = default;
+
+void Stage::shareSafe()
+{
+    const QString cloud = test.folder.path() + QStringLiteral("/cloud");
+    const QString others = cloud + QStringLiteral("/family");
+    const QJsonObject account{{QStringLiteral("path"), cloud}};
+    FileLayer().writeBytes(
+        test.folder.path() + QStringLiteral("/info.json"),
+        QJsonDocument(QJsonObject{{QStringLiteral("personal"), account}}).toJson());
+    QDir().mkpath(others);
+    GPMSafe().init(others, testPassword, QStringLiteral("Family"), {});
+    CloudSync &sync = test.core.cloud();
+    sync.turnOn(test.core.currentSafe()->folder(), cloud);
+    test.core.cloudFolders().look();
+    const auto isShared = [&] {
+        return sync.status().state == CloudStatus::State::Synchronised &&
+               !test.core.cloudFolders().found().offers.isEmpty();
+    };
+    if (!QTest::qWaitFor(isShared))
+        qFatal("The safe does not get into the cloud folder");
+}
 
 void Stage::attachRecoveryCodes()
 {
@@ -664,6 +690,7 @@ QSet<QString> Stage::ownWords() const
                       test.folder.path() + QStringLiteral("/hidden/backup passport.png"),
                       QStringLiteral("work gpm"),
                       extensionFolder,
+                      test.folder.path() + QStringLiteral("/cloud Family"),
                       QString::fromUtf8(browserExport),
                       QString::fromUtf8(unknownExport),
                       QStringLiteral("passwords.csv"),
@@ -677,6 +704,24 @@ QSet<QString> Stage::ownWords() const
     const QStringList words = WindowChecks::latinWords(texts.join(QLatin1Char(' ')));
     return {words.begin(), words.end()};
 }
+
+namespace {
+
+QWidget *cloudImport(Stage &stage)
+{
+    QWidget *settings = settingsPage(4)(stage);
+    find<QAbstractButton>(*settings, "cloudImportButton")->click();
+    return stage.window("cloudImportDialog");
+}
+
+QWidget *cloudPassword(Stage &stage)
+{
+    auto *dialog = new CloudPasswordDialog(
+        stage.test.core.cloud(), stage.test.core.currentSafe()->name(), stage.theme, stage.main);
+    return shownBeside(stage, dialog);
+}
+
+} // namespace
 
 const QVector<WindowCase> &everyWindow()
 {
@@ -722,8 +767,12 @@ const QVector<WindowCase> &everyWindow()
         {"change-password", changePassword},
         {"change-password-faults", changePasswordFaults},
         {"password-changed", passwordChanged},
-        {"settings-hotkeys", settingsPage(4)},
-        {"settings-appearance", settingsPage(5)},
+        {"settings-cloud", settingsPage(4), Stage::Shared},
+        {"settings-hotkeys", settingsPage(5)},
+        {"settings-appearance", settingsPage(6)},
+        {"cloud-safe", mainWindow, Stage::Shared},
+        {"cloud-import", cloudImport, Stage::Shared},
+        {"cloud-password", cloudPassword, Stage::Shared},
         {"wizard-language", firstWizardStep},
         {"wizard-safe", wizardStep("safe"), Stage::Locked},
         {"wizard-move-in", wizardStep("move-in")},

@@ -19,7 +19,8 @@ public:
         Filled,
         Empty,
         Locked,
-        Interrupted ///< filled, to be locked while something is edited
+        Interrupted, ///< filled, to be locked while something is edited
+        Shared       ///< in the cloud folder, beside the safe of somebody else
     };
 
     /// How everything is shown.
@@ -60,6 +61,7 @@ public:
 private:
     void fillSafe();
     void attachRecoveryCodes();
+    void shareSafe();
     QString id(const QString &title) const;
     void start(const Look &look);
     void startAgain();

@@ -32,6 +32,7 @@ struct TestCore
         places.configFolder = folder + QStringLiteral("/config");
         places.dataFolder = folder + QStringLiteral("/data");
         places.hiddenFolder = folder + QStringLiteral("/hidden");
+        places.cloudInfoFiles = QStringList{folder + QStringLiteral("/info.json")};
         places.activity = [user] { return std::make_unique<FakeActivity>(user); };
         return places;
     }

@@ -125,9 +125,3 @@ void DraftKeeper::onKeepRequested()
         tr("What you were typing could not be kept, as its file could not be written. Check the "
            "free space and the permissions of the program's data folder."));
 }
-
-void DraftKeeper::leaveKept()
-{
-    keepNow();
-    m_key.clear();
-}

@@ -22,9 +22,6 @@ public:
     /// Empty when nothing of what is edited has been kept.
     const QString &key() const { return m_key; }
 
-    /// Keeps what is edited, now, and lets go of it: its end no longer ends what is kept.
-    void leaveKept();
-
 private:
     void followSafe();
     void onEdited();

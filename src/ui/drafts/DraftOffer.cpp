@@ -43,8 +43,6 @@ void DraftOffer::openSafe(const std::shared_ptr<GPMSafe> &safe)
     m_safe = safe;
     connect(&safe->drafts(), &DraftStore::loaded, this, &DraftOffer::onLoaded,
             Qt::UniqueConnection);
-    connect(safe.get(), &GPMSafe::itemAboutToBeRemoved, this, &DraftOffer::onAboutToBeRemoved,
-            Qt::UniqueConnection);
     safe->drafts().loadAsync();
 }
 
@@ -95,15 +93,6 @@ void DraftOffer::onLoaded(const QVector<KeptDraft> &drafts, const QStringList &u
     }
     m_unreadable = unreadable;
     showNext();
-}
-
-void DraftOffer::onAboutToBeRemoved(const QString &id)
-{
-    // By another device, say: what is being typed about it is offered as a new item.
-    if (!m_pane.isEditing() || m_pane.editedId() != id)
-        return;
-    m_keeper.leaveKept();
-    m_safe->drafts().loadAsync();
 }
 
 void DraftOffer::showNext()

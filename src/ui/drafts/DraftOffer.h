@@ -38,7 +38,6 @@ private:
     enum class Way { Cancel, OnItem, AsNew };
 
     void onLoaded(const QVector<KeptDraft> &drafts, const QStringList &unreadable);
-    void onAboutToBeRemoved(const QString &id);
     void showNext();
     void showDraft(const KeptDraft &draft);
     void showUnreadable();

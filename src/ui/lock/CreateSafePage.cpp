@@ -2,6 +2,7 @@
 
 #include "CreateSafeForm.h"
 #include "GPMAppCore.h"
+#include "cloud/CloudOffer.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
@@ -21,6 +22,7 @@ const int columnWidth = 316;
 CreateSafePage::CreateSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_core(core)
+    , m_cloudOffer(new CloudOffer(core.cloudFolders(), theme, CloudOffer::Dark, this))
     , m_offer(makeLabel({}, "muted", this))
     , m_form(new CreateSafeForm(core, theme, CreateSafeForm::Dark, this))
     , m_back(makeButton(tr("Back"), "plain", this))
@@ -44,6 +46,8 @@ CreateSafePage::CreateSafePage(GPMAppCore &core, const Theme &theme, QWidget *pa
     connect(m_form, &CreateSafeForm::submitted, m_form, &CreateSafeForm::create);
     connect(m_create, &QPushButton::clicked, m_form, &CreateSafeForm::create);
     connect(m_back, &QPushButton::clicked, this, &CreateSafePage::backRequested);
+    connect(m_cloudOffer, &CloudOffer::importRequested, this,
+            &CreateSafePage::cloudImportRequested);
     m_create->setEnabled(false);
 }
 
@@ -52,6 +56,7 @@ void CreateSafePage::layOut(const Theme &theme)
     auto *column = new QVBoxLayout;
     column->setContentsMargins({});
     column->setSpacing(0);
+    column->addWidget(m_cloudOffer);
     column->addWidget(m_offer);
     column->addSpacing(Style::margin);
     column->addWidget(makeLabel(tr("Create a safe"), "title", this));
@@ -152,6 +157,7 @@ void CreateSafePage::showFolder()
 void CreateSafePage::start()
 {
     m_form->reset();
+    m_cloudOffer->look();
     m_offer->setText(m_core.knownSafes().entries().isEmpty()
                          ? tr("You have not Safe yet\nCreate one?")
                          : tr("Create\nanother one?"));

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class CloudOffer;
 class CreateSafeForm;
 class ElidedLabel;
 class GPMAppCore;
@@ -32,6 +33,8 @@ Q_SIGNALS:
     void backRequested();
     void importRequested();
     void restoreRequested();
+    /// A safe of the cloud folder is to come to this computer.
+    void cloudImportRequested();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -42,6 +45,7 @@ private:
     void showFolder();
 
     GPMAppCore &m_core;
+    CloudOffer *m_cloudOffer;
     QLabel *m_offer;
     CreateSafeForm *m_form;
     QPushButton *m_back;

@@ -28,6 +28,8 @@ PagesStack::PagesStack(GPMAppCore &core, const Theme &theme, QWidget *parent)
     connect(m_unlockPage, &MasterPasswordPage::restoreRequested, this,
             &PagesStack::restoreRequested);
     connect(m_createPage, &CreateSafePage::restoreRequested, this, &PagesStack::restoreRequested);
+    connect(m_createPage, &CreateSafePage::cloudImportRequested, this,
+            &PagesStack::cloudImportRequested);
     connect(m_createPage, &CreateSafePage::backRequested, this, &PagesStack::showUnlockPage);
 }
 

@@ -40,6 +40,7 @@ Q_SIGNALS:
     void importRequested();
     void safesRequested();
     void restoreRequested();
+    void cloudImportRequested();
 
 private:
     const Theme &m_theme;

@@ -70,6 +70,7 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     connect(m_pages, &PagesStack::safesRequested, this, &SecureWindow::safesRequested);
     connect(&core.knownSafes(), &KnownSafes::changed, this, &SecureWindow::showTitle);
     connect(m_pages, &PagesStack::restoreRequested, this, &SecureWindow::restoreRequested);
+    connect(m_pages, &PagesStack::cloudImportRequested, this, &SecureWindow::cloudImportRequested);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
     followSafe();

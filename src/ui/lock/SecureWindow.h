@@ -70,6 +70,8 @@ Q_SIGNALS:
     void safesRequested();
     /// A backup is to become a safe again.
     void restoreRequested();
+    /// A safe of the cloud folder is to come to this computer.
+    void cloudImportRequested();
     void _requestOpenShuttersPrivate(QPrivateSignal);
     void _requestCloseShuttersPrivate(QPrivateSignal);
 

@@ -247,6 +247,31 @@ void ItemPane::continueDraft(const KeptDraft &draft, const PMListItem *item)
     showEditor();
 }
 
+void ItemPane::letGo(const QString &id)
+{
+    const PMListItem *item = id == m_editedId ? m_core.currentSafe()->item(id) : nullptr;
+    if (!item || !m_editor->isModified())
+        return;
+    const QString title = item->title();
+    KeptDraft kept = keptDraft(*item, m_editor->draft());
+    // Under the id of the old one it would count as deleted.
+    kept.isNew = false;
+    continueDraft(kept, nullptr);
+    Q_EMIT edited();
+    Q_EMIT editedItemGone(title);
+}
+
+void ItemPane::keepLivingReferences(PMListItem &item) const
+{
+    QStringList living;
+    const QStringList references = item.refs();
+    for (const QString &id : references) {
+        if (m_core.currentSafe()->item(id))
+            living.append(id);
+    }
+    item.setRefs(living);
+}
+
 bool ItemPane::isEditing() const
 {
     return m_newItem || !m_editedId.isEmpty();
@@ -278,10 +303,13 @@ bool ItemPane::save()
     m_editedId.clear();
     if (m_newItem) {
         draft.writeTo(*m_newItem);
+        keepLivingReferences(*m_newItem);
         PMListItem *added = m_core.modelAddItem(std::move(m_newItem));
         id = added ? added->id() : QString();
     } else if (PMListItem *item = m_core.currentSafe()->item(id)) {
         draft.writeTo(*item);
+        // Who saves it wants it, although another computer moved it to the trash meanwhile.
+        item->setDeleted(false);
         m_core.modelItemChanged(id);
     }
     const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();

@@ -52,6 +52,9 @@ public:
     void discard();
     /// Asks about unsaved changes. True when there are none any more: they were saved or discarded.
     bool mayLeave();
+    /// An item is about to go, as it was deleted on another computer. What was typed into the
+    /// editor of it becomes that of a new item.
+    void letGo(const QString &id);
     /// Forgets what is edited without a word.
     void drop();
 
@@ -67,6 +70,8 @@ Q_SIGNALS:
     void edited();
     /// The editor lets go of what was edited: it was discarded, or the item has gone.
     void editEnded();
+    /// The item in the editor has gone; what was typed is that of a new one now.
+    void editedItemGone(const QString &title);
     /// The editor closed without saving.
     void discarded();
     void removeRequested(const QString &id);
@@ -91,6 +96,7 @@ private:
     void editPassword();
     void setFillType(PMFieldTypes::LoginFillType type);
     QString currentId() const;
+    void keepLivingReferences(PMListItem &item) const;
 
     GPMAppCore &m_core;
     const Theme &m_theme;

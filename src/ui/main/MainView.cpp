@@ -18,6 +18,7 @@
 #include "ShortcutsDialog.h"
 #include "Sidebar.h"
 #include "attachments/AttachmentActions.h"
+#include "cloud/CloudTexts.h"
 #include "drafts/DraftKeeper.h"
 #include "drafts/DraftOffer.h"
 #include "health/HealthDesk.h"
@@ -30,12 +31,14 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTimer>
 
 namespace {
 
 const int listWidth = 320;
 const int smallestItemWidth = 490;
 const int undoSeconds = 8;
+const int cloudRunningMs = 400;
 
 QStringList unreadablePaths(const GPMSafe &safe)
 {
@@ -53,6 +56,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     : SecureContent(parent)
     , m_core(core)
     , m_theme(theme)
+    , m_clock(clock)
 {
     setObjectName(QStringLiteral("mainView"));
     if (!asker)
@@ -70,6 +74,9 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_right->addWidget(m_pane);
     m_right->addWidget(m_selection);
     m_snack = new SnackBar(theme, this);
+    m_goneNotice = new NoticeBanner(QStringLiteral("alert-triangle"), theme, this);
+    m_goneNotice->setObjectName(QStringLiteral("goneNotice"));
+    m_cloudRunning = new QTimer(this);
     m_health = new HealthDesk(core, m_items, theme, this);
     m_health->serve(m_list->filter());
     m_moveDesk = new MoveDesk(core, theme, this);
@@ -80,6 +87,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_commands = new ItemCommands(core, theme, parts, *m_navigation, this);
     layOut();
     connectParts();
+    connectCloud();
     addShortcuts();
     connect(new DayWatch(clock, this), &DayWatch::dayChanged, this, &MainView::onDayChanged);
     m_items.setDescriber(
@@ -99,6 +107,7 @@ void MainView::layOut()
     right->setSpacing(0);
     right->addWidget(m_banner);
     right->addWidget(m_offer->banner());
+    right->addWidget(m_goneNotice);
     right->addWidget(m_pane->attachments().banner());
     right->addWidget(m_splitter, 1);
     auto *all = new QHBoxLayout(this);
@@ -144,6 +153,46 @@ void MainView::connectParts()
     connect(m_snack, &SnackBar::actionChosen, this, &MainView::undo);
 }
 
+void MainView::connectCloud()
+{
+    const CloudSync &cloud = m_core.cloud();
+    m_cloudRunning->setSingleShot(true);
+    m_cloudRunning->setInterval(cloudRunningMs);
+    connect(m_cloudRunning, &QTimer::timeout, this,
+            [this] { m_sidebar->setCloud(m_core.cloud().status(), m_clock()); });
+    connect(&cloud, &CloudSync::statusChanged, this, &MainView::showCloud);
+    connect(&cloud, &CloudSync::itemsCame, this, &MainView::tellNews);
+    connect(m_pane, &ItemPane::editEnded, m_goneNotice, &NoticeBanner::dismiss);
+    connect(m_pane, &ItemPane::saved, m_goneNotice, &NoticeBanner::dismiss);
+    connect(m_pane, &ItemPane::editedItemGone, this, &MainView::tellGone);
+}
+
+void MainView::showCloud()
+{
+    const CloudStatus status = m_core.cloud().status();
+    // Most meetings are over before anybody could read that there is one.
+    if (status.state == CloudStatus::State::Running) {
+        if (!m_cloudRunning->isActive())
+            m_cloudRunning->start();
+        return;
+    }
+    m_cloudRunning->stop();
+    m_sidebar->setCloud(status, m_clock());
+}
+
+void MainView::tellNews(int received, int removed)
+{
+    // The way back to what was just moved to the trash is not pushed aside.
+    if (!m_snack->offersAction())
+        m_snack->show(CloudTexts::news(received, removed));
+}
+
+void MainView::tellGone(const QString &title)
+{
+    m_goneNotice->tell(tr("“%1” was deleted on another computer.").arg(title),
+                       tr("What you have typed is kept. Save it as a new item, or discard it."));
+}
+
 void MainView::addShortcuts()
 {
     const auto command = [this](void (ItemCommands::*run)()) {
@@ -179,8 +228,12 @@ void MainView::addShortcuts()
 void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
 {
     m_splitter->show();
+    // Before the rows go.
+    connect(safe.get(), &GPMSafe::itemAboutToBeRemoved, m_pane, &ItemPane::letGo,
+            Qt::UniqueConnection);
     m_items.setSafe(safe);
     m_sidebar->setSafe(safe->name());
+    showCloud();
     m_list->setIconFolder(SafeFolder(safe->folder()).path(SafeLayout::favicon));
     m_banner->setUnreadableFiles(unreadablePaths(*safe));
     m_navigation->showCategory({});
@@ -207,6 +260,7 @@ void MainView::closeSafe()
     m_actions->forget();
     m_health->close();
     m_snack->dismiss();
+    m_goneNotice->dismiss();
     m_banner->setUnreadableFiles({});
     m_navigation->onContentChanged();
 }
@@ -228,6 +282,7 @@ void MainView::leaveRoom(const QSize &buttons)
     m_pane->setContentsMargins(0, qMax(0, buttons.height() - above), 0, 0);
     for (QWidget *banner :
          {static_cast<QWidget *>(m_banner), static_cast<QWidget *>(m_offer->banner()),
+          static_cast<QWidget *>(m_goneNotice),
           static_cast<QWidget *>(m_pane->attachments().banner())}) {
         // In the layout: the style sheet has the margins of frames to itself.
         QMargins margins = banner->layout()->contentsMargins();
@@ -292,6 +347,7 @@ void MainView::setItemOrder(const QString &name)
 void MainView::onDayChanged()
 {
     m_list->onDayChanged();
+    showCloud();
     m_navigation->onContentChanged();
     m_pane->page().refresh();
     m_health->onDayChanged();

@@ -19,7 +19,9 @@ class ItemListPane;
 class ItemNavigation;
 class ItemPane;
 class MoveDesk;
+class NoticeBanner;
 class QSplitter;
+class QTimer;
 class QStackedWidget;
 class SafeMenu;
 class SelectionPage;
@@ -86,6 +88,10 @@ private:
     void layOut();
     void connectParts();
     void addShortcuts();
+    void connectCloud();
+    void showCloud();
+    void tellNews(int received, int removed);
+    void tellGone(const QString &title);
     void onDayChanged();
     void onMovedToTrash(int count);
     void undo();
@@ -93,6 +99,7 @@ private:
 
     GPMAppCore &m_core;
     const Theme &m_theme;
+    Clock m_clock;
     ItemListModel m_items;
     ItemActions *m_actions;
     Banner *m_banner;
@@ -106,6 +113,8 @@ private:
     DraftOffer *m_offer;
     SelectionPage *m_selection;
     SnackBar *m_snack;
+    NoticeBanner *m_goneNotice;
+    QTimer *m_cloudRunning;
     HealthDesk *m_health;
     MoveDesk *m_moveDesk;
     ItemNavigation *m_navigation;

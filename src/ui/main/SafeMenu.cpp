@@ -33,6 +33,8 @@ QVector<SafeMenu::Row> SafeMenu::rows() const
         {"createSafeAction", "plus", tr("Create new..."), &SafeMenu::createRequested},
         {"safesAction", "squares", tr("Safes…"), &SafeMenu::safesRequested},
         line,
+        {"synchronizeAction", "refresh", tr("Synchronise now"), &SafeMenu::synchronizeRequested, "",
+         [this] { return m_core.cloud().status().isOn(); }},
         {"bringOverAction", "file-import", tr("Bring passwords over…"),
          &SafeMenu::bringOverRequested},
         {"exportItemsAction", "file-export", tr("Export items…"), &SafeMenu::exportItemsRequested},

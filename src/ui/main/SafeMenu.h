@@ -25,6 +25,7 @@ Q_SIGNALS:
     void exportItemsRequested();
     void changePasswordRequested();
     void lockRequested();
+    void synchronizeRequested();
 
 private:
     /// One command about the open safe.

@@ -1,5 +1,6 @@
 #include "SafeSwitcher.h"
 
+#include "cloud/CloudTexts.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
@@ -10,6 +11,7 @@
 namespace {
 
 const int switcherHeight = 52;
+const int cloudIconSize = 14;
 
 } // namespace
 
@@ -17,6 +19,7 @@ SafeSwitcher::SafeSwitcher(const Theme &theme, QWidget *parent)
     : QPushButton(parent)
     , m_theme(theme)
     , m_name(new ElidedLabel("heading", this))
+    , m_cloudIcon(new QLabel(this))
     , m_state(new ElidedLabel("label", this))
 {
     setObjectName(QStringLiteral("safeSwitcher"));
@@ -33,11 +36,19 @@ SafeSwitcher::SafeSwitcher(const Theme &theme, QWidget *parent)
     };
     showArrow();
     connect(&theme, &Theme::changed, this, showArrow);
+    connect(&theme, &Theme::changed, this, &SafeSwitcher::showCloud);
+    m_cloudIcon->setObjectName(QStringLiteral("cloudIcon"));
+    m_cloudIcon->hide();
+    m_state->setObjectName(QStringLiteral("safeState"));
+    auto *state = new QHBoxLayout;
+    state->setSpacing(4);
+    state->addWidget(m_cloudIcon);
+    state->addWidget(m_state, 1);
     auto *names = new QVBoxLayout;
     names->setSpacing(1);
     names->addStretch();
     names->addWidget(m_name);
-    names->addWidget(m_state);
+    names->addLayout(state);
     names->addStretch();
     m_row = new QHBoxLayout(this);
     m_row->setSpacing(9);
@@ -58,7 +69,27 @@ void SafeSwitcher::setSafe(const QString &name)
 
 void SafeSwitcher::setState(const QString &state)
 {
-    m_state->setFullText(state);
+    m_plainState = state;
+    showCloud();
+}
+
+void SafeSwitcher::setCloud(const CloudStatus &status, const QDateTime &now)
+{
+    m_cloud = status;
+    m_cloudLine = CloudTexts::line(status, now);
+    showCloud();
+}
+
+void SafeSwitcher::showCloud()
+{
+    const QString word = CloudTexts::word(m_cloud);
+    m_state->setFullText(word.isEmpty() ? m_plainState : word);
+    m_cloudIcon->setVisible(!word.isEmpty() && !m_folded);
+    if (!word.isEmpty()) {
+        const int size = Style::scaled(cloudIconSize);
+        m_cloudIcon->setPixmap(m_theme.icon(CloudTexts::icon(m_cloud), Palette::SidebarMuted)
+                                   .pixmap(window()->windowHandle(), QSize(size, size)));
+    }
     describe();
 }
 
@@ -73,14 +104,20 @@ void SafeSwitcher::setFolded(bool folded)
     m_row->setStretch(0, folded ? 1 : 0);
     m_row->setStretch(1, folded ? 0 : 1);
     m_row->setAlignment(m_row->itemAt(0)->widget(), Qt::AlignCenter);
-    describe();
+    showCloud();
 }
 
 void SafeSwitcher::describe()
 {
-    // Its words are nowhere else where there is no place for them.
-    setToolTip(m_folded ? m_name->fullText() + QLatin1Char('\n') + m_state->fullText()
-                        : tr("Switch to another safe"));
     setAccessibleName(tr("Safe: %1").arg(m_name->fullText()));
-    setAccessibleDescription(m_state->fullText());
+    const QString advice = CloudTexts::advice(m_cloud);
+    const QString cloud = advice.isEmpty() ? m_cloudLine : m_cloudLine + QLatin1Char('\n') + advice;
+    setAccessibleDescription(m_cloudLine.isEmpty() ? m_plainState
+                                                   : m_plainState + QStringLiteral(". ") + cloud);
+    const QString state = m_cloudLine.isEmpty() ? m_plainState : cloud;
+    // Its words are nowhere else where there is no place for them.
+    if (m_folded)
+        setToolTip(m_name->fullText() + QLatin1Char('\n') + state);
+    else
+        setToolTip(m_cloudLine.isEmpty() ? tr("Switch to another safe") : cloud);
 }

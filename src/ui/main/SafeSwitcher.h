@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CloudStatus.h"
+
 #include <QPushButton>
 
 class ElidedLabel;
@@ -17,17 +19,25 @@ public:
 
     void setSafe(const QString &name);
     void setState(const QString &state);
+    /// What there is to say of the safe's copy in the cloud folder, in place of the state; empty
+    /// while there is nothing.
+    void setCloud(const CloudStatus &status, const QDateTime &now);
 
     /// Shows the crystal alone.
     void setFolded(bool folded);
 
 private:
     void describe();
+    void showCloud();
 
     const Theme &m_theme;
     ElidedLabel *m_name;
+    QLabel *m_cloudIcon;
     ElidedLabel *m_state;
     QLabel *m_arrow;
     QHBoxLayout *m_row;
     bool m_folded = false;
+    QString m_plainState;
+    CloudStatus m_cloud;
+    QString m_cloudLine;
 };

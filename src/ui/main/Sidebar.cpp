@@ -144,6 +144,11 @@ void Sidebar::setCounts(const QVector<int> &counts)
     m_switcher->setState(tr("%1 · unlocked").arg(itemCountText(count({}))));
 }
 
+void Sidebar::setCloud(const CloudStatus &status, const QDateTime &now)
+{
+    m_switcher->setCloud(status, now);
+}
+
 int Sidebar::count(const ItemCategory &category) const
 {
     return m_model->count(category);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CloudStatus.h"
 #include "ItemCategory.h"
 
 #include <QWidget>
@@ -26,6 +27,8 @@ public:
     /// @param counts the number of items in each category of ItemCategory::all()
     void setCounts(const QVector<int> &counts);
     int count(const ItemCategory &category) const;
+    /// How it stands with the safe's copy in the cloud folder.
+    void setCloud(const CloudStatus &status, const QDateTime &now);
 
     /// Marks a category without telling.
     void setCategory(const ItemCategory &category);

@@ -38,8 +38,10 @@ SafesDialog::SafesDialog(GPMAppCore &core, const CloudOffers &offers, const Them
     connect(&theme, &Theme::changed, this, &SafesDialog::showRows);
     if (core.currentSafe())
         m_selected = core.knownSafes().listed(core.currentSafe()->folder());
+    connect(&core.cloudFolders(), &CloudFolders::changed, this, &SafesDialog::showOffers);
     refresh();
     showOffers();
+    core.cloudFolders().look();
 }
 
 void SafesDialog::layOut()

@@ -13,7 +13,7 @@ class QWidget;
 /// translated.
 struct Setting
 {
-    enum Page { General, Security, Browser, Backup, Hotkeys, Appearance, PageCount };
+    enum Page { General, Security, Browser, Backup, Cloud, Hotkeys, Appearance, PageCount };
     /// A panel is a widget of its own beside the settings of its page, and sets nothing.
     enum Editor { Switch, Number, Choice, Folder, Hotkey, Panel };
 

@@ -24,6 +24,7 @@ const PageLook pages[Setting::PageCount] = {
     {QT_TRANSLATE_NOOP("SettingsTable", "Security"), "shield-lock"},
     {QT_TRANSLATE_NOOP("SettingsTable", "Browser"), "world"},
     {QT_TRANSLATE_NOOP("SettingsTable", "Backup"), "archive"},
+    {QT_TRANSLATE_NOOP("SettingsTable", "Cloud folder"), "cloud"},
     {QT_TRANSLATE_NOOP("SettingsTable", "Hotkeys"), "keyboard"},
     {QT_TRANSLATE_NOOP("SettingsTable", "Appearance"), "palette"},
 };
@@ -47,7 +48,7 @@ QString SettingsTable::pageIcon(Setting::Page page)
 
 QVector<Setting> SettingsTable::settings() const
 {
-    return general() + security() + browser() + backup() + hotkeys() + appearance();
+    return general() + security() + browser() + backup() + cloud() + hotkeys() + appearance();
 }
 
 QVector<Setting> SettingsTable::general() const
@@ -255,6 +256,22 @@ QVector<Setting> SettingsTable::backup() const
     // What one comes to see.
     rows.prepend(state);
     return rows;
+}
+
+QVector<Setting> SettingsTable::cloud() const
+{
+    if (!m_parts.makeCloudPanel)
+        return {};
+    Setting state = {"cloud_state",
+                     Setting::Cloud,
+                     tr("Cloud folder"),
+                     tr("Keeps safes the same on several computers."),
+                     tr("synchronise sync mirror share provider account computers"),
+                     Setting::Panel,
+                     {},
+                     {}};
+    state.makePanel = m_parts.makeCloudPanel;
+    return {state};
 }
 
 QVector<Setting> SettingsTable::hotkeys() const

@@ -27,6 +27,8 @@ public:
         std::function<QWidget *(QWidget *parent)> makeBackupRow;
         /// The way to another master password.
         std::function<QWidget *(QWidget *parent)> makePasswordRow = {};
+        /// The same of the cloud folder.
+        std::function<QWidget *(QWidget *parent)> makeCloudPanel = {};
     };
 
     explicit SettingsTable(const Parts &parts);
@@ -41,6 +43,7 @@ private:
     QVector<Setting> security() const;
     QVector<Setting> browser() const;
     QVector<Setting> backup() const;
+    QVector<Setting> cloud() const;
     QVector<Setting> hotkeys() const;
     QVector<Setting> appearance() const;
 

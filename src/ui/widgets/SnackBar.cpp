@@ -66,6 +66,11 @@ void SnackBar::show(const QString &text, const QString &action, int seconds)
     Announcer::announce(*this, action.isEmpty() ? text : tr("%1. %2").arg(text, action));
 }
 
+bool SnackBar::offersAction() const
+{
+    return m_tick->isActive() && !m_action->text().isEmpty();
+}
+
 void SnackBar::dismiss()
 {
     m_tick->stop();

@@ -26,6 +26,8 @@ public:
     /// @param action the words on the button; empty for none, and then no seconds are counted
     void show(const QString &text, const QString &action = {}, int seconds = 6);
     void dismiss();
+    /// Whether something is shown that can be taken back.
+    bool offersAction() const;
 
     /// 0 is out of sight, 1 is in its place.
     qreal shown() const { return m_shown; }

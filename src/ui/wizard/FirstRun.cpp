@@ -30,7 +30,9 @@ QVector<WizardStep> FirstRun::steps() const
                                 parent);
     };
     const auto safe = [this](QWidget *parent) {
-        return new NewSafePage(m_core, m_theme, parent, m_safeWays);
+        auto *page = new NewSafePage(m_core, m_theme, parent, m_safeWays);
+        connect(page, &NewSafePage::cloudImportRequested, this, &FirstRun::cloudImportRequested);
+        return page;
     };
     QVector<WizardStep> all = {
         {"language", tr("Welcome"), tr("Which language do you want to use?"),

@@ -42,6 +42,8 @@ public:
 
 Q_SIGNALS:
     void doneChanged();
+    /// A safe of the cloud folder is to come to this computer.
+    void cloudImportRequested();
 
 private:
     QVector<WizardStep> steps() const;

@@ -1,6 +1,7 @@
 #include "NewSafePage.h"
 
 #include "GPMAppCore.h"
+#include "cloud/CloudOffer.h"
 #include "lock/CreateSafeForm.h"
 #include "style/Style.h"
 #include "style/Theme.h"
@@ -9,6 +10,7 @@
 NewSafePage::NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent, const Ways &ways)
     : WizardPage(parent)
     , m_core(core)
+    , m_cloudOffer(new CloudOffer(core.cloudFolders(), theme, CloudOffer::Plain, this))
     , m_form(new CreateSafeForm(core, theme, CreateSafeForm::Plain, this))
     , m_hintAdvice(makeLabel(tr("The hint is shown to everyone who opens this window. Let it "
                                 "remind you of the password, and nobody else."),
@@ -24,17 +26,20 @@ NewSafePage::NewSafePage(GPMAppCore &core, const Theme &theme, QWidget *parent, 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
+    column->addWidget(m_cloudOffer);
     column->addWidget(m_form);
     column->addWidget(m_hintAdvice);
     column->addWidget(m_made);
     column->addSpacing(Style::spacing);
     column->addWidget(m_ways);
     column->addStretch();
+    connect(m_cloudOffer, &CloudOffer::importRequested, this, &NewSafePage::cloudImportRequested);
     connect(m_form, &CreateSafeForm::changed, this, &WizardPage::changed);
     connect(&core.knownSafes(), &KnownSafes::changed, this, &NewSafePage::showState);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &NewSafePage::showState);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &NewSafePage::showState);
     showState();
+    m_cloudOffer->look();
 }
 
 QWidget *NewSafePage::makeWays(const Ways &ways)

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class CloudOffer;
 class CreateSafeForm;
 class GPMAppCore;
 class QLabel;
@@ -32,6 +33,10 @@ public:
     void takeFocus() override;
     void clearSecrets() override;
 
+Q_SIGNALS:
+    /// A safe of the cloud folder is to come to this computer.
+    void cloudImportRequested();
+
 private:
     QWidget *makeWays(const Ways &ways);
     bool isMade() const;
@@ -40,6 +45,7 @@ private:
     void showState();
 
     GPMAppCore &m_core;
+    CloudOffer *m_cloudOffer;
     CreateSafeForm *m_form;
     QLabel *m_hintAdvice;
     QLabel *m_made;
