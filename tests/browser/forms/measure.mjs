@@ -1,9 +1,10 @@
-// Prints how the fields of the pages here are read. node tests/browser/forms/measure.mjs [dev|held|wild] [--list]
-import { describe, pagesOf } from './pages.mjs';
+// Prints how the fields of the pages here are read. node tests/browser/forms/measure.mjs [dev|held|wild] [--list] [--chromium]
+import { describe, describeInChromium, pagesOf } from './pages.mjs';
 import { score, table } from './score.mjs';
 
 const set = process.argv[2] ?? 'dev';
-const results = score(pagesOf(set).map(describe));
+const pages = pagesOf(set);
+const results = score(process.argv.includes('--chromium') ? await describeInChromium(pages) : pages.map(describe));
 console.table(table(results));
 const filled = results.filter(({ told }) => ['login', 'card', 'identity'].some((action) => told[action])).length;
 const wrong = results.filter(({ outcome }) => outcome === 'wrong').length;

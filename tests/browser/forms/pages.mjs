@@ -1,5 +1,6 @@
 import { readFileSync, readdirSync } from 'node:fs';
 import { buildSync } from 'esbuild';
+import puppeteer from 'puppeteer-core';
 import { openPage } from '../../extension/page.mjs';
 
 const here = new URL('.', import.meta.url);
@@ -43,4 +44,19 @@ export function describe({ name, html }) {
   window.eval(describing);
   const { report, truth } = JSON.parse(JSON.stringify(window.describeWithTruth()));
   return { name, truth, page: report };
+}
+
+/** The same in a real browser, with its layout. */
+export async function describeInChromium(pages) {
+  const browser = await puppeteer.launch({ executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium', args: ['--no-sandbox'] });
+  const tab = await browser.newPage();
+  const described = [];
+  for (const { name, html } of pages) {
+    await tab.setContent(html);
+    await tab.evaluate(describing);
+    const { report, truth } = await tab.evaluate(() => globalThis.describeWithTruth());
+    described.push({ name, truth, page: report });
+  }
+  await browser.close();
+  return described;
 }
