@@ -231,6 +231,7 @@ const Row<CaptionKind> captionRows[] = {
      "sign in|signin|log in|login|log on|logon|sign on|access your account|returning customer|member login|welcome back|account access|"
      "anmelden|anmeldung|einloggen|iniciar sesion|acceder|acceso|entrar|se connecter|connexion|identification|s identifier|войти|вход|"
      "авторизация"},
+    {CaptionKind::GoOn, "=next|=continue|=weiter|=fortfahren|=siguiente|=continuar|=suivant|=continuer|=далее|=продолжить"},
     {CaptionKind::Card,
      "payment|pay|card|credit card|credit card information|payment details|payment information|payment method|add card|zahlung|bezahlen|"
      "kreditkarte|karte|pago|tarjeta|paiement|carte|payer|оплата|карта|картой|оплатить|secure checkout"},

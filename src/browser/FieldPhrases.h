@@ -29,5 +29,15 @@ struct TextMeaning
 TextMeaning meaningOf(const QString &text);
 
 /// Which part of a form a caption names: signing in, signing up, a newsletter, a search.
-enum class CaptionKind { None, SignIn, SignUp, ChangePassword, Newsletter, Card, Birth, Code };
+enum class CaptionKind {
+    None,
+    SignIn,
+    SignUp,
+    ChangePassword,
+    Newsletter,
+    Card,
+    Birth,
+    Code,
+    GoOn
+};
 CaptionKind captionKindOf(const QString &text);

@@ -134,20 +134,28 @@ int findUserName(const QVector<FormField> &fields, const QVector<FieldReading> &
 }
 
 /// A page that asks for the user name first shows no password, but says what it is for.
-bool isIdentifierFirst(const QVector<FormField> &fields, const QVector<FieldKind> &kinds,
-                       CaptionKind purpose)
+bool isIdentifierFirst(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                       const QVector<FieldKind> &kinds, const FormSurroundings &around)
 {
+    const CaptionKind purpose = purposeOf(around);
     int lines = 0;
     bool hasUserName = false;
+    bool hasAddress = false;
     for (int i = 0; i < fields.size(); ++i) {
         if (!fields.at(i).isVisible() || !fields.at(i).isLine() || kinds.at(i) == FieldKind::Never)
             continue;
         ++lines;
-        hasUserName = hasUserName || kinds.at(i) == FieldKind::UserName;
+        hasUserName = hasUserName || readings.at(i).says(FieldKind::UserName);
+        hasAddress = hasAddress || kinds.at(i) == FieldKind::Email;
     }
     if (lines != 1)
         return false;
-    return purpose == CaptionKind::SignIn || (hasUserName && purpose == CaptionKind::None);
+    const bool goesOn =
+        std::any_of(around.captions.begin(), around.captions.end(), [](const QString &caption) {
+            return captionKindOf(caption) == CaptionKind::GoOn;
+        });
+    const bool isAskedFor = hasUserName || (hasAddress && goesOn);
+    return purpose == CaptionKind::SignIn || (isAskedFor && purpose == CaptionKind::None);
 }
 
 } // namespace
@@ -168,7 +176,7 @@ void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReadi
     int userName = -1;
     if (!isChoosing && !passwords.isEmpty())
         userName = findUserName(fields, readings, kinds, passwords.first());
-    else if (!isChoosing && isIdentifierFirst(fields, kinds, purpose))
+    else if (!isChoosing && isIdentifierFirst(fields, readings, kinds, around))
         userName = findUserName(fields, readings, kinds, fields.size());
     // A name that is being chosen is none of ours.
     std::replace(kinds.begin(), kinds.end(), FieldKind::UserName, FieldKind::Other);

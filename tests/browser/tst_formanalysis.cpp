@@ -297,6 +297,8 @@ void TestFormAnalysis::veto_data()
     for (const char *field : never) {
         QTest::addRow("%s", field) << QByteArray(field) + password << QStringLiteral("-|secret");
     }
+    row(R"({"name":"user","inputtype":"email"})", "anna"); // the password comes on the next page
+    row(R"({"name":"email","inputtype":"email"})", "-");
     row(R"({"label":"E-mail"}, {"type":"password","label":"New password"})", "-|-");
     row(R"({"label":"E-mail"}, {"type":"password","autocomplete":"new-password"})", "-|-");
     row(R"({"type":"password","label":"Old password"}, {"type":"password","label":"New password"},
