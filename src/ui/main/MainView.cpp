@@ -97,7 +97,8 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
 
 void MainView::layOut()
 {
-    m_right->setMinimumWidth(Style::scaled(smallestItemWidth));
+    // Smaller texts have the same buttons.
+    m_right->setMinimumWidth(qMax(smallestItemWidth, Style::scaled(smallestItemWidth)));
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setHandleWidth(1);
     m_splitter->setStretchFactor(0, 0);
