@@ -2,6 +2,66 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en_GB">
 <context>
+    <name>ArchiveDesk</name>
+    <message>
+        <source>Export safe</source>
+        <translation>Tresor exportieren</translation>
+    </message>
+    <message>
+        <source>GPM file (*.gpm)</source>
+        <translation>GPM-Datei (*.gpm)</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>„%1“ wird exportiert …</translation>
+    </message>
+    <message>
+        <source>“%1” was not exported. %2</source>
+        <translation>„%1“ wurde nicht exportiert. %2</translation>
+    </message>
+    <message>
+        <source>“%1” is exported. Everything in the file is encrypted; it opens with the master password of today:
+%2</source>
+        <translation>„%1“ ist exportiert. Alles in der Datei ist verschlüsselt; sie öffnet sich mit dem heutigen Masterpasswort:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read and are not in it.</source>
+        <translation>
+            <numerusform>Eine Datei konnte nicht gelesen werden und fehlt darin.</numerusform>
+            <numerusform>%n Dateien konnten nicht gelesen werden und fehlen darin.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Open GPM file on your computer</source>
+        <translation>GPM-Datei auf dem Computer öffnen</translation>
+    </message>
+    <message>
+        <source>Import safe</source>
+        <translation>Tresor importieren</translation>
+    </message>
+    <message>
+        <source>Importing “%1”…</source>
+        <translation>„%1“ wird importiert …</translation>
+    </message>
+    <message>
+        <source>Import from &quot;%1&quot; failed!</source>
+        <translation>Import von „%1“ fehlgeschlagen!</translation>
+    </message>
+    <message>
+        <source>“%1” is now in the list of your safes. It opens with the master password that it had when the file was made.</source>
+        <translation>„%1“ steht jetzt in der Liste Ihrer Tresore. Er öffnet sich mit dem Masterpasswort, das er beim Schreiben der Datei hatte.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
     <name>AttachmentActions</name>
     <message>
         <source>Maximum attachment file size is %1 megabytes</source>
@@ -224,6 +284,153 @@
     </message>
 </context>
 <context>
+    <name>BackupRow</name>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Aus einer Sicherung wiederherstellen …</translation>
+    </message>
+    <message>
+        <source>Backing up</source>
+        <translation>Sicherung läuft</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>There is no safe to back up yet.</source>
+        <translation>Es gibt noch keinen Tresor zum Sichern.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Jetzt sichern</translation>
+    </message>
+    <message>
+        <source>Backing up…</source>
+        <translation>Wird gesichert …</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Sicherungen werden gelesen …</translation>
+    </message>
+    <message>
+        <source>You can go on working.</source>
+        <translation>Sie können weiterarbeiten.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>heute</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>gestern</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <translation>morgen</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>a day, a time of day</comment>
+        <translation>%1 um %2</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Damaged, can&apos;t be restored · %1</source>
+        <translation>Beschädigt, nicht wiederherstellbar · %1</translation>
+    </message>
+    <message>
+        <source>Last backup: %1</source>
+        <translation>Letzte Sicherung: %1</translation>
+    </message>
+    <message>
+        <source>No backup yet</source>
+        <translation>Noch keine Sicherung</translation>
+    </message>
+    <message>
+        <source>Automatic backups are off.</source>
+        <translation>Automatische Sicherungen sind aus.</translation>
+    </message>
+    <message>
+        <source>Next backup: in a moment</source>
+        <translation>Nächste Sicherung: gleich</translation>
+    </message>
+    <message>
+        <source>Next backup: %1</source>
+        <translation>Nächste Sicherung: %1</translation>
+    </message>
+    <message>
+        <source>The folder for backups is not there. Connect its drive, or choose another folder.</source>
+        <translation>Der Ordner für Sicherungen ist nicht da. Schließen Sie das Laufwerk an oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The folder for backups can&apos;t be written to. Choose another folder.</source>
+        <translation>In den Ordner für Sicherungen lässt sich nicht schreiben. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>%1: not there, or it can&apos;t be read</source>
+        <translation>%1: nicht da oder nicht lesbar</translation>
+    </message>
+    <message>
+        <source>%1: not backed up yet</source>
+        <translation>%1: noch nicht gesichert</translation>
+    </message>
+    <message>
+        <source>%1: %2, unchanged since</source>
+        <translation>%1: %2, seither unverändert</translation>
+    </message>
+    <message>
+        <source>%1: %2, changed since</source>
+        <translation>%1: %2, seither geändert</translation>
+    </message>
+    <message>
+        <source>Backed up and checked: %1.</source>
+        <translation>Gesichert und geprüft: %1.</translation>
+    </message>
+    <message>
+        <source>Unchanged since the last backup: %1.</source>
+        <translation>Unverändert seit der letzten Sicherung: %1.</translation>
+    </message>
+    <message>
+        <source>Not backed up, as the folder is not there: %1. If it is on a drive that can be taken out, connect it and try again.</source>
+        <translation>Nicht gesichert, weil der Ordner nicht da ist: %1. Liegt er auf einem Wechseldatenträger, schließen Sie ihn an und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Not yet backed up, as the password is being changed or it is being archived: %1. This is tried again in a minute.</source>
+        <translation>Noch nicht gesichert, weil gerade das Passwort geändert oder ein Archiv geschrieben wird: %1. In einer Minute wird es wieder versucht.</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1. Earlier backups are left as they are.</source>
+        <translation>Abgebrochen: %1. Frühere Sicherungen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Not backed up: “%1”. %2</source>
+        <translation>Nicht gesichert: „%1“. %2</translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
@@ -298,10 +505,507 @@
     </message>
 </context>
 <context>
+    <name>ChangePasswordDialog</name>
+    <message>
+        <source>Change Password</source>
+        <translation>Passwort ändern</translation>
+    </message>
+    <message>
+        <source>Only you know it. It cannot be recovered.</source>
+        <translation>Nur Sie kennen es. Es lässt sich nicht wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Change password</source>
+        <translation>Passwort ändern</translation>
+    </message>
+    <message>
+        <source>Old password:</source>
+        <translation>Altes Passwort:</translation>
+    </message>
+    <message>
+        <source>New password:</source>
+        <translation>Neues Passwort:</translation>
+    </message>
+    <message>
+        <source>Confirm:</source>
+        <translation>Bestätigen:</translation>
+    </message>
+    <message>
+        <source>Hint:</source>
+        <translation>Merkhilfe:</translation>
+    </message>
+</context>
+<context>
+    <name>ChangePasswordRules</name>
+    <message>
+        <source>Old password can not be empty</source>
+        <translation>Das alte Passwort darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>Old password is invalid. Try again</source>
+        <translation>Das alte Passwort ist falsch. Versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>New password can not be empty</source>
+        <translation>Das neue Passwort darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>New password can not be the same as the old password</source>
+        <translation>Das neue Passwort darf nicht das alte sein</translation>
+    </message>
+    <message>
+        <source>Confirm password can not be empty</source>
+        <translation>Die Bestätigung darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>Password does not match</source>
+        <translation>Die Passwörter stimmen nicht überein</translation>
+    </message>
+    <message>
+        <source>Hint can not be empty</source>
+        <translation>Die Merkhilfe darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>“%1” has its new password. From now on only that one opens it. Backups made before still open with the old one.</source>
+        <translation>„%1“ hat sein neues Passwort. Ab jetzt öffnet ihn nur dieses. Frühere Sicherungen öffnen sich weiter mit dem alten.</translation>
+    </message>
+    <message>
+        <source>The password was not changed. The old one still opens “%1”.</source>
+        <translation>Das Passwort wurde nicht geändert. „%1“ öffnet sich weiter mit dem alten.</translation>
+    </message>
+    <message>
+        <source>“%1” was locked before the change was done. The old password still opens it.</source>
+        <translation>„%1“ wurde gesperrt, bevor die Änderung fertig war. Er öffnet sich weiter mit dem alten Passwort.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: another program is using the safe. The old one still opens it. Wait until the other program is done, then try again.</source>
+        <translation>Das Passwort wurde nicht geändert: Ein anderes Programm benutzt den Tresor. Er öffnet sich weiter mit dem alten. Warten Sie, bis das andere Programm fertig ist, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: some files of the safe do not open, and under a new password they would be lost. The old one still opens the safe. Bring these files back from a backup or move them out of the folder of the safe, then try again.</source>
+        <translation>Das Passwort wurde nicht geändert: Einige Dateien des Tresors lassen sich nicht öffnen und gingen mit einem neuen Passwort verloren. Er öffnet sich weiter mit dem alten. Holen Sie diese Dateien aus einer Sicherung zurück oder verschieben Sie sie aus dem Ordner des Tresors, dann versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: the files of the safe could not be written. The old one still opens it. Check the free space and that the folder of the safe can be written to, then try again.</source>
+        <translation>Das Passwort wurde nicht geändert: Die Dateien des Tresors ließen sich nicht schreiben. Er öffnet sich weiter mit dem alten. Prüfen Sie den freien Platz und ob der Ordner beschreibbar ist, dann versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens the safe, but perhaps not every item; this old one still opens them all.</source>
+        <translation>Eine Änderung des Passworts von „%1“ wurde unterbrochen. Das neue Passwort öffnet den Tresor, aber vielleicht nicht jeden Eintrag; dieses alte öffnet noch alle.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens %2 of %3 items; the old one still opens those that were there before. Change nothing now: it would be missing when you go back.</source>
+        <translation>Eine Änderung des Passworts von „%1“ wurde unterbrochen. Das neue Passwort öffnet %2 von %3 Einträgen; das alte öffnet noch die, die vorher da waren. Ändern Sie jetzt nichts: Es würde fehlen, wenn Sie zurückkehren.</translation>
+    </message>
+    <message>
+        <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
+        <translation>Um zum alten Passwort zurückzukehren, beenden Sie das Programm und öffnen Sie den Ordner des Tresors. Heben Sie eine Kopie von „safe.passid“ an einem anderen Ort auf. Kopieren Sie dann „safe.passid.bak“ über „safe.passid“: Jeder Eintrag öffnet sich wieder mit dem alten Passwort, und Sie können es neu ändern.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceInput</name>
     <message>
         <source>Not specified</source>
         <translation>Keine Angabe</translation>
+    </message>
+</context>
+<context>
+    <name>CloudDesk</name>
+    <message>
+        <source>The copy in the cloud folder is still there.</source>
+        <translation>Die Kopie im Cloud-Ordner ist noch da.</translation>
+    </message>
+    <message>
+        <source>Some of its files could not be removed. Remove the folder yourself if you do not need it:
+%1</source>
+        <translation>Einige ihrer Dateien ließen sich nicht entfernen. Entfernen Sie den Ordner selbst, wenn Sie ihn nicht brauchen:
+%1</translation>
+    </message>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>Aus dem Cloud-Ordner</translation>
+    </message>
+    <message>
+        <source>Bringing “%1” over…</source>
+        <translation>„%1“ wird geholt …</translation>
+    </message>
+    <message>
+        <source>“%1” is on this computer now, and is kept the same as on your other computers. It opens with its own master password.</source>
+        <translation>„%1“ ist jetzt auf diesem Computer und bleibt gleich mit Ihren anderen Computern. Er öffnet sich mit seinem eigenen Masterpasswort.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise with the cloud folder.</source>
+        <translation>Synchronisieren mit dem Cloud-Ordner nicht möglich.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudImportDialog</name>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>Aus dem Cloud-Ordner</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Anderer Ordner …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Bring over</source>
+        <translation>Holen</translation>
+    </message>
+    <message>
+        <source>Safes in the cloud folder</source>
+        <translation>Tresore im Cloud-Ordner</translation>
+    </message>
+    <message>
+        <source>No other safe found</source>
+        <translation>Kein anderer Tresor gefunden</translation>
+    </message>
+    <message>
+        <source>Safes that you synchronise on another computer appear here as soon as your cloud program has brought them.</source>
+        <translation>Tresore, die Sie auf einem anderen Computer synchronisieren, erscheinen hier, sobald Ihr Cloud-Programm sie gebracht hat.</translation>
+    </message>
+    <message>
+        <source>These safes are synchronised by another computer. Bring one over to use it here, too; it opens with its own master password.</source>
+        <translation>Diese Tresore synchronisiert ein anderer Computer. Holen Sie einen, um ihn auch hier zu benutzen; er öffnet sich mit seinem eigenen Masterpasswort.</translation>
+    </message>
+    <message>
+        <source>%1
+made on %2</source>
+        <translation>%1
+angelegt am %2</translation>
+    </message>
+</context>
+<context>
+    <name>CloudOffer</name>
+    <message>
+        <source>Bring it over…</source>
+        <translation>Holen …</translation>
+    </message>
+    <message>
+        <source>You have a safe in your cloud folder: “%1”.</source>
+        <translation>In Ihrem Cloud-Ordner liegt ein Tresor: „%1“.</translation>
+    </message>
+    <message numerus="yes">
+        <source>You have %n safes in your cloud folder.</source>
+        <translation>
+            <numerusform>In Ihrem Cloud-Ordner liegt ein Tresor.</numerusform>
+            <numerusform>In Ihrem Cloud-Ordner liegen %n Tresore.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CloudPanel</name>
+    <message>
+        <source>No folder of a cloud provider was found. Choose the one that yours keeps the same on all computers, or a folder on a USB stick.</source>
+        <translation>Kein Ordner eines Cloud-Anbieters gefunden. Wählen Sie den, den Ihrer auf allen Computern gleich hält, oder einen Ordner auf einem USB-Stick.</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Anderer Ordner …</translation>
+    </message>
+    <message>
+        <source>There is no safe yet.</source>
+        <translation>Es gibt noch keinen Tresor.</translation>
+    </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Cloud-Ordner</translation>
+    </message>
+    <message>
+        <source>A synchronised safe has an encrypted copy in a folder that your cloud provider carries to your other computers. What you change on one arrives on all.</source>
+        <translation>Ein synchronisierter Tresor hat eine verschlüsselte Kopie in einem Ordner, den Ihr Cloud-Anbieter zu Ihren anderen Computern bringt. Was Sie auf einem ändern, kommt auf allen an.</translation>
+    </message>
+    <message>
+        <source>Personal account: %1</source>
+        <translation>Privates Konto: %1</translation>
+    </message>
+    <message>
+        <source>Business account: %1</source>
+        <translation>Geschäftliches Konto: %1</translation>
+    </message>
+    <message>
+        <source>Bring over “%1”…</source>
+        <translation>„%1“ holen …</translation>
+    </message>
+    <message>
+        <source>Bring over a safe (%1)…</source>
+        <translation>Einen Tresor holen (%1) …</translation>
+    </message>
+    <message>
+        <source>Choose a folder first.</source>
+        <translation>Wählen Sie zuerst einen Ordner.</translation>
+    </message>
+    <message>
+        <source>Stop synchronising “%1”?</source>
+        <translation>„%1“ nicht mehr synchronisieren?</translation>
+    </message>
+    <message>
+        <source>The safe on this computer stays as it is. Its copy in the cloud folder can stay for your other computers, or be removed; then they can&apos;t synchronise any more.</source>
+        <translation>Der Tresor auf diesem Computer bleibt, wie er ist. Seine Kopie im Cloud-Ordner kann für Ihre anderen Computer bleiben oder entfernt werden; dann können sie nicht mehr synchronisieren.</translation>
+    </message>
+    <message>
+        <source>Keep the copy</source>
+        <translation>Kopie behalten</translation>
+    </message>
+    <message>
+        <source>Remove the copy</source>
+        <translation>Kopie entfernen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CloudPasswordDialog</name>
+    <message>
+        <source>New master password</source>
+        <translation>Neues Masterpasswort</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Go on with it</source>
+        <translation>Damit weitermachen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>The password of “%1” was changed on another computer. Enter the new one to go on synchronising; from then on the safe opens with it here, too.</source>
+        <translation>Das Passwort von „%1“ wurde auf einem anderen Computer geändert. Geben Sie das neue ein, um weiter zu synchronisieren; ab dann öffnet sich der Tresor auch hier damit.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudSafeRow</name>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Jetzt synchronisieren</translation>
+    </message>
+    <message>
+        <source>Enter the new password…</source>
+        <translation>Neues Passwort eingeben …</translation>
+    </message>
+    <message>
+        <source>Synchronise “%1”</source>
+        <translation>„%1“ synchronisieren</translation>
+    </message>
+    <message>
+        <source>Only on this computer</source>
+        <translation>Nur auf diesem Computer</translation>
+    </message>
+</context>
+<context>
+    <name>CloudTexts</name>
+    <message>
+        <source>Synchronised</source>
+        <translation>Synchronisiert</translation>
+    </message>
+    <message>
+        <source>Synchronising…</source>
+        <translation>Synchronisiert …</translation>
+    </message>
+    <message>
+        <source>Waiting for files</source>
+        <translation>Wartet auf Dateien</translation>
+    </message>
+    <message>
+        <source>Waiting…</source>
+        <translation>Wartet …</translation>
+    </message>
+    <message>
+        <source>New password</source>
+        <translation>Neues Passwort</translation>
+    </message>
+    <message>
+        <source>No cloud folder</source>
+        <translation>Kein Cloud-Ordner</translation>
+    </message>
+    <message>
+        <source>Wrong folder</source>
+        <translation>Falscher Ordner</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise</source>
+        <translation>Nicht synchronisiert</translation>
+    </message>
+    <message>
+        <source>Synchronised %1</source>
+        <translation>Synchronisiert: %1</translation>
+    </message>
+    <message>
+        <source>Synchronises when the safe is open</source>
+        <translation>Synchronisiert, wenn der Tresor offen ist</translation>
+    </message>
+    <message>
+        <source>Synchronising, %1 of %2</source>
+        <translation>Synchronisiert, %1 von %2</translation>
+    </message>
+    <message>
+        <source>Waiting for files to arrive</source>
+        <translation>Wartet, bis Dateien ankommen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n files to arrive</source>
+        <translation>
+            <numerusform>Wartet, bis eine Datei ankommt</numerusform>
+            <numerusform>Wartet, bis %n Dateien ankommen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waits until the safe is free</source>
+        <translation>Wartet, bis der Tresor frei ist</translation>
+    </message>
+    <message>
+        <source>The password was changed on another computer</source>
+        <translation>Das Passwort wurde auf einem anderen Computer geändert</translation>
+    </message>
+    <message>
+        <source>The cloud folder is not there</source>
+        <translation>Der Cloud-Ordner ist nicht da</translation>
+    </message>
+    <message>
+        <source>The cloud folder holds another safe</source>
+        <translation>Der Cloud-Ordner enthält einen anderen Tresor</translation>
+    </message>
+    <message>
+        <source>The cloud folder can&apos;t be written to</source>
+        <translation>In den Cloud-Ordner lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>The folder of the safe can&apos;t be written to</source>
+        <translation>In den Ordner des Tresors lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them.</source>
+        <translation>Es geht von selbst weiter, sobald Ihr Cloud-Programm sie gebracht hat.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them: %1</source>
+        <translation>Es geht von selbst weiter, sobald Ihr Cloud-Programm sie gebracht hat: %1</translation>
+    </message>
+    <message>
+        <source>The safe is being archived, or its password is being changed.</source>
+        <translation>Der Tresor wird gerade archiviert, oder sein Passwort wird geändert.</translation>
+    </message>
+    <message>
+        <source>Enter the new password, and this computer goes on with it.</source>
+        <translation>Geben Sie das neue Passwort ein, dann macht dieser Computer damit weiter.</translation>
+    </message>
+    <message>
+        <source>If it is on a drive that can be taken out, connect the drive. If it was moved, turn synchronising off and on again. Nothing is lost in the meantime.
+%1</source>
+        <translation>Liegt er auf einem Wechseldatenträger, schließen Sie diesen an. Wurde er verschoben, schalten Sie das Synchronisieren aus und wieder ein. Inzwischen geht nichts verloren.
+%1</translation>
+    </message>
+    <message>
+        <source>Nothing was read or changed there. Turn synchronising off and on again to choose another folder.
+%1</source>
+        <translation>Dort wurde nichts gelesen oder geändert. Schalten Sie das Synchronisieren aus und wieder ein, um einen anderen Ordner zu wählen.
+%1</translation>
+    </message>
+    <message>
+        <source>Your changes are in the safe on this computer, but not in the cloud folder. Check the free space and that you may write there; it is tried again every minute.
+%1</source>
+        <translation>Ihre Änderungen sind im Tresor auf diesem Computer, aber nicht im Cloud-Ordner. Prüfen Sie den freien Platz und ob Sie dort schreiben dürfen; jede Minute wird es wieder versucht.
+%1</translation>
+    </message>
+    <message>
+        <source>Changes of your other computers could not be taken over. Check the free space and that you may write to the folder of the safe; it is tried again every minute.</source>
+        <translation>Änderungen Ihrer anderen Computer konnten nicht übernommen werden. Prüfen Sie den freien Platz und ob Sie in den Ordner des Tresors schreiben dürfen; jede Minute wird es wieder versucht.</translation>
+    </message>
+    <message>
+        <source>This folder is not there: %1</source>
+        <translation>Dieser Ordner ist nicht da: %1</translation>
+    </message>
+    <message>
+        <source>This folder is part of the safe itself. Choose the folder of your cloud provider, or one on another drive.</source>
+        <translation>Dieser Ordner gehört zum Tresor selbst. Wählen Sie den Ordner Ihres Cloud-Anbieters oder einen auf einem anderen Laufwerk.</translation>
+    </message>
+    <message>
+        <source>The safe itself lies in this folder. Choose a folder that does not hold it.</source>
+        <translation>Der Tresor selbst liegt in diesem Ordner. Wählen Sie einen Ordner, der ihn nicht enthält.</translation>
+    </message>
+    <message>
+        <source>Your backups are kept in this folder. Choose another one.</source>
+        <translation>In diesem Ordner liegen Ihre Sicherungen. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to another safe. Choose another one.</source>
+        <translation>Dieser Ordner gehört zu einem anderen Tresor. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to the safe “%1”. Choose another one.</source>
+        <translation>Dieser Ordner gehört zum Tresor „%1“. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Another copy of this safe on this computer is synchronised there already. Turn that off first, or choose another folder.</source>
+        <translation>Eine andere Kopie dieses Tresors auf diesem Computer wird dort schon synchronisiert. Schalten Sie das zuerst aus oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>This folder can&apos;t be written to. Check the free space and that you may write there: %1</source>
+        <translation>In diesen Ordner lässt sich nicht schreiben. Prüfen Sie den freien Platz und ob Sie dort schreiben dürfen: %1</translation>
+    </message>
+    <message>
+        <source>This is not the password that was set on the other computer. Try again.</source>
+        <translation>Das ist nicht das Passwort, das auf dem anderen Computer gesetzt wurde. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The safe is busy with something else, such as a backup. Try again in a moment.</source>
+        <translation>Der Tresor ist mit etwas anderem beschäftigt, etwa einer Sicherung. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The safe on this computer could not be changed; it is as it was. Check the free space, and that every item of the safe can be read, then try again.</source>
+        <translation>Der Tresor auf diesem Computer konnte nicht geändert werden; er ist, wie er war. Prüfen Sie den freien Platz und ob jeder Eintrag lesbar ist, dann versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The safe can&apos;t be written. Check the free space and that you may write to the folder of your safes.</source>
+        <translation>Der Tresor lässt sich nicht schreiben. Prüfen Sie den freien Platz und ob Sie in den Ordner Ihrer Tresore schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>Another safe is being imported. Try again when that is done.</source>
+        <translation>Gerade wird ein anderer Tresor importiert. Versuchen Sie es danach noch einmal.</translation>
+    </message>
+    <message>
+        <source>The safe in the cloud folder can&apos;t be read. It may not have arrived whole yet; wait until your cloud program is done, and try again.</source>
+        <translation>Der Tresor im Cloud-Ordner lässt sich nicht lesen. Vielleicht ist er noch nicht ganz angekommen; warten Sie, bis Ihr Cloud-Programm fertig ist, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>One item came from the cloud folder</source>
+        <translation>Ein Eintrag kam aus dem Cloud-Ordner</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came from the cloud folder</source>
+        <translation>
+            <numerusform>%n Eintrag kam aus dem Cloud-Ordner</numerusform>
+            <numerusform>%n Einträge kamen aus dem Cloud-Ordner</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>One item was deleted on another computer</source>
+        <translation>Ein Eintrag wurde auf einem anderen Computer gelöscht</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were deleted on another computer</source>
+        <translation>
+            <numerusform>%n Eintrag wurde auf einem anderen Computer gelöscht</numerusform>
+            <numerusform>%n Einträge wurden auf einem anderen Computer gelöscht</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -353,6 +1057,12 @@
         <source>Create safe failed!</source>
         <translation>Der Tresor konnte nicht angelegt werden!</translation>
     </message>
+    <message>
+        <source>A safe needs an empty folder that you may write to. This one is not:
+%1</source>
+        <translation>Ein Tresor braucht einen leeren Ordner, in den Sie schreiben dürfen. Dieser ist es nicht:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafePage</name>
@@ -384,6 +1094,38 @@ another one?</source>
         <translation>Noch einen
 anlegen?</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Aus einer Sicherung wiederherstellen …</translation>
+    </message>
+    <message>
+        <source>Import from an archive…</source>
+        <translation>Aus einem Archiv importieren …</translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation>In %1</translation>
+    </message>
+    <message>
+        <source>Kept with your other safes</source>
+        <translation>Bei Ihren anderen Tresoren</translation>
+    </message>
+    <message>
+        <source>Usual place</source>
+        <translation>Üblicher Ort</translation>
+    </message>
+    <message>
+        <source>Keep the safe in the usual place</source>
+        <translation>Den Tresor am üblichen Ort anlegen</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe…</source>
+        <translation>Ordner des Tresors wählen …</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafeRules</name>
@@ -413,6 +1155,41 @@ anlegen?</translation>
     <message>
         <source>Calendar</source>
         <translation>Kalender</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteSafeDialog</name>
+    <message>
+        <source>Delete safe</source>
+        <translation>Tresor löschen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Delete “%1” for good?</source>
+        <translation>„%1“ endgültig löschen?</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups stay.</source>
+        <translation>Alles darin verschwindet von diesem Computer. Seine Sicherungen bleiben.</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups and its copy in the cloud folder stay.</source>
+        <translation>Alles darin verschwindet von diesem Computer. Seine Sicherungen und die Kopie im Cloud-Ordner bleiben.</translation>
+    </message>
+    <message>
+        <source>Master password of this safe</source>
+        <translation>Masterpasswort dieses Tresors</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Wrong Password! Try again</source>
+        <translation>Falsches Passwort! Versuchen Sie es noch einmal</translation>
     </message>
 </context>
 <context>
@@ -564,6 +1341,107 @@ Sie lassen sich nicht wiederherstellen.</translation>
     <message>
         <source>The archive could not be read back after it was written, and was removed. Choose a folder on another drive.</source>
         <translation>Das Archiv ließ sich nach dem Schreiben nicht lesen und wurde entfernt. Wählen Sie einen Ordner auf einem anderen Laufwerk.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items are in “%1” now. Everyone who opens the file can read them: delete it when it has served.</source>
+        <translation>
+            <numerusform>Ein Eintrag steht jetzt in „%1“. Wer die Datei öffnet, kann ihn lesen: Löschen Sie sie nach Gebrauch.</numerusform>
+            <numerusform>%n Einträge stehen jetzt in „%1“. Wer die Datei öffnet, kann sie lesen: Löschen Sie sie nach Gebrauch.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file cannot be written, and nothing of it is left. Check the free space and the permissions, or choose another folder:
+%1</source>
+        <translation>Die Datei lässt sich nicht schreiben, und nichts von ihr ist geblieben. Prüfen Sie freien Platz und Rechte oder wählen Sie einen anderen Ordner:
+%1</translation>
+    </message>
+    <message>
+        <source>The safe was locked before the file was written. Nothing of it is left.</source>
+        <translation>Der Tresor wurde gesperrt, bevor die Datei geschrieben war. Nichts von ihr ist geblieben.</translation>
+    </message>
+    <message>
+        <source>Export items</source>
+        <translation>Einträge exportieren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected items</source>
+        <translation>
+            <numerusform>Der ausgewählte Eintrag</numerusform>
+            <numerusform>Die %n ausgewählten Einträge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All items of the safe (%1)</source>
+        <translation>Alle Einträge des Tresors (%1)</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>JSON: everything, for another safe</source>
+        <translation>JSON: alles, für einen anderen Tresor</translation>
+    </message>
+    <message>
+        <source>CSV: logins, for browsers and other programs</source>
+        <translation>CSV: Logins, für Browser und andere Programme</translation>
+    </message>
+    <message>
+        <source>Password of the safe</source>
+        <translation>Passwort des Tresors</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Password of the safe “%1”</source>
+        <translation>Passwort des Tresors „%1“</translation>
+    </message>
+    <message>
+        <source>The file is not encrypted: everyone who gets hold of it can read your passwords. Do not leave it lying, nor in a folder that is synchronised, and delete it as soon as it has served.</source>
+        <translation>Die Datei ist nicht verschlüsselt: Wer sie in die Hand bekommt, kann Ihre Passwörter lesen. Lassen Sie sie nicht liegen, auch nicht in einem synchronisierten Ordner, und löschen Sie sie gleich nach Gebrauch.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items that are no logins are left out.</source>
+        <translation>
+            <numerusform>Ein Eintrag, der kein Login ist, wird ausgelassen.</numerusform>
+            <numerusform>%n Einträge, die keine Logins sind, werden ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments are left out. An archive of the safe holds them.</source>
+        <translation>
+            <numerusform>Ein Anhang wird ausgelassen. Ein Archiv des Tresors enthält ihn.</numerusform>
+            <numerusform>%n Anhänge werden ausgelassen. Ein Archiv des Tresors enthält sie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not the password of the safe.</source>
+        <translation>Das ist nicht das Passwort des Tresors.</translation>
+    </message>
+    <message>
+        <source>Writing “%1”…</source>
+        <translation>„%1“ wird geschrieben …</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
     </message>
 </context>
 <context>
@@ -763,6 +1641,14 @@ Sie lassen sich nicht wiederherstellen.</translation>
         <source>The program waits in the tray when you close its window.</source>
         <translation>Das Programm wartet im Infobereich, wenn Sie sein Fenster schließen.</translation>
     </message>
+    <message>
+        <source>Bring your passwords over</source>
+        <translation>Passwörter übernehmen</translation>
+    </message>
+    <message>
+        <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
+        <translation>Aus einem Browser oder einem anderen Programm. Das geht auch später, im Menü des Tresors.</translation>
+    </message>
 </context>
 <context>
     <name>FormFillFlow</name>
@@ -774,22 +1660,28 @@ Sie lassen sich nicht wiederherstellen.</translation>
         <source>Item %1 has wrong url: %2</source>
         <translation>Eintrag %1 hat eine falsche Adresse: %2</translation>
     </message>
+    <message>
+        <source>No browser is connected</source>
+        <translation>Kein Browser ist verbunden</translation>
+    </message>
+    <message>
+        <source>To fill this into a page, open your browser with the extension.</source>
+        <translation>Öffnen Sie Ihren Browser mit der Erweiterung, um dies in eine Seite einzufüllen.</translation>
+    </message>
+    <message>
+        <source>Nothing to fill</source>
+        <translation>Nichts auszufüllen</translation>
+    </message>
+    <message>
+        <source>The page shows no empty fields for “%1”.</source>
+        <translation>Die Seite zeigt keine leeren Felder für „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>
     <message>
         <source>Warning</source>
         <translation>Warnung</translation>
-    </message>
-    <message>
-        <source>Can&apos;t delete.</source>
-        <translation>Löschen nicht möglich.</translation>
-    </message>
-    <message>
-        <source>The items are still there. Check that the folder of the safe can be written to:
-%1</source>
-        <translation>Die Einträge sind noch da. Prüfen Sie, ob in den Ordner des Tresors geschrieben werden kann:
-%1</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
@@ -1020,6 +1912,27 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
             <numerusform>Der Anhang wird mit gelöscht.</numerusform>
             <numerusform>Die %n Anhänge werden mit gelöscht.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ItemChanges</name>
+    <message>
+        <source>Can&apos;t delete now.</source>
+        <translation>Löschen ist gerade nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The password of the safe is being changed. Delete the items when that is done.</source>
+        <translation>Das Passwort des Tresors wird gerade geändert. Löschen Sie die Einträge danach.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t delete.</source>
+        <translation>Löschen nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The items are still there. Check that the folder of the safe can be written to:
+%1</source>
+        <translation>Die Einträge sind noch da. Prüfen Sie, ob der Ordner des Tresors beschreibbar ist:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1565,6 +2478,10 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
         <source>New item (Ctrl+N)</source>
         <translation>Neuer Eintrag (Strg+N)</translation>
     </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Passwörter übernehmen …</translation>
+    </message>
 </context>
 <context>
     <name>ItemMenu</name>
@@ -1607,6 +2524,10 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
     <message>
         <source>Delete forever…</source>
         <translation>Endgültig löschen …</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
     </message>
 </context>
 <context>
@@ -1799,6 +2720,14 @@ Berichtigen Sie sie und versuchen Sie es erneut.</translation>
         <source>Undo</source>
         <translation>Rückgängig</translation>
     </message>
+    <message>
+        <source>“%1” was deleted on another computer.</source>
+        <translation>„%1“ wurde auf einem anderen Computer gelöscht.</translation>
+    </message>
+    <message>
+        <source>What you have typed is kept. Save it as a new item, or discard it.</source>
+        <translation>Was Sie geschrieben haben, ist noch da. Speichern Sie es als neuen Eintrag oder verwerfen Sie es.</translation>
+    </message>
 </context>
 <context>
     <name>MasterPasswordPage</name>
@@ -1868,6 +2797,22 @@ Einen anlegen?</translation>
         <source>Unlocking…</source>
         <translation>Wird entsperrt …</translation>
     </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Aus einer Sicherung wiederherstellen …</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Tresore …</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Trotzdem öffnen</translation>
+    </message>
 </context>
 <context>
     <name>MonthPopup</name>
@@ -1878,6 +2823,562 @@ Einen anlegen?</translation>
     <message>
         <source>Next year</source>
         <translation>Nächstes Jahr</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInColumns</name>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The columns of “%1” are not known. Say what each one holds.</source>
+        <translation>Die Spalten von „%1“ sind nicht bekannt. Sagen Sie, was in jeder steht.</translation>
+    </message>
+    <message>
+        <source>Keep it in the note</source>
+        <translation>In der Notiz behalten</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInDialog</name>
+    <message>
+        <source>Choose the exported file</source>
+        <translation>Exportierte Datei wählen</translation>
+    </message>
+    <message>
+        <source>Exports of passwords (%1)</source>
+        <translation>Exportierte Passwörter (%1)</translation>
+    </message>
+    <message>
+        <source>All files (%1)</source>
+        <translation>Alle Dateien (%1)</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Bring passwords over</source>
+        <translation>Passwörter übernehmen</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here</source>
+        <translation>Exportierte Datei hier ablegen</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>Kopiert.</translation>
+    </message>
+    <message>
+        <source>Reading “%1”…</source>
+        <translation>„%1“ wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Added %1 of %2…</source>
+        <translation>%1 von %2 hinzugefügt …</translation>
+    </message>
+    <message>
+        <source>What came in.txt</source>
+        <translation>Was übernommen wurde.txt</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Gespeichert.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written. Choose another folder.</source>
+        <translation>Die Datei lässt sich nicht schreiben. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Delete “%1”?</source>
+        <translation>„%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>The file does not go to the bin: it is gone at once. Nobody can promise that nothing of it stays behind: SSDs, backups and folders that are synchronised may keep what was deleted for a while.</source>
+        <translation>Die Datei kommt nicht in den Papierkorb: Sie ist sofort weg. Niemand kann versprechen, dass nichts von ihr bleibt: SSDs, Sicherungen und synchronisierte Ordner behalten Gelöschtes manchmal noch eine Weile.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The file “%1” is deleted. If you made other copies of it, delete them, too.</source>
+        <translation>Die Datei „%1“ ist gelöscht. Haben Sie weitere Kopien von ihr gemacht, löschen Sie auch diese.</translation>
+    </message>
+    <message>
+        <source>The file cannot be deleted. Close the program that has it open, then try again:
+%1</source>
+        <translation>Die Datei lässt sich nicht löschen. Schließen Sie das Programm, in dem sie offen ist, und versuchen Sie es noch einmal:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInEnd</name>
+    <message>
+        <source>What did not come in</source>
+        <translation>Was nicht übernommen wurde</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Datei löschen</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Bericht speichern …</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Look at what did not come in, then delete the file.</source>
+        <translation>In der Datei „%1“ stehen Ihre Passwörter noch für jeden lesbar. Sehen Sie nach, was nicht übernommen wurde, dann löschen Sie die Datei.</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Delete it now.</source>
+        <translation>In der Datei „%1“ stehen Ihre Passwörter noch für jeden lesbar. Löschen Sie sie jetzt.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>nicht gewählt</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Wird zu</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPage</name>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Passwörter übernehmen …</translation>
+    </message>
+    <message>
+        <source>Chrome, Edge, Firefox, Safari, Bitwarden and KeePassXC write their passwords into a file, which this program reads. You see everything before it comes in, and how to make the file.</source>
+        <translation>Chrome, Edge, Firefox, Safari, Bitwarden und KeePassXC schreiben ihre Passwörter in eine Datei, die dieses Programm liest. Sie sehen alles, bevor es übernommen wird, und wie Sie die Datei anlegen.</translation>
+    </message>
+    <message>
+        <source>Open a safe first: the passwords are kept in it.</source>
+        <translation>Öffnen Sie zuerst einen Tresor: In ihm werden die Passwörter aufbewahrt.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPreview</name>
+    <message>
+        <source>Select all</source>
+        <translation>Alle wählen</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Keine wählen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries</source>
+        <translation>
+            <numerusform>Ein Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>Eine Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins will be added</source>
+        <translation>
+            <numerusform>Ein Login wird hinzugefügt</numerusform>
+            <numerusform>%n Logins werden hinzugefügt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items will be added</source>
+        <translation>
+            <numerusform>Ein Eintrag wird hinzugefügt</numerusform>
+            <numerusform>%n Einträge werden hinzugefügt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n are already there</source>
+        <translation>
+            <numerusform>einer ist schon da</numerusform>
+            <numerusform>%n sind schon da</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unreadable</source>
+        <translation>
+            <numerusform>einer unlesbar</numerusform>
+            <numerusform>%n unlesbar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>einer ausgelassen</numerusform>
+            <numerusform>%n ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n logins</source>
+        <translation>
+            <numerusform>%n Login hinzufügen</numerusform>
+            <numerusform>%n Logins hinzufügen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n items</source>
+        <translation>
+            <numerusform>%n Eintrag hinzufügen</numerusform>
+            <numerusform>%n Einträge hinzufügen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveInProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Wird abgebrochen …</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInReport</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not written to the disk</source>
+        <translation>Nicht auf die Festplatte geschrieben</translation>
+    </message>
+    <message>
+        <source>Not added before the safe was locked</source>
+        <translation>Nicht hinzugefügt, bevor der Tresor gesperrt wurde</translation>
+    </message>
+    <message>
+        <source>Not added before you cancelled</source>
+        <translation>Nicht hinzugefügt, bevor Sie abgebrochen haben</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>Nicht gewählt</translation>
+    </message>
+    <message>
+        <source>Nothing came in</source>
+        <translation>Nichts wurde übernommen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins came in</source>
+        <translation>
+            <numerusform>Ein Login wurde übernommen</numerusform>
+            <numerusform>%n Logins wurden übernommen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came in</source>
+        <translation>
+            <numerusform>Ein Eintrag wurde übernommen</numerusform>
+            <numerusform>%n Einträge wurden übernommen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>You cancelled. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Sie haben abgebrochen. Was vorher übernommen wurde, ist gespeichert. Für den Rest wählen Sie die Datei noch einmal: Was schon da ist, wird erkannt.</translation>
+    </message>
+    <message>
+        <source>The safe could not be written to. Check the free space and the permissions, then choose the file again: what is there is recognised.</source>
+        <translation>In den Tresor ließ sich nicht schreiben. Prüfen Sie freien Platz und Rechte, dann wählen Sie die Datei noch einmal: Was schon da ist, wird erkannt.</translation>
+    </message>
+    <message>
+        <source>The safe was locked meanwhile. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Der Tresor wurde inzwischen gesperrt. Was vorher übernommen wurde, ist gespeichert. Für den Rest wählen Sie die Datei noch einmal: Was schon da ist, wird erkannt.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInStart</name>
+    <message>
+        <source>How to make the file</source>
+        <translation>So entsteht die Datei</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here, or choose it. Nothing is added before you have seen what will come in.</source>
+        <translation>Legen Sie die exportierte Datei hier ab oder wählen Sie sie. Nichts wird hinzugefügt, bevor Sie gesehen haben, was kommt.</translation>
+    </message>
+    <message>
+        <source>Choose file…</source>
+        <translation>Datei wählen …</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTable</name>
+    <message>
+        <source>What will come in</source>
+        <translation>Was übernommen wird</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTexts</name>
+    <message>
+        <source>The file is empty. Export the passwords again, and choose the new file.</source>
+        <translation>Die Datei ist leer. Exportieren Sie die Passwörter noch einmal und wählen Sie die neue Datei.</translation>
+    </message>
+    <message>
+        <source>The file holds no text that could be read. Export the passwords as CSV or JSON, and choose that file.</source>
+        <translation>Die Datei enthält keinen lesbaren Text. Exportieren Sie die Passwörter als CSV oder JSON und wählen Sie diese Datei.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a text. Export the passwords again, and choose the new file.</source>
+        <translation>Die Datei endet mitten in einem Text. Exportieren Sie die Passwörter noch einmal und wählen Sie die neue Datei.</translation>
+    </message>
+    <message>
+        <source>The file is encrypted. Export again as JSON or CSV without encryption, and delete that file afterwards.</source>
+        <translation>Die Datei ist verschlüsselt. Exportieren Sie noch einmal als JSON oder CSV ohne Verschlüsselung, und löschen Sie diese Datei danach.</translation>
+    </message>
+    <message>
+        <source>This is no export that the program knows. It reads the JSON files of Bitwarden and its own, and CSV files of browsers and other programs.</source>
+        <translation>Diesen Export kennt das Programm nicht. Es liest JSON-Dateien von Bitwarden und die eigenen sowie CSV-Dateien von Browsern und anderen Programmen.</translation>
+    </message>
+    <message>
+        <source>The names of the columns are not known. Say what each column holds.</source>
+        <translation>Die Namen der Spalten sind nicht bekannt. Sagen Sie, was in jeder Spalte steht.</translation>
+    </message>
+    <message>
+        <source>Save the file where you find it again.</source>
+        <translation>Speichern Sie die Datei dort, wo Sie sie wiederfinden.</translation>
+    </message>
+    <message>
+        <source>Type %1 into the address bar.</source>
+        <translation>Geben Sie %1 in die Adresszeile ein.</translation>
+    </message>
+    <message>
+        <source>Beside “Export passwords” press “Download file”.</source>
+        <translation>Drücken Sie neben „Passwörter exportieren“ auf „Datei herunterladen“.</translation>
+    </message>
+    <message>
+        <source>Press the three dots above the list and choose “Export passwords”.</source>
+        <translation>Drücken Sie auf die drei Punkte über der Liste und wählen Sie „Passwörter exportieren“.</translation>
+    </message>
+    <message>
+        <source>Press the three dots in the corner and choose “Export passwords…”.</source>
+        <translation>Drücken Sie auf die drei Punkte in der Ecke und wählen Sie „Passwörter exportieren …“.</translation>
+    </message>
+    <message>
+        <source>On the Mac open the program “Passwords”, or Safari on older systems.</source>
+        <translation>Öffnen Sie auf dem Mac das Programm „Passwörter“, auf älteren Systemen Safari.</translation>
+    </message>
+    <message>
+        <source>In the menu “File” choose to export all passwords to a file.</source>
+        <translation>Wählen Sie im Menü „Ablage“, alle Passwörter in eine Datei zu exportieren.</translation>
+    </message>
+    <message>
+        <source>Bring the file to this computer.</source>
+        <translation>Bringen Sie die Datei auf diesen Computer.</translation>
+    </message>
+    <message>
+        <source>Choose “Export vault”: under “Tools” in the web vault, in the menu “File” of the program.</source>
+        <translation>Wählen Sie „Tresor exportieren“: im Web-Tresor unter „Werkzeuge“, im Programm im Menü „Datei“.</translation>
+    </message>
+    <message>
+        <source>Choose “.json”, which holds cards and identities too, and no encryption.</source>
+        <translation>Wählen Sie „.json“, das auch Karten und Identitäten enthält, und keine Verschlüsselung.</translation>
+    </message>
+    <message>
+        <source>Open the database.</source>
+        <translation>Öffnen Sie die Datenbank.</translation>
+    </message>
+    <message>
+        <source>In the menu “Database” choose “Export”, then “CSV file…”.</source>
+        <translation>Wählen Sie im Menü „Datenbank“ den Punkt „Exportieren“, dann „CSV-Datei …“.</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Ein anderer Tresor</translation>
+    </message>
+    <message>
+        <source>Open the other safe in this program.</source>
+        <translation>Öffnen Sie den anderen Tresor in diesem Programm.</translation>
+    </message>
+    <message>
+        <source>In the menu of the safe choose “Export items…”, then JSON.</source>
+        <translation>Wählen Sie im Menü des Tresors „Einträge exportieren …“, dann JSON.</translation>
+    </message>
+    <message>
+        <source>Another program</source>
+        <translation>Ein anderes Programm</translation>
+    </message>
+    <message>
+        <source>Export the passwords as CSV, with the names of the columns in the first row.</source>
+        <translation>Exportieren Sie die Passwörter als CSV, mit den Namen der Spalten in der ersten Zeile.</translation>
+    </message>
+    <message>
+        <source>Choose the file here. You are asked what each column holds, if that is not known.</source>
+        <translation>Wählen Sie die Datei hier. Was in jeder Spalte steht, werden Sie gefragt, wenn es nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>recognised as an export of a browser</source>
+        <translation>als Export eines Browsers erkannt</translation>
+    </message>
+    <message>
+        <source>read by the columns that you chose</source>
+        <translation>nach den Spalten gelesen, die Sie gewählt haben</translation>
+    </message>
+    <message>
+        <source>recognised as an export of %1</source>
+        <translation>als Export von %1 erkannt</translation>
+    </message>
+    <message>
+        <source>There are no rows below the names of the columns. Export the passwords again, and choose the new file.</source>
+        <translation>Unter den Namen der Spalten steht keine Zeile. Exportieren Sie die Passwörter noch einmal und wählen Sie die neue Datei.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there. Choose it again.</source>
+        <translation>Die Datei ist nicht mehr da. Wählen Sie sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>This is no file. Choose the exported file itself.</source>
+        <translation>Das ist keine Datei. Wählen Sie die exportierte Datei selbst.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read. Close the program that has it open, or copy it to another folder.</source>
+        <translation>Die Datei lässt sich nicht lesen. Schließen Sie das Programm, in dem sie offen ist, oder kopieren Sie sie in einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1, which no export of passwords is. Check that it is the right one.</source>
+        <translation>Die Datei ist größer als %1; so groß ist kein Export von Passwörtern. Prüfen Sie, ob es die richtige ist.</translation>
+    </message>
+    <message>
+        <source>Not a web address</source>
+        <translation>Keine Webadresse</translation>
+    </message>
+    <message>
+        <source>Nothing in it</source>
+        <translation>Nichts darin</translation>
+    </message>
+    <message>
+        <source>Unknown kind</source>
+        <translation>Unbekannte Art</translation>
+    </message>
+    <message>
+        <source>Wrong number of columns</source>
+        <translation>Falsche Zahl von Spalten</translation>
+    </message>
+    <message>
+        <source>Already there</source>
+        <translation>Schon da</translation>
+    </message>
+    <message>
+        <source>Other password</source>
+        <translation>Anderes Passwort</translation>
+    </message>
+    <message>
+        <source>Other note</source>
+        <translation>Andere Notiz</translation>
+    </message>
+    <message>
+        <source>Without address</source>
+        <translation>Ohne Adresse</translation>
+    </message>
+    <message>
+        <source>It is in the safe, or further up in the file.</source>
+        <translation>Es ist im Tresor oder steht weiter oben in der Datei.</translation>
+    </message>
+    <message>
+        <source>There is a login of the same site and user name with another password. Both will be there.</source>
+        <translation>Es gibt einen Login derselben Website mit demselben Benutzernamen und einem anderen Passwort. Beide werden da sein.</translation>
+    </message>
+    <message>
+        <source>There is such an item with another note. Both will be there.</source>
+        <translation>Es gibt so einen Eintrag mit einer anderen Notiz. Beide werden da sein.</translation>
+    </message>
+    <message>
+        <source>Its address belongs to an app or a file, and goes to the note.</source>
+        <translation>Seine Adresse gehört zu einer App oder einer Datei und kommt in die Notiz.</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>Eintrag %1</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>(entry %1)</source>
+        <translation>(Eintrag %1)</translation>
+    </message>
+    <message>
+        <source>(row %1)</source>
+        <translation>(Zeile %1)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +3401,22 @@ Einen anlegen?</translation>
     <message>
         <source>Create</source>
         <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Do you have a safe already?</source>
+        <translation>Haben Sie schon einen Tresor?</translation>
+    </message>
+    <message>
+        <source>Open its folder…</source>
+        <translation>Seinen Ordner öffnen …</translation>
+    </message>
+    <message>
+        <source>Import an archive…</source>
+        <translation>Ein Archiv importieren …</translation>
+    </message>
+    <message>
+        <source>“%1” is there. Unlock it with its master password after these steps.</source>
+        <translation>„%1“ ist da. Öffnen Sie ihn nach diesen Schritten mit seinem Masterpasswort.</translation>
     </message>
 </context>
 <context>
@@ -1941,6 +3458,25 @@ Strg+B kopiert den Benutzernamen, Strg+Umschalt+C das Passwort.
 Strg+Eingabe meldet an, Strg+L sperrt den Tresor, Strg+Q beendet das Programm.
 
 Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MIT-Lizenz).</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe</source>
+        <translation>Ordner des Tresors wählen</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordChangeDesk</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Change Password</source>
+        <translation>Passwort ändern</translation>
+    </message>
+    <message>
+        <source>Writing “%1” anew under its new password. You can go on working meanwhile.</source>
+        <translation>„%1“ wird unter dem neuen Passwort neu geschrieben. Sie können dabei weiterarbeiten.</translation>
     </message>
 </context>
 <context>
@@ -2133,52 +3669,27 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
         <translation>alles auswählen</translation>
     </message>
     <message>
-        <source>search</source>
-        <translation>suchen</translation>
-    </message>
-    <message>
-        <source>new item</source>
-        <translation>neuer Eintrag</translation>
-    </message>
-    <message>
-        <source>edit</source>
-        <translation>bearbeiten</translation>
-    </message>
-    <message>
-        <source>save</source>
-        <translation>speichern</translation>
-    </message>
-    <message>
-        <source>log in</source>
-        <translation>anmelden</translation>
-    </message>
-    <message>
-        <source>copy the user name</source>
-        <translation>Benutzernamen kopieren</translation>
-    </message>
-    <message>
-        <source>copy the password</source>
-        <translation>Passwort kopieren</translation>
-    </message>
-    <message>
-        <source>password generator</source>
-        <translation>Passwortgenerator</translation>
-    </message>
-    <message>
-        <source>lock</source>
-        <translation>sperren</translation>
-    </message>
-    <message>
-        <source>settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>exit</source>
-        <translation>beenden</translation>
-    </message>
-    <message>
         <source>a command of this program</source>
         <translation>ein Befehl dieses Programms</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Wird abgebrochen …</translation>
     </message>
 </context>
 <context>
@@ -2235,6 +3746,174 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     </message>
 </context>
 <context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Restore from a backup</source>
+        <translation>Aus einer Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Another folder…</source>
+        <translation>Anderer Ordner …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Sicherungen werden gelesen …</translation>
+    </message>
+    <message>
+        <source>The folder is not there</source>
+        <translation>Der Ordner ist nicht da</translation>
+    </message>
+    <message>
+        <source>Connect its drive, or choose the folder that your backups lie in.</source>
+        <translation>Schließen Sie das Laufwerk an oder wählen Sie den Ordner, in dem Ihre Sicherungen liegen.</translation>
+    </message>
+    <message>
+        <source>No backups here</source>
+        <translation>Hier sind keine Sicherungen</translation>
+    </message>
+    <message>
+        <source>Choose the folder that your backups lie in, such as one on another disk.</source>
+        <translation>Wählen Sie den Ordner, in dem Ihre Sicherungen liegen, etwa auf einer anderen Festplatte.</translation>
+    </message>
+    <message>
+        <source>It comes back as a new safe with the password of that time.</source>
+        <translation>Sie kommt als neuer Tresor mit dem Passwort von damals zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>SafeDesk</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe</source>
+        <translation>Ordner eines Tresors öffnen</translation>
+    </message>
+    <message>
+        <source>No safe there</source>
+        <translation>Dort ist kein Tresor</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder. The folder of a safe holds a file “safe.meta”:
+%1</source>
+        <translation>In diesem Ordner ist kein Tresor. Im Ordner eines Tresors liegt eine Datei „safe.meta“:
+%1</translation>
+    </message>
+    <message>
+        <source>Name of the safe</source>
+        <translation>Name des Tresors</translation>
+    </message>
+    <message>
+        <source>Can&apos;t rename.</source>
+        <translation>Umbenennen nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The safe keeps its name. Check the free space and that you may write to its folder:
+%1</source>
+        <translation>Der Tresor behält seinen Namen. Prüfen Sie den freien Platz und ob Sie in seinen Ordner schreiben dürfen:
+%1</translation>
+    </message>
+    <message>
+        <source>Where is “%1” now?</source>
+        <translation>Wo ist „%1“ jetzt?</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Ein anderer Tresor</translation>
+    </message>
+    <message>
+        <source>This folder holds another safe than “%1”. Open it on its own with “Open the folder of a safe”, or choose another folder.</source>
+        <translation>In diesem Ordner liegt ein anderer Tresor als „%1“. Öffnen Sie ihn für sich mit „Ordner eines Tresors öffnen“ oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder:
+%1</source>
+        <translation>In diesem Ordner ist kein Tresor:
+%1</translation>
+    </message>
+    <message>
+        <source>Take “%1” off the list?</source>
+        <translation>„%1“ von der Liste nehmen?</translation>
+    </message>
+    <message>
+        <source>Its files stay where they are. “Open the folder of a safe” brings it back:
+%1</source>
+        <translation>Seine Dateien bleiben, wo sie sind. „Ordner eines Tresors öffnen“ bringt ihn zurück:
+%1</translation>
+    </message>
+    <message>
+        <source>Its folder is not there now. If it comes back, “Open the folder of a safe” finds it:
+%1</source>
+        <translation>Sein Ordner ist jetzt nicht da. Kommt er wieder, findet ihn „Ordner eines Tresors öffnen“:
+%1</translation>
+    </message>
+    <message>
+        <source>Remove from list</source>
+        <translation>Von der Liste nehmen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Delete safe</source>
+        <translation>Tresor löschen</translation>
+    </message>
+    <message>
+        <source>Deleting “%1”…</source>
+        <translation>„%1“ wird gelöscht …</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is not in its folder any more.</source>
+        <translation>Nichts wurde gelöscht: Der Tresor ist nicht mehr in seinem Ordner.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is being archived, or its password is being changed. Try again when that is done.</source>
+        <translation>Nichts wurde gelöscht: Der Tresor wird gerade archiviert, oder sein Passwort wird geändert. Versuchen Sie es danach noch einmal.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: another program has this safe open. Close it there and try again.</source>
+        <translation>Nichts wurde gelöscht: Ein anderes Programm hat diesen Tresor offen. Schließen Sie ihn dort und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is as it was. Check that you may write to its folder and try again.</source>
+        <translation>Nichts wurde gelöscht: Der Tresor ist, wie er war. Prüfen Sie, ob Sie in seinen Ordner schreiben dürfen, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>“%1” is gone, but some of its files could not be removed. They are encrypted, and you can delete them:
+%2</source>
+        <translation>„%1“ ist weg, aber einige seiner Dateien ließen sich nicht entfernen. Sie sind verschlüsselt, und Sie können sie löschen:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is gone. %n other files were in its folder and are still there:
+%2</source>
+        <translation>
+            <numerusform>„%1“ ist weg. Eine andere Datei lag in seinem Ordner und ist noch da:
+%2</numerusform>
+            <numerusform>„%1“ ist weg. %n andere Dateien lagen in seinem Ordner und sind noch da:
+%2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SafeItemEditor</name>
     <message>
         <source>Editing “%1” · %2</source>
@@ -2260,6 +3939,131 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     </message>
 </context>
 <context>
+    <name>SafeLines</name>
+    <message>
+        <source>Folder not found: it was on a drive that is not connected</source>
+        <translation>Ordner nicht gefunden: Er lag auf einem Laufwerk, das nicht angeschlossen ist</translation>
+    </message>
+    <message>
+        <source>Folder not found: it was moved, renamed or deleted</source>
+        <translation>Ordner nicht gefunden: Er wurde verschoben, umbenannt oder gelöscht</translation>
+    </message>
+    <message>
+        <source>There is no safe in its folder any more, or it can&apos;t be read</source>
+        <translation>In seinem Ordner ist kein Tresor mehr, oder er ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>in the cloud folder</source>
+        <translation>im Cloud-Ordner</translation>
+    </message>
+    <message>
+        <source>a copy of “%1”</source>
+        <translation>eine Kopie von „%1“</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>Last opened %1</source>
+        <translation>Zuletzt geöffnet %1</translation>
+    </message>
+    <message>
+        <source>Not opened yet</source>
+        <translation>Noch nicht geöffnet</translation>
+    </message>
+    <message>
+        <source>synchronised %1</source>
+        <translation>synchronisiert %1</translation>
+    </message>
+    <message>
+        <source>backed up %1</source>
+        <translation>gesichert %1</translation>
+    </message>
+    <message>
+        <source>no backup yet</source>
+        <translation>noch keine Sicherung</translation>
+    </message>
+</context>
+<context>
+    <name>SafeMenu</name>
+    <message>
+        <source>Create new...</source>
+        <translation>Neu anlegen ...</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Tresore …</translation>
+    </message>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Jetzt synchronisieren</translation>
+    </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Passwörter übernehmen …</translation>
+    </message>
+    <message>
+        <source>Export items…</source>
+        <translation>Einträge exportieren …</translation>
+    </message>
+    <message>
+        <source>Export safe…</source>
+        <translation>Tresor exportieren …</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Passwort ändern …</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Sperren</translation>
+    </message>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (nicht verfügbar)</translation>
+    </message>
+</context>
+<context>
+    <name>SafeRow</name>
+    <message>
+        <source>Locate…</source>
+        <translation>Suchen …</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>More about “%1”</source>
+        <translation>Mehr über „%1“</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Umbenennen …</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Remove from list…</source>
+        <translation>Von der Liste nehmen …</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Löschen …</translation>
+    </message>
+</context>
+<context>
     <name>SafeSwitcher</name>
     <message>
         <source>Switch to another safe</source>
@@ -2269,17 +4073,36 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
         <source>Safe: %1</source>
         <translation>Tresor: %1</translation>
     </message>
+</context>
+<context>
+    <name>SafesDialog</name>
     <message>
-        <source>%1 (not available)</source>
-        <translation>%1 (nicht verfügbar)</translation>
+        <source>Safes</source>
+        <translation>Tresore</translation>
     </message>
     <message>
-        <source>Create new...</source>
-        <translation>Neu anlegen ...</translation>
+        <source>New safe</source>
+        <translation>Neuer Tresor</translation>
     </message>
     <message>
-        <source>Lock</source>
-        <translation>Sperren</translation>
+        <source>Import…</source>
+        <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>Make a safe from an archive or a backup</source>
+        <translation>Aus einem Archiv oder einer Sicherung einen Tresor machen</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe…</source>
+        <translation>Ordner eines Tresors öffnen …</translation>
+    </message>
+    <message>
+        <source>From cloud folder (%1)</source>
+        <translation>Aus dem Cloud-Ordner (%1)</translation>
+    </message>
+    <message>
+        <source>There is no safe yet. Make a new one, or import an archive.</source>
+        <translation>Es gibt noch keinen Tresor. Legen Sie einen an oder importieren Sie ein Archiv.</translation>
     </message>
 </context>
 <context>
@@ -2409,6 +4232,10 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
     </message>
 </context>
 <context>
@@ -2748,6 +4575,42 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
         <source>Locks the safe from any program; on Wayland, from this program&apos;s windows.</source>
         <translation>Sperrt den Tresor aus jedem Programm; unter Wayland aus den Fenstern dieses Programms.</translation>
     </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Cloud-Ordner</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Masterpasswort</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>Es öffnet diesen Tresor.</translation>
+    </message>
+    <message>
+        <source>change hint</source>
+        <translation>ändern Merkhilfe</translation>
+    </message>
+    <message>
+        <source>Last backup</source>
+        <translation>Letzte Sicherung</translation>
+    </message>
+    <message>
+        <source>When each safe was backed up, and when that is done next.</source>
+        <translation>Wann jeder Tresor gesichert wurde, und wann es wieder geschieht.</translation>
+    </message>
+    <message>
+        <source>back up now restore archive</source>
+        <translation>jetzt sichern wiederherstellen Archiv</translation>
+    </message>
+    <message>
+        <source>Keeps safes the same on several computers.</source>
+        <translation>Hält Tresore auf mehreren Computern gleich.</translation>
+    </message>
+    <message>
+        <source>synchronise sync mirror share provider account computers</source>
+        <translation>synchronisieren abgleichen spiegeln teilen Anbieter Konto Computer</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -2880,6 +4743,18 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>What it was made for is no longer edited</source>
         <translation>Wofür es erzeugt wurde, wird nicht mehr bearbeitet</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Passwort ändern …</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Masterpasswort</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>Es öffnet diesen Tresor.</translation>
     </message>
 </context>
 <context>
@@ -3051,6 +4926,28 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>Unlock your safe to go on</source>
         <translation>Entsperren Sie Ihren Tresor</translation>
+    </message>
+    <message>
+        <source>This safe is on a drive that is not connected. Connect it, then choose the safe again:
+%1</source>
+        <translation>Dieser Tresor liegt auf einem Laufwerk, das nicht angeschlossen ist. Schließen Sie es an und wählen Sie den Tresor noch einmal:
+%1</translation>
+    </message>
+    <message>
+        <source>Another program on this computer has this safe open. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Ein anderes Programm auf diesem Computer hat diesen Tresor offen. Was beide gleichzeitig ändern, kann verloren gehen; schließen Sie ihn dort zuerst.</translation>
+    </message>
+    <message>
+        <source>This safe is open on the computer “%1”, or was when that computer stopped. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Dieser Tresor ist auf dem Computer „%1“ offen, oder war es, als dieser anhielt. Was beide gleichzeitig ändern, kann verloren gehen; schließen Sie ihn dort zuerst.</translation>
+    </message>
+    <message>
+        <source>This is the password from before it was changed. Use the new one.</source>
+        <translation>Das ist das Passwort von vor der Änderung. Nehmen Sie das neue.</translation>
+    </message>
+    <message>
+        <source>This is the password from before a change that was interrupted.</source>
+        <translation>Das ist das Passwort von vor einer Änderung, die unterbrochen wurde.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en_GB">
 <context>
+    <name>ArchiveDesk</name>
+    <message numerus="yes">
+        <source>%n files could not be read and are not in it.</source>
+        <translation>
+            <numerusform>%n file could not be read and is not in it.</numerusform>
+            <numerusform>%n files could not be read and are not in it.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>AttachmentActions</name>
     <message numerus="yes">
         <source>%n attachments are open in other programs.</source>
@@ -29,12 +39,77 @@
     </message>
 </context>
 <context>
+    <name>CloudOffer</name>
+    <message numerus="yes">
+        <source>You have %n safes in your cloud folder.</source>
+        <translation>
+            <numerusform>You have %n safe in your cloud folder.</numerusform>
+            <numerusform>You have %n safes in your cloud folder.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CloudTexts</name>
+    <message numerus="yes">
+        <source>Waiting for %n files to arrive</source>
+        <translation>
+            <numerusform>Waiting for %n file to arrive</numerusform>
+            <numerusform>Waiting for %n files to arrive</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came from the cloud folder</source>
+        <translation>
+            <numerusform>%n item came from the cloud folder</numerusform>
+            <numerusform>%n items came from the cloud folder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were deleted on another computer</source>
+        <translation>
+            <numerusform>%n item was deleted on another computer</numerusform>
+            <numerusform>%n items were deleted on another computer</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExpiryText</name>
     <message numerus="yes">
         <source>Expires in %n days</source>
         <translation>
             <numerusform>Expires in %n day</numerusform>
             <numerusform>Expires in %n days</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message numerus="yes">
+        <source>%n items are in “%1” now. Everyone who opens the file can read them: delete it when it has served.</source>
+        <translation>
+            <numerusform>%n item is in “%1” now. Everyone who opens the file can read it: delete the file when it has served.</numerusform>
+            <numerusform>%n items are in “%1” now. Everyone who opens the file can read them: delete it when it has served.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected items</source>
+        <translation>
+            <numerusform>The selected item</numerusform>
+            <numerusform>The %n selected items</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items that are no logins are left out.</source>
+        <translation>
+            <numerusform>%n item that is no login is left out.</numerusform>
+            <numerusform>%n items that are no logins are left out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments are left out. An archive of the safe holds them.</source>
+        <translation>
+            <numerusform>%n attachment is left out. An archive of the safe holds it.</numerusform>
+            <numerusform>%n attachments are left out. An archive of the safe holds them.</numerusform>
         </translation>
     </message>
 </context>
@@ -112,6 +187,102 @@ They can not be restored.</numerusform>
         <translation>
             <numerusform>%n item moved to trash</numerusform>
             <numerusform>%n items moved to trash</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPreview</name>
+    <message numerus="yes">
+        <source>%n entries</source>
+        <translation>
+            <numerusform>%n entry</numerusform>
+            <numerusform>%n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n row</numerusform>
+            <numerusform>%n rows</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins will be added</source>
+        <translation>
+            <numerusform>%n login will be added</numerusform>
+            <numerusform>%n logins will be added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items will be added</source>
+        <translation>
+            <numerusform>%n item will be added</numerusform>
+            <numerusform>%n items will be added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n are already there</source>
+        <translation>
+            <numerusform>%n is already there</numerusform>
+            <numerusform>%n are already there</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unreadable</source>
+        <translation>
+            <numerusform>%n unreadable</numerusform>
+            <numerusform>%n unreadable</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n left out</numerusform>
+            <numerusform>%n left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n logins</source>
+        <translation>
+            <numerusform>Add %n login</numerusform>
+            <numerusform>Add %n logins</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n items</source>
+        <translation>
+            <numerusform>Add %n item</numerusform>
+            <numerusform>Add %n items</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveInReport</name>
+    <message numerus="yes">
+        <source>%n logins came in</source>
+        <translation>
+            <numerusform>%n login came in</numerusform>
+            <numerusform>%n logins came in</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came in</source>
+        <translation>
+            <numerusform>%n item came in</numerusform>
+            <numerusform>%n items came in</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SafeDesk</name>
+    <message numerus="yes">
+        <source>“%1” is gone. %n other files were in its folder and are still there:
+%2</source>
+        <translation>
+            <numerusform>“%1” is gone. %n other file was in its folder and is still there:
+%2</numerusform>
+            <numerusform>“%1” is gone. %n other files were in its folder and are still there:
+%2</numerusform>
         </translation>
     </message>
 </context>

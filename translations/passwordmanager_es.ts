@@ -2,6 +2,66 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en_GB">
 <context>
+    <name>ArchiveDesk</name>
+    <message>
+        <source>Export safe</source>
+        <translation>Exportar caja fuerte</translation>
+    </message>
+    <message>
+        <source>GPM file (*.gpm)</source>
+        <translation>Archivo GPM (*.gpm)</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>Exportando “%1”…</translation>
+    </message>
+    <message>
+        <source>“%1” was not exported. %2</source>
+        <translation>“%1” no se ha exportado. %2</translation>
+    </message>
+    <message>
+        <source>“%1” is exported. Everything in the file is encrypted; it opens with the master password of today:
+%2</source>
+        <translation>“%1” se ha exportado. Todo en el archivo está cifrado; se abre con la contraseña maestra de hoy:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read and are not in it.</source>
+        <translation>
+            <numerusform>%n archivo no se pudo leer y no está incluido.</numerusform>
+            <numerusform>%n archivos no se pudieron leer y no están incluidos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Mostrar carpeta</translation>
+    </message>
+    <message>
+        <source>Open GPM file on your computer</source>
+        <translation>Abrir un archivo GPM de su equipo</translation>
+    </message>
+    <message>
+        <source>Import safe</source>
+        <translation>Importar caja fuerte</translation>
+    </message>
+    <message>
+        <source>Importing “%1”…</source>
+        <translation>Importando “%1”…</translation>
+    </message>
+    <message>
+        <source>Import from &quot;%1&quot; failed!</source>
+        <translation>¡No se pudo importar “%1”!</translation>
+    </message>
+    <message>
+        <source>“%1” is now in the list of your safes. It opens with the master password that it had when the file was made.</source>
+        <translation>“%1” está ahora en la lista de sus cajas fuertes. Se abre con la contraseña maestra que tenía cuando se hizo el archivo.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>Abrirla</translation>
+    </message>
+</context>
+<context>
     <name>AttachmentActions</name>
     <message>
         <source>Maximum attachment file size is %1 megabytes</source>
@@ -224,6 +284,153 @@
     </message>
 </context>
 <context>
+    <name>BackupRow</name>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Restaurar una copia…</translation>
+    </message>
+    <message>
+        <source>Backing up</source>
+        <translation>Copia en curso</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Cancelando…</translation>
+    </message>
+    <message>
+        <source>There is no safe to back up yet.</source>
+        <translation>Aún no hay ninguna caja fuerte que copiar.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Copiar ahora</translation>
+    </message>
+    <message>
+        <source>Backing up…</source>
+        <translation>Haciendo copias…</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Leyendo las copias…</translation>
+    </message>
+    <message>
+        <source>You can go on working.</source>
+        <translation>Puede seguir trabajando.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>hoy</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>ayer</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <translation>mañana</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>a day, a time of day</comment>
+        <translation>%1 a las %2</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Damaged, can&apos;t be restored · %1</source>
+        <translation>Dañada, no se puede restaurar · %1</translation>
+    </message>
+    <message>
+        <source>Last backup: %1</source>
+        <translation>Última copia: %1</translation>
+    </message>
+    <message>
+        <source>No backup yet</source>
+        <translation>Aún sin copia</translation>
+    </message>
+    <message>
+        <source>Automatic backups are off.</source>
+        <translation>Las copias automáticas están desactivadas.</translation>
+    </message>
+    <message>
+        <source>Next backup: in a moment</source>
+        <translation>Próxima copia: en un momento</translation>
+    </message>
+    <message>
+        <source>Next backup: %1</source>
+        <translation>Próxima copia: %1</translation>
+    </message>
+    <message>
+        <source>The folder for backups is not there. Connect its drive, or choose another folder.</source>
+        <translation>La carpeta de las copias no está. Conecte su unidad o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The folder for backups can&apos;t be written to. Choose another folder.</source>
+        <translation>No se puede escribir en la carpeta de las copias. Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>%1: not there, or it can&apos;t be read</source>
+        <translation>%1: no está o no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: not backed up yet</source>
+        <translation>%1: aún sin copia</translation>
+    </message>
+    <message>
+        <source>%1: %2, unchanged since</source>
+        <translation>%1: %2, sin cambios desde entonces</translation>
+    </message>
+    <message>
+        <source>%1: %2, changed since</source>
+        <translation>%1: %2, con cambios desde entonces</translation>
+    </message>
+    <message>
+        <source>Backed up and checked: %1.</source>
+        <translation>Copiadas y comprobadas: %1.</translation>
+    </message>
+    <message>
+        <source>Unchanged since the last backup: %1.</source>
+        <translation>Sin cambios desde la última copia: %1.</translation>
+    </message>
+    <message>
+        <source>Not backed up, as the folder is not there: %1. If it is on a drive that can be taken out, connect it and try again.</source>
+        <translation>Sin copiar, porque la carpeta no está: %1. Si está en una unidad extraíble, conéctela e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Not yet backed up, as the password is being changed or it is being archived: %1. This is tried again in a minute.</source>
+        <translation>Aún sin copiar, porque se está cambiando la contraseña o archivando: %1. Se intentará de nuevo en un minuto.</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1. Earlier backups are left as they are.</source>
+        <translation>Cancelado: %1. Las copias anteriores quedan como están.</translation>
+    </message>
+    <message>
+        <source>Not backed up: “%1”. %2</source>
+        <translation>Sin copiar: “%1”. %2</translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
@@ -298,10 +505,507 @@
     </message>
 </context>
 <context>
+    <name>ChangePasswordDialog</name>
+    <message>
+        <source>Change Password</source>
+        <translation>Cambiar contraseña</translation>
+    </message>
+    <message>
+        <source>Only you know it. It cannot be recovered.</source>
+        <translation>Solo usted la conoce. No se puede recuperar.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Change password</source>
+        <translation>Cambiar contraseña</translation>
+    </message>
+    <message>
+        <source>Old password:</source>
+        <translation>Contraseña antigua:</translation>
+    </message>
+    <message>
+        <source>New password:</source>
+        <translation>Contraseña nueva:</translation>
+    </message>
+    <message>
+        <source>Confirm:</source>
+        <translation>Confirmar:</translation>
+    </message>
+    <message>
+        <source>Hint:</source>
+        <translation>Pista:</translation>
+    </message>
+</context>
+<context>
+    <name>ChangePasswordRules</name>
+    <message>
+        <source>Old password can not be empty</source>
+        <translation>La contraseña antigua no puede estar vacía</translation>
+    </message>
+    <message>
+        <source>Old password is invalid. Try again</source>
+        <translation>La contraseña antigua no es válida. Inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>New password can not be empty</source>
+        <translation>La contraseña nueva no puede estar vacía</translation>
+    </message>
+    <message>
+        <source>New password can not be the same as the old password</source>
+        <translation>La contraseña nueva no puede ser igual a la antigua</translation>
+    </message>
+    <message>
+        <source>Confirm password can not be empty</source>
+        <translation>La confirmación no puede estar vacía</translation>
+    </message>
+    <message>
+        <source>Password does not match</source>
+        <translation>Las contraseñas no coinciden</translation>
+    </message>
+    <message>
+        <source>Hint can not be empty</source>
+        <translation>La pista no puede estar vacía</translation>
+    </message>
+    <message>
+        <source>“%1” has its new password. From now on only that one opens it. Backups made before still open with the old one.</source>
+        <translation>“%1” tiene su nueva contraseña. Desde ahora solo se abre con ella. Las copias anteriores se siguen abriendo con la antigua.</translation>
+    </message>
+    <message>
+        <source>The password was not changed. The old one still opens “%1”.</source>
+        <translation>La contraseña no se cambió. La antigua sigue abriendo “%1”.</translation>
+    </message>
+    <message>
+        <source>“%1” was locked before the change was done. The old password still opens it.</source>
+        <translation>“%1” se bloqueó antes de terminar el cambio. La contraseña antigua la sigue abriendo.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: another program is using the safe. The old one still opens it. Wait until the other program is done, then try again.</source>
+        <translation>La contraseña no se cambió: otro programa está usando la caja fuerte. La antigua la sigue abriendo. Espere a que el otro programa termine e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: some files of the safe do not open, and under a new password they would be lost. The old one still opens the safe. Bring these files back from a backup or move them out of the folder of the safe, then try again.</source>
+        <translation>La contraseña no se cambió: algunos archivos de la caja fuerte no se abren, y con otra contraseña se perderían. La antigua la sigue abriendo. Recupere esos archivos de una copia o sáquelos de la carpeta de la caja fuerte e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: the files of the safe could not be written. The old one still opens it. Check the free space and that the folder of the safe can be written to, then try again.</source>
+        <translation>La contraseña no se cambió: no se pudieron escribir los archivos de la caja fuerte. La antigua la sigue abriendo. Compruebe el espacio libre y que se puede escribir en la carpeta de la caja fuerte e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens the safe, but perhaps not every item; this old one still opens them all.</source>
+        <translation>Se interrumpió un cambio de la contraseña de “%1”. La contraseña nueva abre la caja fuerte, pero quizá no todos los elementos; esta antigua los abre todos.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens %2 of %3 items; the old one still opens those that were there before. Change nothing now: it would be missing when you go back.</source>
+        <translation>Se interrumpió un cambio de la contraseña de “%1”. La contraseña nueva abre %2 de %3 elementos; la antigua abre aún los que había antes. No cambie nada ahora: faltaría al volver atrás.</translation>
+    </message>
+    <message>
+        <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
+        <translation>Para volver a la contraseña antigua, salga del programa y abra la carpeta de la caja fuerte. Guarde una copia de “safe.passid” en otro lugar. Después copie “safe.passid.bak” sobre “safe.passid”: todos los elementos se abren de nuevo con la contraseña antigua, y puede volver a cambiarla.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceInput</name>
     <message>
         <source>Not specified</source>
         <translation>Sin indicar</translation>
+    </message>
+</context>
+<context>
+    <name>CloudDesk</name>
+    <message>
+        <source>The copy in the cloud folder is still there.</source>
+        <translation>La copia en la carpeta de la nube sigue ahí.</translation>
+    </message>
+    <message>
+        <source>Some of its files could not be removed. Remove the folder yourself if you do not need it:
+%1</source>
+        <translation>Algunos de sus archivos no se pudieron eliminar. Elimine usted la carpeta si no la necesita:
+%1</translation>
+    </message>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>De la carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>Bringing “%1” over…</source>
+        <translation>Trayendo “%1”…</translation>
+    </message>
+    <message>
+        <source>“%1” is on this computer now, and is kept the same as on your other computers. It opens with its own master password.</source>
+        <translation>“%1” está ahora en este equipo y se mantiene igual que en sus otros equipos. Se abre con su propia contraseña maestra.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>Abrirla</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise with the cloud folder.</source>
+        <translation>No se puede sincronizar con la carpeta de la nube.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudImportDialog</name>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>De la carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Otra carpeta…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Bring over</source>
+        <translation>Traer</translation>
+    </message>
+    <message>
+        <source>Safes in the cloud folder</source>
+        <translation>Cajas fuertes en la carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>No other safe found</source>
+        <translation>No se encontró otra caja fuerte</translation>
+    </message>
+    <message>
+        <source>Safes that you synchronise on another computer appear here as soon as your cloud program has brought them.</source>
+        <translation>Las cajas fuertes que sincroniza en otro equipo aparecen aquí en cuanto su programa de la nube las ha traído.</translation>
+    </message>
+    <message>
+        <source>These safes are synchronised by another computer. Bring one over to use it here, too; it opens with its own master password.</source>
+        <translation>Estas cajas fuertes las sincroniza otro equipo. Traiga una para usarla también aquí; se abre con su propia contraseña maestra.</translation>
+    </message>
+    <message>
+        <source>%1
+made on %2</source>
+        <translation>%1
+creada el %2</translation>
+    </message>
+</context>
+<context>
+    <name>CloudOffer</name>
+    <message>
+        <source>Bring it over…</source>
+        <translation>Traerla…</translation>
+    </message>
+    <message>
+        <source>You have a safe in your cloud folder: “%1”.</source>
+        <translation>Tiene una caja fuerte en su carpeta de la nube: “%1”.</translation>
+    </message>
+    <message numerus="yes">
+        <source>You have %n safes in your cloud folder.</source>
+        <translation>
+            <numerusform>Tiene %n caja fuerte en su carpeta de la nube.</numerusform>
+            <numerusform>Tiene %n cajas fuertes en su carpeta de la nube.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CloudPanel</name>
+    <message>
+        <source>No folder of a cloud provider was found. Choose the one that yours keeps the same on all computers, or a folder on a USB stick.</source>
+        <translation>No se encontró la carpeta de ningún proveedor. Elija la que el suyo mantiene igual en todos los equipos, o una carpeta en una memoria USB.</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Otra carpeta…</translation>
+    </message>
+    <message>
+        <source>There is no safe yet.</source>
+        <translation>Aún no hay ninguna caja fuerte.</translation>
+    </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>A synchronised safe has an encrypted copy in a folder that your cloud provider carries to your other computers. What you change on one arrives on all.</source>
+        <translation>Una caja fuerte sincronizada tiene una copia cifrada en una carpeta que su proveedor lleva a sus otros equipos. Lo que cambia en uno llega a todos.</translation>
+    </message>
+    <message>
+        <source>Personal account: %1</source>
+        <translation>Cuenta personal: %1</translation>
+    </message>
+    <message>
+        <source>Business account: %1</source>
+        <translation>Cuenta de empresa: %1</translation>
+    </message>
+    <message>
+        <source>Bring over “%1”…</source>
+        <translation>Traer “%1”…</translation>
+    </message>
+    <message>
+        <source>Bring over a safe (%1)…</source>
+        <translation>Traer una caja fuerte (%1)…</translation>
+    </message>
+    <message>
+        <source>Choose a folder first.</source>
+        <translation>Elija primero una carpeta.</translation>
+    </message>
+    <message>
+        <source>Stop synchronising “%1”?</source>
+        <translation>¿Dejar de sincronizar “%1”?</translation>
+    </message>
+    <message>
+        <source>The safe on this computer stays as it is. Its copy in the cloud folder can stay for your other computers, or be removed; then they can&apos;t synchronise any more.</source>
+        <translation>La caja fuerte de este equipo queda como está. Su copia en la carpeta de la nube puede quedarse para sus otros equipos o eliminarse; entonces ya no podrán sincronizar.</translation>
+    </message>
+    <message>
+        <source>Keep the copy</source>
+        <translation>Conservar la copia</translation>
+    </message>
+    <message>
+        <source>Remove the copy</source>
+        <translation>Eliminar la copia</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>CloudPasswordDialog</name>
+    <message>
+        <source>New master password</source>
+        <translation>Nueva contraseña maestra</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message>
+        <source>Go on with it</source>
+        <translation>Seguir con ella</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>The password of “%1” was changed on another computer. Enter the new one to go on synchronising; from then on the safe opens with it here, too.</source>
+        <translation>La contraseña de “%1” se cambió en otro equipo. Escriba la nueva para seguir sincronizando; desde entonces la caja fuerte se abre con ella también aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudSafeRow</name>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Sincronizar ahora</translation>
+    </message>
+    <message>
+        <source>Enter the new password…</source>
+        <translation>Escribir la contraseña nueva…</translation>
+    </message>
+    <message>
+        <source>Synchronise “%1”</source>
+        <translation>Sincronizar “%1”</translation>
+    </message>
+    <message>
+        <source>Only on this computer</source>
+        <translation>Solo en este equipo</translation>
+    </message>
+</context>
+<context>
+    <name>CloudTexts</name>
+    <message>
+        <source>Synchronised</source>
+        <translation>Sincronizada</translation>
+    </message>
+    <message>
+        <source>Synchronising…</source>
+        <translation>Sincronizando…</translation>
+    </message>
+    <message>
+        <source>Waiting for files</source>
+        <translation>Esperando archivos</translation>
+    </message>
+    <message>
+        <source>Waiting…</source>
+        <translation>Esperando…</translation>
+    </message>
+    <message>
+        <source>New password</source>
+        <translation>Contraseña nueva</translation>
+    </message>
+    <message>
+        <source>No cloud folder</source>
+        <translation>Sin carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>Wrong folder</source>
+        <translation>Otra carpeta</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise</source>
+        <translation>No se sincroniza</translation>
+    </message>
+    <message>
+        <source>Synchronised %1</source>
+        <translation>Sincronizada: %1</translation>
+    </message>
+    <message>
+        <source>Synchronises when the safe is open</source>
+        <translation>Se sincroniza cuando la caja fuerte está abierta</translation>
+    </message>
+    <message>
+        <source>Synchronising, %1 of %2</source>
+        <translation>Sincronizando, %1 de %2</translation>
+    </message>
+    <message>
+        <source>Waiting for files to arrive</source>
+        <translation>Esperando a que lleguen archivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n files to arrive</source>
+        <translation>
+            <numerusform>Esperando a que llegue %n archivo</numerusform>
+            <numerusform>Esperando a que lleguen %n archivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waits until the safe is free</source>
+        <translation>Espera a que la caja fuerte esté libre</translation>
+    </message>
+    <message>
+        <source>The password was changed on another computer</source>
+        <translation>La contraseña se cambió en otro equipo</translation>
+    </message>
+    <message>
+        <source>The cloud folder is not there</source>
+        <translation>La carpeta de la nube no está</translation>
+    </message>
+    <message>
+        <source>The cloud folder holds another safe</source>
+        <translation>La carpeta de la nube contiene otra caja fuerte</translation>
+    </message>
+    <message>
+        <source>The cloud folder can&apos;t be written to</source>
+        <translation>No se puede escribir en la carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>The folder of the safe can&apos;t be written to</source>
+        <translation>No se puede escribir en la carpeta de la caja fuerte</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them.</source>
+        <translation>Sigue solo en cuanto su programa de la nube los haya traído.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them: %1</source>
+        <translation>Sigue solo en cuanto su programa de la nube los haya traído: %1</translation>
+    </message>
+    <message>
+        <source>The safe is being archived, or its password is being changed.</source>
+        <translation>La caja fuerte se está archivando, o se está cambiando su contraseña.</translation>
+    </message>
+    <message>
+        <source>Enter the new password, and this computer goes on with it.</source>
+        <translation>Escriba la contraseña nueva, y este equipo sigue con ella.</translation>
+    </message>
+    <message>
+        <source>If it is on a drive that can be taken out, connect the drive. If it was moved, turn synchronising off and on again. Nothing is lost in the meantime.
+%1</source>
+        <translation>Si está en una unidad extraíble, conéctela. Si se movió, desactive y active de nuevo la sincronización. Mientras tanto no se pierde nada.
+%1</translation>
+    </message>
+    <message>
+        <source>Nothing was read or changed there. Turn synchronising off and on again to choose another folder.
+%1</source>
+        <translation>Allí no se leyó ni se cambió nada. Desactive y active de nuevo la sincronización para elegir otra carpeta.
+%1</translation>
+    </message>
+    <message>
+        <source>Your changes are in the safe on this computer, but not in the cloud folder. Check the free space and that you may write there; it is tried again every minute.
+%1</source>
+        <translation>Sus cambios están en la caja fuerte de este equipo, pero no en la carpeta de la nube. Compruebe el espacio libre y que puede escribir allí; se intenta de nuevo cada minuto.
+%1</translation>
+    </message>
+    <message>
+        <source>Changes of your other computers could not be taken over. Check the free space and that you may write to the folder of the safe; it is tried again every minute.</source>
+        <translation>No se pudieron tomar los cambios de sus otros equipos. Compruebe el espacio libre y que puede escribir en la carpeta de la caja fuerte; se intenta de nuevo cada minuto.</translation>
+    </message>
+    <message>
+        <source>This folder is not there: %1</source>
+        <translation>Esta carpeta no está: %1</translation>
+    </message>
+    <message>
+        <source>This folder is part of the safe itself. Choose the folder of your cloud provider, or one on another drive.</source>
+        <translation>Esta carpeta es parte de la propia caja fuerte. Elija la carpeta de su proveedor o una en otra unidad.</translation>
+    </message>
+    <message>
+        <source>The safe itself lies in this folder. Choose a folder that does not hold it.</source>
+        <translation>La propia caja fuerte está en esta carpeta. Elija una que no la contenga.</translation>
+    </message>
+    <message>
+        <source>Your backups are kept in this folder. Choose another one.</source>
+        <translation>En esta carpeta se guardan sus copias. Elija otra.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to another safe. Choose another one.</source>
+        <translation>Esta carpeta es de otra caja fuerte. Elija otra.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to the safe “%1”. Choose another one.</source>
+        <translation>Esta carpeta es de la caja fuerte “%1”. Elija otra.</translation>
+    </message>
+    <message>
+        <source>Another copy of this safe on this computer is synchronised there already. Turn that off first, or choose another folder.</source>
+        <translation>Otra copia de esta caja fuerte en este equipo ya se sincroniza allí. Desactívela primero o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>This folder can&apos;t be written to. Check the free space and that you may write there: %1</source>
+        <translation>No se puede escribir en esta carpeta. Compruebe el espacio libre y que puede escribir allí: %1</translation>
+    </message>
+    <message>
+        <source>This is not the password that was set on the other computer. Try again.</source>
+        <translation>Esta no es la contraseña que se puso en el otro equipo. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The safe is busy with something else, such as a backup. Try again in a moment.</source>
+        <translation>La caja fuerte está ocupada con otra cosa, como una copia. Inténtelo de nuevo en un momento.</translation>
+    </message>
+    <message>
+        <source>The safe on this computer could not be changed; it is as it was. Check the free space, and that every item of the safe can be read, then try again.</source>
+        <translation>No se pudo cambiar la caja fuerte de este equipo; está como estaba. Compruebe el espacio libre y que se pueden leer todos sus elementos, e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The safe can&apos;t be written. Check the free space and that you may write to the folder of your safes.</source>
+        <translation>No se puede escribir la caja fuerte. Compruebe el espacio libre y que puede escribir en la carpeta de sus cajas fuertes.</translation>
+    </message>
+    <message>
+        <source>Another safe is being imported. Try again when that is done.</source>
+        <translation>Se está importando otra caja fuerte. Inténtelo de nuevo cuando termine.</translation>
+    </message>
+    <message>
+        <source>The safe in the cloud folder can&apos;t be read. It may not have arrived whole yet; wait until your cloud program is done, and try again.</source>
+        <translation>No se puede leer la caja fuerte de la carpeta de la nube. Quizá no ha llegado entera; espere a que su programa de la nube termine e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>One item came from the cloud folder</source>
+        <translation>Ha llegado un elemento de la carpeta de la nube</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came from the cloud folder</source>
+        <translation>
+            <numerusform>Ha llegado %n elemento de la carpeta de la nube</numerusform>
+            <numerusform>Han llegado %n elementos de la carpeta de la nube</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>One item was deleted on another computer</source>
+        <translation>Se eliminó un elemento en otro equipo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were deleted on another computer</source>
+        <translation>
+            <numerusform>Se eliminó %n elemento en otro equipo</numerusform>
+            <numerusform>Se eliminaron %n elementos en otro equipo</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -353,6 +1057,12 @@
         <source>Create safe failed!</source>
         <translation>¡No se ha podido crear la caja fuerte!</translation>
     </message>
+    <message>
+        <source>A safe needs an empty folder that you may write to. This one is not:
+%1</source>
+        <translation>Una caja fuerte necesita una carpeta vacía en la que usted pueda escribir. Esta no lo es:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafePage</name>
@@ -384,6 +1094,38 @@ another one?</source>
         <translation>¿Crear
 otra?</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Restaurar una copia…</translation>
+    </message>
+    <message>
+        <source>Import from an archive…</source>
+        <translation>Importar un archivo…</translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation>En %1</translation>
+    </message>
+    <message>
+        <source>Kept with your other safes</source>
+        <translation>Junto a sus otras cajas fuertes</translation>
+    </message>
+    <message>
+        <source>Usual place</source>
+        <translation>Lugar habitual</translation>
+    </message>
+    <message>
+        <source>Keep the safe in the usual place</source>
+        <translation>Guardar la caja fuerte en el lugar habitual</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe…</source>
+        <translation>Elegir la carpeta de la caja fuerte…</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafeRules</name>
@@ -413,6 +1155,41 @@ otra?</translation>
     <message>
         <source>Calendar</source>
         <translation>Calendario</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteSafeDialog</name>
+    <message>
+        <source>Delete safe</source>
+        <translation>Eliminar caja fuerte</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Delete “%1” for good?</source>
+        <translation>¿Eliminar “%1” para siempre?</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups stay.</source>
+        <translation>Todo lo que contiene desaparecerá de este equipo. Sus copias se conservan.</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups and its copy in the cloud folder stay.</source>
+        <translation>Todo lo que contiene desaparecerá de este equipo. Se conservan sus copias y la que está en la carpeta de la nube.</translation>
+    </message>
+    <message>
+        <source>Master password of this safe</source>
+        <translation>Contraseña maestra de esta caja fuerte</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Wrong Password! Try again</source>
+        <translation>¡Contraseña incorrecta! Inténtelo de nuevo</translation>
     </message>
 </context>
 <context>
@@ -564,6 +1341,107 @@ No se podrá restaurar.</translation>
     <message>
         <source>The archive could not be read back after it was written, and was removed. Choose a folder on another drive.</source>
         <translation>El archivo comprimido no se ha podido volver a leer después de escribirlo y se ha eliminado. Hay que elegir una carpeta de otra unidad.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Save as</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items are in “%1” now. Everyone who opens the file can read them: delete it when it has served.</source>
+        <translation>
+            <numerusform>%n elemento está ahora en “%1”. Cualquiera que abra el archivo puede leerlo: elimínelo cuando ya no haga falta.</numerusform>
+            <numerusform>%n elementos están ahora en “%1”. Cualquiera que abra el archivo puede leerlos: elimínelo cuando ya no haga falta.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file cannot be written, and nothing of it is left. Check the free space and the permissions, or choose another folder:
+%1</source>
+        <translation>No se puede escribir el archivo, y no ha quedado nada de él. Compruebe el espacio libre y los permisos, o elija otra carpeta:
+%1</translation>
+    </message>
+    <message>
+        <source>The safe was locked before the file was written. Nothing of it is left.</source>
+        <translation>La caja fuerte se bloqueó antes de escribir el archivo. No ha quedado nada de él.</translation>
+    </message>
+    <message>
+        <source>Export items</source>
+        <translation>Exportar elementos</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected items</source>
+        <translation>
+            <numerusform>El elemento seleccionado</numerusform>
+            <numerusform>Los %n elementos seleccionados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All items of the safe (%1)</source>
+        <translation>Todos los elementos de la caja fuerte (%1)</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>JSON: everything, for another safe</source>
+        <translation>JSON: todo, para otra caja fuerte</translation>
+    </message>
+    <message>
+        <source>CSV: logins, for browsers and other programs</source>
+        <translation>CSV: accesos, para navegadores y otros programas</translation>
+    </message>
+    <message>
+        <source>Password of the safe</source>
+        <translation>Contraseña de la caja fuerte</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Password of the safe “%1”</source>
+        <translation>Contraseña de la caja fuerte “%1”</translation>
+    </message>
+    <message>
+        <source>The file is not encrypted: everyone who gets hold of it can read your passwords. Do not leave it lying, nor in a folder that is synchronised, and delete it as soon as it has served.</source>
+        <translation>El archivo no está cifrado: quien lo consiga puede leer sus contraseñas. No lo deje por ahí, ni en una carpeta sincronizada, y elimínelo en cuanto ya no haga falta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items that are no logins are left out.</source>
+        <translation>
+            <numerusform>Se omite %n elemento que no es un acceso.</numerusform>
+            <numerusform>Se omiten %n elementos que no son accesos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments are left out. An archive of the safe holds them.</source>
+        <translation>
+            <numerusform>Se omite %n adjunto. La exportación de la caja fuerte lo incluye.</numerusform>
+            <numerusform>Se omiten %n adjuntos. La exportación de la caja fuerte los incluye.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not the password of the safe.</source>
+        <translation>Esta no es la contraseña de la caja fuerte.</translation>
+    </message>
+    <message>
+        <source>Writing “%1”…</source>
+        <translation>Escribiendo “%1”…</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Mostrar carpeta</translation>
     </message>
 </context>
 <context>
@@ -763,6 +1641,14 @@ No se podrá restaurar.</translation>
         <source>The program waits in the tray when you close its window.</source>
         <translation>Al cerrar la ventana, el programa espera en la bandeja del sistema.</translation>
     </message>
+    <message>
+        <source>Bring your passwords over</source>
+        <translation>Traiga sus contraseñas</translation>
+    </message>
+    <message>
+        <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
+        <translation>De un navegador o de otro programa. También puede hacerlo después, en el menú de la caja fuerte.</translation>
+    </message>
 </context>
 <context>
     <name>FormFillFlow</name>
@@ -774,22 +1660,28 @@ No se podrá restaurar.</translation>
         <source>Item %1 has wrong url: %2</source>
         <translation>La URL del elemento %1 no es correcta: %2</translation>
     </message>
+    <message>
+        <source>No browser is connected</source>
+        <translation>No hay ningún navegador conectado</translation>
+    </message>
+    <message>
+        <source>To fill this into a page, open your browser with the extension.</source>
+        <translation>Para rellenar esto en una página, abra su navegador con la extensión.</translation>
+    </message>
+    <message>
+        <source>Nothing to fill</source>
+        <translation>Nada que rellenar</translation>
+    </message>
+    <message>
+        <source>The page shows no empty fields for “%1”.</source>
+        <translation>La página no muestra campos vacíos para “%1”.</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>
     <message>
         <source>Warning</source>
         <translation>Advertencia</translation>
-    </message>
-    <message>
-        <source>Can&apos;t delete.</source>
-        <translation>No se puede eliminar.</translation>
-    </message>
-    <message>
-        <source>The items are still there. Check that the folder of the safe can be written to:
-%1</source>
-        <translation>Los elementos siguen ahí. Conviene comprobar que se puede escribir en la carpeta de la caja fuerte:
-%1</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
@@ -1020,6 +1912,27 @@ No se podrán restaurar.</numerusform>
             <numerusform>El adjunto también se elimina.</numerusform>
             <numerusform>Los %n adjuntos también se eliminan.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ItemChanges</name>
+    <message>
+        <source>Can&apos;t delete now.</source>
+        <translation>Ahora no se puede eliminar.</translation>
+    </message>
+    <message>
+        <source>The password of the safe is being changed. Delete the items when that is done.</source>
+        <translation>Se está cambiando la contraseña de la caja fuerte. Elimine los elementos cuando termine.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t delete.</source>
+        <translation>No se puede eliminar.</translation>
+    </message>
+    <message>
+        <source>The items are still there. Check that the folder of the safe can be written to:
+%1</source>
+        <translation>Los elementos siguen ahí. Compruebe que se puede escribir en la carpeta de la caja fuerte:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1565,6 +2478,10 @@ No se podrán restaurar.</numerusform>
         <source>New item (Ctrl+N)</source>
         <translation>Nuevo elemento (Ctrl+N)</translation>
     </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Traer contraseñas…</translation>
+    </message>
 </context>
 <context>
     <name>ItemMenu</name>
@@ -1607,6 +2524,10 @@ No se podrán restaurar.</numerusform>
     <message>
         <source>Delete forever…</source>
         <translation>Eliminar para siempre…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
     </message>
 </context>
 <context>
@@ -1799,6 +2720,14 @@ Hay que corregirlos y volver a intentarlo.</translation>
         <source>Undo</source>
         <translation>Deshacer</translation>
     </message>
+    <message>
+        <source>“%1” was deleted on another computer.</source>
+        <translation>“%1” se eliminó en otro equipo.</translation>
+    </message>
+    <message>
+        <source>What you have typed is kept. Save it as a new item, or discard it.</source>
+        <translation>Lo que ha escrito se conserva. Guárdelo como elemento nuevo o descártelo.</translation>
+    </message>
 </context>
 <context>
     <name>MasterPasswordPage</name>
@@ -1868,6 +2797,22 @@ Create one?</source>
         <source>Unlocking…</source>
         <translation>Desbloqueando…</translation>
     </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Restaurar una copia…</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Cajas fuertes…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Abrir de todos modos</translation>
+    </message>
 </context>
 <context>
     <name>MonthPopup</name>
@@ -1878,6 +2823,562 @@ Create one?</source>
     <message>
         <source>Next year</source>
         <translation>Año siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInColumns</name>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The columns of “%1” are not known. Say what each one holds.</source>
+        <translation>No se conocen las columnas de “%1”. Diga qué contiene cada una.</translation>
+    </message>
+    <message>
+        <source>Keep it in the note</source>
+        <translation>Guardarla en la nota</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInDialog</name>
+    <message>
+        <source>Choose the exported file</source>
+        <translation>Elija el archivo exportado</translation>
+    </message>
+    <message>
+        <source>Exports of passwords (%1)</source>
+        <translation>Contraseñas exportadas (%1)</translation>
+    </message>
+    <message>
+        <source>All files (%1)</source>
+        <translation>Todos los archivos (%1)</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Bring passwords over</source>
+        <translation>Traer contraseñas</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here</source>
+        <translation>Suelte aquí el archivo exportado</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>Copiado.</translation>
+    </message>
+    <message>
+        <source>Reading “%1”…</source>
+        <translation>Leyendo “%1”…</translation>
+    </message>
+    <message>
+        <source>Added %1 of %2…</source>
+        <translation>Añadidos %1 de %2…</translation>
+    </message>
+    <message>
+        <source>What came in.txt</source>
+        <translation>Lo que se ha traído.txt</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Guardado.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written. Choose another folder.</source>
+        <translation>No se puede escribir el archivo. Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>Delete “%1”?</source>
+        <translation>¿Eliminar “%1”?</translation>
+    </message>
+    <message>
+        <source>The file does not go to the bin: it is gone at once. Nobody can promise that nothing of it stays behind: SSDs, backups and folders that are synchronised may keep what was deleted for a while.</source>
+        <translation>El archivo no va a la papelera: desaparece al momento. Nadie puede prometer que no quede nada de él: los SSD, las copias y las carpetas sincronizadas pueden conservar un tiempo lo eliminado.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The file “%1” is deleted. If you made other copies of it, delete them, too.</source>
+        <translation>El archivo “%1” se ha eliminado. Si hizo otras copias de él, elimínelas también.</translation>
+    </message>
+    <message>
+        <source>The file cannot be deleted. Close the program that has it open, then try again:
+%1</source>
+        <translation>No se puede eliminar el archivo. Cierre el programa que lo tiene abierto e inténtelo de nuevo:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInEnd</name>
+    <message>
+        <source>What did not come in</source>
+        <translation>Lo que no se ha traído</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Eliminar el archivo</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copiar informe</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Guardar informe…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Look at what did not come in, then delete the file.</source>
+        <translation>El archivo “%1” aún contiene sus contraseñas, a la vista de cualquiera. Mire lo que no se ha traído y después elimine el archivo.</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Delete it now.</source>
+        <translation>El archivo “%1” aún contiene sus contraseñas, a la vista de cualquiera. Elimínelo ahora.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>elegido</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>no elegido</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Será</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPage</name>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Traer contraseñas…</translation>
+    </message>
+    <message>
+        <source>Chrome, Edge, Firefox, Safari, Bitwarden and KeePassXC write their passwords into a file, which this program reads. You see everything before it comes in, and how to make the file.</source>
+        <translation>Chrome, Edge, Firefox, Safari, Bitwarden y KeePassXC escriben sus contraseñas en un archivo que este programa lee. Usted lo ve todo antes de que entre, y cómo hacer el archivo.</translation>
+    </message>
+    <message>
+        <source>Open a safe first: the passwords are kept in it.</source>
+        <translation>Abra primero una caja fuerte: en ella se guardan las contraseñas.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPreview</name>
+    <message>
+        <source>Select all</source>
+        <translation>Elegir todo</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>No elegir nada</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries</source>
+        <translation>
+            <numerusform>%n entrada</numerusform>
+            <numerusform>%n entradas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins will be added</source>
+        <translation>
+            <numerusform>Se añadirá %n acceso</numerusform>
+            <numerusform>Se añadirán %n accesos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items will be added</source>
+        <translation>
+            <numerusform>Se añadirá %n elemento</numerusform>
+            <numerusform>Se añadirán %n elementos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n are already there</source>
+        <translation>
+            <numerusform>%n ya está</numerusform>
+            <numerusform>%n ya están</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unreadable</source>
+        <translation>
+            <numerusform>%n ilegible</numerusform>
+            <numerusform>%n ilegibles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n omitido</numerusform>
+            <numerusform>%n omitidos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n logins</source>
+        <translation>
+            <numerusform>Añadir %n acceso</numerusform>
+            <numerusform>Añadir %n accesos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n items</source>
+        <translation>
+            <numerusform>Añadir %n elemento</numerusform>
+            <numerusform>Añadir %n elementos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveInProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Cancelando…</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInReport</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not written to the disk</source>
+        <translation>No se escribió en el disco</translation>
+    </message>
+    <message>
+        <source>Not added before the safe was locked</source>
+        <translation>No se añadió antes de bloquearse la caja fuerte</translation>
+    </message>
+    <message>
+        <source>Not added before you cancelled</source>
+        <translation>No se añadió antes de que usted cancelara</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>No elegido</translation>
+    </message>
+    <message>
+        <source>Nothing came in</source>
+        <translation>No se ha traído nada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins came in</source>
+        <translation>
+            <numerusform>Se ha traído %n acceso</numerusform>
+            <numerusform>Se han traído %n accesos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came in</source>
+        <translation>
+            <numerusform>Se ha traído %n elemento</numerusform>
+            <numerusform>Se han traído %n elementos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>You cancelled. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Usted canceló. Lo que se trajo antes está guardado. Para el resto, elija el archivo de nuevo: se reconoce lo que ya está.</translation>
+    </message>
+    <message>
+        <source>The safe could not be written to. Check the free space and the permissions, then choose the file again: what is there is recognised.</source>
+        <translation>No se pudo escribir en la caja fuerte. Compruebe el espacio libre y los permisos y elija el archivo de nuevo: se reconoce lo que ya está.</translation>
+    </message>
+    <message>
+        <source>The safe was locked meanwhile. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Mientras tanto se bloqueó la caja fuerte. Lo que se trajo antes está guardado. Para el resto, elija el archivo de nuevo: se reconoce lo que ya está.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInStart</name>
+    <message>
+        <source>How to make the file</source>
+        <translation>Cómo hacer el archivo</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here, or choose it. Nothing is added before you have seen what will come in.</source>
+        <translation>Suelte aquí el archivo exportado o elíjalo. No se añade nada antes de que haya visto lo que entrará.</translation>
+    </message>
+    <message>
+        <source>Choose file…</source>
+        <translation>Elegir archivo…</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTable</name>
+    <message>
+        <source>What will come in</source>
+        <translation>Lo que entrará</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTexts</name>
+    <message>
+        <source>The file is empty. Export the passwords again, and choose the new file.</source>
+        <translation>El archivo está vacío. Exporte las contraseñas de nuevo y elija el archivo nuevo.</translation>
+    </message>
+    <message>
+        <source>The file holds no text that could be read. Export the passwords as CSV or JSON, and choose that file.</source>
+        <translation>El archivo no contiene texto que se pueda leer. Exporte las contraseñas como CSV o JSON y elija ese archivo.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a text. Export the passwords again, and choose the new file.</source>
+        <translation>El archivo termina en medio de un texto. Exporte las contraseñas de nuevo y elija el archivo nuevo.</translation>
+    </message>
+    <message>
+        <source>The file is encrypted. Export again as JSON or CSV without encryption, and delete that file afterwards.</source>
+        <translation>El archivo está cifrado. Exporte de nuevo como JSON o CSV sin cifrar y elimine después ese archivo.</translation>
+    </message>
+    <message>
+        <source>This is no export that the program knows. It reads the JSON files of Bitwarden and its own, and CSV files of browsers and other programs.</source>
+        <translation>El programa no conoce esta exportación. Lee los archivos JSON de Bitwarden y los propios, y archivos CSV de navegadores y otros programas.</translation>
+    </message>
+    <message>
+        <source>The names of the columns are not known. Say what each column holds.</source>
+        <translation>No se conocen los nombres de las columnas. Diga qué contiene cada una.</translation>
+    </message>
+    <message>
+        <source>Save the file where you find it again.</source>
+        <translation>Guarde el archivo donde lo vuelva a encontrar.</translation>
+    </message>
+    <message>
+        <source>Type %1 into the address bar.</source>
+        <translation>Escriba %1 en la barra de direcciones.</translation>
+    </message>
+    <message>
+        <source>Beside “Export passwords” press “Download file”.</source>
+        <translation>Junto a “Exportar contraseñas” pulse “Descargar archivo”.</translation>
+    </message>
+    <message>
+        <source>Press the three dots above the list and choose “Export passwords”.</source>
+        <translation>Pulse los tres puntos sobre la lista y elija “Exportar contraseñas”.</translation>
+    </message>
+    <message>
+        <source>Press the three dots in the corner and choose “Export passwords…”.</source>
+        <translation>Pulse los tres puntos de la esquina y elija “Exportar contraseñas…”.</translation>
+    </message>
+    <message>
+        <source>On the Mac open the program “Passwords”, or Safari on older systems.</source>
+        <translation>En el Mac abra el programa “Contraseñas”, o Safari en sistemas antiguos.</translation>
+    </message>
+    <message>
+        <source>In the menu “File” choose to export all passwords to a file.</source>
+        <translation>En el menú “Archivo” elija exportar todas las contraseñas a un archivo.</translation>
+    </message>
+    <message>
+        <source>Bring the file to this computer.</source>
+        <translation>Traiga el archivo a este equipo.</translation>
+    </message>
+    <message>
+        <source>Choose “Export vault”: under “Tools” in the web vault, in the menu “File” of the program.</source>
+        <translation>Elija “Exportar caja fuerte”: en “Herramientas” de la caja web, en el menú “Archivo” del programa.</translation>
+    </message>
+    <message>
+        <source>Choose “.json”, which holds cards and identities too, and no encryption.</source>
+        <translation>Elija “.json”, que incluye también tarjetas e identidades, y sin cifrar.</translation>
+    </message>
+    <message>
+        <source>Open the database.</source>
+        <translation>Abra la base de datos.</translation>
+    </message>
+    <message>
+        <source>In the menu “Database” choose “Export”, then “CSV file…”.</source>
+        <translation>En el menú “Base de datos” elija “Exportar” y después “Archivo CSV…”.</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Otra caja fuerte</translation>
+    </message>
+    <message>
+        <source>Open the other safe in this program.</source>
+        <translation>Abra la otra caja fuerte en este programa.</translation>
+    </message>
+    <message>
+        <source>In the menu of the safe choose “Export items…”, then JSON.</source>
+        <translation>En el menú de la caja fuerte elija “Exportar elementos…” y después JSON.</translation>
+    </message>
+    <message>
+        <source>Another program</source>
+        <translation>Otro programa</translation>
+    </message>
+    <message>
+        <source>Export the passwords as CSV, with the names of the columns in the first row.</source>
+        <translation>Exporte las contraseñas como CSV, con los nombres de las columnas en la primera fila.</translation>
+    </message>
+    <message>
+        <source>Choose the file here. You are asked what each column holds, if that is not known.</source>
+        <translation>Elija el archivo aquí. Si no se conocen las columnas, se le pregunta qué contiene cada una.</translation>
+    </message>
+    <message>
+        <source>recognised as an export of a browser</source>
+        <translation>reconocido como exportación de un navegador</translation>
+    </message>
+    <message>
+        <source>read by the columns that you chose</source>
+        <translation>leído según las columnas que usted eligió</translation>
+    </message>
+    <message>
+        <source>recognised as an export of %1</source>
+        <translation>reconocido como exportación de %1</translation>
+    </message>
+    <message>
+        <source>There are no rows below the names of the columns. Export the passwords again, and choose the new file.</source>
+        <translation>No hay filas debajo de los nombres de las columnas. Exporte las contraseñas de nuevo y elija el archivo nuevo.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there. Choose it again.</source>
+        <translation>El archivo ya no está. Elíjalo de nuevo.</translation>
+    </message>
+    <message>
+        <source>This is no file. Choose the exported file itself.</source>
+        <translation>Esto no es un archivo. Elija el archivo exportado mismo.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read. Close the program that has it open, or copy it to another folder.</source>
+        <translation>No se puede leer el archivo. Cierre el programa que lo tiene abierto o cópielo a otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1, which no export of passwords is. Check that it is the right one.</source>
+        <translation>El archivo es mayor que %1, y ninguna exportación de contraseñas lo es. Compruebe que es el correcto.</translation>
+    </message>
+    <message>
+        <source>Not a web address</source>
+        <translation>No es una dirección web</translation>
+    </message>
+    <message>
+        <source>Nothing in it</source>
+        <translation>No contiene nada</translation>
+    </message>
+    <message>
+        <source>Unknown kind</source>
+        <translation>Tipo desconocido</translation>
+    </message>
+    <message>
+        <source>Wrong number of columns</source>
+        <translation>Número de columnas incorrecto</translation>
+    </message>
+    <message>
+        <source>Already there</source>
+        <translation>Ya está</translation>
+    </message>
+    <message>
+        <source>Other password</source>
+        <translation>Otra contraseña</translation>
+    </message>
+    <message>
+        <source>Other note</source>
+        <translation>Otra nota</translation>
+    </message>
+    <message>
+        <source>Without address</source>
+        <translation>Sin dirección</translation>
+    </message>
+    <message>
+        <source>It is in the safe, or further up in the file.</source>
+        <translation>Está en la caja fuerte, o más arriba en el archivo.</translation>
+    </message>
+    <message>
+        <source>There is a login of the same site and user name with another password. Both will be there.</source>
+        <translation>Hay un acceso del mismo sitio y nombre de usuario con otra contraseña. Estarán los dos.</translation>
+    </message>
+    <message>
+        <source>There is such an item with another note. Both will be there.</source>
+        <translation>Hay un elemento así con otra nota. Estarán los dos.</translation>
+    </message>
+    <message>
+        <source>Its address belongs to an app or a file, and goes to the note.</source>
+        <translation>Su dirección es de una aplicación o de un archivo, y va a la nota.</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>Entrada %1</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>Fila %1</translation>
+    </message>
+    <message>
+        <source>(entry %1)</source>
+        <translation>(entrada %1)</translation>
+    </message>
+    <message>
+        <source>(row %1)</source>
+        <translation>(fila %1)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +3401,22 @@ Create one?</source>
     <message>
         <source>Create</source>
         <translation>Crear</translation>
+    </message>
+    <message>
+        <source>Do you have a safe already?</source>
+        <translation>¿Ya tiene una caja fuerte?</translation>
+    </message>
+    <message>
+        <source>Open its folder…</source>
+        <translation>Abrir su carpeta…</translation>
+    </message>
+    <message>
+        <source>Import an archive…</source>
+        <translation>Importar un archivo…</translation>
+    </message>
+    <message>
+        <source>“%1” is there. Unlock it with its master password after these steps.</source>
+        <translation>“%1” ya está. Ábrala con su contraseña maestra después de estos pasos.</translation>
     </message>
 </context>
 <context>
@@ -1941,6 +3458,25 @@ Ctrl+B copia el nombre de usuario, Ctrl+Mayús+C la contraseña.
 Ctrl+Intro accede al sitio, Ctrl+L bloquea la caja fuerte, Ctrl+Q cierra el programa.
 
 El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icons (MIT License).</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe</source>
+        <translation>Elija la carpeta de la caja fuerte</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordChangeDesk</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Change Password</source>
+        <translation>Cambiar contraseña</translation>
+    </message>
+    <message>
+        <source>Writing “%1” anew under its new password. You can go on working meanwhile.</source>
+        <translation>Escribiendo “%1” de nuevo con su nueva contraseña. Mientras tanto puede seguir trabajando.</translation>
     </message>
 </context>
 <context>
@@ -2133,52 +3669,27 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
         <translation>seleccionar todo</translation>
     </message>
     <message>
-        <source>search</source>
-        <translation>buscar</translation>
-    </message>
-    <message>
-        <source>new item</source>
-        <translation>nuevo elemento</translation>
-    </message>
-    <message>
-        <source>edit</source>
-        <translation>editar</translation>
-    </message>
-    <message>
-        <source>save</source>
-        <translation>guardar</translation>
-    </message>
-    <message>
-        <source>log in</source>
-        <translation>acceder</translation>
-    </message>
-    <message>
-        <source>copy the user name</source>
-        <translation>copiar el nombre de usuario</translation>
-    </message>
-    <message>
-        <source>copy the password</source>
-        <translation>copiar la contraseña</translation>
-    </message>
-    <message>
-        <source>password generator</source>
-        <translation>generador de contraseñas</translation>
-    </message>
-    <message>
-        <source>lock</source>
-        <translation>bloquear</translation>
-    </message>
-    <message>
-        <source>settings</source>
-        <translation>ajustes</translation>
-    </message>
-    <message>
-        <source>exit</source>
-        <translation>salir</translation>
-    </message>
-    <message>
         <source>a command of this program</source>
         <translation>un comando de este programa</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Cancelando…</translation>
     </message>
 </context>
 <context>
@@ -2235,6 +3746,174 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     </message>
 </context>
 <context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Restore from a backup</source>
+        <translation>Restaurar una copia</translation>
+    </message>
+    <message>
+        <source>Another folder…</source>
+        <translation>Otra carpeta…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Leyendo las copias…</translation>
+    </message>
+    <message>
+        <source>The folder is not there</source>
+        <translation>La carpeta no está</translation>
+    </message>
+    <message>
+        <source>Connect its drive, or choose the folder that your backups lie in.</source>
+        <translation>Conecte su unidad o elija la carpeta donde están sus copias.</translation>
+    </message>
+    <message>
+        <source>No backups here</source>
+        <translation>Aquí no hay copias</translation>
+    </message>
+    <message>
+        <source>Choose the folder that your backups lie in, such as one on another disk.</source>
+        <translation>Elija la carpeta donde están sus copias, por ejemplo en otro disco.</translation>
+    </message>
+    <message>
+        <source>It comes back as a new safe with the password of that time.</source>
+        <translation>Vuelve como una nueva caja fuerte, con la contraseña de entonces.</translation>
+    </message>
+</context>
+<context>
+    <name>SafeDesk</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe</source>
+        <translation>Abrir la carpeta de una caja fuerte</translation>
+    </message>
+    <message>
+        <source>No safe there</source>
+        <translation>Ahí no hay ninguna caja fuerte</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder. The folder of a safe holds a file “safe.meta”:
+%1</source>
+        <translation>En esta carpeta no hay ninguna caja fuerte. La carpeta de una caja fuerte contiene un archivo “safe.meta”:
+%1</translation>
+    </message>
+    <message>
+        <source>Name of the safe</source>
+        <translation>Nombre de la caja fuerte</translation>
+    </message>
+    <message>
+        <source>Can&apos;t rename.</source>
+        <translation>No se puede cambiar el nombre.</translation>
+    </message>
+    <message>
+        <source>The safe keeps its name. Check the free space and that you may write to its folder:
+%1</source>
+        <translation>La caja fuerte conserva su nombre. Compruebe el espacio libre y que puede escribir en su carpeta:
+%1</translation>
+    </message>
+    <message>
+        <source>Where is “%1” now?</source>
+        <translation>¿Dónde está “%1” ahora?</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Otra caja fuerte</translation>
+    </message>
+    <message>
+        <source>This folder holds another safe than “%1”. Open it on its own with “Open the folder of a safe”, or choose another folder.</source>
+        <translation>Esta carpeta contiene otra caja fuerte, no “%1”. Ábrala aparte con “Abrir la carpeta de una caja fuerte” o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder:
+%1</source>
+        <translation>En esta carpeta no hay ninguna caja fuerte:
+%1</translation>
+    </message>
+    <message>
+        <source>Take “%1” off the list?</source>
+        <translation>¿Quitar “%1” de la lista?</translation>
+    </message>
+    <message>
+        <source>Its files stay where they are. “Open the folder of a safe” brings it back:
+%1</source>
+        <translation>Sus archivos quedan donde están. “Abrir la carpeta de una caja fuerte” la trae de vuelta:
+%1</translation>
+    </message>
+    <message>
+        <source>Its folder is not there now. If it comes back, “Open the folder of a safe” finds it:
+%1</source>
+        <translation>Su carpeta no está ahora. Si vuelve, “Abrir la carpeta de una caja fuerte” la encuentra:
+%1</translation>
+    </message>
+    <message>
+        <source>Remove from list</source>
+        <translation>Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Delete safe</source>
+        <translation>Eliminar caja fuerte</translation>
+    </message>
+    <message>
+        <source>Deleting “%1”…</source>
+        <translation>Eliminando “%1”…</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is not in its folder any more.</source>
+        <translation>No se eliminó nada: la caja fuerte ya no está en su carpeta.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is being archived, or its password is being changed. Try again when that is done.</source>
+        <translation>No se eliminó nada: la caja fuerte se está archivando, o se está cambiando su contraseña. Inténtelo de nuevo cuando termine.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: another program has this safe open. Close it there and try again.</source>
+        <translation>No se eliminó nada: otro programa tiene abierta esta caja fuerte. Ciérrela allí e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is as it was. Check that you may write to its folder and try again.</source>
+        <translation>No se eliminó nada: la caja fuerte está como estaba. Compruebe que puede escribir en su carpeta e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Mostrar carpeta</translation>
+    </message>
+    <message>
+        <source>“%1” is gone, but some of its files could not be removed. They are encrypted, and you can delete them:
+%2</source>
+        <translation>“%1” ya no está, pero algunos de sus archivos no se pudieron eliminar. Están cifrados, y puede eliminarlos usted:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is gone. %n other files were in its folder and are still there:
+%2</source>
+        <translation>
+            <numerusform>“%1” ya no está. Había %n archivo más en su carpeta y sigue ahí:
+%2</numerusform>
+            <numerusform>“%1” ya no está. Había %n archivos más en su carpeta y siguen ahí:
+%2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SafeItemEditor</name>
     <message>
         <source>Editing “%1” · %2</source>
@@ -2260,6 +3939,131 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     </message>
 </context>
 <context>
+    <name>SafeLines</name>
+    <message>
+        <source>Folder not found: it was on a drive that is not connected</source>
+        <translation>Carpeta no encontrada: estaba en una unidad que no está conectada</translation>
+    </message>
+    <message>
+        <source>Folder not found: it was moved, renamed or deleted</source>
+        <translation>Carpeta no encontrada: se movió, cambió de nombre o se eliminó</translation>
+    </message>
+    <message>
+        <source>There is no safe in its folder any more, or it can&apos;t be read</source>
+        <translation>En su carpeta ya no hay ninguna caja fuerte, o no se puede leer</translation>
+    </message>
+    <message>
+        <source>in the cloud folder</source>
+        <translation>en la carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>a copy of “%1”</source>
+        <translation>una copia de “%1”</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abierta</translation>
+    </message>
+    <message>
+        <source>Last opened %1</source>
+        <translation>Última apertura: %1</translation>
+    </message>
+    <message>
+        <source>Not opened yet</source>
+        <translation>Aún no abierta</translation>
+    </message>
+    <message>
+        <source>synchronised %1</source>
+        <translation>sincronizada %1</translation>
+    </message>
+    <message>
+        <source>backed up %1</source>
+        <translation>copiada %1</translation>
+    </message>
+    <message>
+        <source>no backup yet</source>
+        <translation>aún sin copia</translation>
+    </message>
+</context>
+<context>
+    <name>SafeMenu</name>
+    <message>
+        <source>Create new...</source>
+        <translation>Crear nueva…</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Cajas fuertes…</translation>
+    </message>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Sincronizar ahora</translation>
+    </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Traer contraseñas…</translation>
+    </message>
+    <message>
+        <source>Export items…</source>
+        <translation>Exportar elementos…</translation>
+    </message>
+    <message>
+        <source>Export safe…</source>
+        <translation>Exportar caja fuerte…</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Cambiar contraseña…</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Bloquear</translation>
+    </message>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (no disponible)</translation>
+    </message>
+</context>
+<context>
+    <name>SafeRow</name>
+    <message>
+        <source>Locate…</source>
+        <translation>Buscar…</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>More about “%1”</source>
+        <translation>Más sobre “%1”</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Cambiar nombre…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Mostrar carpeta</translation>
+    </message>
+    <message>
+        <source>Remove from list…</source>
+        <translation>Quitar de la lista…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Eliminar…</translation>
+    </message>
+</context>
+<context>
     <name>SafeSwitcher</name>
     <message>
         <source>Switch to another safe</source>
@@ -2269,17 +4073,36 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
         <source>Safe: %1</source>
         <translation>Caja fuerte: %1</translation>
     </message>
+</context>
+<context>
+    <name>SafesDialog</name>
     <message>
-        <source>%1 (not available)</source>
-        <translation>%1 (no disponible)</translation>
+        <source>Safes</source>
+        <translation>Cajas fuertes</translation>
     </message>
     <message>
-        <source>Create new...</source>
-        <translation>Crear nueva…</translation>
+        <source>New safe</source>
+        <translation>Nueva caja fuerte</translation>
     </message>
     <message>
-        <source>Lock</source>
-        <translation>Bloquear</translation>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Make a safe from an archive or a backup</source>
+        <translation>Hacer una caja fuerte de un archivo o de una copia</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe…</source>
+        <translation>Abrir la carpeta de una caja fuerte…</translation>
+    </message>
+    <message>
+        <source>From cloud folder (%1)</source>
+        <translation>De la carpeta de la nube (%1)</translation>
+    </message>
+    <message>
+        <source>There is no safe yet. Make a new one, or import an archive.</source>
+        <translation>Aún no hay ninguna caja fuerte. Cree una o importe un archivo.</translation>
     </message>
 </context>
 <context>
@@ -2409,6 +4232,10 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>Remove</source>
         <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
     </message>
 </context>
 <context>
@@ -2748,6 +4575,42 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
         <source>Locks the safe from any program; on Wayland, from this program&apos;s windows.</source>
         <translation>Bloquea la caja fuerte desde cualquier programa; en Wayland, desde las ventanas de este.</translation>
     </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Carpeta de la nube</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Contraseña maestra</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>La que abre esta caja fuerte.</translation>
+    </message>
+    <message>
+        <source>change hint</source>
+        <translation>cambiar pista</translation>
+    </message>
+    <message>
+        <source>Last backup</source>
+        <translation>Última copia</translation>
+    </message>
+    <message>
+        <source>When each safe was backed up, and when that is done next.</source>
+        <translation>Cuándo se copió cada caja fuerte y cuándo toca la próxima vez.</translation>
+    </message>
+    <message>
+        <source>back up now restore archive</source>
+        <translation>copiar ahora restaurar archivo</translation>
+    </message>
+    <message>
+        <source>Keeps safes the same on several computers.</source>
+        <translation>Mantiene las cajas fuertes iguales en varios equipos.</translation>
+    </message>
+    <message>
+        <source>synchronise sync mirror share provider account computers</source>
+        <translation>sincronizar copia espejo compartir proveedor cuenta equipos</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -2880,6 +4743,18 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>What it was made for is no longer edited</source>
         <translation>El elemento para el que se generó ya no se está editando</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Cambiar contraseña…</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Contraseña maestra</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>La que abre esta caja fuerte.</translation>
     </message>
 </context>
 <context>
@@ -3051,6 +4926,28 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>Unlock your safe to go on</source>
         <translation>Desbloquear la caja fuerte para continuar</translation>
+    </message>
+    <message>
+        <source>This safe is on a drive that is not connected. Connect it, then choose the safe again:
+%1</source>
+        <translation>Esta caja fuerte está en una unidad que no está conectada. Conéctela y elija la caja fuerte de nuevo:
+%1</translation>
+    </message>
+    <message>
+        <source>Another program on this computer has this safe open. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Otro programa de este equipo tiene abierta esta caja fuerte. Lo que ambos cambien a la vez puede perderse; ciérrela allí primero.</translation>
+    </message>
+    <message>
+        <source>This safe is open on the computer “%1”, or was when that computer stopped. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Esta caja fuerte está abierta en el equipo “%1”, o lo estaba cuando ese equipo se detuvo. Lo que ambos cambien a la vez puede perderse; ciérrela allí primero.</translation>
+    </message>
+    <message>
+        <source>This is the password from before it was changed. Use the new one.</source>
+        <translation>Esta es la contraseña de antes del cambio. Use la nueva.</translation>
+    </message>
+    <message>
+        <source>This is the password from before a change that was interrupted.</source>
+        <translation>Esta es la contraseña de antes de un cambio que se interrumpió.</translation>
     </message>
 </context>
 <context>

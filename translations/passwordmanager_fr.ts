@@ -2,6 +2,66 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en_GB">
 <context>
+    <name>ArchiveDesk</name>
+    <message>
+        <source>Export safe</source>
+        <translation>Exporter le coffre</translation>
+    </message>
+    <message>
+        <source>GPM file (*.gpm)</source>
+        <translation>Fichier GPM (*.gpm)</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>Exportation de «&#x202f;%1&#x202f;»…</translation>
+    </message>
+    <message>
+        <source>“%1” was not exported. %2</source>
+        <translation>«&#x202f;%1&#x202f;» n’a pas été exporté. %2</translation>
+    </message>
+    <message>
+        <source>“%1” is exported. Everything in the file is encrypted; it opens with the master password of today:
+%2</source>
+        <translation>«&#x202f;%1&#x202f;» est exporté. Tout est chiffré dans le fichier&#x202f;; il s’ouvre avec le mot de passe maître actuel&#xa0;:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read and are not in it.</source>
+        <translation>
+            <numerusform>%n fichier n’a pas pu être lu et n’y figure pas.</numerusform>
+            <numerusform>%n fichiers n’ont pas pu être lus et n’y figurent pas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Afficher le dossier</translation>
+    </message>
+    <message>
+        <source>Open GPM file on your computer</source>
+        <translation>Ouvrir un fichier GPM de votre ordinateur</translation>
+    </message>
+    <message>
+        <source>Import safe</source>
+        <translation>Importer un coffre</translation>
+    </message>
+    <message>
+        <source>Importing “%1”…</source>
+        <translation>Importation de «&#x202f;%1&#x202f;»…</translation>
+    </message>
+    <message>
+        <source>Import from &quot;%1&quot; failed!</source>
+        <translation>L’importation de «&#x202f;%1&#x202f;» a échoué&#x202f;!</translation>
+    </message>
+    <message>
+        <source>“%1” is now in the list of your safes. It opens with the master password that it had when the file was made.</source>
+        <translation>«&#x202f;%1&#x202f;» est maintenant dans la liste de vos coffres. Il s’ouvre avec le mot de passe maître qu’il avait à la création du fichier.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>L’ouvrir</translation>
+    </message>
+</context>
+<context>
     <name>AttachmentActions</name>
     <message>
         <source>Maximum attachment file size is %1 megabytes</source>
@@ -224,6 +284,153 @@
     </message>
 </context>
 <context>
+    <name>BackupRow</name>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Restaurer une sauvegarde…</translation>
+    </message>
+    <message>
+        <source>Backing up</source>
+        <translation>Sauvegarde</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annulation…</translation>
+    </message>
+    <message>
+        <source>There is no safe to back up yet.</source>
+        <translation>Il n’y a pas encore de coffre à sauvegarder.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Sauvegarder</translation>
+    </message>
+    <message>
+        <source>Backing up…</source>
+        <translation>Sauvegarde en cours…</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Lecture des sauvegardes…</translation>
+    </message>
+    <message>
+        <source>You can go on working.</source>
+        <translation>Vous pouvez continuer à travailler.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>“%1”</source>
+        <translation>«&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>aujourd’hui</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>hier</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <translation>demain</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>a day, a time of day</comment>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1&#xa0;Mo</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1&#xa0;Ko</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Damaged, can&apos;t be restored · %1</source>
+        <translation>Endommagée, ne peut pas être restaurée · %1</translation>
+    </message>
+    <message>
+        <source>Last backup: %1</source>
+        <translation>Dernière sauvegarde&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No backup yet</source>
+        <translation>Aucune sauvegarde</translation>
+    </message>
+    <message>
+        <source>Automatic backups are off.</source>
+        <translation>La sauvegarde automatique est désactivée.</translation>
+    </message>
+    <message>
+        <source>Next backup: in a moment</source>
+        <translation>Prochaine sauvegarde&#xa0;: dans un instant</translation>
+    </message>
+    <message>
+        <source>Next backup: %1</source>
+        <translation>Prochaine sauvegarde&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The folder for backups is not there. Connect its drive, or choose another folder.</source>
+        <translation>Le dossier des sauvegardes est introuvable. Branchez son disque, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The folder for backups can&apos;t be written to. Choose another folder.</source>
+        <translation>Le dossier des sauvegardes n’est pas accessible en écriture. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>%1: not there, or it can&apos;t be read</source>
+        <translation>%1&#xa0;: introuvable ou illisible</translation>
+    </message>
+    <message>
+        <source>%1: not backed up yet</source>
+        <translation>%1&#xa0;: pas encore sauvegardé</translation>
+    </message>
+    <message>
+        <source>%1: %2, unchanged since</source>
+        <translation>%1&#xa0;: %2, inchangé depuis</translation>
+    </message>
+    <message>
+        <source>%1: %2, changed since</source>
+        <translation>%1&#xa0;: %2, modifié depuis</translation>
+    </message>
+    <message>
+        <source>Backed up and checked: %1.</source>
+        <translation>Sauvegarde faite et vérifiée&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Unchanged since the last backup: %1.</source>
+        <translation>Inchangé depuis la dernière sauvegarde&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Not backed up, as the folder is not there: %1. If it is on a drive that can be taken out, connect it and try again.</source>
+        <translation>Non sauvegardé, car le dossier est introuvable&#xa0;: %1. S’il se trouve sur un disque amovible, branchez celui-ci et réessayez.</translation>
+    </message>
+    <message>
+        <source>Not yet backed up, as the password is being changed or it is being archived: %1. This is tried again in a minute.</source>
+        <translation>Pas encore sauvegardé, car le mot de passe est en cours de changement ou l’archivage est en cours&#xa0;: %1. Nouvelle tentative dans une minute.</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1. Earlier backups are left as they are.</source>
+        <translation>Annulé&#xa0;: %1. Les sauvegardes précédentes restent telles quelles.</translation>
+    </message>
+    <message>
+        <source>Not backed up: “%1”. %2</source>
+        <translation>Non sauvegardé&#xa0;: «&#x202f;%1&#x202f;». %2</translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
@@ -298,10 +505,507 @@
     </message>
 </context>
 <context>
+    <name>ChangePasswordDialog</name>
+    <message>
+        <source>Change Password</source>
+        <translation>Changer de mot de passe</translation>
+    </message>
+    <message>
+        <source>Only you know it. It cannot be recovered.</source>
+        <translation>Vous seul le connaissez. Il ne peut pas être récupéré.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Change password</source>
+        <translation>Changer de mot de passe</translation>
+    </message>
+    <message>
+        <source>Old password:</source>
+        <translation>Ancien mot de passe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>New password:</source>
+        <translation>Nouveau mot de passe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Confirm:</source>
+        <translation>Confirmation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Hint:</source>
+        <translation>Indice&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>ChangePasswordRules</name>
+    <message>
+        <source>Old password can not be empty</source>
+        <translation>L’ancien mot de passe ne peut pas être vide</translation>
+    </message>
+    <message>
+        <source>Old password is invalid. Try again</source>
+        <translation>Ancien mot de passe incorrect. Réessayez</translation>
+    </message>
+    <message>
+        <source>New password can not be empty</source>
+        <translation>Le nouveau mot de passe ne peut pas être vide</translation>
+    </message>
+    <message>
+        <source>New password can not be the same as the old password</source>
+        <translation>Le nouveau mot de passe doit être différent de l’ancien</translation>
+    </message>
+    <message>
+        <source>Confirm password can not be empty</source>
+        <translation>La confirmation ne peut pas être vide</translation>
+    </message>
+    <message>
+        <source>Password does not match</source>
+        <translation>Les mots de passe ne correspondent pas</translation>
+    </message>
+    <message>
+        <source>Hint can not be empty</source>
+        <translation>L’indice ne peut pas être vide</translation>
+    </message>
+    <message>
+        <source>“%1” has its new password. From now on only that one opens it. Backups made before still open with the old one.</source>
+        <translation>«&#x202f;%1&#x202f;» a son nouveau mot de passe. Désormais, lui seul l’ouvre. Les sauvegardes antérieures s’ouvrent encore avec l’ancien.</translation>
+    </message>
+    <message>
+        <source>The password was not changed. The old one still opens “%1”.</source>
+        <translation>Le mot de passe n’a pas été changé. L’ancien ouvre toujours «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message>
+        <source>“%1” was locked before the change was done. The old password still opens it.</source>
+        <translation>«&#x202f;%1&#x202f;» s’est verrouillé avant la fin du changement. L’ancien mot de passe l’ouvre toujours.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: another program is using the safe. The old one still opens it. Wait until the other program is done, then try again.</source>
+        <translation>Le mot de passe n’a pas été changé&#xa0;: un autre programme utilise le coffre. L’ancien l’ouvre toujours. Attendez que cet autre programme ait terminé, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: some files of the safe do not open, and under a new password they would be lost. The old one still opens the safe. Bring these files back from a backup or move them out of the folder of the safe, then try again.</source>
+        <translation>Le mot de passe n’a pas été changé&#xa0;: certains fichiers du coffre ne s’ouvrent pas et seraient perdus sous un nouveau mot de passe. L’ancien ouvre toujours le coffre. Récupérez ces fichiers depuis une sauvegarde ou sortez-les du dossier du coffre, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: the files of the safe could not be written. The old one still opens it. Check the free space and that the folder of the safe can be written to, then try again.</source>
+        <translation>Le mot de passe n’a pas été changé&#xa0;: les fichiers du coffre n’ont pas pu être écrits. L’ancien l’ouvre toujours. Vérifiez l’espace libre et que le dossier du coffre est accessible en écriture, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens the safe, but perhaps not every item; this old one still opens them all.</source>
+        <translation>Un changement du mot de passe de «&#x202f;%1&#x202f;» a été interrompu. Le nouveau mot de passe ouvre le coffre, mais peut-être pas tous les éléments&#x202f;; cet ancien les ouvre encore tous.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens %2 of %3 items; the old one still opens those that were there before. Change nothing now: it would be missing when you go back.</source>
+        <translation>Un changement du mot de passe de «&#x202f;%1&#x202f;» a été interrompu. Le nouveau mot de passe ouvre %2 éléments sur %3&#x202f;; l’ancien ouvre encore ceux d’avant. Ne modifiez rien pour l’instant&#xa0;: cela manquerait à votre retour à l’ancien.</translation>
+    </message>
+    <message>
+        <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
+        <translation>Pour revenir à l’ancien mot de passe, quittez le programme et ouvrez le dossier du coffre. Gardez une copie de «&#x202f;safe.passid&#x202f;» à un autre endroit. Copiez ensuite «&#x202f;safe.passid.bak&#x202f;» par-dessus «&#x202f;safe.passid&#x202f;»&#xa0;: chaque élément s’ouvre de nouveau avec l’ancien mot de passe, et vous pouvez recommencer le changement.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceInput</name>
     <message>
         <source>Not specified</source>
         <translation>Non précisé</translation>
+    </message>
+</context>
+<context>
+    <name>CloudDesk</name>
+    <message>
+        <source>The copy in the cloud folder is still there.</source>
+        <translation>La copie dans le dossier cloud est toujours là.</translation>
+    </message>
+    <message>
+        <source>Some of its files could not be removed. Remove the folder yourself if you do not need it:
+%1</source>
+        <translation>Certains de ses fichiers n’ont pas pu être supprimés. Supprimez vous-même le dossier si vous n’en avez pas besoin&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>Depuis le dossier cloud</translation>
+    </message>
+    <message>
+        <source>Bringing “%1” over…</source>
+        <translation>Récupération de «&#x202f;%1&#x202f;»…</translation>
+    </message>
+    <message>
+        <source>“%1” is on this computer now, and is kept the same as on your other computers. It opens with its own master password.</source>
+        <translation>«&#x202f;%1&#x202f;» est maintenant sur cet ordinateur, et reste identique à celui de vos autres ordinateurs. Il s’ouvre avec son propre mot de passe maître.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>L’ouvrir</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise with the cloud folder.</source>
+        <translation>Impossible de synchroniser avec le dossier cloud.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudImportDialog</name>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>Depuis le dossier cloud</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Autre dossier…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Bring over</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>Safes in the cloud folder</source>
+        <translation>Coffres du dossier cloud</translation>
+    </message>
+    <message>
+        <source>No other safe found</source>
+        <translation>Aucun autre coffre trouvé</translation>
+    </message>
+    <message>
+        <source>Safes that you synchronise on another computer appear here as soon as your cloud program has brought them.</source>
+        <translation>Les coffres que vous synchronisez sur un autre ordinateur apparaissent ici dès que votre programme cloud les a apportés.</translation>
+    </message>
+    <message>
+        <source>These safes are synchronised by another computer. Bring one over to use it here, too; it opens with its own master password.</source>
+        <translation>Ces coffres sont synchronisés par un autre ordinateur. Récupérez-en un pour l’utiliser aussi ici&#x202f;; il s’ouvre avec son propre mot de passe maître.</translation>
+    </message>
+    <message>
+        <source>%1
+made on %2</source>
+        <translation>%1
+créé le %2</translation>
+    </message>
+</context>
+<context>
+    <name>CloudOffer</name>
+    <message>
+        <source>Bring it over…</source>
+        <translation>Le récupérer…</translation>
+    </message>
+    <message>
+        <source>You have a safe in your cloud folder: “%1”.</source>
+        <translation>Vous avez un coffre dans votre dossier cloud&#xa0;: «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message numerus="yes">
+        <source>You have %n safes in your cloud folder.</source>
+        <translation>
+            <numerusform>Vous avez %n coffre dans votre dossier cloud.</numerusform>
+            <numerusform>Vous avez %n coffres dans votre dossier cloud.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CloudPanel</name>
+    <message>
+        <source>No folder of a cloud provider was found. Choose the one that yours keeps the same on all computers, or a folder on a USB stick.</source>
+        <translation>Aucun dossier de fournisseur cloud n’a été trouvé. Choisissez celui que le vôtre garde identique sur tous les ordinateurs, ou un dossier sur une clé USB.</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Autre dossier…</translation>
+    </message>
+    <message>
+        <source>There is no safe yet.</source>
+        <translation>Il n’y a pas encore de coffre.</translation>
+    </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Dossier cloud</translation>
+    </message>
+    <message>
+        <source>A synchronised safe has an encrypted copy in a folder that your cloud provider carries to your other computers. What you change on one arrives on all.</source>
+        <translation>Un coffre synchronisé a une copie chiffrée dans un dossier que votre fournisseur cloud transporte vers vos autres ordinateurs. Ce que vous modifiez sur l’un arrive sur tous.</translation>
+    </message>
+    <message>
+        <source>Personal account: %1</source>
+        <translation>Compte personnel&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Business account: %1</source>
+        <translation>Compte professionnel&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Bring over “%1”…</source>
+        <translation>Récupérer «&#x202f;%1&#x202f;»…</translation>
+    </message>
+    <message>
+        <source>Bring over a safe (%1)…</source>
+        <translation>Récupérer un coffre (%1)…</translation>
+    </message>
+    <message>
+        <source>Choose a folder first.</source>
+        <translation>Choisissez d’abord un dossier.</translation>
+    </message>
+    <message>
+        <source>Stop synchronising “%1”?</source>
+        <translation>Ne plus synchroniser «&#x202f;%1&#x202f;»&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The safe on this computer stays as it is. Its copy in the cloud folder can stay for your other computers, or be removed; then they can&apos;t synchronise any more.</source>
+        <translation>Le coffre sur cet ordinateur reste tel quel. Sa copie dans le dossier cloud peut rester pour vos autres ordinateurs, ou être supprimée&#x202f;; ils ne pourront alors plus synchroniser.</translation>
+    </message>
+    <message>
+        <source>Keep the copy</source>
+        <translation>Garder la copie</translation>
+    </message>
+    <message>
+        <source>Remove the copy</source>
+        <translation>Supprimer la copie</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>CloudPasswordDialog</name>
+    <message>
+        <source>New master password</source>
+        <translation>Nouveau mot de passe maître</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message>
+        <source>Go on with it</source>
+        <translation>Continuer avec celui-ci</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>The password of “%1” was changed on another computer. Enter the new one to go on synchronising; from then on the safe opens with it here, too.</source>
+        <translation>Le mot de passe de «&#x202f;%1&#x202f;» a été changé sur un autre ordinateur. Saisissez le nouveau pour continuer à synchroniser&#x202f;; dès lors, c’est lui qui ouvre le coffre ici aussi.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudSafeRow</name>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Synchroniser maintenant</translation>
+    </message>
+    <message>
+        <source>Enter the new password…</source>
+        <translation>Saisir le nouveau mot de passe…</translation>
+    </message>
+    <message>
+        <source>Synchronise “%1”</source>
+        <translation>Synchroniser «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Only on this computer</source>
+        <translation>Seulement sur cet ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>CloudTexts</name>
+    <message>
+        <source>Synchronised</source>
+        <translation>Synchronisé</translation>
+    </message>
+    <message>
+        <source>Synchronising…</source>
+        <translation>Synchronisation…</translation>
+    </message>
+    <message>
+        <source>Waiting for files</source>
+        <translation>Attente de fichiers</translation>
+    </message>
+    <message>
+        <source>Waiting…</source>
+        <translation>En attente…</translation>
+    </message>
+    <message>
+        <source>New password</source>
+        <translation>Nouveau mot de passe</translation>
+    </message>
+    <message>
+        <source>No cloud folder</source>
+        <translation>Dossier cloud absent</translation>
+    </message>
+    <message>
+        <source>Wrong folder</source>
+        <translation>Mauvais dossier</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise</source>
+        <translation>Synchro impossible</translation>
+    </message>
+    <message>
+        <source>Synchronised %1</source>
+        <translation>Synchronisé %1</translation>
+    </message>
+    <message>
+        <source>Synchronises when the safe is open</source>
+        <translation>Se synchronise quand le coffre est ouvert</translation>
+    </message>
+    <message>
+        <source>Synchronising, %1 of %2</source>
+        <translation>Synchronisation, %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Waiting for files to arrive</source>
+        <translation>En attente de fichiers</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n files to arrive</source>
+        <translation>
+            <numerusform>En attente de %n fichier</numerusform>
+            <numerusform>En attente de %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waits until the safe is free</source>
+        <translation>Attend que le coffre soit libre</translation>
+    </message>
+    <message>
+        <source>The password was changed on another computer</source>
+        <translation>Le mot de passe a été changé sur un autre ordinateur</translation>
+    </message>
+    <message>
+        <source>The cloud folder is not there</source>
+        <translation>Le dossier cloud est introuvable</translation>
+    </message>
+    <message>
+        <source>The cloud folder holds another safe</source>
+        <translation>Le dossier cloud contient un autre coffre</translation>
+    </message>
+    <message>
+        <source>The cloud folder can&apos;t be written to</source>
+        <translation>Le dossier cloud n’est pas accessible en écriture</translation>
+    </message>
+    <message>
+        <source>The folder of the safe can&apos;t be written to</source>
+        <translation>Le dossier du coffre n’est pas accessible en écriture</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them.</source>
+        <translation>La suite est automatique dès que votre programme cloud les a apportés.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them: %1</source>
+        <translation>La suite est automatique dès que votre programme cloud les a apportés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The safe is being archived, or its password is being changed.</source>
+        <translation>Le coffre est en cours d’archivage, ou son mot de passe en cours de changement.</translation>
+    </message>
+    <message>
+        <source>Enter the new password, and this computer goes on with it.</source>
+        <translation>Saisissez le nouveau mot de passe, et cet ordinateur continue avec lui.</translation>
+    </message>
+    <message>
+        <source>If it is on a drive that can be taken out, connect the drive. If it was moved, turn synchronising off and on again. Nothing is lost in the meantime.
+%1</source>
+        <translation>S’il se trouve sur un disque amovible, branchez celui-ci. S’il a été déplacé, désactivez puis réactivez la synchronisation. Rien n’est perdu entre-temps.
+%1</translation>
+    </message>
+    <message>
+        <source>Nothing was read or changed there. Turn synchronising off and on again to choose another folder.
+%1</source>
+        <translation>Rien n’y a été lu ni modifié. Désactivez puis réactivez la synchronisation pour choisir un autre dossier.
+%1</translation>
+    </message>
+    <message>
+        <source>Your changes are in the safe on this computer, but not in the cloud folder. Check the free space and that you may write there; it is tried again every minute.
+%1</source>
+        <translation>Vos modifications sont dans le coffre sur cet ordinateur, mais pas dans le dossier cloud. Vérifiez l’espace libre et que vous avez le droit d’y écrire&#x202f;; une nouvelle tentative a lieu chaque minute.
+%1</translation>
+    </message>
+    <message>
+        <source>Changes of your other computers could not be taken over. Check the free space and that you may write to the folder of the safe; it is tried again every minute.</source>
+        <translation>Les modifications de vos autres ordinateurs n’ont pas pu être reprises. Vérifiez l’espace libre et que vous avez le droit d’écrire dans le dossier du coffre&#x202f;; une nouvelle tentative a lieu chaque minute.</translation>
+    </message>
+    <message>
+        <source>This folder is not there: %1</source>
+        <translation>Ce dossier est introuvable&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>This folder is part of the safe itself. Choose the folder of your cloud provider, or one on another drive.</source>
+        <translation>Ce dossier fait partie du coffre lui-même. Choisissez le dossier de votre fournisseur cloud, ou un dossier sur un autre disque.</translation>
+    </message>
+    <message>
+        <source>The safe itself lies in this folder. Choose a folder that does not hold it.</source>
+        <translation>Le coffre lui-même se trouve dans ce dossier. Choisissez un dossier qui ne le contient pas.</translation>
+    </message>
+    <message>
+        <source>Your backups are kept in this folder. Choose another one.</source>
+        <translation>Vos sauvegardes sont conservées dans ce dossier. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to another safe. Choose another one.</source>
+        <translation>Ce dossier appartient à un autre coffre. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to the safe “%1”. Choose another one.</source>
+        <translation>Ce dossier appartient au coffre «&#x202f;%1&#x202f;». Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>Another copy of this safe on this computer is synchronised there already. Turn that off first, or choose another folder.</source>
+        <translation>Une autre copie de ce coffre sur cet ordinateur y est déjà synchronisée. Désactivez d’abord cette synchronisation, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>This folder can&apos;t be written to. Check the free space and that you may write there: %1</source>
+        <translation>Ce dossier n’est pas accessible en écriture. Vérifiez l’espace libre et que vous avez le droit d’y écrire&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>This is not the password that was set on the other computer. Try again.</source>
+        <translation>Ce n’est pas le mot de passe défini sur l’autre ordinateur. Réessayez.</translation>
+    </message>
+    <message>
+        <source>The safe is busy with something else, such as a backup. Try again in a moment.</source>
+        <translation>Le coffre est occupé à autre chose, par exemple une sauvegarde. Réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>The safe on this computer could not be changed; it is as it was. Check the free space, and that every item of the safe can be read, then try again.</source>
+        <translation>Le coffre sur cet ordinateur n’a pas pu être modifié&#x202f;; il est tel qu’il était. Vérifiez l’espace libre et que chaque élément du coffre est lisible, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The safe can&apos;t be written. Check the free space and that you may write to the folder of your safes.</source>
+        <translation>Impossible d’écrire le coffre. Vérifiez l’espace libre et que vous avez le droit d’écrire dans le dossier de vos coffres.</translation>
+    </message>
+    <message>
+        <source>Another safe is being imported. Try again when that is done.</source>
+        <translation>L’importation d’un autre coffre est en cours. Réessayez ensuite.</translation>
+    </message>
+    <message>
+        <source>The safe in the cloud folder can&apos;t be read. It may not have arrived whole yet; wait until your cloud program is done, and try again.</source>
+        <translation>Le coffre du dossier cloud est illisible. Il n’est peut-être pas encore arrivé en entier&#x202f;; attendez que votre programme cloud ait terminé, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>One item came from the cloud folder</source>
+        <translation>Un élément est arrivé du dossier cloud</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came from the cloud folder</source>
+        <translation>
+            <numerusform>%n élément est arrivé du dossier cloud</numerusform>
+            <numerusform>%n éléments sont arrivés du dossier cloud</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>One item was deleted on another computer</source>
+        <translation>Un élément a été supprimé sur un autre ordinateur</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were deleted on another computer</source>
+        <translation>
+            <numerusform>%n élément a été supprimé sur un autre ordinateur</numerusform>
+            <numerusform>%n éléments ont été supprimés sur un autre ordinateur</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -353,6 +1057,12 @@
         <source>Create safe failed!</source>
         <translation>La création du coffre a échoué&#x202f;!</translation>
     </message>
+    <message>
+        <source>A safe needs an empty folder that you may write to. This one is not:
+%1</source>
+        <translation>Un coffre a besoin d’un dossier vide où vous avez le droit d’écrire. Celui-ci ne convient pas&#xa0;:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafePage</name>
@@ -384,6 +1094,38 @@ another one?</source>
         <translation>En créer
 un autre&#x202f;?</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Restaurer une sauvegarde…</translation>
+    </message>
+    <message>
+        <source>Import from an archive…</source>
+        <translation>Importer une archive…</translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation>Dans %1</translation>
+    </message>
+    <message>
+        <source>Kept with your other safes</source>
+        <translation>Avec vos autres coffres</translation>
+    </message>
+    <message>
+        <source>Usual place</source>
+        <translation>Lieu habituel</translation>
+    </message>
+    <message>
+        <source>Keep the safe in the usual place</source>
+        <translation>Garder le coffre au lieu habituel</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe…</source>
+        <translation>Choisir le dossier du coffre…</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafeRules</name>
@@ -413,6 +1155,41 @@ un autre&#x202f;?</translation>
     <message>
         <source>Calendar</source>
         <translation>Calendrier</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteSafeDialog</name>
+    <message>
+        <source>Delete safe</source>
+        <translation>Supprimer le coffre</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete “%1” for good?</source>
+        <translation>Supprimer définitivement «&#x202f;%1&#x202f;»&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups stay.</source>
+        <translation>Tout son contenu disparaîtra de cet ordinateur. Ses sauvegardes restent.</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups and its copy in the cloud folder stay.</source>
+        <translation>Tout son contenu disparaîtra de cet ordinateur. Ses sauvegardes et sa copie dans le dossier cloud restent.</translation>
+    </message>
+    <message>
+        <source>Master password of this safe</source>
+        <translation>Mot de passe maître de ce coffre</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Wrong Password! Try again</source>
+        <translation>Mot de passe incorrect&#x202f;! Réessayez</translation>
     </message>
 </context>
 <context>
@@ -564,6 +1341,107 @@ Elle ne pourra pas être restaurée.</translation>
     <message>
         <source>The archive could not be read back after it was written, and was removed. Choose a folder on another drive.</source>
         <translation>L’archive n’a pas pu être relue après son écriture et a été supprimée. Choisissez un dossier sur un autre disque.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Save as</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items are in “%1” now. Everyone who opens the file can read them: delete it when it has served.</source>
+        <translation>
+            <numerusform>%n élément est maintenant dans «&#x202f;%1&#x202f;». Quiconque ouvre le fichier peut le lire&#xa0;: supprimez le fichier dès qu’il a servi.</numerusform>
+            <numerusform>%n éléments sont maintenant dans «&#x202f;%1&#x202f;». Quiconque ouvre le fichier peut les lire&#xa0;: supprimez-le dès qu’il a servi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file cannot be written, and nothing of it is left. Check the free space and the permissions, or choose another folder:
+%1</source>
+        <translation>Le fichier n’a pas pu être écrit, et il n’en reste rien. Vérifiez l’espace libre et les droits d’accès, ou choisissez un autre dossier&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>The safe was locked before the file was written. Nothing of it is left.</source>
+        <translation>Le coffre s’est verrouillé avant l’écriture du fichier. Il n’en reste rien.</translation>
+    </message>
+    <message>
+        <source>Export items</source>
+        <translation>Exporter des éléments</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Contenu</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected items</source>
+        <translation>
+            <numerusform>%n élément sélectionné</numerusform>
+            <numerusform>Les %n éléments sélectionnés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All items of the safe (%1)</source>
+        <translation>Tous les éléments du coffre (%1)</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>JSON: everything, for another safe</source>
+        <translation>JSON&#xa0;: tout, pour un autre coffre</translation>
+    </message>
+    <message>
+        <source>CSV: logins, for browsers and other programs</source>
+        <translation>CSV&#xa0;: identifiants, pour navigateurs et autres programmes</translation>
+    </message>
+    <message>
+        <source>Password of the safe</source>
+        <translation>Mot de passe du coffre</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Password of the safe “%1”</source>
+        <translation>Mot de passe du coffre «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>The file is not encrypted: everyone who gets hold of it can read your passwords. Do not leave it lying, nor in a folder that is synchronised, and delete it as soon as it has served.</source>
+        <translation>Le fichier n’est pas chiffré&#xa0;: quiconque l’obtient peut lire vos mots de passe. Ne le laissez pas traîner, ni séjourner dans un dossier synchronisé, et supprimez-le dès qu’il a servi.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items that are no logins are left out.</source>
+        <translation>
+            <numerusform>%n élément hors identifiants est laissé de côté.</numerusform>
+            <numerusform>%n éléments hors identifiants sont laissés de côté.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments are left out. An archive of the safe holds them.</source>
+        <translation>
+            <numerusform>%n pièce jointe est laissée de côté. Une archive du coffre la contient.</numerusform>
+            <numerusform>%n pièces jointes sont laissées de côté. Une archive du coffre les contient.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not the password of the safe.</source>
+        <translation>Ce n’est pas le mot de passe du coffre.</translation>
+    </message>
+    <message>
+        <source>Writing “%1”…</source>
+        <translation>Écriture de «&#x202f;%1&#x202f;»…</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Afficher le dossier</translation>
     </message>
 </context>
 <context>
@@ -763,6 +1641,14 @@ Elle ne pourra pas être restaurée.</translation>
         <source>The program waits in the tray when you close its window.</source>
         <translation>Le programme attend dans la zone de notification quand vous fermez sa fenêtre.</translation>
     </message>
+    <message>
+        <source>Bring your passwords over</source>
+        <translation>Importer vos mots de passe</translation>
+    </message>
+    <message>
+        <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
+        <translation>Depuis un navigateur ou un autre programme. Vous pouvez aussi le faire plus tard, dans le menu du coffre.</translation>
+    </message>
 </context>
 <context>
     <name>FormFillFlow</name>
@@ -774,22 +1660,28 @@ Elle ne pourra pas être restaurée.</translation>
         <source>Item %1 has wrong url: %2</source>
         <translation>L’élément %1 a une URL incorrecte&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>No browser is connected</source>
+        <translation>Aucun navigateur n’est connecté</translation>
+    </message>
+    <message>
+        <source>To fill this into a page, open your browser with the extension.</source>
+        <translation>Pour remplir une page avec ceci, ouvrez votre navigateur doté de l’extension.</translation>
+    </message>
+    <message>
+        <source>Nothing to fill</source>
+        <translation>Rien à remplir</translation>
+    </message>
+    <message>
+        <source>The page shows no empty fields for “%1”.</source>
+        <translation>La page n’a aucun champ vide pour «&#x202f;%1&#x202f;».</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>
     <message>
         <source>Warning</source>
         <translation>Avertissement</translation>
-    </message>
-    <message>
-        <source>Can&apos;t delete.</source>
-        <translation>Suppression impossible.</translation>
-    </message>
-    <message>
-        <source>The items are still there. Check that the folder of the safe can be written to:
-%1</source>
-        <translation>Les éléments sont toujours là. Vérifiez que le dossier du coffre est accessible en écriture&#xa0;:
-%1</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
@@ -1020,6 +1912,27 @@ Ils ne pourront pas être restaurés.</numerusform>
             <numerusform>La pièce jointe est supprimée aussi.</numerusform>
             <numerusform>Les %n pièces jointes sont supprimées aussi.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ItemChanges</name>
+    <message>
+        <source>Can&apos;t delete now.</source>
+        <translation>Suppression impossible pour l’instant.</translation>
+    </message>
+    <message>
+        <source>The password of the safe is being changed. Delete the items when that is done.</source>
+        <translation>Le mot de passe du coffre est en cours de changement. Supprimez les éléments ensuite.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t delete.</source>
+        <translation>Suppression impossible.</translation>
+    </message>
+    <message>
+        <source>The items are still there. Check that the folder of the safe can be written to:
+%1</source>
+        <translation>Les éléments sont toujours là. Vérifiez que le dossier du coffre est accessible en écriture&#xa0;:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1565,6 +2478,10 @@ Ils ne pourront pas être restaurés.</numerusform>
         <source>New item (Ctrl+N)</source>
         <translation>Nouvel élément (Ctrl+N)</translation>
     </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Importer des mots de passe…</translation>
+    </message>
 </context>
 <context>
     <name>ItemMenu</name>
@@ -1607,6 +2524,10 @@ Ils ne pourront pas être restaurés.</numerusform>
     <message>
         <source>Delete forever…</source>
         <translation>Supprimer définitivement…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
     </message>
 </context>
 <context>
@@ -1799,6 +2720,14 @@ Corrigez-les et réessayez.</translation>
         <source>Undo</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>“%1” was deleted on another computer.</source>
+        <translation>«&#x202f;%1&#x202f;» a été supprimé sur un autre ordinateur.</translation>
+    </message>
+    <message>
+        <source>What you have typed is kept. Save it as a new item, or discard it.</source>
+        <translation>Votre saisie est conservée. Enregistrez-la comme nouvel élément, ou abandonnez-la.</translation>
+    </message>
 </context>
 <context>
     <name>MasterPasswordPage</name>
@@ -1868,6 +2797,22 @@ En créer un&#x202f;?</translation>
         <source>Unlocking…</source>
         <translation>Déverrouillage…</translation>
     </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Restaurer une sauvegarde…</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Coffres…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Ouvrir quand même</translation>
+    </message>
 </context>
 <context>
     <name>MonthPopup</name>
@@ -1878,6 +2823,562 @@ En créer un&#x202f;?</translation>
     <message>
         <source>Next year</source>
         <translation>Année suivante</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInColumns</name>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The columns of “%1” are not known. Say what each one holds.</source>
+        <translation>Les colonnes de «&#x202f;%1&#x202f;» ne sont pas connues. Indiquez ce que contient chacune.</translation>
+    </message>
+    <message>
+        <source>Keep it in the note</source>
+        <translation>Garder dans la note</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nom d’utilisateur</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInDialog</name>
+    <message>
+        <source>Choose the exported file</source>
+        <translation>Choisir le fichier exporté</translation>
+    </message>
+    <message>
+        <source>Exports of passwords (%1)</source>
+        <translation>Mots de passe exportés (%1)</translation>
+    </message>
+    <message>
+        <source>All files (%1)</source>
+        <translation>Tous les fichiers (%1)</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Bring passwords over</source>
+        <translation>Importer des mots de passe</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here</source>
+        <translation>Déposez ici le fichier exporté</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>Copié.</translation>
+    </message>
+    <message>
+        <source>Reading “%1”…</source>
+        <translation>Lecture de «&#x202f;%1&#x202f;»…</translation>
+    </message>
+    <message>
+        <source>Added %1 of %2…</source>
+        <translation>%1 ajoutés sur %2…</translation>
+    </message>
+    <message>
+        <source>What came in.txt</source>
+        <translation>Ce qui a été importé.txt</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Enregistré.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written. Choose another folder.</source>
+        <translation>Le fichier n’a pas pu être écrit. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Delete “%1”?</source>
+        <translation>Supprimer «&#x202f;%1&#x202f;»&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The file does not go to the bin: it is gone at once. Nobody can promise that nothing of it stays behind: SSDs, backups and folders that are synchronised may keep what was deleted for a while.</source>
+        <translation>Le fichier ne va pas à la corbeille&#xa0;: il disparaît aussitôt. Nul ne peut promettre qu’il n’en reste rien&#xa0;: les SSD, les sauvegardes et les dossiers synchronisés peuvent garder un temps ce qui a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The file “%1” is deleted. If you made other copies of it, delete them, too.</source>
+        <translation>Le fichier «&#x202f;%1&#x202f;» est supprimé. Si vous en avez fait d’autres copies, supprimez-les aussi.</translation>
+    </message>
+    <message>
+        <source>The file cannot be deleted. Close the program that has it open, then try again:
+%1</source>
+        <translation>Impossible de supprimer le fichier. Fermez le programme qui l’utilise, puis réessayez&#xa0;:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInEnd</name>
+    <message>
+        <source>What did not come in</source>
+        <translation>Ce qui n’a pas été importé</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Supprimer le fichier</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copier le rapport</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Look at what did not come in, then delete the file.</source>
+        <translation>Le fichier «&#x202f;%1&#x202f;» contient encore vos mots de passe, lisibles par tous. Regardez ce qui n’a pas été importé, puis supprimez le fichier.</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Delete it now.</source>
+        <translation>Le fichier «&#x202f;%1&#x202f;» contient encore vos mots de passe, lisibles par tous. Supprimez-le maintenant.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>choisi</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>non choisi</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nom d’utilisateur</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Devient</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPage</name>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Importer des mots de passe…</translation>
+    </message>
+    <message>
+        <source>Chrome, Edge, Firefox, Safari, Bitwarden and KeePassXC write their passwords into a file, which this program reads. You see everything before it comes in, and how to make the file.</source>
+        <translation>Chrome, Edge, Firefox, Safari, Bitwarden et KeePassXC écrivent leurs mots de passe dans un fichier que ce programme lit. Vous voyez tout avant l’importation, et comment créer le fichier.</translation>
+    </message>
+    <message>
+        <source>Open a safe first: the passwords are kept in it.</source>
+        <translation>Ouvrez d’abord un coffre&#xa0;: les mots de passe y sont conservés.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPreview</name>
+    <message>
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Ne rien sélectionner</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries</source>
+        <translation>
+            <numerusform>%n entrée</numerusform>
+            <numerusform>%n entrées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins will be added</source>
+        <translation>
+            <numerusform>%n identifiant sera ajouté</numerusform>
+            <numerusform>%n identifiants seront ajoutés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items will be added</source>
+        <translation>
+            <numerusform>%n élément sera ajouté</numerusform>
+            <numerusform>%n éléments seront ajoutés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n are already there</source>
+        <translation>
+            <numerusform>%n déjà présent</numerusform>
+            <numerusform>%n déjà présents</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unreadable</source>
+        <translation>
+            <numerusform>%n illisible</numerusform>
+            <numerusform>%n illisibles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n laissé de côté</numerusform>
+            <numerusform>%n laissés de côté</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n logins</source>
+        <translation>
+            <numerusform>Ajouter %n identifiant</numerusform>
+            <numerusform>Ajouter %n identifiants</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n items</source>
+        <translation>
+            <numerusform>Ajouter %n élément</numerusform>
+            <numerusform>Ajouter %n éléments</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveInProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annulation…</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInReport</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Not written to the disk</source>
+        <translation>Non écrit sur le disque</translation>
+    </message>
+    <message>
+        <source>Not added before the safe was locked</source>
+        <translation>Non ajouté avant le verrouillage du coffre</translation>
+    </message>
+    <message>
+        <source>Not added before you cancelled</source>
+        <translation>Non ajouté avant l’annulation</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>Non choisi</translation>
+    </message>
+    <message>
+        <source>Nothing came in</source>
+        <translation>Rien n’a été importé</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins came in</source>
+        <translation>
+            <numerusform>%n identifiant importé</numerusform>
+            <numerusform>%n identifiants importés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came in</source>
+        <translation>
+            <numerusform>%n élément importé</numerusform>
+            <numerusform>%n éléments importés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>You cancelled. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Vous avez annulé. Ce qui était déjà importé est enregistré. Choisissez à nouveau le fichier pour le reste&#xa0;: ce qui est déjà là est reconnu.</translation>
+    </message>
+    <message>
+        <source>The safe could not be written to. Check the free space and the permissions, then choose the file again: what is there is recognised.</source>
+        <translation>Impossible d’écrire dans le coffre. Vérifiez l’espace libre et les droits d’accès, puis choisissez à nouveau le fichier&#xa0;: ce qui est déjà là est reconnu.</translation>
+    </message>
+    <message>
+        <source>The safe was locked meanwhile. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Entre-temps, le coffre s’est verrouillé. Ce qui était déjà importé est enregistré. Choisissez à nouveau le fichier pour le reste&#xa0;: ce qui est déjà là est reconnu.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInStart</name>
+    <message>
+        <source>How to make the file</source>
+        <translation>Comment créer le fichier</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here, or choose it. Nothing is added before you have seen what will come in.</source>
+        <translation>Déposez ici le fichier exporté, ou choisissez-le. Rien n’est ajouté avant que vous ayez vu ce qui sera importé.</translation>
+    </message>
+    <message>
+        <source>Choose file…</source>
+        <translation>Choisir un fichier…</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTable</name>
+    <message>
+        <source>What will come in</source>
+        <translation>Ce qui sera importé</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTexts</name>
+    <message>
+        <source>The file is empty. Export the passwords again, and choose the new file.</source>
+        <translation>Le fichier est vide. Exportez à nouveau les mots de passe, et choisissez le nouveau fichier.</translation>
+    </message>
+    <message>
+        <source>The file holds no text that could be read. Export the passwords as CSV or JSON, and choose that file.</source>
+        <translation>Le fichier ne contient aucun texte lisible. Exportez les mots de passe au format CSV ou JSON, et choisissez ce fichier.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a text. Export the passwords again, and choose the new file.</source>
+        <translation>Le fichier s’arrête au milieu d’un texte. Exportez à nouveau les mots de passe, et choisissez le nouveau fichier.</translation>
+    </message>
+    <message>
+        <source>The file is encrypted. Export again as JSON or CSV without encryption, and delete that file afterwards.</source>
+        <translation>Le fichier est chiffré. Exportez à nouveau au format JSON ou CSV sans chiffrement, et supprimez ensuite ce fichier.</translation>
+    </message>
+    <message>
+        <source>This is no export that the program knows. It reads the JSON files of Bitwarden and its own, and CSV files of browsers and other programs.</source>
+        <translation>Ce n’est pas une exportation connue du programme. Il lit les fichiers JSON de Bitwarden et les siens, et les fichiers CSV de navigateurs et d’autres programmes.</translation>
+    </message>
+    <message>
+        <source>The names of the columns are not known. Say what each column holds.</source>
+        <translation>Les noms des colonnes ne sont pas connus. Indiquez ce que contient chaque colonne.</translation>
+    </message>
+    <message>
+        <source>Save the file where you find it again.</source>
+        <translation>Enregistrez le fichier là où vous le retrouverez.</translation>
+    </message>
+    <message>
+        <source>Type %1 into the address bar.</source>
+        <translation>Tapez %1 dans la barre d’adresse.</translation>
+    </message>
+    <message>
+        <source>Beside “Export passwords” press “Download file”.</source>
+        <translation>À côté de «&#x202f;Exporter les mots de passe&#x202f;», cliquez sur «&#x202f;Télécharger le fichier&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Press the three dots above the list and choose “Export passwords”.</source>
+        <translation>Cliquez sur les trois points au-dessus de la liste, puis sur «&#x202f;Exporter les mots de passe&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Press the three dots in the corner and choose “Export passwords…”.</source>
+        <translation>Cliquez sur les trois points dans le coin, puis sur «&#x202f;Exporter les mots de passe…&#x202f;».</translation>
+    </message>
+    <message>
+        <source>On the Mac open the program “Passwords”, or Safari on older systems.</source>
+        <translation>Sur le Mac, ouvrez le programme «&#x202f;Mots de passe&#x202f;», ou Safari sur les anciens systèmes.</translation>
+    </message>
+    <message>
+        <source>In the menu “File” choose to export all passwords to a file.</source>
+        <translation>Dans le menu «&#x202f;Fichier&#x202f;», choisissez d’exporter tous les mots de passe vers un fichier.</translation>
+    </message>
+    <message>
+        <source>Bring the file to this computer.</source>
+        <translation>Apportez le fichier sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Choose “Export vault”: under “Tools” in the web vault, in the menu “File” of the program.</source>
+        <translation>Choisissez «&#x202f;Exporter le coffre&#x202f;»&#xa0;: sous «&#x202f;Outils&#x202f;» dans le coffre web, dans le menu «&#x202f;Fichier&#x202f;» du programme.</translation>
+    </message>
+    <message>
+        <source>Choose “.json”, which holds cards and identities too, and no encryption.</source>
+        <translation>Choisissez «&#x202f;.json&#x202f;» sans chiffrement&#xa0;: il contient aussi les cartes et les identités.</translation>
+    </message>
+    <message>
+        <source>Open the database.</source>
+        <translation>Ouvrez la base de données.</translation>
+    </message>
+    <message>
+        <source>In the menu “Database” choose “Export”, then “CSV file…”.</source>
+        <translation>Dans le menu «&#x202f;Base de données&#x202f;», choisissez «&#x202f;Exporter&#x202f;», puis «&#x202f;Fichier CSV…&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Un autre coffre</translation>
+    </message>
+    <message>
+        <source>Open the other safe in this program.</source>
+        <translation>Ouvrez l’autre coffre dans ce programme.</translation>
+    </message>
+    <message>
+        <source>In the menu of the safe choose “Export items…”, then JSON.</source>
+        <translation>Dans le menu du coffre, choisissez «&#x202f;Exporter des éléments…&#x202f;», puis JSON.</translation>
+    </message>
+    <message>
+        <source>Another program</source>
+        <translation>Un autre programme</translation>
+    </message>
+    <message>
+        <source>Export the passwords as CSV, with the names of the columns in the first row.</source>
+        <translation>Exportez les mots de passe au format CSV, avec les noms des colonnes sur la première ligne.</translation>
+    </message>
+    <message>
+        <source>Choose the file here. You are asked what each column holds, if that is not known.</source>
+        <translation>Choisissez le fichier ici. Si le contenu des colonnes n’est pas connu, il vous est demandé.</translation>
+    </message>
+    <message>
+        <source>recognised as an export of a browser</source>
+        <translation>reconnu comme exportation d’un navigateur</translation>
+    </message>
+    <message>
+        <source>read by the columns that you chose</source>
+        <translation>lu selon les colonnes que vous avez choisies</translation>
+    </message>
+    <message>
+        <source>recognised as an export of %1</source>
+        <translation>reconnu comme exportation de %1</translation>
+    </message>
+    <message>
+        <source>There are no rows below the names of the columns. Export the passwords again, and choose the new file.</source>
+        <translation>Il n’y a aucune ligne sous les noms des colonnes. Exportez à nouveau les mots de passe, et choisissez le nouveau fichier.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there. Choose it again.</source>
+        <translation>Le fichier n’est plus là. Choisissez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>This is no file. Choose the exported file itself.</source>
+        <translation>Ce n’est pas un fichier. Choisissez le fichier exporté lui-même.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read. Close the program that has it open, or copy it to another folder.</source>
+        <translation>Le fichier est illisible. Fermez le programme qui l’utilise, ou copiez-le dans un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1, which no export of passwords is. Check that it is the right one.</source>
+        <translation>Le fichier dépasse %1, ce qu’aucune exportation de mots de passe n’atteint. Vérifiez que c’est le bon.</translation>
+    </message>
+    <message>
+        <source>Not a web address</source>
+        <translation>Pas une adresse web</translation>
+    </message>
+    <message>
+        <source>Nothing in it</source>
+        <translation>Rien dedans</translation>
+    </message>
+    <message>
+        <source>Unknown kind</source>
+        <translation>Type inconnu</translation>
+    </message>
+    <message>
+        <source>Wrong number of columns</source>
+        <translation>Nombre de colonnes incorrect</translation>
+    </message>
+    <message>
+        <source>Already there</source>
+        <translation>Déjà présent</translation>
+    </message>
+    <message>
+        <source>Other password</source>
+        <translation>Autre mot de passe</translation>
+    </message>
+    <message>
+        <source>Other note</source>
+        <translation>Autre note</translation>
+    </message>
+    <message>
+        <source>Without address</source>
+        <translation>Sans adresse</translation>
+    </message>
+    <message>
+        <source>It is in the safe, or further up in the file.</source>
+        <translation>Il est déjà dans le coffre, ou plus haut dans le fichier.</translation>
+    </message>
+    <message>
+        <source>There is a login of the same site and user name with another password. Both will be there.</source>
+        <translation>Il existe un identifiant du même site et du même nom d’utilisateur avec un autre mot de passe. Les deux seront là.</translation>
+    </message>
+    <message>
+        <source>There is such an item with another note. Both will be there.</source>
+        <translation>Il existe un tel élément avec une autre note. Les deux seront là.</translation>
+    </message>
+    <message>
+        <source>Its address belongs to an app or a file, and goes to the note.</source>
+        <translation>Son adresse désigne une application ou un fichier, et va dans la note.</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>Entrée %1</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>Ligne %1</translation>
+    </message>
+    <message>
+        <source>(entry %1)</source>
+        <translation>(entrée %1)</translation>
+    </message>
+    <message>
+        <source>(row %1)</source>
+        <translation>(ligne %1)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +3401,22 @@ En créer un&#x202f;?</translation>
     <message>
         <source>Create</source>
         <translation>Créer</translation>
+    </message>
+    <message>
+        <source>Do you have a safe already?</source>
+        <translation>Avez-vous déjà un coffre&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Open its folder…</source>
+        <translation>Ouvrir son dossier…</translation>
+    </message>
+    <message>
+        <source>Import an archive…</source>
+        <translation>Importer une archive…</translation>
+    </message>
+    <message>
+        <source>“%1” is there. Unlock it with its master password after these steps.</source>
+        <translation>«&#x202f;%1&#x202f;» est là. Déverrouillez-le avec son mot de passe maître après ces étapes.</translation>
     </message>
 </context>
 <context>
@@ -1941,6 +3458,25 @@ Ctrl+B copie le nom d’utilisateur, Ctrl+Maj+C le mot de passe.
 Ctrl+Entrée établit la connexion, Ctrl+L verrouille le coffre, Ctrl+Q quitte le programme.
 
 La police est Inter (SIL Open Font License), les icônes sont celles de Tabler Icons (MIT License).</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe</source>
+        <translation>Choisir le dossier du coffre</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordChangeDesk</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Change Password</source>
+        <translation>Changer de mot de passe</translation>
+    </message>
+    <message>
+        <source>Writing “%1” anew under its new password. You can go on working meanwhile.</source>
+        <translation>Réécriture de «&#x202f;%1&#x202f;» sous son nouveau mot de passe. Vous pouvez continuer à travailler entre-temps.</translation>
     </message>
 </context>
 <context>
@@ -2133,52 +3669,27 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
         <translation>tout sélectionner</translation>
     </message>
     <message>
-        <source>search</source>
-        <translation>rechercher</translation>
-    </message>
-    <message>
-        <source>new item</source>
-        <translation>nouvel élément</translation>
-    </message>
-    <message>
-        <source>edit</source>
-        <translation>modifier</translation>
-    </message>
-    <message>
-        <source>save</source>
-        <translation>enregistrer</translation>
-    </message>
-    <message>
-        <source>log in</source>
-        <translation>connexion</translation>
-    </message>
-    <message>
-        <source>copy the user name</source>
-        <translation>copier le nom d’utilisateur</translation>
-    </message>
-    <message>
-        <source>copy the password</source>
-        <translation>copier le mot de passe</translation>
-    </message>
-    <message>
-        <source>password generator</source>
-        <translation>générateur de mots de passe</translation>
-    </message>
-    <message>
-        <source>lock</source>
-        <translation>verrouiller</translation>
-    </message>
-    <message>
-        <source>settings</source>
-        <translation>paramètres</translation>
-    </message>
-    <message>
-        <source>exit</source>
-        <translation>quitter</translation>
-    </message>
-    <message>
         <source>a command of this program</source>
         <translation>une commande de ce programme</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annulation…</translation>
     </message>
 </context>
 <context>
@@ -2235,6 +3746,174 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     </message>
 </context>
 <context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Restore from a backup</source>
+        <translation>Restaurer une sauvegarde</translation>
+    </message>
+    <message>
+        <source>Another folder…</source>
+        <translation>Autre dossier…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sauvegardes</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Lecture des sauvegardes…</translation>
+    </message>
+    <message>
+        <source>The folder is not there</source>
+        <translation>Le dossier est introuvable</translation>
+    </message>
+    <message>
+        <source>Connect its drive, or choose the folder that your backups lie in.</source>
+        <translation>Branchez son disque, ou choisissez le dossier où se trouvent vos sauvegardes.</translation>
+    </message>
+    <message>
+        <source>No backups here</source>
+        <translation>Aucune sauvegarde ici</translation>
+    </message>
+    <message>
+        <source>Choose the folder that your backups lie in, such as one on another disk.</source>
+        <translation>Choisissez le dossier où se trouvent vos sauvegardes, par exemple sur un autre disque.</translation>
+    </message>
+    <message>
+        <source>It comes back as a new safe with the password of that time.</source>
+        <translation>Elle devient un nouveau coffre, avec le mot de passe de l’époque.</translation>
+    </message>
+</context>
+<context>
+    <name>SafeDesk</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe</source>
+        <translation>Ouvrir le dossier d’un coffre</translation>
+    </message>
+    <message>
+        <source>No safe there</source>
+        <translation>Aucun coffre ici</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder. The folder of a safe holds a file “safe.meta”:
+%1</source>
+        <translation>Il n’y a pas de coffre dans ce dossier. Le dossier d’un coffre contient un fichier «&#x202f;safe.meta&#x202f;»&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>Name of the safe</source>
+        <translation>Nom du coffre</translation>
+    </message>
+    <message>
+        <source>Can&apos;t rename.</source>
+        <translation>Impossible de renommer.</translation>
+    </message>
+    <message>
+        <source>The safe keeps its name. Check the free space and that you may write to its folder:
+%1</source>
+        <translation>Le coffre garde son nom. Vérifiez l’espace libre et que vous avez le droit d’écrire dans son dossier&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>Where is “%1” now?</source>
+        <translation>Où est «&#x202f;%1&#x202f;» maintenant&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Un autre coffre</translation>
+    </message>
+    <message>
+        <source>This folder holds another safe than “%1”. Open it on its own with “Open the folder of a safe”, or choose another folder.</source>
+        <translation>Ce dossier contient un autre coffre que «&#x202f;%1&#x202f;». Ouvrez-le à part avec «&#x202f;Ouvrir le dossier d’un coffre&#x202f;», ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder:
+%1</source>
+        <translation>Il n’y a pas de coffre dans ce dossier&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>Take “%1” off the list?</source>
+        <translation>Retirer «&#x202f;%1&#x202f;» de la liste&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Its files stay where they are. “Open the folder of a safe” brings it back:
+%1</source>
+        <translation>Ses fichiers restent où ils sont. «&#x202f;Ouvrir le dossier d’un coffre&#x202f;» le fait revenir&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>Its folder is not there now. If it comes back, “Open the folder of a safe” finds it:
+%1</source>
+        <translation>Son dossier est actuellement introuvable. S’il revient, «&#x202f;Ouvrir le dossier d’un coffre&#x202f;» le retrouvera&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>Remove from list</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Delete safe</source>
+        <translation>Supprimer le coffre</translation>
+    </message>
+    <message>
+        <source>Deleting “%1”…</source>
+        <translation>Suppression de «&#x202f;%1&#x202f;»…</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is not in its folder any more.</source>
+        <translation>Rien n’a été supprimé&#xa0;: le coffre n’est plus dans son dossier.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is being archived, or its password is being changed. Try again when that is done.</source>
+        <translation>Rien n’a été supprimé&#xa0;: le coffre est en cours d’archivage, ou son mot de passe en cours de changement. Réessayez ensuite.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: another program has this safe open. Close it there and try again.</source>
+        <translation>Rien n’a été supprimé&#xa0;: ce coffre est ouvert dans un autre programme. Fermez-le là-bas et réessayez.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is as it was. Check that you may write to its folder and try again.</source>
+        <translation>Rien n’a été supprimé&#xa0;: le coffre est tel qu’il était. Vérifiez que vous avez le droit d’écrire dans son dossier et réessayez.</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Afficher le dossier</translation>
+    </message>
+    <message>
+        <source>“%1” is gone, but some of its files could not be removed. They are encrypted, and you can delete them:
+%2</source>
+        <translation>«&#x202f;%1&#x202f;» est supprimé, mais certains de ses fichiers n’ont pas pu l’être. Ils sont chiffrés, et vous pouvez les supprimer&#xa0;:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is gone. %n other files were in its folder and are still there:
+%2</source>
+        <translation>
+            <numerusform>«&#x202f;%1&#x202f;» est supprimé. %n autre fichier se trouvait dans son dossier et y est encore&#xa0;:
+%2</numerusform>
+            <numerusform>«&#x202f;%1&#x202f;» est supprimé. %n autres fichiers se trouvaient dans son dossier et y sont encore&#xa0;:
+%2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SafeItemEditor</name>
     <message>
         <source>Editing “%1” · %2</source>
@@ -2260,6 +3939,131 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     </message>
 </context>
 <context>
+    <name>SafeLines</name>
+    <message>
+        <source>Folder not found: it was on a drive that is not connected</source>
+        <translation>Dossier introuvable&#xa0;: il était sur un disque qui n’est pas branché</translation>
+    </message>
+    <message>
+        <source>Folder not found: it was moved, renamed or deleted</source>
+        <translation>Dossier introuvable&#xa0;: il a été déplacé, renommé ou supprimé</translation>
+    </message>
+    <message>
+        <source>There is no safe in its folder any more, or it can&apos;t be read</source>
+        <translation>Il n’y a plus de coffre dans son dossier, ou il est illisible</translation>
+    </message>
+    <message>
+        <source>in the cloud folder</source>
+        <translation>dans le dossier cloud</translation>
+    </message>
+    <message>
+        <source>a copy of “%1”</source>
+        <translation>une copie de «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvert</translation>
+    </message>
+    <message>
+        <source>Last opened %1</source>
+        <translation>Dernière ouverture&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not opened yet</source>
+        <translation>Pas encore ouvert</translation>
+    </message>
+    <message>
+        <source>synchronised %1</source>
+        <translation>synchronisé %1</translation>
+    </message>
+    <message>
+        <source>backed up %1</source>
+        <translation>sauvegardé %1</translation>
+    </message>
+    <message>
+        <source>no backup yet</source>
+        <translation>aucune sauvegarde</translation>
+    </message>
+</context>
+<context>
+    <name>SafeMenu</name>
+    <message>
+        <source>Create new...</source>
+        <translation>Créer un coffre…</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Coffres…</translation>
+    </message>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Synchroniser maintenant</translation>
+    </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Importer des mots de passe…</translation>
+    </message>
+    <message>
+        <source>Export items…</source>
+        <translation>Exporter des éléments…</translation>
+    </message>
+    <message>
+        <source>Export safe…</source>
+        <translation>Exporter le coffre…</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Changer de mot de passe…</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Verrouiller</translation>
+    </message>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (indisponible)</translation>
+    </message>
+</context>
+<context>
+    <name>SafeRow</name>
+    <message>
+        <source>Locate…</source>
+        <translation>Localiser…</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>More about “%1”</source>
+        <translation>Autres actions pour «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Renommer…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Afficher le dossier</translation>
+    </message>
+    <message>
+        <source>Remove from list…</source>
+        <translation>Retirer de la liste…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Supprimer…</translation>
+    </message>
+</context>
+<context>
     <name>SafeSwitcher</name>
     <message>
         <source>Switch to another safe</source>
@@ -2269,17 +4073,36 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
         <source>Safe: %1</source>
         <translation>Coffre&#xa0;: %1</translation>
     </message>
+</context>
+<context>
+    <name>SafesDialog</name>
     <message>
-        <source>%1 (not available)</source>
-        <translation>%1 (indisponible)</translation>
+        <source>Safes</source>
+        <translation>Coffres</translation>
     </message>
     <message>
-        <source>Create new...</source>
-        <translation>Créer un coffre…</translation>
+        <source>New safe</source>
+        <translation>Nouveau coffre</translation>
     </message>
     <message>
-        <source>Lock</source>
-        <translation>Verrouiller</translation>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Make a safe from an archive or a backup</source>
+        <translation>Créer un coffre depuis une archive ou une sauvegarde</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe…</source>
+        <translation>Ouvrir le dossier d’un coffre…</translation>
+    </message>
+    <message>
+        <source>From cloud folder (%1)</source>
+        <translation>Depuis le dossier cloud (%1)</translation>
+    </message>
+    <message>
+        <source>There is no safe yet. Make a new one, or import an archive.</source>
+        <translation>Il n’y a pas encore de coffre. Créez-en un, ou importez une archive.</translation>
     </message>
 </context>
 <context>
@@ -2409,6 +4232,10 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>Remove</source>
         <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
     </message>
 </context>
 <context>
@@ -2748,6 +4575,42 @@ type:carte affiche un seul type d’éléments.
         <source>Locks the safe from any program; on Wayland, from this program&apos;s windows.</source>
         <translation>Verrouille le coffre depuis tout programme ; sous Wayland, depuis les fenêtres de celui-ci.</translation>
     </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Dossier cloud</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Mot de passe maître</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>Celui qui ouvre ce coffre.</translation>
+    </message>
+    <message>
+        <source>change hint</source>
+        <translation>changer modifier indice</translation>
+    </message>
+    <message>
+        <source>Last backup</source>
+        <translation>Dernière sauvegarde</translation>
+    </message>
+    <message>
+        <source>When each safe was backed up, and when that is done next.</source>
+        <translation>Date de sauvegarde de chaque coffre, et prochaine échéance.</translation>
+    </message>
+    <message>
+        <source>back up now restore archive</source>
+        <translation>sauvegarder maintenant restaurer restauration archive</translation>
+    </message>
+    <message>
+        <source>Keeps safes the same on several computers.</source>
+        <translation>Garde les coffres identiques sur plusieurs ordinateurs.</translation>
+    </message>
+    <message>
+        <source>synchronise sync mirror share provider account computers</source>
+        <translation>synchroniser synchronisation synchro sync miroir partager partage fournisseur compte ordinateurs</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -2880,6 +4743,18 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>What it was made for is no longer edited</source>
         <translation>L’élément auquel il était destiné n’est plus en cours de modification</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Changer de mot de passe…</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Mot de passe maître</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>Celui qui ouvre ce coffre.</translation>
     </message>
 </context>
 <context>
@@ -3051,6 +4926,28 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>Unlock your safe to go on</source>
         <translation>Déverrouillez votre coffre pour continuer</translation>
+    </message>
+    <message>
+        <source>This safe is on a drive that is not connected. Connect it, then choose the safe again:
+%1</source>
+        <translation>Ce coffre est sur un disque qui n’est pas branché. Branchez-le, puis choisissez à nouveau le coffre&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>Another program on this computer has this safe open. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Un autre programme de cet ordinateur a ouvert ce coffre. Ce que les deux modifient en même temps peut se perdre&#xa0;: fermez-le d’abord là-bas.</translation>
+    </message>
+    <message>
+        <source>This safe is open on the computer “%1”, or was when that computer stopped. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Ce coffre est ouvert sur l’ordinateur «&#x202f;%1&#x202f;», ou l’était quand celui-ci s’est arrêté. Ce que les deux modifient en même temps peut se perdre&#xa0;: fermez-le d’abord là-bas.</translation>
+    </message>
+    <message>
+        <source>This is the password from before it was changed. Use the new one.</source>
+        <translation>C’est le mot de passe d’avant le changement. Utilisez le nouveau.</translation>
+    </message>
+    <message>
+        <source>This is the password from before a change that was interrupted.</source>
+        <translation>C’est le mot de passe d’avant un changement qui a été interrompu.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,67 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en_GB">
 <context>
+    <name>ArchiveDesk</name>
+    <message>
+        <source>Export safe</source>
+        <translation>Экспорт сейфа</translation>
+    </message>
+    <message>
+        <source>GPM file (*.gpm)</source>
+        <translation>Файл GPM (*.gpm)</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>Экспорт «%1»…</translation>
+    </message>
+    <message>
+        <source>“%1” was not exported. %2</source>
+        <translation>Сейф «%1» не экспортирован. %2</translation>
+    </message>
+    <message>
+        <source>“%1” is exported. Everything in the file is encrypted; it opens with the master password of today:
+%2</source>
+        <translation>Сейф «%1» экспортирован. В файле всё зашифровано; он открывается нынешним мастер-паролем:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be read and are not in it.</source>
+        <translation>
+            <numerusform>В архив не вошёл %n нечитаемый файл.</numerusform>
+            <numerusform>В архив не вошли %n нечитаемых файла.</numerusform>
+            <numerusform>В архив не вошли %n нечитаемых файлов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Показать папку</translation>
+    </message>
+    <message>
+        <source>Open GPM file on your computer</source>
+        <translation>Откройте файл GPM на компьютере</translation>
+    </message>
+    <message>
+        <source>Import safe</source>
+        <translation>Импорт сейфа</translation>
+    </message>
+    <message>
+        <source>Importing “%1”…</source>
+        <translation>Импорт «%1»…</translation>
+    </message>
+    <message>
+        <source>Import from &quot;%1&quot; failed!</source>
+        <translation>Не удалось импортировать «%1»!</translation>
+    </message>
+    <message>
+        <source>“%1” is now in the list of your safes. It opens with the master password that it had when the file was made.</source>
+        <translation>Сейф «%1» теперь в списке Ваших сейфов. Он открывается мастер-паролем, который был у него при создании файла.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>Открыть его</translation>
+    </message>
+</context>
+<context>
     <name>AttachmentActions</name>
     <message>
         <source>Maximum attachment file size is %1 megabytes</source>
@@ -225,6 +286,153 @@
     </message>
 </context>
 <context>
+    <name>BackupRow</name>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Восстановить из копии…</translation>
+    </message>
+    <message>
+        <source>Backing up</source>
+        <translation>Создание копии</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Отмена…</translation>
+    </message>
+    <message>
+        <source>There is no safe to back up yet.</source>
+        <translation>Копировать пока нечего: сейфов ещё нет.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Копировать сейчас</translation>
+    </message>
+    <message>
+        <source>Backing up…</source>
+        <translation>Создание копии…</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Чтение копий…</translation>
+    </message>
+    <message>
+        <source>You can go on working.</source>
+        <translation>Можно продолжать работу.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>“%1”</source>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>сегодня</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>вчера</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <translation>завтра</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>a day, a time of day</comment>
+        <translation>%1 в %2</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 КБ</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Damaged, can&apos;t be restored · %1</source>
+        <translation>Повреждена, восстановить нельзя · %1</translation>
+    </message>
+    <message>
+        <source>Last backup: %1</source>
+        <translation>Последняя копия: %1</translation>
+    </message>
+    <message>
+        <source>No backup yet</source>
+        <translation>Копий ещё нет</translation>
+    </message>
+    <message>
+        <source>Automatic backups are off.</source>
+        <translation>Автоматическое копирование выключено.</translation>
+    </message>
+    <message>
+        <source>Next backup: in a moment</source>
+        <translation>Следующая копия: вот-вот</translation>
+    </message>
+    <message>
+        <source>Next backup: %1</source>
+        <translation>Следующая копия: %1</translation>
+    </message>
+    <message>
+        <source>The folder for backups is not there. Connect its drive, or choose another folder.</source>
+        <translation>Папка для копий недоступна. Подключите её диск или выберите другую папку.</translation>
+    </message>
+    <message>
+        <source>The folder for backups can&apos;t be written to. Choose another folder.</source>
+        <translation>Папка для копий недоступна для записи. Выберите другую.</translation>
+    </message>
+    <message>
+        <source>%1: not there, or it can&apos;t be read</source>
+        <translation>%1: недоступен или не читается</translation>
+    </message>
+    <message>
+        <source>%1: not backed up yet</source>
+        <translation>%1: копии ещё нет</translation>
+    </message>
+    <message>
+        <source>%1: %2, unchanged since</source>
+        <translation>%1: %2, с тех пор без изменений</translation>
+    </message>
+    <message>
+        <source>%1: %2, changed since</source>
+        <translation>%1: %2, с тех пор изменён</translation>
+    </message>
+    <message>
+        <source>Backed up and checked: %1.</source>
+        <translation>Скопировано и проверено: %1.</translation>
+    </message>
+    <message>
+        <source>Unchanged since the last backup: %1.</source>
+        <translation>Без изменений с последней копии: %1.</translation>
+    </message>
+    <message>
+        <source>Not backed up, as the folder is not there: %1. If it is on a drive that can be taken out, connect it and try again.</source>
+        <translation>Не скопировано, так как папка недоступна: %1. Если она на съёмном носителе, подключите его и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>Not yet backed up, as the password is being changed or it is being archived: %1. This is tried again in a minute.</source>
+        <translation>Ещё не скопировано, так как меняется пароль или идёт архивация: %1. Через минуту попытка повторится.</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1. Earlier backups are left as they are.</source>
+        <translation>Отменено: %1. Прежние копии оставлены без изменений.</translation>
+    </message>
+    <message>
+        <source>Not backed up: “%1”. %2</source>
+        <translation>Не скопировано: «%1». %2</translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
@@ -301,10 +509,511 @@
     </message>
 </context>
 <context>
+    <name>ChangePasswordDialog</name>
+    <message>
+        <source>Change Password</source>
+        <translation>Смена пароля</translation>
+    </message>
+    <message>
+        <source>Only you know it. It cannot be recovered.</source>
+        <translation>Пароль знаете только Вы. Восстановить его невозможно.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Change password</source>
+        <translation>Сменить пароль</translation>
+    </message>
+    <message>
+        <source>Old password:</source>
+        <translation>Старый пароль:</translation>
+    </message>
+    <message>
+        <source>New password:</source>
+        <translation>Новый пароль:</translation>
+    </message>
+    <message>
+        <source>Confirm:</source>
+        <translation>Повтор пароля:</translation>
+    </message>
+    <message>
+        <source>Hint:</source>
+        <translation>Подсказка:</translation>
+    </message>
+</context>
+<context>
+    <name>ChangePasswordRules</name>
+    <message>
+        <source>Old password can not be empty</source>
+        <translation>Введите старый пароль</translation>
+    </message>
+    <message>
+        <source>Old password is invalid. Try again</source>
+        <translation>Старый пароль неверный. Попробуйте ещё раз</translation>
+    </message>
+    <message>
+        <source>New password can not be empty</source>
+        <translation>Введите новый пароль</translation>
+    </message>
+    <message>
+        <source>New password can not be the same as the old password</source>
+        <translation>Новый пароль не должен совпадать со старым</translation>
+    </message>
+    <message>
+        <source>Confirm password can not be empty</source>
+        <translation>Повторите пароль</translation>
+    </message>
+    <message>
+        <source>Password does not match</source>
+        <translation>Пароли не совпадают</translation>
+    </message>
+    <message>
+        <source>Hint can not be empty</source>
+        <translation>Введите подсказку</translation>
+    </message>
+    <message>
+        <source>“%1” has its new password. From now on only that one opens it. Backups made before still open with the old one.</source>
+        <translation>У сейфа «%1» новый пароль. Теперь его открывает только он. Прежние копии по-прежнему открываются старым.</translation>
+    </message>
+    <message>
+        <source>The password was not changed. The old one still opens “%1”.</source>
+        <translation>Пароль не изменён. Сейф «%1» по-прежнему открывается старым.</translation>
+    </message>
+    <message>
+        <source>“%1” was locked before the change was done. The old password still opens it.</source>
+        <translation>Сейф «%1» заблокирован до окончания смены пароля. Он по-прежнему открывается старым паролем.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: another program is using the safe. The old one still opens it. Wait until the other program is done, then try again.</source>
+        <translation>Пароль не изменён: сейф использует другая программа. Он по-прежнему открывается старым паролем. Подождите, пока та программа закончит, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: some files of the safe do not open, and under a new password they would be lost. The old one still opens the safe. Bring these files back from a backup or move them out of the folder of the safe, then try again.</source>
+        <translation>Пароль не изменён: некоторые файлы сейфа не открываются и при новом пароле были бы потеряны. Сейф по-прежнему открывается старым паролем. Верните эти файлы из резервной копии или уберите их из папки сейфа и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The password was not changed: the files of the safe could not be written. The old one still opens it. Check the free space and that the folder of the safe can be written to, then try again.</source>
+        <translation>Пароль не изменён: не удалось записать файлы сейфа. Он по-прежнему открывается старым паролем. Проверьте свободное место и доступность папки сейфа для записи и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens the safe, but perhaps not every item; this old one still opens them all.</source>
+        <translation>Смена пароля сейфа «%1» была прервана. Новый пароль открывает сейф, но, возможно, не каждую запись; этот старый пока открывает все.</translation>
+    </message>
+    <message>
+        <source>A change of the password of “%1” was interrupted. The new password opens %2 of %3 items; the old one still opens those that were there before. Change nothing now: it would be missing when you go back.</source>
+        <translation>Смена пароля сейфа «%1» была прервана. Новый пароль открывает записей: %2 из %3; старый пока открывает те, что были раньше. Сейчас ничего не меняйте: при возврате к старому изменения пропадут.</translation>
+    </message>
+    <message>
+        <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
+        <translation>Чтобы вернуться к старому паролю, выйдите из программы и откройте папку сейфа. Сохраните копию «safe.passid» в другом месте. Затем скопируйте «safe.passid.bak» поверх «safe.passid»: каждая запись снова откроется старым паролем, и его можно будет сменить заново.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceInput</name>
     <message>
         <source>Not specified</source>
         <translation>Не указано</translation>
+    </message>
+</context>
+<context>
+    <name>CloudDesk</name>
+    <message>
+        <source>The copy in the cloud folder is still there.</source>
+        <translation>Копия в облачной папке осталась.</translation>
+    </message>
+    <message>
+        <source>Some of its files could not be removed. Remove the folder yourself if you do not need it:
+%1</source>
+        <translation>Некоторые её файлы не удалось удалить. Удалите папку сами, если она не нужна:
+%1</translation>
+    </message>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>Из облачной папки</translation>
+    </message>
+    <message>
+        <source>Bringing “%1” over…</source>
+        <translation>Загрузка «%1»…</translation>
+    </message>
+    <message>
+        <source>“%1” is on this computer now, and is kept the same as on your other computers. It opens with its own master password.</source>
+        <translation>Сейф «%1» теперь на этом компьютере и остаётся таким же, как на других Ваших компьютерах. Он открывается своим мастер-паролем.</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>Открыть его</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise with the cloud folder.</source>
+        <translation>Не удаётся синхронизировать с облачной папкой.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudImportDialog</name>
+    <message>
+        <source>From the cloud folder</source>
+        <translation>Из облачной папки</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Другая папка…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Bring over</source>
+        <translation>Загрузить</translation>
+    </message>
+    <message>
+        <source>Safes in the cloud folder</source>
+        <translation>Сейфы в облачной папке</translation>
+    </message>
+    <message>
+        <source>No other safe found</source>
+        <translation>Других сейфов не найдено</translation>
+    </message>
+    <message>
+        <source>Safes that you synchronise on another computer appear here as soon as your cloud program has brought them.</source>
+        <translation>Сейфы, которые Вы синхронизируете на другом компьютере, появятся здесь, как только их доставит Ваша облачная программа.</translation>
+    </message>
+    <message>
+        <source>These safes are synchronised by another computer. Bring one over to use it here, too; it opens with its own master password.</source>
+        <translation>Эти сейфы синхронизирует другой компьютер. Загрузите один из них, чтобы пользоваться им и здесь; он открывается своим мастер-паролем.</translation>
+    </message>
+    <message>
+        <source>%1
+made on %2</source>
+        <translation>%1
+создан %2</translation>
+    </message>
+</context>
+<context>
+    <name>CloudOffer</name>
+    <message>
+        <source>Bring it over…</source>
+        <translation>Загрузить его…</translation>
+    </message>
+    <message>
+        <source>You have a safe in your cloud folder: “%1”.</source>
+        <translation>В Вашей облачной папке есть сейф: «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>You have %n safes in your cloud folder.</source>
+        <translation>
+            <numerusform>В Вашей облачной папке есть %n сейф.</numerusform>
+            <numerusform>В Вашей облачной папке есть %n сейфа.</numerusform>
+            <numerusform>В Вашей облачной папке есть %n сейфов.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CloudPanel</name>
+    <message>
+        <source>No folder of a cloud provider was found. Choose the one that yours keeps the same on all computers, or a folder on a USB stick.</source>
+        <translation>Папка облачного провайдера не найдена. Выберите ту, которую Ваш провайдер держит одинаковой на всех компьютерах, или папку на USB-накопителе.</translation>
+    </message>
+    <message>
+        <source>Other folder…</source>
+        <translation>Другая папка…</translation>
+    </message>
+    <message>
+        <source>There is no safe yet.</source>
+        <translation>Сейфов ещё нет.</translation>
+    </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Облачная папка</translation>
+    </message>
+    <message>
+        <source>A synchronised safe has an encrypted copy in a folder that your cloud provider carries to your other computers. What you change on one arrives on all.</source>
+        <translation>У синхронизируемого сейфа есть зашифрованная копия в папке, которую облачный провайдер переносит на другие Ваши компьютеры. Что изменено на одном, появится на всех.</translation>
+    </message>
+    <message>
+        <source>Personal account: %1</source>
+        <translation>Личная учётная запись: %1</translation>
+    </message>
+    <message>
+        <source>Business account: %1</source>
+        <translation>Рабочая учётная запись: %1</translation>
+    </message>
+    <message>
+        <source>Bring over “%1”…</source>
+        <translation>Загрузить «%1»…</translation>
+    </message>
+    <message>
+        <source>Bring over a safe (%1)…</source>
+        <translation>Загрузить сейф (%1)…</translation>
+    </message>
+    <message>
+        <source>Choose a folder first.</source>
+        <translation>Сначала выберите папку.</translation>
+    </message>
+    <message>
+        <source>Stop synchronising “%1”?</source>
+        <translation>Больше не синхронизировать «%1»?</translation>
+    </message>
+    <message>
+        <source>The safe on this computer stays as it is. Its copy in the cloud folder can stay for your other computers, or be removed; then they can&apos;t synchronise any more.</source>
+        <translation>Сейф на этом компьютере останется прежним. Его копию в облачной папке можно оставить для других Ваших компьютеров или удалить; тогда они больше не смогут синхронизировать сейф.</translation>
+    </message>
+    <message>
+        <source>Keep the copy</source>
+        <translation>Оставить копию</translation>
+    </message>
+    <message>
+        <source>Remove the copy</source>
+        <translation>Удалить копию</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>CloudPasswordDialog</name>
+    <message>
+        <source>New master password</source>
+        <translation>Новый мастер-пароль</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Не сейчас</translation>
+    </message>
+    <message>
+        <source>Go on with it</source>
+        <translation>Продолжить с ним</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>The password of “%1” was changed on another computer. Enter the new one to go on synchronising; from then on the safe opens with it here, too.</source>
+        <translation>Пароль сейфа «%1» сменили на другом компьютере. Введите новый, чтобы продолжить синхронизацию; с этого момента сейф и здесь открывается им.</translation>
+    </message>
+</context>
+<context>
+    <name>CloudSafeRow</name>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Синхронизировать сейчас</translation>
+    </message>
+    <message>
+        <source>Enter the new password…</source>
+        <translation>Ввести новый пароль…</translation>
+    </message>
+    <message>
+        <source>Synchronise “%1”</source>
+        <translation>Синхронизировать «%1»</translation>
+    </message>
+    <message>
+        <source>Only on this computer</source>
+        <translation>Только на этом компьютере</translation>
+    </message>
+</context>
+<context>
+    <name>CloudTexts</name>
+    <message>
+        <source>Synchronised</source>
+        <translation>Синхронизирован</translation>
+    </message>
+    <message>
+        <source>Synchronising…</source>
+        <translation>Синхронизация…</translation>
+    </message>
+    <message>
+        <source>Waiting for files</source>
+        <translation>Ожидание файлов</translation>
+    </message>
+    <message>
+        <source>Waiting…</source>
+        <translation>Ожидание…</translation>
+    </message>
+    <message>
+        <source>New password</source>
+        <translation>Новый пароль</translation>
+    </message>
+    <message>
+        <source>No cloud folder</source>
+        <translation>Нет облачной папки</translation>
+    </message>
+    <message>
+        <source>Wrong folder</source>
+        <translation>Не та папка</translation>
+    </message>
+    <message>
+        <source>Can&apos;t synchronise</source>
+        <translation>Не синхронизируется</translation>
+    </message>
+    <message>
+        <source>Synchronised %1</source>
+        <translation>Синхронизирован %1</translation>
+    </message>
+    <message>
+        <source>Synchronises when the safe is open</source>
+        <translation>Синхронизируется, когда сейф открыт</translation>
+    </message>
+    <message>
+        <source>Synchronising, %1 of %2</source>
+        <translation>Синхронизация, %1 из %2</translation>
+    </message>
+    <message>
+        <source>Waiting for files to arrive</source>
+        <translation>Ожидание прибытия файлов</translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for %n files to arrive</source>
+        <translation>
+            <numerusform>Ожидается %n файл</numerusform>
+            <numerusform>Ожидаются %n файла</numerusform>
+            <numerusform>Ожидается %n файлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Waits until the safe is free</source>
+        <translation>Ожидание, пока сейф освободится</translation>
+    </message>
+    <message>
+        <source>The password was changed on another computer</source>
+        <translation>Пароль сменили на другом компьютере</translation>
+    </message>
+    <message>
+        <source>The cloud folder is not there</source>
+        <translation>Облачная папка недоступна</translation>
+    </message>
+    <message>
+        <source>The cloud folder holds another safe</source>
+        <translation>В облачной папке другой сейф</translation>
+    </message>
+    <message>
+        <source>The cloud folder can&apos;t be written to</source>
+        <translation>Облачная папка недоступна для записи</translation>
+    </message>
+    <message>
+        <source>The folder of the safe can&apos;t be written to</source>
+        <translation>Папка сейфа недоступна для записи</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them.</source>
+        <translation>Всё продолжится само, как только их доставит Ваша облачная программа.</translation>
+    </message>
+    <message>
+        <source>It goes on by itself once your cloud program has brought them: %1</source>
+        <translation>Всё продолжится само, как только их доставит Ваша облачная программа: %1</translation>
+    </message>
+    <message>
+        <source>The safe is being archived, or its password is being changed.</source>
+        <translation>Сейф архивируется, или меняется его пароль.</translation>
+    </message>
+    <message>
+        <source>Enter the new password, and this computer goes on with it.</source>
+        <translation>Введите новый пароль, и этот компьютер продолжит с ним.</translation>
+    </message>
+    <message>
+        <source>If it is on a drive that can be taken out, connect the drive. If it was moved, turn synchronising off and on again. Nothing is lost in the meantime.
+%1</source>
+        <translation>Если она на съёмном носителе, подключите его. Если её переместили, выключите и снова включите синхронизацию. Тем временем ничего не потеряется.
+%1</translation>
+    </message>
+    <message>
+        <source>Nothing was read or changed there. Turn synchronising off and on again to choose another folder.
+%1</source>
+        <translation>Там ничего не прочитано и не изменено. Чтобы выбрать другую папку, выключите и снова включите синхронизацию.
+%1</translation>
+    </message>
+    <message>
+        <source>Your changes are in the safe on this computer, but not in the cloud folder. Check the free space and that you may write there; it is tried again every minute.
+%1</source>
+        <translation>Ваши изменения есть в сейфе на этом компьютере, но не в облачной папке. Проверьте свободное место и право записи в неё; попытка повторяется каждую минуту.
+%1</translation>
+    </message>
+    <message>
+        <source>Changes of your other computers could not be taken over. Check the free space and that you may write to the folder of the safe; it is tried again every minute.</source>
+        <translation>Не удалось принять изменения с других Ваших компьютеров. Проверьте свободное место и право записи в папку сейфа; попытка повторяется каждую минуту.</translation>
+    </message>
+    <message>
+        <source>This folder is not there: %1</source>
+        <translation>Эта папка недоступна: %1</translation>
+    </message>
+    <message>
+        <source>This folder is part of the safe itself. Choose the folder of your cloud provider, or one on another drive.</source>
+        <translation>Эта папка — часть самого сейфа. Выберите папку облачного провайдера или папку на другом диске.</translation>
+    </message>
+    <message>
+        <source>The safe itself lies in this folder. Choose a folder that does not hold it.</source>
+        <translation>В этой папке лежит сам сейф. Выберите папку, в которой его нет.</translation>
+    </message>
+    <message>
+        <source>Your backups are kept in this folder. Choose another one.</source>
+        <translation>В этой папке хранятся Ваши резервные копии. Выберите другую.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to another safe. Choose another one.</source>
+        <translation>Эта папка принадлежит другому сейфу. Выберите другую.</translation>
+    </message>
+    <message>
+        <source>This folder belongs to the safe “%1”. Choose another one.</source>
+        <translation>Эта папка принадлежит сейфу «%1». Выберите другую.</translation>
+    </message>
+    <message>
+        <source>Another copy of this safe on this computer is synchronised there already. Turn that off first, or choose another folder.</source>
+        <translation>Здесь уже синхронизируется другая копия этого сейфа с этого компьютера. Сначала выключите её синхронизацию или выберите другую папку.</translation>
+    </message>
+    <message>
+        <source>This folder can&apos;t be written to. Check the free space and that you may write there: %1</source>
+        <translation>Эта папка недоступна для записи. Проверьте свободное место и право записи в неё: %1</translation>
+    </message>
+    <message>
+        <source>This is not the password that was set on the other computer. Try again.</source>
+        <translation>Это не тот пароль, что задан на другом компьютере. Попробуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>The safe is busy with something else, such as a backup. Try again in a moment.</source>
+        <translation>Сейф занят другим делом, например копированием. Повторите попытку чуть позже.</translation>
+    </message>
+    <message>
+        <source>The safe on this computer could not be changed; it is as it was. Check the free space, and that every item of the safe can be read, then try again.</source>
+        <translation>Сейф на этом компьютере не удалось изменить; он остался прежним. Проверьте свободное место и что каждая запись сейфа читается, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The safe can&apos;t be written. Check the free space and that you may write to the folder of your safes.</source>
+        <translation>Не удаётся записать сейф. Проверьте свободное место и право записи в папку Ваших сейфов.</translation>
+    </message>
+    <message>
+        <source>Another safe is being imported. Try again when that is done.</source>
+        <translation>Сейчас импортируется другой сейф. Повторите попытку, когда это закончится.</translation>
+    </message>
+    <message>
+        <source>The safe in the cloud folder can&apos;t be read. It may not have arrived whole yet; wait until your cloud program is done, and try again.</source>
+        <translation>Сейф в облачной папке не читается. Возможно, он пришёл ещё не целиком; подождите, пока облачная программа закончит, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>One item came from the cloud folder</source>
+        <translation>Из облачной папки пришла одна запись</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came from the cloud folder</source>
+        <translation>
+            <numerusform>Из облачной папки пришла %n запись</numerusform>
+            <numerusform>Из облачной папки пришли %n записи</numerusform>
+            <numerusform>Из облачной папки пришло %n записей</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>One item was deleted on another computer</source>
+        <translation>Одна запись удалена на другом компьютере</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were deleted on another computer</source>
+        <translation>
+            <numerusform>%n запись удалена на другом компьютере</numerusform>
+            <numerusform>%n записи удалены на другом компьютере</numerusform>
+            <numerusform>%n записей удалено на другом компьютере</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -356,6 +1065,12 @@
         <source>Create safe failed!</source>
         <translation>Не удалось создать сейф!</translation>
     </message>
+    <message>
+        <source>A safe needs an empty folder that you may write to. This one is not:
+%1</source>
+        <translation>Сейфу нужна пустая папка, доступная для записи. Эта не подходит:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafePage</name>
@@ -387,6 +1102,38 @@ another one?</source>
         <translation>Создать
 ещё один?</translation>
     </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Выбрать…</translation>
+    </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Восстановить из копии…</translation>
+    </message>
+    <message>
+        <source>Import from an archive…</source>
+        <translation>Импорт из архива…</translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation>В папке %1</translation>
+    </message>
+    <message>
+        <source>Kept with your other safes</source>
+        <translation>Вместе с другими сейфами</translation>
+    </message>
+    <message>
+        <source>Usual place</source>
+        <translation>Обычное место</translation>
+    </message>
+    <message>
+        <source>Keep the safe in the usual place</source>
+        <translation>Хранить сейф в обычном месте</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe…</source>
+        <translation>Выбрать папку сейфа…</translation>
+    </message>
 </context>
 <context>
     <name>CreateSafeRules</name>
@@ -416,6 +1163,41 @@ another one?</source>
     <message>
         <source>Calendar</source>
         <translation>Календарь</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteSafeDialog</name>
+    <message>
+        <source>Delete safe</source>
+        <translation>Удаление сейфа</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete “%1” for good?</source>
+        <translation>Удалить «%1» навсегда?</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups stay.</source>
+        <translation>Всё его содержимое исчезнет с этого компьютера. Резервные копии останутся.</translation>
+    </message>
+    <message>
+        <source>Everything in it will be gone from this computer. Its backups and its copy in the cloud folder stay.</source>
+        <translation>Всё его содержимое исчезнет с этого компьютера. Резервные копии и копия в облачной папке останутся.</translation>
+    </message>
+    <message>
+        <source>Master password of this safe</source>
+        <translation>Мастер-пароль этого сейфа</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Wrong Password! Try again</source>
+        <translation>Неверный пароль! Попробуйте ещё раз</translation>
     </message>
 </context>
 <context>
@@ -568,6 +1350,111 @@ It can not be restored.</source>
     <message>
         <source>The archive could not be read back after it was written, and was removed. Choose a folder on another drive.</source>
         <translation>Записанный архив не удалось прочитать, и он удалён. Выберите папку на другом диске.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Save as</source>
+        <translation>Сохранить как</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items are in “%1” now. Everyone who opens the file can read them: delete it when it has served.</source>
+        <translation>
+            <numerusform>В файле «%1» теперь %n запись. Прочитать содержимое может любой, кто откроет файл: удалите его, как только он станет не нужен.</numerusform>
+            <numerusform>В файле «%1» теперь %n записи. Прочитать содержимое может любой, кто откроет файл: удалите его, как только он станет не нужен.</numerusform>
+            <numerusform>В файле «%1» теперь %n записей. Прочитать содержимое может любой, кто откроет файл: удалите его, как только он станет не нужен.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file cannot be written, and nothing of it is left. Check the free space and the permissions, or choose another folder:
+%1</source>
+        <translation>Файл не удалось записать, и от него ничего не осталось. Проверьте свободное место и права доступа или выберите другую папку:
+%1</translation>
+    </message>
+    <message>
+        <source>The safe was locked before the file was written. Nothing of it is left.</source>
+        <translation>Сейф заблокирован до записи файла. От файла ничего не осталось.</translation>
+    </message>
+    <message>
+        <source>Export items</source>
+        <translation>Экспорт записей</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected items</source>
+        <translation>
+            <numerusform>Выбранные записи (%n)</numerusform>
+            <numerusform>Выбранные записи (%n)</numerusform>
+            <numerusform>Выбранные записи (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All items of the safe (%1)</source>
+        <translation>Все записи сейфа (%1)</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Формат</translation>
+    </message>
+    <message>
+        <source>JSON: everything, for another safe</source>
+        <translation>JSON: всё, для другого сейфа</translation>
+    </message>
+    <message>
+        <source>CSV: logins, for browsers and other programs</source>
+        <translation>CSV: логины, для браузеров и других программ</translation>
+    </message>
+    <message>
+        <source>Password of the safe</source>
+        <translation>Пароль сейфа</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Password of the safe “%1”</source>
+        <translation>Пароль сейфа «%1»</translation>
+    </message>
+    <message>
+        <source>The file is not encrypted: everyone who gets hold of it can read your passwords. Do not leave it lying, nor in a folder that is synchronised, and delete it as soon as it has served.</source>
+        <translation>Файл не зашифрован: любой, к кому он попадёт, прочитает Ваши пароли. Не оставляйте его без присмотра или в синхронизируемой папке и удалите, как только он станет не нужен.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items that are no logins are left out.</source>
+        <translation>
+            <numerusform>Не войдёт %n запись других видов, кроме логинов.</numerusform>
+            <numerusform>Не войдут %n записи других видов, кроме логинов.</numerusform>
+            <numerusform>Не войдут %n записей других видов, кроме логинов.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments are left out. An archive of the safe holds them.</source>
+        <translation>
+            <numerusform>Не войдёт %n вложение. Вложения есть в архиве сейфа.</numerusform>
+            <numerusform>Не войдут %n вложения. Они есть в архиве сейфа.</numerusform>
+            <numerusform>Не войдут %n вложений. Они есть в архиве сейфа.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not the password of the safe.</source>
+        <translation>Это не пароль сейфа.</translation>
+    </message>
+    <message>
+        <source>Writing “%1”…</source>
+        <translation>Записывается «%1»…</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Показать папку</translation>
     </message>
 </context>
 <context>
@@ -768,6 +1655,14 @@ It can not be restored.</source>
         <source>The program waits in the tray when you close its window.</source>
         <translation>После закрытия окна программа остаётся в области уведомлений.</translation>
     </message>
+    <message>
+        <source>Bring your passwords over</source>
+        <translation>Перенос паролей</translation>
+    </message>
+    <message>
+        <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
+        <translation>Из браузера или другой программы. Это можно сделать и позже, в меню сейфа.</translation>
+    </message>
 </context>
 <context>
     <name>FormFillFlow</name>
@@ -779,22 +1674,28 @@ It can not be restored.</source>
         <source>Item %1 has wrong url: %2</source>
         <translation>У записи «%1» неверный адрес: %2</translation>
     </message>
+    <message>
+        <source>No browser is connected</source>
+        <translation>Нет подключённого браузера</translation>
+    </message>
+    <message>
+        <source>To fill this into a page, open your browser with the extension.</source>
+        <translation>Чтобы заполнить страницу, откройте браузер с расширением.</translation>
+    </message>
+    <message>
+        <source>Nothing to fill</source>
+        <translation>Заполнять нечего</translation>
+    </message>
+    <message>
+        <source>The page shows no empty fields for “%1”.</source>
+        <translation>На странице нет пустых полей для «%1».</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>
     <message>
         <source>Warning</source>
         <translation>Внимание</translation>
-    </message>
-    <message>
-        <source>Can&apos;t delete.</source>
-        <translation>Не удалось удалить.</translation>
-    </message>
-    <message>
-        <source>The items are still there. Check that the folder of the safe can be written to:
-%1</source>
-        <translation>Записи остались на месте. Проверьте, что папка сейфа доступна для записи:
-%1</translation>
     </message>
     <message>
         <source>Can&apos;t save changes.</source>
@@ -1029,6 +1930,27 @@ They can not be restored.</source>
             <numerusform>Также будут удалены %n вложения.</numerusform>
             <numerusform>Также будет удалено %n вложений.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ItemChanges</name>
+    <message>
+        <source>Can&apos;t delete now.</source>
+        <translation>Сейчас удалить нельзя.</translation>
+    </message>
+    <message>
+        <source>The password of the safe is being changed. Delete the items when that is done.</source>
+        <translation>Пароль сейфа сейчас меняется. Удалите записи, когда это закончится.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t delete.</source>
+        <translation>Не удалось удалить.</translation>
+    </message>
+    <message>
+        <source>The items are still there. Check that the folder of the safe can be written to:
+%1</source>
+        <translation>Записи остались на месте. Проверьте, что папка сейфа доступна для записи:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1575,6 +2497,10 @@ They can not be restored.</source>
         <source>New item (Ctrl+N)</source>
         <translation>Новая запись (Ctrl+N)</translation>
     </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Перенести пароли…</translation>
+    </message>
 </context>
 <context>
     <name>ItemMenu</name>
@@ -1617,6 +2543,10 @@ They can not be restored.</source>
     <message>
         <source>Delete forever…</source>
         <translation>Удалить навсегда…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
     </message>
 </context>
 <context>
@@ -1812,6 +2742,14 @@ Correct them and try again.</source>
         <source>Undo</source>
         <translation>Отменить</translation>
     </message>
+    <message>
+        <source>“%1” was deleted on another computer.</source>
+        <translation>Запись «%1» удалена на другом компьютере.</translation>
+    </message>
+    <message>
+        <source>What you have typed is kept. Save it as a new item, or discard it.</source>
+        <translation>Введённое не потеряно. Сохраните его как новую запись или отбросьте.</translation>
+    </message>
 </context>
 <context>
     <name>MasterPasswordPage</name>
@@ -1881,6 +2819,22 @@ Create one?</source>
         <source>Unlocking…</source>
         <translation>Открывается…</translation>
     </message>
+    <message>
+        <source>Restore from a backup…</source>
+        <translation>Восстановить из копии…</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Сейфы…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Импорт…</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Всё равно открыть</translation>
+    </message>
 </context>
 <context>
     <name>MonthPopup</name>
@@ -1891,6 +2845,573 @@ Create one?</source>
     <message>
         <source>Next year</source>
         <translation>Следующий год</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInColumns</name>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>The columns of “%1” are not known. Say what each one holds.</source>
+        <translation>Столбцы файла «%1» неизвестны. Укажите, что в каждом из них.</translation>
+    </message>
+    <message>
+        <source>Keep it in the note</source>
+        <translation>Сохранить в заметке</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Имя пользователя</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Заметка</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInDialog</name>
+    <message>
+        <source>Choose the exported file</source>
+        <translation>Выберите экспортированный файл</translation>
+    </message>
+    <message>
+        <source>Exports of passwords (%1)</source>
+        <translation>Экспортированные пароли (%1)</translation>
+    </message>
+    <message>
+        <source>All files (%1)</source>
+        <translation>Все файлы (%1)</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Сохранить как</translation>
+    </message>
+    <message>
+        <source>Bring passwords over</source>
+        <translation>Перенос паролей</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here</source>
+        <translation>Перетащите сюда экспортированный файл</translation>
+    </message>
+    <message>
+        <source>Copied.</source>
+        <translation>Скопировано.</translation>
+    </message>
+    <message>
+        <source>Reading “%1”…</source>
+        <translation>Чтение «%1»…</translation>
+    </message>
+    <message>
+        <source>Added %1 of %2…</source>
+        <translation>Добавлено %1 из %2…</translation>
+    </message>
+    <message>
+        <source>What came in.txt</source>
+        <translation>Что перенесено.txt</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Сохранено.</translation>
+    </message>
+    <message>
+        <source>The file cannot be written. Choose another folder.</source>
+        <translation>Файл не удалось записать. Выберите другую папку.</translation>
+    </message>
+    <message>
+        <source>Delete “%1”?</source>
+        <translation>Удалить «%1»?</translation>
+    </message>
+    <message>
+        <source>The file does not go to the bin: it is gone at once. Nobody can promise that nothing of it stays behind: SSDs, backups and folders that are synchronised may keep what was deleted for a while.</source>
+        <translation>Файл не попадёт в корзину: он исчезнет сразу. Никто не может обещать, что от него ничего не останется: SSD, резервные копии и синхронизируемые папки могут какое-то время хранить удалённое.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>The file “%1” is deleted. If you made other copies of it, delete them, too.</source>
+        <translation>Файл «%1» удалён. Если Вы делали другие его копии, удалите и их.</translation>
+    </message>
+    <message>
+        <source>The file cannot be deleted. Close the program that has it open, then try again:
+%1</source>
+        <translation>Файл не удалось удалить. Закройте программу, в которой он открыт, и повторите попытку:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInEnd</name>
+    <message>
+        <source>What did not come in</source>
+        <translation>Что не перенесено</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Удалить файл</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Копировать отчёт</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Сохранить отчёт…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Look at what did not come in, then delete the file.</source>
+        <translation>В файле «%1» по-прежнему лежат Ваши пароли, доступные каждому. Посмотрите, что не перенесено, и удалите файл.</translation>
+    </message>
+    <message>
+        <source>The file “%1” still holds your passwords for everyone to read. Delete it now.</source>
+        <translation>В файле «%1» по-прежнему лежат Ваши пароли, доступные каждому. Удалите его сейчас.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInModel</name>
+    <message>
+        <source>chosen</source>
+        <translation>выбрано</translation>
+    </message>
+    <message>
+        <source>not chosen</source>
+        <translation>не выбрано</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Имя пользователя</translation>
+    </message>
+    <message>
+        <source>Becomes</source>
+        <translation>Станет</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPage</name>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Перенести пароли…</translation>
+    </message>
+    <message>
+        <source>Chrome, Edge, Firefox, Safari, Bitwarden and KeePassXC write their passwords into a file, which this program reads. You see everything before it comes in, and how to make the file.</source>
+        <translation>Chrome, Edge, Firefox, Safari, Bitwarden и KeePassXC записывают свои пароли в файл, который читает эта программа. До переноса видно всё, что в нём есть, и как создать файл.</translation>
+    </message>
+    <message>
+        <source>Open a safe first: the passwords are kept in it.</source>
+        <translation>Сначала откройте сейф: пароли хранятся в нём.</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInPreview</name>
+    <message>
+        <source>Select all</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Снять выбор</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries</source>
+        <translation>
+            <numerusform>%n запись</numerusform>
+            <numerusform>%n записи</numerusform>
+            <numerusform>%n записей</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins will be added</source>
+        <translation>
+            <numerusform>%n логин будет добавлен</numerusform>
+            <numerusform>%n логина будут добавлены</numerusform>
+            <numerusform>%n логинов будет добавлено</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items will be added</source>
+        <translation>
+            <numerusform>%n запись будет добавлена</numerusform>
+            <numerusform>%n записи будут добавлены</numerusform>
+            <numerusform>%n записей будет добавлено</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n are already there</source>
+        <translation>
+            <numerusform>%n уже есть</numerusform>
+            <numerusform>%n уже есть</numerusform>
+            <numerusform>%n уже есть</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unreadable</source>
+        <translation>
+            <numerusform>%n не читается</numerusform>
+            <numerusform>%n не читаются</numerusform>
+            <numerusform>%n не читаются</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>пропущено: %n</numerusform>
+            <numerusform>пропущено: %n</numerusform>
+            <numerusform>пропущено: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n logins</source>
+        <translation>
+            <numerusform>Добавить %n логин</numerusform>
+            <numerusform>Добавить %n логина</numerusform>
+            <numerusform>Добавить %n логинов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n items</source>
+        <translation>
+            <numerusform>Добавить %n запись</numerusform>
+            <numerusform>Добавить %n записи</numerusform>
+            <numerusform>Добавить %n записей</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveInProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Отмена…</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInReport</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not written to the disk</source>
+        <translation>Не записано на диск</translation>
+    </message>
+    <message>
+        <source>Not added before the safe was locked</source>
+        <translation>Не добавлено до блокировки сейфа</translation>
+    </message>
+    <message>
+        <source>Not added before you cancelled</source>
+        <translation>Не добавлено до отмены</translation>
+    </message>
+    <message>
+        <source>Not chosen</source>
+        <translation>Не выбрано</translation>
+    </message>
+    <message>
+        <source>Nothing came in</source>
+        <translation>Ничего не перенесено</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n logins came in</source>
+        <translation>
+            <numerusform>Перенесён %n логин</numerusform>
+            <numerusform>Перенесены %n логина</numerusform>
+            <numerusform>Перенесено %n логинов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items came in</source>
+        <translation>
+            <numerusform>Перенесена %n запись</numerusform>
+            <numerusform>Перенесены %n записи</numerusform>
+            <numerusform>Перенесено %n записей</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>You cancelled. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Вы отменили перенос. Перенесённое до этого сохранено. Для остального выберите файл ещё раз: то, что уже есть, будет распознано.</translation>
+    </message>
+    <message>
+        <source>The safe could not be written to. Check the free space and the permissions, then choose the file again: what is there is recognised.</source>
+        <translation>Не удалось записать в сейф. Проверьте свободное место и права доступа и выберите файл ещё раз: то, что уже есть, будет распознано.</translation>
+    </message>
+    <message>
+        <source>The safe was locked meanwhile. What came in before is saved. Choose the file again for the others: what is there is recognised.</source>
+        <translation>Тем временем сейф был заблокирован. Перенесённое до этого сохранено. Для остального выберите файл ещё раз: то, что уже есть, будет распознано.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInStart</name>
+    <message>
+        <source>How to make the file</source>
+        <translation>Как создать файл</translation>
+    </message>
+    <message>
+        <source>Drop the exported file here, or choose it. Nothing is added before you have seen what will come in.</source>
+        <translation>Перетащите сюда экспортированный файл или выберите его. Ничего не добавится, пока Вы не увидите, что будет перенесено.</translation>
+    </message>
+    <message>
+        <source>Choose file…</source>
+        <translation>Выбрать файл…</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTable</name>
+    <message>
+        <source>What will come in</source>
+        <translation>Что будет перенесено</translation>
+    </message>
+</context>
+<context>
+    <name>MoveInTexts</name>
+    <message>
+        <source>The file is empty. Export the passwords again, and choose the new file.</source>
+        <translation>Файл пуст. Экспортируйте пароли ещё раз и выберите новый файл.</translation>
+    </message>
+    <message>
+        <source>The file holds no text that could be read. Export the passwords as CSV or JSON, and choose that file.</source>
+        <translation>В файле нет текста, который можно прочитать. Экспортируйте пароли в CSV или JSON и выберите этот файл.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a text. Export the passwords again, and choose the new file.</source>
+        <translation>Файл обрывается посреди текста. Экспортируйте пароли ещё раз и выберите новый файл.</translation>
+    </message>
+    <message>
+        <source>The file is encrypted. Export again as JSON or CSV without encryption, and delete that file afterwards.</source>
+        <translation>Файл зашифрован. Экспортируйте ещё раз в JSON или CSV без шифрования, а потом удалите тот файл.</translation>
+    </message>
+    <message>
+        <source>This is no export that the program knows. It reads the JSON files of Bitwarden and its own, and CSV files of browsers and other programs.</source>
+        <translation>Программа не знает такого экспорта. Она читает файлы JSON от Bitwarden и свои, а также файлы CSV от браузеров и других программ.</translation>
+    </message>
+    <message>
+        <source>The names of the columns are not known. Say what each column holds.</source>
+        <translation>Названия столбцов неизвестны. Укажите, что в каждом столбце.</translation>
+    </message>
+    <message>
+        <source>Save the file where you find it again.</source>
+        <translation>Сохраните файл там, где его легко найти.</translation>
+    </message>
+    <message>
+        <source>Type %1 into the address bar.</source>
+        <translation>Введите %1 в адресную строку.</translation>
+    </message>
+    <message>
+        <source>Beside “Export passwords” press “Download file”.</source>
+        <translation>Рядом с «Экспортировать пароли» нажмите «Скачать файл».</translation>
+    </message>
+    <message>
+        <source>Press the three dots above the list and choose “Export passwords”.</source>
+        <translation>Нажмите три точки над списком и выберите «Экспорт паролей».</translation>
+    </message>
+    <message>
+        <source>Press the three dots in the corner and choose “Export passwords…”.</source>
+        <translation>Нажмите три точки в углу и выберите «Экспорт паролей…».</translation>
+    </message>
+    <message>
+        <source>On the Mac open the program “Passwords”, or Safari on older systems.</source>
+        <translation>На Mac откройте программу «Пароли» или, в старых системах, Safari.</translation>
+    </message>
+    <message>
+        <source>In the menu “File” choose to export all passwords to a file.</source>
+        <translation>В меню «Файл» выберите экспорт всех паролей в файл.</translation>
+    </message>
+    <message>
+        <source>Bring the file to this computer.</source>
+        <translation>Перенесите файл на этот компьютер.</translation>
+    </message>
+    <message>
+        <source>Choose “Export vault”: under “Tools” in the web vault, in the menu “File” of the program.</source>
+        <translation>Выберите «Экспорт хранилища»: в веб-хранилище — в разделе «Инструменты», в программе — в меню «Файл».</translation>
+    </message>
+    <message>
+        <source>Choose “.json”, which holds cards and identities too, and no encryption.</source>
+        <translation>Выберите «.json» без шифрования: туда входят и карты, и личные данные.</translation>
+    </message>
+    <message>
+        <source>Open the database.</source>
+        <translation>Откройте базу данных.</translation>
+    </message>
+    <message>
+        <source>In the menu “Database” choose “Export”, then “CSV file…”.</source>
+        <translation>В меню «База данных» выберите «Экспорт», затем «Файл CSV…».</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Другой сейф</translation>
+    </message>
+    <message>
+        <source>Open the other safe in this program.</source>
+        <translation>Откройте другой сейф в этой программе.</translation>
+    </message>
+    <message>
+        <source>In the menu of the safe choose “Export items…”, then JSON.</source>
+        <translation>В меню сейфа выберите «Экспорт записей…», затем JSON.</translation>
+    </message>
+    <message>
+        <source>Another program</source>
+        <translation>Другая программа</translation>
+    </message>
+    <message>
+        <source>Export the passwords as CSV, with the names of the columns in the first row.</source>
+        <translation>Экспортируйте пароли в CSV с названиями столбцов в первой строке.</translation>
+    </message>
+    <message>
+        <source>Choose the file here. You are asked what each column holds, if that is not known.</source>
+        <translation>Выберите файл здесь. Если содержание столбцов неизвестно, программа спросит о нём.</translation>
+    </message>
+    <message>
+        <source>recognised as an export of a browser</source>
+        <translation>распознан экспорт из браузера</translation>
+    </message>
+    <message>
+        <source>read by the columns that you chose</source>
+        <translation>прочитан по выбранным столбцам</translation>
+    </message>
+    <message>
+        <source>recognised as an export of %1</source>
+        <translation>распознан экспорт из %1</translation>
+    </message>
+    <message>
+        <source>There are no rows below the names of the columns. Export the passwords again, and choose the new file.</source>
+        <translation>Под названиями столбцов нет строк. Экспортируйте пароли ещё раз и выберите новый файл.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there. Choose it again.</source>
+        <translation>Файла больше нет на месте. Выберите его ещё раз.</translation>
+    </message>
+    <message>
+        <source>This is no file. Choose the exported file itself.</source>
+        <translation>Это не файл. Выберите сам экспортированный файл.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read. Close the program that has it open, or copy it to another folder.</source>
+        <translation>Файл не читается. Закройте программу, в которой он открыт, или скопируйте его в другую папку.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1, which no export of passwords is. Check that it is the right one.</source>
+        <translation>Файл больше %1, а экспорт паролей таким не бывает. Проверьте, тот ли это файл.</translation>
+    </message>
+    <message>
+        <source>Not a web address</source>
+        <translation>Не адрес сайта</translation>
+    </message>
+    <message>
+        <source>Nothing in it</source>
+        <translation>Пусто</translation>
+    </message>
+    <message>
+        <source>Unknown kind</source>
+        <translation>Неизвестный тип</translation>
+    </message>
+    <message>
+        <source>Wrong number of columns</source>
+        <translation>Неверное число столбцов</translation>
+    </message>
+    <message>
+        <source>Already there</source>
+        <translation>Уже есть</translation>
+    </message>
+    <message>
+        <source>Other password</source>
+        <translation>Другой пароль</translation>
+    </message>
+    <message>
+        <source>Other note</source>
+        <translation>Другая заметка</translation>
+    </message>
+    <message>
+        <source>Without address</source>
+        <translation>Без адреса</translation>
+    </message>
+    <message>
+        <source>It is in the safe, or further up in the file.</source>
+        <translation>Уже есть в сейфе или выше в файле.</translation>
+    </message>
+    <message>
+        <source>There is a login of the same site and user name with another password. Both will be there.</source>
+        <translation>Есть логин с тем же сайтом и именем пользователя, но другим паролем. Останутся оба.</translation>
+    </message>
+    <message>
+        <source>There is such an item with another note. Both will be there.</source>
+        <translation>Есть такая же запись с другой заметкой. Останутся обе.</translation>
+    </message>
+    <message>
+        <source>Its address belongs to an app or a file, and goes to the note.</source>
+        <translation>Адрес относится к приложению или файлу и попадёт в заметку.</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>Запись %1</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>Строка %1</translation>
+    </message>
+    <message>
+        <source>(entry %1)</source>
+        <translation>(запись %1)</translation>
+    </message>
+    <message>
+        <source>(row %1)</source>
+        <translation>(строка %1)</translation>
     </message>
 </context>
 <context>
@@ -1913,6 +3434,22 @@ Create one?</source>
     <message>
         <source>Create</source>
         <translation>Создать</translation>
+    </message>
+    <message>
+        <source>Do you have a safe already?</source>
+        <translation>У Вас уже есть сейф?</translation>
+    </message>
+    <message>
+        <source>Open its folder…</source>
+        <translation>Открыть его папку…</translation>
+    </message>
+    <message>
+        <source>Import an archive…</source>
+        <translation>Импорт архива…</translation>
+    </message>
+    <message>
+        <source>“%1” is there. Unlock it with its master password after these steps.</source>
+        <translation>Сейф «%1» на месте. Откройте его мастер-паролем после этих шагов.</translation>
     </message>
 </context>
 <context>
@@ -1954,6 +3491,25 @@ Ctrl+B копирует имя пользователя, Ctrl+Shift+C — пар
 Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl+Q завершает программу.
 
 Шрифт — Inter (лицензия SIL Open Font License), значки — Tabler (лицензия MIT).</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the safe</source>
+        <translation>Выберите папку сейфа</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordChangeDesk</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Открыть папку</translation>
+    </message>
+    <message>
+        <source>Change Password</source>
+        <translation>Смена пароля</translation>
+    </message>
+    <message>
+        <source>Writing “%1” anew under its new password. You can go on working meanwhile.</source>
+        <translation>Сейф «%1» перезаписывается под новый пароль. Тем временем можно продолжать работу.</translation>
     </message>
 </context>
 <context>
@@ -2146,52 +3702,27 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
         <translation>выделить всё</translation>
     </message>
     <message>
-        <source>search</source>
-        <translation>поиск</translation>
-    </message>
-    <message>
-        <source>new item</source>
-        <translation>новая запись</translation>
-    </message>
-    <message>
-        <source>edit</source>
-        <translation>изменить</translation>
-    </message>
-    <message>
-        <source>save</source>
-        <translation>сохранить</translation>
-    </message>
-    <message>
-        <source>log in</source>
-        <translation>войти</translation>
-    </message>
-    <message>
-        <source>copy the user name</source>
-        <translation>копировать имя пользователя</translation>
-    </message>
-    <message>
-        <source>copy the password</source>
-        <translation>копировать пароль</translation>
-    </message>
-    <message>
-        <source>password generator</source>
-        <translation>генератор паролей</translation>
-    </message>
-    <message>
-        <source>lock</source>
-        <translation>заблокировать</translation>
-    </message>
-    <message>
-        <source>settings</source>
-        <translation>настройки</translation>
-    </message>
-    <message>
-        <source>exit</source>
-        <translation>выход</translation>
-    </message>
-    <message>
         <source>a command of this program</source>
         <translation>команда этой программы</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Отмена…</translation>
     </message>
 </context>
 <context>
@@ -2248,6 +3779,176 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     </message>
 </context>
 <context>
+    <name>RestoreDialog</name>
+    <message>
+        <source>Restore from a backup</source>
+        <translation>Восстановление из копии</translation>
+    </message>
+    <message>
+        <source>Another folder…</source>
+        <translation>Другая папка…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Резервные копии</translation>
+    </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Чтение копий…</translation>
+    </message>
+    <message>
+        <source>The folder is not there</source>
+        <translation>Папка недоступна</translation>
+    </message>
+    <message>
+        <source>Connect its drive, or choose the folder that your backups lie in.</source>
+        <translation>Подключите её диск или выберите папку, где лежат Ваши копии.</translation>
+    </message>
+    <message>
+        <source>No backups here</source>
+        <translation>Здесь нет копий</translation>
+    </message>
+    <message>
+        <source>Choose the folder that your backups lie in, such as one on another disk.</source>
+        <translation>Выберите папку, где лежат Ваши копии, например на другом диске.</translation>
+    </message>
+    <message>
+        <source>It comes back as a new safe with the password of that time.</source>
+        <translation>Из копии получится новый сейф с паролем того времени.</translation>
+    </message>
+</context>
+<context>
+    <name>SafeDesk</name>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe</source>
+        <translation>Открыть папку сейфа</translation>
+    </message>
+    <message>
+        <source>No safe there</source>
+        <translation>Здесь нет сейфа</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder. The folder of a safe holds a file “safe.meta”:
+%1</source>
+        <translation>В этой папке нет сейфа. В папке сейфа есть файл «safe.meta»:
+%1</translation>
+    </message>
+    <message>
+        <source>Name of the safe</source>
+        <translation>Название сейфа</translation>
+    </message>
+    <message>
+        <source>Can&apos;t rename.</source>
+        <translation>Не удалось переименовать.</translation>
+    </message>
+    <message>
+        <source>The safe keeps its name. Check the free space and that you may write to its folder:
+%1</source>
+        <translation>Название сейфа осталось прежним. Проверьте свободное место и право записи в его папку:
+%1</translation>
+    </message>
+    <message>
+        <source>Where is “%1” now?</source>
+        <translation>Где теперь «%1»?</translation>
+    </message>
+    <message>
+        <source>Another safe</source>
+        <translation>Другой сейф</translation>
+    </message>
+    <message>
+        <source>This folder holds another safe than “%1”. Open it on its own with “Open the folder of a safe”, or choose another folder.</source>
+        <translation>В этой папке не «%1», а другой сейф. Откройте его отдельно командой «Открыть папку сейфа» или выберите другую папку.</translation>
+    </message>
+    <message>
+        <source>There is no safe in this folder:
+%1</source>
+        <translation>В этой папке нет сейфа:
+%1</translation>
+    </message>
+    <message>
+        <source>Take “%1” off the list?</source>
+        <translation>Убрать «%1» из списка?</translation>
+    </message>
+    <message>
+        <source>Its files stay where they are. “Open the folder of a safe” brings it back:
+%1</source>
+        <translation>Его файлы останутся на месте. Вернуть его можно командой «Открыть папку сейфа»:
+%1</translation>
+    </message>
+    <message>
+        <source>Its folder is not there now. If it comes back, “Open the folder of a safe” finds it:
+%1</source>
+        <translation>Его папка сейчас недоступна. Когда она появится, её найдёт команда «Открыть папку сейфа»:
+%1</translation>
+    </message>
+    <message>
+        <source>Remove from list</source>
+        <translation>Убрать из списка</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Delete safe</source>
+        <translation>Удаление сейфа</translation>
+    </message>
+    <message>
+        <source>Deleting “%1”…</source>
+        <translation>Удаление «%1»…</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is not in its folder any more.</source>
+        <translation>Ничего не удалено: сейфа больше нет в его папке.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is being archived, or its password is being changed. Try again when that is done.</source>
+        <translation>Ничего не удалено: сейф архивируется, или меняется его пароль. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: another program has this safe open. Close it there and try again.</source>
+        <translation>Ничего не удалено: сейф открыт в другой программе. Закройте его там и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: the safe is as it was. Check that you may write to its folder and try again.</source>
+        <translation>Ничего не удалено: сейф остался прежним. Проверьте право записи в его папку и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Показать папку</translation>
+    </message>
+    <message>
+        <source>“%1” is gone, but some of its files could not be removed. They are encrypted, and you can delete them:
+%2</source>
+        <translation>Сейфа «%1» больше нет, но некоторые его файлы не удалось удалить. Они зашифрованы, и их можно удалить:
+%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is gone. %n other files were in its folder and are still there:
+%2</source>
+        <translation>
+            <numerusform>Сейфа «%1» больше нет. В его папке остался %n другой файл:
+%2</numerusform>
+            <numerusform>Сейфа «%1» больше нет. В его папке остались %n других файла:
+%2</numerusform>
+            <numerusform>Сейфа «%1» больше нет. В его папке осталось %n других файлов:
+%2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SafeItemEditor</name>
     <message>
         <source>Editing “%1” · %2</source>
@@ -2273,6 +3974,131 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     </message>
 </context>
 <context>
+    <name>SafeLines</name>
+    <message>
+        <source>Folder not found: it was on a drive that is not connected</source>
+        <translation>Папка не найдена: она на неподключённом носителе</translation>
+    </message>
+    <message>
+        <source>Folder not found: it was moved, renamed or deleted</source>
+        <translation>Папка не найдена: её переместили, переименовали или удалили</translation>
+    </message>
+    <message>
+        <source>There is no safe in its folder any more, or it can&apos;t be read</source>
+        <translation>В папке больше нет сейфа, или он не читается</translation>
+    </message>
+    <message>
+        <source>in the cloud folder</source>
+        <translation>в облачной папке</translation>
+    </message>
+    <message>
+        <source>a copy of “%1”</source>
+        <translation>копия «%1»</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыт</translation>
+    </message>
+    <message>
+        <source>Last opened %1</source>
+        <translation>Открывался %1</translation>
+    </message>
+    <message>
+        <source>Not opened yet</source>
+        <translation>Ещё не открывался</translation>
+    </message>
+    <message>
+        <source>synchronised %1</source>
+        <translation>синхронизирован %1</translation>
+    </message>
+    <message>
+        <source>backed up %1</source>
+        <translation>копия: %1</translation>
+    </message>
+    <message>
+        <source>no backup yet</source>
+        <translation>копии ещё нет</translation>
+    </message>
+</context>
+<context>
+    <name>SafeMenu</name>
+    <message>
+        <source>Create new...</source>
+        <translation>Создать новый...</translation>
+    </message>
+    <message>
+        <source>Safes…</source>
+        <translation>Сейфы…</translation>
+    </message>
+    <message>
+        <source>Synchronise now</source>
+        <translation>Синхронизировать сейчас</translation>
+    </message>
+    <message>
+        <source>Bring passwords over…</source>
+        <translation>Перенести пароли…</translation>
+    </message>
+    <message>
+        <source>Export items…</source>
+        <translation>Экспорт записей…</translation>
+    </message>
+    <message>
+        <source>Export safe…</source>
+        <translation>Экспорт сейфа…</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Сменить пароль…</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Заблокировать</translation>
+    </message>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (недоступен)</translation>
+    </message>
+</context>
+<context>
+    <name>SafeRow</name>
+    <message>
+        <source>Locate…</source>
+        <translation>Найти…</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>More about “%1”</source>
+        <translation>Другие действия: «%1»</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Переименовать…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Показать папку</translation>
+    </message>
+    <message>
+        <source>Remove from list…</source>
+        <translation>Убрать из списка…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Удалить…</translation>
+    </message>
+</context>
+<context>
     <name>SafeSwitcher</name>
     <message>
         <source>Switch to another safe</source>
@@ -2282,17 +4108,36 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
         <source>Safe: %1</source>
         <translation>Сейф: %1</translation>
     </message>
+</context>
+<context>
+    <name>SafesDialog</name>
     <message>
-        <source>%1 (not available)</source>
-        <translation>%1 (недоступен)</translation>
+        <source>Safes</source>
+        <translation>Сейфы</translation>
     </message>
     <message>
-        <source>Create new...</source>
-        <translation>Создать новый...</translation>
+        <source>New safe</source>
+        <translation>Новый сейф</translation>
     </message>
     <message>
-        <source>Lock</source>
-        <translation>Заблокировать</translation>
+        <source>Import…</source>
+        <translation>Импорт…</translation>
+    </message>
+    <message>
+        <source>Make a safe from an archive or a backup</source>
+        <translation>Создать сейф из архива или резервной копии</translation>
+    </message>
+    <message>
+        <source>Open the folder of a safe…</source>
+        <translation>Открыть папку сейфа…</translation>
+    </message>
+    <message>
+        <source>From cloud folder (%1)</source>
+        <translation>Из облачной папки (%1)</translation>
+    </message>
+    <message>
+        <source>There is no safe yet. Make a new one, or import an archive.</source>
+        <translation>Сейфов ещё нет. Создайте новый или импортируйте архив.</translation>
     </message>
 </context>
 <context>
@@ -2423,6 +4268,10 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>Remove</source>
         <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
     </message>
 </context>
 <context>
@@ -2762,6 +4611,42 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <source>Locks the safe from any program; on Wayland, from this program&apos;s windows.</source>
         <translation>Блокирует сейф из любой программы; в Wayland — из окон этой программы.</translation>
     </message>
+    <message>
+        <source>Cloud folder</source>
+        <translation>Облачная папка</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Мастер-пароль</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>Тот, что открывает этот сейф.</translation>
+    </message>
+    <message>
+        <source>change hint</source>
+        <translation>сменить изменить подсказка</translation>
+    </message>
+    <message>
+        <source>Last backup</source>
+        <translation>Последняя копия</translation>
+    </message>
+    <message>
+        <source>When each safe was backed up, and when that is done next.</source>
+        <translation>Когда скопирован каждый сейф и когда это будет в следующий раз.</translation>
+    </message>
+    <message>
+        <source>back up now restore archive</source>
+        <translation>копировать сейчас создать восстановить восстановление архив</translation>
+    </message>
+    <message>
+        <source>Keeps safes the same on several computers.</source>
+        <translation>Держит сейфы одинаковыми на нескольких компьютерах.</translation>
+    </message>
+    <message>
+        <source>synchronise sync mirror share provider account computers</source>
+        <translation>синхронизировать синхронизация sync зеркало общий доступ поделиться провайдер аккаунт учётная запись компьютеры</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -2894,6 +4779,18 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>What it was made for is no longer edited</source>
         <translation>Запись, для которой он создан, больше не правится</translation>
+    </message>
+    <message>
+        <source>Change password…</source>
+        <translation>Сменить пароль…</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Мастер-пароль</translation>
+    </message>
+    <message>
+        <source>The one that opens this safe.</source>
+        <translation>Тот, что открывает этот сейф.</translation>
     </message>
 </context>
 <context>
@@ -3065,6 +4962,28 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>Unlock your safe to go on</source>
         <translation>Откройте сейф, чтобы продолжить</translation>
+    </message>
+    <message>
+        <source>This safe is on a drive that is not connected. Connect it, then choose the safe again:
+%1</source>
+        <translation>Этот сейф на неподключённом носителе. Подключите его и выберите сейф ещё раз:
+%1</translation>
+    </message>
+    <message>
+        <source>Another program on this computer has this safe open. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Этот сейф открыт в другой программе на этом компьютере. То, что обе меняют одновременно, может потеряться, поэтому сначала закройте его там.</translation>
+    </message>
+    <message>
+        <source>This safe is open on the computer “%1”, or was when that computer stopped. What both change at the same time can get lost, so close it there first.</source>
+        <translation>Этот сейф открыт на компьютере «%1» или был открыт, когда тот выключился. То, что оба меняют одновременно, может потеряться, поэтому сначала закройте его там.</translation>
+    </message>
+    <message>
+        <source>This is the password from before it was changed. Use the new one.</source>
+        <translation>Это пароль, который был до смены. Используйте новый.</translation>
+    </message>
+    <message>
+        <source>This is the password from before a change that was interrupted.</source>
+        <translation>Это пароль, который был до прерванной смены.</translation>
     </message>
 </context>
 <context>
