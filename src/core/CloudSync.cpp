@@ -370,10 +370,3 @@ void CloudSync::onPasswordChanged(PasswordChangeOutcome outcome)
         break;
     }
 }
-
-bool CloudSync::opensMirror(const QString &safeFolder, const QString &password) const
-{
-    const QString mirror = m_facts.of(safeFolder).mirrorFolder;
-    return !mirror.isEmpty() && !password.isEmpty() &&
-           opensPassId(files(), mirror, SecretBytes::fromText(password));
-}

@@ -59,9 +59,6 @@ public:
     /// follows, and passwordProgress() before.
     void takePassword(const QString &password);
 
-    /// Whether a password that does not open a safe opens its mirror: it was changed elsewhere.
-    bool opensMirror(const QString &safeFolder, const QString &password) const;
-
 Q_SIGNALS:
     /// What status() says of the safe of a folder has changed.
     void statusChanged(const QString &safeFolder);

@@ -42,7 +42,8 @@ CloudImportDialog::CloudImportDialog(CloudFolders &folders, const Theme &theme, 
                         tr("Safes that you synchronise on another computer appear here as soon as "
                            "your cloud program has brought them."));
     layOut();
-    resize(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
+    FramedDialog::setMinimumSize(Style::scaled(usualSize.width()),
+                                 Style::scaled(usualSize.height()));
     connect(&m_folders, &CloudFolders::changed, this, &CloudImportDialog::showOffers);
     connect(m_list, &QListWidget::itemSelectionChanged, this,
             [this] { m_take->setEnabled(m_list->currentItem()); });

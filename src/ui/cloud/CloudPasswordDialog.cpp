@@ -11,7 +11,7 @@
 
 namespace {
 
-const int textWidth = 380;
+const int usualWidth = 412;
 
 } // namespace
 
@@ -27,6 +27,7 @@ CloudPasswordDialog::CloudPasswordDialog(CloudSync &sync, const QString &safeNam
     , m_take(makeButton(tr("Go on with it"), "primary", this))
 {
     setObjectName(QStringLiteral("cloudPasswordDialog"));
+    FramedDialog::setFixedWidth(Style::scaled(usualWidth));
     m_password->setObjectName(QStringLiteral("cloudPasswordField"));
     m_message->setObjectName(QStringLiteral("cloudPasswordMessage"));
     m_notNow->setObjectName(QStringLiteral("notNowButton"));
@@ -61,7 +62,6 @@ void CloudPasswordDialog::layOut(const QString &safeName)
                   "plain", this);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
-    text->setMinimumWidth(Style::scaled(textWidth));
     auto *caption = makeLabel(tr("New master password"), "muted", this);
     caption->setBuddy(m_password);
     m_password->setAccessibleName(caption->text());
