@@ -62,6 +62,8 @@ void CloudPasswordDialog::layOut(const QString &safeName)
                   "plain", this);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
+    text->ensurePolished();
+    text->setMinimumHeight(text->heightForWidth(Style::scaled(usualWidth) - 2 * Style::margin));
     auto *caption = makeLabel(tr("New master password"), "muted", this);
     caption->setBuddy(m_password);
     m_password->setAccessibleName(caption->text());
