@@ -15,6 +15,7 @@
 namespace {
 
 const int secondsBetweenNotes = 3600;
+const int longestFinishMs = 10000;
 
 CloudStatus::State stateOf(SyncState state)
 {
@@ -53,6 +54,7 @@ bool opensPassId(FileLayer &files, const QString &folder, const SecretBytes &pas
 CloudSync::CloudSync(KnownSafes &safes, std::function<QString()> backupFolder,
                      GPMSafeSyncHelper::Pauses pauses, QObject *parent)
     : QObject(parent)
+    , m_safes(safes)
     , m_facts(safes.facts())
     , m_environment(safes.environment())
     , m_backupFolder(std::move(backupFolder))
@@ -226,6 +228,15 @@ CloudStatus CloudSync::status(const QString &safeFolder) const
     return status;
 }
 
+QStringList CloudSync::safeFolders() const
+{
+    QStringList folders;
+    const QVector<KnownSafes::Entry> entries = m_safes.entries();
+    for (const KnownSafes::Entry &entry : entries)
+        folders.append(entry.folder);
+    return folders + m_facts.folders();
+}
+
 QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
 {
     QStringList mirrors;
@@ -240,8 +251,8 @@ QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
 
 void CloudSync::turnOn(const QString &safeFolder, const QString &sharedFolder)
 {
-    const MirrorChoice::Wish wish{safeFolder, 0, sharedFolder, m_backupFolder(),
-                                  mirrorsOfOthers(safeFolder)};
+    const MirrorChoice::Wish wish{
+        safeFolder, 0, sharedFolder, m_backupFolder(), mirrorsOfOthers(safeFolder), safeFolders()};
     const SafeEnvironment environment = m_environment;
     const auto prepare = [wish, environment] {
         MirrorChoice::Wish known = wish;
@@ -307,8 +318,16 @@ void CloudSync::removeWhenMet(const QString &mirrorFolder, qint64 created)
 void CloudSync::removeCopyOf(const QString &mirrorFolder, qint64 created)
 {
     const std::shared_ptr<FileLayer> files = m_environment.files;
-    work<bool>([=] { return removeMirror(*files, mirrorFolder, created); },
+    const QStringList safes = safeFolders();
+    work<bool>([=] { return removeMirror(*files, mirrorFolder, created, safes); },
                [=](bool good) { Q_EMIT copyRemoved(mirrorFolder, good); });
+}
+
+void CloudSync::finish()
+{
+    if (!m_worker.waitForDone(longestFinishMs))
+        qWarning() << "CloudSync::finish"
+                   << "The cloud folder is not done yet.";
 }
 
 void CloudSync::synchronize()
@@ -332,19 +351,23 @@ void CloudSync::takePassword(const QString &password)
     const auto files = m_environment.files;
     work<bool>(
         [files, secret, mirror = m_mirrorFolder] { return opensPassId(*files, mirror, *secret); },
-        [this, password](bool opens) {
-            if (!opens)
-                Q_EMIT passwordTaken(Taking::Wrong);
-            else if (!needsPassword())
+        [this, secret, safe = std::weak_ptr(m_safe), mirror = m_mirrorFolder](bool opens) {
+            // Another safe may be the current one by now, which has another password.
+            const bool isSame = m_safe && m_safe == safe.lock() && m_mirrorFolder == mirror;
+            if (!isSame || !needsPassword())
                 Q_EMIT passwordTaken(Taking::NotNeeded);
+            else if (!opens)
+                Q_EMIT passwordTaken(Taking::Wrong);
             else
-                changePassword(password);
+                changePassword(*secret);
         });
 }
 
-void CloudSync::changePassword(const QString &password)
+void CloudSync::changePassword(const SecretBytes &password)
 {
-    m_isTaking = m_safe->changePasswordAsync(password, m_safe->hint());
+    QString text = QString::fromUtf8(password.data(), static_cast<int>(password.size()));
+    m_isTaking = m_safe->changePasswordAsync(text, m_safe->hint());
+    wipe(text);
     if (!m_isTaking)
         Q_EMIT passwordTaken(Taking::NotChanged);
 }

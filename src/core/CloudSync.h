@@ -42,6 +42,9 @@ public:
     /// copyRemoved() tells then.
     void turnOff(const QString &safeFolder, bool removeCopy);
 
+    /// Waits until what is being removed is gone, as before the program ends; not for ever.
+    void finish();
+
     /// Meets the mirror of the current safe, if it has one.
     void synchronize();
 
@@ -78,6 +81,7 @@ Q_SIGNALS:
 private:
     template <typename Result>
     void work(const std::function<Result()> &job, const std::function<void(const Result &)> &then);
+    QStringList safeFolders() const;
     QStringList mirrorsOfOthers(const QString &safeFolder) const;
     bool isCurrent(const QString &safeFolder) const;
     void startHelper();
@@ -92,11 +96,12 @@ private:
     void tellChange();
     void removeWhenMet(const QString &mirrorFolder, qint64 created);
     void removeCopyOf(const QString &mirrorFolder, qint64 created);
-    void changePassword(const QString &password);
+    void changePassword(const SecretBytes &password);
     void onPasswordChanged(PasswordChangeOutcome outcome);
 
     FileLayer &files() const { return *m_environment.files; }
 
+    KnownSafes &m_safes;
     SafeFacts &m_facts;
     SafeEnvironment m_environment;
     std::function<QString()> m_backupFolder;

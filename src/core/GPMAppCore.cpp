@@ -391,6 +391,8 @@ void GPMAppCore::exitPasswordManager()
     m_import.reset();
     m_backups.stop();
     lockCurrentSafe();
+    m_cloud.finish();
+    m_knownSafes.facts().store();
     // What another program still held open when the safe was locked.
     m_privateFiles.wipe();
     Q_EMIT quitRequested();

@@ -28,6 +28,12 @@ QString mirrorName(const MirrorChoice::Wish &wish)
     return QStringLiteral("safe-") + own;
 }
 
+bool isAmong(const QStringList &folders, const QString &folder)
+{
+    return std::any_of(folders.begin(), folders.end(),
+                       [&folder](const QString &each) { return isSameFolder(each, folder); });
+}
+
 /// The description of the safe whose folder this is or lies in.
 std::optional<SafeDescription> safeAround(FileLayer &files, const QString &folder)
 {
@@ -56,6 +62,7 @@ MirrorChoice MirrorChoice::make(FileLayer &files, const Wish &wish)
     MirrorChoice choice{Fault::None, shared + QLatin1Char('/') + mirrorName(wish)};
     choice.joins = QFileInfo(choice.folder).isDir();
     const QVector<MirroredSafe> there = mirroredSafes(files, shared);
+    QString name;
     for (const MirroredSafe &safe : there) {
         const bool isOwn = wish.created != 0 && safe.created == wish.created;
         if (isSameFolder(safe.path, shared) && !isOwn)
@@ -66,17 +73,21 @@ MirrorChoice MirrorChoice::make(FileLayer &files, const Wish &wish)
             continue;
         choice.folder = safe.path;
         choice.joins = true;
+        name = safe.name;
         break;
     }
     // A safe's folder holds nothing of others, unless it is this very mirror.
     const auto around = safeAround(files, shared);
     if (around && !isSameFolder(choice.folder, shared))
         return {Fault::OtherSafe, {}, false, around->name};
-    const bool isTaken =
-        std::any_of(wish.taken.begin(), wish.taken.end(), [&choice](const QString &mirror) {
-            return isSameFolder(mirror, choice.folder);
-        });
-    if (isTaken)
+    if (isInOrSame(choice.folder, wish.safeFolder))
+        return {Fault::InsideSafe};
+    if (isInOrSame(wish.safeFolder, choice.folder))
+        return {Fault::AroundSafe};
+    // A copy of this safe that is itself in use is no mirror.
+    if (isAmong(wish.safeFolders, choice.folder))
+        return {Fault::OtherSafe, {}, false, name};
+    if (isAmong(wish.taken, choice.folder))
         return {Fault::Taken};
     return choice;
 }

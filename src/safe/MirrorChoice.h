@@ -25,7 +25,8 @@ struct MirrorChoice
         qint64 created = 0;   ///< of the safe, ms since the epoch; the same for all its copies
         QString sharedFolder; ///< in which the mirror is to be a folder of its own
         QString backupFolder{};
-        QStringList taken{}; ///< mirrors of the other safes of this computer
+        QStringList taken{};       ///< mirrors of the other safes of this computer
+        QStringList safeFolders{}; ///< of all safes of this computer
     };
 
     Fault fault = Fault::None;

@@ -1,9 +1,11 @@
 #include "MirrorRemoval.h"
 
+#include "FolderPath.h"
 #include "SafeDescriptionFile.h"
 #include "SafeFolder.h"
 #include "SafeLayout.h"
 #include "SyncFileName.h"
+#include "SyncFiles.h"
 
 #include <QDebug>
 #include <QDir>
@@ -15,7 +17,7 @@
 namespace {
 
 const char *const ownFiles[] = {SafeLayout::mirrorDeletions, SafeLayout::passId,
-                                SafeLayout::restore, SafeLayout::meta};
+                                SafeLayout::restore, SafeLayout::oldMeta, SafeLayout::meta};
 
 bool isOwnFile(const QString &name)
 {
@@ -36,17 +38,38 @@ bool removeFrom(FileLayer &files, const QString &folder,
     return good;
 }
 
+bool isItem(const QString &name)
+{
+    return SyncFileName::parse(name).has_value();
+}
+
+/// Of a mirror without description only what holds no item may go.
+bool isMirrorOf(FileLayer &files, const SafeFolder &mirror, qint64 created)
+{
+    if (!isOwnMirror(mirror) || QFileInfo(mirror.root()).isSymLink())
+        return false;
+    for (const char *name : {SafeLayout::meta, SafeLayout::oldMeta, SafeLayout::restore}) {
+        const auto json = readPlainFile(files, mirror.path(name));
+        const auto description = json ? parseDescription(*json) : std::nullopt;
+        if (description)
+            return description->created == created;
+    }
+    const QStringList names = QDir(mirror.path(SafeLayout::content)).entryList(QDir::Files);
+    return std::none_of(names.begin(), names.end(), isItem);
+}
+
 } // namespace
 
-bool removeMirror(FileLayer &files, const QString &mirrorFolder, qint64 created)
+bool removeMirror(FileLayer &files, const QString &mirrorFolder, qint64 created,
+                  const QStringList &safeFolders)
 {
     const SafeFolder mirror(mirrorFolder);
     if (!QFileInfo(mirrorFolder).isDir())
         return true;
-    const auto json = files.read(mirror.path(SafeLayout::meta));
-    const auto description = json ? parseDescription(*json) : std::nullopt;
-    const auto isItem = [](const QString &name) { return SyncFileName::parse(name).has_value(); };
-    bool good = !description || description->created == created;
+    const bool isSafe =
+        std::any_of(safeFolders.begin(), safeFolders.end(),
+                    [&](const QString &folder) { return isSameFolder(folder, mirrorFolder); });
+    bool good = !isSafe && isMirrorOf(files, mirror, created);
     // The description goes last: a mirror that is half removed is still known as that of its safe.
     for (const char *inner : {SafeLayout::content, SafeLayout::attachment}) {
         good = good && removeFrom(files, mirror.path(inner), isItem);

@@ -68,7 +68,8 @@ QVector<MirroredSafe> mirroredSafes(FileLayer &files, const QString &folder)
 {
     QStringList places{folder};
     const QDir directory(folder);
-    const QStringList inner = directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    const QStringList inner =
+        directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
     for (const QString &name : inner)
         places.append(directory.filePath(name));
 

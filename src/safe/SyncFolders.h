@@ -40,5 +40,6 @@ QVector<SyncFolder> parseProviderInfo(const QByteArray &json);
 QVector<SyncFolder> providerFolders(FileLayer &files, const QStringList &infoFiles);
 
 /// The safes in a folder: itself where it is one, and the folders directly in it, in order of their
-/// paths. What has a description but no pass id has not arrived whole and is left out.
+/// paths. A link leads to what lies elsewhere, and is left out. What has a description but no pass
+/// id has not arrived whole and is left out.
 QVector<MirroredSafe> mirroredSafes(FileLayer &files, const QString &folder);

@@ -5,6 +5,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -16,11 +17,20 @@ const QString newPassword = QStringLiteral("another password 2");
 const int quickly = 20000; // how long to wait for what comes at once
 const GPMSafeSyncHelper::Pauses pauses{0, 3600000};
 
-/// Writes into one folder fail while the disk is full.
+/// Writes into one folder fail while the disk is full, and reading one file waits.
 class FullDisk : public FileLayer
 {
 public:
     QString folder;
+    QString slowFile;
+    QSemaphore ready;
+
+    std::optional<QByteArray> read(const QString &path) override
+    {
+        if (!slowFile.isEmpty() && path == slowFile)
+            ready.tryAcquire(1, quickly);
+        return FileLayer::read(path);
+    }
 
     bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
     {
@@ -231,6 +241,36 @@ private Q_SLOTS:
         QCOMPARE(reopened.item(id)->title(), QStringLiteral("typed meanwhile"));
         QVERIFY(reopened.unreadableFiles().isEmpty());
         QCOMPARE(m_one->safe->itemCount(), 1);
+    }
+
+    /// The answer about one safe's password comes when another safe is the current one.
+    void neverGivesAPasswordToAnotherSafe()
+    {
+        const auto shareAndChange = [this](const QString &password) {
+            share();
+            QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
+            QVERIFY(m_one->safe->changePassword(password));
+            m_one->sync.synchronize();
+            QTRY_VERIFY_WITH_TIMEOUT(m_two->sync.needsPassword(), quickly);
+        };
+        shareAndChange(newPassword);
+        const std::shared_ptr<GPMSafe> first = m_two->safe;
+        const QString mirror = m_mirror;
+        shareAndChange(QStringLiteral("a third password 3"));
+        QVERIFY(m_mirror != mirror);
+        m_two->sync.setSafe(first);
+        QTRY_VERIFY_WITH_TIMEOUT(m_two->sync.needsPassword(), quickly);
+        QSignalSpy taken(&m_two->sync, &CloudSync::passwordTaken);
+        // Only the check reads it now: the meeting is over.
+        m_two->disk->slowFile = mirror + QStringLiteral("/safe.passid");
+        m_two->sync.takePassword(newPassword);
+        m_two->sync.setSafe(m_two->safe);
+        QTRY_VERIFY_WITH_TIMEOUT(m_two->sync.needsPassword(), quickly);
+        m_two->disk->ready.release();
+        QTRY_COMPARE_WITH_TIMEOUT(taken.count(), 1, quickly);
+        QCOMPARE(taken.first().first().value<CloudSync::Taking>(), CloudSync::Taking::NotNeeded);
+        QVERIFY(!m_two->safe->isChangingPassword());
+        QVERIFY(m_two->safe->isPassword(samplePassword));
     }
 
     /// Each trouble is told once until it is over, and nothing is lost by it.

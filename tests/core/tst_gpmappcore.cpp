@@ -229,6 +229,31 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path));
     }
 
+    /// The program ends right after the copy in the cloud folder was to be removed.
+    void removesTheCloudCopyBeforeItEnds()
+    {
+        QVERIFY(m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), {}));
+        const QString folder = m_core->currentSafe()->folder();
+        const QString cloud = m_home->filePath(QStringLiteral("cloud"));
+        QVERIFY(QDir().mkpath(cloud));
+        for (int i = 0; i < 5; ++i)
+            addLogin("Login");
+        QVERIFY(m_core->saveCurrentSafe());
+        QSignalSpy on(&m_core->cloud(), &CloudSync::turnedOn);
+        m_core->cloud().turnOn(folder, cloud);
+        QVERIFY(on.wait(20000));
+        m_core->cloud().synchronize();
+        QTRY_COMPARE_WITH_TIMEOUT(m_core->cloud().status().state, CloudStatus::State::Synchronised,
+                                  20000);
+        QVERIFY(!QDir(cloud).isEmpty());
+        m_core->cloud().turnOff(folder, true);
+        m_core->exitPasswordManager();
+        QVERIFY(QDir(cloud).isEmpty());
+        const SafeFacts facts(m_home->filePath(QStringLiteral("config/safes.json")));
+        QVERIFY(facts.folders().contains(folder));
+        QVERIFY(facts.of(folder).mirrorFolder.isEmpty());
+    }
+
     void commandsOnItemsReachTheDisk()
     {
         QVERIFY(

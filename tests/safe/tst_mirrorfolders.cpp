@@ -37,9 +37,12 @@ private:
     QString path(const char *name) const { return m_temporary->filePath(QLatin1String(name)); }
     MirrorChoice choose(const char *safe, qint64 created, const char *shared)
     {
-        return MirrorChoice::make(
-            m_files,
-            {path(safe), created, path(shared), path("cloud/backups"), {path("cloud/of")}});
+        return MirrorChoice::make(m_files, {path(safe),
+                                            created,
+                                            path(shared),
+                                            path("cloud/backups"),
+                                            {path("cloud/of")},
+                                            {path("own"), path("live/copy")}});
     }
 
 private Q_SLOTS:
@@ -70,6 +73,9 @@ private Q_SLOTS:
         row("inside another mirror", 1000, "cloud/mine/content", Fault::OtherSafe);
         row("name taken by another safe", 88, "cloud", Fault::OtherSafe);
         row("mirror of a copy here", 2000, "cloud", Fault::Taken);
+        row("a copy in use", 5000, "live", Fault::OtherSafe);
+        row("linked safe", 4711, "linked", Fault::None, "linked/safe-1267");
+        row("name leads to the safe", 4712, "linked", Fault::InsideSafe);
     }
 
     void choosesOneFolderForASafe()
@@ -80,6 +86,10 @@ private Q_SLOTS:
         makeSafe(path("cloud/safe-58"), 3000); // 88 in hexadecimal
         QVERIFY(QDir().mkpath(path("cloud/safe-4d")) && QDir().mkpath(path("cloud/backups")));
         QVERIFY(QFile::link(path("own"), path("link")));
+        makeSafe(path("live/copy"), 5000);
+        QVERIFY(QDir().mkpath(path("linked")));
+        QVERIFY(QFile::link(path("own"), path("linked/mine")));
+        QVERIFY(QFile::link(path("own"), path("linked/safe-1268"))); // 4712 in hexadecimal
         QFETCH(qint64, created);
         QFETCH(QString, shared);
         QFETCH(QString, folder);
@@ -159,15 +169,39 @@ private Q_SLOTS:
         writeFile(path("cloud/sample/safe.deletions (conflicted copy)"), "x");
         const qint64 created = mirroredSafes(m_files, path("cloud")).value(0).created;
         QVERIFY(created > 0);
-        QVERIFY(!removeMirror(m_files, path("cloud/sample"), created + 1));
+        QVERIFY(!removeMirror(m_files, path("cloud/sample"), created + 1, {}));
         QVERIFY(QFile::exists(deletions));
         writeFile(path("cloud/sample/notes.txt"), "mine");
-        QVERIFY(removeMirror(m_files, path("cloud/sample"), created));
+        QVERIFY(removeMirror(m_files, path("cloud/sample"), created, {}));
         QDir(path("cloud/sample/favicon")).removeRecursively(); // mirrors have none
         QCOMPARE(snapshot(path("cloud")).keys(), QStringList{QStringLiteral("sample/notes.txt")});
         QVERIFY(QFile::remove(path("cloud/sample/notes.txt")));
-        QVERIFY(removeMirror(m_files, path("cloud/sample"), created));
+        QVERIFY(removeMirror(m_files, path("cloud/sample"), created, {}));
         QVERIFY(!QFileInfo::exists(path("cloud/sample")));
+    }
+
+    /// A safe in use, whatever leads to it, and what may be another's.
+    void removesNothingElse()
+    {
+        copySampleSafe(path("own"));
+        copySampleSafe(path("cloud/bare"));
+        const qint64 created = mirroredSafes(m_files, path("own")).value(0).created;
+        QVERIFY(QDir().mkpath(path("cloud/trap")));
+        QVERIFY(QFile::link(path("own"), path("cloud/link")));
+        QVERIFY(QFile::link(path("own/content"), path("cloud/trap/content")));
+        QVERIFY(QFile::remove(path("cloud/bare/safe.meta")));
+        const QString restore = path("cloud/bare/safe.restore");
+        const QByteArray description = contentOf(path("own/safe.meta"));
+        writeFile(restore, "{}");
+        const QMap<QString, QByteArray> before = snapshot(m_temporary->path());
+        QVERIFY(!removeMirror(m_files, path("own"), created, {path("own/content/..")}));
+        for (const char *mirror : {"cloud/link", "cloud/trap", "cloud/bare"})
+            QVERIFY2(!removeMirror(m_files, path(mirror), created, {}), mirror);
+        QCOMPARE(snapshot(m_temporary->path()), before);
+        writeFile(restore, description);
+        QVERIFY(!removeMirror(m_files, path("cloud/bare"), created + 1, {}));
+        QVERIFY(removeMirror(m_files, path("cloud/bare"), created, {}));
+        QVERIFY(!QFileInfo::exists(restore));
     }
 };
 
