@@ -32,6 +32,8 @@ QVector<KnownSafes::Entry> KnownSafes::entries() const
     QVector<Entry> list;
     const QStringList folders = listedFolders() + unlistedFolders();
     for (const QString &folder : folders) {
+        if (isBeingDeleted(folder))
+            continue;
         const auto description = readDescription(*m_environment.files, folder);
         Entry entry{folder, m_facts.of(folder).name, {}, description.has_value()};
         if (description) {
@@ -160,7 +162,8 @@ bool KnownSafes::rename(const QString &folder, const QString &name, GPMSafe *cur
 {
     const std::shared_ptr<GPMSafe> closed = current ? nullptr : open(folder);
     GPMSafe *safe = current ? current : closed.get();
-    if (!safe)
+    // Saving would stop a change of the password, which writes the description, too.
+    if (!safe || safe->isChangingPassword())
         return false;
     // A save that is under way would write the old name behind this.
     if (safe->isUnlocked())
@@ -188,6 +191,24 @@ void KnownSafes::remove(const QString &folder)
     dropFromList(folder);
     m_settings.storeSettings();
     Q_EMIT changed();
+}
+
+void KnownSafes::beginDeletion(const QString &folder)
+{
+    m_beingDeleted.append(folder);
+    Q_EMIT changed();
+}
+
+void KnownSafes::endDeletion(const QString &folder)
+{
+    m_beingDeleted.removeOne(folder);
+    Q_EMIT changed();
+}
+
+bool KnownSafes::isBeingDeleted(const QString &folder) const
+{
+    return std::any_of(m_beingDeleted.begin(), m_beingDeleted.end(),
+                       [&](const QString &other) { return isSameFolder(folder, other); });
 }
 
 void KnownSafes::forget(const QString &folder)
@@ -239,6 +260,8 @@ QFuture<bool> KnownSafes::checkPassword(const QString &folder, const QString &pa
 
 std::shared_ptr<GPMSafe> KnownSafes::open(const QString &folder) const
 {
+    if (isBeingDeleted(folder))
+        return nullptr;
     auto safe = std::make_shared<GPMSafe>(m_environment);
     return safe->open(folder) ? safe : nullptr;
 }

@@ -69,12 +69,17 @@ public:
     /// it holds for that one. Another safe is refused.
     Found locate(const QString &goneFolder, const QString &folder);
 
-    /// Gives a safe another name. False when it cannot be written: it has the old one then.
+    /// Gives a safe another name. False when it cannot be written, or its password is being
+    /// changed: it has the old one then.
     /// @param current the object of the safe where there is one, which would write the old name
     bool rename(const QString &folder, const QString &name, GPMSafe *current = nullptr);
 
     /// Takes a safe off the list; its files stay. Opening its folder brings it back.
     void remove(const QString &folder);
+
+    /// While a safe is being deleted it is not in entries() and cannot be opened.
+    void beginDeletion(const QString &folder);
+    void endDeletion(const QString &folder);
 
     /// The safe of a folder is no more.
     void forget(const QString &folder);
@@ -86,14 +91,12 @@ public:
     /// Whether this is the master password of a safe; asked on a worker.
     QFuture<bool> checkPassword(const QString &folder, const QString &password) const;
 
-    /// The safe of a folder with its description read; null when there is none.
+    /// The safe of a folder with its description read; null when there is none, or when it is
+    /// being deleted.
     std::shared_ptr<GPMSafe> open(const QString &folder) const;
 
     /// Puts a folder at the front of the list.
     void remember(const QString &folder);
-
-    /// Tells of a change to what the list says that was made elsewhere.
-    void touch() { Q_EMIT changed(); }
 
 Q_SIGNALS:
     void changed();
@@ -102,9 +105,11 @@ private:
     QStringList listedFolders() const;
     QStringList unlistedFolders() const;
     void dropFromList(const QString &folder);
+    bool isBeingDeleted(const QString &folder) const;
 
     GPMAppSettings &m_settings;
     QString m_safesFolder;
     SafeEnvironment m_environment;
     SafeFacts m_facts;
+    QStringList m_beingDeleted;
 };

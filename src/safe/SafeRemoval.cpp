@@ -79,13 +79,14 @@ SafeRemoval::Result SafeRemoval::run(const QString &folder, WorkControl &control
         qWarning() << operation << "There is no safe at:" << folder;
         return {Outcome::NotFound, {}, {}};
     }
-    if (SafeUse::other(folder))
-        return {Outcome::InUse, {}, {}};
     FolderLock lock(safe.path(SafeLayout::lockFile));
     if (!lock.lock(m_environment.lockWaitMs, control)) {
         qWarning() << operation << "Can't take the lock file in:" << folder;
         return {lock.isHeldByAnother() ? Outcome::Busy : Outcome::Failed, {}, {}};
     }
+    // Behind the wait, in which it can have been opened.
+    if (SafeUse::other(folder))
+        return {Outcome::InUse, {}, {}};
     const Content content = listContent(safe);
     // Some systems move no folder with an open file in it.
     lock.unlock();

@@ -179,6 +179,31 @@ QWidget *passwordChanged(Stage &stage)
     return QTest::qWaitFor([bar] { return !bar->isVisible(); }, 30000) ? progress : nullptr;
 }
 
+/// What is said of a safe whose change of password was interrupted.
+QWidget *passwordChangeInterrupted(Stage &stage)
+{
+    GPMAppCore &core = stage.test.core;
+    const std::shared_ptr<GPMSafe> safe = core.currentSafe();
+    core.lockCurrentSafe();
+    const QDir folder(safe->folder());
+    const QString left[] = {
+        folder.filePath(QStringLiteral("safe.passid.bak")),
+        folder.filePath(QStringLiteral("content/00000000-0000-0001-0000-000000001234"))};
+    for (const QString &path : left) {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write("of another password") < 0)
+            return nullptr;
+    }
+    core.unlockCurrentSafe(testPassword);
+    const bool told =
+        QTest::qWaitFor([&stage] { return stage.window("progressDialog") != nullptr; }, 30000);
+    // For those who come behind.
+    for (const QString &path : left)
+        QFile::remove(path);
+    safe->lock();
+    return safe->unlock(testPassword) && told ? stage.window("progressDialog") : nullptr;
+}
+
 /// What an earlier case restored would be backed up and listed, too.
 void dropRestored(Stage &stage)
 {
@@ -767,6 +792,7 @@ const QVector<WindowCase> &everyWindow()
         {"change-password", changePassword},
         {"change-password-faults", changePasswordFaults},
         {"password-changed", passwordChanged},
+        {"password-change-interrupted", passwordChangeInterrupted, Stage::Empty},
         {"settings-cloud", settingsPage(4), Stage::Shared},
         {"settings-hotkeys", settingsPage(5)},
         {"settings-appearance", settingsPage(6)},

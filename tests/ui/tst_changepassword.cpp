@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QLockFile>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -92,8 +93,9 @@ private Q_SLOTS:
     void messages();
     void aWrongOldPasswordIsAskedForAgain();
     void theNewPasswordOpensTheSafe();
-    void cancelledOrLocked_data();
-    void cancelledOrLocked();
+    void whatStopsItIsTold_data();
+    void whatStopsItIsTold();
+    void aSecondChangeIsNotTakenForTheFirst();
     void aLockClosesAndForgets();
 };
 
@@ -171,29 +173,56 @@ void TestChangePassword::theNewPasswordOpensTheSafe()
     QVERIFY(test.opens(nextPassword));
 }
 
-void TestChangePassword::cancelledOrLocked_data()
+void TestChangePassword::whatStopsItIsTold_data()
 {
-    QTest::addColumn<bool>("lock");
-    QTest::newRow("cancelled") << false;
-    QTest::newRow("locked") << true;
+    QTest::addColumn<QString>("by");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("user") << QStringLiteral("user") << QStringLiteral("was not changed");
+    QTest::newRow("lock") << QStringLiteral("lock") << QStringLiteral("was locked");
+    QTest::newRow("session end") << QStringLiteral("session") << QStringLiteral("was stopped");
 }
 
-void TestChangePassword::cancelledOrLocked()
+void TestChangePassword::whatStopsItIsTold()
 {
-    QFETCH(bool, lock);
+    QFETCH(QString, by);
+    QFETCH(QString, told);
     Desk test;
     test.fill(testPassword);
     test.confirm();
     QVERIFY(test.test.core.currentSafe()->isChangingPassword());
     // Nothing has been written behind the first turn of the event loop.
-    if (lock)
+    if (by == QLatin1String("lock"))
         test.test.core.lockCurrentSafe();
+    else if (by == QLatin1String("session"))
+        test.test.core.prepareForSessionEnd();
     else
         find<QPushButton>(*test.shown("progressDialog"), "closeButton")->click();
-    QVERIFY(test.end().contains(lock ? QStringLiteral("was locked")
-                                     : QStringLiteral("was not changed")));
+    QVERIFY2(test.end().contains(told), qPrintable(test.end()));
     test.test.core.lockCurrentSafe();
     QVERIFY(test.opens(testPassword));
+    QVERIFY(!test.opens(nextPassword));
+}
+
+void TestChangePassword::aSecondChangeIsNotTakenForTheFirst()
+{
+    Desk test;
+    const std::shared_ptr<GPMSafe> safe = test.test.core.currentSafe();
+    const QString first = QStringLiteral("that of the cloud");
+    // Holds it up until the second one was wanted.
+    QLockFile lock(safe->folder() + QStringLiteral("/.sourcelock"));
+    QVERIFY(lock.tryLock(0));
+    QVERIFY(safe->changePasswordAsync(first, safe->hint()));
+    test.fill(testPassword);
+    test.confirm();
+    QVERIFY(test.end().contains(QStringLiteral("was not taken")));
+
+    test.desk.open();
+    QVERIFY(!test.dialog());
+    QVERIFY(find<QProgressBar>(*test.shown("progressDialog"), "progressBar")->isVisible());
+    lock.unlock();
+    QVERIFY(test.end().contains(QStringLiteral("has its new password")));
+    test.test.core.lockCurrentSafe();
+    QVERIFY(test.opens(first));
     QVERIFY(!test.opens(nextPassword));
 }
 

@@ -14,6 +14,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QLockFile>
 #include <QMenu>
 #include <QPushButton>
 
@@ -213,9 +214,61 @@ private Q_SLOTS:
         QTest::keyClicks(password, testPassword);
         QTest::keyClick(password, Qt::Key_Return);
         QTRY_COMPARE(desk.listed(), QStringList{QStringLiteral("One")});
-        QVERIFY(!QDir(desk.path("Two")).exists());
+        QTRY_VERIFY(!QDir(desk.path("Two")).exists());
         QVERIFY(!desk.test.core.currentSafe());
         QVERIFY(QFile::exists(desk.path("One/safe.meta")));
+    }
+
+    void aSafeThatIsBeingDeletedIsNotOpened()
+    {
+        Desk desk;
+        QVERIFY(desk.makeSafe("One"));
+        // The deletion waits for this.
+        QLockFile lock(desk.path("One/.sourcelock"));
+        QVERIFY(lock.tryLock(0));
+        SafesDialog *list = desk.openList();
+        desk.choose(*list, "One", "deleteAction");
+        QTRY_VERIFY(list->findChild<DeleteSafeDialog *>());
+        auto *question = list->findChild<DeleteSafeDialog *>();
+        find<QLineEdit>(*question, "deletePassword")->setText(testPassword);
+        find<QPushButton>(*question, "deleteButton")->click();
+        auto *progress = desk.dialog<ProgressDialog>();
+        QVERIFY(progress && progress->isRunning());
+        QVERIFY(desk.listed().isEmpty());
+        desk.window->switchSafe(desk.path("One"));
+        QVERIFY(!desk.test.core.currentSafe());
+
+        // Another language makes the windows anew; the safe is forgotten all the same.
+        delete progress;
+        lock.unlock();
+        QTRY_VERIFY(!QDir(desk.path("One")).exists());
+        QTRY_VERIFY(desk.test.core.knownSafes().listed(desk.path("One")).isEmpty());
+        QVERIFY(desk.test.core.settings().recentList().isEmpty());
+    }
+
+    void aSafeKeepsItsNameWhileItsPasswordIsChanged()
+    {
+        Desk desk;
+        QVERIFY(desk.makeSafe("One"));
+        const std::shared_ptr<GPMSafe> safe = desk.test.core.currentSafe();
+        QLockFile lock(desk.path("One/.sourcelock"));
+        QVERIFY(lock.tryLock(0));
+        QSignalSpy changed(safe.get(), &GPMSafe::passwordChangeFinished);
+        QVERIFY(desk.test.core.changePassword(QStringLiteral("next"), QStringLiteral("new hint")));
+        SafesDialog *list = desk.openList();
+        desk.choose(*list, "One", "renameAction");
+        QTRY_VERIFY(list->findChild<QDialog *>(QStringLiteral("renameDialog")));
+        auto *rename = list->findChild<QDialog *>(QStringLiteral("renameDialog"));
+        find<QLineEdit>(*rename, "nameField")->setText(QStringLiteral("Home"));
+        rename->accept();
+        QCOMPARE(desk.asker.asked.size(), 1);
+        QVERIFY(desk.asker.asked.first().text.contains(QStringLiteral("password")));
+        QVERIFY(!desk.test.core.knownSafes().rename(safe->folder(), QStringLiteral("Home"),
+                                                    safe.get()));
+        lock.unlock();
+        QTRY_COMPARE(changed.size(), 1);
+        QVERIFY(safe->isPassword(QStringLiteral("next")));
+        QCOMPARE(safe->name(), QStringLiteral("One"));
     }
 
     void aSafeThatIsOpenElsewhereIsNotDeletedAndToldOf()

@@ -57,8 +57,27 @@ ChangePasswordRules::Field ChangePasswordRules::firstFault(const Input &input)
     return Field(field);
 }
 
+static QString cancelledMessage(const QString &safeName, ChangePasswordRules::Stop stop)
+{
+    switch (stop) {
+    case ChangePasswordRules::Stop::User:
+        return Words::tr("The password was not changed. The old one still opens “%1”.")
+            .arg(safeName);
+    case ChangePasswordRules::Stop::Lock:
+        return Words::tr("“%1” was locked before the change was done. The old password still "
+                         "opens it.")
+            .arg(safeName);
+    case ChangePasswordRules::Stop::Program:
+        return Words::tr("The change of the password was stopped before it was done, as “%1” had "
+                         "to be saved at once. The old password still opens it. You can change it "
+                         "anew.")
+            .arg(safeName);
+    }
+    return {};
+}
+
 QString ChangePasswordRules::endMessage(PasswordChangeOutcome outcome, const QString &safeName,
-                                        bool byUser)
+                                        Stop stop)
 {
     switch (outcome) {
     case PasswordChangeOutcome::Changed:
@@ -66,11 +85,7 @@ QString ChangePasswordRules::endMessage(PasswordChangeOutcome outcome, const QSt
                          "made before still open with the old one.")
             .arg(safeName);
     case PasswordChangeOutcome::Cancelled:
-        return byUser ? Words::tr("The password was not changed. The old one still opens “%1”.")
-                            .arg(safeName)
-                      : Words::tr("“%1” was locked before the change was done. The old password "
-                                  "still opens it.")
-                            .arg(safeName);
+        return cancelledMessage(safeName, stop);
     case PasswordChangeOutcome::Busy:
         return Words::tr("The password was not changed: another program is using the safe. The "
                          "old one still opens it. Wait until the other program is done, then try "
@@ -86,6 +101,12 @@ QString ChangePasswordRules::endMessage(PasswordChangeOutcome outcome, const QSt
                          "folder of the safe can be written to, then try again.");
     }
     return {};
+}
+
+QString ChangePasswordRules::anotherRunsMessage()
+{
+    return Words::tr("This new password was not taken: another change of the password is still "
+                     "under way. Wait until it is done, then try again.");
 }
 
 QString ChangePasswordRules::interruptedMessage(const QString &safeName, int opened, int total)

@@ -30,9 +30,19 @@ Message message(const Input &input, Field field);
 /// The first field that stands against the change; FieldCount when none does.
 Field firstFault(const Input &input);
 
+/// What has cancelled a change.
+enum class Stop {
+    User,
+    Lock,
+    Program, ///< which had to write the safe at once, as at the end of a session
+};
+
 /// How a change has ended: what happened and what to do.
-/// @param byUser it was the user who cancelled it, rather than a lock
-QString endMessage(PasswordChangeOutcome outcome, const QString &safeName, bool byUser);
+/// @param stop counts for one that was cancelled
+QString endMessage(PasswordChangeOutcome outcome, const QString &safeName, Stop stop);
+
+/// Why a change does not begin while another one runs.
+QString anotherRunsMessage();
 
 /// How a safe stands whose change of password was interrupted, and the way back.
 /// @param opened with the new password, of so many items; -1 when the old one was tried

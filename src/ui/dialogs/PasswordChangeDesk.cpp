@@ -34,11 +34,13 @@ void PasswordChangeDesk::open()
     const std::shared_ptr<GPMSafe> safe = m_core.currentSafe();
     if (!safe || !safe->isUnlocked())
         return;
-    // One at a time: what is under way is shown instead.
     QDialog *shown = m_dialog;
-    if (!shown && safe->isChangingPassword())
+    if (safe->isChangingPassword()) {
+        // One at a time: what is under way is shown, whoever has begun it.
+        if (!m_progress || !m_progress->isRunning())
+            showProgress(safe);
         shown = m_progress;
-    if (!shown) {
+    } else if (!shown) {
         m_dialog = new ChangePasswordDialog(
             {[safe](const QString &password) { return safe->isPassword(password); }, safe->hint(),
              m_core.platform()},
@@ -52,44 +54,60 @@ void PasswordChangeDesk::open()
     shown->activateWindow();
 }
 
-void PasswordChangeDesk::start(const QString &newPassword, const QString &hint)
+void PasswordChangeDesk::makeProgress(const QString &text)
 {
-    const std::shared_ptr<GPMSafe> safe = m_core.currentSafe();
-    m_cancelled = false;
     delete m_progress;
-    m_progress = new ProgressDialog(
-        tr("Change Password"),
-        tr("Writing “%1” anew under its new password. You can go on working meanwhile.")
-            .arg(safe->name()),
-        m_theme, m_window);
+    m_progress = new ProgressDialog(tr("Change Password"), text, m_theme, m_window);
     m_progress->setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void PasswordChangeDesk::showProgress(const std::shared_ptr<GPMSafe> &safe)
+{
+    m_cancelled = false;
+    makeProgress(tr("Writing “%1” anew under its new password. You can go on working meanwhile.")
+                     .arg(safe->name()));
     connect(safe.get(), &GPMSafe::passwordChangeProgress, m_progress.data(),
             &ProgressDialog::setProgress);
     // Behind the lock, if it was one that ended it.
     connect(
         safe.get(), &GPMSafe::passwordChangeFinished, m_progress.data(),
-        [this](PasswordChangeOutcome outcome) { tellEnd(outcome); }, Qt::QueuedConnection);
-    connect(m_progress.data(), &ProgressDialog::cancelRequested, safe.get(), [this, safe] {
-        m_cancelled = true;
-        safe->cancelPasswordChange();
-    });
+        [this, changed = std::weak_ptr<GPMSafe>(safe)](PasswordChangeOutcome outcome) {
+            if (const std::shared_ptr<GPMSafe> held = changed.lock())
+                tellEnd(outcome, *held);
+        },
+        Qt::QueuedConnection);
+    connect(m_progress.data(), &ProgressDialog::cancelRequested, safe.get(),
+            [this, changing = safe.get()] {
+                m_cancelled = true;
+                changing->cancelPasswordChange();
+            });
     m_progress->show();
-    if (!m_core.changePassword(newPassword, hint))
-        tellEnd(PasswordChangeOutcome::NotWritten);
 }
 
-void PasswordChangeDesk::tellEnd(PasswordChangeOutcome outcome)
+void PasswordChangeDesk::start(const QString &newPassword, const QString &hint)
 {
-    if (!m_progress)
-        return;
     const std::shared_ptr<GPMSafe> safe = m_core.currentSafe();
+    if (safe->isChangingPassword()) {
+        // To another password, perhaps; its end would be taken for that of this one.
+        makeProgress({});
+        m_progress->tell(false, ChangePasswordRules::anotherRunsMessage());
+        return;
+    }
+    showProgress(safe);
+    if (!m_core.changePassword(newPassword, hint))
+        tellEnd(PasswordChangeOutcome::NotWritten, *safe);
+}
+
+void PasswordChangeDesk::tellEnd(PasswordChangeOutcome outcome, const GPMSafe &safe)
+{
+    using ChangePasswordRules::Stop;
     ProgressDialog::Way way;
-    if (safe &&
-        (outcome == PasswordChangeOutcome::Damaged || outcome == PasswordChangeOutcome::NotWritten))
-        way = wayToFolder(safe->folder());
+    if (outcome == PasswordChangeOutcome::Damaged || outcome == PasswordChangeOutcome::NotWritten)
+        way = wayToFolder(safe.folder());
+    const Stop byProgram = safe.isUnlocked() ? Stop::Program : Stop::Lock;
     m_progress->tell(
         outcome == PasswordChangeOutcome::Changed,
-        ChangePasswordRules::endMessage(outcome, safe ? safe->name() : QString(), m_cancelled),
+        ChangePasswordRules::endMessage(outcome, safe.name(), m_cancelled ? Stop::User : byProgram),
         way);
 }
 
@@ -100,9 +118,7 @@ void PasswordChangeDesk::tellInterrupted(SafeUnlock::Outcome outcome)
     if (!safe || (!oldTried && !(safe->isUnlocked() && safe->isChangeInterrupted())))
         return;
     const int opened = safe->itemCount();
-    delete m_progress;
-    m_progress = new ProgressDialog(tr("Change Password"), {}, m_theme, m_window);
-    m_progress->setAttribute(Qt::WA_DeleteOnClose);
+    makeProgress({});
     m_progress->tell(
         false,
         ChangePasswordRules::interruptedMessage(safe->name(), oldTried ? -1 : opened,

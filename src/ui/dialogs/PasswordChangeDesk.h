@@ -6,8 +6,11 @@
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
+
 class ChangePasswordDialog;
 class GPMAppCore;
+class GPMSafe;
 class ProgressDialog;
 class QWidget;
 class Theme;
@@ -28,7 +31,9 @@ public:
 
 private:
     void start(const QString &newPassword, const QString &hint);
-    void tellEnd(PasswordChangeOutcome outcome);
+    void showProgress(const std::shared_ptr<GPMSafe> &safe);
+    void makeProgress(const QString &text);
+    void tellEnd(PasswordChangeOutcome outcome, const GPMSafe &safe);
     void tellInterrupted(SafeUnlock::Outcome outcome);
 
     GPMAppCore &m_core;

@@ -144,7 +144,10 @@ void SafeDesk::rename(const SafeInfo &safe)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, safe] {
         GPMSafe *current = isCurrent(m_core, safe.folder) ? m_core.currentSafe().get() : nullptr;
-        if (!m_core.knownSafes().rename(safe.folder, dialog->name().simplified(), current))
+        if (current && current->isChangingPassword())
+            tell(tr("Can't rename."), tr("The safe keeps its name while its password is being "
+                                         "changed. Try again when that is done."));
+        else if (!m_core.knownSafes().rename(safe.folder, dialog->name().simplified(), current))
             tell(tr("Can't rename."),
                  tr("The safe keeps its name. Check the free space and that you may write to its "
                     "folder:\n%1")
@@ -213,11 +216,9 @@ void SafeDesk::deleteSafe(const SafeInfo &safe)
 {
     if (!closeIfCurrent(safe.folder))
         return;
-    auto *progress = new ProgressDialog(tr("Delete safe"), tr("Deleting “%1”…").arg(safe.name),
-                                        m_theme, m_window.widget);
-    progress->setAttribute(Qt::WA_DeleteOnClose);
-    progress->setCancellable(false);
-    progress->show();
+    // The windows can be made anew meanwhile, in another language for one.
+    const QPointer<ProgressDialog> progress = showDeleting(safe);
+    m_core.knownSafes().beginDeletion(safe.folder);
     const auto result = std::make_shared<SafeRemoval::Result>();
     auto *task = new WorkerTask(
         [result, folder = safe.folder, place = m_core.knownSafes().safesFolder(),
@@ -227,11 +228,22 @@ void SafeDesk::deleteSafe(const SafeInfo &safe)
             *result = removal.run(folder, control);
         },
         this);
-    connect(task, &WorkerTask::finished, progress, [this, task, progress, result, safe] {
+    connect(task, &WorkerTask::finished, this, [this, task, progress, result, safe] {
         task->deleteLater();
-        tellDeleted(safe, *result, *progress);
+        m_core.knownSafes().endDeletion(safe.folder);
+        tellDeleted(safe, *result, progress ? *progress : *showDeleting(safe));
     });
     task->start();
+}
+
+ProgressDialog *SafeDesk::showDeleting(const SafeInfo &safe)
+{
+    auto *progress = new ProgressDialog(tr("Delete safe"), tr("Deleting “%1”…").arg(safe.name),
+                                        m_theme, m_window.widget);
+    progress->setAttribute(Qt::WA_DeleteOnClose);
+    progress->setCancellable(false);
+    progress->show();
+    return progress;
 }
 
 void SafeDesk::tellDeleted(const SafeInfo &safe, const SafeRemoval::Result &result,

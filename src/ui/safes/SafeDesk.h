@@ -65,6 +65,7 @@ private:
     void removeFromList(const SafeInfo &safe);
     void askToDelete(const SafeInfo &safe);
     void deleteSafe(const SafeInfo &safe);
+    ProgressDialog *showDeleting(const SafeInfo &safe);
     void tellDeleted(const SafeInfo &safe, const SafeRemoval::Result &result,
                      ProgressDialog &progress);
     bool closeIfCurrent(const QString &folder);
