@@ -552,7 +552,8 @@ QString Stage::id(const QString &title) const
 
 void Stage::open(const Look &look)
 {
-    if (m_ui && look == m_look)
+    // A case may have put the main window away.
+    if (m_ui && look == m_look && main->isVisible())
         startAgain();
     else
         start(look);
@@ -719,7 +720,7 @@ QSet<QString> Stage::ownWords() const
                       QString::fromUtf8(browserExport),
                       QString::fromUtf8(unknownExport),
                       QStringLiteral("passwords.csv"),
-                      QStringLiteral("Work Family"),
+                      QStringLiteral("Work Family family"),
                       safeFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();

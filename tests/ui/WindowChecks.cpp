@@ -266,7 +266,8 @@ QStringList WindowChecks::latinTexts(QWidget &window, const QSet<QString> &known
                 std::any_of(knownWords.begin(), knownWords.end(),
                             [&](const QString &own) { return own.startsWith(word); });
             if (!names.contains(word) && !known) {
-                faults << describe(widget, QStringLiteral("not translated: ") + text.left(80));
+                faults << describe(
+                    widget, QStringLiteral("“%1” not translated: %2").arg(word, text.left(80)));
                 return;
             }
         }
