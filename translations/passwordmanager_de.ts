@@ -92,18 +92,6 @@
         <translation>Seine Datei fehlt im Tresor</translation>
     </message>
     <message>
-        <source>less than 1 KB</source>
-        <translation>weniger als 1 KB</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1 KB</translation>
-    </message>
-    <message>
         <source>%1 · encrypted</source>
         <translation>%1 · verschlüsselt</translation>
     </message>
@@ -344,14 +332,6 @@
         <source>%1 at %2</source>
         <comment>a day, a time of day</comment>
         <translation>%1 um %2</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -4806,6 +4786,25 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>Keyboard shortcuts</source>
         <translation>Tastenkürzel</translation>
+    </message>
+</context>
+<context>
+    <name>SizeText</name>
+    <message>
+        <source>less than 1 KB</source>
+        <translation>weniger als 1 KB</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
     </message>
 </context>
 <context>

@@ -92,18 +92,6 @@
         <translation>Su archivo falta en la caja fuerte</translation>
     </message>
     <message>
-        <source>less than 1 KB</source>
-        <translation>menos de 1&#xa0;KB</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1&#xa0;MB</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1&#xa0;KB</translation>
-    </message>
-    <message>
         <source>%1 · encrypted</source>
         <translation>%1 · cifrado</translation>
     </message>
@@ -344,14 +332,6 @@
         <source>%1 at %2</source>
         <comment>a day, a time of day</comment>
         <translation>%1 a las %2</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -4806,6 +4786,25 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>Keyboard shortcuts</source>
         <translation>Atajos de teclado</translation>
+    </message>
+</context>
+<context>
+    <name>SizeText</name>
+    <message>
+        <source>less than 1 KB</source>
+        <translation>menos de 1 KB</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
     </message>
 </context>
 <context>

@@ -92,18 +92,6 @@
         <translation>Son fichier est absent du coffre</translation>
     </message>
     <message>
-        <source>less than 1 KB</source>
-        <translation>moins de 1&#xa0;Ko</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1&#xa0;Mo</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1&#xa0;Ko</translation>
-    </message>
-    <message>
         <source>%1 · encrypted</source>
         <translation>%1 · chiffré</translation>
     </message>
@@ -344,14 +332,6 @@
         <source>%1 at %2</source>
         <comment>a day, a time of day</comment>
         <translation>%1 à %2</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1&#xa0;Mo</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1&#xa0;Ko</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -4806,6 +4786,25 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>Keyboard shortcuts</source>
         <translation>Raccourcis clavier</translation>
+    </message>
+</context>
+<context>
+    <name>SizeText</name>
+    <message>
+        <source>less than 1 KB</source>
+        <translation>moins de 1 Ko</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 Ko</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 Go</translation>
     </message>
 </context>
 <context>

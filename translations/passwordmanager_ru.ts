@@ -93,18 +93,6 @@
         <translation>Файл вложения отсутствует в сейфе</translation>
     </message>
     <message>
-        <source>less than 1 KB</source>
-        <translation>меньше 1 КБ</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1 МБ</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1 КБ</translation>
-    </message>
-    <message>
         <source>%1 · encrypted</source>
         <translation>%1 · зашифровано</translation>
     </message>
@@ -346,14 +334,6 @@
         <source>%1 at %2</source>
         <comment>a day, a time of day</comment>
         <translation>%1 в %2</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1 МБ</translation>
-    </message>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1 КБ</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -4842,6 +4822,25 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>Keyboard shortcuts</source>
         <translation>Сочетания клавиш</translation>
+    </message>
+</context>
+<context>
+    <name>SizeText</name>
+    <message>
+        <source>less than 1 KB</source>
+        <translation>меньше 1 КБ</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 КБ</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 ГБ</translation>
     </message>
 </context>
 <context>

@@ -117,7 +117,7 @@ private Q_SLOTS:
         safe.name = QStringLiteral("Work");
         QTest::newRow("nothing known") << safe << QStringList{QStringLiteral("Not opened yet")};
         safe.isRead = true;
-        safe.details.size = 4100000;
+        safe.details.size = 4300000;
         safe.fact.itemCount = 61;
         safe.fact.lastOpened = noon.addDays(-3);
         QTest::newRow("locked") << safe

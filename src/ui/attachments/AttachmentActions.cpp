@@ -7,13 +7,13 @@
 #include "PMListItem.h"
 #include "RenameDialog.h"
 #include "main/NoticeBanner.h"
+#include "widgets/SizeText.h"
 
 #include <QBuffer>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFutureWatcher>
-#include <QLocale>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
@@ -26,8 +26,7 @@
 
 namespace {
 
-const int kilobyte = 1024;
-const int megabyte = 1024 * kilobyte;
+const int megabyte = 1024 * 1024;
 
 QString faultText(AttachmentFault fault)
 {
@@ -144,13 +143,7 @@ QString AttachmentActions::sizeText(const QString &id) const
     const qint64 size = item(id) ? m_core.currentSafe()->attachmentSize(id) : -1;
     if (size < 0)
         return tr("Its file is missing in the safe");
-    const QLocale locale;
-    QString text = tr("less than 1 KB");
-    if (size >= megabyte)
-        text = tr("%1 MB").arg(locale.toString(double(size) / megabyte, 'f', 1));
-    else if (size >= kilobyte)
-        text = tr("%1 KB").arg(locale.toString(double(size) / kilobyte, 'f', 0));
-    return tr("%1 · encrypted").arg(text);
+    return tr("%1 · encrypted").arg(SizeText::of(size));
 }
 
 void AttachmentActions::attach(const QVector<AttachmentInput> &inputs, const QString &parentId)

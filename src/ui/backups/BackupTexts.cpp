@@ -1,6 +1,7 @@
 #include "BackupTexts.h"
 
 #include "ArchiveMessages.h"
+#include "widgets/SizeText.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -10,9 +11,6 @@
 namespace {
 
 using State = BackupJob::State;
-
-const double kilobyte = 1000;
-const double megabyte = 1000 * kilobyte;
 
 QStringList namesOf(const QVector<BackupJob::Result> &results, State state)
 {
@@ -55,14 +53,6 @@ QString BackupTexts::moment(const BackupEntry &entry, const QDateTime &now)
     return moment(entry.made, now, entry.timeKnown);
 }
 
-QString BackupTexts::size(qint64 bytes)
-{
-    const auto number = static_cast<double>(bytes);
-    if (number >= megabyte)
-        return tr("%1 MB").arg(QLocale().toString(number / megabyte, 'f', 1));
-    return tr("%1 KB").arg(QLocale().toString(std::max(number / kilobyte, 1.0), 'f', 0));
-}
-
 QString BackupTexts::name(const BackupEntry &entry)
 {
     return entry.good() ? entry.description.name : QFileInfo(entry.path).fileName();
@@ -70,7 +60,7 @@ QString BackupTexts::name(const BackupEntry &entry)
 
 QString BackupTexts::detail(const BackupEntry &entry, const QDateTime &now)
 {
-    const QString usual = tr("%1 · %2").arg(moment(entry, now), size(entry.size));
+    const QString usual = tr("%1 · %2").arg(moment(entry, now), SizeText::of(entry.size));
     return entry.good() ? usual : tr("Damaged, can't be restored · %1").arg(usual);
 }
 

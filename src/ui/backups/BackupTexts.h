@@ -17,8 +17,6 @@ public:
     static QString moment(const QDateTime &moment, const QDateTime &now, bool timeKnown = true);
     static QString moment(const BackupEntry &entry, const QDateTime &now);
 
-    static QString size(qint64 bytes);
-
     /// The name of what a file of a backup holds; the file's own where that cannot be read.
     static QString name(const BackupEntry &entry);
     /// When it was made and how large it is, or that it is damaged.

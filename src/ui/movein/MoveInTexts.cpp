@@ -1,7 +1,8 @@
 #include "MoveInTexts.h"
 
+#include "widgets/SizeText.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace {
 
@@ -120,7 +121,7 @@ QString MoveInTexts::problem(const ImportResult &result)
     case ImportResult::TooLarge:
         return Texts::tr("The file is larger than %1, which no export of passwords is. Check that "
                          "it is the right one.")
-            .arg(QLocale().formattedDataSize(ImportReader::largestFile, 0));
+            .arg(SizeText::of(ImportReader::largestFile));
     case ImportResult::Unknown:
         break;
     }

@@ -3,9 +3,9 @@
 #include "backups/BackupTexts.h"
 #include "main/ItemKinds.h"
 #include "main/RelativeDate.h"
+#include "widgets/SizeText.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace {
 
@@ -35,8 +35,7 @@ public:
         if (safe.fact.itemCount >= 0)
             parts.append(itemCountText(safe.fact.itemCount));
         if (safe.isRead)
-            parts.append(
-                QLocale().formattedDataSize(safe.details.size, 1, QLocale::DataSizeSIFormat));
+            parts.append(SizeText::of(safe.details.size));
         if (!safe.fact.mirrorFolder.isEmpty())
             parts.append(tr("in the cloud folder"));
         if (!safe.copyOf.isEmpty())
