@@ -14,7 +14,7 @@ struct BackupEntry
     QString path;
     qint64 size = 0; ///< in bytes
     QDateTime made;
-    bool timeKnown = true; ///< else `made` is right by its day alone
+    bool timeKnown = true;       ///< else `made` is right by its day alone
     SafeDescription description; ///< name, hint and times of the safe in it
     QByteArray passId;
     std::optional<BackupName> name; ///< nothing for an archive that the user exported

@@ -40,9 +40,9 @@ BackupOverview::Safe stateOf(FileLayer &files, const QString &folder,
     safe.available = true;
     safe.last = lastBackup(archives, folder, *description);
     if (safe.last)
-        safe.unchanged =
-            safe.last->holds(*description, files.read(place.path(SafeLayout::passId))
-                                               .value_or(description->passId.toLatin1()));
+        safe.unchanged = safe.last->holds(
+            *description,
+            files.read(place.path(SafeLayout::passId)).value_or(description->passId.toLatin1()));
     return safe;
 }
 
