@@ -12,10 +12,12 @@
 #include "style/Theme.h"
 #include "wizard/NewSafePage.h"
 
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLockFile>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 
 namespace {
@@ -336,7 +338,7 @@ private Q_SLOTS:
         Desk desk;
         QVERIFY(desk.makeSafe("One"));
         desk.test.addLogin(QStringLiteral("Shop"));
-        desk.chosen = desk.path("out");
+        desk.chosen = desk.path("out.gpm");
         desk.desk.exportCurrent();
         auto *progress = desk.dialog<ProgressDialog>();
         QVERIFY(progress);
@@ -355,6 +357,43 @@ private Q_SLOTS:
         logic.unlock(testPassword);
         QTRY_VERIFY(desk.test.core.currentSafe()->isUnlocked());
         QCOMPARE(desk.test.core.currentSafe()->itemCount(), 1);
+    }
+
+    void aFileIsNotReplacedUnasked()
+    {
+        QTemporaryDir folder;
+        QFile taken(folder.filePath(QStringLiteral("Work.gpm")));
+        QVERIFY(taken.open(QIODevice::WriteOnly));
+        taken.close();
+        QWidget window;
+        bool asked = false;
+        QTimer::singleShot(0, &window, [&] {
+            auto *dialog = window.findChild<QFileDialog *>();
+            QTimer::singleShot(0, dialog, [&] {
+                auto *question = dialog->findChild<QMessageBox *>();
+                asked = question != nullptr;
+                if (question)
+                    question->reject();
+                dialog->reject();
+            });
+            find<QLineEdit>(*dialog, "fileNameEdit")->setText(QStringLiteral("Work"));
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        QCOMPARE(askForTarget(&window, {}, folder.filePath(QStringLiteral("Home.gpm"))), QString());
+        QVERIFY(asked);
+
+        // A dialog that leaves the suffix away is shown again with the name that is taken.
+        QStringList proposed;
+        const auto ask = [&](const QString &path) {
+            proposed << QFileInfo(path).fileName();
+            return proposed.size() > 1 ? path : folder.filePath(QStringLiteral("Work"));
+        };
+        QCOMPARE(targetWithSuffix(ask, QStringLiteral("Home.gpm")), taken.fileName());
+        QCOMPARE(proposed, QStringList({QStringLiteral("Home.gpm"), QStringLiteral("Work.gpm")}));
+        QVERIFY(taken.remove());
+        proposed.clear();
+        QCOMPARE(targetWithSuffix(ask, QStringLiteral("Home.gpm")), taken.fileName());
+        QCOMPARE(proposed.size(), 1);
     }
 
     void anImportThatFailsSaysWhy()

@@ -6,13 +6,13 @@
 #include "OwnerOnlyFile.h"
 #include "PMListItem.h"
 #include "RenameDialog.h"
+#include "dialogs/FileChooser.h"
 #include "main/NoticeBanner.h"
 #include "widgets/SizeText.h"
 
 #include <QBuffer>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFutureWatcher>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -58,13 +58,12 @@ AttachmentChoosers AttachmentChoosers::dialogs(const Theme &theme, QWidget *widg
 {
     AttachmentChoosers choosers;
     choosers.filesToAttach = [widget] {
-        return QFileDialog::getOpenFileNames(widget->window(),
-                                             AttachmentActions::tr("Please choose a file"));
+        return askForFiles(widget, AttachmentActions::tr("Please choose a file"));
     };
     choosers.placeToSave = [widget](const QString &fileName) {
         const QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
-        return QFileDialog::getSaveFileName(widget->window(), AttachmentActions::tr("Save as"),
-                                            folder + QLatin1Char('/') + fileName);
+        return askForTarget(widget, AttachmentActions::tr("Save as"),
+                            folder + QLatin1Char('/') + fileName);
     };
     choosers.newName = [&theme, widget](const QString &fileName) {
         RenameDialog dialog(fileName, theme, widget->window());

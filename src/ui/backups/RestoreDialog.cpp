@@ -4,6 +4,7 @@
 #include "BackupDelegate.h"
 #include "BackupTexts.h"
 #include "Backups.h"
+#include "dialogs/FileChooser.h"
 #include "main/EmptyState.h"
 #include "style/Style.h"
 #include "style/Theme.h"
@@ -12,18 +13,13 @@
 #include "widgets/MessageLabel.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QListWidget>
+#include <QPointer>
 
 namespace {
 
 const QSize usualSize(520, 460);
 const QSize smallestSize(420, 360);
-
-QString askForFolder(QWidget *parent, const QString &start)
-{
-    return QFileDialog::getExistingDirectory(parent, {}, start);
-}
 
 } // namespace
 
@@ -43,7 +39,9 @@ RestoreDialog::RestoreDialog(const Parts &parts, const Theme &theme, QWidget *pa
     setMinimumSize(Style::scaled(smallestSize.width()), Style::scaled(smallestSize.height()));
     resize(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
     if (!m_parts.chooseFolder)
-        m_parts.chooseFolder = askForFolder;
+        m_parts.chooseFolder = [](QWidget *asking, const QString &start) {
+            return askForFolder(asking, {}, start);
+        };
     m_place->setObjectName(QStringLiteral("restorePlace"));
     m_otherFolder->setObjectName(QStringLiteral("otherFolderButton"));
     m_list->setObjectName(QStringLiteral("backupList"));
@@ -107,8 +105,10 @@ void RestoreDialog::read()
 
 void RestoreDialog::chooseFolder()
 {
+    // A lock closes it while the user is choosing.
+    const QPointer<RestoreDialog> alive(this);
     const QString chosen = m_parts.chooseFolder(this, m_overview.folder);
-    if (chosen.isEmpty())
+    if (!alive || chosen.isEmpty())
         return;
     m_folder = chosen;
     read();

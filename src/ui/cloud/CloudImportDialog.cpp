@@ -1,21 +1,22 @@
 #include "CloudImportDialog.h"
 
+#include "dialogs/FileChooser.h"
 #include "main/EmptyState.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QListWidget>
+#include <QPointer>
 
 namespace {
 
 const QSize usualSize(460, 340);
 
-QString askForFolder(QWidget *parent, const QString &start)
+QString chooseFolderFrom(QWidget *parent, const QString &start)
 {
-    return QFileDialog::getExistingDirectory(parent->window(), {}, start);
+    return askForFolder(parent, {}, start);
 }
 
 } // namespace
@@ -24,7 +25,7 @@ CloudImportDialog::CloudImportDialog(CloudFolders &folders, const Theme &theme, 
                                      FolderChooser chooseFolder)
     : FramedDialog(tr("From the cloud folder"), theme, parent)
     , m_folders(folders)
-    , m_chooseFolder(chooseFolder ? std::move(chooseFolder) : askForFolder)
+    , m_chooseFolder(chooseFolder ? std::move(chooseFolder) : chooseFolderFrom)
     , m_list(new QListWidget(this))
     , m_empty(new EmptyState(theme, this))
     , m_other(makeButton(tr("Other folder…"), "plain", this))
@@ -100,8 +101,9 @@ void CloudImportDialog::showOffers()
 
 void CloudImportDialog::lookElsewhere()
 {
+    const QPointer<CloudImportDialog> alive(this);
     const QString folder = m_chooseFolder(this, QDir::homePath());
-    if (!folder.isEmpty())
+    if (alive && !folder.isEmpty())
         m_folders.add(folder);
 }
 

@@ -3,6 +3,7 @@
 #include "CloudSafeRow.h"
 #include "CloudTexts.h"
 #include "FolderPath.h"
+#include "dialogs/FileChooser.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
@@ -11,7 +12,7 @@
 
 #include <QDir>
 #include <QEvent>
-#include <QFileDialog>
+#include <QPointer>
 
 #include <utility>
 
@@ -19,9 +20,9 @@ namespace {
 
 const int shortestPlace = 10; ///< in letters
 
-QString askForFolder(QWidget *parent, const QString &start)
+QString chooseFolderFrom(QWidget *parent, const QString &start)
 {
-    return QFileDialog::getExistingDirectory(parent->window(), {}, start);
+    return askForFolder(parent, {}, start);
 }
 
 } // namespace
@@ -53,7 +54,7 @@ CloudPanel::CloudPanel(const Parts &parts, const Theme &theme, QWidget *parent)
     if (!m_parts.asker)
         m_parts.asker = dialogAsker(this);
     if (!m_parts.chooseFolder)
-        m_parts.chooseFolder = askForFolder;
+        m_parts.chooseFolder = chooseFolderFrom;
     layOut();
     follow();
     showPlaces();
@@ -177,9 +178,11 @@ void CloudPanel::showFault(const QString &fault)
 
 void CloudPanel::chooseOtherFolder()
 {
+    // A lock closes the settings while the user is choosing.
+    const QPointer<CloudPanel> alive(this);
     const QString folder = m_parts.chooseFolder(
         this, m_place->count() > 0 ? m_place->currentData().toString() : QDir::homePath());
-    if (folder.isEmpty())
+    if (!alive || folder.isEmpty())
         return;
     showFault({});
     m_wanted = QDir::fromNativeSeparators(folder);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -19,3 +19,19 @@ struct FileChooser
 
 /// Asks with the system's dialogs above a widget's window, beginning where the last one ended.
 FileChooser dialogFileChooser(QWidget *widget, UiSettings &settings);
+
+/// Ask with the system's dialog above a widget's window. Nothing also when that window went
+/// meanwhile, as a lock takes it: whoever asked may be gone then, too.
+QStringList askForFiles(QWidget *widget, const QString &caption);
+QString askForFile(QWidget *widget, const QString &caption, const QString &folder,
+                   const QString &filter);
+QString askForFolder(QWidget *widget, const QString &caption, const QString &folder);
+/// The user has agreed to replace what is there already.
+/// @param path proposed; its suffix is added to a name that is entered without one
+QString askForTarget(QWidget *widget, const QString &caption, const QString &path,
+                     const QString &filter = {});
+
+/// The same with any dialog that asks before a file is replaced, but may not add a suffix: when
+/// the name with it is taken, it is shown again with the whole name.
+QString targetWithSuffix(const std::function<QString(const QString &path)> &ask,
+                         const QString &path);

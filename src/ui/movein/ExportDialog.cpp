@@ -2,6 +2,7 @@
 
 #include "FileNames.h"
 #include "GPMAppCore.h"
+#include "dialogs/FileChooser.h"
 #include "dialogs/ProgressDialog.h"
 #include "style/Style.h"
 #include "style/Theme.h"
@@ -13,7 +14,6 @@
 #include <QDate>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
 #include <QUrl>
@@ -26,8 +26,8 @@ const int usualWidth = 480;
 
 QString chooseTarget(QWidget *parent, const QString &name)
 {
-    return QFileDialog::getSaveFileName(parent, ExportDialog::tr("Save as"),
-                                        QDir::homePath() + QLatin1Char('/') + name);
+    return askForTarget(parent, ExportDialog::tr("Save as"),
+                        QDir::homePath() + QLatin1Char('/') + name);
 }
 
 QString endText(ItemExportTask::Outcome outcome, int count, const QString &path)

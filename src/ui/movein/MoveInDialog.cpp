@@ -9,14 +9,15 @@
 #include "MoveInTexts.h"
 #include "OwnerOnlyFile.h"
 #include "attachments/DropMark.h"
+#include "dialogs/FileChooser.h"
 #include "style/Style.h"
 
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMimeData>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QStandardPaths>
 
@@ -34,7 +35,7 @@ QSize scaled(const QSize &size)
 
 QString chooseFile(QWidget *parent)
 {
-    return QFileDialog::getOpenFileName(
+    return askForFile(
         parent, MoveInDialog::tr("Choose the exported file"),
         QStandardPaths::writableLocation(QStandardPaths::DownloadLocation),
         MoveInDialog::tr("Exports of passwords (%1)").arg(QStringLiteral("*.csv *.json *.txt")) +
@@ -43,8 +44,8 @@ QString chooseFile(QWidget *parent)
 
 QString chooseTarget(QWidget *parent, const QString &name)
 {
-    return QFileDialog::getSaveFileName(parent, MoveInDialog::tr("Save as"),
-                                        QDir::homePath() + QLatin1Char('/') + name);
+    return askForTarget(parent, MoveInDialog::tr("Save as"),
+                        QDir::homePath() + QLatin1Char('/') + name);
 }
 
 /// What the safe holds, as values; the trash does not count.
@@ -139,8 +140,10 @@ void MoveInDialog::connectPages()
         showPage(m_start);
     };
     connect(m_start, &MoveInStart::chooseRequested, this, [this] {
+        // A lock closes it while the user is choosing.
+        const QPointer<MoveInDialog> alive(this);
         const QString path = m_parts.chooseFile(this);
-        if (!path.isEmpty())
+        if (alive && !path.isEmpty() && m_safe->isUnlocked())
             readFile(path);
     });
     connect(m_columns, &MoveInColumns::accepted, this, [this] { read(m_columns->columns()); });
@@ -283,8 +286,9 @@ void MoveInDialog::reject()
 
 void MoveInDialog::saveReport()
 {
+    const QPointer<MoveInDialog> alive(this);
     const QString path = m_parts.chooseTarget(this, tr("What came in.txt"));
-    if (path.isEmpty())
+    if (!alive || path.isEmpty() || !m_safe->isUnlocked())
         return;
     const bool saved = writeOwnerOnlyFile(path, m_end->reportText().toUtf8());
     m_end->setMessage(saved ? tr("Saved.")
@@ -300,7 +304,8 @@ void MoveInDialog::deleteFile()
            "of it stays behind: SSDs, backups and folders that are synchronised may keep what was "
            "deleted for a while."),
         {tr("Delete"), tr("Cancel")}};
-    if (m_parts.asker(question) != 0)
+    const QPointer<MoveInDialog> alive(this);
+    if (m_parts.asker(question) != 0 || !alive)
         return;
     const bool gone = !QFileInfo::exists(m_path) || QFile::remove(m_path);
     m_end->showDeleted(gone, gone ? tr("The file “%1” is deleted. If you made other copies of it, "
@@ -309,6 +314,11 @@ void MoveInDialog::deleteFile()
                                   : tr("The file cannot be deleted. Close the program that has it "
                                        "open, then try again:\n%1")
                                         .arg(QDir::toNativeSeparators(m_path)));
+}
+
+bool MoveInDialog::holdsWork() const
+{
+    return m_pages->currentWidget() != m_start;
 }
 
 bool MoveInDialog::takesDrops() const

@@ -41,6 +41,9 @@ public:
     /// Looks into a file and shows what is in it.
     void readFile(const QString &path);
 
+    /// Whether there is something that closing it would lose: what runs, choices or a report.
+    bool holdsWork() const;
+
     /// Stops what is under way before it closes.
     void reject() override;
 

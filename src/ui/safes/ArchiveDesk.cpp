@@ -33,17 +33,16 @@ ProgressDialog *ArchiveDesk::showProgress(const QString &title, const QString &t
 
 void ArchiveDesk::exportSafe(const QString &folder, const QString &name, QWidget *above)
 {
-    QString path = m_ways.choose.saveFile(
+    const QPointer<QWidget> parent(above);
+    const QString path = m_ways.choose.saveFile(
         tr("Export safe"), archiveName(name, QDateTime::currentDateTime()), tr("GPM file (*.gpm)"));
     if (path.isEmpty())
         return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QStringLiteral(".gpm");
     const std::shared_ptr<GPMSafe> &current = m_core.currentSafe();
     const std::shared_ptr<GPMSafe> safe =
         current && current->folder() == folder ? current : m_core.knownSafes().open(folder);
     ProgressDialog *progress =
-        showProgress(tr("Export safe"), tr("Exporting “%1”…").arg(name), above);
+        showProgress(tr("Export safe"), tr("Exporting “%1”…").arg(name), parent);
     if (!safe) {
         progress->tell(false, exportMessage(ArchiveResult::Outcome::NotFound));
         return;
@@ -84,10 +83,11 @@ void ArchiveDesk::tellExported(const ArchiveResult &result, const QString &name,
 
 void ArchiveDesk::importArchive(QWidget *above)
 {
+    const QPointer<QWidget> parent(above);
     const QString path =
         m_ways.choose.openFile(tr("Open GPM file on your computer"), tr("GPM file (*.gpm)"));
     if (!path.isEmpty())
-        importFrom(path, above);
+        importFrom(path, parent);
 }
 
 void ArchiveDesk::importFrom(const QString &archivePath, QWidget *above)

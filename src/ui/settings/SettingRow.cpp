@@ -11,6 +11,7 @@
 #include "widgets/Toggle.h"
 
 #include <QDir>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -103,8 +104,10 @@ QWidget *SettingRow::makeFolder()
         path->setToolTip(native);
     };
     connect(choose, &QPushButton::clicked, this, [this] {
+        // A lock closes the settings while the user is choosing.
+        const QPointer<SettingRow> alive(this);
         const QString chosen = m_help.chooseFolder(this, m_setting.value().toString());
-        if (!chosen.isEmpty())
+        if (alive && !chosen.isEmpty())
             apply(QDir::toNativeSeparators(chosen));
     });
     auto *row = new QHBoxLayout(frame);

@@ -3,12 +3,12 @@
 #include "ProgramShortcuts.h"
 #include "SettingsTable.h"
 #include "UiSettings.h"
+#include "dialogs/FileChooser.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
 #include "widgets/TextField.h"
 
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QScrollArea>
@@ -20,9 +20,9 @@ const QSize usualSize(620, 520);
 const QSize smallestSize(520, 400);
 const int pagesWidth = 144;
 
-QString askForFolder(QWidget *parent, const QString &start)
+QString chooseFolderFrom(QWidget *parent, const QString &start)
 {
-    return QFileDialog::getExistingDirectory(parent->window(), {}, start);
+    return askForFolder(parent, {}, start);
 }
 
 } // namespace
@@ -39,7 +39,7 @@ SettingsDialog::SettingsDialog(const QVector<Setting> &settings, UiSettings &uiS
     resize(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
     makeSearch();
     makePages();
-    makeRows(settings, {theme, chooseFolder ? std::move(chooseFolder) : askForFolder,
+    makeRows(settings, {theme, chooseFolder ? std::move(chooseFolder) : chooseFolderFrom,
                         [this](const char *id) { return takenKeys(id); }});
     layOut();
     updateEditable();
