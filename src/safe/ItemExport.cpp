@@ -33,13 +33,16 @@ bool put(QIODevice &device, QByteArray text)
     return good;
 }
 
-bool writeCsv(QIODevice &device, const std::vector<ItemExport::Item> &items)
+bool writeCsv(QIODevice &device, const std::vector<ItemExport::Item> &items,
+              const WorkControl &control)
 {
     QStringList cells;
     for (const Column &column : columns)
         cells.append(QLatin1String(column.header));
     bool good = put(device, csvLine(cells));
     for (const ItemExport::Item &item : items) {
+        if (!good || control.isCancelled())
+            return false;
         if (!ItemExport::canHold(ItemExport::Csv, item.document.type))
             continue;
         cells.clear();
@@ -48,7 +51,7 @@ bool writeCsv(QIODevice &device, const std::vector<ItemExport::Item> &items)
                 column.isSecret ? item.document.privateFields : item.document.publicFields;
             cells.append(fields.value(QLatin1String(column.property)).toString());
         }
-        good = good && put(device, csvLine(cells));
+        good = put(device, csvLine(cells));
     }
     return good;
 }
@@ -71,10 +74,10 @@ bool ItemExport::canHold(Format format, PMListItem::Type type)
     return format == Csv ? type == PMListItem::Login : type != PMListItem::Attachment;
 }
 
-bool ItemExport::writeTo(QIODevice &device) const
+bool ItemExport::writeTo(QIODevice &device, const WorkControl &control) const
 {
     if (format == Csv)
-        return writeCsv(device, items);
+        return writeCsv(device, items, control);
     const QJsonObject head{{QStringLiteral("format"), QLatin1String(ownJsonFormat)},
                            {QStringLiteral("version"), formatVersion},
                            {QStringLiteral("safe"), safeName},
@@ -84,18 +87,22 @@ bool ItemExport::writeTo(QIODevice &device) const
     bool good = put(device, start + ",\"items\":[");
     const char *between = "\n";
     for (const Item &item : items) {
+        if (!good || control.isCancelled())
+            return false;
         if (!canHold(format, item.document.type))
             continue;
-        good = good && device.write(between) > 0 && put(device, jsonOf(item));
+        good = device.write(between) > 0 && put(device, jsonOf(item));
         between = ",\n";
     }
     return good && put(device, "\n]}\n");
 }
 
-bool ItemExport::write(FileLayer &files, const QString &path) const
+bool ItemExport::write(FileLayer &files, const QString &path, const WorkControl &control) const
 {
-    const bool written = files.write(path, [this](QIODevice &device) { return writeTo(device); });
-    if (!written)
+    const bool written = files.write(path, [&](QIODevice &device) {
+        return writeTo(device, control) && !control.isCancelled();
+    });
+    if (!written && !control.isCancelled())
         qWarning() << "ItemExport::write"
                    << "Can't write file:" << path;
     return written;

@@ -2,6 +2,7 @@
 
 #include "FileLayer.h"
 #include "PMItemDocument.h"
+#include "WorkControl.h"
 
 #include <QDateTime>
 #include <QStringList>
@@ -33,8 +34,10 @@ struct ItemExport
     /// The items that the format cannot hold are left out. Values are written as they are: one that
     /// begins with "=" too, although a spreadsheet program takes it for a formula, since a password
     /// that was changed would be lost.
-    bool writeTo(QIODevice &device) const;
+    /// @returns false also when it was cancelled midway
+    bool writeTo(QIODevice &device, const WorkControl &control = WorkControl()) const;
 
     /// Replaces the file, for its owner alone, or leaves it as it was.
-    bool write(FileLayer &files, const QString &path) const;
+    bool write(FileLayer &files, const QString &path,
+               const WorkControl &control = WorkControl()) const;
 };

@@ -77,6 +77,13 @@ void ItemExportTask::start()
     QMetaObject::invokeMethod(this, &ItemExportTask::takeSome, Qt::QueuedConnection);
 }
 
+void ItemExportTask::cancel()
+{
+    m_cancelled = true;
+    if (m_writing)
+        m_writing->cancel();
+}
+
 void ItemExportTask::takeSome()
 {
     if (m_cancelled || !m_safe->isUnlocked()) {
@@ -106,18 +113,20 @@ void ItemExportTask::take(const PMListItem &item)
 void ItemExportTask::write()
 {
     const auto written = std::make_shared<bool>(false);
-    const auto work = [out = m_export, files = m_files, path = m_path, written](WorkControl &) {
+    const auto work = [out = m_export, files = m_files, path = m_path,
+                       written](WorkControl &control) {
         // The order of the ids means nothing to a reader.
         std::stable_sort(out->items.begin(), out->items.end(),
                          [](const ItemExport::Item &left, const ItemExport::Item &right) {
                              return titleOf(left).compare(titleOf(right), Qt::CaseInsensitive) < 0;
                          });
-        *written = out->write(*files, path);
+        *written = out->write(*files, path, control);
         out->items.clear();
     };
     m_writing = std::make_unique<WorkerTask>(work);
-    connect(m_writing.get(), &WorkerTask::finished, this,
-            [this, written] { finish(*written ? Written : NotWritten); });
+    connect(m_writing.get(), &WorkerTask::finished, this, [this, written] {
+        finish(*written ? Written : m_cancelled ? Cancelled : NotWritten);
+    });
     m_writing->start();
 }
 

@@ -37,7 +37,7 @@ public:
 
     /// finished() follows.
     void start();
-    void cancel() { m_cancelled = true; }
+    void cancel();
 
     Outcome outcome() const { return m_outcome; }
 

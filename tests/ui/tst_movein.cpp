@@ -9,6 +9,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void fromFileToSafe();
     void cancelMidway();
     void lockMidway();
+    void lockWhileChoosingAFile();
     void fullDisk();
     void cardsAndNotes();
     void badFiles_data();
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void exportAsksForThePassword();
     void exportComesBack();
     void exportThatFails();
+    void exportCancelledWhileWriting();
 };
 
 namespace {
@@ -216,6 +219,25 @@ void TestMoveIn::lockMidway()
     const int came = program.onDisk().size();
     QVERIFY(came > 0 && came < 90);
     QCOMPARE(told.first().first().toString(), QStringLiteral("%1 logins came in").arg(came));
+}
+
+void TestMoveIn::lockWhileChoosingAFile()
+{
+    TestCore test;
+    QVERIFY(test.createSafe());
+    const Theme theme;
+    QWidget window;
+    window.show();
+    MoveInDialog::open(test.core, theme, &window);
+    const QPointer<MoveInDialog> dialog(window.findChild<MoveInDialog *>());
+    bool shown = false;
+    QTimer::singleShot(0, &window, [&] {
+        shown = dialog->findChild<QFileDialog *>();
+        test.core.lockCurrentSafe();
+    });
+    find<QPushButton>(*dialog, "chooseFileButton")->click();
+    QVERIFY(shown);
+    QVERIFY(!dialog);
 }
 
 void TestMoveIn::fullDisk()
@@ -483,6 +505,30 @@ void TestMoveIn::exportThatFails()
     ExportStage stage(std::make_shared<FullDisk>());
     stage.enter(testPassword);
     QVERIFY(stage.end().startsWith(QLatin1String("The file cannot be written")));
+    QVERIFY(!QFile::exists(stage.path));
+}
+
+void TestMoveIn::exportCancelledWhileWriting()
+{
+    struct Cancelling : FileLayer
+    {
+        bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
+        {
+            QMetaObject::invokeMethod(qApp, cancel, Qt::BlockingQueuedConnection);
+            return FileLayer::write(path, produce, mode);
+        }
+        std::function<void()> cancel;
+    };
+    const auto files = std::make_shared<Cancelling>();
+    ExportStage stage(files);
+    QPointer<ProgressDialog> progress;
+    files->cancel = [&] {
+        progress = stage.window.findChild<ProgressDialog *>();
+        progress->reject();
+    };
+    stage.enter(testPassword);
+    QTRY_VERIFY(stage.window.findChild<ProgressDialog *>() == nullptr);
+    QVERIFY(!progress);
     QVERIFY(!QFile::exists(stage.path));
 }
 
