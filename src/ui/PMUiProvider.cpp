@@ -4,6 +4,7 @@
 #include "SideWindows.h"
 #include "TrayIcon.h"
 #include "WindowActivation.h"
+#include "WorkWindows.h"
 #include "cloud/CloudDesk.h"
 #include "dialogs/Question.h"
 #include "lock/PagesStack.h"
@@ -243,7 +244,8 @@ void PMUiProvider::rebuildWindows()
     m_rebuilding = false;
     saveWindowState();
     const bool settingsOpen = m_sideWindows->hasSettingsOpen();
-    const std::unique_ptr<SecureWindow> former = std::move(m_window);
+    std::unique_ptr<SecureWindow> former = std::move(m_window);
+    WorkWindows work(*former);
     createMainWindow();
     m_window->content().goTo(former->content().place());
     if (m_firstPageChosen)
@@ -255,6 +257,10 @@ void PMUiProvider::rebuildWindows()
     if (settingsOpen)
         m_sideWindows->openSettings();
     m_firstRun->showExpected();
+    former.reset();
+    // What blocks the new window blocks all that is not above it.
+    QWidget *modal = QApplication::activeModalWidget();
+    work.moveTo(modal ? *modal : *m_window);
 }
 
 QWidget *PMUiProvider::mainWindow() const

@@ -2,6 +2,9 @@
 #include "PasswordStrength.h"
 #include "SplashScreen.h"
 #include "UiTesting.h"
+#include "dialogs/ProgressDialog.h"
+#include "movein/MoveInDialog.h"
+#include "style/Theme.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void secondStartBringsTheWindowBack();
     void stateIsKept();
     void largerTextsKeepTheWindowOnTheScreen();
+    void workGoesOnInNewWindows();
     void firstLaunchForgetsOldWindows();
     void failedSaveOnLockIsTold();
     void lockClosesMessagesAboutItems();
@@ -128,6 +132,40 @@ void TestPMUiProvider::largerTextsKeepTheWindowOnTheScreen()
     // A window that is larger than the screen begins at its corner.
     QVERIFY(place.right() <= screen.right() || place.left() == screen.left());
     QVERIFY(place.bottom() <= screen.bottom() || place.top() == screen.top());
+}
+
+void TestPMUiProvider::workGoesOnInNewWindows()
+{
+    TestCore test;
+    Ui ui(test);
+    QVERIFY(test.createSafe());
+    ui.window().show();
+    const Theme theme;
+    const QPointer<ProgressDialog> progress(new ProgressDialog(
+        QStringLiteral("Archive"), QStringLiteral("Writing…"), theme, &ui.window()));
+    progress->show();
+    QFile file(test.folder.filePath(QStringLiteral("passwords.csv")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("name,url,username,password\n");
+    for (int i = 0; i < 90; ++i)
+        file.write(QStringLiteral("T%1,https://t%1.example,ana,pw\n").arg(i).toUtf8());
+    file.close();
+    MoveInDialog::open(test.core, theme, &ui.window());
+    const QPointer<MoveInDialog> moveIn(ui.window().findChild<MoveInDialog *>());
+    moveIn->readFile(file.fileName());
+    auto *add = find<QPushButton>(*moveIn, "addButton");
+    QTRY_VERIFY(add->isVisible());
+    add->click();
+    const QPointer<QWidget> former = &ui.window();
+    QVERIFY(ui.provider.setTextPercent(125));
+    QTRY_VERIFY(!former);
+    QVERIFY(moveIn && moveIn->isVisible() && moveIn->parentWidget());
+    QVERIFY(progress && progress->isVisible() && progress->parentWidget());
+    QTRY_VERIFY(find<QWidget>(*moveIn, "closeMoveInButton")->isVisible());
+    QCOMPARE(test.core.currentSafe()->itemCount(), 90);
+    progress->tell(true, QStringLiteral("Done"));
+    QVERIFY(progress->isVisible());
+    QVERIFY(ui.provider.setTextPercent(100));
 }
 
 void TestPMUiProvider::firstLaunchForgetsOldWindows()

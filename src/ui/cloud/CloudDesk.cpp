@@ -109,18 +109,25 @@ void CloudDesk::bringOver(const QString &mirrorFolder, const QString &name)
                                       tr("Bringing “%1” over…").arg(name), m_theme, front());
     window->setAttribute(Qt::WA_DeleteOnClose);
     ArchiveTask *task = m_core.cloudFolders().importSafe(mirrorFolder).release();
-    task->setParent(window);
+    // Should the window that it is above go, it goes on.
+    task->setParent(this);
+    const QPointer<ProgressDialog> shown(window);
     connect(window, &ProgressDialog::cancelRequested, task, &ArchiveTask::cancel);
     connect(task, &ArchiveTask::progress, window, &ProgressDialog::setProgress);
-    connect(task, &ArchiveTask::finished, window, [this, task, window, name] {
+    connect(task, &ArchiveTask::finished, this, [this, task, shown, name] {
+        task->deleteLater();
         const ArchiveResult result = task->result();
         const QString fault = CloudTexts::importFault(result.outcome);
+        if (!shown && !fault.isEmpty())
+            Q_EMIT m_core.message(tr("From the cloud folder"), fault);
+        if (!shown)
+            return;
         if (!fault.isEmpty())
-            window->tell(false, fault);
+            shown->tell(false, fault);
         else if (!result.good())
-            window->finish();
+            shown->finish();
         else
-            window->tell(
+            shown->tell(
                 true,
                 tr("“%1” is on this computer now, and is kept the same as on your other "
                    "computers. It opens with its own master password.")

@@ -73,7 +73,7 @@ void SafeDesk::openList()
     m_list->activateWindow();
 }
 
-void SafeDesk::run(SafeRow::Command command, const SafeInfo &safe)
+void SafeDesk::run(SafeRow::Command command, SafeInfo safe)
 {
     switch (command) {
     case SafeRow::Open:
@@ -110,7 +110,7 @@ void SafeDesk::open(const SafeInfo &safe)
 
 void SafeDesk::exportCurrent()
 {
-    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    const std::shared_ptr<GPMSafe> safe = m_core.currentSafe();
     if (safe)
         m_archives->exportSafe(safe->folder(), safe->name(), m_window.widget);
 }

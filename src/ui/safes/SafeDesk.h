@@ -58,7 +58,8 @@ public Q_SLOTS:
     void openFolder();
 
 private:
-    void run(SafeRow::Command command, const SafeInfo &safe);
+    /// @param safe a copy: its row may go while the user is asked
+    void run(SafeRow::Command command, SafeInfo safe);
     void open(const SafeInfo &safe);
     void rename(const SafeInfo &safe);
     void locate(const SafeInfo &safe);
