@@ -719,7 +719,7 @@ QSet<QString> Stage::ownWords() const
                       test.folder.path() + QStringLiteral("/cloud Family"),
                       QString::fromUtf8(browserExport),
                       QString::fromUtf8(unknownExport),
-                      QStringLiteral("passwords.csv"),
+                      QStringLiteral("passwords.csv safe.passid.bak"),
                       QStringLiteral("Work Family family"),
                       safeFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
