@@ -864,7 +864,7 @@ void TestMainView::sidebarFoldsInANarrowWindow()
 {
     View shown;
     shown.test.addLogin(QStringLiteral("Shop"));
-    const auto *sidebar = shown.field<QWidget>("sidebar");
+    const auto *sidebar = shown.field<QWidget>("mainSidebar");
     const int wide = sidebar->width();
     shown.view.resize(shown.view.minimumSizeHint());
     QTRY_VERIFY(sidebar->width() < wide / 3);

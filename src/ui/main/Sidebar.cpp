@@ -25,7 +25,7 @@ Sidebar::Sidebar(const Theme &theme, QWidget *parent)
     , m_list(new CategoryListView(*m_model, theme, this))
     , m_switcher(new SafeSwitcher(theme, this))
 {
-    setObjectName(QStringLiteral("sidebar"));
+    setObjectName(QStringLiteral("mainSidebar"));
     setAttribute(Qt::WA_StyledBackground);
     m_head = new QHBoxLayout;
     m_head->addWidget(m_switcher);
