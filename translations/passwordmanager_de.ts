@@ -585,6 +585,14 @@
         <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
         <translation>Um zum alten Passwort zurückzukehren, beenden Sie das Programm und öffnen Sie den Ordner des Tresors. Heben Sie eine Kopie von „safe.passid“ an einem anderen Ort auf. Kopieren Sie dann „safe.passid.bak“ über „safe.passid“: Jeder Eintrag öffnet sich wieder mit dem alten Passwort, und Sie können es neu ändern.</translation>
     </message>
+    <message>
+        <source>The change of the password was stopped before it was done, as “%1” had to be saved at once. The old password still opens it. You can change it anew.</source>
+        <translation>Die Änderung des Passworts wurde vor dem Ende angehalten, weil „%1“ sofort gespeichert werden musste. Das alte Passwort öffnet ihn weiter. Sie können es neu ändern.</translation>
+    </message>
+    <message>
+        <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
+        <translation>Dieses neue Passwort wurde nicht übernommen: Eine andere Änderung des Passworts läuft noch. Warten Sie, bis sie fertig ist, und versuchen Sie es noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -3891,6 +3899,10 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
             <numerusform>„%1“ ist weg. %n andere Dateien lagen in seinem Ordner und sind noch da:
 %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The safe keeps its name while its password is being changed. Try again when that is done.</source>
+        <translation>Der Tresor behält seinen Namen, solange sein Passwort geändert wird. Versuchen Sie es danach noch einmal.</translation>
     </message>
 </context>
 <context>

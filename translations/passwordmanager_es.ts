@@ -585,6 +585,14 @@
         <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
         <translation>Para volver a la contraseña antigua, salga del programa y abra la carpeta de la caja fuerte. Guarde una copia de “safe.passid” en otro lugar. Después copie “safe.passid.bak” sobre “safe.passid”: todos los elementos se abren de nuevo con la contraseña antigua, y puede volver a cambiarla.</translation>
     </message>
+    <message>
+        <source>The change of the password was stopped before it was done, as “%1” had to be saved at once. The old password still opens it. You can change it anew.</source>
+        <translation>El cambio de la contraseña se detuvo antes de terminar, porque había que guardar “%1” de inmediato. La contraseña antigua la sigue abriendo. Puede volver a cambiarla.</translation>
+    </message>
+    <message>
+        <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
+        <translation>Esta contraseña nueva no se tomó: otro cambio de la contraseña sigue en curso. Espere a que termine e inténtelo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -3891,6 +3899,10 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
             <numerusform>“%1” ya no está. Había %n archivos más en su carpeta y siguen ahí:
 %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The safe keeps its name while its password is being changed. Try again when that is done.</source>
+        <translation>La caja fuerte conserva su nombre mientras se cambia su contraseña. Inténtelo de nuevo cuando termine.</translation>
     </message>
 </context>
 <context>

@@ -585,6 +585,14 @@
         <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
         <translation>Pour revenir à l’ancien mot de passe, quittez le programme et ouvrez le dossier du coffre. Gardez une copie de «&#x202f;safe.passid&#x202f;» à un autre endroit. Copiez ensuite «&#x202f;safe.passid.bak&#x202f;» par-dessus «&#x202f;safe.passid&#x202f;»&#xa0;: chaque élément s’ouvre de nouveau avec l’ancien mot de passe, et vous pouvez recommencer le changement.</translation>
     </message>
+    <message>
+        <source>The change of the password was stopped before it was done, as “%1” had to be saved at once. The old password still opens it. You can change it anew.</source>
+        <translation>Le changement de mot de passe a été arrêté avant la fin, car « %1 » devait être enregistré aussitôt. L’ancien mot de passe l’ouvre toujours. Vous pouvez recommencer.</translation>
+    </message>
+    <message>
+        <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
+        <translation>Ce nouveau mot de passe n’a pas été pris : un autre changement de mot de passe est encore en cours. Attendez qu’il soit terminé, puis réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -3891,6 +3899,10 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
             <numerusform>«&#x202f;%1&#x202f;» est supprimé. %n autres fichiers se trouvaient dans son dossier et y sont encore&#xa0;:
 %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The safe keeps its name while its password is being changed. Try again when that is done.</source>
+        <translation>Le coffre garde son nom pendant que son mot de passe change. Réessayez ensuite.</translation>
     </message>
 </context>
 <context>

@@ -589,6 +589,14 @@
         <source>To go back to the old password, quit the program and open the folder of the safe. Keep a copy of “safe.passid” in another place. Then copy “safe.passid.bak” over “safe.passid”: every item opens with the old password again, and you can change it anew.</source>
         <translation>Чтобы вернуться к старому паролю, выйдите из программы и откройте папку сейфа. Сохраните копию «safe.passid» в другом месте. Затем скопируйте «safe.passid.bak» поверх «safe.passid»: каждая запись снова откроется старым паролем, и его можно будет сменить заново.</translation>
     </message>
+    <message>
+        <source>The change of the password was stopped before it was done, as “%1” had to be saved at once. The old password still opens it. You can change it anew.</source>
+        <translation>Смена пароля была остановлена до завершения, так как сейф «%1» нужно было сразу сохранить. Его по-прежнему открывает старый пароль. Вы можете сменить его снова.</translation>
+    </message>
+    <message>
+        <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
+        <translation>Этот новый пароль не принят: другая смена пароля ещё идёт. Дождитесь её окончания и попробуйте снова.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -3926,6 +3934,10 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
             <numerusform>Сейфа «%1» больше нет. В его папке осталось %n других файлов:
 %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The safe keeps its name while its password is being changed. Try again when that is done.</source>
+        <translation>Пока меняется пароль, сейф сохраняет своё название. Попробуйте снова после этого.</translation>
     </message>
 </context>
 <context>
