@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
+#include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
@@ -264,6 +265,20 @@ private Q_SLOTS:
         QVERIFY(!m_two->beside("cloudPasswordDialog"));
         QVERIFY(m_two->core.currentSafe()->isPassword(newPassword));
         QVERIFY(m_two->item(id));
+    }
+
+    void theListOfSafesIsAboveWhatBlocksTheWindow()
+    {
+        Theme theme;
+        CloudDesk desk(m_one->core, theme);
+        QWidget main;
+        desk.setMain(&main);
+        QDialog wizard(&main);
+        wizard.setModal(true);
+        main.show();
+        wizard.show();
+        desk.openImport();
+        QVERIFY(Computer::shown(wizard, "cloudImportDialog"));
     }
 
     void turningOffAsksWhatBecomesOfTheCopy_data()

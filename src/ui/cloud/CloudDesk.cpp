@@ -90,7 +90,11 @@ void CloudDesk::askForPassword()
 QWidget *CloudDesk::front() const
 {
     QWidget *modal = QApplication::activeModalWidget();
-    return modal && m_main && m_main->isAncestorOf(modal) ? modal : m_main.data();
+    for (const QWidget *above = modal; above; above = above->parentWidget()) {
+        if (above == m_main)
+            return modal;
+    }
+    return m_main.data();
 }
 
 void CloudDesk::openImport()
