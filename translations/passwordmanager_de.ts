@@ -4960,6 +4960,10 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
         <source>This is the password from before a change that was interrupted.</source>
         <translation>Das ist das Passwort von vor einer Änderung, die unterbrochen wurde.</translation>
     </message>
+    <message>
+        <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
+        <translation>Dieses Passwort wurde auf einem anderen Computer gesetzt. Öffnen Sie mit dem früheren; dann werden Sie nach diesem gefragt.</translation>
+    </message>
 </context>
 <context>
     <name>WindowMover</name>

@@ -4960,6 +4960,10 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
         <source>This is the password from before a change that was interrupted.</source>
         <translation>Esta es la contraseña de antes de un cambio que se interrumpió.</translation>
     </message>
+    <message>
+        <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
+        <translation>Esta contraseña se puso en otro equipo. Abra con la anterior; después se le pide esta.</translation>
+    </message>
 </context>
 <context>
     <name>WindowMover</name>

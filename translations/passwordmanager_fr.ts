@@ -4960,6 +4960,10 @@ type:carte affiche un seul type d’éléments.
         <source>This is the password from before a change that was interrupted.</source>
         <translation>C’est le mot de passe d’avant un changement qui a été interrompu.</translation>
     </message>
+    <message>
+        <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
+        <translation>Ce mot de passe a été choisi sur un autre ordinateur. Déverrouillez avec l’ancien ; celui-ci vous sera demandé ensuite.</translation>
+    </message>
 </context>
 <context>
     <name>WindowMover</name>

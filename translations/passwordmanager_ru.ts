@@ -4996,6 +4996,10 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <source>This is the password from before a change that was interrupted.</source>
         <translation>Это пароль, который был до прерванной смены.</translation>
     </message>
+    <message>
+        <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
+        <translation>Этот пароль задан на другом компьютере. Откройте сейф прежним паролем, затем Вас попросят ввести этот.</translation>
+    </message>
 </context>
 <context>
     <name>WindowMover</name>

@@ -165,7 +165,7 @@ void GPMAppCore::setSafe(const std::shared_ptr<GPMSafe> &safe)
 void GPMAppCore::unlockCurrentSafe(const QString &password)
 {
     if (m_safe)
-        m_safe->unlockAsync(password);
+        m_safe->unlockAsync(password, safeFacts().of(m_safe->folder()).mirrorFolder);
 }
 
 void GPMAppCore::cancelUnlock()

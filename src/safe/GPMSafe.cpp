@@ -133,7 +133,7 @@ bool GPMSafe::unlock(const QString &password)
     return false;
 }
 
-void GPMSafe::unlockAsync(const QString &password)
+void GPMSafe::unlockAsync(const QString &password, const QString &mirrorFolder)
 {
     m_unlock = canUnlock() ? SafeUnlock::make(m_state.environment, m_state.folder,
                                               m_state.description, password)
@@ -144,6 +144,7 @@ void GPMSafe::unlockAsync(const QString &password)
                            [this] { Q_EMIT unlockFinished(SafeUnlock::Outcome::Unreadable); });
         return;
     }
+    m_unlock->setMirror(mirrorFolder);
     connect(m_unlock.get(), &SafeUnlock::progress, this, &GPMSafe::unlockProgress);
     connect(m_unlock.get(), &SafeUnlock::finished, this, &GPMSafe::onUnlockFinished);
     m_unlock->start();

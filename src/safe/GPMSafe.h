@@ -47,7 +47,9 @@ public:
 
     /// The same on the workers. unlockProgress() and then unlockFinished() follow; a call while one
     /// runs cancels that one without a signal.
-    void unlockAsync(const QString &password);
+    /// @param mirrorFolder where another computer may have given the safe its password; may be
+    /// empty
+    void unlockAsync(const QString &password, const QString &mirrorFolder = {});
     void cancelUnlock();
 
     /// Saves what is changed, then forgets password and items. What cannot be written is kept as a

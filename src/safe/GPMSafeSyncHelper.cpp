@@ -1,6 +1,5 @@
 #include "GPMSafeSyncHelper.h"
 
-#include "SafeCrypto.h"
 #include "SafeLayout.h"
 #include "SyncMirror.h"
 
@@ -78,14 +77,6 @@ void GPMSafeSyncHelper::pause()
     m_safe->cancelMeeting();
     if (!m_watcher.directories().isEmpty())
         m_watcher.removePaths(m_watcher.directories());
-}
-
-bool GPMSafeSyncHelper::opensMirror(const QString &password) const
-{
-    const auto passId =
-        m_environment.files->read(SafeFolder(m_mirrorFolder).path(SafeLayout::passId));
-    const SecretBytes secret = SecretBytes::fromText(password);
-    return passId && checkPassId(secret.view(), QString::fromLatin1(*passId));
 }
 
 void GPMSafeSyncHelper::onLockedChanged(bool locked)

@@ -49,9 +49,6 @@ public:
     /// this helper is there.
     QDateTime lastMet() const { return m_lastMet; }
 
-    /// Whether a password opens the mirror, to be asked before the safe takes it over.
-    bool opensMirror(const QString &password) const;
-
 Q_SIGNALS:
     /// A meeting begins; synchronized() follows, unless pause() comes first. One that brings much,
     /// or gives way to who saves, goes on in several parts and counts as one.

@@ -35,7 +35,7 @@ std::unique_ptr<SafeUnlock> SafeUnlock::make(const SafeEnvironment &environment,
 void SafeUnlock::logFailure(Outcome outcome, const SafeFolder &folder)
 {
     if (outcome == Outcome::WrongPassword || outcome == Outcome::FormerPassword ||
-        outcome == Outcome::InterruptedChange)
+        outcome == Outcome::InterruptedChange || outcome == Outcome::MirrorPassword)
         qWarning() << operation << "Pass id doesn't match specified password";
     else if (outcome == Outcome::Unreadable)
         qWarning() << operation << "Can't read safe content directory:" << folder.root();
@@ -76,14 +76,16 @@ void SafeUnlock::start()
 {
     connect(&m_check, &QFutureWatcher<bool>::finished, this, &SafeUnlock::onChecked);
     // Nobody waits for it, as it may take long: it works on copies.
-    m_check.setFuture(QtConcurrent::run(
-        [files = m_environment.files, folder = m_folder, password = m_password, passId = m_passId] {
-            return check(*files, folder, password->view(), passId);
+    m_check.setFuture(
+        QtConcurrent::run([files = m_environment.files, folder = m_folder, mirror = m_mirrorFolder,
+                           password = m_password, passId = m_passId] {
+            return check(*files, folder, mirror, password->view(), passId);
         }));
 }
 
 SafeUnlock::Outcome SafeUnlock::check(FileLayer &files, const SafeFolder &folder,
-                                      const QByteArray &password, const QString &passId)
+                                      const QString &mirrorFolder, const QByteArray &password,
+                                      const QString &passId)
 {
     if (checkPassId(password, passId))
         return Outcome::Unlocked;
@@ -95,7 +97,12 @@ SafeUnlock::Outcome SafeUnlock::check(FileLayer &files, const SafeFolder &folder
     case FormerPassword::Interrupted:
         return Outcome::InterruptedChange;
     }
-    return Outcome::WrongPassword;
+    if (mirrorFolder.isEmpty())
+        return Outcome::WrongPassword;
+    const auto mirrored = files.read(SafeFolder(mirrorFolder).path(SafeLayout::passId));
+    return mirrored && checkPassId(password, QString::fromLatin1(*mirrored))
+               ? Outcome::MirrorPassword
+               : Outcome::WrongPassword;
 }
 
 void SafeUnlock::cancel()

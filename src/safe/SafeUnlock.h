@@ -21,6 +21,7 @@ public:
         WrongPassword,
         FormerPassword,    ///< the one of before the last change
         InterruptedChange, ///< the one of before a change that was interrupted; it opens every item
+        MirrorPassword,    ///< the one that the safe was given on another computer
         Unreadable,
         Cancelled
     };
@@ -39,6 +40,9 @@ public:
     /// Cancels a run and waits for the files that workers have in hand.
     ~SafeUnlock() override;
 
+    /// Also tries the password on the mirror of the safe when it does not open the safe itself.
+    void setMirror(const QString &mirrorFolder) { m_mirrorFolder = mirrorFolder; }
+
     /// Runs to the end before it returns; no signal is emitted.
     Outcome run();
 
@@ -55,14 +59,15 @@ Q_SIGNALS:
     void finished(SafeUnlock::Outcome outcome);
 
 private:
-    static Outcome check(FileLayer &files, const SafeFolder &folder, const QByteArray &password,
-                         const QString &passId);
+    static Outcome check(FileLayer &files, const SafeFolder &folder, const QString &mirrorFolder,
+                         const QByteArray &password, const QString &passId);
     bool startLoading();
     void onChecked();
     void onLoaded();
 
     SafeEnvironment m_environment;
     SafeFolder m_folder;
+    QString m_mirrorFolder;
     QString m_passId;
     std::shared_ptr<const SecretBytes> m_password;
     QFutureWatcher<Outcome> m_check;

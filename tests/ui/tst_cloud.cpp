@@ -18,6 +18,8 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <optional>
+
 namespace {
 
 using State = CloudStatus::State;
@@ -55,6 +57,17 @@ struct Computer
         login->setTitle(title);
         login->setLogin(QStringLiteral("ana"));
         return core.modelAddItem(std::move(login))->id();
+    }
+    /// Nothing when no answer comes.
+    std::optional<SafeUnlock::Outcome> unlock(const QString &password)
+    {
+        std::optional<SafeUnlock::Outcome> outcome;
+        QObject here;
+        QObject::connect(&core, &GPMAppCore::unlockFinished, &here,
+                         [&outcome](SafeUnlock::Outcome answer) { outcome = answer; });
+        core.unlockCurrentSafe(password);
+        (void)QTest::qWaitFor([&outcome] { return outcome.has_value(); }, quickly);
+        return outcome;
     }
     PMListItem *item(const QString &id) { return core.currentSafe()->item(id); }
     State state() { return core.cloud().status().state; }
@@ -251,6 +264,14 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(Computer::shown(m_two->window(), "cloudPasswordMessage"), quickly);
         find<QAbstractButton>(*m_two->beside("cloudPasswordDialog"), "notNowButton")->click();
         QVERIFY(!m_two->beside("cloudPasswordDialog"));
+
+        // Nobody is told that a password is wrong which the safe has elsewhere.
+        m_two->core.lockCurrentSafe();
+        using Outcome = SafeUnlock::Outcome;
+        QCOMPARE(m_two->unlock(newPassword), std::optional(Outcome::MirrorPassword));
+        QCOMPARE(m_two->unlock(QStringLiteral("wrong")), std::optional(Outcome::WrongPassword));
+        QCOMPARE(m_two->unlock(testPassword), std::optional(Outcome::Unlocked));
+        QTRY_VERIFY_WITH_TIMEOUT(m_two->core.cloud().needsPassword(), quickly);
         QCOMPARE(find<QLabel>(m_two->window(), "safeState")->text(),
                  QStringLiteral("New password"));
 

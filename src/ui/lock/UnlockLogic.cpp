@@ -176,6 +176,10 @@ void UnlockLogic::onFinished(SafeUnlock::Outcome outcome)
     case SafeUnlock::Outcome::InterruptedChange:
         setMessage(tr("This is the password from before a change that was interrupted."));
         break;
+    case SafeUnlock::Outcome::MirrorPassword:
+        setMessage(tr("This password was set on another computer. Unlock with the former one; then "
+                      "you are asked for this one."));
+        break;
     case SafeUnlock::Outcome::Unreadable:
         setMessage(tr("The safe could not be read. Check that its folder is there and that you "
                       "may read it, then try again."));
