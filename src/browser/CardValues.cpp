@@ -53,9 +53,9 @@ QString numberValue(const QString &number, const FieldPlace &place)
         return groupAt(digits, place);
     const bool wantsGroups = groups.match(field.placeholder().trimmed()).hasMatch() &&
                              field.inputType() != QLatin1String("number");
-    const bool takesDigits = matchesPattern(field, digits);
+    const bool takesDigits = matchesPattern(place, digits);
     const QString inGroups = grouped(digits);
-    if ((wantsGroups || !takesDigits) && fits(field, inGroups) && matchesPattern(field, inGroups))
+    if ((wantsGroups || !takesDigits) && fits(field, inGroups) && matchesPattern(place, inGroups))
         return inGroups;
     return fits(field, digits) ? digits : QString();
 }
@@ -110,7 +110,7 @@ QString cardValue(const PMCreditCard &card, const FieldPlace &place)
     case FieldKind::CardYear:
         return expire.year > 0 ? yearText(expire.year, field) : QString();
     case FieldKind::CardExpiry:
-        return expiryText(expire, field);
+        return expiryText(expire, place);
     case FieldKind::CardType:
         return brandValue(card.number(), place);
     default:

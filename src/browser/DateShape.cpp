@@ -6,9 +6,6 @@
 
 namespace {
 
-/// The longest pattern that is tried: a page's own expression may be slow on purpose.
-constexpr int longestPattern = 100;
-
 QStringList hintsOf(const FormField &field)
 {
     return QStringList(field.placeholder()) + field.readTexts();
@@ -87,10 +84,11 @@ QString inShape(const Shape &shape, const PMFieldTypes::Date &date)
     return parts.join(shape.separator);
 }
 
-QString firstThatGoes(const FormField &field, const QStringList &texts)
+QString firstThatGoes(const FieldPlace &place, const QStringList &texts)
 {
+    const FormField &field = place.field();
     for (const QString &text : texts) {
-        if (fits(field, text) && matchesPattern(field, text))
+        if (fits(field, text) && matchesPattern(place, text))
             return text;
     }
     return fits(field, texts.first()) ? texts.first() : QString();
@@ -108,12 +106,9 @@ bool fits(const FormField &field, const QString &text)
     return field.maxLength() <= 0 || text.size() <= field.maxLength();
 }
 
-bool matchesPattern(const FormField &field, const QString &text)
+bool matchesPattern(const FieldPlace &place, const QString &text)
 {
-    if (field.pattern().isEmpty() || field.pattern().size() > longestPattern)
-        return true;
-    const QRegularExpression pattern(QStringLiteral("^(?:%1)$").arg(field.pattern()));
-    return !pattern.isValid() || pattern.match(text).hasMatch();
+    return place.patterns.takes(place.field().pattern(), text);
 }
 
 QString yearText(int year, const FormField &field)
@@ -126,8 +121,9 @@ QString yearText(int year, const FormField &field)
     return isShort && !field.isSelect() ? twoFigures(year % 100) : QString::number(year);
 }
 
-QString expiryText(const PMFieldTypes::Date &date, const FormField &field)
+QString expiryText(const PMFieldTypes::Date &date, const FieldPlace &place)
 {
+    const FormField &field = place.field();
     if (date.year == 0 || date.month == 0)
         return {};
     const QString month = twoFigures(date.month);
@@ -154,11 +150,13 @@ QString expiryText(const PMFieldTypes::Date &date, const FormField &field)
     const Shape shape = shapeOf(field, 2);
     if (!shape.runs.isEmpty())
         texts.prepend(inShape(shape, date));
-    return firstThatGoes(field, texts);
+    return firstThatGoes(place, texts);
 }
 
-QString birthText(const PMFieldTypes::Date &date, const FormField &field, const QString &language)
+QString birthText(const PMFieldTypes::Date &date, const FieldPlace &place)
 {
+    const FormField &field = place.field();
+    const QString &language = place.language;
     if (date.year == 0 || date.month == 0 || date.day == 0)
         return {};
     const QString day = twoFigures(date.day);
@@ -183,5 +181,5 @@ QString birthText(const PMFieldTypes::Date &date, const FormField &field, const 
     const Shape shape = shapeOf(field, 3);
     if (!shape.runs.isEmpty())
         texts.prepend(inShape(shape, date));
-    return firstThatGoes(field, texts);
+    return firstThatGoes(place, texts);
 }

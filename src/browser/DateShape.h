@@ -1,16 +1,16 @@
 #pragma once
 
-#include "FormField.h"
+#include "FieldPlace.h"
 #include "PMFieldTypes.h"
 
 /// The date of a card as the field asks for it, by its kind, placeholder, label, pattern or length:
 /// "09/29", "09/2029", "2029-09", "0929". "09/29" when it asks for nothing. Empty without a year
 /// and a month.
-QString expiryText(const PMFieldTypes::Date &date, const FormField &field);
+QString expiryText(const PMFieldTypes::Date &date, const FieldPlace &place);
 
 /// The date of a birth as the field asks for it: "1990-02-01", "01.02.1990", "02/01/1990"; as the
 /// language of the page writes dates when it asks for nothing. Empty for an incomplete date.
-QString birthText(const PMFieldTypes::Date &date, const FormField &field, const QString &language);
+QString birthText(const PMFieldTypes::Date &date, const FieldPlace &place);
 
 /// A year as the field asks for it: with two figures or with four.
 QString yearText(int year, const FormField &field);
@@ -19,7 +19,7 @@ QString yearText(int year, const FormField &field);
 QString twoFigures(int number);
 
 /// Whether the field's own pattern, if it has one, takes the text.
-bool matchesPattern(const FormField &field, const QString &text);
+bool matchesPattern(const FieldPlace &place, const QString &text);
 
 /// Whether the text is not longer than the field takes.
 bool fits(const FormField &field, const QString &text);

@@ -10,6 +10,8 @@ namespace {
 
 constexpr int firstYear = 1900;
 constexpr int lastYear = 2100;
+/// The page writes the choices; what is longer is none.
+constexpr int longestChoice = 200;
 
 QHash<QString, int> monthNames()
 {
@@ -97,7 +99,7 @@ Sex sexOfChoice(const QString &text)
         QStringLiteral("f|w|female|woman|mrs|ms|miss|madam|frau|weiblich|mujer|femenino|sra|srta|"
                        "senora|femme|feminin|mme|madame|mlle|женщина|женскии|жен|ж|г жа|госпожа")
             .split(QLatin1Char('|'));
-    const QString plain = wordsOf(text).join(QLatin1Char(' '));
+    const QString plain = wordsOf(text.left(longestChoice)).join(QLatin1Char(' '));
     if (men.contains(plain))
         return Sex::Male;
     return women.contains(plain) ? Sex::Female : Sex::Unknown;
@@ -109,7 +111,9 @@ FieldKind kindOfOptions(const QVector<FormField::Option> &options)
     for (const FormField::Option &option : options) {
         // The first is often an invitation to choose.
         if (!option.value.isEmpty() && option.value != QLatin1String("0"))
-            count(tally, option.text.trimmed().isEmpty() ? option.value : option.text);
+            count(
+                tally,
+                (option.text.trimmed().isEmpty() ? option.value : option.text).left(longestChoice));
     }
     if (tally.all < 2)
         return FieldKind::Unknown;

@@ -2,6 +2,7 @@
 
 #include "FieldKind.h"
 #include "FormField.h"
+#include "PatternTests.h"
 
 #include <QVector>
 
@@ -14,6 +15,8 @@ struct FieldPlace
     int at;
     /// Of the page, as in "en-GB"; may be empty.
     QString language;
+    /// Of the whole page.
+    PatternTests &patterns;
 
     const FormField &field() const { return fields.at(at); }
     FieldKind kind() const { return kinds.at(at); }

@@ -19,11 +19,65 @@ bool belongsTo(FieldKind kind, FillAction action)
     return false;
 }
 
+bool isChoice(const FormField &field)
+{
+    return field.isSelect() || field.isRadio();
+}
+
 /// A list or a button is often drawn anew and the page's own hidden behind it; a line of text that
 /// nobody can see is a trap.
 bool isTrap(const FormField &field)
 {
-    return !field.isVisible() && !field.isSelect() && !field.isRadio();
+    return !field.isVisible() && !isChoice(field);
+}
+
+/// What belongs together on a page, for a choice that nobody sees.
+enum class Group { None, Card, Address, Birth, Phone };
+
+Group groupOf(FieldKind kind)
+{
+    if (isCardKind(kind))
+        return Group::Card;
+    if (kind >= FieldKind::BirthDate && kind <= FieldKind::BirthYear)
+        return Group::Birth;
+    if (kind >= FieldKind::Phone && kind <= FieldKind::PhoneNumber)
+        return Group::Phone;
+    return isIdentityKind(kind) ? Group::Address : Group::None;
+}
+
+bool isChosenFrom(FieldKind kind)
+{
+    static const QVector<FieldKind> kinds = {
+        FieldKind::CardMonth, FieldKind::CardYear, FieldKind::CardType, FieldKind::Country,
+        FieldKind::State,     FieldKind::Gender,   FieldKind::BirthDay, FieldKind::BirthMonth,
+        FieldKind::BirthYear, FieldKind::PhoneCode};
+    return kinds.contains(kind);
+}
+
+bool isTyped(FieldKind kind)
+{
+    return kind == FieldKind::CardNumber || kind == FieldKind::CardCode ||
+           kind == FieldKind::CardExpiry;
+}
+
+/// A choice that nobody sees receives only what is chosen from a list, and only beside a field of
+/// its group that the user sees filled.
+void leaveHiddenChoices(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
+{
+    QVector<Group> seen;
+    for (int i = 0; i < fields.size(); ++i) {
+        const Group group = groupOf(kinds.at(i));
+        if (fields.at(i).isVisible() && !seen.contains(group))
+            seen.append(group);
+    }
+    for (int i = 0; i < fields.size(); ++i) {
+        const FormField &field = fields.at(i);
+        const FieldKind kind = kinds.at(i);
+        const bool isAlone = !isChosenFrom(kind) || !seen.contains(groupOf(kind));
+        const bool isHidden = field.hasHints() && !field.isVisible() && isAlone;
+        if (isChoice(field) && (isTyped(kind) || isHidden))
+            kinds[i] = FieldKind::Unknown;
+    }
 }
 
 /// Everybody can read along in a line of text: a password of the user's does not go there. One that
@@ -78,5 +132,6 @@ QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurro
             kind = FieldKind::Unknown;
         kinds.append(belongsTo(kind, action) ? kind : FieldKind::Unknown);
     }
+    leaveHiddenChoices(fields, kinds);
     return kinds;
 }

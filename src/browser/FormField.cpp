@@ -4,12 +4,14 @@ namespace {
 
 /// No page describes a field in so many letters; one that does shall not keep the program busy.
 constexpr int longestText = 1000;
+constexpr int longestValue = 10000;
 
 } // namespace
 
 FormField::FormField(const QJsonObject &object)
     : m_object(object)
     , m_type(text("type").toLower())
+    , m_maxLength(qBound(0, object.value(QLatin1String("maxlength")).toInt(), longestValue))
 {
     if (m_type.isEmpty())
         m_type = text("inputtype").toLower();
@@ -48,11 +50,6 @@ bool FormField::hasHints() const
 QStringList FormField::readTexts() const
 {
     return {label(), text("ariaLabel"), placeholder(), text("textBefore"), text("tableHead")};
-}
-
-int FormField::maxLength() const
-{
-    return m_object.value(QLatin1String("maxlength")).toInt();
 }
 
 QVector<FormField::Option> FormField::options() const

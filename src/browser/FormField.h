@@ -53,7 +53,7 @@ public:
     bool isFixed() const { return flag("isFixed"); }
     bool isFilled() const { return flag("isFilled"); }
     /// The most letters that it takes, 0 for no limit.
-    int maxLength() const;
+    int maxLength() const { return m_maxLength; }
 
     struct Option
     {
@@ -69,4 +69,5 @@ private:
 
     QJsonObject m_object;
     QString m_type; ///< in lower case
+    int m_maxLength;
 };

@@ -288,12 +288,21 @@ void FormFillFlow::continueFill(const QString &callerId, const QString &reason,
         fillItem(*item, *request, payload);
 }
 
-/// A card or a person goes into the page that the user sees, whatever its site, and once.
+/// A card or a person goes into the page that the user sees, whatever its site, and once; and only
+/// when nobody on the way can read it.
 void FormFillFlow::fillItem(const PMListItem &item, const FillRequest &request,
                             const QJsonObject &payload)
 {
     const QString itemId = item.id();
     m_requests.remove(itemId);
+    const auto page = SiteAddress::parse(textOf(payload, "tabUrl"));
+    if (!page || !page->isSecure()) {
+        const bool isCard = item.type() == PMListItem::CreditCard;
+        Q_EMIT userNotice(tr("This page is not encrypted"),
+                          isCard ? tr("A card is filled into encrypted pages (https) alone.")
+                                 : tr("An identity is filled into encrypted pages (https) alone."));
+        return;
+    }
     const QVector<FilledForm> forms = fillItemForms(documentOf(payload), item);
     if (forms.isEmpty()) {
         Q_EMIT userNotice(tr("Nothing to fill"),

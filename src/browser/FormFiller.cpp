@@ -6,15 +6,15 @@
 
 namespace {
 
-/// More fields than the extension ever reports.
-constexpr int mostFields = 200000;
+/// More fields than a page has that a person fills.
+constexpr int mostFields = 1000;
 
-QVector<FormField> fieldsOf(const QJsonArray &entries)
+QVector<FormField> fieldsOf(const QJsonArray &entries, int most)
 {
     QVector<FormField> fields;
-    for (const QJsonValue &entry : entries) {
-        if (entry.isObject() && fields.size() < mostFields)
-            fields.append(FormField(entry.toObject()));
+    for (int i = 0; i < entries.size() && fields.size() < most; ++i) {
+        if (entries.at(i).isObject())
+            fields.append(FormField(entries.at(i).toObject()));
     }
     return fields;
 }
@@ -31,15 +31,18 @@ QVector<FilledForm> fillForms(const QJsonObject &page, FillAction action, const 
     const QString title = page.value(QLatin1String("title")).toString();
     const QString language = page.value(QLatin1String("language")).toString();
     QVector<FilledForm> filled;
+    PatternTests patterns;
+    int left = mostFields;
     const auto add = [&](const QString &formUid, const QJsonObject &form) {
-        const auto fields = fieldsOf(form.value(QLatin1String("fields")).toArray());
+        const auto fields = fieldsOf(form.value(QLatin1String("fields")).toArray(), left);
+        left -= fields.size();
         const auto kinds = analyseForm(fields, FormSurroundings::of(form, title), action);
         FilledForm result;
         result.formUid = formUid;
         for (int i = 0; i < fields.size(); ++i) {
             if (kinds.at(i) == FieldKind::Unknown)
                 continue;
-            const QString value = valueAt({fields, kinds, i, language});
+            const QString value = valueAt({fields, kinds, i, language, patterns});
             if (value.isEmpty())
                 continue;
             result.fields.append({fields.at(i).opid(), fields.at(i).gpmid(), value});

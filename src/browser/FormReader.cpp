@@ -4,6 +4,7 @@
 #include "FieldPhrases.h"
 #include "LoginRoles.h"
 
+#include <QHash>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -33,9 +34,11 @@ public:
     {
         for (int i = 0; i < m_fields.size(); ++i)
             continueList(i);
+        const QHash<QString, Sexes> sexes = sexesOfRadios();
         for (int i = 0; i < m_fields.size(); ++i) {
             if (m_fields.at(i).isRadio())
-                m_kinds[i] = radioKind(i);
+                m_kinds[i] = sexes.value(m_fields.at(i).name()).areBoth() ? FieldKind::Gender
+                                                                          : FieldKind::Other;
             else if (isDatePart(m_kinds.at(i)) && !reading(i).isTold)
                 readDate(i);
         }
@@ -48,6 +51,15 @@ public:
     }
 
 private:
+    /// Which can be chosen among the buttons of one name.
+    struct Sexes
+    {
+        bool male = false;
+        bool female = false;
+
+        bool areBoth() const { return male && female; }
+    };
+
     static bool isDatePart(FieldKind kind)
     {
         static const QVector<FieldKind> parts = {
@@ -96,7 +108,7 @@ private:
     void readNeighbours(int at);
     void readVague(int at);
     FieldKind plainName(int at) const;
-    FieldKind radioKind(int at) const;
+    QHash<QString, Sexes> sexesOfRadios() const;
 
     const QVector<FormField> &m_fields;
     const FormSurroundings &m_around;
@@ -206,20 +218,20 @@ void Reader::readDate(int at)
         m_kinds[at + 1] = FieldKind::CardYear;
 }
 
-FieldKind Reader::radioKind(int at) const
+QHash<QString, Reader::Sexes> Reader::sexesOfRadios() const
 {
-    const QString name = m_fields.at(at).name();
-    bool man = false;
-    bool woman = false;
+    QHash<QString, Sexes> byName;
     for (const FormField &field : m_fields) {
-        if (!field.isRadio() || field.name() != name)
+        if (!field.isRadio())
             continue;
+        Sexes &sexes = byName[field.name()];
         for (const QString &text : {field.label(), field.textAfter(), field.value()}) {
-            man = man || sexOfChoice(text) == Sex::Male;
-            woman = woman || sexOfChoice(text) == Sex::Female;
+            const Sex sex = sexOfChoice(text);
+            sexes.male = sexes.male || sex == Sex::Male;
+            sexes.female = sexes.female || sex == Sex::Female;
         }
     }
-    return man && woman ? FieldKind::Gender : FieldKind::Other;
+    return byName;
 }
 
 void Reader::readNeighbours(int at)

@@ -177,7 +177,7 @@ QString birthValue(const PMFieldTypes::Date &date, const FieldPlace &place)
     case FieldKind::BirthYear:
         return date.year > 0 ? yearText(date.year, field) : QString();
     default:
-        return birthText(date, field, place.language);
+        return birthText(date, place);
     }
 }
 
@@ -213,7 +213,7 @@ QString identityValue(const PMIdentity &identity, const FieldPlace &place)
     case FieldKind::PhoneNumber:
         return phoneText(phoneFor(identity, field), place);
     case FieldKind::PhoneCode:
-        return dialCodeText(phoneFor(identity, numberField(place)), identity.country(), field);
+        return dialCodeText(phoneFor(identity, numberField(place)), identity.country(), place);
     case FieldKind::Gender:
         return genderValue(identity.gender(), place);
     case FieldKind::Company:

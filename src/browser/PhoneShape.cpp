@@ -52,15 +52,16 @@ QString phoneText(const PMFieldTypes::Phone &phone, const FieldPlace &place)
     if (field.inputType() == QLatin1String("number"))
         texts = QStringList(code + digitsOf(number));
     for (const QString &text : qAsConst(texts)) {
-        if (fits(field, text) && matchesPattern(field, text))
+        if (fits(field, text) && matchesPattern(place, text))
             return text;
     }
     return fits(field, texts.first()) ? texts.first() : QString();
 }
 
 QString dialCodeText(const PMFieldTypes::Phone &phone, const QString &country,
-                     const FormField &field)
+                     const FieldPlace &place)
 {
+    const FormField &field = place.field();
     const QString code = digitsOf(phone.code);
     if (code.isEmpty())
         return {};
@@ -81,6 +82,6 @@ QString dialCodeText(const PMFieldTypes::Phone &phone, const QString &country,
         return first;
     const QString withPlus = QLatin1Char('+') + code;
     const bool takesPlus = field.inputType() != QLatin1String("number") && fits(field, withPlus) &&
-                           matchesPattern(field, withPlus);
+                           matchesPattern(place, withPlus);
     return takesPlus ? withPlus : code;
 }

@@ -9,4 +9,4 @@ QString phoneText(const PMFieldTypes::Phone &phone, const FieldPlace &place);
 
 /// The dialling code for a field of its own: the option that names it, else "+49".
 QString dialCodeText(const PMFieldTypes::Phone &phone, const QString &country,
-                     const FormField &field);
+                     const FieldPlace &place);

@@ -4,6 +4,7 @@
 #include "LoginForms.h"
 #include "PMCreditCard.h"
 #include "PMIdentity.h"
+#include "PatternTests.h"
 
 #include <QJsonDocument>
 #include <QTest>
@@ -98,6 +99,9 @@ private Q_SLOTS:
     void veto_data();
     void veto();
     void layers();
+    void hiddenChoices_data();
+    void hiddenChoices();
+    void patterns();
     void badInput();
 };
 
@@ -342,6 +346,69 @@ void TestFormAnalysis::layers()
              QStringLiteral("-|new|new"));
 }
 
+// A list that nobody sees is filled only beside what the user sees filled.
+void TestFormAnalysis::hiddenChoices_data()
+{
+    QTest::addColumn<QByteArray>("fields");
+    QTest::addColumn<QString>("values");
+    const auto row = [](const char *fields, const char *values) {
+        QTest::addRow("%s", fields) << QByteArray(fields) << QString::fromUtf8(values);
+    };
+    const QByteArray list = R"({"type":"select-one","visible":false,"autocomplete":")";
+    const QByteArray lists = list + R"(cc-number"}, )" + list + R"(cc-csc"}, )" + list +
+                             R"(cc-exp"}, )" + list + R"(cc-exp-month"}, )" + list +
+                             R"(given-name"}, )" + list + R"(country"}, )" + list +
+                             R"(bday-year"}, )" + list + R"(tel-country-code"})";
+    row(lists.constData(), "-|-|-|-|-|-|-|-");
+    row((lists + R"(, {"label":"Card number"})").constData(), "-|-|-|09|-|-|-|-|4111111111111111");
+    row((lists + R"(, {"label":"Card number","visible":false})").constData(), "-|-|-|-|-|-|-|-|-");
+    row((lists + R"(, {"label":"City"})").constData(), "-|-|-|-|-|Germany|-|-|Kassel");
+    row((lists + R"(, {"label":"City","isFilled":true})").constData(), "-|-|-|-|-|-|-|-|-");
+    row((lists + R"(, {"autocomplete":"bday-day"})").constData(), "-|-|-|-|-|-|1990|-|01");
+    row(R"({"type":"select-one","autocomplete":"cc-csc"}, {"label":"Card number"})",
+        "-|4111111111111111");
+    const QByteArray buttons =
+        R"({"label":"Male","type":"radio","name":"g","value":"1","visible":false},
+           {"label":"Female","type":"radio","name":"g","value":"2","visible":false})";
+    row(buttons.constData(), "-|-");
+    row((buttons + R"(, {"label":"City"})").constData(), "-|2|Kassel");
+}
+
+void TestFormAnalysis::hiddenChoices()
+{
+    QFETCH(QByteArray, fields);
+    PMCreditCard card;
+    fillIn(card);
+    PMIdentity identity;
+    fillIn(identity);
+    const QJsonObject page = pageOf(fields);
+    QTEST(valuesOf(fillCardForms(page, card) + fillIdentityForms(page, identity), fieldsIn(page)),
+          "values");
+}
+
+// A pattern that says no is listened to, unless it is one that a page could stop the program with.
+void TestFormAnalysis::patterns()
+{
+    const auto takes = [](const char *pattern, const char *text = "01/30/2029") {
+        return PatternTests().takes(QLatin1String(pattern), QLatin1String(text));
+    };
+    QVERIFY(takes("\\d{2}/\\d{2}", "01/30"));
+    for (const char *plain : {"\\d{2}/\\d{2}", "(\\d{4} ?){4}", "(?:a|b)+", "[(+*]+", "\\(\\d+\\)"})
+        QVERIFY2(!takes(plain), plain);
+    for (const char *unsafe : {"(\\d+)+x", "((a*)b){2}", "(?=x)a", "(?<!x)a", "(.)\\1", "(?R)",
+                               "(*ACCEPT)a", "(?C1)a", "a)|(?:b", "\\Qa", "(a"})
+        QVERIFY2(takes(unsafe), unsafe);
+    // Each would say no after trying all ways; the limit of steps ends it before.
+    for (const char *hostile : {"(.|.|.|.)*[xy]", "(.|.)*(.|.)*(.|.)*(.|.)*[xy]"})
+        QVERIFY2(takes(hostile), hostile);
+
+    PatternTests page;
+    for (int i = 0; i < 40; ++i)
+        QVERIFY(!page.takes(QString::number(i), QStringLiteral("x")));
+    QVERIFY(page.takes(QStringLiteral("40"), QStringLiteral("x")));  // one too many
+    QVERIFY(!page.takes(QStringLiteral("39"), QStringLiteral("x"))); // known
+}
+
 void TestFormAnalysis::badInput()
 {
     PMIdentity identity;
@@ -363,10 +430,25 @@ void TestFormAnalysis::badInput()
         page.insert(QStringLiteral("elements"), QJsonArray{field});
         QVERIFY(!fillIdentityForms(page, identity).isEmpty());
     }
+    // More fields than anybody fills, in one form or over the whole page.
+    const QJsonObject city = pageOf(R"({"label":"City"})");
     QJsonArray many;
-    for (int i = 0; i < 100000; ++i)
-        many.append(QJsonObject{{QStringLiteral("type"), QStringLiteral("text")}});
-    QVERIFY(fillIdentityForms({{QStringLiteral("elements"), many}}, identity).isEmpty());
+    for (int i = 0; i < 800; ++i)
+        many.append(city.value(QLatin1String("elements"))[0]);
+    const QJsonObject half = {{QStringLiteral("fields"), many}};
+    const auto forms = fillIdentityForms({{QStringLiteral("forms"), QJsonArray{half, half, half}},
+                                          {QStringLiteral("elements"), many}},
+                                         identity);
+    QCOMPARE(forms.size(), 2);
+    QCOMPARE(forms.last().fields.size(), 200);
+
+    // Lengths whose sum is no int.
+    PMCreditCard card;
+    fillIn(card);
+    const QJsonObject page = pageOf(R"({"label":"Card number","maxlength":2147483647},
+                  {"label":"Card number","maxlength":2147483647}, {"maxlength":4})");
+    QCOMPARE(valuesOf(fillCardForms(page, card), 3),
+             QStringLiteral("4111111111111111|4111111111111111|-"));
 }
 
 QTEST_APPLESS_MAIN(TestFormAnalysis)

@@ -275,7 +275,7 @@ void TestFormFillFlow::withoutExtension()
 }
 
 // Each line is an answer to one request, "action address forms", and what the extension then gets.
-// The page that is open is filled, whatever its site, and once for a request.
+// The page that is open is filled, whatever its site, when it is encrypted, and once for a request.
 void TestFormFillFlow::cardsAndIdentities()
 {
     auto card = std::make_unique<PMCreditCard>();
@@ -305,7 +305,7 @@ void TestFormFillFlow::cardsAndIdentities()
         QCOMPARE(text(m_request, "reason"), QLatin1String(kind.reason));
         QCOMPARE(text(m_request, "openmode"), QStringLiteral("currentNoReload"));
 
-        QJsonObject payload = reply(all, QStringLiteral("http://elsewhere.example"));
+        QJsonObject payload = reply(all, QStringLiteral("https://elsewhere.example"));
         expectWarning(discardedReply); // it says that it is for a login
         QCOMPARE(answer(payload), QString());
         payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
@@ -324,6 +324,21 @@ void TestFormFillFlow::cardsAndIdentities()
         payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
         QCOMPARE(answer(payload), QString());
         QCOMPARE(notice.size(), 1);
+
+        used.clear();
+        for (const char *readable :
+             {"http://shop.example/", "http://127.0.0.1/", "", "file:///a"}) {
+            notice.clear();
+            (m_flow.get()->*kind.act)(itemId, {}, {});
+            m_client->sayHello();
+            m_request = payloadOf(m_client->frames.last());
+            payload = reply(all, QLatin1String(readable));
+            payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
+            QCOMPARE(answer(payload), QString());
+            QCOMPARE(notice.value(0).value(0).toString(),
+                     QStringLiteral("This page is not encrypted"));
+        }
+        QVERIFY(used.isEmpty());
     }
     expectWarning("^Can't fill credit card data. Item must be type of \\[Credit Card\\].");
     m_flow->doCreditCardDefaultAction(itemId, {}, {});
