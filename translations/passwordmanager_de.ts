@@ -1664,6 +1664,18 @@ Sie lassen sich nicht wiederherstellen.</translation>
         <source>The page shows no empty fields for “%1”.</source>
         <translation>Die Seite zeigt keine leeren Felder für „%1“.</translation>
     </message>
+    <message>
+        <source>This page is not encrypted</source>
+        <translation>Diese Seite ist nicht verschlüsselt</translation>
+    </message>
+    <message>
+        <source>A card is filled into encrypted pages (https) alone.</source>
+        <translation>Eine Karte wird nur in verschlüsselte Seiten (https) eingefüllt.</translation>
+    </message>
+    <message>
+        <source>An identity is filled into encrypted pages (https) alone.</source>
+        <translation>Eine Identität wird nur in verschlüsselte Seiten (https) eingefüllt.</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>

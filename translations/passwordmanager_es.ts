@@ -1664,6 +1664,18 @@ No se podrá restaurar.</translation>
         <source>The page shows no empty fields for “%1”.</source>
         <translation>La página no muestra campos vacíos para “%1”.</translation>
     </message>
+    <message>
+        <source>This page is not encrypted</source>
+        <translation>Esta página no está cifrada</translation>
+    </message>
+    <message>
+        <source>A card is filled into encrypted pages (https) alone.</source>
+        <translation>Una tarjeta solo se rellena en páginas cifradas (https).</translation>
+    </message>
+    <message>
+        <source>An identity is filled into encrypted pages (https) alone.</source>
+        <translation>Una identidad solo se rellena en páginas cifradas (https).</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>

@@ -1664,6 +1664,18 @@ Elle ne pourra pas être restaurée.</translation>
         <source>The page shows no empty fields for “%1”.</source>
         <translation>La page n’a aucun champ vide pour «&#x202f;%1&#x202f;».</translation>
     </message>
+    <message>
+        <source>This page is not encrypted</source>
+        <translation>Cette page n’est pas chiffrée</translation>
+    </message>
+    <message>
+        <source>A card is filled into encrypted pages (https) alone.</source>
+        <translation>Une carte n’est remplie que dans des pages chiffrées (https).</translation>
+    </message>
+    <message>
+        <source>An identity is filled into encrypted pages (https) alone.</source>
+        <translation>Une identité n’est remplie que dans des pages chiffrées (https).</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>

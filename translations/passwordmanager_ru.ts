@@ -1678,6 +1678,18 @@ It can not be restored.</source>
         <source>The page shows no empty fields for “%1”.</source>
         <translation>На странице нет пустых полей для «%1».</translation>
     </message>
+    <message>
+        <source>This page is not encrypted</source>
+        <translation>Эта страница не зашифрована</translation>
+    </message>
+    <message>
+        <source>A card is filled into encrypted pages (https) alone.</source>
+        <translation>Карта заполняется только на зашифрованных страницах (https).</translation>
+    </message>
+    <message>
+        <source>An identity is filled into encrypted pages (https) alone.</source>
+        <translation>Личные данные заполняются только на зашифрованных страницах (https).</translation>
+    </message>
 </context>
 <context>
     <name>GPMAppCore</name>
