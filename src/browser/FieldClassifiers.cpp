@@ -64,7 +64,21 @@ const QVector<Classifier> &classifiers()
     return table;
 }
 
-bool takes(const Classifier &classifier, const FormField &field)
+/// Words of `any` that say little by themselves.
+enum class VagueWords { Count, AreSkipped };
+
+float scoreOfAny(const Classifier &classifier, const QStringList &texts, VagueWords vague)
+{
+    static const QStringList vagueWords = words("number name code first last state");
+    QStringList any = classifier.any;
+    if (vague == VagueWords::AreSkipped) {
+        for (const QString &word : vagueWords)
+            any.removeAll(word);
+    }
+    return keywordScore(texts, any);
+}
+
+bool takes(const Classifier &classifier, const FormField &field, VagueWords vague)
 {
     if (!field.hasType(classifier.types))
         return false;
@@ -77,7 +91,7 @@ bool takes(const Classifier &classifier, const FormField &field)
         if (isBarred)
             return false;
     }
-    return keywordScore(texts, classifier.any) > 0.0F ||
+    return scoreOfAny(classifier, texts, vague) > 0.0F ||
            containsPair(texts, classifier.first, classifier.second);
 }
 
@@ -122,9 +136,7 @@ FieldKind inAction(FieldKind kind, FillAction action)
     }
 }
 
-} // namespace
-
-FieldKind kindOfNames(const FormField &field, FillAction action)
+FieldKind kindOf(const FormField &field, FillAction action, VagueWords vague)
 {
     if (action == FillAction::Login)
         return kindOfLogin(field);
@@ -132,9 +144,21 @@ FieldKind kindOfNames(const FormField &field, FillAction action)
         return passwordScore(field) > 0.0F ? FieldKind::Password : FieldKind::Unknown;
     for (const FieldKind kind : orderOf(action)) {
         for (const Classifier &classifier : classifiers()) {
-            if (classifier.kind == kind && takes(classifier, field))
+            if (classifier.kind == kind && takes(classifier, field, vague))
                 return inAction(kind, action);
         }
     }
     return FieldKind::Unknown;
+}
+
+} // namespace
+
+FieldKind kindOfNames(const FormField &field, FillAction action)
+{
+    return kindOf(field, action, VagueWords::Count);
+}
+
+FieldKind kindOfPlainNames(const FormField &field, FillAction action)
+{
+    return kindOf(field.withoutClass(), action, VagueWords::AreSkipped);
 }

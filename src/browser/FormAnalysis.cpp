@@ -106,6 +106,16 @@ bool asksNames(FillAction action, const QVector<FieldKind> &read)
     return read.contains(FieldKind::Password) && !read.contains(FieldKind::UserName);
 }
 
+/// What the names of a field say that the reader made nothing of. A card's secrets need more than
+/// a word in a name: another field of the form that is a card's.
+FieldKind kindByFallback(const FormField &field, const QVector<FieldKind> &read, FillAction action)
+{
+    const FieldKind kind = kindOfPlainNames(field, action);
+    if (kind != FieldKind::CardNumber && kind != FieldKind::CardCode)
+        return kind;
+    return std::any_of(read.begin(), read.end(), isCardKind) ? kind : FieldKind::Unknown;
+}
+
 } // namespace
 
 QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurroundings &around,
@@ -127,7 +137,7 @@ QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurro
         else if (isVetoed(field, kind, action))
             kind = FieldKind::Unknown;
         else if (kind == FieldKind::Unknown && asksNames(action, read))
-            kind = kindOfNames(field, action);
+            kind = kindByFallback(field, read, action);
         if (isChosen && kind == FieldKind::Password)
             kind = FieldKind::Unknown;
         kinds.append(belongsTo(kind, action) ? kind : FieldKind::Unknown);

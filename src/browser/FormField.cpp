@@ -17,6 +17,14 @@ FormField::FormField(const QJsonObject &object)
         m_type = text("inputtype").toLower();
 }
 
+FormField FormField::withoutClass() const
+{
+    QJsonObject object = m_object;
+    object.remove(QStringLiteral("class"));
+    object.remove(QStringLiteral("sourceClass"));
+    return FormField(object);
+}
+
 bool FormField::hasType(const QStringList &types) const
 {
     return types.contains(m_type);

@@ -18,6 +18,7 @@ public:
     QString name() const { return attribute("name", "sourceName"); }
     QString id() const { return attribute("id", "sourceId"); }
     QString className() const { return attribute("class", "sourceClass"); }
+    FormField withoutClass() const;
     QString inputType() const { return text("inputtype"); }
     bool isVisible() const { return flag("visible"); }
 

@@ -89,6 +89,20 @@ private:
         return captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
     }
 
+    /// Whether another field says by itself that it is a card's, one close by or, under a card's
+    /// heading, any: the heading alone may be that of a gift or a customer's card.
+    bool isWithCard(int at) const
+    {
+        if (asksForCode(m_around))
+            return false;
+        const bool isHeaded = captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
+        for (int i = 0; i < m_fields.size(); ++i) {
+            if (i != at && isCardKind(reading(i).kind) && (isHeaded || qAbs(i - at) <= near))
+                return true;
+        }
+        return false;
+    }
+
     /// A field without a word of its own, which belongs to the one before it.
     bool isSilent(int i) const
     {
@@ -270,12 +284,12 @@ void Reader::readVague(int at)
         m_kinds[at] = plainName(at);
         return;
     case FieldKind::SomeNumber:
-        m_kinds[at] = isNearCard(at) && !has(FieldKind::CardNumber) ? FieldKind::CardNumber
+        m_kinds[at] = isWithCard(at) && !has(FieldKind::CardNumber) ? FieldKind::CardNumber
                                                                     : FieldKind::Other;
         return;
     case FieldKind::SomeCode:
         m_kinds[at] =
-            isNearCard(at) && !has(FieldKind::CardCode) ? FieldKind::CardCode : FieldKind::Other;
+            isWithCard(at) && !has(FieldKind::CardCode) ? FieldKind::CardCode : FieldKind::Other;
         return;
     default:
         return;

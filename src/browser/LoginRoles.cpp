@@ -87,8 +87,12 @@ void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> 
     }
     const int first = passwords.first();
     const FieldReading &second = readings.at(passwords.at(1));
-    const bool isPlain = readings.at(first).kind == FieldKind::Password;
-    if (isPlain && (passwords.size() > 2 || isOldBeside(readings.at(first), second, purpose)))
+    if (readings.at(first).kind != FieldKind::Password)
+        return;
+    // The old one leads the new and its confirmation. One that is confirmed itself is being chosen.
+    const bool leads = passwords.size() > 2 && purpose != CaptionKind::SignUp &&
+                       second.kind != FieldKind::RepeatedPassword;
+    if (leads || isOldBeside(readings.at(first), second, purpose))
         kinds[first] = FieldKind::Password;
 }
 
@@ -159,6 +163,11 @@ bool isIdentifierFirst(const QVector<FormField> &fields, const QVector<FieldRead
 }
 
 } // namespace
+
+bool asksForCode(const FormSurroundings &around)
+{
+    return purposeOf(around) == CaptionKind::Code;
+}
 
 void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                       const FormSurroundings &around, QVector<FieldKind> &kinds)

@@ -9,6 +9,9 @@
 void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                       const FormSurroundings &around, QVector<FieldKind> &kinds);
 
+/// Whether the form is there for a code that was sent to the user.
+bool asksForCode(const FormSurroundings &around);
+
 /// Whether the form is for an e-mail list and nothing else.
 bool isNewsletter(const QVector<FormField> &fields, const QVector<FieldKind> &kinds,
                   const FormSurroundings &around);

@@ -210,6 +210,17 @@ void TestFormAnalysis::cardShapes_data()
     row(R"({"label":"Card type","type":"select-one","options":[{"text":"MasterCard","value":"m"},{"text":"VISA","value":"v"}]},
             {"label":"Card number","isFilled":true}, {"label":"Name on card","isFixed":true})",
         "VISA|-|-");
+    // A word in a name, or a heading, is not enough for a card's secrets.
+    row(R"({"name":"room_number"}, {"name":"zz","class":"cardnumber"}, {"name":"estate_code"})",
+        "-|-|-");
+    row(R"({"name":"zzcardnumberzz"}, {"name":"zzcvv2zz"})", "-|-");
+    row(R"({"name":"zzcardnumberzz"}, {"autocomplete":"cc-name"})",
+        "4111111111111111|Ana Maria Lind");
+    row(R"({"label":"Number","heading":"Card"}, {"label":"Code","heading":"Card"})", "-|-");
+    row(R"({"label":"Number","heading":"Card"}, {"label":"Name on card"}, {"label":"Code"})",
+        "4111111111111111|Ana Maria Lind|123");
+    row(R"({"label":"Code","heading":"Verification code"}, {"label":"Card number"})",
+        "-|4111111111111111");
 }
 
 void TestFormAnalysis::cardShapes()
@@ -308,6 +319,12 @@ void TestFormAnalysis::veto_data()
     row(R"({"type":"password","label":"Old password"}, {"type":"password","label":"New password"},
             {"type":"password","label":"Repeat"})",
         "secret|-|-");
+    row(R"({"type":"password","label":"Password","heading":"Sign up"}, {"type":"password","label":"Confirm password"},
+            {"type":"password","label":"Security PIN"})",
+        "-|-|-");
+    row(R"({"type":"password","label":"Password"}, {"type":"password","label":"Confirm password"},
+            {"label":"User name"}, {"type":"password","label":"Password"})",
+        "-|-|-|-");
     row(R"({"type":"password","label":"Memorable answer"}, {"type":"password","label":"Password"})",
         "-|secret");
     row(R"({"label":"User name","isFilled":true}, {"type":"password","label":"Password"})",
