@@ -3,7 +3,12 @@
 #include <QHash>
 #include <QString>
 
+#include <chrono>
 #include <optional>
+
+/// How long an answer may take that goes into whatever page the user sees: later it describes one
+/// that he may have left.
+constexpr std::chrono::milliseconds answerPatience = std::chrono::seconds(30);
 
 /// A fill that the extension has been asked for and that is not finished.
 struct FillRequest

@@ -252,14 +252,19 @@ void FormFillFlow::placeWaitingPassword(const QString &callerId, const QJsonObje
 }
 
 std::optional<FillRequest> FormFillFlow::findRequest(const QString &callerId, const QString &reason,
-                                                     const QJsonObject &payload) const
+                                                     const QJsonObject &payload)
 {
     const auto tag = m_server.parsePluginReplay(callerId, payload);
     if (!tag)
         return std::nullopt;
     const QString itemId = textOf(payload, "itemid");
     std::optional<FillRequest> request = m_requests.find(itemId, tag->timestamp);
-    if (request && request->callerId == callerId && request->reason == reason)
+    // A login is held to its own site instead, and its password may be asked for minutes later.
+    const qint64 age = m_clock().toMSecsSinceEpoch() - tag->timestamp;
+    const bool isLate = request && request->reason != reasonLogin && age > answerPatience.count();
+    if (isLate)
+        m_requests.remove(itemId);
+    else if (request && request->callerId == callerId && request->reason == reason)
         return request;
     qWarning() << "Missing item id or timestamp for plugin replay:" << itemId << "at"
                << tag->timestamp << "- discarded";

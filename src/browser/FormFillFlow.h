@@ -88,7 +88,7 @@ private:
     void continueFill(const QString &callerId, const QString &reason, const QJsonObject &payload,
                       LoginPage loginPage);
     std::optional<FillRequest> findRequest(const QString &callerId, const QString &reason,
-                                           const QJsonObject &payload) const;
+                                           const QJsonObject &payload);
     void fillLogin(const PMLogin &login, const FillRequest &request, const QJsonObject &payload,
                    LoginPage loginPage);
     void fillItem(const PMListItem &item, const FillRequest &request, const QJsonObject &payload);

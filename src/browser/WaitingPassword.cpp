@@ -1,21 +1,14 @@
 #include "WaitingPassword.h"
 
+#include "FillRequests.h"
 #include "SecretBytes.h"
-
-#include <chrono>
-
-namespace {
-
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(30);
-
-} // namespace
 
 WaitingPassword::WaitingPassword(Clock clock, QObject *owner)
     : m_clock(std::move(clock))
     , m_forgetTimer(owner)
 {
     m_forgetTimer.setSingleShot(true);
-    m_forgetTimer.setInterval(patience);
+    m_forgetTimer.setInterval(answerPatience);
     QObject::connect(&m_forgetTimer, &QTimer::timeout, [this] { forget(); });
 }
 
@@ -47,8 +40,7 @@ bool WaitingPassword::isFor(const QString &callerId, const QJsonObject &payload)
     if (m_password.isEmpty() || m_callerId != callerId)
         return false;
     // A timer stands still while the computer sleeps.
-    if (m_clock().toMSecsSinceEpoch() - m_timestamp > patience.count())
+    if (m_clock().toMSecsSinceEpoch() - m_timestamp > answerPatience.count())
         return false;
-    const QJsonValue timestamp = payload.value(QLatin1String("timestamp"));
-    return timestamp.isUndefined() || timestamp.toString().toLongLong() == m_timestamp;
+    return payload.value(QLatin1String("timestamp")).toString().toLongLong() == m_timestamp;
 }

@@ -21,7 +21,7 @@ public:
     void forget();
 
     /// Whether the answer is to the request for this password. A late one describes a page that the
-    /// user may have left. An extension need not name the request that it answers.
+    /// user may have left.
     bool isFor(const QString &callerId, const QJsonObject &payload) const;
 
     const QString &password() const { return m_password; }
