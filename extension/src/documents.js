@@ -2,7 +2,10 @@ import { routedOpid } from './route.js';
 import { losesEncryption, sameSite } from './site.js';
 
 const MOST_FIELDS = 500;
+const MOST_OPTIONS = 5000;
 const LONGEST_ADDRESS = 4096;
+// The program closes the connection on a message of more than 8 MiB.
+const MOST_BYTES = 7 * 1024 * 1024;
 const TOP = 0;
 // One frame that is busy, such as an advertisement, must not keep the page from being filled.
 const FRAME_LIMIT = 1000;
@@ -94,10 +97,19 @@ export function createDocuments({ api, timers }) {
     const [{ title, url, language }] = reports;
     const docinfo = { title, url: url.slice(0, LONGEST_ADDRESS), language, forms: [], elements: [] };
     let room = MOST_FIELDS;
+    let optionRoom = MOST_OPTIONS;
     let password = false;
 
+    // A list that finds no room any more is described without its choices.
+    function takeOptions({ options }) {
+      if (!options) return {};
+      if (options.length > optionRoom) return { options: [] };
+      optionRoom -= options.length;
+      return { options };
+    }
+
     function take(fields, frame) {
-      const taken = fields.slice(0, room).map((field) => ({ ...field, opid: routedOpid(frame, field.opid) }));
+      const taken = fields.slice(0, room).map((field) => ({ ...field, opid: routedOpid(frame, field.opid), ...takeOptions(field) }));
       room -= taken.length;
       password ||= taken.some((field) => field.type === 'password' && field.visible);
       return taken;
@@ -111,6 +123,7 @@ export function createDocuments({ api, timers }) {
       docinfo.forms.push(...forms.filter((form) => form.fields.length > 0));
       docinfo.elements.push(...take(report.elements, frame));
     });
+    if (new TextEncoder().encode(JSON.stringify(docinfo)).length > MOST_BYTES) Object.assign(docinfo, { forms: [], elements: [] });
     return { docinfo, tabUrl: docinfo.url, icon: reports[0].icon, password };
   }
 

@@ -103,7 +103,7 @@ const TEXTS = [
 ];
 
 test('what was typed is told of without its text, masks and defaults are not taken for it', async () => {
-  const typed = [['ana', true], ['4', true], ['', false], ['+49', false], ['__/__', false], ['DD.MM.YYYY', false], ['https://', false]];
+  const typed = [['ana', true], ['4', true], ['', false], ['+49', false], ['__/__', false], ['DD.MM.YYYY', false], ['https://', false], ['jj/mm/aaaa', false], ['Amy Day', true], ['Matt May', true]];
   for (const [value, filled] of typed) {
     const [field] = (await collect(`<input value="${value}">`)).elements;
     assert.equal(field.isFilled, filled, value);
