@@ -552,7 +552,13 @@ QString Stage::id(const QString &title) const
 
 void Stage::open(const Look &look)
 {
-    // A case may have put the main window away.
+    // Those of another stage, too: one of their windows would be taken for one of this.
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (top != main && top->isVisible())
+            top->close();
+    }
+    // Windows that delete themselves do so now.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (m_ui && look == m_look && main->isVisible())
         startAgain();
     else
@@ -582,12 +588,6 @@ void Stage::start(const Look &look)
 
 void Stage::startAgain()
 {
-    for (QWidget *top : QApplication::topLevelWidgets()) {
-        if (top != main && top->isVisible())
-            top->close();
-    }
-    // Windows that delete themselves do so now.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     find<QLineEdit>(*main, "searchField")->clear();
     chooseCategory(1);
     chooseCategory(0);
