@@ -256,6 +256,10 @@ void GPMWebSocketServer::dispatch(const QString &callerId, const QString &action
          [](Server &server, const QString &caller, const QJsonObject &data) {
              Q_EMIT server.loginPageLoaded(caller, data);
          }},
+        {QStringLiteral("getState"),
+         [](Server &server, const QString &caller, const QJsonObject &data) {
+             Q_EMIT server.stateRequested(caller, data);
+         }},
         {QStringLiteral("pressEnterKey"), [](Server &server, const QString &, const QJsonObject &) {
              server.m_platform.pressEnterKey();
          }}};
@@ -265,7 +269,7 @@ void GPMWebSocketServer::dispatch(const QString &callerId, const QString &action
 
 void GPMWebSocketServer::onOpeningPluginWindow(const QString &callerId, const QJsonObject &payload)
 {
-    Q_EMIT activatePluginWindow(callerId, payload.value(QLatin1String("url")).toString());
+    Q_EMIT activatePluginWindow(callerId, payload.value(QLatin1String("url")).toString(), payload);
 }
 
 void GPMWebSocketServer::socketDisconnected()
@@ -316,6 +320,11 @@ void GPMWebSocketServer::sendFillCommand(const QString &callerId, const QJsonObj
 void GPMWebSocketServer::sendFindLoginPage(const QString &callerId, const QJsonObject &payload)
 {
     send(callerId, QStringLiteral("findLoginPage"), payload);
+}
+
+void GPMWebSocketServer::sendState(const QString &callerId, const QJsonObject &payload)
+{
+    send(callerId, QStringLiteral("state"), payload);
 }
 
 void GPMWebSocketServer::send(const QString &callerId, const QString &action,

@@ -62,9 +62,10 @@ public:
     void sendDocumentRequest(const QString &callerId, const QJsonObject &payload);
     void sendFillCommand(const QString &callerId, const QJsonObject &payload);
     void sendFindLoginPage(const QString &callerId, const QJsonObject &payload);
+    void sendState(const QString &callerId, const QJsonObject &payload);
 
 public Q_SLOTS:
-    /// Emits activatePluginWindow() for the address in the payload.
+    /// Emits activatePluginWindow() for the address in the payload, and with all of it.
     void onOpeningPluginWindow(const QString &callerId, const QJsonObject &payload);
     void onNewConnection();
     void processTextMessage(const QString &message);
@@ -79,7 +80,10 @@ Q_SIGNALS:
     void closed();
     /// Each frame of an extension that has said hello, as it came.
     void incomingMessage(const QString &message);
-    void activatePluginWindow(const QString &callerId, const QString &url);
+    /// @param wish the extension's word on what is wanted, where and for what page
+    void activatePluginWindow(const QString &callerId, const QString &url, const QJsonObject &wish);
+    /// The extension wants to know how things stand.
+    void stateRequested(const QString &callerId, const QJsonObject &data);
     void loginPageLoaded(const QString &callerId, const QJsonObject &data);
     void collectedDocumentInfo(const QString &callerId, const QJsonObject &data);
     void saveLogin(const QString &callerId, const QJsonObject &data);

@@ -4,6 +4,7 @@
 #include "GPMAppSettings.h"
 #include "GPMWebSocketServer.h"
 #include "Platform.h"
+#include "QuickAccessWish.h"
 
 #include <QObject>
 #include <QUrl>
@@ -29,8 +30,8 @@ Q_SIGNALS:
     void message(const QString &title, const QString &text);
     /// An address to be opened in the default browser.
     void openAddress(const QUrl &url);
-    /// The window is to come to the front for the browser's page at this address.
-    void windowRequested(const QString &url);
+    /// Quick access is wanted for the browser's page.
+    void quickAccessRequested(const QuickAccessWish &wish);
     void itemUsed(const QString &itemId);
 
 private:

@@ -92,8 +92,7 @@ void GPMAppCore::startWatching()
     connect(m_sessionWatch.get(), &SessionWatch::happened, &m_guard, &LockGuard::onSessionEvent);
     m_hotkeys = std::make_unique<Hotkeys>(m_settings, SystemHotkeys::create());
     connect(m_hotkeys.get(), &Hotkeys::lockPressed, this, &GPMAppCore::lockCurrentSafe);
-    connect(m_hotkeys.get(), &Hotkeys::pluginPressed, this,
-            [this] { Q_EMIT requestShowMainWindow(QString()); });
+    connect(m_hotkeys.get(), &Hotkeys::pluginPressed, this, &GPMAppCore::openQuickAccess);
     connect(m_hotkeys.get(), &Hotkeys::taken, this, [this](const QString &combination) {
         Q_EMIT message(tr("Can't use the hotkey."),
                        tr("%1 is used by another program. Choose another combination in the "
@@ -115,10 +114,19 @@ void GPMAppCore::startServer()
             &GPMAppCore::parsePluginReplay);
     connect(&m_link->server(), &GPMWebSocketServer::loginPageLoaded, this,
             &GPMAppCore::fillLoginPage);
-    connect(m_link.get(), &BrowserLink::windowRequested, this, &GPMAppCore::requestShowMainWindow);
+    connect(m_link.get(), &BrowserLink::quickAccessRequested, this,
+            &GPMAppCore::requestQuickAccess);
     connect(m_link.get(), &BrowserLink::message, this, &GPMAppCore::message);
     connect(m_link.get(), &BrowserLink::openAddress, this, &GPMAppCore::openAddress);
     connect(m_link.get(), &BrowserLink::itemUsed, &m_items, &ItemChanges::countUse);
+}
+
+void GPMAppCore::openQuickAccess()
+{
+    QuickAccessWish wish;
+    if (m_link)
+        wish.callerId = m_link->server().targetCaller({});
+    Q_EMIT requestQuickAccess(wish);
 }
 
 bool GPMAppCore::createSafe(const QString &name, const QString &password, const QString &hint,

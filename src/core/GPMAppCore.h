@@ -168,6 +168,9 @@ public Q_SLOTS:
     /// Meets the mirror of the current safe now, if it has one.
     void syncCurrentSafeSource() { m_cloud.synchronize(); }
 
+    /// Brings quick access up for the user, who is in another program.
+    void openQuickAccess();
+
     void exitPasswordManager();
 
 Q_SIGNALS:
@@ -187,6 +190,7 @@ Q_SIGNALS:
     void changesGivenUp();
     /// The main window is to come to the front; the address is that of the browser's page, if any.
     void requestShowMainWindow(const QString &url);
+    void requestQuickAccess(const QuickAccessWish &wish);
     /// Something that the user has to know.
     void message(const QString &title, const QString &text);
     /// An address to be opened in the default browser.

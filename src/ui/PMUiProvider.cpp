@@ -83,6 +83,7 @@ void PMUiProvider::connectCore()
     connect(&m_core, &GPMAppCore::message, this, &PMUiProvider::showMessage);
     connect(&m_core, &GPMAppCore::openAddress, this, &PMUiProvider::openAddress);
     connect(&m_core, &GPMAppCore::requestShowMainWindow, this, &PMUiProvider::bringToFront);
+    connect(&m_core, &GPMAppCore::requestQuickAccess, this, &PMUiProvider::bringToFront);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closeMessages);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closePopups);
     connect(&m_core, &GPMAppCore::safeLockedChanged, this, &PMUiProvider::onLockedChanged);

@@ -95,6 +95,7 @@ void TestGPMWebSocketServer::helloIsAnsweredBeforeItIsReported()
 void TestGPMWebSocketServer::requestsOfTheExtension()
 {
     QSignalSpy window(m_server.get(), &GPMWebSocketServer::activatePluginWindow);
+    QSignalSpy state(m_server.get(), &GPMWebSocketServer::stateRequested);
     QSignalSpy save(m_server.get(), &GPMWebSocketServer::saveLogin);
     QSignalSpy document(m_server.get(), &GPMWebSocketServer::collectedDocumentInfo);
     QSignalSpy loginPage(m_server.get(), &GPMWebSocketServer::loginPageLoaded);
@@ -102,8 +103,10 @@ void TestGPMWebSocketServer::requestsOfTheExtension()
     const QString callerId = client.sayHello();
     const QJsonObject data = {{QStringLiteral("title"), QStringLiteral("Bank")}};
 
-    client.sendFrame(QStringLiteral("showWindow"),
-                     {{QStringLiteral("url"), QStringLiteral("https://bank.example/")}});
+    const QJsonObject wish = {{QStringLiteral("url"), QStringLiteral("https://bank.example/")},
+                              {QStringLiteral("kind"), QStringLiteral("login")}};
+    client.sendFrame(QStringLiteral("showWindow"), wish);
+    client.sendFrame(QStringLiteral("getState"), data);
     client.sendFrame(QStringLiteral("saveLogin"), {{QStringLiteral("login"), data}});
     client.sendFrame(QStringLiteral("collectDocumentResults"), data);
     client.sendFrame(QStringLiteral("loginPageLoaded"), data);
@@ -111,7 +114,9 @@ void TestGPMWebSocketServer::requestsOfTheExtension()
     client.sendFrame(QStringLiteral("showwindow"));
     QVERIFY(!client.sayHello().isEmpty());
 
-    QCOMPARE(window, (QList<QVariantList>{{callerId, QStringLiteral("https://bank.example/")}}));
+    QCOMPARE(window,
+             (QList<QVariantList>{{callerId, QStringLiteral("https://bank.example/"), wish}}));
+    QCOMPARE(state, (QList<QVariantList>{{callerId, data}}));
     QCOMPARE(save, (QList<QVariantList>{{callerId, data}}));
     QCOMPARE(document, (QList<QVariantList>{{callerId, data}}));
     QCOMPARE(loginPage, (QList<QVariantList>{{callerId, data}}));

@@ -342,7 +342,7 @@ private Q_SLOTS:
         m_core->unlockCurrentSafe(QStringLiteral("pw"));
         QVERIFY(finished.wait());
         // An answer to what was asked before the lock; a page to open tells when it was seen.
-        QSignalSpy shown(m_core.get(), &GPMAppCore::requestShowMainWindow);
+        QSignalSpy shown(m_core.get(), &GPMAppCore::requestQuickAccess);
         extension.send(QStringLiteral("collectDocumentResults"),
                        answerTo(request, "https://shop.example/"));
         extension.send(QStringLiteral("showWindow"),
