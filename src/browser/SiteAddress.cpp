@@ -97,16 +97,24 @@ std::optional<SiteAddress> SiteAddress::parse(const QString &address)
 
 bool SiteAddress::isSameSite(const SiteAddress &other) const
 {
-    if (!m_registrableDomain.isEmpty() || !other.m_registrableDomain.isEmpty())
-        return m_registrableDomain == other.m_registrableDomain;
-    return m_host == other.m_host && m_port == other.m_port;
+    return site() == other.site();
+}
+
+QString SiteAddress::site() const
+{
+    // A domain has no colon.
+    return m_registrableDomain.isEmpty() ? QStringLiteral("%1:%2").arg(m_host).arg(m_port)
+                                         : m_registrableDomain;
+}
+
+bool mayFillLogin(const SiteAddress &login, const SiteAddress &page)
+{
+    return (page.isSecure() || !login.isSecure()) && login.isSameSite(page);
 }
 
 bool mayFillLogin(const QString &loginAddress, const QString &pageAddress)
 {
     const auto login = SiteAddress::parse(SiteAddress::withScheme(loginAddress));
     const auto page = SiteAddress::parse(pageAddress);
-    if (!login || !page || (login->isSecure() && !page->isSecure()))
-        return false;
-    return login->isSameSite(*page);
+    return login && page && mayFillLogin(*login, *page);
 }

@@ -25,6 +25,9 @@ public:
     /// names and hosts that are themselves a public suffix.
     QString registrableDomain() const { return m_registrableDomain; }
 
+    /// The same for all addresses of one site, and for no other.
+    QString site() const;
+
     /// Whether both belong to one owner: the same registrable domain; where there is none, the same
     /// host and port.
     bool isSameSite(const SiteAddress &other) const;
@@ -40,4 +43,5 @@ private:
 
 /// Whether a login saved for one address may be filled into a page at the other: the same site, and
 /// never a plain page for a login saved with https. Either may be any text.
+bool mayFillLogin(const SiteAddress &login, const SiteAddress &page);
 bool mayFillLogin(const QString &loginAddress, const QString &pageAddress);

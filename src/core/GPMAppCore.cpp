@@ -57,6 +57,8 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     connect(this, &GPMAppCore::currentSafeChanged, &m_trace, [this] { m_trace.follow(m_safe); });
     connect(this, &GPMAppCore::requestLock, &m_trace, &OpenSafeTrace::beforeLock);
     connect(this, &GPMAppCore::currentSafeChanged, &m_cloud, [this] { m_cloud.setSafe(m_safe); });
+    connect(this, &GPMAppCore::currentSafeChanged, &m_pageLogins,
+            [this] { m_pageLogins.setSafe(m_safe); });
     startGuard();
 }
 
@@ -109,6 +111,10 @@ void GPMAppCore::startServer()
     m_link = std::make_unique<BrowserLink>(
         m_port, *m_platform,
         [this](const QString &id) { return m_safe ? m_safe->item(id) : nullptr; }, m_settings);
+    m_linkState = std::make_unique<LinkState>(m_link->server(), m_pageLogins,
+                                              [this] { return m_safe; });
+    connect(this, &GPMAppCore::safeLockedChanged, m_linkState.get(), &LinkState::tell);
+    connect(this, &GPMAppCore::currentSafeChanged, m_linkState.get(), &LinkState::tell);
     connect(&m_link->server(), &GPMWebSocketServer::hello, this, &GPMAppCore::onHello);
     connect(&m_link->server(), &GPMWebSocketServer::collectedDocumentInfo, this,
             &GPMAppCore::parsePluginReplay);

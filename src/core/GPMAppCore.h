@@ -11,8 +11,10 @@
 #include "Hotkeys.h"
 #include "ItemChanges.h"
 #include "KnownSafes.h"
+#include "LinkState.h"
 #include "LockGuard.h"
 #include "OpenSafeTrace.h"
+#include "PageLogins.h"
 #include "Platform.h"
 #include "PrivateFiles.h"
 #include "SessionWatch.h"
@@ -71,6 +73,8 @@ public:
     /// Keeps safes alike to their copies in a cloud folder.
     CloudSync &cloud() { return m_cloud; }
     CloudFolders &cloudFolders() { return m_cloudFolders; }
+    /// Which logins belong to a page.
+    PageLogins &pageLogins() { return m_pageLogins; }
 
     /// Why the safe was locked, for the user; empty when the user did it or none was open.
     const QString &lockReason() const { return m_lockReason; }
@@ -221,6 +225,8 @@ private:
     QString m_lockReason;
     quint16 m_port;
     ItemChanges m_items;
+    PageLogins m_pageLogins;
     std::unique_ptr<BrowserLink> m_link;
+    std::unique_ptr<LinkState> m_linkState;
     std::shared_ptr<GPMSafe> m_safe;
 };

@@ -348,7 +348,8 @@ private Q_SLOTS:
         extension.send(QStringLiteral("showWindow"),
                        {{QStringLiteral("url"), QStringLiteral("x")}});
         QVERIFY(shown.wait());
-        QCOMPARE(extension.received.size(), 2);
+        for (const QJsonObject &frame : qAsConst(extension.received))
+            QVERIFY(frame.value(QStringLiteral("action")) != QStringLiteral("fillForm"));
     }
 
     void aHomeThatCannotBeWrittenTo()
