@@ -1,5 +1,6 @@
 #include "GPMWebSocketServer.h"
 
+#include "ExtensionOrigins.h"
 #include "Platform.h"
 
 #include <QDebug>
@@ -15,19 +16,6 @@ namespace {
 
 constexpr quint64 maxFrameSize = 8ULL * 1024 * 1024;
 constexpr int maxWaiting = 30;
-
-/// Only extensions have such an origin: a browser does not let a page choose its own.
-const QLatin1String extensionOrigins[] = {QLatin1String("chrome-extension://"),
-                                          QLatin1String("moz-extension://")};
-
-bool isAllowedOrigin(const QString &origin)
-{
-    // Browsers always send an origin; what sends none is another program.
-    if (origin.isEmpty())
-        return true;
-    return std::any_of(std::begin(extensionOrigins), std::end(extensionOrigins),
-                       [&](QLatin1String prefix) { return origin.startsWith(prefix); });
-}
 
 std::optional<QJsonObject> parseFrame(const QString &message)
 {
@@ -103,7 +91,7 @@ quint16 GPMWebSocketServer::port() const
 
 void GPMWebSocketServer::checkOrigin(QWebSocketCorsAuthenticator *authenticator) const
 {
-    const bool allowed = isAllowedOrigin(authenticator->origin());
+    const bool allowed = originTrust(authenticator->origin()) != OriginTrust::Refused;
     authenticator->setAllowed(allowed);
     // Not a warning: any page could fill the log file with it.
     if (!allowed)
@@ -128,10 +116,45 @@ void GPMWebSocketServer::onNewConnection()
     });
     socket->setMaxAllowedIncomingFrameSize(maxFrameSize);
     socket->setMaxAllowedIncomingMessageSize(maxFrameSize);
-    if (m_sockets.isEmpty())
+    if (m_sockets.isEmpty() && mayBeServed(*socket))
         serve(socket);
     else
         keepWaiting(socket);
+}
+
+bool GPMWebSocketServer::mayBeServed(const QWebSocket &socket) const
+{
+    return originTrust(socket.origin()) == OriginTrust::Known ||
+           (m_isApproved && m_isApproved(socket.origin()));
+}
+
+void GPMWebSocketServer::onOriginApproved(const QString &origin)
+{
+    if (m_sockets.isEmpty()) {
+        serveNextWaiting();
+        return;
+    }
+    // They have been told that they lack the approval; coming anew they learn how things stand.
+    closeWaiting(origin);
+}
+
+void GPMWebSocketServer::onOriginRefused(const QString &origin)
+{
+    const QList<QWebSocket *> sockets = m_sockets.values();
+    for (QWebSocket *socket : sockets) {
+        if (socket->origin() == origin)
+            socket->abort();
+    }
+    closeWaiting(origin);
+}
+
+void GPMWebSocketServer::closeWaiting(const QString &origin)
+{
+    const QVector<Waiting> all = m_waiting;
+    for (const Waiting &waiting : all) {
+        if (waiting.socket->origin() == origin)
+            waiting.socket->abort();
+    }
 }
 
 bool GPMWebSocketServer::isForeign(const QWebSocket &socket) const
@@ -182,6 +205,12 @@ void GPMWebSocketServer::rememberHello(QWebSocket *socket, const QString &messag
         if (waiting.socket == socket)
             waiting.hello = *frame;
     }
+    if (mayBeServed(*socket))
+        return;
+    sendFrame(socket, {{QStringLiteral("action"), QStringLiteral("state")},
+                       {QStringLiteral("payload"),
+                        QJsonObject{{QStringLiteral("refused"), QStringLiteral("approval")}}}});
+    Q_EMIT approvalNeeded(socket->origin());
 }
 
 void GPMWebSocketServer::forgetWaiting(QWebSocket *socket)
@@ -194,9 +223,13 @@ void GPMWebSocketServer::forgetWaiting(QWebSocket *socket)
 
 void GPMWebSocketServer::serveNextWaiting()
 {
-    if (m_waiting.isEmpty())
+    const auto found = std::find_if(m_waiting.begin(), m_waiting.end(), [this](const Waiting &one) {
+        return mayBeServed(*one.socket);
+    });
+    if (found == m_waiting.end())
         return;
-    const Waiting next = m_waiting.takeFirst();
+    const Waiting next = *found;
+    m_waiting.erase(found);
     next.socket->disconnect(this);
     serve(next.socket);
     if (!next.hello.isEmpty())

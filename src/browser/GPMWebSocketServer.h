@@ -7,6 +7,7 @@
 #include <QVector>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 
 class Platform;
@@ -16,8 +17,8 @@ class QWebSocketServer;
 
 /// The local link to the browser extension: transport, envelope and dispatch. Serves one extension
 /// at a time; further ones wait, and nothing that they send is acted on, until it has left. It
-/// knows nothing of safes and items. A web page cannot connect, and a connection is heard only
-/// after its "hello".
+/// knows nothing of safes and items. A web page cannot connect, an extension that may be another's
+/// waits until it is approved, and a connection is heard only after its "hello".
 class GPMWebSocketServer : public QObject
 {
     Q_OBJECT
@@ -40,6 +41,12 @@ public:
                        std::chrono::milliseconds helloLimit = std::chrono::seconds(5),
                        QObject *parent = nullptr);
     ~GPMWebSocketServer() override;
+
+    /// Tells which origins the user has approved; none until it is set.
+    void setApprovals(std::function<bool(const QString &origin)> isApproved)
+    {
+        m_isApproved = std::move(isApproved);
+    }
 
     bool isListening() const;
 
@@ -68,6 +75,10 @@ public Q_SLOTS:
     /// Emits activatePluginWindow() for the address in the payload, and with all of it.
     void onOpeningPluginWindow(const QString &callerId, const QJsonObject &payload);
     void onNewConnection();
+    /// The extension of the origin goes on when no other is served.
+    void onOriginApproved(const QString &origin);
+    /// Ends its connections.
+    void onOriginRefused(const QString &origin);
     void processTextMessage(const QString &message);
     void socketDisconnected();
 
@@ -89,11 +100,14 @@ Q_SIGNALS:
     void saveLogin(const QString &callerId, const QJsonObject &data);
     /// The extension has its caller id already.
     void hello(const QString &callerId, const QString &version, const QString &bundleId);
+    /// An extension that has said hello must be approved first. It has been told so.
+    void approvalNeeded(const QString &origin);
 
 private:
     enum Stage { Accepted = 0, SaidHello = 1 };
 
-    /// A connection behind the one that is served, with the "hello" that it has sent meanwhile.
+    /// A connection behind the one that is served, or without approval, with the "hello" that it
+    /// has sent meanwhile.
     struct Waiting
     {
         QWebSocket *socket = nullptr;
@@ -102,11 +116,13 @@ private:
 
     void checkOrigin(QWebSocketCorsAuthenticator *authenticator) const;
     bool isForeign(const QWebSocket &socket) const;
+    bool mayBeServed(const QWebSocket &socket) const;
     bool hasSaidHello(QWebSocket *socket) const;
     void serve(QWebSocket *socket);
     void keepWaiting(QWebSocket *socket);
     void rememberHello(QWebSocket *socket, const QString &message);
     void forgetWaiting(QWebSocket *socket);
+    void closeWaiting(const QString &origin);
     void serveNextWaiting();
     void answerHello(const QString &callerId, const QJsonObject &frame);
     void dispatch(const QString &callerId, const QString &action, const QJsonObject &payload);
@@ -122,4 +138,5 @@ private:
     QString m_extensionBundleId;
     QVector<Waiting> m_waiting;
     Platform &m_platform;
+    std::function<bool(const QString &)> m_isApproved;
 };

@@ -3,6 +3,7 @@
 #include "FormFillFlow.h"
 #include "GPMAppSettings.h"
 #include "GPMWebSocketServer.h"
+#include "OriginApprovals.h"
 #include "Platform.h"
 #include "QuickAccessWish.h"
 
@@ -17,9 +18,11 @@ class BrowserLink : public QObject
 
 public:
     /// @param port on 127.0.0.1
+    /// @param approvals who may connect; outlives the link
     /// @param findItem an item of the open safe by its id; null when there is none
-    BrowserLink(quint16 port, Platform &platform, FormFillFlow::FindItem findItem,
-                GPMAppSettings &settings, QObject *parent = nullptr);
+    BrowserLink(quint16 port, Platform &platform, OriginApprovals &approvals,
+                FormFillFlow::FindItem findItem, GPMAppSettings &settings,
+                QObject *parent = nullptr);
 
     GPMWebSocketServer &server() { return m_server; }
     FormFillFlow &flow() { return m_flow; }

@@ -37,6 +37,8 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     : QObject(parent)
     , m_platform(Platform::create())
     , m_settings(places.configFolder, places.hiddenFolder)
+    , m_linkSettings(places.configFolder + QStringLiteral("/browser.json"))
+    , m_approvals(m_linkSettings)
     , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
                    safeEnvironment(places.dataFolder))
     , m_trace(m_knownSafes)
@@ -109,7 +111,7 @@ void GPMAppCore::startServer()
     if (m_link)
         return;
     m_link = std::make_unique<BrowserLink>(
-        m_port, *m_platform,
+        m_port, *m_platform, m_approvals,
         [this](const QString &id) { return m_safe ? m_safe->item(id) : nullptr; }, m_settings);
     m_linkState = std::make_unique<LinkState>(m_link->server(), m_pageLogins,
                                               [this] { return m_safe; });

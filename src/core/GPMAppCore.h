@@ -11,9 +11,11 @@
 #include "Hotkeys.h"
 #include "ItemChanges.h"
 #include "KnownSafes.h"
+#include "LinkSettings.h"
 #include "LinkState.h"
 #include "LockGuard.h"
 #include "OpenSafeTrace.h"
+#include "OriginApprovals.h"
 #include "PageLogins.h"
 #include "Platform.h"
 #include "PrivateFiles.h"
@@ -75,6 +77,11 @@ public:
     CloudFolders &cloudFolders() { return m_cloudFolders; }
     /// Which logins belong to a page.
     PageLogins &pageLogins() { return m_pageLogins; }
+
+    /// What the user decided about browsers.
+    LinkSettings &linkSettings() { return m_linkSettings; }
+    /// Which extensions may connect besides the known ones.
+    OriginApprovals &approvals() { return m_approvals; }
 
     /// Why the safe was locked, for the user; empty when the user did it or none was open.
     const QString &lockReason() const { return m_lockReason; }
@@ -210,6 +217,8 @@ private:
 
     std::unique_ptr<Platform> m_platform;
     GPMAppSettings m_settings;
+    LinkSettings m_linkSettings;
+    OriginApprovals m_approvals;
     KnownSafes m_knownSafes;
     OpenSafeTrace m_trace;
     Backups m_backups;

@@ -5,6 +5,7 @@
 #include "TrayIcon.h"
 #include "WindowActivation.h"
 #include "WorkWindows.h"
+#include "browsers/ApprovalDesk.h"
 #include "cloud/CloudDesk.h"
 #include "dialogs/Question.h"
 #include "lock/PagesStack.h"
@@ -43,18 +44,21 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
     m_theme->setTextPercent(m_settings.textPercent());
     m_theme->setMotionOff(m_settings.motionOff());
     m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, [this] {
-        return SettingsTable({m_core.settings(), m_settings, *m_theme, m_translator,
-                              [this](const QString &language) { return setLanguage(language); },
-                              [this](int percent) { return setTextPercent(percent); },
-                              [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
-                              [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); },
-                              [this](QWidget *row) { return m_cloud->makePanel(row); }})
+        return SettingsTable(
+                   {m_core.settings(), m_settings, *m_theme, m_translator,
+                    [this](const QString &language) { return setLanguage(language); },
+                    [this](int percent) { return setTextPercent(percent); },
+                    [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
+                    [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); },
+                    [this](QWidget *row) { return m_cloud->makePanel(row); },
+                    [this](QWidget *row) { return m_sideWindows->makeBrowserPanel(row); }})
             .settings();
     });
     m_safeDesk = std::make_unique<SafeDesk>(m_core, *m_theme);
     m_cloud = std::make_unique<CloudDesk>(m_core, *m_theme);
     m_safeDesk->setCloudOffers({[this] { return m_core.cloudFolders().found().offers.size(); },
                                 [this] { m_cloud->openImport(); }});
+    m_approvals = std::make_unique<ApprovalDesk>(m_core.approvals(), [this] { bringToFront(); });
     makeFirstRun();
 }
 
@@ -113,6 +117,7 @@ void PMUiProvider::createMainWindow()
     m_window->setTrayCheck(m_hasTray);
     m_sideWindows->setMain(m_window.get());
     m_cloud->setMain(m_window.get());
+    m_approvals->setMain(m_window.get());
     m_firstRun->setMain(m_window.get());
     connectSafeDesk(*view);
     connectView(*view);

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+class ApprovalDesk;
 class CloudDesk;
 class FirstRun;
 class GPMAppCore;
@@ -90,6 +91,7 @@ private:
     std::unique_ptr<SideWindows> m_sideWindows;
     std::unique_ptr<SafeDesk> m_safeDesk;
     std::unique_ptr<CloudDesk> m_cloud;
+    std::unique_ptr<ApprovalDesk> m_approvals;
     std::unique_ptr<FirstRun> m_firstRun;
     std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<TrayIcon> m_tray;

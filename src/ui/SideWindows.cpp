@@ -3,6 +3,7 @@
 #include "GPMAppCore.h"
 #include "RandomSource.h"
 #include "backups/BackupRow.h"
+#include "browsers/ApprovalsPanel.h"
 #include "widgets/Controls.h"
 
 #include <utility>
@@ -113,6 +114,11 @@ QWidget *SideWindows::makePasswordRow(QWidget *parent)
     connect(&m_core, &GPMAppCore::safeLockedChanged, change, &QWidget::setDisabled);
     connect(change, &QPushButton::clicked, this, &SideWindows::openChangePassword);
     return row;
+}
+
+QWidget *SideWindows::makeBrowserPanel(QWidget *parent)
+{
+    return new ApprovalsPanel(m_core.approvals(), parent);
 }
 
 void SideWindows::openChangePassword()

@@ -35,6 +35,8 @@ public:
     QWidget *makeBackupRow(QWidget *parent);
     /// What leads from the settings to another master password.
     QWidget *makePasswordRow(QWidget *parent);
+    /// What the settings show of browsers.
+    QWidget *makeBrowserPanel(QWidget *parent);
 
 public Q_SLOTS:
     /// Opens the generator for the page in the user's browser.

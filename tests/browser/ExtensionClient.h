@@ -13,7 +13,8 @@ class ExtensionClient : public QWebSocket
 {
 public:
     explicit ExtensionClient(quint16 port,
-                             const QString &origin = QStringLiteral("chrome-extension://abcdef"))
+                             const QString &origin = QStringLiteral(
+                                 "chrome-extension://ieciiloegilkonbpcplcagbpkoohnoib"))
         : QWebSocket(origin)
     {
         connect(this, &QWebSocket::textMessageReceived, this, [this](const QString &text) {

@@ -2,6 +2,8 @@
 #include "FakePlatform.h"
 #include "GPMWebSocketServer.h"
 
+#include <QCryptographicHash>
+#include <QFile>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QUuid>
@@ -11,6 +13,23 @@
 namespace {
 
 constexpr int maxFrame = 8 * 1024 * 1024;
+
+/// The origin that browsers derive from the key in the manifest of the extension.
+QString originOfManifest()
+{
+    QFile manifest(QFINDTESTDATA("../../extension/manifest.chromium.json"));
+    if (!manifest.open(QIODevice::ReadOnly))
+        qFatal("No manifest");
+    const QByteArray key = QByteArray::fromBase64(QJsonDocument::fromJson(manifest.readAll())
+                                                      .object()
+                                                      .value(QLatin1String("key"))
+                                                      .toString()
+                                                      .toLatin1());
+    QByteArray id = QCryptographicHash::hash(key, QCryptographicHash::Sha256).toHex().left(32);
+    for (char &digit : id)
+        digit = static_cast<char>('a' + QByteArray("0123456789abcdef").indexOf(digit));
+    return QStringLiteral("chrome-extension://") + QString::fromLatin1(id);
+}
 
 QString actionOf(const QJsonObject &frame)
 {
@@ -168,8 +187,12 @@ void TestGPMWebSocketServer::origins_data()
 {
     QTest::addColumn<QString>("origin");
     QTest::addColumn<bool>("allowed");
-    QTest::newRow("Chromium") << "chrome-extension://gofmckdcabcdefghijklmnopabcdefgh" << true;
-    QTest::newRow("Firefox") << "moz-extension://0c4e5b2e-1f0c-4a3f-9a53-33d8b7a5d6c1" << true;
+    QTest::newRow("Chromium") << originOfManifest() << true;
+    QTest::newRow("Chromium with a slash") << originOfManifest() + QLatin1Char('/') << false;
+    QTest::newRow("another's") << "chrome-extension://gofmckdcabcdefghijklmnopabcdefgh" << false;
+    QTest::newRow("no id of Firefox") << "moz-extension://glaceron" << false;
+    QTest::newRow("more than an id")
+        << "moz-extension://0c4e5b2e-1f0c-4a3f-9a53-33d8b7a5d6c1.bank.example" << false;
     QTest::newRow("none") << QString() << true;
     QTest::newRow("page") << "https://bank.example" << false;
     QTest::newRow("plain page") << "http://127.0.0.1:7899" << false;
@@ -223,7 +246,7 @@ void TestGPMWebSocketServer::servesOneAtATime()
     QSignalSpy hello(m_server.get(), &GPMWebSocketServer::hello);
     ExtensionClient first(m_server->port());
     const QString firstId = first.sayHello();
-    ExtensionClient second(m_server->port(), QStringLiteral("moz-extension://x"));
+    ExtensionClient second(m_server->port());
     QTRY_VERIFY(second.isOpen());
     second.sendFrame(QStringLiteral("pressEnterKey"));
     second.sendFrame(QStringLiteral("hello"));

@@ -740,6 +740,20 @@ QWidget *cloudImport(Stage &stage)
     return stage.window("cloudImportDialog");
 }
 
+/// The question whether an extension may connect.
+QWidget *approval(Stage &stage)
+{
+    const QString origin = QStringLiteral("moz-extension://0c4e5b2e-1f0c-4a3f-9a53-33d8b7a5d6c1");
+    OriginApprovals &approvals = stage.test.core.approvals();
+    // As if no earlier case had asked.
+    approvals.approve(origin);
+    stage.test.core.linkSettings().setApprovedOrigins({});
+    approvals.ask(origin);
+    return QTest::qWaitFor([&stage] { return stage.window("questionDialog"); })
+               ? stage.window("questionDialog")
+               : nullptr;
+}
+
 QWidget *cloudPassword(Stage &stage)
 {
     auto *dialog = new CloudPasswordDialog(
@@ -814,6 +828,7 @@ const QVector<WindowCase> &everyWindow()
         {"safe-delete", deleteSafe},
         {"progress", progress},
         {"shortcuts", shortcuts},
-        {"question", question}};
+        {"question", question},
+        {"approval", approval}};
     return cases;
 }

@@ -169,10 +169,11 @@ void TestSettingsDialog::everySettingIsTested()
     QStringList tested = {QStringLiteral("language_file"), QStringLiteral("backup_path"),
                           QStringLiteral("theme"),         QStringLiteral("text_size"),
                           QStringLiteral("motion_off"),    QStringLiteral("check_updates")};
-    for (const char *id : {"autolock_inactive", "inactivity_interval", "autolock_screensaver",
-                           "clear_clipboard", "login_mode", "plugin_login_mode", "plugin_open_mode",
-                           "enable_backup", "backup_interval", "backup_state", "backup_count",
-                           "cloud_state", "lock_hotkey", "plugin_hotkey", "master_password"})
+    for (const char *id :
+         {"autolock_inactive", "inactivity_interval", "autolock_screensaver", "clear_clipboard",
+          "login_mode", "plugin_login_mode", "plugin_open_mode", "enable_backup", "backup_interval",
+          "backup_state", "backup_count", "cloud_state", "lock_hotkey", "plugin_hotkey",
+          "master_password", "browsers"})
         tested.append(QLatin1String(id));
     Program program;
     QStringList shown;

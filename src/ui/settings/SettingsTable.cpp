@@ -155,39 +155,52 @@ QVector<Setting> SettingsTable::browser() const
     const QString fill = tr("Fill");
     const QString submit = tr("Fill and submit");
     using Settings = GPMAppSettings;
-    return {bound({"login_mode",
-                   Setting::Browser,
-                   tr("Log in from the main window"),
-                   tr("Whether the page's form is only filled or also sent. A login can have its "
-                      "own way."),
-                   tr("automatic form enter"),
-                   Setting::Choice,
-                   {},
-                   {},
-                   {{Settings::Fill, fill}, {Settings::FillAndSubmit, submit}}},
-                  "loginMode"),
-            bound({"plugin_login_mode",
-                   Setting::Browser,
-                   tr("Log in from the quick-access window"),
-                   tr("The same for logins that you choose while you are in the browser."),
-                   tr("automatic form enter extension plugin"),
-                   Setting::Choice,
-                   {},
-                   {},
-                   {{Settings::PluginFill, fill}, {Settings::PluginFillAndSubmit, submit}}},
-                  "pluginLoginMode"),
-            bound({"plugin_open_mode",
-                   Setting::Browser,
-                   tr("Open addresses in"),
-                   tr("Where the browser shows the page of a login that is not open yet."),
-                   tr("tab window extension plugin"),
-                   Setting::Choice,
-                   {},
-                   {},
-                   {{Settings::Current, tr("The current tab")},
-                    {Settings::NewTab, tr("A new tab")},
-                    {Settings::NewWindow, tr("A new window")}}},
-                  "pluginOpenMode")};
+    Setting browsers = {"browsers",
+                        Setting::Browser,
+                        tr("Browsers and extensions"),
+                        tr("In which browsers the extension is, and which may connect."),
+                        tr("plugin install approve connect chrome chromium firefox"),
+                        Setting::Panel,
+                        {},
+                        {}};
+    browsers.makePanel = m_parts.makeBrowserPanel;
+    QVector<Setting> rows = {
+        bound({"login_mode",
+               Setting::Browser,
+               tr("Log in from the main window"),
+               tr("Whether the page's form is only filled or also sent. A login can have its "
+                  "own way."),
+               tr("automatic form enter"),
+               Setting::Choice,
+               {},
+               {},
+               {{Settings::Fill, fill}, {Settings::FillAndSubmit, submit}}},
+              "loginMode"),
+        bound({"plugin_login_mode",
+               Setting::Browser,
+               tr("Log in from the quick-access window"),
+               tr("The same for logins that you choose while you are in the browser."),
+               tr("automatic form enter extension plugin"),
+               Setting::Choice,
+               {},
+               {},
+               {{Settings::PluginFill, fill}, {Settings::PluginFillAndSubmit, submit}}},
+              "pluginLoginMode"),
+        bound({"plugin_open_mode",
+               Setting::Browser,
+               tr("Open addresses in"),
+               tr("Where the browser shows the page of a login that is not open yet."),
+               tr("tab window extension plugin"),
+               Setting::Choice,
+               {},
+               {},
+               {{Settings::Current, tr("The current tab")},
+                {Settings::NewTab, tr("A new tab")},
+                {Settings::NewWindow, tr("A new window")}}},
+              "pluginOpenMode")};
+    if (m_parts.makeBrowserPanel)
+        rows.append(browsers);
+    return rows;
 }
 
 QVector<Setting> SettingsTable::backup() const

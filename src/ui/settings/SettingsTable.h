@@ -29,6 +29,8 @@ public:
         std::function<QWidget *(QWidget *parent)> makePasswordRow = {};
         /// The same of the cloud folder.
         std::function<QWidget *(QWidget *parent)> makeCloudPanel = {};
+        /// The browsers and their extensions.
+        std::function<QWidget *(QWidget *parent)> makeBrowserPanel = {};
     };
 
     explicit SettingsTable(const Parts &parts);
