@@ -119,6 +119,7 @@ void TestBrowsers::approvalIsGivenAndTakenInTheSettings()
     OriginApprovals &approvals = program.test.core.approvals();
     approvals.approve(firefox);
     program.ui.bringToFront();
+    QApplication::setActiveWindow(program.ui.mainWindow());
     QTest::keyClick(program.ui.mainWindow(), Qt::Key_Comma, Qt::ControlModifier);
     auto *panel = program.ui.mainWindow()->findChild<QWidget *>(QStringLiteral("browsers"));
     QVERIFY(panel);
