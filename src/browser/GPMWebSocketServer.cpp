@@ -239,10 +239,9 @@ void GPMWebSocketServer::serveNextWaiting()
 void GPMWebSocketServer::processTextMessage(const QString &message)
 {
     auto *socket = qobject_cast<QWebSocket *>(sender());
-    if (m_debug)
-        qDebug() << "Message received:" << message;
     const QString callerId = callerIdOf(socket);
     const std::optional<QJsonObject> frame = parseFrame(message);
+    logFrame(message, frame);
     if (!frame)
         return;
     if (isHello(*frame)) {
@@ -253,6 +252,18 @@ void GPMWebSocketServer::processTextMessage(const QString &message)
         return;
     Q_EMIT incomingMessage(message);
     dispatch(callerId, actionOf(*frame), frame->value(QLatin1String("payload")).toObject());
+}
+
+void GPMWebSocketServer::logFrame(const QString &message,
+                                  const std::optional<QJsonObject> &frame) const
+{
+    static const QStringList secretActions = {QStringLiteral("saveLogin"),
+                                              QStringLiteral("loginSubmitted")};
+    if (!m_debug)
+        return;
+    // What the user typed into a page is not for the log.
+    const QString action = frame ? actionOf(*frame) : QString();
+    qDebug() << "Message received:" << (secretActions.contains(action) ? action : message);
 }
 
 void GPMWebSocketServer::answerHello(const QString &callerId, const QJsonObject &frame)
@@ -280,6 +291,14 @@ void GPMWebSocketServer::dispatch(const QString &callerId, const QString &action
         {QStringLiteral("saveLogin"),
          [](Server &server, const QString &caller, const QJsonObject &data) {
              Q_EMIT server.saveLogin(caller, data.value(QLatin1String("login")).toObject());
+         }},
+        {QStringLiteral("loginSubmitted"),
+         [](Server &server, const QString &caller, const QJsonObject &data) {
+             Q_EMIT server.loginSubmitted(caller, data);
+         }},
+        {QStringLiteral("loginDropped"),
+         [](Server &server, const QString &caller, const QJsonObject &data) {
+             Q_EMIT server.loginDropped(caller, data);
          }},
         {QStringLiteral("collectDocumentResults"),
          [](Server &server, const QString &caller, const QJsonObject &data) {

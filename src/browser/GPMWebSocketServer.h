@@ -98,6 +98,9 @@ Q_SIGNALS:
     void loginPageLoaded(const QString &callerId, const QJsonObject &data);
     void collectedDocumentInfo(const QString &callerId, const QJsonObject &data);
     void saveLogin(const QString &callerId, const QJsonObject &data);
+    /// A page sent a login; whether it was accepted comes as saveLogin() or loginDropped().
+    void loginSubmitted(const QString &callerId, const QJsonObject &data);
+    void loginDropped(const QString &callerId, const QJsonObject &data);
     /// The extension has its caller id already.
     void hello(const QString &callerId, const QString &version, const QString &bundleId);
     /// An extension that has said hello must be approved first. It has been told so.
@@ -126,6 +129,7 @@ private:
     void serveNextWaiting();
     void answerHello(const QString &callerId, const QJsonObject &frame);
     void dispatch(const QString &callerId, const QString &action, const QJsonObject &payload);
+    void logFrame(const QString &message, const std::optional<QJsonObject> &frame) const;
     void send(const QString &callerId, const QString &action, const QJsonObject &payload);
     QString callerIdOf(QWebSocket *socket) const;
 

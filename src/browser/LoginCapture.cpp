@@ -55,26 +55,33 @@ QString repeatedPassword(const QVector<FormField> &passwords)
     return {};
 }
 
-void readSurroundings(const QJsonObject &form, const QVector<FormField> &fields,
+/// Finds by what a person reads at the fields what is not known yet.
+void readSurroundings(const QJsonObject &form, const QVector<FormField> &fields, bool isRepeated,
                       CapturedLogin &login)
 {
     const auto around = FormSurroundings::of(form, form.value(QLatin1String("title")).toString());
     const QVector<FieldKind> kinds = readForm(fields, around);
+    const bool asksForNew = isRepeated || kinds.contains(FieldKind::NewPassword);
     for (int i = 0; i < fields.size(); ++i) {
-        if (!fields.at(i).isVisible())
+        const FormField &field = fields.at(i);
+        if (!field.isVisible())
             continue;
-        const QString value = fields.at(i).value();
         const FieldKind kind = kinds.at(i);
-        const bool isPassword = kind == FieldKind::Password || kind == FieldKind::NewPassword;
-        const bool isUserName = kind == FieldKind::UserName || kind == FieldKind::Email;
-        if (isPassword && fields.at(i).isPassword() &&
-            (login.password.isEmpty() || kind == FieldKind::NewPassword))
-            login.password = value;
-        else if (isUserName && login.userName.isEmpty())
-            login.userName = value;
+        if (kind == FieldKind::UserName || kind == FieldKind::Email) {
+            if (login.userName.isEmpty())
+                login.userName = field.value();
+        } else if (kind == FieldKind::Password && field.isPassword() && asksForNew) {
+            if (field.value() != login.password || !isRepeated)
+                login.oldPassword = field.value();
+        } else if ((kind == FieldKind::Password || kind == FieldKind::NewPassword) &&
+                   field.isPassword() && !isRepeated) {
+            if (login.password.isEmpty() || kind == FieldKind::NewPassword)
+                login.password = field.value();
+        }
     }
-    login.isSignUp = login.isSignUp || (kinds.contains(FieldKind::NewPassword) &&
-                                        !kinds.contains(FieldKind::Password));
+    // Who chooses a password and is not asked for a name has an account already.
+    login.isSignUp = login.isSignUp || (asksForNew && !kinds.contains(FieldKind::Password) &&
+                                        !login.userName.isEmpty());
 }
 
 } // namespace
@@ -106,7 +113,7 @@ CapturedLogin captureLogin(const QJsonObject &form)
     const QString repeated = repeatedPassword(passwords);
     if (!repeated.isEmpty())
         login.password = repeated;
-    else if (hasHints)
-        readSurroundings(form, fields, login);
+    if (hasHints)
+        readSurroundings(form, fields, !repeated.isEmpty(), login);
     return login;
 }

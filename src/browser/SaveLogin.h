@@ -3,6 +3,7 @@
 #include "LoginCapture.h"
 
 #include <QMap>
+#include <QRect>
 #include <QString>
 #include <QVector>
 
@@ -18,9 +19,16 @@ struct SaveLoginRequest
     CapturedLogin login;
     /// Where the page names its icon, else where sites usually have it.
     QString faviconUrl;
+    /// What a new login is opened with: the page that asked for all of it, else the site.
+    QString address = {};
+    /// The browser's window on the screen, as far as it is told; null when it is not.
+    QRect place = {};
 
-    /// From the data of "saveLogin": "title", "domain" (or "url"), "faviconUrl", and the login
-    /// itself as "fields" of the submitted form, or as "login" and "password".
+    QString host() const;
+
+    /// From the data of "saveLogin": "title", "url" (or "domain"), "faviconUrl", "posx", "posy",
+    /// "width", "height", and the login itself as "fields" of the submitted form, or as "login" and
+    /// "password". A "login" beside fields is the user name of a page before.
     static SaveLoginRequest fromData(const QJsonObject &data);
 };
 
@@ -42,7 +50,9 @@ struct SaveLoginOffer
 
 /// Compares what was typed with the logins of the same site. Logins in the trash do not count, nor
 /// do those of other sites. The same user name and password: nothing; the same user name: update;
-/// without a user name, the site's login, or the choice of several; else add.
+/// without a user name, the login that had the old password, or the first of the site; else add.
+/// What was typed into a page without encryption never changes a login that has it: anybody on the
+/// way can pose as such a page.
 SaveLoginOffer decideSaveLogin(const SaveLoginRequest &request,
                                const QVector<const PMLogin *> &logins);
 

@@ -51,6 +51,8 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
           m_settings, [this] { return m_safe && m_safe->isUnlocked(); }, places.activity())
     , m_port(places.port)
     , m_items([this] { return m_safe; })
+    , m_loginSaving([this] { return m_safe; }, m_items,
+                    places.configFolder + QStringLiteral("/excluded_sites.json"))
 {
     connect(&m_items, &ItemChanges::message, this, &GPMAppCore::message);
     // What a run that did not end well left behind.
@@ -61,6 +63,10 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     connect(this, &GPMAppCore::currentSafeChanged, &m_cloud, [this] { m_cloud.setSafe(m_safe); });
     connect(this, &GPMAppCore::currentSafeChanged, &m_pageLogins,
             [this] { m_pageLogins.setSafe(m_safe); });
+    connect(this, &GPMAppCore::safeLockedChanged, &m_loginSaving, [this](bool locked) {
+        if (!locked)
+            m_loginSaving.decideAgain();
+    });
     startGuard();
 }
 
@@ -127,6 +133,12 @@ void GPMAppCore::startServer()
     connect(m_link.get(), &BrowserLink::message, this, &GPMAppCore::message);
     connect(m_link.get(), &BrowserLink::openAddress, this, &GPMAppCore::openAddress);
     connect(m_link.get(), &BrowserLink::itemUsed, &m_items, &ItemChanges::countUse);
+    connect(m_link.get(), &BrowserLink::itemUsed, &m_loginSaving, &LoginSaving::noteFilled);
+    connect(&m_link->server(), &GPMWebSocketServer::saveLogin, this, &GPMAppCore::saveLogin);
+    connect(&m_link->server(), &GPMWebSocketServer::loginSubmitted, &m_loginSaving,
+            &LoginSaving::keepSubmitted);
+    connect(&m_link->server(), &GPMWebSocketServer::loginDropped, &m_loginSaving,
+            &LoginSaving::dropSubmitted);
 }
 
 void GPMAppCore::openQuickAccess()
@@ -229,6 +241,7 @@ void GPMAppCore::lockBecause(LockReason reason)
     Q_EMIT requestLock();
     if (m_link)
         m_link->flow().clear();
+    m_loginSaving.clear();
     m_safe->lock();
     m_privateFiles.wipe();
 }
@@ -293,6 +306,16 @@ void GPMAppCore::parsePluginReplay(const QString &callerId, const QJsonObject &d
 void GPMAppCore::fillLoginPage(const QString &callerId, const QJsonObject &data)
 {
     m_link->flow().fillLoginPage(callerId, data);
+}
+
+void GPMAppCore::saveLogin(const QString &callerId, const QJsonObject &data)
+{
+    m_loginSaving.saveLogin(callerId, data);
+}
+
+void GPMAppCore::fillSaveLoginParams(QString &siteTitle, QMap<QString, QString> &candidates) const
+{
+    m_loginSaving.fillSaveLoginParams(siteTitle, candidates);
 }
 
 void GPMAppCore::onHello(const QString &, const QString &version, const QString &bundleId)

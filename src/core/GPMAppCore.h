@@ -14,6 +14,7 @@
 #include "LinkSettings.h"
 #include "LinkState.h"
 #include "LockGuard.h"
+#include "LoginSaving.h"
 #include "OpenSafeTrace.h"
 #include "OriginApprovals.h"
 #include "PageLogins.h"
@@ -77,6 +78,8 @@ public:
     CloudFolders &cloudFolders() { return m_cloudFolders; }
     /// Which logins belong to a page.
     PageLogins &pageLogins() { return m_pageLogins; }
+    /// Offers to save what the user types into pages.
+    LoginSaving &loginSaving() { return m_loginSaving; }
 
     /// What the user decided about browsers.
     LinkSettings &linkSettings() { return m_linkSettings; }
@@ -151,6 +154,8 @@ public Q_SLOTS:
     void placePasswordValue(const QString &password);
     void parsePluginReplay(const QString &callerId, const QJsonObject &data);
     void fillLoginPage(const QString &callerId, const QJsonObject &data);
+    void saveLogin(const QString &callerId, const QJsonObject &data);
+    void fillSaveLoginParams(QString &siteTitle, QMap<QString, QString> &candidates) const;
     void onHello(const QString &callerId, const QString &version, const QString &bundleId);
 
     /// The item's fields were edited: sets its time of change and saves.
@@ -235,6 +240,7 @@ private:
     quint16 m_port;
     ItemChanges m_items;
     PageLogins m_pageLogins;
+    LoginSaving m_loginSaving;
     std::unique_ptr<BrowserLink> m_link;
     std::unique_ptr<LinkState> m_linkState;
     std::shared_ptr<GPMSafe> m_safe;

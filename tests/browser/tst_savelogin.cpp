@@ -75,7 +75,21 @@ void TestSaveLogin::captures_data()
     row("a new password without a repetition", "",
         R"({"type":"password","visible":true,"autocomplete":"","label":"Old password","value":"o"},
            {"type":"password","visible":true,"autocomplete":"","label":"New password","value":"n"})",
-        " n");
+        " n -o");
+    const char *const change =
+        R"({"type":"password","visible":true,"autocomplete":"","label":"Current password","value":"o"},
+           {"type":"password","visible":true,"autocomplete":"","label":"New password","value":"n"},
+           {"type":"password","visible":true,"autocomplete":"","label":"Repeat it","value":"n"})";
+    row("a change with a repetition", "", change, " n -o");
+    row("a new account without telling words", "",
+        R"({"type":"text","visible":true,"autocomplete":"email","value":"a@b.c"},
+           {"type":"password","visible":true,"autocomplete":"new-password","value":"n"},
+           {"type":"password","visible":true,"autocomplete":"new-password","value":"n"})",
+        "a@b.c n +");
+    row("the code of a card is no password", "",
+        R"({"type":"text","visible":true,"autocomplete":"cc-number","value":"4111"},
+           {"type":"password","visible":true,"autocomplete":"cc-csc","value":"123"})",
+        " ");
     row("wrong types", "", R"(5, null, {"type":[],"value":{}}, {"visible":true,"value":1})", " ");
 }
 
@@ -84,7 +98,8 @@ void TestSaveLogin::captures()
     QFETCH(QByteArray, form);
     const CapturedLogin login = captureLogin(json(form));
     QTEST(login.userName + QLatin1Char(' ') + login.password +
-              QLatin1String(login.isSignUp ? " +" : ""),
+              QLatin1String(login.isSignUp ? " +" : "") +
+              (login.oldPassword.isEmpty() ? QString() : QStringLiteral(" -") + login.oldPassword),
           "captured");
 }
 
@@ -114,6 +129,12 @@ void TestSaveLogin::decides_data()
     row("shop.example.evil.example", "ana", "new", "add of 0");
     row("shop.example", "ana", "", "nothing");
     row("not a site", "ana", "new", "nothing");
+    // A page without encryption poses as the site: it never changes what has encryption.
+    row("http://shop.example", "ana", "one", "nothing");
+    row("http://shop.example", "ana", "new", "add of 1");
+    row("http://login.shop.example", "bob", "new", "update bob@login.shop of 1");
+    // The old password tells whose it is.
+    row("shop.example", "", "new after two", "update bob@login.shop of 2");
 }
 
 void TestSaveLogin::decides()
@@ -143,7 +164,8 @@ void TestSaveLogin::decides()
     QFETCH(QString, password);
     SaveLoginRequest request;
     request.site = site;
-    request.login = {user, password, false};
+    request.login = {user, password, false,
+                     password.mid(4).remove(QStringLiteral("after ")).trimmed()};
     const SaveLoginOffer offer = decideSaveLogin(request, logins);
     static const QStringList actions = {QStringLiteral("nothing"), QStringLiteral("update"),
                                         QStringLiteral("add")};
@@ -168,23 +190,37 @@ void TestSaveLogin::request_data()
     const auto row = [](const char *data, const char *read) {
         QTest::addRow("%s", data) << QByteArray(data) << QString::fromUtf8(read);
     };
-    row(R"({"title":" My \n shop ","domain":"www.shop.example","login":"ana","password":"p"})",
-        "My shop|www.shop.example|ana|p|https://shop.example/favicon.ico");
+    row(R"({"title":" My \n shop\u202e ","domain":"www.shop.example","login":"ana","password":"p"})",
+        "My shop|www.shop.example|ana|p|https://shop.example/favicon.ico|www.shop.example|0,0 0x0");
+    row(R"({"url":"https://u:p@shop.example:8443/in/%41?token=1#x","posx":-1e300,"posy":"3",
+            "width":5,"height":-9,"login":"ana",
+            "fields":[{"type":"password","visible":true,"name":"pass","value":"p"}]})",
+        "|https://u:p@shop.example:8443/in/%41?token=1#x|ana|p|https://shop.example/favicon.ico|"
+        "https://shop.example:8443/|-100000,0 5x0");
     row(R"({"domain":"a.example","url":"https://b.example/x","faviconUrl":"https://c.example/i.png",
             "fields":[{"type":"text","visible":true,"name":"login","value":"bob"}]})",
-        "|https://b.example/x|bob||https://c.example/i.png");
+        "|https://b.example/x|bob||https://c.example/i.png|https://b.example/x|0,0 0x0");
     row(R"({"title":3,"domain":{},"url":"javascript:1","fields":{},"faviconUrl":"file:///etc/x"})",
-        "||||");
+        "||||||0,0 0x0");
     row(R"({"domain":"shop.example","faviconUrl":"file:///etc/x"})",
-        "|shop.example|||https://shop.example/favicon.ico");
+        "|shop.example|||https://shop.example/favicon.ico|shop.example|0,0 0x0");
 }
 
 void TestSaveLogin::request()
 {
     QFETCH(QByteArray, data);
     const SaveLoginRequest read = SaveLoginRequest::fromData(json(data));
-    const QStringList parts = {read.title, read.site, read.login.userName, read.login.password,
-                               read.faviconUrl};
+    const QStringList parts = {read.title,
+                               read.site,
+                               read.login.userName,
+                               read.login.password,
+                               read.faviconUrl,
+                               read.address,
+                               QStringLiteral("%1,%2 %3x%4")
+                                   .arg(read.place.x())
+                                   .arg(read.place.y())
+                                   .arg(read.place.width())
+                                   .arg(read.place.height())};
     QTEST(parts.join(QLatin1Char('|')), "read");
 }
 

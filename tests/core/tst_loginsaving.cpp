@@ -1,0 +1,269 @@
+#include "LoginSaving.h"
+#include "PMLogin.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString caller = QStringLiteral("{1}");
+const QString password = QStringLiteral("pw");
+
+QJsonObject typed(const char *site, const char *user, const char *secret)
+{
+    return {{QStringLiteral("title"), QStringLiteral("The shop")},
+            {QStringLiteral("url"), QLatin1String(site)},
+            {QStringLiteral("login"), QLatin1String(user)},
+            {QStringLiteral("password"), QLatin1String(secret)}};
+}
+
+QJsonObject capture(int id)
+{
+    return {{QStringLiteral("captureId"), QString::number(id)}};
+}
+
+QJsonObject submitted(int id, const QJsonObject &login)
+{
+    QJsonObject payload = capture(id);
+    payload.insert(QStringLiteral("login"), login);
+    return payload;
+}
+
+const char *const shop = "https://shop.example/in";
+
+} // namespace
+
+class TestLoginSaving : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<GPMSafe> m_safe;
+    std::unique_ptr<ItemChanges> m_items;
+    std::unique_ptr<LoginSaving> m_saving;
+    QDateTime m_now = QDateTime::currentDateTimeUtc();
+
+    QString addLogin(const char *user, const char *secret)
+    {
+        auto login = std::make_unique<PMLogin>();
+        login->setTitle(QStringLiteral("Shop"));
+        login->setUrl(QStringLiteral("https://shop.example"));
+        login->setLogin(QLatin1String(user));
+        login->setPassword(QLatin1String(secret));
+        return m_items->add(std::move(login))->id();
+    }
+    void submit(int id, const QJsonObject &login)
+    {
+        m_saving->keepSubmitted(caller, submitted(id, login));
+    }
+    void offer(const char *site, const char *user, const char *secret)
+    {
+        m_saving->saveLogin(caller, typed(site, user, secret));
+    }
+    QString offered() const
+    {
+        const LoginOffer *current = m_saving->offer();
+        if (!current)
+            return QStringLiteral("none");
+        static const char *const states[] = {"locked", "decided", "known"};
+        return QLatin1String(states[current->state]) + QLatin1Char(' ') + current->request.host() +
+               QLatin1Char(' ') + current->request.login.password;
+    }
+    /// What the safe holds when it is read anew from the disk.
+    QStringList stored() const
+    {
+        GPMSafe safe;
+        QStringList lines;
+        if (!safe.open(m_safe->folder()) || !safe.unlock(password))
+            return {QStringLiteral("does not open")};
+        for (const PMListItem *item : safe.items()) {
+            const auto *login = qobject_cast<const PMLogin *>(item);
+            lines.append(QStringList{login->title(), login->url(), login->login(),
+                                     login->password(), login->secondaryText()}
+                             .join(QLatin1Char('|')));
+        }
+        lines.sort();
+        return lines;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_safe = std::make_shared<GPMSafe>();
+        const QString folder = m_folder->filePath(QStringLiteral("safe"));
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(m_safe->init(folder, password, QStringLiteral("Mine"), {}));
+        m_items = std::make_unique<ItemChanges>([this] { return m_safe; });
+        m_saving = std::make_unique<LoginSaving>([this] { return m_safe; }, *m_items,
+                                                 m_folder->filePath(QStringLiteral("sites.json")),
+                                                 [this] { return m_now; });
+    }
+
+    // Reported, and then accepted, dropped, or too late.
+    void submissions()
+    {
+        submit(1, typed(shop, "ana", "one"));
+        QCOMPARE(offered(), QStringLiteral("none"));
+        m_saving->saveLogin(QStringLiteral("{2}"), capture(1)); // not the one that reported it
+        QCOMPARE(offered(), QStringLiteral("none"));
+        m_saving->saveLogin(caller, capture(1));
+        QCOMPARE(offered(), QStringLiteral("decided shop.example one"));
+        m_saving->decline();
+        m_saving->saveLogin(caller, capture(1));
+        QCOMPARE(offered(), QStringLiteral("none"));
+
+        submit(2, typed(shop, "ana", "two"));
+        m_saving->dropSubmitted(caller, capture(2));
+        m_saving->saveLogin(caller, capture(2));
+        submit(3, typed(shop, "ana", "three"));
+        m_now = m_now.addSecs(61);
+        m_saving->saveLogin(caller, capture(3));
+        for (int id = 10; id < 19; ++id)
+            submit(id, typed(shop, "ana", "many"));
+        m_saving->saveLogin(caller, capture(10)); // the first of nine
+        QCOMPARE(offered(), QStringLiteral("none"));
+        submit(20, typed(shop, "ana", "locked"));
+        m_saving->clear();
+        m_saving->saveLogin(caller, capture(20));
+        QCOMPARE(offered(), QStringLiteral("none"));
+    }
+
+    void oneOfferASite()
+    {
+        QSignalSpy changed(m_saving.get(), &LoginSaving::offerChanged);
+        offer(shop, "ana", "one");
+        for (int i = 0; i < 20; ++i)
+            offer("https://bank.example/", "ana", QByteArray::number(i).constData());
+        QCOMPARE(changed.count(), 1);
+        offer("https://www.shop.example/", "ana", "two");
+        QCOMPARE(offered(), QStringLiteral("decided www.shop.example two"));
+        m_saving->decline();
+        QCOMPARE(offered(), QStringLiteral("decided bank.example 19"));
+        m_saving->decline();
+        QCOMPARE(offered(), QStringLiteral("none"));
+        offer("https://bank.example/", "ana", "19"); // declined
+        QCOMPARE(offered(), QStringLiteral("none"));
+        for (const char *site : {"https://a.example", "https://b.example", "https://c.example",
+                                 "https://d.example", "https://e.example", "https://f.example"})
+            offer(site, "ana", "x");
+        for (int left = LoginSaving::mostOffers; left > 0; --left)
+            m_saving->decline();
+        QVERIFY(!m_saving->offer());
+    }
+
+    void excludedSites()
+    {
+        offer(shop, "ana", "one");
+        QVERIFY(m_saving->exclude());
+        QVERIFY(!m_saving->offer());
+        offer("https://my.shop.example", "bob", "two");
+        submit(1, typed(shop, "bob", "two"));
+        QVERIFY(m_saving->includeAgain(QStringLiteral("shop.example")));
+        m_saving->saveLogin(caller, capture(1)); // was not even kept
+        QVERIFY(!m_saving->offer());
+        offer(shop, "bob", "two");
+        QVERIFY(m_saving->offer());
+    }
+
+    void adds()
+    {
+        QSignalSpy done(m_saving.get(), &LoginSaving::saved);
+        QSignalSpy icon(m_saving.get(), &LoginSaving::siteIconWanted);
+        QTest::ignoreMessage(QtDebugMsg,
+                             "Try favicon download: \"https://shop.example/favicon.ico\"");
+        offer(shop, "ana", "one");
+        QVERIFY(m_saving->save({{}, {}, QStringLiteral("ana"), QStringLiteral("one")}));
+        QVERIFY(done.wait());
+        QCOMPARE(stored(),
+                 QStringList{QStringLiteral("The shop|https://shop.example/in|ana|one|ana")});
+        QCOMPARE(icon.count(), 1);
+        QCOMPARE(icon.at(0).at(0).toString(), QStringLiteral("shop.example"));
+        offer(shop, "ana", "one");
+        QVERIFY(!m_saving->offer());
+    }
+
+    void updatesTheChosenLogin()
+    {
+        const QString ana = addLogin("ana", "one");
+        const QString bob = addLogin("bob", "two");
+        offer(shop, "", "new");
+        QString title;
+        QMap<QString, QString> candidates;
+        m_saving->fillSaveLoginParams(title, candidates);
+        QCOMPARE(title, QStringLiteral("The shop"));
+        QCOMPARE(candidates.values(), m_saving->offer()->decision.candidates.values());
+        QCOMPARE(candidates.value(bob), QStringLiteral("bob"));
+        QSignalSpy done(m_saving.get(), &LoginSaving::saved);
+        QVERIFY(m_saving->save({bob, {}, {}, QStringLiteral("new")}));
+        QVERIFY(done.wait());
+        QCOMPARE(stored(), (QStringList{QStringLiteral("Shop|https://shop.example|ana|one|"),
+                                        QStringLiteral("Shop|https://shop.example|bob|new|bob")}));
+
+        offer(shop, "ana", "newer");
+        m_items->setDeleted({ana}, true);
+        QVERIFY(!m_saving->save({ana, {}, {}, QStringLiteral("newer")}));
+        QCOMPARE(m_saving->offer()->decision.action, SaveLoginOffer::Add);
+    }
+
+    void whatWasFilledIsNotOffered()
+    {
+        const QString id = addLogin("ana", "one");
+        m_saving->noteFilled(id);
+        offer(shop, "Ana M.", "one"); // what the page calls her
+        QVERIFY(!m_saving->offer());
+        m_now = m_now.addSecs(600);
+        offer(shop, "Ana M.", "one");
+        QVERIFY(m_saving->offer());
+    }
+
+    void aLockedSafe()
+    {
+        addLogin("ana", "one");
+        m_safe->lock();
+        offer(shop, "ana", "one");
+        offer("https://bank.example", "ana", "two");
+        QCOMPARE(offered(), QStringLiteral("locked shop.example one"));
+        m_now = m_now.addSecs(59);
+        m_saving->setUnlocking(true);
+        m_now = m_now.addSecs(30);
+        QVERIFY(m_safe->unlock(password));
+        m_saving->decideAgain();
+        QCOMPARE(offered(), QStringLiteral("known shop.example one"));
+        m_saving->decline();
+        QCOMPARE(offered(), QStringLiteral("decided bank.example two"));
+
+        m_saving->clear();
+        m_safe->lock();
+        offer(shop, "ana", "late");
+        m_now = m_now.addSecs(61);
+        m_saving->setUnlocking(false); // looks at the time
+        QVERIFY(!m_saving->offer());
+    }
+
+    void aSaveThatFailsKeepsTheOffer()
+    {
+        offer(shop, "ana", "one");
+        QSignalSpy failed(m_saving.get(), &LoginSaving::saveFailed);
+        QSignalSpy done(m_saving.get(), &LoginSaving::saved);
+        const QString content = m_safe->folder() + QStringLiteral("/content");
+        QVERIFY(QDir().rename(content, content + QStringLiteral(".away")));
+        QFile inTheWay(content);
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        const LoginChoice choice{{}, {}, QStringLiteral("ana"), QStringLiteral("one")};
+        QVERIFY(m_saving->save(choice));
+        QVERIFY(failed.wait());
+        QVERIFY(m_saving->offer());
+        QVERIFY(inTheWay.remove());
+        QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
+        QVERIFY(m_saving->save(choice));
+        QVERIFY(done.wait());
+        QCOMPARE(stored().size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLoginSaving)
+#include "tst_loginsaving.moc"
