@@ -27,11 +27,11 @@ export const describing = buildSync({
 export function pagesOf(set) {
   const folder = new URL(`${set}/`, here);
   return readdirSync(folder).sort().flatMap((file) => {
-    const parts = readFileSync(new URL(file, folder), 'utf8').split(/<!-- page: (.*?) \| (\w+) \| (.*?) -->\n/).slice(1);
+    const parts = readFileSync(new URL(file, folder), 'utf8').split(/<!-- page: (.*?) \| ([\w-]+) \| (.*?) -->\n/).slice(1);
     const pages = [];
     for (let at = 0; at < parts.length; at += 4) {
       const [name, language, title, body] = parts.slice(at, at + 4);
-      const html = `<!doctype html><html lang=${language}><title>${title}</title><body>${body}`;
+      const html = `<!doctype html><html lang="${language}"><title>${title}</title><body>${body}`;
       pages.push({ name: `${file}: ${name}`, html });
     }
     return pages;
