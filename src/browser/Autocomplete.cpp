@@ -16,7 +16,7 @@ const QHash<QString, FieldKind> &tokens()
         {QStringLiteral("name"), FieldKind::FullName},
         {QStringLiteral("given-name"), FieldKind::FirstName},
         {QStringLiteral("family-name"), FieldKind::LastName},
-        {QStringLiteral("additional-name"), FieldKind::Other},
+        {QStringLiteral("additional-name"), FieldKind::MiddleName},
         {QStringLiteral("honorific-prefix"), FieldKind::Other},
         {QStringLiteral("honorific-suffix"), FieldKind::Other},
         {QStringLiteral("nickname"), FieldKind::Other},
@@ -58,8 +58,10 @@ const QHash<QString, FieldKind> &tokens()
         {QStringLiteral("tel"), FieldKind::Phone},
         {QStringLiteral("tel-country-code"), FieldKind::PhoneCode},
         {QStringLiteral("tel-national"), FieldKind::PhoneNumber},
-        {QStringLiteral("tel-area-code"), FieldKind::Other},
-        {QStringLiteral("tel-local"), FieldKind::Other},
+        {QStringLiteral("tel-area-code"), FieldKind::PhoneArea},
+        {QStringLiteral("tel-local"), FieldKind::PhoneLine},
+        {QStringLiteral("tel-local-prefix"), FieldKind::PhonePrefix},
+        {QStringLiteral("tel-local-suffix"), FieldKind::PhoneLine},
         {QStringLiteral("tel-extension"), FieldKind::Other}};
     return kinds;
 }

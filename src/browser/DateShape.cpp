@@ -96,6 +96,17 @@ QString firstThatGoes(const FieldPlace &place, const QStringList &texts)
 
 } // namespace
 
+QVector<DatePart> datePartsOf(const FormField &field)
+{
+    QVector<DatePart> parts;
+    for (const Run &run : shapeOf(field, 3).runs) {
+        parts.append(run.isMonth()  ? DatePart::Month
+                     : run.isYear() ? DatePart::Year
+                                    : DatePart::Day);
+    }
+    return parts;
+}
+
 QString twoFigures(int number)
 {
     return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));

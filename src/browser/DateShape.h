@@ -12,6 +12,12 @@ QString expiryText(const PMFieldTypes::Date &date, const FieldPlace &place);
 /// language of the page writes dates when it asks for nothing. Empty for an incomplete date.
 QString birthText(const PMFieldTypes::Date &date, const FieldPlace &place);
 
+enum class DatePart { Day, Month, Year };
+
+/// The three parts of a date in the order in which the field's words show them, as "DD.MM.YYYY"
+/// does. Empty when they show none.
+QVector<DatePart> datePartsOf(const FormField &field);
+
 /// A year as the field asks for it: with two figures or with four.
 QString yearText(int year, const FormField &field);
 

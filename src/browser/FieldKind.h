@@ -5,7 +5,7 @@ enum class FieldKind {
     Unknown,
     /// Nothing of ours belongs there, whatever else speaks for it: a one-time code, a search.
     Never,
-    /// Known, and no item has it: a middle name, a quantity.
+    /// Known, and no item has it: a fax, a quantity.
     Other,
 
     UserName,
@@ -25,6 +25,7 @@ enum class FieldKind {
 
     FirstName,
     LastName,
+    MiddleName,
     FullName,
     Country,
     State,
@@ -39,6 +40,10 @@ enum class FieldKind {
     PhoneCode,
     /// The number without its dialling code.
     PhoneNumber,
+    /// Its parts: "(212) 555-0123" in three fields.
+    PhoneArea,
+    PhonePrefix,
+    PhoneLine,
     BirthDate,
     BirthDay,
     BirthMonth,

@@ -132,7 +132,7 @@ FieldReading readSelect(const FormField &field, FieldReading reading)
     const bool isCountryOfCodes =
         chosen == FieldKind::PhoneCode &&
         (reading.kind == FieldKind::Country || reading.kind == FieldKind::Phone ||
-         reading.kind == FieldKind::Unknown);
+         reading.kind == FieldKind::PhoneArea || reading.kind == FieldKind::Unknown);
     if (isCountryOfCodes || chosen == FieldKind::Gender || chosen == FieldKind::CardType)
         reading.kind = chosen;
     else if (reading.kind == FieldKind::Unknown)
@@ -146,6 +146,8 @@ FieldKind kindInPassword(FieldKind kind)
 {
     switch (kind) {
     case FieldKind::Never:
+    // A social security number is hidden too.
+    case FieldKind::Other:
     case FieldKind::NewPassword:
     case FieldKind::CurrentPassword:
     case FieldKind::RepeatedPassword:
@@ -169,11 +171,19 @@ bool isExample(const QString &text)
     return text.contains(QLatin1Char('@')) && address.match(text).hasMatch();
 }
 
+/// The signs between the parts of a date or a telephone number are none.
+bool hasWord(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter.isLetterOrNumber(); });
+}
+
 FieldReading readTextsOf(const FormField &field)
 {
     FieldReading reading;
     const QStringList texts = field.readTexts();
     bool hasExample = false;
+    bool hasSign = false;
     for (int i = 0; i < texts.size(); ++i) {
         const QString &text = texts.at(i);
         // The label is often also the text before the field.
@@ -183,10 +193,11 @@ FieldReading readTextsOf(const FormField &field)
             hasExample = true;
             continue;
         }
-        reading.hasText = reading.hasText || !text.trimmed().isEmpty();
+        hasSign = hasSign || !text.isEmpty();
+        reading.hasText = reading.hasText || hasWord(text);
         take(reading, text, MainWord::First);
     }
-    if (!reading.hasText)
+    if (!hasSign)
         take(reading, field.textAfter(), MainWord::First);
     const QString name = field.name();
     const QString id = field.id();

@@ -40,7 +40,7 @@ Group groupOf(FieldKind kind)
         return Group::Card;
     if (kind >= FieldKind::BirthDate && kind <= FieldKind::BirthYear)
         return Group::Birth;
-    if (kind >= FieldKind::Phone && kind <= FieldKind::PhoneNumber)
+    if (kind >= FieldKind::Phone && kind <= FieldKind::PhoneLine)
         return Group::Phone;
     return isIdentityKind(kind) ? Group::Address : Group::None;
 }
@@ -78,6 +78,22 @@ void leaveHiddenChoices(const QVector<FormField> &fields, QVector<FieldKind> &ki
         if (isChoice(field) && (isTyped(kind) || isHidden))
             kinds[i] = FieldKind::Unknown;
     }
+}
+
+/// A list of countries that stands alone is for the page's own language or currency.
+void leaveLoneCountry(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
+{
+    int only = -1;
+    for (int i = 0; i < fields.size(); ++i) {
+        if (kinds.at(i) == FieldKind::Unknown)
+            continue;
+        if (only >= 0)
+            return;
+        only = i;
+    }
+    if (only >= 0 && kinds.at(only) == FieldKind::Country && fields.at(only).isSelect() &&
+        fields.at(only).hasHints())
+        kinds[only] = FieldKind::Unknown;
 }
 
 /// Everybody can read along in a line of text: a password of the user's does not go there. One that
@@ -143,5 +159,6 @@ QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurro
         kinds.append(belongsTo(kind, action) ? kind : FieldKind::Unknown);
     }
     leaveHiddenChoices(fields, kinds);
+    leaveLoneCountry(fields, kinds);
     return kinds;
 }

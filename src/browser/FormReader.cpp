@@ -1,8 +1,10 @@
 #include "FormReader.h"
 
+#include "DateShape.h"
 #include "FieldOptions.h"
 #include "FieldPhrases.h"
 #include "LoginRoles.h"
+#include "SplitFields.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -34,6 +36,7 @@ public:
     {
         for (int i = 0; i < m_fields.size(); ++i)
             continueList(i);
+        assignSplitFields(m_fields, m_readings, m_kinds);
         const QHash<QString, Sexes> sexes = sexesOfRadios();
         for (int i = 0; i < m_fields.size(); ++i) {
             if (m_fields.at(i).isRadio())
@@ -89,6 +92,14 @@ private:
         return captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
     }
 
+    /// Whether a field says by itself that it is a card's. Passports expire as well as cards.
+    bool saysCard(int at) const
+    {
+        const FieldKind kind = reading(at).kind;
+        return isCardKind(kind) && kind != FieldKind::CardMonth && kind != FieldKind::CardYear &&
+               kind != FieldKind::CardExpiry;
+    }
+
     /// Whether another field says by itself that it is a card's, one close by or, under a card's
     /// heading, any: the heading alone may be that of a gift or a customer's card.
     bool isWithCard(int at) const
@@ -97,22 +108,29 @@ private:
             return false;
         const bool isHeaded = captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
         for (int i = 0; i < m_fields.size(); ++i) {
-            if (i != at && isCardKind(reading(i).kind) && (isHeaded || qAbs(i - at) <= near))
+            if (i != at && saysCard(i) && (isHeaded || qAbs(i - at) <= near))
                 return true;
         }
         return false;
     }
 
-    /// A field without a word of its own, which belongs to the one before it.
-    bool isSilent(int i) const
+    bool isNear(int at, FieldKind kind) const
     {
-        return i < m_fields.size() && !reading(i).hasText && !m_fields.at(i).isPassword() &&
-               (m_fields.at(i).isLine() || m_fields.at(i).isSelect());
+        for (int i = at - near; i <= at + near; ++i) {
+            if (kindAt(i) == kind)
+                return true;
+        }
+        return false;
+    }
+
+    bool isSilentAt(int i) const
+    {
+        return i < m_fields.size() && isSilent(m_fields.at(i), reading(i));
     }
 
     bool isOpen(int i) const
     {
-        return isSilent(i) && (kindAt(i) == FieldKind::Unknown || isVagueKind(kindAt(i)));
+        return isSilentAt(i) && (kindAt(i) == FieldKind::Unknown || isVagueKind(kindAt(i)));
     }
 
     void continueList(int at);
@@ -122,6 +140,7 @@ private:
     void readNeighbours(int at);
     void readVague(int at);
     FieldKind plainName(int at) const;
+    bool isHolder(int at) const;
     QHash<QString, Sexes> sexesOfRadios() const;
 
     const QVector<FormField> &m_fields;
@@ -209,7 +228,9 @@ void Reader::readDate(int at)
     const bool isBirth = !isCard && (isIdentityKind(kind) || followsBirth ||
                                      reading(at).says(FieldKind::BirthDate) ||
                                      captionKindOf(field.heading()) == CaptionKind::Birth);
-    if (!isBirth && !isCard && !isNearCard(at)) {
+    // No card shows the day.
+    const bool isWhole = kind == FieldKind::CardExpiry && datePartsOf(field).size() == 3;
+    if (isWhole || (!isBirth && !isCard && !isNearCard(at))) {
         m_kinds[at] = FieldKind::Other;
         return;
     }
@@ -219,7 +240,7 @@ void Reader::readDate(int at)
         m_fields.at(at).isSelect() && datePart(at + 1, true) == FieldKind::BirthMonth)
         part = FieldKind::BirthDay;
     const bool isShort = field.isSelect() || (field.maxLength() > 0 && field.maxLength() <= 4);
-    if (part != FieldKind::Unknown && (isVagueKind(kind) || isShort || isSilent(at + 1) ||
+    if (part != FieldKind::Unknown && (isVagueKind(kind) || isShort || isSilentAt(at + 1) ||
                                        part == kind || reading(at).also.contains(part))) {
         m_kinds[at] = part;
     } else if (!isBirth && (field.isSelect() || field.maxLength() == 2)) {
@@ -253,7 +274,7 @@ void Reader::readNeighbours(int at)
     const FieldKind before = kindAt(at - 1);
     switch (m_kinds.at(at)) {
     case FieldKind::HouseNumber:
-        if (before != FieldKind::AddressLine1 && kindAt(at + 1) != FieldKind::AddressLine1)
+        if (!isNear(at, FieldKind::AddressLine1))
             m_kinds[at] = FieldKind::Other;
         return;
     case FieldKind::AddressLine1:
@@ -261,8 +282,19 @@ void Reader::readNeighbours(int at)
             m_kinds[at] = FieldKind::AddressLine2;
         return;
     case FieldKind::Phone:
-        if (before == FieldKind::PhoneCode)
+        if (before == FieldKind::PhoneArea)
+            m_kinds[at] = FieldKind::PhoneLine;
+        else if (before == FieldKind::PhoneCode)
             m_kinds[at] = FieldKind::PhoneNumber;
+        return;
+    case FieldKind::PhoneArea:
+        if (kindAt(at + 1) != FieldKind::Phone && kindAt(at + 1) != FieldKind::PhonePrefix &&
+            kindAt(at + 1) != FieldKind::PhoneLine)
+            m_kinds[at] = FieldKind::Other;
+        return;
+    case FieldKind::FullName:
+        if (isHolder(at))
+            m_kinds[at] = FieldKind::CardHolder;
         return;
     case FieldKind::CardCode:
     case FieldKind::CardHolder:
@@ -294,6 +326,16 @@ void Reader::readVague(int at)
     default:
         return;
     }
+}
+
+/// Whether a full name is that of a card: it says so, or nothing else of a person is asked for.
+bool Reader::isHolder(int at) const
+{
+    if (reading(at).isTold || !has(FieldKind::CardNumber) || has(FieldKind::CardHolder))
+        return false;
+    const bool isOfPerson = has(FieldKind::AddressLine1) || has(FieldKind::Email) ||
+                            has(FieldKind::Phone) || has(FieldKind::BirthDate);
+    return reading(at).says(FieldKind::CardHolder) || (isNearCard(at) && !isOfPerson);
 }
 
 /// "Name" alone: of the card's holder, the family's beside a first name, or the whole.

@@ -8,6 +8,8 @@ namespace {
 
 constexpr int mostNewsletterFields = 3;
 constexpr int mostBesideLogin = 2;
+/// The rank of a field that is called a user name.
+constexpr int surelyUserName = 6;
 
 CaptionKind purposeOf(const FormSurroundings &around)
 {
@@ -102,7 +104,7 @@ int userNameRank(const FormField &field, const FieldReading &reading, FieldKind 
     if (!field.isVisible() || !field.isLine() || kind == FieldKind::Never)
         return 0;
     if (kind == FieldKind::UserName)
-        return 6;
+        return surelyUserName;
     if (reading.says(FieldKind::UserName))
         return 5;
     switch (kind) {
@@ -117,8 +119,12 @@ int userNameRank(const FormField &field, const FieldReading &reading, FieldKind 
     case FieldKind::Unknown:
     case FieldKind::FullName:
         return 2;
-    default:
+    case FieldKind::LastName:
+    case FieldKind::Company:
         return 1;
+    default:
+        // Nobody signs in with a street or a date.
+        return isVagueKind(kind) ? 1 : 0;
     }
 }
 
@@ -129,7 +135,8 @@ int findUserName(const QVector<FormField> &fields, const QVector<FieldReading> &
     int bestRank = 0;
     for (int i = 0; i < before; ++i) {
         const int rank = userNameRank(fields.at(i), readings.at(i), kinds.at(i));
-        if (rank > bestRank) {
+        // Of an account and the user within it, the user stands beside the password.
+        if (rank > bestRank || (rank == surelyUserName && rank == bestRank)) {
             best = i;
             bestRank = rank;
         }

@@ -19,8 +19,9 @@ QString nameOf(FieldKind kind)
         const QStringList list =
             QStringLiteral(
                 "unknown never other username password new-password cc-first cc-last "
-                "cc-name cc-number cc-csc cc-month cc-year cc-exp cc-type first last name "
-                "country state city line1 line2 house zip email tel tel-code tel-local "
+                "cc-name cc-number cc-csc cc-month cc-year cc-exp cc-type first last middle name "
+                "country state city line1 line2 house zip email tel tel-code tel-local tel-area "
+                "tel-prefix tel-line "
                 "bday bday-day bday-month bday-year sex company job site")
                 .split(QLatin1Char(' '));
         QHash<int, QString> byKind;

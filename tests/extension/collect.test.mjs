@@ -95,6 +95,8 @@ const TEXTS = [
   [`<p>${'x'.repeat(300)}</p><input name="${'n'.repeat(300)}">`, { sourceContext: 'x'.repeat(200), name: 'n'.repeat(200) }],
   ['<input id=i name=n class="c  d">', { id: 'i', sourceId: 'i', name: 'n', sourceName: 'n', class: 'c d', sourceClass: 'c d' }],
   ['<input id=a><label for=a>City</label><input>', { textBefore: '', sourceContext: '' }, 1],
+  ['<table><tr><td>Phone<td>(<input>) <input></table>', { textBefore: 'Phone' }],
+  ['<table><tr><td>Phone<td>(<input>) <input></table>', { textBefore: ')' }, 1],
   ['<div><input><mat-label>City</mat-label></div><input>', { textBefore: '', textAfter: 'City' }],
   ['<table><tr><th>City<th>Zip</tr><tr><td><input><td><input></table>', { tableHead: 'Zip', textBefore: '' }, 1],
   ['<h2>Card</h2><form><input></form>', { heading: 'Card' }],

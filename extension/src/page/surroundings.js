@@ -21,17 +21,20 @@ function sameColumn(row, field) {
   return row.cells?.length > 1 && column !== undefined ? (row.cells[column] ?? row) : row;
 }
 
+// A bracket or a stroke before a part of a number is no caption, but better than what belongs to the next field.
 function textBeside(field, side, levels) {
   let node = field;
+  let sign = '';
   for (let level = 0; node && level < levels; level += 1, node = parentOf(node)) {
-    if (node.tagName === 'FORM' || node.tagName === 'BODY') return '';
+    if (node.tagName === 'FORM' || node.tagName === 'BODY') return sign;
     for (let beside = node[NEXT[side]]; beside; beside = beside[NEXT[side]]) {
-      if (isOthers(beside, field)) return '';
+      if (isOthers(beside, field)) return sign;
       const text = textOf(sameColumn(beside, field), NO_CAPTION);
-      if (text) return text;
+      if (/[\p{L}\p{N}]/u.test(text)) return text;
+      sign ||= text;
     }
   }
-  return '';
+  return sign;
 }
 
 /** The text before the field, up to the next field: in the same line, the cell before, the block above. */

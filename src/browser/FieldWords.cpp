@@ -1,0 +1,267 @@
+#include "FieldWords.h"
+
+// clang-format off
+const QVector<WordRow<FieldKind>> &fieldWords()
+{
+    static const QVector<WordRow<FieldKind>> rows = {
+    {FieldKind::Never,
+     "newsletter|subscribe|search|search for|search term|keyword|keywords|=query|=find|=q|suche|suchen|suchbegriff|buscar|busqueda|rechercher|recherche|"
+     "поиск|искать|найти|srch|"
+     "coupon|coupon code|couponcode|voucher|voucher code|evoucher|promo|promo code|promocode|promotion code|promotional code|discount|"
+     "discount code|discount name|gift card|giftcard|gift certificate|gift code|redeem|referral|referral code|invite code|invitation code|"
+     "gutschein|gutscheincode|gutscheinnummer|rabatt|rabattcode|aktionscode|cupon|codigo promocional|codigo de descuento|"
+     "tarjeta regalo|vale descuento|code promo|code promotionnel|code de reduction|bon de reduction|code cadeau|carte cadeau|"
+     "промокод|промо код|купон|код скидки|подарочная карта|сертификат|"
+     "captcha|recaptcha|security check|verification image|enter the characters|characters shown|word as shown|code from picture|"
+     "code from the picture|code from image|code shown|anti spam|antispam|quiz math|sicherheitsabfrage|spamschutz|"
+     "код с картинки|символы с картинки|капча|introduce los caracteres|recopiez|"
+     "one time|=otp|=otc|one time code|one time password|one time passcode|verification code|authentication code|authenticator|"
+     "auth code|confirmation code|passcode sent|sms code|=sms|2fa|mfa|totp|=token|token code|digit 1|digit 2|digit 3|digit 4|digit 5|"
+     "digit 6|=tan|mtan|sms tan|bestatigungscode|verifizierungscode|sicherheitscode per sms|einmalcode|einmalpasswort|"
+     "codigo de verificacion|codigo de confirmacion|code de verification|code de confirmation|code recu|code sms|"
+     "код из смс|код из sms|код подтверждения|смс код|одноразовый код|одноразовый пароль|"
+     "workspace address|workspace url|workspace name|=workspace|team url|subdomain|"
+     "security question|security answer|secret question|secret answer|=answer|your answer|memorable answer|memorable word|"
+     "memorable|mother s maiden name|mothers maiden name|first pet|sicherheitsfrage|geheimfrage|antwort|"
+     "pregunta de seguridad|respuesta|question secrete|question de securite|reponse|секретный вопрос|=ответ|"
+     "honeypot|leave this field blank|leave this field empty|leave blank"},
+
+    {FieldKind::Other,
+     "address line 3|street address line 3|address 3|line 3|street 3|street line 3|maiden name|second name|birth name|place of birth|birth place|geburtsname|geburtsort|lugar de nacimiento|lieu de naissance|место рождения|segundo apellido|apellido materno|"
+     "nickname|=nick|screen name|display name|preferred name|alias|=handle|avatar|"
+     "quantity|qty|=amount|=price|=total|=size|=color|=colour|subject|message|comment|comments|notes|order notes|remarks|special requests|"
+     "delivery instructions|instructions|bemerkung|nachricht|betreff|kommentar|mensaje|asunto|comentario|comentarios|commentaire|=objet|"
+     "комментарий|сообщение|=тема|"
+     "fax|fax number|faxnummer|vat|vat number|vat id|tax id|tax number|ust id|ustid|umsatzsteuer id|steuernummer|cif|nif cif|nif|"
+     "numero tva|tva|siret|инн|кпп|"
+     "iban|bic|swift|account number|routing number|sort code|kontonummer|bankleitzahl|blz|numero de cuenta|"
+     "номер документа|серия и номер|серия и номер документа|=dni|dni nif|=nie|codice fiscale|=cf|=cpf|cpf do titular|tussenvoegsel|toevoeging|"
+     "passport|passport number|passport no|passport expiry|passport expiry date|doc no|doc exp|doc number|document number|document expiry|"
+     "reisepass|reisepassnummer|pasaporte|passeport|паспорт|=серия|ppnumber|ppexpiry|pp number|pp expiry|"
+     "social security|social security number|ssn|national insurance number|nino|insurance number|sozialversicherungsnummer|"
+     "driver license|drivers license|driving licence|license number|licence number|income|annual income|"
+     "frequent flyer|frequent flyer number|ffn|membership number|membership no|member number|member id|loyalty number|customer number|"
+     "order number|invoice number|=reference|reference number|registration number|reg number|serial number|issue number|"
+     "kundennummer|mitgliedsnummer|vertragsnummer|rechnungsnummer|nationality|staatsangehorigkeit|nacionalidad|nationalite|"
+     "гражданство|card nickname|nationalite|"
+     "=arrival|arrival time|check in|check out|check in date|check out date|checkin|checkout date|=departure|return date|delivery date|"
+     "start date|end date|date established|established|appointment|date of issue|issue date|date of expiry|=from|=to|=destination|=origin|"
+     "time zone|timezone|language|sprache|idioma|langue|currency|rating|employees|number of employees|numemployees|company size|team size|size of company|"
+     "=extension|=ext|in honor of|honoree|=client|=tenant|=domain|colonia|=age|=alter|=edad|=hint|"
+     "титул|titel|phone extension|estado civil|marital status"},
+
+    {FieldKind::UserName,
+     "username|user name|user id|userid|user|login|login id|loginid|login name|uname|user login|logon|logon id|account id|account name|"
+     "=account|identifier|member login|benutzername|benutzer|benutzerkennung|anmeldename|kennung|zugangsnummer|teilnehmernummer|"
+     "usuario|nombre de usuario|identificador|identifiant|utilisateur|nom d utilisateur|numero client|numero de client|"
+     "логин|имя пользователя|пользователь|учетная запись"},
+    {FieldKind::NewPassword,
+     "new password|newpassword|choose a password|choose password|create a password|create password|desired password|"
+     "neues passwort|neues kennwort|passwort wahlen|nueva contrasena|crea una contrasena|nouveau mot de passe|"
+     "choisissez un mot de passe|новый пароль|подтверждение пароля|придумайте пароль|new password 1"},
+    {FieldKind::RepeatedPassword,
+     "confirm password|confirm new password|password confirmation|passwordconfirm|repeat password|repeat new password|"
+     "retype password|re enter password|re type password|verify password|password again|password2|password 2|pass 2|"
+     "passwort wiederholen|kennwort wiederholen|passwort bestatigen|neues passwort bestatigen|repite la contrasena|"
+     "repetir contrasena|confirmar contrasena|confirma la contrasena|confirmer le mot de passe|"
+     "confirmez le mot de passe|confirmation du mot de passe|повторите пароль|повтор пароля|подтвердите пароль|"
+     "new password 2|repeatpassword|confirmpassword|passwort erneut|repetez mot de passe|repetez le mot de passe|"
+     "confirmez votre mot de passe|check password|passwd 2|mot de passe verif|confirmation password|contrasena otra vez|"
+     "repita la contrasena|confirme la contrasena|еще раз пароль|пароль еще раз|wiederhole passwort"},
+    {FieldKind::Password,
+     "password|passwd|pasword|pwd|passwort|kennwort|contrasena|=clave|clave de acceso|mot de passe|mdp|пароль|=pin|passphrase|parol"},
+    {FieldKind::CurrentPassword,
+     "current password|old password|oldpassword|currentpassword|existing password|aktuelles passwort|altes passwort|"
+     "bisheriges passwort|contrasena actual|mot de passe actuel|ancien mot de passe|текущий пароль|старый пароль"},
+
+    {FieldKind::CardFirstName, "first name on card|cardholder first name|card first name|card first|cc first name|cc first|"
+     "card holder first name|vorname des karteninhabers"},
+    {FieldKind::CardLastName, "last name on card|cardholder last name|card last name|card last|cc last name|cc last|"
+     "card holder last name|nachname des karteninhabers"},
+    {FieldKind::CardHolder,
+     "name on card|card user name|card username|name on the card|name on credit card|name as it appears on card|name as it appears on the card|name as on card|"
+     "cardholder|card holder|cardholder name|card holder name|cardholder s name|card holder s name|cardholders name|cc name|ccname|"
+     "card name|cardname|cc holder|ccholder|cc owner|card owner|=owner|=holder|holder name|card holder full name|name on your card|"
+     "name of cardholder|karteninhaber|name des karteninhabers|name auf der karte|name auf karte|=inhaber|kontoinhaber|"
+     "=titular|titular de la tarjeta|nombre del titular|nombre en la tarjeta|nombre y apellidos del titular|"
+     "=titulaire|titulaire de la carte|nom du titulaire|nom sur la carte|nom du porteur|=porteur|"
+     "держатель карты|держатель|владелец карты|имя владельца|имя держателя|имя на карте|имя и фамилия на карте"},
+    {FieldKind::CardNumber,
+     "card number|cardnumber|card num|cardnum|card no|cardno|card nr|card num ber|cc number|ccnumber|cc num|ccnum|cc no|ccno|cc nr|"
+     "credit card number|creditcardnumber|credit card no|credit card|creditcard|debit card number|pan|pan 1|pan 2|pan 3|pan 4|"
+     "number on card|pmt card nr|kartennummer|kreditkartennummer|karten nr|kartennr|kreditkarte|knr|"
+     "numero de tarjeta|nro de tarjeta|nro tarjeta|numero tarjeta|no tarjeta|no de tarjeta|n tarjeta|num tarjeta|numero de la tarjeta|tarjeta de credito|"
+     "numero de carte|numero de la carte|numero carte|n de carte|no de carte|numero de carte bancaire|carte bancaire|"
+     "номер карты|номер банковской карты|nomer karty|=karta"},
+    {FieldKind::CardCode,
+     "cvv|cvv 2|ccv|cvc|cvc 2|csc|cvn|cid|ccid|cc id|cc cid|cc cvv|cc csc|cc code|cc checkcode|check code|checkcode|security code|securitycode|"
+     "card code|card security code|card verification|card verification number|card verification code|verification value|"
+     "card verification value|security number|3 digit security number|cv 2|card id number|cvd|"
+     "prufziffer|kartenprufnummer|prufnummer|kartenprufziffer|sicherheitscode|sicherheitsnummer|"
+     "codigo de seguridad|cod seguridad|codigo seguridad|codigo cvv|codseg|"
+     "code de securite|cryptogramme|cryptogramme visuel|code cvv|code cvc|crypto|"
+     "код безопасности|код карты|код cvv|код cvc|trehznachny kod"},
+    {FieldKind::CardExpiry,
+     "expiry|expiry date|expiration|expiration date|=expires|expires on|expires end|=exp|exp date|expdate|expire|expire date|cc exp|card exp|"
+     "card expiry|card expiration|cc expiry|cc expires|valid thru|valid through|valid until|valid to|good thru|date of expiry of card|"
+     "gultig bis|gultigkeit|ablaufdatum|verfallsdatum|ablauf|gultigkeitsdatum|"
+     "caducidad|fecha de caducidad|vencimiento|fecha de vencimiento|fecha de expiracion|valida hasta|"
+     "date d expiration|expire fin|date de validite|date expiration|fin de validite|"
+     "срок действия|срок|действует до|годна до|=srok|mm yy|mm yyyy|mmyy|mm jj|mm jjjj|mm aa|mm aaaa|мм гг|мм гггг"},
+    {FieldKind::CardMonth,
+     "expiry month|expiration month|exp month|expmonth|cc exp month|cc month|card month|exp mm|expm|exp m|ccmm|cc mm|cc mo|exp mo|expires month|"
+     "cc expires month|expiration date month|expiry date month|ablaufmonat|mes de caducidad|mois d expiration|месяц окончания|srokm|"
+     "gultig bis monat|expirymonth|expirationmonth|card exp month"},
+    {FieldKind::CardYear,
+     "expiry year|expiration year|exp year|expyear|cc exp year|cc year|card year|exp yy|expy|exp y|ccyy|cc yy|cc yr|exp yr|expires year|"
+     "cc expires year|expiration date year|expiry date year|ablaufjahr|ano de caducidad|annee d expiration|год окончания|sroky|"
+     "gultig bis jahr|expiryyear|expirationyear|card exp year|expiration yr"},
+    {FieldKind::CardType,
+     "card type|cardtype|cc type|cctype|credit card type|type of card|card brand|payment type|kartentyp|kartenart|tipo de tarjeta|"
+     "type de carte|тип карты"},
+
+    {FieldKind::FirstName,
+     "first name|firstname|fname|given name|given names|givenname|givennames|forename|forenames|first|f name|legal first name|"
+     "vorname|vname|vornamen|nombres|primer nombre|nombre de pila|prenom|prenoms|имя|imya|=ima"},
+    {FieldKind::LastName,
+     "last name|lastname|lname|surname|family name|familyname|last|l name|legal last name|second last name|nachname|nname|familienname|"
+     "zuname|apellido|apellidos|primer apellido|apellido paterno|nom de famille|nom famille|фамилия|familiya|familia|=fam"},
+    {FieldKind::MiddleName,
+     "middle name|middlename|middle names|middle initial|=mi|=m i|additional name|zweiter vorname|segundo nombre|deuxieme prenom|отчество|otchestvo|"
+     "patronymic"},
+    {FieldKind::FullName,
+     "full name|fullname|your name|name and surname|first and last name|contact name|contact person|=contact|recipient|recipient name|"
+     "addressee|customer name|real name|complete name|legal name|=author|enter address full name|"
+     "vor und nachname|name vorname|vorname nachname|vollstandiger name|ansprechpartner|empfanger|ihr name|"
+     "nombre completo|nombre y apellidos|nombre y apellido|destinatario|nom complet|nom et prenom|nom prenom|destinataire|prenom et nom|"
+     "фио|ф и о|fio|получатель|полное имя|имя и фамилия|фамилия имя отчество|ваше имя|контактное лицо|как к вам обращаться"},
+    {FieldKind::SomeName, "name|nom|nombre|=nm"},
+    {FieldKind::Country,
+     "country|country region|country name|country code|countrycode|country id|country or region|land|=staat|pais|pays|страна|strana|"
+     "country of residence|land region"},
+    {FieldKind::State,
+     "state|province|region|county|state province|state county|territory|state territory|prefecture|canton|state id|state or region|state or "
+     "province|=zone|province id|region id|bundesland|kanton|provincia|estado|departamento|departement|область|регион|край|oblast|=edo"},
+    {FieldKind::City,
+     "city|town|suburb|locality|city town|town city|post town|municipality|village|ort|stadt|wohnort|ciudad|poblacion|localidad|municipio|"
+     "ville|commune|localite|город|населенныи пункт|населенный пункт|gorod|=cty"},
+    {FieldKind::AddressLine1,
+     "address|street|street address|streetaddress|address line 1|addressline 1|address 1|addr 1|addr|line 1|street 1|home address|mailing "
+     "address|postal address|street name|street and number|street and house number|house no and street|house number and street name|"
+     "house number and street|enter address line 1|billing address|shipping address|delivery address|street line|street line 1|"
+     "strasse|strasse und hausnummer|strasse hausnummer|strasse nr|strasse und nr|anschrift|adresse|strassenname|=str|"
+     "direccion|calle|calle y numero|calle numero|domicilio|=via|rue|adresse n et rue|numero et rue|voie|adresse postale|"
+     "улица|адрес|адрес доставки|улица дом|adres|adres 1|ulica|ulitsa"},
+    {FieldKind::AddressLine2,
+     "address line 2|addressline 2|address 2|addr 2|line 2|street 2|apartment|apartment suite|apartment suite unit|apt|apt suite|apt unit|suite|"
+     "unit|unit number|apt number|=floor|=building|address complement|address line two|street address line 2|extra line|street line 2|street "
+     "address 2|adresszusatz|=zusatz|adresserganzung|=piso|piso puerta|=puerta|=portal|escalera|=complement|complement d adresse|batiment|etage|"
+     "appartement|квартира|корпус|adres 2|enter address line 2|dpto|departamento numero"},
+    {FieldKind::HouseNumber,
+     "house number|house no|housenumber|=house|street number|hausnummer|hausnr|haus nr|hnr|=nr|numero exterior|numero de casa|numero de rue|"
+     "=дом|номер дома|=dom"},
+    {FieldKind::PostalCode,
+     "postal code|postalcode|postcode|post code|zip|zip code|zipcode|zip postal code|zip postal|postal|zippostalcode|=zp|bzip|pincode|pin "
+     "code|plz|postleitzahl|codigo postal|cod postal|=c p|=cp|cpost|code postal|индекс|почтовый индекс|почтовыи индекс|indeks|=index"},
+    {FieldKind::Email,
+     "email|e mail|mail|email address|e mail address|mail address|emailaddress|your email|work email|e mail adresse|email adresse|mailadresse|"
+     "correo|correo electronico|email address confirm|adresse e mail|adresse email|adresse mail|adresse electronique|courriel|"
+     "confirm email|confirm email address|repeat email|=mel|почта|электронная почта|эл почта|эл адрес|pochta|имеил|адрес электронной почты"},
+    {FieldKind::Phone,
+     "phone|telephone|phone number|phonenumber|phone no|telephone number|telephone no|tel|telno|mobile|mobile number|mobile phone|mobile no|"
+     "=cell|cell phone|cellphone|cell number|contact number|contact phone|daytime phone|daytime telephone|telefon|telefonnummer|telefonnr|"
+     "handy|handynummer|mobil|mobilnummer|mobiltelefon|rufnummer|festnetz|telefono|telefono movil|movil|celular|tlf|tfno|"
+     "numero de telefono|telephone portable|telephone mobile|portable|numero de telephone|телефон|номер телефона|мобильный|мобильный телефон|"
+     "мобильныи|контактный телефон|сотовый|msisdn"},
+    {FieldKind::PhoneCode,
+     "phone country code|phone code|dialing code|dialling code|dial code|dialcode|calling code|country calling code|phone prefix|"
+     "international code|landesvorwahl|landervorwahl|landercode|prefijo|prefijo telefonico|prefijo internacional|indicatif|indicatif "
+     "telephonique|indicatif pays|код страны|phonecode|phone countrycode"},
+    {FieldKind::PhoneArea, "area code|phone area|phone area code|vorwahl|ortsvorwahl|codigo de area|indicatif regional|код города"},
+    {FieldKind::PhonePrefix, "phone exchange|exchange code|=exchange"},
+    {FieldKind::PhoneLine, "phone line|phone line number|phone suffix|local phone number"},
+    {FieldKind::BirthDate,
+     "date of birth|birth date|birthdate|birthday|dob|=birth|d o b|=born|geburtsdatum|geburtstag|geb datum|=geb|fecha de nacimiento|fecha nacimiento|"
+     "nacimiento|fnac|date de naissance|naissance|дата рождения|день рождения"},
+    {FieldKind::BirthDay, "birth day|birthday day|dob day|dobday|day of birth|bday day|dob d|dobd|geburtstag tag|día de nacimiento"},
+    {FieldKind::BirthMonth, "birth month|birthday month|dob month|dobmonth|month of birth|bday month|dob m|dobm|geburtsmonat|mes de nacimiento"},
+    {FieldKind::BirthYear, "birth year|birthday year|dob year|dobyear|year of birth|bday year|dob y|doby|geburtsjahr|ano de nacimiento"},
+    {FieldKind::Gender,
+     "gender|sex|anrede|geschlecht|genero|sexo|civilite|sexe|genre|=пол|=pol|salutation|salut|courtesy title|tratamiento|обращение"},
+    {FieldKind::Company,
+     "company|company name|organization|organisation|organization name|business name|employer|=firm|firma|firmenname|unternehmen|betrieb|"
+     "arbeitgeber|empresa|nombre de la empresa|razon social|societe|entreprise|raison sociale|nom de l entreprise|компания|организация|"
+     "место работы|название компании|работодатель"},
+    {FieldKind::JobTitle,
+     "job title|jobtitle|=job|=position|occupation|profession|=role|beruf|stellung|berufsbezeichnung|puesto|=cargo|profesion|ocupacion|fonction|"
+     "=poste|metier|должность|профессия"},
+    {FieldKind::Website,
+     "website|web site|url|homepage|home page|=web|webseite|internetseite|pagina web|sitio web|site web|site internet|сайт|веб саит"},
+
+    {FieldKind::SomeNumber, "number|no|numero|num|nummer|номер"},
+    {FieldKind::SomeCode, "code|codigo|код|kod"},
+    {FieldKind::SomeDay, "day|dd|tag|tt|dia|jour|jj|день|дд"},
+    {FieldKind::SomeMonth, "month|mm|mo|monat|mes|mois|месяц|мм"},
+    {FieldKind::SomeYear, "year|yy|yyyy|yr|jahr|jjjj|ano|aa|aaaa|annee|год|гг|гггг"},
+    {FieldKind::SomeDate, "date|datum|fecha|дата|dd mm yyyy|mm dd yyyy|tt mm jjjj|jj mm aaaa|dd mm aaaa|дд мм гггг|yyyy mm dd"},
+
+    // Words of further languages that many shops of the neighbourhood write.
+    {FieldKind::FirstName, "voornaam|imie|prenome"},
+    {FieldKind::LastName, "achternaam|cognome|nazwisko|sobrenome"},
+    {FieldKind::SomeName, "nome|naam"},
+    {FieldKind::FullName, "nome e cognome|nome completo|volledige naam|imie i nazwisko"},
+    {FieldKind::AddressLine1, "straat|straatnaam|straat en huisnummer|indirizzo|endereco|morada|logradouro|=rua|ulica i numer"},
+    {FieldKind::HouseNumber, "huisnummer|numero civico|numer domu"},
+    {FieldKind::PostalCode, "=cap|codice postale|kod pocztowy|=cep|codigo de enderecamento"},
+    {FieldKind::City, "woonplaats|=plaats|citta|comune|miejscowosc|miasto|cidade"},
+    {FieldKind::Country, "nazione|paese|=kraj"},
+    {FieldKind::Phone, "telefoon|telefoonnummer|cellulare|numero di telefono|numer telefonu|telefone"},
+    {FieldKind::Email, "e mailadres|emailadres|posta elettronica|adres e mail|adres email"},
+    {FieldKind::BirthDate, "geboortedatum|data di nascita|data de nascimento|data urodzenia"},
+    {FieldKind::Gender, "geslacht|aanhef|sesso|płec|sexo"},
+    {FieldKind::UserName, "gebruikersnaam|nome utente|=utente|nazwa użytkownika|nome de usuario"},
+    {FieldKind::Password, "wachtwoord|hasło|senha"},
+    {FieldKind::CardNumber, "kaartnummer|numero della carta|numero carta|numero do cartao|numer karty"},
+    {FieldKind::CardHolder,
+     "naam op de kaart|naam op kaart|intestatario|intestatario della carta|titolare della carta|nome sulla carta|nome no cartao|nome impresso no cartao|"
+     "imie i nazwisko na karcie"},
+    {FieldKind::CardExpiry, "vervaldatum|scadenza|data di scadenza|validade|data de validade|data waznosci"},
+    {FieldKind::CardCode, "beveiligingscode|codice di sicurezza|codigo de seguranca|kod bezpieczenstwa"},
+    };
+    return rows;
+}
+
+const QVector<WordRow<CaptionKind>> &captionWords()
+{
+    static const QVector<WordRow<CaptionKind>> rows = {
+    {CaptionKind::ChangePassword,
+     "change password|change my password|change your password|reset password|reset your password|new password|choose a new password|"
+     "set password|set a password|set new password|update password|passwort andern|passwort zurucksetzen|kennwort andern|neues passwort|"
+     "cambiar contrasena|restablecer contrasena|nueva contrasena|modifier le mot de passe|changer le mot de passe|"
+     "reinitialiser le mot de passe|nouveau mot de passe|сменить пароль|изменить пароль|новый пароль|смена пароля"},
+    {CaptionKind::SignUp,
+     "sign up|signup|register|registration|create account|create an account|create your account|create new account|"
+     "create new customer account|new account|new customer|new user|join|join now|join free|join today|get started|get started free|"
+     "start trial|start your trial|enroll|registrieren|registrierung|konto erstellen|neues konto|neukunde|neuer kunde|konto anlegen|"
+     "crear cuenta|registrarse|registrate|registrarme|registrati|registreren|zarejestruj|criar conta|crea account|account aanmaken|registro|nueva cuenta|s inscrire|inscription|creer un compte|nouveau client|"
+     "nouveau compte|enregistrer|регистрация|зарегистрироваться|создать аккаунт|создать учетную запись"},
+    {CaptionKind::Newsletter,
+     "newsletter|subscribe|stay in the loop|stay updated|mailing list|newsletter abonnieren|abonnieren|suscribete|suscribirse|suscribirme|"
+     "boletin|s abonner|infolettre|подписаться|рассылка|подписка"},
+    {CaptionKind::SignIn,
+     "sign in|signin|log in|login|log on|logon|sign on|access your account|returning customer|member login|welcome back|account access|"
+     "accedi|inloggen|zaloguj|anmelden|anmeldung|einloggen|iniciar sesion|acceder|acceso|entrar|se connecter|connexion|identification|s identifier|войти|вход|"
+     "авторизация"},
+    {CaptionKind::GoOn, "=next|=continue|=weiter|=fortfahren|=siguiente|=continuar|=suivant|=continuer|=далее|=продолжить"},
+    {CaptionKind::Card,
+     "payment|pay|card|credit card|credit card information|payment details|payment information|payment method|add card|zahlung|bezahlen|"
+     "kreditkarte|karte|pago|tarjeta|paiement|carte|payer|оплата|карта|картой|оплатить|secure checkout"},
+    {CaptionKind::Birth,
+     "birth|date of birth|birthday|dob|geburtsdatum|geburtstag|nacimiento|naissance|рождения|birth date|birthdate|born"},
+    {CaptionKind::Code,
+     "verification|two step verification|two factor|2 step verification|verification code|authenticator|authentication code|"
+     "check your email|bestatigung|verifizierung|verificacion|подтверждение|подтвердите"},
+    };
+    return rows;
+}
+// clang-format on
