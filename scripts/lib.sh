@@ -11,9 +11,10 @@ build_packages=(
   libssl-dev libquazip1-qt5-dev libzxcvbn-dev libpsl-dev libx11-dev libxext-dev libxss-dev libxtst-dev
 )
 display_packages=(xvfb)
+extension_packages=(zip)
 # Servers of their own for the C++ tests, and the tools that their archives are held against.
 test_packages=(xvfb dbus-daemon zip unzip p7zip-full python3)
-browser_packages=(chromium xvfb openbox trayer xdotool maim)
+browser_packages=(chromium firefox-esr xvfb openbox trayer xdotool maim)
 
 # install_packages NAME...: installs those that are missing, and says so.
 install_packages() {

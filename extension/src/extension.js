@@ -3,9 +3,12 @@ import { createFills } from './fills.js';
 import { parseFrame } from './frames.js';
 import { createLink } from './link.js';
 import { createLogins } from './logins.js';
+import { listenToUser } from './menu.js';
+import { createOpening } from './opening.js';
 import { createRequests } from './requests.js';
+import { createStatus } from './status.js';
 import { createTabs } from './tabs.js';
-import { createWish, showState } from './toolbar.js';
+import { showState } from './toolbar.js';
 
 const ALARM = 'link';
 
@@ -21,10 +24,12 @@ export function startExtension({ api, WebSocket, timers, now }) {
     onFrame: ({ action, payload }) => actions[action](payload),
     onState: (state) => {
       showState(api, state);
-      wish.deliver();
+      status.linked(state);
+      opening.deliver();
     },
   });
-  const wish = createWish({ send: link.send, now });
+  const status = createStatus({ send: link.send });
+  const opening = createOpening({ api, send: link.send, connect: link.connect, now });
 
   const tabs = createTabs({ api, timers });
   const documents = createDocuments({ api, timers });
@@ -35,6 +40,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
     getDocumentData: requests.getDocumentData,
     findLoginPage: requests.findLoginPage,
     fillForm: fills.fillForm,
+    state: status.told,
   };
 
   api.tabs.onUpdated.addListener((tabId, { status }) => {
@@ -42,10 +48,13 @@ export function startExtension({ api, WebSocket, timers, now }) {
   });
   api.tabs.onRemoved.addListener(documents.forget);
   api.tabs.onRemoved.addListener(logins.dropTab);
-  api.action.onClicked.addListener((tab) => {
+  api.runtime.onConnect.addListener((port) => {
+    if (port.name !== 'popup') return;
     link.connect();
-    wish.make(tab.url ?? '');
+    port.onMessage.addListener(async ({ url, open }) => (open ? opening.open(await tabs.active()) : status.watch(port, url)));
+    port.onDisconnect.addListener(() => status.forget(port));
   });
+  listenToUser({ api, open: opening.open });
   // Timers end with the background script; the alarm starts it anew.
   api.alarms.onAlarm.addListener(() => link.connect());
   api.alarms.create(ALARM, { periodInMinutes: 0.5 });

@@ -2,6 +2,8 @@
 const isObject = (value) => typeof value === 'object' && value !== null && !Array.isArray(value);
 const isText = (value) => typeof value === 'string';
 const isName = (value) => isText(value) && value !== '';
+const isFlag = (value) => typeof value === 'boolean';
+const isCount = (value) => Number.isSafeInteger(value) && value >= 0;
 const isTime = (value) => isText(value) && /^\d{1,19}$/.test(value);
 const oneOf = (...words) => (value) => words.includes(value);
 const optional = (check) => (value) => value === undefined || check(value);
@@ -24,7 +26,15 @@ const PAYLOADS = {
     formUid: isName,
     elements: isElementList,
     reason: optional(isText),
-    submit: optional((value) => typeof value === 'boolean'),
+    submit: optional(isFlag),
+  },
+  state: {
+    request_id: optional(isText),
+    refused: optional(oneOf('version', 'approval')),
+    locked: optional(isFlag),
+    safe: optional(isText),
+    url: optional(isText),
+    logins: optional(isCount),
   },
 };
 

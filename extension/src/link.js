@@ -2,12 +2,13 @@ const ADDRESS = 'ws://127.0.0.1:7899';
 const PAUSES = [500, 1000, 2000, 4000, 8000, 16000, 30000];
 // A background worker is ended after 30 s without a message or an API call.
 const BEAT = 20000;
-const HELLO_WAIT = 5000;
+const HELLO_WAIT = 2000;
 const OPEN_LIMIT = 10000;
 
 /**
  * The one connection to the program. States reported to onState: "connected", "offline" (the program is
- * not running) and "busy" (it serves another browser). Frames reach onFrame only once hello was answered.
+ * not running), "busy" (it serves another browser), "approval" (it waits for its user's word about this one) and
+ * "version" (it finds this extension too old). Frames reach onFrame only once hello was answered.
  *
  * identity: what every outgoing frame carries; touchBrowser: makes one extension API call;
  * parseFrame: the checked frame of a text, or undefined.
@@ -41,13 +42,10 @@ export function createLink({ WebSocket, timers, identity, touchBrowser, parseFra
     mine.onopen = () => {
       timers.clearTimeout(openLimit);
       write('hello');
-      // The program serves one browser and may not have read what arrived before our turn, so hello is said again.
-      greeting = timers.setInterval(() => {
-        setState('busy');
-        write('hello');
-      }, HELLO_WAIT);
+      greeting = timers.setTimeout(() => setState('busy'), HELLO_WAIT);
+      // While it waits for its turn it says hello again: a message all the same.
       beat = timers.setInterval(() => {
-        if (state === 'connected') write('keepAlive');
+        write(state === 'connected' ? 'keepAlive' : 'hello');
         touchBrowser();
       }, BEAT);
     };
@@ -56,17 +54,21 @@ export function createLink({ WebSocket, timers, identity, touchBrowser, parseFra
       const frame = parseFrame(data);
       if (!frame) return;
       if (frame.action === 'hello') {
-        timers.clearInterval(greeting);
+        timers.clearTimeout(greeting);
         failures = 0;
         setState('connected');
         return;
       }
-      if (state === 'connected') onFrame(frame);
+      if (state === 'connected') return onFrame(frame);
+      if (frame.action === 'state' && frame.payload.refused) {
+        timers.clearTimeout(greeting);
+        setState(frame.payload.refused);
+      }
     };
 
     mine.onclose = () => {
       timers.clearTimeout(openLimit);
-      timers.clearInterval(greeting);
+      timers.clearTimeout(greeting);
       timers.clearInterval(beat);
       socket = undefined;
       retry = timers.setTimeout(connect, PAUSES[Math.min(failures, PAUSES.length - 1)]);

@@ -8,50 +8,92 @@ import puppeteer from 'puppeteer-core';
 
 const root = fileURLToPath(new URL('../..', import.meta.url));
 
-const CHROMIUM = process.env.CHROMIUM ?? '/usr/bin/chromium';
-const FLAGS = [
+const CHROMIUM_FLAGS = [
   '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--disable-background-networking',
   '--disable-component-update', '--disable-sync',
 ];
+const GECKO_ID = 'extension@glaceron.example';
+// A browser of the tests has the same one always, so that the program can know it beforehand.
+const FIREFOX_UUID = '6f2b8a14-3c5d-4e7f-8a9b-0c1d2e3f4a5b';
+const FIREFOX_PREFERENCES = {
+  'extensions.webextensions.uuids': JSON.stringify({ [GECKO_ID]: FIREFOX_UUID }),
+  'datareporting.policy.dataSubmissionEnabled': false,
+  'browser.aboutwelcome.enabled': false,
+  'browser.tabs.closeWindowWithLastTab': false,
+  'signon.rememberSignons': false,
+  'network.captive-portal-service.enabled': false,
+};
 
-/** Builds the extension where it is out of date; returns the folder that Chromium loads. */
-export function buildExtension() {
+const CHROMIUM = {
+  options: ({ hosts, args }) => ({
+    executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
+    // Over the pipe the background script keeps the life span that it has for a user.
+    pipe: true,
+    enableExtensions: true,
+    args: [...CHROMIUM_FLAGS, `--host-resolver-rules=${hosts.map((host) => `MAP ${host} 127.0.0.1`).join(', ')}`, ...args],
+  }),
+  origin: (extensionId) => `chrome-extension://${extensionId}`,
+};
+
+const FIREFOX = {
+  options: ({ hosts, args, preferences }) => ({
+    browser: 'firefox',
+    executablePath: process.env.FIREFOX ?? '/usr/bin/firefox-esr',
+    // Without it no page of the extension can be opened.
+    args: ['--remote-allow-system-access', ...args],
+    extraPrefsFirefox: { ...FIREFOX_PREFERENCES, 'network.dns.localDomains': hosts.join(','), ...preferences },
+  }),
+  origin: () => `moz-extension://${FIREFOX_UUID}`,
+};
+
+const KINDS = { chromium: CHROMIUM, firefox: FIREFOX };
+
+/** The browsers that every story is told in. BROWSERS=firefox tells it in that one alone. */
+export const BROWSERS = process.env.BROWSERS?.split(',') ?? Object.keys(KINDS);
+
+/** The origin that the extension has in Firefox; in Chromium the program knows it. */
+export const FIREFOX_ORIGIN = FIREFOX.origin();
+
+/** Builds the extension where it is out of date; returns the folder that the browser loads. */
+export function buildExtension(kind = 'chromium') {
   execFileSync(join(root, 'scripts/build-extension'), { stdio: 'inherit' });
-  return join(root, 'extension/dist/chromium');
+  return join(root, 'extension/dist', kind);
 }
 
 /**
- * Starts Chromium with the extension. Without profileDir it gets a profile of its own, removed by close().
- * hosts: names that lead to this machine. Returns {browser, extensionId, connected, close}.
+ * Starts a browser ("chromium", "firefox") with the extension. Without profileDir it gets a profile of its own, removed
+ * by close(). hosts: names that lead to this machine; env: with DISPLAY where it is not headless; preferences: more of
+ * Firefox's. Returns {kind, browser, extensionId, origin, newPage, openExtensionPage, pageAt, connected, close}.
  */
-export async function launchChromium({ profileDir, extensionDir, hosts = [], headless = true, args = [] }) {
-  const userDataDir = profileDir ?? (await mkdtemp(join(tmpdir(), 'glaceron-chromium-')));
-  const rules = hosts.map((host) => `MAP ${host} 127.0.0.1`).join(', ');
-  // Over the pipe the background script keeps the life span that it has for a user.
-  const browser = await puppeteer.launch({
-    executablePath: CHROMIUM,
-    pipe: true,
-    enableExtensions: true,
-    headless,
-    userDataDir,
-    args: [...FLAGS, ...(rules ? [`--host-resolver-rules=${rules}`] : []), ...args],
-  });
-  const extensionId = await browser.installExtension(extensionDir);
+export async function launchBrowser(kind, { profileDir, hosts = [], headless = true, args = [], preferences, env } = {}) {
+  const userDataDir = profileDir ?? (await mkdtemp(join(tmpdir(), `glaceron-${kind}-`)));
+  const own = KINDS[kind].options({ hosts, args, preferences });
+  const browser = await puppeteer.launch({ ...own, headless, userDataDir, ...(env && { env }) });
+  const extensionId = await browser.installExtension(buildExtension(kind));
+  const origin = KINDS[kind].origin(extensionId);
 
-  /** Waits until the toolbar button shows that the program has answered. */
-  async function connected() {
-    const target = await browser.waitForTarget((each) => each.type() === 'service_worker' && each.url().includes(extensionId));
-    const worker = await target.worker();
-    // A worker that is just starting has no extension interfaces yet.
-    const isConnected = () => worker.evaluate(async () => {
-      const { action, i18n } = globalThis.chrome ?? {};
-      return Boolean(action) && (await action.getTitle({})) === i18n.getMessage('stateConnected');
-    });
-    const end = Date.now() + 40000;
-    while (!(await isConnected())) {
-      if (Date.now() > end) throw new Error('The extension did not connect.');
+  /** Opens a page of the extension in a tab. */
+  async function openExtensionPage(path, selector) {
+    const page = await browser.newPage();
+    await page.goto(`${origin}/${path}`, { waitUntil: [] });
+    await page.waitForSelector(selector);
+    return page;
+  }
+
+  /** The page with the address, once it is there: the driver may hear of a new tab after the extension does. */
+  async function pageAt(url) {
+    for (let tries = 0; tries < 200; tries += 1) {
+      const page = (await browser.pages()).findLast((each) => each.url() === url);
+      if (page) return page;
       await setTimeout(50);
     }
+    throw new Error(`No page at ${url}`);
+  }
+
+  /** Waits until the program has answered. */
+  async function connected() {
+    const page = await openExtensionPage('popup.html', '[data-state=connected]');
+    await page.close();
   }
 
   async function close() {
@@ -59,5 +101,5 @@ export async function launchChromium({ profileDir, extensionDir, hosts = [], hea
     if (!profileDir) await rm(userDataDir, { recursive: true, force: true, maxRetries: 10, retryDelay: 200 });
   }
 
-  return { browser, extensionId, connected, close };
+  return { kind, browser, extensionId, origin, openExtensionPage, pageAt, connected, close };
 }

@@ -5,7 +5,7 @@ import { mkdtemp } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { setTimeout } from 'node:timers/promises';
-import { buildExtension, launchChromium } from './browser.mjs';
+import { launchBrowser } from './browser.mjs';
 import { startDesktop, startDesktopProgram } from './desktop.mjs';
 import { startSite } from './site.mjs';
 import { makeUser } from './user.mjs';
@@ -57,7 +57,7 @@ try {
   await user.unlock(PASSWORD);
   say('Locked it and unlocked it again.');
 
-  chromium = await launchChromium({ extensionDir: buildExtension(), hosts: ['mail.cloudmail.example'] });
+  chromium = await launchBrowser('chromium', { hosts: ['mail.cloudmail.example'] });
   await chromium.connected();
   await user.logIn(LOGIN.title);
   const { fields } = await Promise.race([site.nextPost(), overdue()]);

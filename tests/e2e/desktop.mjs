@@ -1,7 +1,7 @@
 import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';
 import { existsSync, readdirSync, readFileSync } from 'node:fs';
-import { mkdir, mkdtemp, rm } from 'node:fs/promises';
+import { mkdir, mkdtemp, rm, writeFile } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { setTimeout } from 'node:timers/promises';
@@ -66,6 +66,7 @@ export async function startDesktop() {
 export async function startDesktopProgram(desktop, { home, binary = 'build/dev/src/glaceron' } = {}) {
   const ownHome = home ?? (await mkdtemp(join(tmpdir(), 'glaceron-home-')));
   const data = join(ownHome, '.local/share/Glaceron', NAME);
+  const config = join(ownHome, '.config/Glaceron', NAME);
   const env = { ...desktop.env, HOME: ownHome, LC_ALL: 'C.UTF-8' };
   for (const key of ['XDG_CONFIG_HOME', 'XDG_DATA_HOME', 'DBUS_SESSION_BUS_ADDRESS']) delete env[key];
   env.XDG_RUNTIME_DIR = join(ownHome, '.run');
@@ -94,6 +95,11 @@ export async function startDesktopProgram(desktop, { home, binary = 'build/dev/s
   return {
     home: ownHome,
     start,
+    /** As if the user had once said yes to the extensions with the origins; before the start. */
+    async approve(origins) {
+      await mkdir(config, { recursive: true });
+      await writeFile(join(config, 'browser.json'), JSON.stringify({ approved_origins: origins }));
+    },
     stop,
     startAgain,
     ended: () => once(child, 'exit'),

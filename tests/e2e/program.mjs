@@ -3,13 +3,17 @@ import { WebSocketServer } from 'ws';
 
 const PORT = 7899;
 
-/** Stands in for the program on its port. Fails to start when the port is taken. */
+/** Stands in for the program on its port, for several browsers at once. Fails to start when the port is taken. */
 export async function startProgram() {
   const arrivals = new EventEmitter();
-  const connections = [];
-  let frames = [];
+  arrivals.setMaxListeners(0);
+  const lines = new Map(); // bundle id → {connections, frames, socket}
   let server;
-  let socket;
+
+  function lineOf(bundleId) {
+    if (!lines.has(bundleId)) lines.set(bundleId, { connections: [], frames: [] });
+    return lines.get(bundleId);
+  }
 
   async function listen() {
     server = new WebSocketServer({ host: '127.0.0.1', port: PORT });
@@ -19,32 +23,35 @@ export async function startProgram() {
     });
   }
 
-  function accept(connection, request) {
-    socket = connection;
-    connections.push({ origin: request.headers.origin });
-    connection.on('message', (data) => {
+  function accept(socket, request) {
+    socket.on('message', (data) => {
       const frame = JSON.parse(data);
-      if (frame.action === 'hello') send('hello', undefined, { callerId: `{${connections.length}}` });
-      frames.push(frame);
+      const line = lineOf(frame.bundleId);
+      if (frame.action === 'hello') {
+        line.connections.push({ origin: request.headers.origin });
+        line.socket = socket;
+        socket.send(JSON.stringify({ action: 'hello', callerId: `{${line.connections.length}}` }));
+      }
+      line.frames.push(frame);
       arrivals.emit('frame');
     });
   }
 
-  function send(action, payload, more) {
-    socket.send(JSON.stringify({ action, payload, ...more }));
-  }
-
-  /** The next frame with the action; those before it are dropped. */
-  async function next(action) {
-    for (;;) {
-      const index = frames.findIndex((frame) => frame.action === action);
-      if (index >= 0) {
-        const frame = frames[index];
-        frames = frames.slice(index + 1);
-        return frame;
-      }
-      await once(arrivals, 'frame');
-    }
+  /** The link to one browser. */
+  function linkTo(bundleId) {
+    const line = lineOf(bundleId);
+    return {
+      connections: line.connections,
+      send: (action, payload) => line.socket.send(JSON.stringify({ action, payload })),
+      /** The next frame with the action; those before it are dropped. */
+      async next(action) {
+        for (;;) {
+          const index = line.frames.findIndex((frame) => frame.action === action);
+          if (index >= 0) return line.frames.splice(0, index + 1).at(-1);
+          await once(arrivals, 'frame');
+        }
+      },
+    };
   }
 
   async function stop() {
@@ -53,5 +60,5 @@ export async function startProgram() {
   }
 
   await listen();
-  return { connections, listen, next, send, stop };
+  return { listen, linkTo, stop };
 }

@@ -3,13 +3,10 @@
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
 import { readFileSync } from 'node:fs';
-import { after, before, test } from 'node:test';
+import { test } from 'node:test';
 import { buildSync } from 'esbuild';
 import WebSocket from 'ws';
-import { buildExtension, launchChromium } from './browser.mjs';
-import { startDesktop, startDesktopProgram } from './desktop.mjs';
-import { startSite } from './site.mjs';
-import { makeUser } from './user.mjs';
+import { makeStage } from './stage.mjs';
 
 const PASSWORD = 'first Master 1!';
 const SECRET = 's3cret-of-the-shop';
@@ -55,114 +52,90 @@ const PAGES = {
 };
 
 const limit = { timeout: 60000 };
-let desktop;
-let program;
-let user;
-let site;
-let chromium;
-
-const shop = (path) => `http://shop.example:${site.port}${path}`;
-const shot = (name) => process.env.PICTURES && desktop.picture(`${process.env.PICTURES}/${name}.png`);
-
-before(async () => {
-  const extensionDir = buildExtension();
-  site = await startSite(PAGES);
-  desktop = await startDesktop();
-  program = await startDesktopProgram(desktop);
-  user = makeUser(desktop, program);
-  program.start();
-  await user.lockedWindow();
-  chromium = await launchChromium({ extensionDir, hosts: ['shop.example', 'other.example'] });
-});
-
-after(async () => {
-  await chromium?.close();
-  await program?.stop('SIGKILL');
-  await program?.remove();
-  desktop?.stop();
-  site?.close();
-});
+const stage = makeStage({ pages: PAGES, hosts: ['shop.example', 'other.example'] });
+const shop = (path) => stage.at(path);
+const shot = (name) => process.env.PICTURES && stage.desktop.picture(`${process.env.PICTURES}/${name}.png`);
 
 test('a new user creates a safe', limit, async () => {
   await shot('1-create');
-  await user.createSafe('Personal', PASSWORD, 'the first one');
-  const [safe] = program.safes();
+  await stage.user.createSafe('Personal', PASSWORD, 'the first one');
+  const [safe] = stage.program.safes();
   const description = JSON.parse(readFileSync(`${safe}/safe.meta`, 'utf8'));
   assert.deepEqual([description.name, description.hint], ['Personal', 'the first one']);
 });
 
 test('logins are added', limit, async () => {
   for (const path of ['plain', 'react', 'frame', 'steps', 'formless', 'away']) {
-    await user.addLogin({ title: path, userName: `ana-${path}@example.org`, password: SECRET, url: shop(`/${path}`) });
+    await stage.user.addLogin({ title: path, userName: `ana-${path}@example.org`, password: SECRET, url: shop(`/${path}`) });
   }
   await shot('2-open');
 });
 
 test('a wrong password says so and loses nothing, the right one opens', limit, async () => {
-  await user.lock();
-  const files = program.items();
-  await user.enterPassword('first master 1!');
-  await program.until(() => program.log().includes("Pass id doesn't match specified password"), 'the refusal in the log');
+  await stage.user.lock();
+  const files = stage.program.items();
+  await stage.user.enterPassword('first master 1!');
+  await stage.program.until(() => stage.program.log().includes("Pass id doesn't match specified password"), 'the refusal in the log');
   await shot('3-wrong');
-  assert.equal(await desktop.isVisible('^Personal - '), false);
-  await user.unlock(PASSWORD);
-  assert.deepEqual(program.items(), files);
+  assert.equal(await stage.desktop.isVisible('^Personal - '), false);
+  await stage.user.unlock(PASSWORD);
+  assert.deepEqual(stage.program.items(), files);
 });
 
-for (const path of ['plain', 'react', 'frame', 'formless']) {
-  test(`a login is filled and sent: ${path}`, limit, async () => {
-    await chromium.connected();
-    await user.logIn(path);
-    assert.deepEqual(await site.nextPost(), { path: '/done', fields: { user: `ana-${path}@example.org`, pw: SECRET } });
+stage.inEachBrowser(() => {
+  for (const path of ['plain', 'react', 'frame', 'formless']) {
+    test(`a login is filled and sent: ${path}`, limit, async () => {
+      await stage.user.logIn(path);
+      assert.deepEqual(await stage.site.nextPost(), { path: '/done', fields: { user: `ana-${path}@example.org`, pw: SECRET } });
+    });
+  }
+
+  test('a login whose password is asked for on a second page', limit, async () => {
+    await stage.user.logIn('steps');
+    assert.deepEqual(await stage.site.nextPost(), { path: '/second', fields: { user: 'ana-steps@example.org' } });
+    assert.deepEqual(await stage.site.nextPost(), { path: '/done', fields: { pw: SECRET } });
   });
-}
 
-test('a login whose password is asked for on a second page', limit, async () => {
-  await user.logIn('steps');
-  assert.deepEqual(await site.nextPost(), { path: '/second', fields: { user: 'ana-steps@example.org' } });
-  assert.deepEqual(await site.nextPost(), { path: '/done', fields: { pw: SECRET } });
-});
+  test('a page of another site gets nothing', limit, async () => {
+    visitsOfAway = 0;
+    await stage.user.logIn('away');
+    // The login page is looked for once more, and leads to the other site again.
+    await stage.program.until(() => visitsOfAway >= 2, 'the second look at the page');
+    await stage.user.logIn('plain');
+    assert.deepEqual(await stage.site.nextPost(), { path: '/done', fields: { user: 'ana-plain@example.org', pw: SECRET } });
+  });
 
-test('a page of another site gets nothing', limit, async () => {
-  await user.logIn('away');
-  // The login page is looked for once more, and leads to the other site again.
-  await program.until(() => visitsOfAway >= 2, 'the second look at the page');
-  await user.logIn('plain');
-  assert.deepEqual(await site.nextPost(), { path: '/done', fields: { user: 'ana-plain@example.org', pw: SECRET } });
-});
+  test('after a kill and a restart the extension finds the program again', limit, async () => {
+    await stage.program.stop('SIGKILL');
+    stage.program.start();
+    await stage.user.unlock(PASSWORD);
+    await stage.browser.connected();
+    await stage.user.logIn('plain');
+    assert.deepEqual(await stage.site.nextPost(), { path: '/done', fields: { user: 'ana-plain@example.org', pw: SECRET } });
+  });
 
-test('a page cannot pose as the extension', limit, async () => {
-  const page = await chromium.browser.newPage();
-  await page.goto(shop('/done'));
-  const outcome = await page.evaluate((link) => new Promise((resolve) => {
-    const socket = new WebSocket(link);
-    socket.onopen = () => resolve('open');
-    socket.onerror = () => resolve('refused');
-  }), LINK);
-  assert.equal(outcome, 'refused');
-  await page.close();
-  // The browser may have kept the page from trying: the same request, made by hand.
-  const socket = new WebSocket(LINK, { origin: shop('').slice(0, -1) });
-  const error = await new Promise((resolve) => socket.on('error', resolve).on('open', () => resolve(null)));
-  assert.match(String(error), /403/);
-});
-
-test('after a kill and a restart the extension finds the program again', limit, async () => {
-  await program.stop('SIGKILL');
-  program.start();
-  await user.unlock(PASSWORD);
-  await chromium.connected();
-  await user.logIn('plain');
-  assert.deepEqual(await site.nextPost(), { path: '/done', fields: { user: 'ana-plain@example.org', pw: SECRET } });
+  test('a page cannot pose as the extension', limit, async () => {
+    const page = await stage.browser.browser.newPage();
+    await page.goto(shop('/done'));
+    const outcome = await page.evaluate((link) => new Promise((resolve) => {
+      const socket = new WebSocket(link);
+      socket.onopen = () => resolve('open');
+      socket.onerror = () => resolve('refused');
+    }), LINK);
+    assert.equal(outcome, 'refused');
+    await page.close();
+    // The browser may have kept the page from trying: the same request, made by hand.
+    const socket = new WebSocket(LINK, { origin: shop('').slice(0, -1) });
+    const error = await new Promise((resolve) => socket.on('error', resolve).on('open', () => resolve(null)));
+    assert.match(String(error), /403/);
+  });
 });
 
 test('an answer to an older request is not used', limit, async () => {
-  await chromium.close();
-  chromium = null;
   const socket = new WebSocket(LINK);
   const frames = [];
   socket.on('message', (data) => frames.push(JSON.parse(data)));
-  const arrived = (count) => program.until(() => frames.length >= count, `${count} frames`);
+  const arrived = (count) => stage.program.until(() => frames.length >= count, `${count} frames`);
   const send = (action, payload) => socket.send(JSON.stringify({ action, payload, version: '1.1.32', bundleId: 'glaceron.chrome' }));
   const answer = ({ reason, itemid, timestamp }, opid) => send('collectDocumentResults', {
     reason, itemid, timestamp, tabUrl: shop('/plain'),
@@ -171,9 +144,9 @@ test('an answer to an older request is not used', limit, async () => {
   await new Promise((resolve) => socket.on('open', resolve));
   send('hello');
   await arrived(1);
-  await user.logIn('plain');
+  await stage.user.logIn('plain');
   await arrived(2);
-  await user.logIn('plain');
+  await stage.user.logIn('plain');
   await arrived(3);
   const [, first, second] = frames.map(({ payload }) => payload);
   assert.equal(first.itemid, second.itemid);
@@ -185,23 +158,23 @@ test('an answer to an older request is not used', limit, async () => {
 });
 
 test('closing the window leaves the program in the tray, a second start brings it back', limit, async () => {
-  const window = await user.openWindow();
-  await desktop.press('alt+F4');
-  await program.until(async () => !(await desktop.isVisible('Glaceron Password Manager$')), 'the window to go');
-  assert.equal(await program.startAgain(), 0);
-  assert.equal(await user.openWindow(), window);
+  const window = await stage.user.openWindow();
+  await stage.desktop.press('alt+F4');
+  await stage.program.until(async () => !(await stage.desktop.isVisible('Glaceron Password Manager$')), 'the window to go');
+  assert.equal(await stage.program.startAgain(), 0);
+  assert.equal(await stage.user.openWindow(), window);
 });
 
 test('no secret lies about in the user\'s home', limit, () => {
-  execFileSync('grep', ['-rqF', 'the first one', program.home]); // what is no secret is found
+  execFileSync('grep', ['-rqF', 'the first one', stage.program.home]); // what is no secret is found
   for (const text of [SECRET, PASSWORD, 'ana-plain']) {
-    assert.throws(() => execFileSync('grep', ['-rqF', text, program.home]), ({ status }) => status === 1);
+    assert.throws(() => execFileSync('grep', ['-rqF', text, stage.program.home]), ({ status }) => status === 1);
   }
 });
 
 test('Exit in the tray ends the program', limit, async () => {
-  const ended = program.ended();
-  await desktop.click(14, 14, 3);
-  await desktop.press('Up', 'Return');
+  const ended = stage.program.ended();
+  await stage.desktop.click(14, 14, 3);
+  await stage.desktop.press('Up', 'Return');
   assert.deepEqual(await ended, [0, null]);
 });

@@ -11,6 +11,8 @@ function createEvent() {
   };
 }
 
+export const WINDOW = { left: 10, top: 20, width: 800, height: 600 };
+
 /**
  * A browser with one window and the extension running in it, connected to a stand-in for the program.
  * web: address → page text, or {html, busy, frames: [[address, ...addresses around it]]}; one that is missing fails to
@@ -25,7 +27,8 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
   let lastDocument = 0;
   const onUpdated = createEvent();
   const onRemoved = createEvent();
-  const onClicked = createEvent();
+  const onConnect = createEvent();
+  const onCommand = createEvent();
   let program;
 
   const view = ({ id, windowId, url, status }) => ({ id, windowId, url, status });
@@ -88,7 +91,10 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
 
   const getTab = async (id) => view(tabs.get(id) ?? (() => { throw new Error('No tab'); })());
   const api = () => ({
-    runtime: { getURL: () => 'chrome-extension://id/', getManifest: () => ({ version: '1.1.32' }), getPlatformInfo: async () => ({}) },
+    runtime: {
+      getURL: () => 'chrome-extension://id/', getManifest: () => ({ version: '1.1.32' }), getPlatformInfo: async () => ({}),
+      onConnect, onInstalled: createEvent(), onStartup: createEvent(),
+    },
     scripting: { executeScript },
     tabs: {
       onUpdated, onRemoved, get: getTab,
@@ -98,17 +104,19 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
     },
     windows: {
       getLastFocused: async () => ({ id: 1 }),
+      get: async (id) => (id === 1 ? { id, type: 'normal', ...WINDOW } : Promise.reject(new Error('No window'))),
       create: async ({ url }) => ({ tabs: [addTab(url)] }),
       update: async () => ({}),
     },
     action: {
-      onClicked,
       setBadgeText: ({ text }) => { looks.badge = text; },
       setBadgeBackgroundColor: () => {},
       setTitle: ({ title }) => { looks.title = title; },
     },
     i18n: { getMessage: (name) => name },
     alarms: { onAlarm: createEvent(), create: () => {} },
+    commands: { onCommand },
+    contextMenus: { onClicked: createEvent(), create: () => {}, removeAll: async () => {} },
   });
 
   class Socket {
@@ -127,7 +135,14 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
   await greet();
   return {
     clock, looks, injections, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, greet, hangUp: () => program.onclose(),
-    click: (tab) => onClicked.fire(tab),
+    /** The user presses the keys of a command. */
+    press(command, tab) { onCommand.fire(command, tab); return idle(); },
+    /** The pop-up of the toolbar button: {say, shown: what it was told}. */
+    async openPopup() {
+      const port = { name: 'popup', onMessage: createEvent(), onDisconnect: createEvent(), shown: [], postMessage: (state) => port.shown.push(state) };
+      onConnect.fire(port);
+      return { shown: port.shown, close: () => port.onDisconnect.fire(), say: (message) => { port.onMessage.fire(message); return idle(); } };
+    },
     documentOf: (tabId, frame = 0) => tabs.get(tabId).documents[frame].window.document,
     go: (tabId, url) => { navigate(tabs.get(tabId), url); return idle(); },
     /** What the browser tells when a page changes its own address. */

@@ -1,6 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { startBrowser } from './fake-browser.mjs';
+import { WINDOW, startBrowser } from './fake-browser.mjs';
 import { idle } from './clock.mjs';
 
 const LOGIN = '<title>Log in</title><form><input name=user><input name=pw type=password></form>';
@@ -314,22 +314,51 @@ test('no other tab is taken when the one that answered was closed', async () => 
   assert.deepEqual([browser.address(active), browser.received()], ['https://other.example/', []]);
 });
 
-test('a click before the program listens is told it when it does, unless that took long', async () => {
+test('a wish before the program listens is told it when it does, unless that took long', async () => {
   for (const [wait, expected] of [[4000, [SHOP]], [6000, []]]) {
     const { browser } = await browserAt(SHOP);
     browser.hangUp();
-    browser.click({ url: 'https://shop.example/' });
-    browser.click({ url: SHOP });
+    await browser.press('quick-access', { url: 'https://shop.example/', windowId: 1 });
+    await browser.press('quick-access', { url: SHOP, windowId: 1 });
     await browser.clock.advance(wait);
     await browser.greet();
     assert.deepEqual(browser.received().map(({ payload }) => payload.url), expected);
   }
 });
 
-test('the toolbar button sends the address of its tab, and shows the link', async () => {
+const WISHES = [['quick-access', {}], ['fill', { kind: 'login', fill: true }], ['generate', { kind: 'generate' }]];
+
+test('each command tells the program its wish, the page and where the window is', async () => {
   const { browser } = await browserAt(SHOP);
-  browser.click({ url: SHOP });
-  browser.click({});
-  assert.deepEqual(browser.received().map(({ action, payload }) => [action, payload.url]), [['showWindow', SHOP], ['showWindow', '']]);
-  assert.deepEqual(browser.looks, { badge: '', title: 'stateConnected' });
+  for (const [command, wish] of WISHES) {
+    await browser.press(command, { url: SHOP, windowId: 1 });
+    await browser.press(command, { windowId: 7 });
+    assert.deepEqual(browser.received().map(({ action, payload }) => [action, payload]), [
+      ['showWindow', { url: SHOP, ...wish, window: WINDOW }], ['showWindow', { url: '', ...wish }],
+    ]);
+  }
+});
+
+test('the pop-up shows what the program says of its page, and follows it', async () => {
+  const { browser } = await browserAt(SHOP);
+  const popup = await browser.openPopup();
+  await popup.say({ url: SHOP });
+  const [{ action, payload }] = browser.received();
+  assert.deepEqual([action, payload.url, popup.shown], ['getState', SHOP, []]);
+  const open = { locked: false, safe: 'Personal', url: SHOP, logins: 2 };
+  await browser.command('state', { ...open, request_id: payload.request_id });
+  await browser.command('state', { ...open, url: 'https://other.example/', logins: 7 });
+  assert.deepEqual(browser.received().map((frame) => [frame.action, frame.payload.url]), [['getState', SHOP]]);
+  await browser.command('state', { locked: true, safe: 'Personal', url: '', logins: 0 });
+  await browser.command('state', { refused: 'version' });
+  browser.hangUp();
+  const shown = (link, more) => ({ link, ...more });
+  assert.deepEqual(popup.shown.map((state) => JSON.parse(JSON.stringify(state))), [
+    shown('connected', { safe: 'Personal', locked: false, logins: 2 }), shown('connected', { safe: 'Personal', locked: true }),
+    shown('version'), shown('offline'),
+  ]);
+  popup.close();
+  await browser.clock.advance(500);
+  await browser.greet();
+  assert.deepEqual([popup.shown.length, browser.received()], [4, []]);
 });

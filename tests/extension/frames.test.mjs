@@ -12,6 +12,8 @@ const ACCEPTED = [
   frame('getDocumentData', { reason: 'placepwd', openmode: 'currentNoReload', request_id: 5 }),
   frame('findLoginPage', { ...request, openmode: 'getLoginPageData' }),
   frame('fillForm', { formUid: 'none', elements: [element], reason: 'login', submit: true }),
+  frame('state', { locked: false, safe: 'Personal', url: 'https://a.de', logins: 2, request_id: 'r' }),
+  frame('state', { refused: 'approval' }),
 ];
 
 const IGNORED = [
@@ -21,6 +23,7 @@ const IGNORED = [
   ...[{ reason: 5 }, { reason: undefined }, { itemid: 5 }, { timestamp: 17 }, { timestamp: '1x' }, { url: {} }, { openmode: 'popup' }]
     .map((wrong) => frame('getDocumentData', { ...request, ...wrong })),
   frame('findLoginPage', { ...request, url: undefined }),
+  ...[{ refused: 'no' }, { locked: 1 }, { safe: {} }, { logins: -1 }, { logins: '2' }].map((wrong) => frame('state', wrong)),
   ...[{ elements: [] }, { elements: element }, { elements: [null] }, { elements: [element, { ...element, value: 5 }] },
     { elements: [{ ...element, opid: undefined }] }, { formUid: 7 }, { submit: 'yes' }]
     .map((wrong) => frame('fillForm', { formUid: 'none', elements: [element], ...wrong })),

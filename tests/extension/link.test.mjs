@@ -92,10 +92,11 @@ test('an alarm connects at once during a pause, and never a second time', async 
 test('waits for its turn while another browser is served, and takes it', async () => {
   const { clock, link, log, newest } = setUp();
   newest().onopen();
-  await clock.advance(4999);
+  await clock.advance(1999);
   assert.deepEqual(log.states, []);
-  await clock.advance(35001);
+  await clock.advance(1);
   assert.deepEqual(log.states, ['busy']);
+  await clock.advance(38000);
   assert.equal(link.send('showWindow', {}), false);
   assert.deepEqual(new Set(newest().actions()), new Set(['hello']));
   assert.equal(log.touched, 2);
@@ -104,6 +105,17 @@ test('waits for its turn while another browser is served, and takes it', async (
   await clock.advance(20000);
   assert.deepEqual(newest().actions().slice(helloes), ['keepAlive']);
   assert.deepEqual([log.states, log.sockets.length], [['busy', 'connected'], 1]);
+});
+
+test('without the user\'s approval nothing reaches it but that it lacks', async () => {
+  const { clock, log, newest } = setUp();
+  newest().onopen();
+  newest().receive({ action: 'state', payload: { refused: 'approval' } });
+  newest().receive(REQUEST);
+  await clock.advance(40000);
+  assert.deepEqual([log.states, log.frames, newest().actions()], [['approval'], [], ['hello', 'hello', 'hello']]);
+  newest().receive(HELLO);
+  assert.deepEqual(log.states, ['approval', 'connected']);
 });
 
 test('gives up a connection that never opens', async () => {
