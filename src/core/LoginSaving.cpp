@@ -131,6 +131,10 @@ void LoginSaving::decide(LoginOffer &offer) const
         const auto *login = qobject_cast<const PMLogin *>(safe->item(id));
         offer.candidates.append({id, login->title(), login->login()});
     }
+    std::sort(offer.candidates.begin(), offer.candidates.end(),
+              [](const LoginOffer::Candidate &a, const LoginOffer::Candidate &b) {
+                  return QString::localeAwareCompare(a.title, b.title) < 0;
+              });
 }
 
 /// One offer a site, the newest; those of other sites wait for their turn.

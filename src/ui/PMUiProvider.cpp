@@ -15,6 +15,8 @@
 #include "main/SafeMenu.h"
 #include "safes/ArchiveDesk.h"
 #include "safes/SafeDesk.h"
+#include "save/ExcludedSitesPanel.h"
+#include "save/SaveLoginDesk.h"
 #include "settings/SettingsTable.h"
 #include "style/Theme.h"
 #include "wizard/FirstRun.h"
@@ -44,18 +46,21 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
     m_theme->setTextPercent(m_settings.textPercent());
     m_theme->setMotionOff(m_settings.motionOff());
     m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, [this] {
-        return SettingsTable(
-                   {m_core.settings(), m_settings, *m_theme, m_translator,
-                    [this](const QString &language) { return setLanguage(language); },
-                    [this](int percent) { return setTextPercent(percent); },
-                    [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
-                    [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); },
-                    [this](QWidget *row) { return m_cloud->makePanel(row); },
-                    [this](QWidget *row) { return m_sideWindows->makeBrowserPanel(row); }})
+        return SettingsTable({m_core.settings(), m_settings, *m_theme, m_translator,
+                              [this](const QString &language) { return setLanguage(language); },
+                              [this](int percent) { return setTextPercent(percent); },
+                              [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
+                              [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); },
+                              [this](QWidget *row) { return m_cloud->makePanel(row); },
+                              [this](QWidget *row) { return m_sideWindows->makeBrowserPanel(row); },
+                              [this](QWidget *row) -> QWidget * {
+                                  return new ExcludedSitesPanel(m_core.loginSaving(), row);
+                              }})
             .settings();
     });
     m_safeDesk = std::make_unique<SafeDesk>(m_core, *m_theme);
     m_cloud = std::make_unique<CloudDesk>(m_core, *m_theme);
+    m_saveLogin = std::make_unique<SaveLoginDesk>(m_core, *m_theme);
     m_safeDesk->setCloudOffers({[this] { return m_core.cloudFolders().found().offers.size(); },
                                 [this] { m_cloud->openImport(); }});
     m_approvals = std::make_unique<ApprovalDesk>(m_core.approvals(), [this] { bringToFront(); });
@@ -267,6 +272,7 @@ void PMUiProvider::rebuildWindows()
     // What blocks the new window blocks all that is not above it.
     QWidget *modal = QApplication::activeModalWidget();
     work.moveTo(modal ? *modal : *m_window);
+    m_saveLogin->renew();
 }
 
 QWidget *PMUiProvider::mainWindow() const

@@ -18,6 +18,7 @@ class GPMAppCore;
 class MainView;
 class QUrl;
 class SafeDesk;
+class SaveLoginDesk;
 class SecureWindow;
 class SideWindows;
 class Theme;
@@ -91,6 +92,7 @@ private:
     std::unique_ptr<SideWindows> m_sideWindows;
     std::unique_ptr<SafeDesk> m_safeDesk;
     std::unique_ptr<CloudDesk> m_cloud;
+    std::unique_ptr<SaveLoginDesk> m_saveLogin;
     std::unique_ptr<ApprovalDesk> m_approvals;
     std::unique_ptr<FirstRun> m_firstRun;
     std::unique_ptr<SecureWindow> m_window;

@@ -364,6 +364,21 @@ QWidget *renameDialog(Stage &stage)
         stage, new RenameDialog(QStringLiteral("recovery-codes.txt"), stage.theme, stage.main));
 }
 
+/// What is offered after something was typed into a page.
+Show savedLogin(const char *url, const char *title, const char *userName)
+{
+    return [=](Stage &stage) -> QWidget * {
+        // What an earlier case left.
+        stage.test.core.loginSaving().clear();
+        stage.test.core.saveLogin({},
+                                  {{QStringLiteral("title"), QLatin1String(title)},
+                                   {QStringLiteral("url"), QLatin1String(url)},
+                                   {QStringLiteral("login"), QLatin1String(userName)},
+                                   {QStringLiteral("password"), QStringLiteral("harbour-7-tin")}});
+        return stage.window("saveLoginDialog");
+    };
+}
+
 /// The list of safes: the open one, one in the cloud folder, and one that has gone.
 QWidget *safeList(Stage &stage)
 {
@@ -828,6 +843,11 @@ const QVector<WindowCase> &everyWindow()
         {"safe-delete", deleteSafe},
         {"progress", progress},
         {"shortcuts", shortcuts},
+        {"save-login",
+         savedLogin("https://studio.example/in", "Design Tools", "ana@studio.example")},
+        {"save-login-update", savedLogin("https://gitforge.example/", "Git Forge", "")},
+        {"save-login-locked", savedLogin("https://studio.example/in", "Design Tools", "ana"),
+         Stage::Locked},
         {"question", question},
         {"approval", approval}};
     return cases;

@@ -200,6 +200,18 @@ QVector<Setting> SettingsTable::browser() const
               "pluginOpenMode")};
     if (m_parts.makeBrowserPanel)
         rows.append(browsers);
+    if (!m_parts.makeExcludedSites)
+        return rows;
+    Setting excluded = {"excluded_sites",
+                        Setting::Browser,
+                        tr("Sites without an offer"),
+                        tr("Logins that you type in there are not offered to be saved."),
+                        tr("never save login ask again"),
+                        Setting::Panel,
+                        {},
+                        {}};
+    excluded.makePanel = m_parts.makeExcludedSites;
+    rows.append(excluded);
     return rows;
 }
 

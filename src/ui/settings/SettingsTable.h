@@ -31,6 +31,8 @@ public:
         std::function<QWidget *(QWidget *parent)> makeCloudPanel = {};
         /// The browsers and their extensions.
         std::function<QWidget *(QWidget *parent)> makeBrowserPanel = {};
+        /// The sites of which logins are not offered to be saved.
+        std::function<QWidget *(QWidget *parent)> makeExcludedSites = {};
     };
 
     explicit SettingsTable(const Parts &parts);

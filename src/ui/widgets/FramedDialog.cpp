@@ -9,20 +9,28 @@
 FramedDialog::FramedDialog(const QString &title, const Theme &theme, QWidget *parent)
     : QDialog(parent)
     , m_frame(new WindowFrame(*this, WindowFrame::Resizable))
+    , m_bar(new TitleBar(theme, TitleBar::CloseOnly, this))
     , m_body(new QVBoxLayout)
 {
     setWindowTitle(title);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    auto *bar = new TitleBar(theme, TitleBar::CloseOnly, this);
-    bar->showTitle();
-    bar->setVisible(m_frame->isOurs());
+    m_bar->showTitle();
+    m_bar->setVisible(m_frame->isOurs());
     m_body->setContentsMargins(Style::margin, Style::spacing, Style::margin, Style::margin);
     m_body->setSpacing(Style::spacing);
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins({});
     all->setSpacing(0);
-    all->addWidget(bar);
+    all->addWidget(m_bar);
     all->addLayout(m_body, 1);
+}
+
+void FramedDialog::setHeader(QWidget *header)
+{
+    if (m_frame->isOurs())
+        m_bar->setHeader(header);
+    else
+        m_body->insertWidget(0, header);
 }
 
 void FramedDialog::resize(const QSize &size)

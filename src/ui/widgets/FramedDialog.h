@@ -4,6 +4,7 @@
 
 class QVBoxLayout;
 class Theme;
+class TitleBar;
 class WindowFrame;
 
 /// A window beside the main one: its title and a button that closes it above its content. The sizes
@@ -18,6 +19,10 @@ public:
     /// Where the content goes, below the title, within the usual margins.
     QVBoxLayout &body() { return *m_body; }
 
+    /// Shows a widget in place of the title: beside the button that closes, or above the content
+    /// where the frame is the system's. Once.
+    void setHeader(QWidget *header);
+
     void resize(const QSize &size);
     void resize(int width, int height) { resize(QSize(width, height)); }
     void setMinimumSize(const QSize &size);
@@ -29,5 +34,6 @@ public:
 
 private:
     WindowFrame *m_frame;
+    TitleBar *m_bar;
     QVBoxLayout *m_body;
 };

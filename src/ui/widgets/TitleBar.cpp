@@ -68,6 +68,16 @@ void TitleBar::showTitle()
     row->insertWidget(0, m_title, 1);
 }
 
+void TitleBar::setHeader(QWidget *header)
+{
+    delete m_title;
+    m_title = nullptr;
+    auto *row = static_cast<QHBoxLayout *>(layout());
+    row->setContentsMargins(Style::margin, Style::gap, edge, Style::spacing);
+    row->insertWidget(0, header, 1);
+    setFixedHeight(header->sizeHint().height() + Style::gap + Style::spacing);
+}
+
 void TitleBar::setOnDark(bool onDark)
 {
     m_onDark = onDark;

@@ -23,6 +23,9 @@ public:
     /// Shows the window's title before the buttons.
     void showTitle();
 
+    /// Shows a widget in place of the title; the bar grows with it.
+    void setHeader(QWidget *header);
+
     /// Whether it lies on the dark ground of the lock pages.
     void setOnDark(bool onDark);
 
