@@ -5,6 +5,7 @@ import { createLink } from './link.js';
 import { createLogins } from './logins.js';
 import { listenToUser } from './menu.js';
 import { createOpening } from './opening.js';
+import { listenToPages } from './pages.js';
 import { createRequests } from './requests.js';
 import { createStatus } from './status.js';
 import { createTabs } from './tabs.js';
@@ -54,6 +55,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
     port.onMessage.addListener(async ({ url, open }) => (open ? opening.open(await tabs.active()) : status.watch(port, url)));
     port.onDisconnect.addListener(() => status.forget(port));
   });
+  listenToPages({ api, open: opening.open });
   listenToUser({ api, open: opening.open });
   // Timers end with the background script; the alarm starts it anew.
   api.alarms.onAlarm.addListener(() => link.connect());

@@ -28,6 +28,7 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
   const onUpdated = createEvent();
   const onRemoved = createEvent();
   const onConnect = createEvent();
+  const onMessage = createEvent();
   const onCommand = createEvent();
   let program;
 
@@ -93,7 +94,7 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
   const api = () => ({
     runtime: {
       getURL: () => 'chrome-extension://id/', getManifest: () => ({ version: '1.1.32' }), getPlatformInfo: async () => ({}),
-      onConnect, onInstalled: createEvent(), onStartup: createEvent(),
+      id: 'own', onMessage, onConnect, onInstalled: createEvent(), onStartup: createEvent(),
     },
     scripting: { executeScript },
     tabs: {
@@ -137,6 +138,13 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
     clock, looks, injections, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, greet, hangUp: () => program.onclose(),
     /** The user presses the keys of a command. */
     press(command, tab) { onCommand.fire(command, tab); return idle(); },
+    /** A script in a page says something; what it is answered. */
+    async hear(message, sender) {
+      let answer;
+      onMessage.fire(message, { id: 'own', ...sender }, (value) => { answer = value; });
+      await idle();
+      return answer;
+    },
     /** The pop-up of the toolbar button: {say, shown: what it was told}. */
     async openPopup() {
       const port = { name: 'popup', onMessage: createEvent(), onDisconnect: createEvent(), shown: [], postMessage: (state) => port.shown.push(state) };

@@ -362,3 +362,17 @@ test('the pop-up shows what the program says of its page, and follows it', async
   await browser.greet();
   assert.deepEqual([popup.shown.length, browser.received()], [4, []]);
 });
+
+test('an icon opens quick access for its field, in frames of the page\'s site alone', async () => {
+  const { browser } = await browserAt(SHOP);
+  const tab = { id: 1, windowId: 1, url: SHOP };
+  const field = { left: 1, top: 2, width: 3, height: 4 };
+  await browser.hear({ open: { kind: 'creditcard', field: { ...field, more: 5 }, fill: true } }, { tab });
+  for (const wrong of [{ kind: 'other', field }, { kind: 'login' }, { kind: 'login', field: { ...field, top: '2' } }]) await browser.hear({ open: wrong }, { tab });
+  await browser.hear({ open: { kind: 'login', field } }, { tab, id: 'another' });
+  assert.deepEqual(browser.received().map(({ payload }) => payload), [{ url: SHOP, kind: 'creditcard', field, window: WINDOW }]);
+  for (const [origin, around, expected] of [
+    ['https://id.shop.example', [SHOP], true], ['https://other.example', [SHOP], false], ['http://shop.example', [SHOP], false],
+    ['https://shop.example', ['https://other.example', SHOP], false], ['null', [SHOP], false],
+  ]) assert.equal(await browser.hear({ belongs: around }, { tab, origin }), expected, origin);
+});

@@ -11,6 +11,8 @@ export function captionOf(element) {
   );
 }
 
+export const isButton = (element) => matches(element, BUTTONS);
+
 const usable = (element) => !element.disabled && attr(element, 'aria-disabled') !== 'true' && isVisible(element);
 
 /** The visible elements under root that match and can be clicked. */

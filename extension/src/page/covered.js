@@ -1,6 +1,8 @@
-import { boxOf, flatParentOf, matches } from './dom.js';
+import { boxOf, elementsUnder, flatParentOf, matches } from './dom.js';
+import { isOwnHost } from './icon.js';
 
 const OPAQUE = 0.9;
+const FAINTEST = 0.1;
 const PICTURES = new Set(['IMG', 'VIDEO', 'CANVAS', 'IFRAME', 'OBJECT', 'EMBED']);
 const PLACES = [[0.5, 0.5], [0.25, 0.25], [0.75, 0.25], [0.25, 0.75], [0.75, 0.75]];
 
@@ -43,4 +45,26 @@ export function isCovered(element, view) {
     const stack = root.elementsFromPoint?.(box.left + (box.right - box.left) * x, box.top + (box.bottom - box.top) * y) ?? [];
     return stack.slice(0, Math.max(stack.indexOf(element), 0)).some((above) => hides(above, element, view));
   });
+}
+
+function opacityUpTo(element, view) {
+  let opacity = 1;
+  for (let node = element; node; node = flatParentOf(node)) opacity *= Number(view.getComputedStyle(node).opacity || 1);
+  return opacity;
+}
+
+/**
+ * Whether something that lets clicks through is painted over the field at the place: it would show the user something
+ * else than what he clicks on. Looks at the whole page, so only for a click.
+ */
+export function ghostOver(field, x, y) {
+  const view = field.ownerDocument.defaultView;
+  for (const element of elementsUnder(field.ownerDocument)) {
+    const { left, top, right, bottom } = boxOf(element);
+    if (x < left || x > right || y < top || y > bottom || isOwnHost(element) || surrounds(element, field)) continue;
+    const style = view.getComputedStyle(element);
+    if (style.pointerEvents !== 'none' || style.visibility !== 'visible' || style.position === 'static') continue;
+    if (paintsOver(element, style) && opacityUpTo(element, view) >= FAINTEST) return true;
+  }
+  return false;
 }

@@ -21,11 +21,23 @@ export const boxOf = (element) => Element.prototype.getBoundingClientRect.call(e
 /** All matching descendants in document order, without those in shadow trees. */
 export const findAll = (root, selector) => FIND[nodeType.call(root)].call(root, selector);
 
-/** Every element under root in document order, those in open shadow trees included. */
+// Only what runs beside the page's own scripts is told of closed shadow trees: in Chromium by a function of the
+// browser's, in Firefox by the element.
+const tell = globalThis.chrome?.dom?.openOrClosedShadowRoot;
+
+/** The shadow tree of an element, closed ones included; null for none. */
+export function shadowRootOf(element) {
+  if (tell) return element instanceof HTMLElement ? tell(element) : null;
+  const root = element.openOrClosedShadowRoot ?? element.shadowRoot;
+  return root instanceof ShadowRoot ? root : null;
+}
+
+/** Every element under root in document order, those in shadow trees included. */
 export function* elementsUnder(root) {
   for (const element of findAll(root, '*')) {
     yield element;
-    if (element.shadowRoot instanceof ShadowRoot) yield* elementsUnder(element.shadowRoot);
+    const inner = shadowRootOf(element);
+    if (inner) yield* elementsUnder(inner);
   }
 }
 

@@ -1,4 +1,4 @@
-import { elementsUnder } from './dom.js';
+import { elementsUnder, shadowRootOf } from './dom.js';
 
 const CALM = 50;
 // Finds what no event announces: a shadow tree attached later, a style rule that arrives.
@@ -7,7 +7,8 @@ const LOOK_AGAIN = 500;
 function* rootsOf(doc) {
   yield doc;
   for (const element of elementsUnder(doc)) {
-    if (element.shadowRoot instanceof ShadowRoot) yield element.shadowRoot;
+    const inner = shadowRootOf(element);
+    if (inner) yield inner;
   }
 }
 

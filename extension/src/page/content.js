@@ -1,0 +1,67 @@
+import { createIcons } from './icons.js';
+import { kindOf } from './kinds.js';
+import { watch } from './watch.js';
+
+// Runs in every page by itself, and so does next to nothing before there is a field to fill.
+const api = globalThis.browser ?? globalThis.chrome;
+const STARTED = Symbol.for('glaceron.content');
+const MOVES = ['scroll', 'resize', 'focusin', 'transitionend', 'animationend', 'toggle'];
+
+// Coordinates on the screen: only a real click tells where the window's begin.
+function onScreen({ left, top, width, height }, { screenX, screenY, clientX, clientY }) {
+  const round = Math.round;
+  return { left: round(left + screenX - clientX), top: round(top + screenY - clientY), width: round(width), height: round(height) };
+}
+
+function start() {
+  const icons = createIcons({
+    title: api.i18n.getMessage('iconTitle'),
+    open: (kind, box, place) => say({ open: { kind, field: onScreen(box, place) } }),
+  });
+  let isPlanned = false;
+  let belongs = self === top ? true : undefined; // whether the frame is one of the page's site; not known yet
+
+  // An extension that was updated or removed leaves its scripts behind, without anybody to talk to.
+  async function say(message) {
+    try {
+      return await api.runtime.sendMessage(message);
+    } catch {
+      if (!api.runtime?.id) stop();
+      return undefined;
+    }
+  }
+
+  function refreshSoon() {
+    if (isPlanned || icons.isEmpty()) return;
+    isPlanned = true;
+    requestAnimationFrame(() => {
+      isPlanned = false;
+      icons.refresh();
+    });
+  }
+
+  const waiting = [];
+  async function take(field) {
+    const kind = kindOf(field);
+    if (!kind || belongs === false) return;
+    if (belongs) return icons.add(field, kind);
+    waiting.push([field, kind]);
+    if (waiting.length > 1) return;
+    belongs = Boolean(await say({ belongs: [...location.ancestorOrigins] }));
+    if (belongs) waiting.forEach(([each, of]) => icons.add(each, of));
+  }
+
+  const watcher = watch(document, { onField: take, onChange: refreshSoon });
+  for (const type of MOVES) addEventListener(type, refreshSoon, { capture: true, passive: true });
+
+  function stop() {
+    watcher.stop();
+    icons.stop();
+    for (const type of MOVES) removeEventListener(type, refreshSoon, { capture: true });
+  }
+}
+
+if (!globalThis[STARTED] && document instanceof HTMLDocument) {
+  globalThis[STARTED] = true;
+  start();
+}
