@@ -160,6 +160,8 @@ public Q_SLOTS:
 
     /// The item's fields were edited: sets its time of change and saves.
     void modelItemChanged(const QString &itemId);
+    /// The item was used outside a browser, as when its password was copied.
+    void modelItemUsed(const QString &itemId) { m_items.countUse(itemId); }
     /// Moves an item to the trash, or back.
     void modelItemDeleted(const QString &itemId);
     void modelItemRestored(const QString &itemId);

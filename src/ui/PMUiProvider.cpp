@@ -13,6 +13,7 @@
 #include "lock/UnlockLogic.h"
 #include "main/MainView.h"
 #include "main/SafeMenu.h"
+#include "quick/QuickDesk.h"
 #include "safes/ArchiveDesk.h"
 #include "safes/SafeDesk.h"
 #include "save/ExcludedSitesPanel.h"
@@ -64,11 +65,15 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
     m_safeDesk->setCloudOffers({[this] { return m_core.cloudFolders().found().offers.size(); },
                                 [this] { m_cloud->openImport(); }});
     m_approvals = std::make_unique<ApprovalDesk>(m_core.approvals(), [this] { bringToFront(); });
+    m_quick =
+        std::make_unique<QuickDesk>(m_core, m_settings, *m_theme, m_sideWindows->recentPasswords());
+    connect(m_quick.get(), &QuickDesk::mainWindowRequested, this, &PMUiProvider::bringToFront);
     makeFirstRun();
 }
 
 PMUiProvider::~PMUiProvider()
 {
+    m_quick->setMain(nullptr, nullptr);
     m_window.reset();
 }
 
@@ -92,7 +97,6 @@ void PMUiProvider::connectCore()
     connect(&m_core, &GPMAppCore::message, this, &PMUiProvider::showMessage);
     connect(&m_core, &GPMAppCore::openAddress, this, &PMUiProvider::openAddress);
     connect(&m_core, &GPMAppCore::requestShowMainWindow, this, &PMUiProvider::bringToFront);
-    connect(&m_core, &GPMAppCore::requestQuickAccess, this, &PMUiProvider::bringToFront);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closeMessages);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closePopups);
     connect(&m_core, &GPMAppCore::safeLockedChanged, this, &PMUiProvider::onLockedChanged);
@@ -121,6 +125,7 @@ void PMUiProvider::createMainWindow()
     m_window = std::make_unique<SecureWindow>(m_core, *m_theme, view);
     m_window->setTrayCheck(m_hasTray);
     m_sideWindows->setMain(m_window.get());
+    m_quick->setMain(view, &m_window->pages().unlockLogic());
     m_cloud->setMain(m_window.get());
     m_approvals->setMain(m_window.get());
     m_firstRun->setMain(m_window.get());
@@ -201,6 +206,10 @@ void PMUiProvider::makeTray()
     connect(m_tray.get(), &TrayIcon::helpRequested, this, &PMUiProvider::showAbout);
     connect(m_tray.get(), &TrayIcon::lockRequested, this, &PMUiProvider::lock);
     connect(m_tray.get(), &TrayIcon::exitRequested, this, &PMUiProvider::exitByUser);
+    connect(m_tray.get(), &TrayIcon::quickAccessRequested, &m_core, &GPMAppCore::openQuickAccess);
+    m_tray->setQuickHotkey(m_core.settings().pluginHotkey());
+    connect(&m_core.settings(), &GPMAppSettings::pluginHotkeyChanged, m_tray.get(),
+            &TrayIcon::setQuickHotkey);
     m_tray->setLockHotkey(m_core.settings().lockHotkey());
     connect(&m_core.settings(), &GPMAppSettings::lockHotkeyChanged, m_tray.get(),
             &TrayIcon::setLockHotkey);

@@ -16,6 +16,7 @@ class CloudDesk;
 class FirstRun;
 class GPMAppCore;
 class MainView;
+class QuickDesk;
 class QUrl;
 class SafeDesk;
 class SaveLoginDesk;
@@ -95,6 +96,7 @@ private:
     std::unique_ptr<SaveLoginDesk> m_saveLogin;
     std::unique_ptr<ApprovalDesk> m_approvals;
     std::unique_ptr<FirstRun> m_firstRun;
+    std::unique_ptr<QuickDesk> m_quick;
     std::unique_ptr<SecureWindow> m_window;
     std::unique_ptr<TrayIcon> m_tray;
     bool m_firstPageChosen = false;

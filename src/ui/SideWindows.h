@@ -29,6 +29,9 @@ public:
     /// Opens the generator for someone who takes the password as long as the owner lives.
     void openGeneratorFor(QObject *owner, const std::function<void(const QString &)> &place);
 
+    /// The passwords that were made last.
+    RecentPasswords &recentPasswords() { return m_recent; }
+
     bool hasSettingsOpen() const { return m_settings; }
 
     /// What the settings show of backups.

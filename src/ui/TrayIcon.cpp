@@ -8,6 +8,7 @@ TrayIcon::TrayIcon(QObject *parent)
     setToolTip(QStringLiteral("Glaceron Password Manager"));
     QAction *open = m_menu.addAction(tr("Open Main Window"), this, &TrayIcon::openRequested);
     m_menu.setDefaultAction(open);
+    m_quick = m_menu.addAction(tr("Quick Access"), this, &TrayIcon::quickAccessRequested);
     m_menu.addAction(tr("Password Generator"), this, &TrayIcon::generatorRequested);
     m_menu.addAction(tr("Settings"), this, &TrayIcon::settingsRequested);
     m_menu.addAction(tr("Help"), this, &TrayIcon::helpRequested);
@@ -21,6 +22,11 @@ TrayIcon::TrayIcon(QObject *parent)
         if (reason == Trigger || reason == DoubleClick)
             Q_EMIT openRequested();
     });
+}
+
+void TrayIcon::setQuickHotkey(const QString &keys)
+{
+    m_quick->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
 }
 
 void TrayIcon::setLockHotkey(const QString &keys)

@@ -15,9 +15,12 @@ public:
 
     /// Shows the hotkey beside "Lock".
     void setLockHotkey(const QString &keys);
+    /// The same beside "Quick Access".
+    void setQuickHotkey(const QString &keys);
 
 Q_SIGNALS:
     void openRequested();
+    void quickAccessRequested();
     void generatorRequested();
     void settingsRequested();
     void helpRequested();
@@ -27,4 +30,5 @@ Q_SIGNALS:
 private:
     QMenu m_menu;
     QAction *m_lock;
+    QAction *m_quick;
 };

@@ -778,8 +778,24 @@ QWidget *cloudPassword(Stage &stage)
 
 } // namespace
 
+namespace {
+
+Show quickAccess(QuickAccessWish::Section section)
+{
+    return [section](Stage &stage) {
+        QuickAccessWish wish;
+        wish.section = section;
+        wish.url = QStringLiteral("https://mail.cloudmail.example/");
+        Q_EMIT stage.test.core.requestQuickAccess(wish);
+        return stage.window("quickAccess");
+    };
+}
+
+} // namespace
+
 const QVector<WindowCase> &everyWindow()
 {
+    using Section = QuickAccessWish::Section;
     static const QVector<WindowCase> cases{
         {"lock", mainWindow, Stage::Locked},
         {"create-safe", createSafePage, Stage::Locked},
@@ -849,6 +865,11 @@ const QVector<WindowCase> &everyWindow()
         {"save-login-locked", savedLogin("https://studio.example/in", "Design Tools", "ana"),
          Stage::Locked},
         {"question", question},
-        {"approval", approval}};
+        {"approval", approval},
+        {"quick-access", quickAccess(Section::Logins)},
+        {"quick-access-cards", quickAccess(Section::Cards)},
+        {"quick-access-generate", quickAccess(Section::Generator)},
+        {"quick-access-locked", quickAccess(Section::Logins), Stage::Locked},
+        {"quick-access-empty", quickAccess(Section::Logins), Stage::Empty}};
     return cases;
 }

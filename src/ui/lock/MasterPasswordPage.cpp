@@ -23,14 +23,14 @@ const int crystalSize = 76;
 } // namespace
 
 MasterPasswordPage::MasterPasswordPage(UnlockLogic &logic, Platform &platform, const Theme &theme,
-                                       QWidget *parent)
+                                       QWidget *parent, Extent extent)
     : QWidget(parent)
     , m_logic(logic)
     , m_platform(platform)
 {
     setObjectName(QStringLiteral("masterPasswordPage"));
     makeFields(theme);
-    layOut();
+    layOut(extent);
     connectFields();
     fillSelector();
     showState();
@@ -90,7 +90,7 @@ void MasterPasswordPage::makeFields(const Theme &theme)
     m_import->setIcon(theme.lockIcon(QStringLiteral("file-import"), Palette::SidebarText));
 }
 
-void MasterPasswordPage::layOut()
+void MasterPasswordPage::layOut(Extent extent)
 {
     auto *hintLine = new QHBoxLayout;
     hintLine->addWidget(m_hint, 1);
@@ -102,7 +102,7 @@ void MasterPasswordPage::layOut()
     column->addWidget(m_title);
     column->addSpacing(Style::spacing);
     column->addWidget(m_subtitle);
-    column->addSpacing(24);
+    column->addSpacing(extent == Whole ? 24 : Style::margin);
     column->addWidget(m_selector);
     column->addSpacing(10);
     column->addWidget(m_password);
@@ -118,7 +118,10 @@ void MasterPasswordPage::layOut()
     column->setSpacing(0);
 
     auto *frame = new QWidget(this);
-    frame->setFixedWidth(Style::scaled(columnWidth));
+    if (extent == Whole)
+        frame->setFixedWidth(Style::scaled(columnWidth));
+    else
+        frame->setMaximumWidth(Style::scaled(columnWidth));
     column->setContentsMargins({});
     frame->setLayout(column);
 
@@ -127,6 +130,10 @@ void MasterPasswordPage::layOut()
     all->addStretch(3);
     all->addLayout(centred(frame));
     all->addStretch(4);
+    if (extent == Small) {
+        hideWays();
+        return;
+    }
     auto *links = new QHBoxLayout;
     links->setSpacing(Style::spacing);
     links->addWidget(m_safes);
@@ -139,6 +146,12 @@ void MasterPasswordPage::layOut()
     setTabOrder(m_safes, m_import);
     setTabOrder(m_import, m_restore);
     setTabOrder(m_restore, m_create);
+}
+
+void MasterPasswordPage::hideWays()
+{
+    for (QWidget *way : {m_notNow, m_create, m_safes, m_import, m_restore})
+        way->hide();
 }
 
 void MasterPasswordPage::connectFields()

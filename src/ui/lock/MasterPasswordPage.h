@@ -20,7 +20,11 @@ class MasterPasswordPage : public QWidget
     Q_OBJECT
 
 public:
-    MasterPasswordPage(UnlockLogic &logic, Platform &platform, const Theme &theme, QWidget *parent);
+    /// Whether it also leads to other safes, or does no more than unlock, in a small window.
+    enum Extent { Whole, Small };
+
+    MasterPasswordPage(UnlockLogic &logic, Platform &platform, const Theme &theme, QWidget *parent,
+                       Extent extent = Whole);
 
     /// Puts the keyboard where one goes on: into the password, or on the way to a new safe.
     void takeFocus();
@@ -42,9 +46,10 @@ protected:
 
 private:
     void makeFields(const Theme &theme);
-    void layOut();
+    void layOut(Extent extent);
     void connectFields();
     void fillSelector();
+    void hideWays();
     void onSelected(int index);
     void unlock();
     void showState();

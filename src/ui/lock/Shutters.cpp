@@ -24,6 +24,14 @@ void Shutters::setProgress(qreal progress)
     update();
 }
 
+void Shutters::paintGround(QPainter &painter, const QRectF &area)
+{
+    QLinearGradient ground(area.topLeft(), area.bottomLeft());
+    ground.setColorAt(0, QColor(0x174a63));
+    ground.setColorAt(1, QColor(0x0f2f42));
+    painter.fillRect(area, ground);
+}
+
 void Shutters::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -43,13 +51,11 @@ void Shutters::paintEvent(QPaintEvent *)
         painter.setClipping(false);
         painter.setOpacity(1);
     }
-    QLinearGradient ground(0, 0, 0, height());
-    ground.setColorAt(0, QColor(0x174a63));
-    ground.setColorAt(1, QColor(0x0f2f42));
     const auto drawHalf = [&](qreal top, qreal offset) {
         painter.save();
         painter.translate(0, offset);
-        painter.fillRect(QRectF(0, top, width(), half), ground);
+        painter.setClipRect(QRectF(0, top, width(), half));
+        paintGround(painter, rect());
         painter.restore();
     };
     drawHalf(0, -shift);

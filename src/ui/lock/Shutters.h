@@ -15,6 +15,9 @@ public:
     /// 0 is closed, 1 is open, and then nothing is in the way.
     void setProgress(qreal progress);
 
+    /// The ground of everything in front of a locked safe.
+    static void paintGround(QPainter &painter, const QRectF &area);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 

@@ -17,8 +17,6 @@
 
 namespace {
 
-const int rowHeight = 52;
-const int tileSize = 34;
 const int starSize = 16;
 const int inset = 6;
 const int badgeHeight = 18;
@@ -34,9 +32,16 @@ QFont sized(QFont font, int pixels, QFont::Weight weight)
 } // namespace
 
 ItemDelegate::ItemDelegate(const Theme &theme, SiteIcons *icons, QObject *parent, Clock clock)
+    : ItemDelegate(theme, icons, {}, parent, std::move(clock))
+{
+}
+
+ItemDelegate::ItemDelegate(const Theme &theme, SiteIcons *icons, const Measures &measures,
+                           QObject *parent, Clock clock)
     : QStyledItemDelegate(parent)
     , m_theme(theme)
     , m_icons(icons)
+    , m_measures(measures)
     , m_clock(std::move(clock))
 {
 }
@@ -61,7 +66,7 @@ void ItemDelegate::prepareFonts(const QFont &base) const
 
 QSize ItemDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
-    return {0, Style::scaled(rowHeight)};
+    return {0, Style::scaled(m_measures.row)};
 }
 
 void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -73,22 +78,28 @@ void ItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     painter->setRenderHint(QPainter::Antialiasing);
     paintGround(*painter, row, option);
 
-    const int side = Style::scaled(tileSize);
+    const int side = Style::scaled(m_measures.tile);
     QRectF tile(row.left() + 12, 0, side, side);
     tile.moveTop(row.top() + (row.height() - side) / 2.0);
     painter->setFont(option.font);
     paintTile(*painter, tile, index);
 
     QRect texts = row.adjusted(24 + side, 8, -12, -8);
-    if (index.data(ItemListModel::FavoriteRole).toBool()) {
-        const QRectF star(row.right() - 12 - starSize, row.center().y() - starSize / 2.0, starSize,
-                          starSize);
-        paintSvg(*painter, star, QStringLiteral("star-filled"),
-                 m_theme.palette().color(Palette::Star));
-        texts.setRight(int(star.left()) - 8);
-    }
+    if (const int mark = paintMark(*painter, row, option, index))
+        texts.setRight(row.right() - 12 - mark - 8);
     paintTexts(*painter, texts, index);
     painter->restore();
+}
+
+int ItemDelegate::paintMark(QPainter &painter, const QRect &row, const QStyleOptionViewItem &,
+                            const QModelIndex &index) const
+{
+    if (!index.data(ItemListModel::FavoriteRole).toBool())
+        return 0;
+    const QRectF star(row.right() - 12 - starSize, row.center().y() - starSize / 2.0, starSize,
+                      starSize);
+    paintSvg(painter, star, QStringLiteral("star-filled"), m_theme.palette().color(Palette::Star));
+    return starSize;
 }
 
 void ItemDelegate::paintGround(QPainter &painter, const QRect &row,

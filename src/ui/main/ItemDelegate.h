@@ -18,12 +18,26 @@ class ItemDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
+    struct Measures
+    {
+        int row = 52;
+        int tile = 34;
+    };
+
     /// @param icons the icons of sites; may be null
     ItemDelegate(const Theme &theme, SiteIcons *icons, QObject *parent, Clock clock = systemTime);
+    ItemDelegate(const Theme &theme, SiteIcons *icons, const Measures &measures, QObject *parent,
+                 Clock clock = systemTime);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+protected:
+    const Theme &theme() const { return m_theme; }
+    /// What stands at the right end of a row; returns the width that it took there.
+    virtual int paintMark(QPainter &painter, const QRect &row, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const;
 
 private:
     void paintGround(QPainter &painter, const QRect &row, const QStyleOptionViewItem &option) const;
@@ -52,6 +66,7 @@ private:
 
     const Theme &m_theme;
     SiteIcons *m_icons;
+    Measures m_measures;
     Clock m_clock;
     mutable std::optional<Fonts> m_fonts;
 };

@@ -95,6 +95,11 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_navigation->showCategory({});
 }
 
+SiteIcons &MainView::siteIcons()
+{
+    return m_list->icons();
+}
+
 void MainView::layOut()
 {
     // Smaller texts have the same buttons.

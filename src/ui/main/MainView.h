@@ -26,6 +26,7 @@ class QStackedWidget;
 class SafeMenu;
 class SelectionPage;
 class Sidebar;
+class SiteIcons;
 class SnackBar;
 class Theme;
 
@@ -59,6 +60,11 @@ public:
     /// The name of the order of the items, and that order by its name.
     QString itemOrder() const;
     void setItemOrder(const QString &name);
+
+    /// The items of the open safe; none while it is locked. As long as the view lives.
+    const ItemListModel &items() const { return m_items; }
+    /// The icons of their sites.
+    SiteIcons &siteIcons();
 
     /// What can be done with the open safe and with all of them.
     SafeMenu &safeMenu() { return *m_safeMenu; }
