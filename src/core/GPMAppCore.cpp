@@ -39,6 +39,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     , m_settings(places.configFolder, places.hiddenFolder)
     , m_linkSettings(places.configFolder + QStringLiteral("/browser.json"))
     , m_approvals(m_linkSettings)
+    , m_siteIcons(m_linkSettings)
     , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
                    safeEnvironment(places.dataFolder))
     , m_trace(m_knownSafes)
@@ -67,6 +68,11 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
         if (!locked)
             m_loginSaving.decideAgain();
     });
+    connect(this, &GPMAppCore::currentSafeChanged, &m_siteIcons,
+            [this] { m_siteIcons.setSafe(m_safe); });
+    connect(this, &GPMAppCore::safeLockedChanged, &m_siteIcons, &SiteIconDesk::follow);
+    connect(&m_loginSaving, &LoginSaving::siteIconWanted, &m_siteIcons, &SiteIconDesk::download);
+    connect(&m_siteIcons, &SiteIconDesk::iconChanged, this, &GPMAppCore::onUpdateFavicons);
     startGuard();
 }
 
@@ -119,8 +125,8 @@ void GPMAppCore::startServer()
     m_link = std::make_unique<BrowserLink>(
         m_port, *m_platform, m_approvals,
         [this](const QString &id) { return m_safe ? m_safe->item(id) : nullptr; }, m_settings);
-    m_linkState = std::make_unique<LinkState>(m_link->server(), m_pageLogins,
-                                              [this] { return m_safe; });
+    m_linkState =
+        std::make_unique<LinkState>(m_link->server(), m_pageLogins, [this] { return m_safe; });
     connect(this, &GPMAppCore::safeLockedChanged, m_linkState.get(), &LinkState::tell);
     connect(this, &GPMAppCore::currentSafeChanged, m_linkState.get(), &LinkState::tell);
     connect(&m_link->server(), &GPMWebSocketServer::hello, this, &GPMAppCore::onHello);
@@ -132,6 +138,8 @@ void GPMAppCore::startServer()
             &GPMAppCore::requestQuickAccess);
     connect(m_link.get(), &BrowserLink::message, this, &GPMAppCore::message);
     connect(m_link.get(), &BrowserLink::openAddress, this, &GPMAppCore::openAddress);
+    connect(&m_link->flow(), &FormFillFlow::siteIconReported, &m_siteIcons,
+            &SiteIconDesk::download);
     connect(m_link.get(), &BrowserLink::itemUsed, &m_items, &ItemChanges::countUse);
     connect(m_link.get(), &BrowserLink::itemUsed, &m_loginSaving, &LoginSaving::noteFilled);
     connect(&m_link->server(), &GPMWebSocketServer::saveLogin, this, &GPMAppCore::saveLogin);

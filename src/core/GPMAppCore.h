@@ -21,6 +21,7 @@
 #include "Platform.h"
 #include "PrivateFiles.h"
 #include "SessionWatch.h"
+#include "SiteIconDesk.h"
 
 #include <QObject>
 #include <QTimer>
@@ -81,6 +82,8 @@ public:
     /// Offers to save what the user types into pages.
     LoginSaving &loginSaving() { return m_loginSaving; }
 
+    /// Fetches the icons of web sites.
+    SiteIconDesk &siteIcons() { return m_siteIcons; }
     /// What the user decided about browsers.
     LinkSettings &linkSettings() { return m_linkSettings; }
     /// Which extensions may connect besides the known ones.
@@ -158,6 +161,9 @@ public Q_SLOTS:
     void fillSaveLoginParams(QString &siteTitle, QMap<QString, QString> &candidates) const;
     void onHello(const QString &callerId, const QString &version, const QString &bundleId);
 
+    /// Another icon is there for the logins of a domain.
+    void onUpdateFavicons(const QString &domain) { Q_EMIT siteIconChanged(domain); }
+
     /// The item's fields were edited: sets its time of change and saves.
     void modelItemChanged(const QString &itemId);
     /// The item was used outside a browser, as when its password was copied.
@@ -197,6 +203,7 @@ Q_SIGNALS:
     void unlockProgress(int done, int total);
     void unlockFinished(SafeUnlock::Outcome outcome);
     void safeLockedChanged(bool locked);
+    void siteIconChanged(const QString &domain);
     void importProgress(qint64 done, qint64 total);
     /// `path` of the result is the folder of the new safe, which is known and locked.
     void importFinished(const ArchiveResult &result);
@@ -226,6 +233,7 @@ private:
     GPMAppSettings m_settings;
     LinkSettings m_linkSettings;
     OriginApprovals m_approvals;
+    SiteIconDesk m_siteIcons;
     KnownSafes m_knownSafes;
     OpenSafeTrace m_trace;
     Backups m_backups;

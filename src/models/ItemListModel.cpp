@@ -77,6 +77,8 @@ QVariant ItemListModel::data(const QModelIndex &index, int role) const
     const PMListItem *item = itemAt(index);
     if (item && role == Qt::AccessibleTextRole && m_describe)
         return m_describe(*item);
+    if (item && role == DomainRole)
+        return entryAt(index.row()).domain();
     return item ? itemData(*item, role) : QVariant();
 }
 

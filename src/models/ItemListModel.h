@@ -29,6 +29,7 @@ public:
         ModifiedRole,
         CreatedRole,
         IconRole,
+        DomainRole,
         ExpiryRole ///< the last day on which it is valid; invalid when it does not expire
     };
 

@@ -56,7 +56,8 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
                               [this](QWidget *row) { return m_sideWindows->makeBrowserPanel(row); },
                               [this](QWidget *row) -> QWidget * {
                                   return new ExcludedSitesPanel(m_core.loginSaving(), row);
-                              }})
+                              },
+                              &m_core.siteIcons()})
             .settings();
     });
     m_safeDesk = std::make_unique<SafeDesk>(m_core, *m_theme);

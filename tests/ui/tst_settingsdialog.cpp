@@ -173,7 +173,7 @@ void TestSettingsDialog::everySettingIsTested()
          {"autolock_inactive", "inactivity_interval", "autolock_screensaver", "clear_clipboard",
           "login_mode", "plugin_login_mode", "plugin_open_mode", "enable_backup", "backup_interval",
           "backup_state", "backup_count", "cloud_state", "lock_hotkey", "plugin_hotkey",
-          "master_password", "browsers", "excluded_sites"})
+          "master_password", "browsers", "excluded_sites", "site_icons"})
         tested.append(QLatin1String(id));
     Program program;
     QStringList shown;

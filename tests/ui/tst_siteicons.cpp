@@ -90,6 +90,25 @@ private Q_SLOTS:
         QVERIFY(icon.width() <= 32 && icon.height() <= 32);
     }
 
+    void iconOfADomainAppearsWhenItIsThere()
+    {
+        const QTemporaryDir folder;
+        const QString domain = QStringLiteral("shop.example");
+        SiteIcons icons;
+        icons.setFolder(folder.path());
+        QVERIFY(icons.icon({}, 32, domain).isNull());
+        QVERIFY(SiteIconFolder(folder.path()).store(domain, "png", picture({64, 64}, "PNG")));
+        QSignalSpy changed(&icons, &SiteIcons::changed);
+        icons.onUpdateFavicons(domain);
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(!icons.icon({}, 32, QStringLiteral("www.shop.example")).isNull());
+        // The icon that comes with a kind of item gives way, one that the item names does not.
+        QVERIFY(!icons.icon(QStringLiteral(":/icons/login.svg"), 32, domain).isNull());
+        QVERIFY(icons.icon(QStringLiteral("own.png"), 32, domain).isNull());
+        icons.setFolder({});
+        QVERIFY(icons.icon({}, 32, domain).isNull());
+    }
+
     void nothingOutsideTheFolder()
     {
         const QTemporaryDir folder;

@@ -133,8 +133,10 @@ void ItemDelegate::paintTile(QPainter &painter, const QRectF &tile, const QModel
 {
     const auto type = static_cast<PMListItem::Type>(index.data(ItemListModel::TypeRole).toInt());
     const int side = qRound(tileIconSide(tile) * painter.device()->devicePixelRatioF());
-    const QPixmap icon =
-        m_icons ? m_icons->icon(index.data(ItemListModel::IconRole).toString(), side) : QPixmap();
+    const QPixmap icon = m_icons
+                             ? m_icons->icon(index.data(ItemListModel::IconRole).toString(), side,
+                                             index.data(ItemListModel::DomainRole).toString())
+                             : QPixmap();
     if (icon.isNull())
         ::paintTile(painter, tile, index.data().toString(), type);
     else

@@ -105,6 +105,7 @@ void ItemListPane::makeList(const Clock &clock)
     m_list->setObjectName(QStringLiteral("itemList"));
     m_list->setAccessibleName(tr("Items"));
     m_list->setModel(m_filter);
+    connect(m_icons, &SiteIcons::changed, m_list->viewport(), QOverload<>::of(&QWidget::update));
     m_list->setItemDelegate(new ItemDelegate(m_theme, m_icons, m_list, clock));
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->installEventFilter(this);

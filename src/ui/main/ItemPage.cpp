@@ -9,6 +9,7 @@
 #include "PMLogin.h"
 #include "PasswordStrength.h"
 #include "RelativeDate.h"
+#include "SearchText.h"
 #include "SiteIcons.h"
 #include "style/Style.h"
 #include "style/Theme.h"
@@ -144,11 +145,18 @@ void ItemPage::refresh()
     showInfo();
 }
 
+void ItemPage::setIcons(SiteIcons &icons)
+{
+    m_icons = &icons;
+    connect(&icons, &SiteIcons::changed, this, &ItemPage::showHeader);
+}
+
 void ItemPage::showHeader()
 {
     const PMListItem::Type type = m_item ? m_item->type() : PMListItem::UndefinedItem;
     const QPixmap icon =
-        m_item && m_icons ? m_icons->icon(m_item->icon(), m_tile->iconSide()) : QPixmap();
+        m_item && m_icons ? m_icons->icon(m_item->icon(), m_tile->iconSide(), itemDomain(*m_item))
+                          : QPixmap();
     m_tile->setItem(m_item ? m_item->title() : QString(), type, icon);
     m_title->setFullText(m_item ? m_item->title() : QString());
     const QString place = m_item ? placeOf(*m_item) : QString();

@@ -38,7 +38,7 @@ public:
     const PMListItem *item() const { return m_item; }
 
     /// Where the icons of sites come from; must outlive this.
-    void setIcons(SiteIcons &icons) { m_icons = &icons; }
+    void setIcons(SiteIcons &icons);
 
     /// Puts a widget between the fields and the item's times.
     void setBelowFields(QWidget *widget);

@@ -17,6 +17,7 @@
 #include "ShortcutTable.h"
 #include "ShortcutsDialog.h"
 #include "Sidebar.h"
+#include "SiteIcons.h"
 #include "attachments/AttachmentActions.h"
 #include "cloud/CloudTexts.h"
 #include "drafts/DraftKeeper.h"
@@ -70,6 +71,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_right = new QStackedWidget(m_splitter);
     m_pane = new ItemPane(core, theme, asker, m_right);
     m_pane->page().setIcons(m_list->icons());
+    connect(&core, &GPMAppCore::siteIconChanged, &m_list->icons(), &SiteIcons::onUpdateFavicons);
     m_selection = new SelectionPage(theme, m_right);
     m_right->addWidget(m_pane);
     m_right->addWidget(m_selection);

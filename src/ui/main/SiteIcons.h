@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SiteIconFolder.h"
+
 #include <QCache>
 #include <QObject>
 #include <QPixmap>
@@ -18,13 +20,26 @@ public:
     void setFolder(const QString &folder);
 
     /// The icon as a square of so many device pixels; null when there is none that can be shown.
-    QPixmap icon(const QString &fileName, int side);
+    /// @param fileName in the folder, as the item names it; empty when it names none
+    /// @param domain of the item, which finds the icon then
+    QPixmap icon(const QString &fileName, int side, const QString &domain = {});
 
     /// Looks anew for what was not there.
     void retryMissing();
 
+public Q_SLOTS:
+    /// There is another icon for the domain, and so for those below it.
+    void onUpdateFavicons(const QString &domain);
+
+Q_SIGNALS:
+    /// Icons are to be asked for anew.
+    void changed();
+
 private:
+    QString pathOf(const QString &fileName, const QString &domain) const;
+
     QString m_folder;
+    SiteIconFolder m_icons;
     QCache<QString, QPixmap> m_cache; ///< a null pixmap for what cannot be shown
 };
 

@@ -2,6 +2,7 @@
 
 #include "GPMAppSettings.h"
 #include "PMTranslator.h"
+#include "SiteIconDesk.h"
 #include "UiSettings.h"
 
 #include <QDir>
@@ -198,6 +199,8 @@ QVector<Setting> SettingsTable::browser() const
                 {Settings::NewTab, tr("A new tab")},
                 {Settings::NewWindow, tr("A new window")}}},
               "pluginOpenMode")};
+    if (m_parts.siteIcons)
+        rows.append(siteIcons());
     if (m_parts.makeBrowserPanel)
         rows.append(browsers);
     if (!m_parts.makeExcludedSites)
@@ -213,6 +216,26 @@ QVector<Setting> SettingsTable::browser() const
     excluded.makePanel = m_parts.makeExcludedSites;
     rows.append(excluded);
     return rows;
+}
+
+Setting SettingsTable::siteIcons() const
+{
+    Setting setting = {"site_icons",
+                       Setting::Browser,
+                       tr("Show the icons of web sites"),
+                       tr("They are fetched from the sites of your logins and kept in the safe."),
+                       tr("favicon logo picture download"),
+                       Setting::Switch,
+                       {},
+                       {}};
+    SiteIconDesk *icons = m_parts.siteIcons;
+    setting.value = [icons] { return icons->isEnabled(); };
+    setting.apply = [icons](const QVariant &value) {
+        return icons->setEnabled(value.toBool())
+                   ? QString()
+                   : tr("The setting holds until the program ends, but it could not be stored.");
+    };
+    return setting;
 }
 
 QVector<Setting> SettingsTable::backup() const

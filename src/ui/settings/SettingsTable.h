@@ -4,6 +4,7 @@
 
 class GPMAppSettings;
 class PMTranslator;
+class SiteIconDesk;
 class Theme;
 class UiSettings;
 
@@ -33,6 +34,8 @@ public:
         std::function<QWidget *(QWidget *parent)> makeBrowserPanel = {};
         /// The sites of which logins are not offered to be saved.
         std::function<QWidget *(QWidget *parent)> makeExcludedSites = {};
+        /// Whether icons of web sites are fetched; null leaves the setting out.
+        SiteIconDesk *siteIcons = nullptr;
     };
 
     explicit SettingsTable(const Parts &parts);
@@ -46,6 +49,7 @@ private:
     QVector<Setting> general() const;
     QVector<Setting> security() const;
     QVector<Setting> browser() const;
+    Setting siteIcons() const;
     QVector<Setting> backup() const;
     QVector<Setting> cloud() const;
     QVector<Setting> hotkeys() const;
