@@ -1,5 +1,10 @@
 #include "DateShape.h"
 
+#include "FieldOptions.h"
+#include "FieldPhrases.h"
+#include "FieldShape.h"
+
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -84,14 +89,34 @@ QString inShape(const Shape &shape, const PMFieldTypes::Date &date)
     return parts.join(shape.separator);
 }
 
-QString firstThatGoes(const FieldPlace &place, const QStringList &texts)
+/// What a text line shows of a month: "September" or "MMMM", "Sep" or "MMM".
+QString monthName(int month, const QString &placeholder, const QString &language)
 {
-    const FormField &field = place.field();
-    for (const QString &text : texts) {
-        if (fits(field, text) && matchesPattern(place, text))
-            return text;
+    static const QString runs = QStringLiteral("mмMМ");
+    const QString shown = placeholder.trimmed();
+    const bool isRun =
+        shown.size() > 2 && runs.contains(shown.at(0)) && shown.count(shown.at(0)) == shown.size();
+    const QString word = wordsOf(shown).value(0);
+    if (!isRun && monthOfName(word) == 0)
+        return {};
+    const QLocale locale(language.isEmpty() ? QStringLiteral("en") : language);
+    const auto format = shown.size() <= 4 && (!isRun || shown.size() == 3) ? QLocale::ShortFormat
+                                                                           : QLocale::LongFormat;
+    return locale.standaloneMonthName(month, format);
+}
+
+/// The month that an option shows: "9", "09 - Sep", "September 09"; 0 for none.
+int monthIn(const QString &option)
+{
+    const QStringList words = wordsOf(option);
+    for (const QString &word : words.mid(0, 2)) {
+        bool isNumber = false;
+        const int number = word.toInt(&isNumber);
+        const int month = isNumber ? number : monthOfName(word);
+        if (month > 0)
+            return month;
     }
-    return fits(field, texts.first()) ? texts.first() : QString();
+    return 0;
 }
 
 } // namespace
@@ -112,14 +137,17 @@ QString twoFigures(int number)
     return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
 }
 
-bool fits(const FormField &field, const QString &text)
+QString monthText(int month, const FieldPlace &place)
 {
-    return field.maxLength() <= 0 || text.size() <= field.maxLength();
-}
-
-bool matchesPattern(const FieldPlace &place, const QString &text)
-{
-    return place.patterns.takes(place.field().pattern(), text);
+    const FormField &field = place.field();
+    const QVector<FormField::Option> options = field.options();
+    for (const FormField::Option &option : options) {
+        if (monthIn(option.text) == month)
+            return answerOf(option);
+    }
+    const QString name =
+        field.isSelect() ? QString() : monthName(month, field.placeholder(), place.language);
+    return whole(field, name.isEmpty() ? twoFigures(month) : name);
 }
 
 QString yearText(int year, const FormField &field)

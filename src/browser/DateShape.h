@@ -21,11 +21,9 @@ QVector<DatePart> datePartsOf(const FormField &field);
 /// A year as the field asks for it: with two figures or with four.
 QString yearText(int year, const FormField &field);
 
+/// A month as the field asks for it: the option that means it, its name in the page's language
+/// where the field shows one, else two figures.
+QString monthText(int month, const FieldPlace &place);
+
 /// Two figures: "09".
 QString twoFigures(int number);
-
-/// Whether the field's own pattern, if it has one, takes the text.
-bool matchesPattern(const FieldPlace &place, const QString &text);
-
-/// Whether the text is not longer than the field takes.
-bool fits(const FormField &field, const QString &text);

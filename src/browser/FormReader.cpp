@@ -141,6 +141,7 @@ private:
     void readVague(int at);
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
+    bool isOfPhone(int at) const;
     QHash<QString, Sexes> sexesOfRadios() const;
 
     const QVector<FormField> &m_fields;
@@ -292,6 +293,10 @@ void Reader::readNeighbours(int at)
             kindAt(at + 1) != FieldKind::PhoneLine)
             m_kinds[at] = FieldKind::Other;
         return;
+    case FieldKind::Country:
+        if (isOfPhone(at))
+            m_kinds[at] = FieldKind::PhoneCode;
+        return;
     case FieldKind::FullName:
         if (isHolder(at))
             m_kinds[at] = FieldKind::CardHolder;
@@ -336,6 +341,18 @@ bool Reader::isHolder(int at) const
     const bool isOfPerson = has(FieldKind::AddressLine1) || has(FieldKind::Email) ||
                             has(FieldKind::Phone) || has(FieldKind::BirthDate);
     return reading(at).says(FieldKind::CardHolder) || (isNearCard(at) && !isOfPerson);
+}
+
+/// Whether a list of countries is there for the dialling code of the number behind it.
+bool Reader::isOfPhone(int at) const
+{
+    if (!m_fields.at(at).isSelect() || kindAt(at + 1) != FieldKind::Phone)
+        return false;
+    const QStringList texts = m_fields.at(at).readTexts();
+    const bool saysCode = std::any_of(texts.begin(), texts.end(), [](const QString &text) {
+        return text.contains(QLatin1String("code"), Qt::CaseInsensitive);
+    });
+    return saysCode || m_kinds.count(FieldKind::Country) > 1;
 }
 
 /// "Name" alone: of the card's holder, the family's beside a first name, or the whole.

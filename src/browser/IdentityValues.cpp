@@ -3,37 +3,111 @@
 #include "DateShape.h"
 #include "FieldOptions.h"
 #include "FieldPhrases.h"
+#include "FieldShape.h"
 #include "PMIdentity.h"
 #include "PhoneShape.h"
+#include "RegionCodes.h"
 
 #include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
-/// ISO 3166 codes by English name in lower case.
-QHash<QString, QString> isoCodes()
+QString nameIn(const QString &language, const CountryCodes &country)
 {
-    QHash<QString, QString> codes;
-    const auto locales =
-        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
-    for (const QLocale &locale : locales) {
-        const QString code = locale.name().section(QLatin1Char('_'), -1);
-        if (code.size() == 2)
-            codes.insert(QLocale::countryToString(locale.country()).toLower(), code);
-    }
-    return codes;
+    const QLocale locale(language.section(QLatin1Char('-'), 0, 0) + QLatin1Char('_') +
+                         country.alpha2);
+    const bool isKnown = locale.name().endsWith(QLatin1Char('_') + country.alpha2);
+    return isKnown && !language.isEmpty() ? locale.nativeCountryName() : country.name;
 }
 
-QString countryText(const QString &country, const FormField &field)
+/// Whether all choices are numbers of three figures, as those of countries are.
+bool areNumeric(const QVector<FormField::Option> &options)
 {
-    static const QHash<QString, QString> codes = isoCodes();
-    static const QRegularExpression twoLetters(QStringLiteral("^\\[(A-Z|a-z|A-Za-z)\\]\\{2\\}$"));
-    const bool wantsCode = field.maxLength() == 2 || twoLetters.match(field.pattern()).hasMatch();
-    if (!wantsCode)
-        return country;
-    return country.size() == 2 ? country.toUpper() : codes.value(country.toLower());
+    static const QRegularExpression figures(QStringLiteral("^(\\d{3})?$"));
+    return std::all_of(options.begin(), options.end(), [&](const FormField::Option &option) {
+        return figures.match(option.value).hasMatch();
+    });
+}
+
+QString countryOption(const CountryCodes &country, const FieldPlace &place)
+{
+    const FormField &field = place.field();
+    QStringList words = {country.name, nameIn(place.language, country), country.alpha2,
+                         country.alpha3};
+    if (areNumeric(field.options()))
+        words.append(country.numeric);
+    const QString option = optionFor(field, words);
+    return option.isEmpty() ? country.name : option;
+}
+
+/// How many letters of a code the field asks for, 0 when it asks for the name.
+int lettersOfCode(const FormField &field)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^\\[(?:A-Z|a-z|A-Za-z|a-zA-Z)\\]\\{([23])\\}$"));
+    static const QRegularExpression words(
+        QStringLiteral("country.?code|\\biso\\b|ländercode|code pays|código de país"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (field.maxLength() == 2 || field.maxLength() == 3)
+        return field.maxLength();
+    const QRegularExpressionMatch asked = pattern.match(field.pattern());
+    if (asked.hasMatch())
+        return asked.captured(1).toInt();
+    const QString read = field.readTexts().join(QLatin1Char(' '));
+    return words.match(read).hasMatch() ? 2 : 0;
+}
+
+QString countryText(const QString &name, const FieldPlace &place)
+{
+    const FormField &field = place.field();
+    const auto country = countryCodes(name);
+    if (!country)
+        return whole(field, name);
+    if (field.isSelect())
+        return countryOption(*country, place);
+    const int letters = lettersOfCode(field);
+    if (letters == 0)
+        return firstThatGoes(place, {nameIn(place.language, *country), country->name});
+    return letters == 2 ? country->alpha2 : country->alpha3;
+}
+
+QString stateText(const QString &name, const FormField &field)
+{
+    const auto state = stateCode(name);
+    if (!state)
+        return whole(field, name);
+    if (field.isSelect()) {
+        const QString option = optionFor(field, {state->name, state->code});
+        return option.isEmpty() ? name : option;
+    }
+    return field.maxLength() == 2 ? state->code : whole(field, name);
+}
+
+/// Postal codes with a part that few ask for, or with a space that some refuse.
+QString postalText(const QString &code, const FieldPlace &place)
+{
+    static const QRegularExpression extended(QStringLiteral("^\\d{5}-\\d{4}$"));
+    QStringList texts = {code, QString(code).remove(QLatin1Char(' '))};
+    if (extended.match(code).hasMatch())
+        texts.append(code.left(5));
+    return firstThatGoes(place, texts);
+}
+
+/// The first names: the second and further ones have a field of their own where a form asks so.
+QString firstName(const QString &names, const FieldPlace &place)
+{
+    const bool isSplit = place.kinds.contains(FieldKind::MiddleName);
+    return whole(place.field(), isSplit ? names.section(QLatin1Char(' '), 0, 0) : names);
+}
+
+QString middleName(const QString &names, const FormField &field)
+{
+    const QString further = names.section(QLatin1Char(' '), 1);
+    return field.maxLength() == 1 ? further.left(1) : whole(field, further);
 }
 
 /// The family's name comes first where the field says so, and by custom in Russian.
@@ -61,7 +135,7 @@ QString fullName(const PMIdentity &identity, const FormField &field)
     const QString last = identity.lastName();
     const QStringList names =
         isFamilyFirst(field) ? QStringList{last, first} : QStringList{first, last};
-    return names.join(QLatin1Char(' ')).trimmed();
+    return whole(field, names.join(QLatin1Char(' ')).trimmed());
 }
 
 struct Street
@@ -89,12 +163,12 @@ Street streetOf(const QString &line)
 QString addressValue(const PMIdentity &identity, const FieldPlace &place)
 {
     const QString line = identity.addressLine1();
-    if (place.kinds.value(place.at + 1) == FieldKind::HouseNumber ||
-        place.kinds.value(place.at - 1) == FieldKind::HouseNumber)
-        return streetOf(line).name;
+    if (place.kinds.contains(FieldKind::HouseNumber))
+        return whole(place.field(), streetOf(line).name);
     const QString second = identity.addressLine2();
     const bool isWhole = place.field().isTextArea();
-    return isWhole && !second.isEmpty() ? line + QLatin1Char('\n') + second : line;
+    return whole(place.field(),
+                 isWhole && !second.isEmpty() ? line + QLatin1Char('\n') + second : line);
 }
 
 QString inLanguage(Sex sex, const QString &language)
@@ -131,7 +205,7 @@ QString genderValue(PMFieldTypes::Gender gender, const FieldPlace &place)
     const QVector<FormField::Option> options = field.options();
     for (const FormField::Option &option : options) {
         if (sexOfChoice(option.text) == sex || sexOfChoice(option.value) == sex)
-            return option.text.isEmpty() ? option.value : option.text;
+            return answerOf(option);
     }
     return inLanguage(sex, field.isSelect() ? QString() : place.language);
 }
@@ -159,11 +233,19 @@ PMFieldTypes::Phone phoneFor(const PMIdentity &identity, const FormField &field)
     return {};
 }
 
-/// The phone whose number stands beside its code.
-const FormField &numberField(const FieldPlace &place)
+/// The field whose words say which phone is asked for, among those of a number in parts.
+const FormField &phoneField(const FieldPlace &place)
 {
-    const int next = place.kinds.indexOf(FieldKind::PhoneNumber, place.at);
-    return place.fields.at(next < 0 ? place.at : next);
+    int at = place.at;
+    if (place.kind() == FieldKind::PhoneCode) {
+        const int next = place.kinds.indexOf(FieldKind::PhoneNumber, at);
+        return place.fields.at(next < 0 ? at : next);
+    }
+    while (at > 0 && place.kinds.at(at) != FieldKind::PhoneArea &&
+           (place.kinds.at(at) == FieldKind::PhonePrefix ||
+            place.kinds.at(at) == FieldKind::PhoneLine))
+        --at;
+    return place.fields.at(at);
 }
 
 QString birthValue(const PMFieldTypes::Date &date, const FieldPlace &place)
@@ -173,7 +255,7 @@ QString birthValue(const PMFieldTypes::Date &date, const FieldPlace &place)
     case FieldKind::BirthDay:
         return date.day > 0 ? twoFigures(date.day) : QString();
     case FieldKind::BirthMonth:
-        return date.month > 0 ? twoFigures(date.month) : QString();
+        return date.month > 0 ? monthText(date.month, place) : QString();
     case FieldKind::BirthYear:
         return date.year > 0 ? yearText(date.year, field) : QString();
     default:
@@ -188,40 +270,45 @@ QString identityValue(const PMIdentity &identity, const FieldPlace &place)
     const FormField &field = place.field();
     switch (place.kind()) {
     case FieldKind::FirstName:
-        return identity.firstName();
+        return firstName(identity.firstName().simplified(), place);
+    case FieldKind::MiddleName:
+        return middleName(identity.firstName().simplified(), field);
     case FieldKind::LastName:
-        return identity.lastName();
+        return whole(field, identity.lastName());
     case FieldKind::FullName:
         return fullName(identity, field);
     case FieldKind::Country:
-        return countryText(identity.country(), field);
+        return countryText(identity.country(), place);
     case FieldKind::State:
-        return identity.state();
+        return stateText(identity.state(), field);
     case FieldKind::City:
-        return identity.city();
+        return whole(field, identity.city());
     case FieldKind::AddressLine1:
         return addressValue(identity, place);
     case FieldKind::AddressLine2:
-        return identity.addressLine2();
+        return whole(field, identity.addressLine2());
     case FieldKind::HouseNumber:
-        return streetOf(identity.addressLine1()).house;
+        return whole(field, streetOf(identity.addressLine1()).house);
     case FieldKind::PostalCode:
-        return fits(field, identity.zipCode()) ? identity.zipCode() : QString();
+        return postalText(identity.zipCode(), place);
     case FieldKind::Email:
-        return identity.email();
+        return whole(field, identity.email());
     case FieldKind::Phone:
     case FieldKind::PhoneNumber:
-        return phoneText(phoneFor(identity, field), place);
+    case FieldKind::PhoneArea:
+    case FieldKind::PhonePrefix:
+    case FieldKind::PhoneLine:
+        return phoneText(phoneFor(identity, phoneField(place)), place);
     case FieldKind::PhoneCode:
-        return dialCodeText(phoneFor(identity, numberField(place)), identity.country(), place);
+        return dialCodeText(phoneFor(identity, phoneField(place)), identity.country(), place);
     case FieldKind::Gender:
         return genderValue(identity.gender(), place);
     case FieldKind::Company:
-        return identity.company();
+        return whole(field, identity.company());
     case FieldKind::JobTitle:
-        return identity.jobTitle();
+        return whole(field, identity.jobTitle());
     case FieldKind::Website:
-        return identity.website();
+        return whole(field, identity.website());
     default:
         return birthValue(identity.birthDate(), place);
     }

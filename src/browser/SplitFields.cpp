@@ -68,7 +68,9 @@ void assignSplitFields(const QVector<FormField> &fields, const QVector<FieldRead
 {
     for (int at = 0; at < fields.size(); ++at) {
         const FieldKind kind = kinds.at(at);
-        const bool isBirth = kind == FieldKind::BirthDate;
+        const bool isBirth =
+            kind == FieldKind::BirthDate ||
+            (kind == FieldKind::SomeDate && readings.at(at).says(FieldKind::BirthDate));
         if ((!isBirth && kind != FieldKind::Phone) || readings.at(at).isTold)
             continue;
         const int count = partsFrom(at, fields, readings, kinds);

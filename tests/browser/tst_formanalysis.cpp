@@ -96,6 +96,8 @@ private Q_SLOTS:
     void cardShapes();
     void identityShapes_data();
     void identityShapes();
+    void americanShapes_data();
+    void americanShapes();
     void veto_data();
     void veto();
     void layers();
@@ -199,7 +201,18 @@ void TestFormAnalysis::cardShapes_data()
         "4111111111111111|09|2029|123");
     row(R"({"label":"Card number","maxlength":4}, {"maxlength":4}, {"maxlength":4}, {"maxlength":4})",
         "4111|1111|1111|1111");
+    row(R"({"label":"Card number"}, {}, {}, {})", "4111|1111|1111|1111");
+    row(R"({"label":"Card number"}, {"label":"Card number again"})",
+        "4111111111111111|4111111111111111");
     row(R"({"label":"Card number","placeholder":"0000 0000 0000 0000"})", "4111 1111 1111 1111");
+    row(R"({"label":"Card number","placeholder":"0000-0000-0000-0000"})", "4111-1111-1111-1111");
+    row(R"({"label":"Name on card","maxlength":8}, {"label":"Card number"})", "-|4111111111111111");
+    row(R"({"label":"Full name"}, {"label":"Card number"})", "Ana Maria Lind|4111111111111111");
+    row(R"({"label":"Full name"}, {"label":"Card number"}, {"label":"Address"})",
+        "-|4111111111111111|-");
+    // A paper that expires, with its day, is no card.
+    row(R"({"label":"Number"}, {"label":"Valid until","placeholder":"DD.MM.YYYY"})", "-|-");
+    row(R"({"label":"Number"}, {"label":"Expiry"})", "-|-");
     row(R"({"label":"Card number","placeholder":"0000 0000 0000 0000","maxlength":16})",
         "4111111111111111");
     row(R"({"label":"Card number","pattern":"(\\d{4} ?){4}"})", "4111111111111111");
@@ -251,12 +264,61 @@ void TestFormAnalysis::identityShapes_data()
     row(R"({"label":"Phone"})", "+49 561 12345");
     row(R"({"label":"Mobile phone"})", "+49 170 999");
     row(R"({"label":"Phone","pattern":"\\+?[0-9]+"})", "+4956112345");
-    row(R"({"label":"Phone","placeholder":"(000) 000-0000"})", "561 12345");
-    row(R"({"label":"Phone","maxlength":9})", "561 12345");
+    row(R"({"label":"Phone","placeholder":"(000) 000-0000"})", "0561 12345");
+    row(R"({"label":"Phone","maxlength":10})", "0561 12345");
+    row(R"({"label":"Phone","maxlength":8})", "56112345");
+    row(R"({"label":"Phone","maxlength":5})", "-");
     row(R"({"label":"Phone code","type":"select-one","options":[{"text":"France +33","value":"fr"},{"text":"Germany +49 ","value":"de"}]},
             {"label":"Phone number"})",
         "Germany +49 |561 12345");
     row(R"({"label":"Dialling code"}, {"label":"Mobile number"})", "+49|170 999");
+    row(R"({"label":"Vorwahl"}, {"label":"Rufnummer"})", "0561|12345", "de");
+    row(R"({"autocomplete":"tel-country-code"}, {"autocomplete":"tel-area-code"}, {"autocomplete":"tel-local"})",
+        "+49|561|12345");
+    const QByteArray beside = R"(}, {"label":"Phone"})";
+    const QByteArray codes = R"({"label":"Country code","type":"select-one","options":)";
+    row((codes + R"([{"text":"France","value":"FR"},{"text":"Germany","value":"DE"}])" + beside)
+            .constData(),
+        "Germany|561 12345");
+    row((codes + R"([{"text":"FR","value":"1"},{"text":"DE","value":"2"}])" + beside).constData(),
+        "DE|561 12345");
+    row((codes + R"([{"text":"+33","value":"+33"},{"text":"0049","value":"a"}])" + beside)
+            .constData(),
+        "0049|561 12345");
+    row((codes + R"([{"text":"+490","value":"1"},{"text":"","value":"49"}])" + beside).constData(),
+        "49|561 12345");
+    const QByteArray countries = R"({"label":"Country","type":"select-one","options":)";
+    const char *lists[][2] = {
+        {R"([{"text":"Frankreich","value":"1"},{"text":"Deutschland","value":"2"}])",
+         "Deutschland"},
+        {R"([{"text":"FR","value":"FRA"},{"text":"DE","value":"DEU"}])", "DE"},
+        {R"([{"text":"Francja","value":"FRA"},{"text":"Niemcy","value":"DEU"}])", "Niemcy"},
+        {R"([{"text":"Francja","value":"250"},{"text":"Niemcy","value":"276"}])", "Niemcy"},
+        // Numbers of the page's own are none of countries.
+        {R"([{"text":"Tuvalu","value":"276"},{"text":"Samoa","value":"7"}])", "Germany"}};
+    for (const auto &list : lists)
+        row((countries + list[0] + R"(}, {"label":"City"})").constData(),
+            (QByteArray(list[1]) + "|Kassel").constData(), "de");
+    row((countries + R"([{"text":"Germany","value":"1"}]})").constData(),
+        "-"); // of the page itself
+    row(R"({"label":"Country","pattern":"[A-Z]{3}"}, {"label":"Country, ISO"
+}, {"label":"Land"})",
+        "DEU|DE|Deutschland", "de");
+    row(R"({"label":"First name"}, {"label":"M.I.","maxlength":1}, {"label":"Last name"})",
+        "Ana|-|Lind");
+    row(R"({"label":"Address","maxlength":12}, {"label":"Zip","maxlength":4}, {"label":"Email","maxlength":9})",
+        "-|-|-");
+    row(R"({"label":"Birth date: MM/DD/YYYY","maxlength":2
+    }, {"textBefore":"/","maxlength":2}, {"textBefore":"/","maxlength":4})",
+        "02|01|1990");
+    row(R"({"label":"Geburtsdatum TT.MM.JJJJ","maxlength":2
+    }, {"maxlength":2}, {"maxlength":4})",
+        "01|02|1990", "de");
+    row(R"({"heading":"Date of birth","label":"Month","placeholder":"MMMM"}, {"heading":"Date of birth","label":"Month","placeholder":"Jan"})",
+        "février|févr.", "fr");
+    row(R"({"heading":"Date of birth","label":"Month","type":"select-one","options":[{"text":"1 - January","value":"0"},{"text":"2 - February","value":"1"}]},
+            {"heading":"Date of birth","label":"Year"})",
+        "2 - February|1990");
     const char *dates[][3] = {
         {"DD/MM/YYYY", "en", "01/02/1990"}, {"MM/DD/YYYY", "en", "02/01/1990"},
         {"TT.MM.JJJJ", "de", "01.02.1990"}, {"JJ/MM/AAAA", "fr", "01/02/1990"},
@@ -278,6 +340,58 @@ void TestFormAnalysis::identityShapes_data()
     row(R"({"label":"Geschlecht"})", "weiblich", "de");
     row(R"({"label":"City"}, {"label":"Zip","isFilled":true}, {"label":"Email","isFixed":true})",
         "Kassel|-|-");
+}
+
+// A person of New York, whose first name, number and codes have further parts.
+void TestFormAnalysis::americanShapes_data()
+{
+    QTest::addColumn<QByteArray>("fields");
+    QTest::addColumn<QString>("values");
+    const auto row = [](const char *fields, const char *values) {
+        QTest::addRow("%s", fields) << QByteArray(fields) << QString::fromUtf8(values);
+    };
+    row(R"({"label":"State"}, {"label":"State","maxlength":2})", "New York|NY");
+    const char *states[][2] = {
+        {R"([{"text":"NJ","value":"43"},{"text":"NY","value":"44"}])", "NY"},
+        {R"([{"text":"New Jersey","value":"NJ"},{"text":"New York","value":"NY"}])", "New York"},
+        {R"([{"text":"Нью-Джерси","value":"NJ"},{"text":"Нью-Йорк","value":"NY"}])", "Нью-Йорк"}};
+    for (const auto &list : states) {
+        const QByteArray field = QByteArray(R"({"label":"State","type":"select-one","options":)");
+        row((field + list[0] + "}").constData(), list[1]);
+    }
+    row(R"({"label":"First name"}, {"label":"Middle name"}, {"label":"Last name"})",
+        "Ana|Maria Eva|Lind");
+    row(R"({"label":"First name"}, {"label":"M.I.","maxlength":1}, {"label":"Last name"})",
+        "Ana|M|Lind");
+    row(R"({"label":"First name"}, {"label":"Last name"}, {"label":"Zip","maxlength":5})",
+        "Ana Maria Eva|Lind|10001");
+    row(R"({"label":"Daytime phone","maxlength":3}, {"textBefore":"-","maxlength":3
+    }, {"textBefore":"-","maxlength":4})",
+        "212|555|0123");
+    row(R"({"label":"Phone","maxlength":3}, {"maxlength":7})", "212|5550123");
+    row(R"({"label":"Phone","maxlength":3}, {"label":"City"})", "-|-");
+    row(R"({"label":"Phone","placeholder":"(555) 555-5555"})", "(212) 555-0123");
+    row(R"({"label":"Phone","pattern":"[0-9]{3}-[0-9]{3}-[0-9]{4}"})", "212-555-0123");
+    row(R"({"label":"Phone","maxlength":10})", "2125550123");
+    row(R"({"label":"Phone code","type":"select-one","options":[{"text":"Canada +1","value":"CA"
+    },{"text":"United States +1","value":"US"}]
+    },
+            {"label":"Phone number"})",
+        "United States +1|2125550123");
+}
+
+void TestFormAnalysis::americanShapes()
+{
+    QFETCH(QByteArray, fields);
+    PMIdentity identity;
+    identity.setFirstName(QStringLiteral("Ana Maria  Eva"));
+    identity.setLastName(QStringLiteral("Lind"));
+    identity.setCountry(QStringLiteral("United States"));
+    identity.setState(QStringLiteral("New York"));
+    identity.setZipCode(QStringLiteral("10001-1234"));
+    identity.setPhone({QStringLiteral("1"), QStringLiteral("2125550123")});
+    const QJsonObject page = pageOf(fields, "en-US");
+    QTEST(valuesOf(fillIdentityForms(page, identity), fieldsIn(page)), "values");
 }
 
 void TestFormAnalysis::identityShapes()
@@ -312,7 +426,8 @@ void TestFormAnalysis::veto_data()
     for (const char *field : never) {
         QTest::addRow("%s", field) << QByteArray(field) + password << QStringLiteral("-|secret");
     }
-    row(R"({"name":"user","inputtype":"email"})", "anna"); // the password comes on the next page
+    row(R"({"name":"user","inputtype":"email"})",
+        "anna"); // the password comes on the next page
     row(R"({"name":"email","inputtype":"email"})", "-");
     row(R"({"label":"E-mail"}, {"type":"password","label":"New password"})", "-|-");
     row(R"({"label":"E-mail"}, {"type":"password","autocomplete":"new-password"})", "-|-");
@@ -329,6 +444,12 @@ void TestFormAnalysis::veto_data()
         "-|secret");
     row(R"({"label":"User name","isFilled":true}, {"type":"password","label":"Password"})",
         "anna|secret");
+    row(R"({"label":"Account ID"}, {"label":"User name"}, {"type":"password","label":"Password"})",
+        "-|anna|secret");
+    row(R"({"label":"Workspace address","heading":"Sign in"})", "-");
+    row(R"({"label":"Street","heading":"Sign in"})", "-");
+    row(R"({"label":"User name"}, {"type":"password","label":"Password"}, {"type":"password","label":"Social security number"})",
+        "anna|secret|-");
 }
 
 void TestFormAnalysis::veto()
@@ -403,7 +524,8 @@ void TestFormAnalysis::hiddenChoices()
           "values");
 }
 
-// A pattern that says no is listened to, unless it is one that a page could stop the program with.
+// A pattern that says no is listened to, unless it is one that a page could stop the program
+// with.
 void TestFormAnalysis::patterns()
 {
     const auto takes = [](const char *pattern, const char *text = "01/30/2029") {
