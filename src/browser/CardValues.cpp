@@ -76,15 +76,15 @@ QString cardValue(const PMCreditCard &card, const FieldPlace &place)
     const PMFieldTypes::Date expire = card.expire();
     switch (place.kind()) {
     case FieldKind::CardFirstName:
-        return whole(field, holder.section(QLatin1Char(' '), 0, -2));
+        return holder.section(QLatin1Char(' '), 0, -2);
     case FieldKind::CardLastName:
-        return whole(field, holder.section(QLatin1Char(' '), -1));
+        return holder.section(QLatin1Char(' '), -1);
     case FieldKind::CardHolder:
-        return whole(field, holder);
+        return holder;
     case FieldKind::CardNumber:
         return numberValue(card.number(), place);
     case FieldKind::CardCode:
-        return whole(field, card.code());
+        return card.code();
     case FieldKind::CardMonth:
         return expire.month > 0 ? monthText(expire.month, place) : QString();
     case FieldKind::CardYear:

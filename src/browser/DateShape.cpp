@@ -59,10 +59,24 @@ Shape shapeIn(const QString &text, int parts)
     return shape;
 }
 
+/// Whether a letter for a part of a date stands twice, as in "MM": most texts have none.
+bool mayHaveShape(const QString &text)
+{
+    static const QString letters = QStringLiteral("dtjдmмyaг");
+    for (int i = 1; i < text.size(); ++i) {
+        const QChar letter = text.at(i).toLower();
+        if (letter == text.at(i - 1).toLower() && letters.contains(letter))
+            return true;
+    }
+    return false;
+}
+
 Shape shapeOf(const FormField &field, int parts)
 {
     const QStringList hints = hintsOf(field);
     for (const QString &hint : hints) {
+        if (!mayHaveShape(hint))
+            continue;
         const Shape shape = shapeIn(hint, parts);
         const auto months = std::count_if(shape.runs.begin(), shape.runs.end(),
                                           [](const Run &run) { return run.isMonth(); });
@@ -147,17 +161,21 @@ QString monthText(int month, const FieldPlace &place)
     }
     const QString name =
         field.isSelect() ? QString() : monthName(month, field.placeholder(), place.language);
-    return whole(field, name.isEmpty() ? twoFigures(month) : name);
+    return name.isEmpty() ? twoFigures(month) : name;
 }
 
 QString yearText(int year, const FormField &field)
 {
     static const QRegularExpression twoLetters(QStringLiteral("(?<!\\pL)(yy|jj|aa|гг)(?!\\pL)"),
                                                QRegularExpression::CaseInsensitiveOption);
+    if (field.isSelect())
+        return QString::number(year);
     const QStringList hints = hintsOf(field);
-    const bool isShort = field.maxLength() == 2 || hints.indexOf(twoLetters) >= 0 ||
-                         field.placeholder().trimmed().size() == 2;
-    return isShort && !field.isSelect() ? twoFigures(year % 100) : QString::number(year);
+    const bool isShort = field.maxLength() == 2 || field.placeholder().trimmed().size() == 2 ||
+                         std::any_of(hints.begin(), hints.end(), [&](const QString &hint) {
+                             return twoLetters.match(hint).hasMatch();
+                         });
+    return isShort ? twoFigures(year % 100) : QString::number(year);
 }
 
 QString expiryText(const PMFieldTypes::Date &date, const FieldPlace &place)

@@ -67,23 +67,37 @@ const QVector<Classifier> &classifiers()
 /// Words of `any` that say little by themselves.
 enum class VagueWords { Count, AreSkipped };
 
-float scoreOfAny(const Classifier &classifier, const QStringList &texts, VagueWords vague)
+/// The same without the words that say little by themselves.
+QVector<Classifier> withoutVagueWords(QVector<Classifier> table)
 {
     static const QStringList vagueWords = words("number name code first last state");
-    QStringList any = classifier.any;
-    if (vague == VagueWords::AreSkipped) {
+    for (Classifier &classifier : table) {
         for (const QString &word : vagueWords)
-            any.removeAll(word);
+            classifier.any.removeAll(word);
     }
-    return keywordScore(texts, any);
+    return table;
 }
 
-bool takes(const Classifier &classifier, const FormField &field, VagueWords vague)
+/// What of a field is searched.
+struct Searched
 {
-    if (!field.hasType(classifier.types))
-        return false;
-    const QStringList texts =
-        classifier.texts == Texts::Names ? field.attributeTexts() : field.attributeAndLabelTexts();
+    QStringList names;
+    QStringList namesAndLabels;
+
+    explicit Searched(const FormField &field)
+        : names(field.attributeTexts())
+        , namesAndLabels(field.attributeAndLabelTexts())
+    {
+    }
+
+    const QStringList &of(const Classifier &classifier) const
+    {
+        return classifier.texts == Texts::Names ? names : namesAndLabels;
+    }
+};
+
+bool takes(const Classifier &classifier, const QStringList &texts)
+{
     if (!classifier.never.isEmpty()) {
         const bool isBarred = classifier.neverBeside.isEmpty()
                                   ? containsAny(texts, classifier.never)
@@ -91,7 +105,7 @@ bool takes(const Classifier &classifier, const FormField &field, VagueWords vagu
         if (isBarred)
             return false;
     }
-    return scoreOfAny(classifier, texts, vague) > 0.0F ||
+    return keywordScore(texts, classifier.any) > 0.0F ||
            containsPair(texts, classifier.first, classifier.second);
 }
 
@@ -142,9 +156,13 @@ FieldKind kindOf(const FormField &field, FillAction action, VagueWords vague)
         return kindOfLogin(field);
     if (action == FillAction::PlacePassword)
         return passwordScore(field) > 0.0F ? FieldKind::Password : FieldKind::Unknown;
+    static const QVector<Classifier> plain = withoutVagueWords(classifiers());
+    const QVector<Classifier> &table = vague == VagueWords::Count ? classifiers() : plain;
+    const Searched searched(field);
     for (const FieldKind kind : orderOf(action)) {
-        for (const Classifier &classifier : classifiers()) {
-            if (classifier.kind == kind && takes(classifier, field, vague))
+        for (const Classifier &classifier : table) {
+            if (classifier.kind == kind && field.hasType(classifier.types) &&
+                takes(classifier, searched.of(classifier)))
                 return inAction(kind, action);
         }
     }

@@ -10,6 +10,9 @@
 
 namespace {
 
+/// So many choices of a list tell what it is.
+constexpr int mostTellingOptions = 60;
+
 /// Whose order decides between phrases of one length: what people read has its main word first, a
 /// name in code has it last.
 enum class MainWord { First, Last };
@@ -128,7 +131,7 @@ FieldKind kindOfType(const QString &inputType)
 
 FieldReading readSelect(const FormField &field, FieldReading reading)
 {
-    const FieldKind chosen = kindOfOptions(field.options());
+    const FieldKind chosen = kindOfOptions(field.options(mostTellingOptions));
     const bool isCountryOfCodes =
         chosen == FieldKind::PhoneCode &&
         (reading.kind == FieldKind::Country || reading.kind == FieldKind::Phone ||
@@ -199,8 +202,8 @@ FieldReading readTextsOf(const FormField &field)
     }
     if (!hasSign)
         take(reading, field.textAfter(), MainWord::First);
-    const QString name = field.name();
-    const QString id = field.id();
+    const QString &name = field.name();
+    const QString &id = field.id();
     take(reading, name, MainWord::Last);
     if (id != name)
         take(reading, id, MainWord::Last);

@@ -28,11 +28,6 @@ bool fits(const FormField &field, const QString &text)
     return field.maxLength() <= 0 || text.size() <= field.maxLength();
 }
 
-QString whole(const FormField &field, const QString &text)
-{
-    return fits(field, text) ? text : QString();
-}
-
 QString firstThatGoes(const FieldPlace &place, const QStringList &texts)
 {
     const FormField &field = place.field();
@@ -40,7 +35,7 @@ QString firstThatGoes(const FieldPlace &place, const QStringList &texts)
         if (fits(field, text) && place.patterns.takes(field.pattern(), text))
             return text;
     }
-    return whole(field, texts.value(0));
+    return fits(field, texts.value(0)) ? texts.value(0) : QString();
 }
 
 QString digitsOf(const QString &text)

@@ -5,9 +5,6 @@
 /// Whether the text is not longer than the field takes.
 bool fits(const FormField &field, const QString &text);
 
-/// The text when it fits, else nothing: half a value is a wrong one.
-QString whole(const FormField &field, const QString &text);
-
 /// The first of the texts, which all say the same, that fits the field and its own pattern; the
 /// first of all when its pattern takes none and it fits.
 QString firstThatGoes(const FieldPlace &place, const QStringList &texts);

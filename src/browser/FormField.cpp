@@ -1,5 +1,7 @@
 #include "FormField.h"
 
+#include <QHash>
+
 namespace {
 
 /// No page describes a field in so many letters; one that does shall not keep the program busy.
@@ -10,33 +12,56 @@ constexpr int longestValue = 10000;
 
 FormField::FormField(const QJsonObject &object)
     : m_object(object)
+    , m_inputType(text("inputtype"))
     , m_type(text("type").toLower())
+    , m_name(attribute("name", "sourceName"))
+    , m_id(attribute("id", "sourceId"))
+    , m_autocomplete(text("autocomplete"))
+    , m_label(text("label"))
+    , m_placeholder(text("placeholder"))
     , m_maxLength(qBound(0, object.value(QLatin1String("maxlength")).toInt(), longestValue))
+    , m_isVisible(flag("visible"))
+    , m_hasHints(object.contains(QLatin1String("autocomplete")) ||
+                 object.contains(QLatin1String("label")))
 {
     if (m_type.isEmpty())
-        m_type = text("inputtype").toLower();
+        m_type = m_inputType.toLower();
+    m_control = controlOf(m_type);
+}
+
+FormField::Control FormField::controlOf(const QString &type)
+{
+    static const QHash<QString, Control> controls = {
+        {QStringLiteral("text"), Control::Line},
+        {QStringLiteral("email"), Control::Line},
+        {QStringLiteral("number"), Control::Line},
+        {QStringLiteral("tel"), Control::Line},
+        {QStringLiteral("url"), Control::Line},
+        {QStringLiteral("search"), Control::Line},
+        {QStringLiteral("date"), Control::Line},
+        {QStringLiteral("month"), Control::Line},
+        {QStringLiteral("password"), Control::Password},
+        {QStringLiteral("select-one"), Control::Select},
+        {QStringLiteral("radio"), Control::Radio},
+        {QStringLiteral("textarea"), Control::TextArea}};
+    return controls.value(type, Control::Other);
+}
+
+QString FormField::className() const
+{
+    return m_hasClass ? attribute("class", "sourceClass") : QString();
 }
 
 FormField FormField::withoutClass() const
 {
-    QJsonObject object = m_object;
-    object.remove(QStringLiteral("class"));
-    object.remove(QStringLiteral("sourceClass"));
-    return FormField(object);
+    FormField field = *this;
+    field.m_hasClass = false;
+    return field;
 }
 
 bool FormField::hasType(const QStringList &types) const
 {
     return types.contains(m_type);
-}
-
-bool FormField::isLine() const
-{
-    static const QStringList types = {QStringLiteral("text"),   QStringLiteral("email"),
-                                      QStringLiteral("number"), QStringLiteral("tel"),
-                                      QStringLiteral("url"),    QStringLiteral("search"),
-                                      QStringLiteral("date"),   QStringLiteral("month")};
-    return hasType(types);
 }
 
 QStringList FormField::attributeTexts() const
@@ -49,28 +74,29 @@ QStringList FormField::attributeAndLabelTexts() const
     return attributeTexts() << text("sourceContext") << text("sourceLabelFor");
 }
 
-bool FormField::hasHints() const
-{
-    return m_object.contains(QLatin1String("autocomplete")) ||
-           m_object.contains(QLatin1String("label"));
-}
-
 QStringList FormField::readTexts() const
 {
     return {label(), text("ariaLabel"), placeholder(), text("textBefore"), text("tableHead")};
 }
 
-QVector<FormField::Option> FormField::options() const
+QVector<FormField::Option> FormField::options(int most) const
 {
-    constexpr int most = 300;
     const QJsonArray reported = m_object.value(QLatin1String("options")).toArray();
     QVector<Option> options;
-    for (int i = 0; i < qMin(most, reported.size()); ++i) {
+    for (int i = 0; i < qMin(qMin(most, m_optionLimit), reported.size()); ++i) {
         const QJsonObject option = reported.at(i).toObject();
-        options.append({option.value(QLatin1String("text")).toString(),
-                        option.value(QLatin1String("value")).toString()});
+        options.append({option.value(QLatin1String("text")).toString().left(longestText),
+                        option.value(QLatin1String("value")).toString().left(longestText)});
     }
     return options;
+}
+
+int FormField::limitOptions(int most)
+{
+    const QJsonValue reported = m_object.value(QLatin1String("options"));
+    m_optionLimit =
+        reported.isArray() ? qBound(0, reported.toArray().size(), qMin(most, mostOptions)) : 0;
+    return m_optionLimit;
 }
 
 QString FormField::text(const char *key) const

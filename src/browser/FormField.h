@@ -15,22 +15,22 @@ public:
     QString gpmid() const { return m_object.value(QLatin1String("gpmid")).toString(); }
     QString value() const { return m_object.value(QLatin1String("value")).toString(); }
     bool hasValue() const { return m_object.value(QLatin1String("value")).isString(); }
-    QString name() const { return attribute("name", "sourceName"); }
-    QString id() const { return attribute("id", "sourceId"); }
-    QString className() const { return attribute("class", "sourceClass"); }
+    const QString &name() const { return m_name; }
+    const QString &id() const { return m_id; }
+    QString className() const;
     FormField withoutClass() const;
-    QString inputType() const { return text("inputtype"); }
-    bool isVisible() const { return flag("visible"); }
+    const QString &inputType() const { return m_inputType; }
+    bool isVisible() const { return m_isVisible; }
 
     /// Whether the field's type, in lower case, is one of these. The type is "type", and
     /// "inputtype" where "type" is empty.
     bool hasType(const QStringList &types) const;
     /// Whether it is a line of text of any kind, a password excepted.
-    bool isLine() const;
-    bool isPassword() const { return m_type == QLatin1String("password"); }
-    bool isSelect() const { return m_type == QLatin1String("select-one"); }
-    bool isRadio() const { return m_type == QLatin1String("radio"); }
-    bool isTextArea() const { return m_type == QLatin1String("textarea"); }
+    bool isLine() const { return m_control == Control::Line; }
+    bool isPassword() const { return m_control == Control::Password; }
+    bool isSelect() const { return m_control == Control::Select; }
+    bool isRadio() const { return m_control == Control::Radio; }
+    bool isTextArea() const { return m_control == Control::TextArea; }
 
     /// Name, id and class.
     QStringList attributeTexts() const;
@@ -40,10 +40,10 @@ public:
 
     /// Whether the extension reported more of the field than name, id, class and the text near it.
     /// What follows is empty where it did not.
-    bool hasHints() const;
-    QString autocomplete() const { return text("autocomplete"); }
-    QString label() const { return text("label"); }
-    QString placeholder() const { return text("placeholder"); }
+    bool hasHints() const { return m_hasHints; }
+    const QString &autocomplete() const { return m_autocomplete; }
+    const QString &label() const { return m_label; }
+    const QString &placeholder() const { return m_placeholder; }
     QString heading() const { return text("heading"); }
     QString pattern() const { return text("pattern"); }
     /// The texts that a person reads at the field, the most telling first.
@@ -61,14 +61,33 @@ public:
         QString text;
         QString value;
     };
-    QVector<Option> options() const;
+    /// At most 300, and no more than it was limited to.
+    QVector<Option> options(int most = mostOptions) const;
+    /// Hides what goes beyond a number of options; returns how many are left.
+    int limitOptions(int most);
 
 private:
+    static constexpr int mostOptions = 300;
+    enum class Control { Other, Line, Password, Select, Radio, TextArea };
+
+    static Control controlOf(const QString &type);
     QString text(const char *key) const;
     bool flag(const char *key) const { return m_object.value(QLatin1String(key)).toBool(); }
     QString attribute(const char *key, const char *sourceKey) const;
 
+    // What is asked for more than once is looked up only once: that is what reading costs most.
     QJsonObject m_object;
+    QString m_inputType;
     QString m_type; ///< in lower case
+    Control m_control;
+    QString m_name;
+    QString m_id;
+    QString m_autocomplete;
+    QString m_label;
+    QString m_placeholder;
     int m_maxLength;
+    int m_optionLimit = mostOptions;
+    bool m_isVisible;
+    bool m_hasHints;
+    bool m_hasClass = true;
 };

@@ -1,23 +1,11 @@
 #include "FormFiller.h"
 
 #include "FormAnalysis.h"
+#include "PageFields.h"
 
 #include <QJsonArray>
 
 namespace {
-
-/// More fields than a page has that a person fills.
-constexpr int mostFields = 1000;
-
-QVector<FormField> fieldsOf(const QJsonArray &entries, int most)
-{
-    QVector<FormField> fields;
-    for (int i = 0; i < entries.size() && fields.size() < most; ++i) {
-        if (entries.at(i).isObject())
-            fields.append(FormField(entries.at(i).toObject()));
-    }
-    return fields;
-}
 
 bool isPassword(FieldKind kind)
 {
@@ -32,10 +20,9 @@ QVector<FilledForm> fillForms(const QJsonObject &page, FillAction action, const 
     const QString language = page.value(QLatin1String("language")).toString();
     QVector<FilledForm> filled;
     PatternTests patterns;
-    int left = mostFields;
+    PageLimits left;
     const auto add = [&](const QString &formUid, const QJsonObject &form) {
         const auto fields = fieldsOf(form.value(QLatin1String("fields")).toArray(), left);
-        left -= fields.size();
         const auto kinds = analyseForm(fields, FormSurroundings::of(form, title), action);
         FilledForm result;
         result.formUid = formUid;

@@ -26,6 +26,8 @@ public:
         : m_fields(fields)
         , m_around(around)
     {
+        m_readings.reserve(fields.size());
+        m_kinds.reserve(fields.size());
         for (const FormField &field : fields) {
             m_readings.append(readField(field));
             m_kinds.append(m_readings.last().kind);

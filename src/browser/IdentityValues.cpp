@@ -66,7 +66,7 @@ QString countryText(const QString &name, const FieldPlace &place)
     const FormField &field = place.field();
     const auto country = countryCodes(name);
     if (!country)
-        return whole(field, name);
+        return name;
     if (field.isSelect())
         return countryOption(*country, place);
     const int letters = lettersOfCode(field);
@@ -79,12 +79,12 @@ QString stateText(const QString &name, const FormField &field)
 {
     const auto state = stateCode(name);
     if (!state)
-        return whole(field, name);
+        return name;
     if (field.isSelect()) {
         const QString option = optionFor(field, {state->name, state->code});
         return option.isEmpty() ? name : option;
     }
-    return field.maxLength() == 2 ? state->code : whole(field, name);
+    return field.maxLength() == 2 ? state->code : name;
 }
 
 /// Postal codes with a part that few ask for, or with a space that some refuse.
@@ -101,13 +101,13 @@ QString postalText(const QString &code, const FieldPlace &place)
 QString firstName(const QString &names, const FieldPlace &place)
 {
     const bool isSplit = place.kinds.contains(FieldKind::MiddleName);
-    return whole(place.field(), isSplit ? names.section(QLatin1Char(' '), 0, 0) : names);
+    return isSplit ? names.section(QLatin1Char(' '), 0, 0) : names;
 }
 
 QString middleName(const QString &names, const FormField &field)
 {
     const QString further = names.section(QLatin1Char(' '), 1);
-    return field.maxLength() == 1 ? further.left(1) : whole(field, further);
+    return field.maxLength() == 1 ? further.left(1) : further;
 }
 
 /// The family's name comes first where the field says so, and by custom in Russian.
@@ -135,7 +135,7 @@ QString fullName(const PMIdentity &identity, const FormField &field)
     const QString last = identity.lastName();
     const QStringList names =
         isFamilyFirst(field) ? QStringList{last, first} : QStringList{first, last};
-    return whole(field, names.join(QLatin1Char(' ')).trimmed());
+    return names.join(QLatin1Char(' ')).trimmed();
 }
 
 struct Street
@@ -164,11 +164,10 @@ QString addressValue(const PMIdentity &identity, const FieldPlace &place)
 {
     const QString line = identity.addressLine1();
     if (place.kinds.contains(FieldKind::HouseNumber))
-        return whole(place.field(), streetOf(line).name);
+        return streetOf(line).name;
     const QString second = identity.addressLine2();
     const bool isWhole = place.field().isTextArea();
-    return whole(place.field(),
-                 isWhole && !second.isEmpty() ? line + QLatin1Char('\n') + second : line);
+    return isWhole && !second.isEmpty() ? line + QLatin1Char('\n') + second : line;
 }
 
 QString inLanguage(Sex sex, const QString &language)
@@ -274,7 +273,7 @@ QString identityValue(const PMIdentity &identity, const FieldPlace &place)
     case FieldKind::MiddleName:
         return middleName(identity.firstName().simplified(), field);
     case FieldKind::LastName:
-        return whole(field, identity.lastName());
+        return identity.lastName();
     case FieldKind::FullName:
         return fullName(identity, field);
     case FieldKind::Country:
@@ -282,17 +281,17 @@ QString identityValue(const PMIdentity &identity, const FieldPlace &place)
     case FieldKind::State:
         return stateText(identity.state(), field);
     case FieldKind::City:
-        return whole(field, identity.city());
+        return identity.city();
     case FieldKind::AddressLine1:
         return addressValue(identity, place);
     case FieldKind::AddressLine2:
-        return whole(field, identity.addressLine2());
+        return identity.addressLine2();
     case FieldKind::HouseNumber:
-        return whole(field, streetOf(identity.addressLine1()).house);
+        return streetOf(identity.addressLine1()).house;
     case FieldKind::PostalCode:
         return postalText(identity.zipCode(), place);
     case FieldKind::Email:
-        return whole(field, identity.email());
+        return identity.email();
     case FieldKind::Phone:
     case FieldKind::PhoneNumber:
     case FieldKind::PhoneArea:
@@ -304,11 +303,11 @@ QString identityValue(const PMIdentity &identity, const FieldPlace &place)
     case FieldKind::Gender:
         return genderValue(identity.gender(), place);
     case FieldKind::Company:
-        return whole(field, identity.company());
+        return identity.company();
     case FieldKind::JobTitle:
-        return whole(field, identity.jobTitle());
+        return identity.jobTitle();
     case FieldKind::Website:
-        return whole(field, identity.website());
+        return identity.website();
     default:
         return birthValue(identity.birthDate(), place);
     }

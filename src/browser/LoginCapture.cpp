@@ -3,13 +3,13 @@
 #include "FormReader.h"
 #include "KeywordScore.h"
 #include "LoginClassifiers.h"
+#include "PageFields.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QVector>
 
 namespace {
-
-constexpr int mostFields = 1000;
 
 /// The value with the highest score so far.
 struct Best
@@ -45,12 +45,13 @@ bool isSignUpForm(const QString &title, const QVector<FormField> &fields)
 /// none does.
 QString repeatedPassword(const QVector<FormField> &passwords)
 {
-    for (int i = 0; i < passwords.size(); ++i) {
-        for (int j = i + 1; j < passwords.size(); ++j) {
-            if (!passwords.at(i).value().isEmpty() &&
-                passwords.at(i).value() == passwords.at(j).value())
-                return passwords.at(i).value();
-        }
+    QHash<QString, int> counts;
+    for (const FormField &field : passwords)
+        ++counts[field.value()];
+    for (const FormField &field : passwords) {
+        const QString value = field.value();
+        if (!value.isEmpty() && counts.value(value) > 1)
+            return value;
     }
     return {};
 }
@@ -88,16 +89,14 @@ void readSurroundings(const QJsonObject &form, const QVector<FormField> &fields,
 
 CapturedLogin captureLogin(const QJsonObject &form)
 {
-    QVector<FormField> fields;
-    const QJsonArray entries = form.value(QLatin1String("fields")).toArray();
-    for (int i = 0; i < qMin(mostFields, entries.size()); ++i)
-        fields.append(FormField(entries.at(i).toObject()));
+    PageLimits left;
+    const auto fields = fieldsOf(form.value(QLatin1String("fields")).toArray(), left);
 
     Best userName;
     Best password;
     QVector<FormField> passwords;
     bool hasHints = false;
-    for (const FormField &field : qAsConst(fields)) {
+    for (const FormField &field : fields) {
         hasHints = hasHints || field.hasHints();
         if (visibleFieldScore(field) <= 0.0F || !field.hasValue())
             continue;

@@ -70,7 +70,7 @@ QString wholeNumber(const Parts &parts, const FieldPlace &place)
     const QStringList national = {parts.zero() + parts.number, parts.zero() + parts.digits(),
                                   parts.number, parts.digits()};
     if (place.field().inputType() == QLatin1String("number"))
-        return whole(place.field(), parts.code + parts.digits());
+        return parts.code + parts.digits();
     if (parts.isWhole() || parts.code.isEmpty())
         return firstThatGoes(place, national);
     const QString plus = QLatin1Char('+') + parts.code;
@@ -154,12 +154,11 @@ QString phoneText(const PMFieldTypes::Phone &phone, const FieldPlace &place)
                          place, {(isNational ? parts.zero() : QString()) + parts.area, parts.area});
     }
     case FieldKind::PhonePrefix:
-        return parts.area.isEmpty() ? QString() : whole(place.field(), parts.rest.left(3));
+        return parts.area.isEmpty() ? QString() : parts.rest.left(3);
     case FieldKind::PhoneLine:
         if (!place.kinds.contains(FieldKind::PhoneArea))
-            return whole(place.field(), parts.digits());
-        return parts.area.isEmpty() ? QString()
-                                    : whole(place.field(), parts.rest.mid(hasPrefix ? 3 : 0));
+            return parts.digits();
+        return parts.area.isEmpty() ? QString() : parts.rest.mid(hasPrefix ? 3 : 0);
     default:
         return wholeNumber(parts, place);
     }
@@ -175,6 +174,6 @@ QString dialCodeText(const PMFieldTypes::Phone &phone, const QString &country,
     if (field.isSelect())
         return codeOption(code, country, field);
     if (field.inputType() == QLatin1String("number"))
-        return whole(field, code);
+        return code;
     return firstThatGoes(place, {QLatin1Char('+') + code, code, QLatin1String("00") + code});
 }

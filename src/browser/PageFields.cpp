@@ -1,0 +1,16 @@
+#include "PageFields.h"
+
+QVector<FormField> fieldsOf(const QJsonArray &entries, PageLimits &left)
+{
+    QVector<FormField> fields;
+    fields.reserve(qMin(entries.size(), left.fields));
+    for (int i = 0; i < entries.size() && left.fields > 0; ++i) {
+        if (!entries.at(i).isObject())
+            continue;
+        FormField field(entries.at(i).toObject());
+        left.options -= field.limitOptions(left.options);
+        fields.append(field);
+        --left.fields;
+    }
+    return fields;
+}
