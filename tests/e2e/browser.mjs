@@ -63,13 +63,13 @@ export function buildExtension(kind = 'chromium') {
 /**
  * Starts a browser ("chromium", "firefox") with the extension. Without profileDir it gets a profile of its own, removed
  * by close(). hosts: names that lead to this machine; env: with DISPLAY where it is not headless; preferences: more of
- * Firefox's. Returns {kind, browser, extensionId, origin, newPage, openExtensionPage, pageAt, connected, close}.
+ * Firefox's; extension: false leaves it out. Returns {kind, browser, extensionId, origin, newPage, openExtensionPage, pageAt, connected, close}.
  */
-export async function launchBrowser(kind, { profileDir, hosts = [], headless = true, args = [], preferences, env } = {}) {
+export async function launchBrowser(kind, { profileDir, hosts = [], headless = true, args = [], preferences, env, extension = true } = {}) {
   const userDataDir = profileDir ?? (await mkdtemp(join(tmpdir(), `glaceron-${kind}-`)));
   const own = KINDS[kind].options({ hosts, args, preferences });
   const browser = await puppeteer.launch({ ...own, headless, userDataDir, ...(env && { env }) });
-  const extensionId = await browser.installExtension(buildExtension(kind));
+  const extensionId = extension ? await browser.installExtension(buildExtension(kind)) : undefined;
   const origin = KINDS[kind].origin(extensionId);
 
   /** Opens a page of the extension in a tab. */

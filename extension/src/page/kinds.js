@@ -16,8 +16,15 @@ const PERSON = /(first|last|given|family|middle|full|sur|fore).?name|vorname|nac
 
 const TOLD = ['name', 'id', 'placeholder', 'aria-label', 'title'];
 
+// Without an id only a label around the field can be meant; with one the browser walks through the whole page.
+function labelsOf(field) {
+  if (field.id) return [...(field.labels ?? [])];
+  const around = field.closest('label');
+  return around ? [around] : [];
+}
+
 function textOf(field) {
-  const labels = [...(field.labels ?? [])].map((label) => label.textContent.slice(0, 80));
+  const labels = labelsOf(field).map((label) => label.textContent.slice(0, 80));
   return [...TOLD.map((name) => attr(field, name)), ...labels].join(' ').replaceAll(/([a-zà-ž])([A-Z])/g, '$1 $2');
 }
 
