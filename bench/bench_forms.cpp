@@ -1,5 +1,5 @@
-// How much time of the processor a page of 5,000 fields takes, for every action: its analysis alone,
-// and the whole way from the JSON document to the values.
+// How much time of the processor a page of 5,000 fields takes, for every action: its analysis
+// alone, and the whole way from the JSON document to the values.
 
 #include "FormAnalysis.h"
 #include "ItemForms.h"
@@ -71,6 +71,45 @@ QJsonObject makePage()
             {QStringLiteral("elements"), fields}};
 }
 
+QJsonObject repeated(const QJsonObject &field, int count)
+{
+    QJsonArray fields;
+    for (int i = 0; i < count; ++i)
+        fields.append(field);
+    return {{QStringLiteral("elements"), fields}};
+}
+
+/// Pages that are written to keep the program busy; none is longer than a message may be.
+QVector<QPair<const char *, QJsonObject>> hostilePages()
+{
+    const auto field = [](const char *label, const char *type = "text") {
+        return QJsonObject{{QStringLiteral("type"), QLatin1String(type)},
+                           {QStringLiteral("visible"), true},
+                           {QStringLiteral("autocomplete"), QString()},
+                           {QStringLiteral("label"), QLatin1String(label)}};
+    };
+    QJsonArray options;
+    for (int i = 0; i < 300; ++i)
+        options.append(QJsonObject{{QStringLiteral("text"), QStringLiteral("Mrs %1").arg(i)}});
+    QJsonObject list = field("Country", "select-one");
+    list.insert(QStringLiteral("options"), options);
+    QJsonObject pattern = field("Phone");
+    pattern.insert(QStringLiteral("pattern"), QStringLiteral("(.|.)*(.|.)*(.|.)*(.|.)*[xy]"));
+    QJsonObject texts = field("Name");
+    for (const char *key : {"label", "textBefore", "placeholder", "ariaLabel"})
+        texts.insert(QLatin1String(key), QStringLiteral("Aa ").repeated(330 - key[0]));
+    QJsonObject one = field("City");
+    one.insert(QStringLiteral("label"), QString(8 << 20, QLatin1Char('(')));
+    return {{"100,000 fields", repeated(field("City"), 100000)},
+            {"5,000 names", repeated(field("Name"), 5000)},
+            {"5,000 numbers", repeated(field("Number"), 5000)},
+            {"5,000 cards", repeated(field("Card number"), 5000)},
+            {"1,500 long lists", repeated(list, 1500)},
+            {"5,000 patterns", repeated(pattern, 5000)},
+            {"2,000 long fields", repeated(texts, 2000)},
+            {"8 MiB in one text", repeated(one, 1)}};
+}
+
 template <typename Fill>
 void measure(const char *name, const Fill &fill)
 {
@@ -123,5 +162,11 @@ int main()
     measure("whole, login", [&] { return count(fillLoginForms(page, text, text)); });
     measure("whole, card", [&] { return count(fillCardForms(page, card)); });
     measure("whole, identity", [&] { return count(fillIdentityForms(page, identity)); });
+    for (const auto &hostile : hostilePages()) {
+        const QJsonObject &each = hostile.second;
+        measure(hostile.first, [&] {
+            return count(fillCardForms(each, card)) + count(fillIdentityForms(each, identity));
+        });
+    }
     return 0;
 }

@@ -19,6 +19,9 @@ FormField::FormField(const QJsonObject &object)
     , m_autocomplete(text("autocomplete"))
     , m_label(text("label"))
     , m_placeholder(text("placeholder"))
+    , m_ariaLabel(text("ariaLabel"))
+    , m_textBefore(text("textBefore"))
+    , m_tableHead(text("tableHead"))
     , m_maxLength(qBound(0, object.value(QLatin1String("maxlength")).toInt(), longestValue))
     , m_isVisible(flag("visible"))
     , m_hasHints(object.contains(QLatin1String("autocomplete")) ||
@@ -76,7 +79,13 @@ QStringList FormField::attributeAndLabelTexts() const
 
 QStringList FormField::readTexts() const
 {
-    return {label(), text("ariaLabel"), placeholder(), text("textBefore"), text("tableHead")};
+    return {m_label, m_ariaLabel, m_placeholder, m_textBefore, m_tableHead};
+}
+
+int FormField::letters() const
+{
+    return m_name.size() + m_id.size() + m_label.size() + m_ariaLabel.size() +
+           m_placeholder.size() + m_textBefore.size() + m_tableHead.size();
 }
 
 QVector<FormField::Option> FormField::options(int most) const

@@ -48,6 +48,8 @@ public:
     QString pattern() const { return text("pattern"); }
     /// The texts that a person reads at the field, the most telling first.
     QStringList readTexts() const;
+    /// How many letters the texts have that it is read by.
+    int letters() const;
     QString textAfter() const { return text("textAfter"); }
     bool isInSearch() const { return flag("isSearch"); }
     /// Whether the page lets nobody type there.
@@ -85,6 +87,9 @@ private:
     QString m_autocomplete;
     QString m_label;
     QString m_placeholder;
+    QString m_ariaLabel;
+    QString m_textBefore;
+    QString m_tableHead;
     int m_maxLength;
     int m_optionLimit = mostOptions;
     bool m_isVisible;

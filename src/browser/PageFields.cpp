@@ -4,11 +4,12 @@ QVector<FormField> fieldsOf(const QJsonArray &entries, PageLimits &left)
 {
     QVector<FormField> fields;
     fields.reserve(qMin(entries.size(), left.fields));
-    for (int i = 0; i < entries.size() && left.fields > 0; ++i) {
+    for (int i = 0; i < entries.size() && left.fields > 0 && left.letters > 0; ++i) {
         if (!entries.at(i).isObject())
             continue;
         FormField field(entries.at(i).toObject());
         left.options -= field.limitOptions(left.options);
+        left.letters -= field.letters();
         fields.append(field);
         --left.fields;
     }

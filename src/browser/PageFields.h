@@ -11,6 +11,8 @@ struct PageLimits
     int fields = 5000;
     /// The choices of all lists together.
     int options = 10000;
+    /// Of the texts of all fields.
+    int letters = 1000000;
 };
 
 /// The fields of a list as the page reports it, whatever it may hold, as far as the limits go.

@@ -289,6 +289,10 @@ void TestHostilePages::tooMuch_data()
         large.insert(QLatin1String(key), QString(1 << 20, QLatin1Char('(')));
     row("texts", pageOfFields(1, large), 1);
 
+    QJsonObject wordy = field(R"({"label":"City"})");
+    wordy.insert(QStringLiteral("textBefore"), QString(996, QLatin1Char('x')));
+    row("letters", pageOfFields(mostFields, wordy), 1000);
+
     QJsonArray options;
     for (int i = 0; i < 300; ++i)
         options.append(QJsonObject{{QStringLiteral("text"), QStringLiteral("Mrs %1").arg(i)}});
