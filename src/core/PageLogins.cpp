@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <vector>
 
 namespace {
 
@@ -133,23 +134,20 @@ QStringList PageLogins::idsFor(const QString &pageUrl)
     if (!page)
         return {};
     readAll();
-    QVector<PMListItem *> found;
-    for (PMListItem *item : m_bySite.value(page->site())) {
-        if (mayFillLogin(*m_places[item].address, *page))
-            found.append(item);
-    }
+    // Its own host first; made once for each, as there may be many.
+    using Key = std::tuple<bool, QString, QString>;
+    std::vector<Key> found;
     const QString host = plainHost(*page);
-    const auto order = [&](const PMListItem *item) {
-        const Place &place = m_places[const_cast<PMListItem *>(item)];
-        return std::make_tuple(plainHost(*place.address) != host, item->title().toCaseFolded(),
+    for (PMListItem *item : m_bySite.value(page->site())) {
+        const SiteAddress &address = *m_places.constFind(item)->address;
+        if (mayFillLogin(address, *page))
+            found.emplace_back(plainHost(address) != host, item->title().toCaseFolded(),
                                item->id());
-    };
-    std::sort(found.begin(), found.end(), [&](const PMListItem *left, const PMListItem *right) {
-        return order(left) < order(right);
-    });
+    }
+    std::sort(found.begin(), found.end());
     QStringList ids;
-    for (const PMListItem *item : found)
-        ids.append(item->id());
+    for (const Key &key : found)
+        ids.append(std::get<2>(key));
     return ids;
 }
 

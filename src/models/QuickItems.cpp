@@ -7,6 +7,7 @@ namespace {
 
 /// To sort all anew takes less than to move so many of them.
 const int mostMoves = 50;
+const int batch = 60;
 
 bool byTitle(const ItemListModel::Entry *left, const ItemListModel::Entry *right)
 {
@@ -85,6 +86,7 @@ void QuickItems::drop()
 {
     beginResetModel();
     m_rows.clear();
+    m_shown = 0;
     endResetModel();
     m_sorted.clear();
     m_changes = -1;
@@ -116,6 +118,7 @@ void QuickItems::onAboutToBeRemoved(int first, int last)
         return;
     beginResetModel();
     m_rows.clear();
+    m_shown = 0;
     endResetModel();
 }
 
@@ -160,8 +163,7 @@ bool QuickItems::accepts(const Entry *entry) const
 {
     if (entry->traits.deleted || m_taken.contains(entry))
         return false;
-    return m_query.isEmpty() || m_query.matches(entry->traits, entry->searchText(), false,
-                                                m_clock().toLocalTime().date());
+    return m_query.isEmpty() || m_query.matches(entry->traits, entry->searchText(), false, m_today);
 }
 
 void QuickItems::addGroup(Group group, PMListItem::Type kind,
@@ -190,6 +192,8 @@ void QuickItems::refresh()
     beginResetModel();
     m_rows.clear();
     m_taken.clear();
+    // Once: the system looks for its time zone each time.
+    m_today = m_clock().toLocalTime().date();
     std::vector<const Entry *> ofPage;
     for (const QString &id : qAsConst(m_pageIds)) {
         if (const Entry *entry = m_source.entryOf(id))
@@ -203,12 +207,28 @@ void QuickItems::refresh()
             addGroup(Group::All, kind, m_sorted);
     }
     m_stale = false;
+    m_shown = qMin(batch, static_cast<int>(m_rows.size()));
     endResetModel();
 }
 
 int QuickItems::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : m_shown;
+}
+
+bool QuickItems::canFetchMore(const QModelIndex &parent) const
+{
+    return !parent.isValid() && m_shown < static_cast<int>(m_rows.size());
+}
+
+void QuickItems::fetchMore(const QModelIndex &parent)
+{
+    if (!canFetchMore(parent))
+        return;
+    const int more = qMin(batch, static_cast<int>(m_rows.size()) - m_shown);
+    beginInsertRows({}, m_shown, m_shown + more - 1);
+    m_shown += more;
+    endInsertRows();
 }
 
 QVariant QuickItems::data(const QModelIndex &index, int role) const
@@ -261,10 +281,15 @@ int QuickItems::itemRow(int from, int steps) const
     return found;
 }
 
-int QuickItems::rowOf(const QString &id) const
+int QuickItems::rowOf(const QString &id)
 {
     const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&id](const Row &row) {
         return row.entry && row.entry->item->id() == id;
     });
-    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+    if (found == m_rows.end())
+        return -1;
+    const auto row = static_cast<int>(found - m_rows.begin());
+    while (row >= m_shown)
+        fetchMore({});
+    return row;
 }

@@ -12,7 +12,8 @@
 /// The rows of quick access: the items of one kind under headings, those that belong to the page
 /// first, then the most used, then all others; while something is searched for also those of the
 /// other kinds that can be filled. No item stands twice, none of the trash at all. Rows are made
-/// while the model is active and only when something has changed.
+/// while the model is active and only when something has changed; views get them a batch at a time,
+/// as they need time for each.
 class QuickItems : public QAbstractListModel
 {
     Q_OBJECT
@@ -51,13 +52,15 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool canFetchMore(const QModelIndex &parent) const override;
+    void fetchMore(const QModelIndex &parent) override;
 
     /// Null for headings and for what is no row.
     PMListItem *itemAt(int row) const;
     /// The nearest row with an item so many items away, as far as there are some; -1 without any.
     int itemRow(int from, int steps) const;
-    /// -1 when the item is not among the rows.
-    int rowOf(const QString &id) const;
+    /// -1 when the item is not among the rows. Rows up to it are then there for views.
+    int rowOf(const QString &id);
 
 private:
     using Entry = ItemListModel::Entry;
@@ -92,5 +95,7 @@ private:
     int m_changes = -1;                  ///< since all were sorted; -1 when they are to be
     std::vector<const Entry *> m_sorted; ///< all of these kinds by title
     QSet<const Entry *> m_taken;         ///< while rows are made
+    QDate m_today;                       ///< of the rows as they are
     std::vector<Row> m_rows;
+    int m_shown = 0; ///< of the rows, those that views have
 };

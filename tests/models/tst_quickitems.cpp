@@ -140,6 +140,23 @@ private Q_SLOTS:
                  qPrintable(shown(list)));
     }
 
+    void givesViewsABatchAtATime()
+    {
+        for (int i = 0; i < 200; ++i)
+            add(PMListItem::Login, QByteArray::number(1000 + i));
+        ItemListModel items;
+        items.setSafe(m_safe);
+        QuickItems list(items);
+        list.setActive(true);
+        QVERIFY(list.rowCount() < 100);
+        QCOMPARE(list.itemAt(list.rowOf(m_ids.value(QStringLiteral("1150"))))->title(),
+                 QStringLiteral("1150"));
+        while (list.canFetchMore({}))
+            list.fetchMore({});
+        QCOMPARE(list.rowCount(), 201);
+        QCOMPARE(list.rowOf(QStringLiteral("none")), -1);
+    }
+
     void stepsFromItemToItem()
     {
         add(PMListItem::Login, "A", 1);

@@ -18,7 +18,6 @@
 namespace {
 
 const int pageSteps = 6;
-const int allSteps = 1000000;
 
 } // namespace
 
@@ -79,8 +78,6 @@ void QuickList::makeList(SiteIcons &icons)
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
-    // A window of ten rows need not wait for the places of thousands.
-    m_list->setLayoutMode(QListView::Batched);
     connect(m_list, &QListView::clicked, this, [this](const QModelIndex &index) {
         if (const PMListItem *item = m_items.itemAt(index.row()))
             Q_EMIT activated(item->id());
@@ -189,6 +186,8 @@ bool QuickList::step(int key)
 
 void QuickList::choose(int row)
 {
+    if (row + pageSteps >= m_items.rowCount())
+        m_items.fetchMore({});
     const QModelIndex index = m_items.index(row);
     m_list->setCurrentIndex(index);
     // Above the first item of all nothing is to be missed.
