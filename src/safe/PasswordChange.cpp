@@ -1,5 +1,6 @@
 #include "PasswordChange.h"
 
+#include "FormerBytes.h"
 #include "SafeCrypto.h"
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
@@ -81,6 +82,10 @@ PasswordChangeOutcome PasswordChange::rewrite(const WorkControl &control,
         return PasswordChangeOutcome::Cancelled;
     if (!backUpPassId())
         return PasswordChangeOutcome::NotWritten;
+    QVector<ItemFileName> names;
+    for (const Item &item : std::as_const(m_items))
+        names.append(item.oldName);
+    noteFormerBytes(files(), m_safe.folder, names, control);
     // Behind the last item there is no way back any more.
     if (writePassId() && writeItems(control, progress) && !control.isCancelled() &&
         writeNewDescription()) {

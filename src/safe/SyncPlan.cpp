@@ -27,11 +27,11 @@ State stateOf(const SyncVersion &version, const std::optional<SyncItem::Met> &me
     return met->earlier.contains(version.modified) ? State::Outdated : State::Changed;
 }
 
-/// Whether a version lies under the bytes that both sides had: it has been read then, even if it
-/// does not open any more, as one of an earlier password.
+/// Whether a version lies under bytes that both sides had, or this safe before it took another
+/// password: it has been read then, even if it does not open any more.
 bool isKnown(const SyncVersion &version, const SyncItem &item)
 {
-    return item.met && version.hash == item.met->hash;
+    return (item.met && version.hash == item.met->hash) || item.former.contains(version.hash);
 }
 
 bool isUnread(const SyncVersion &version, const SyncItem &item)

@@ -54,6 +54,7 @@ struct SyncItem
     QVector<SyncVersion> mirror;
     std::optional<Met> met;
     std::optional<Deletion> deleted; ///< nothing for a deletion that has lost before
+    QStringList former{}; ///< hashes of bytes that the safe had of it under earlier passwords
 };
 
 struct SyncActions
@@ -101,7 +102,7 @@ struct SyncActions
 ///
 /// Of a file that does not open nothing is known: it may be half of something, or of another
 /// password, and the two cannot be told apart for sure. It is removed only where it has been read
-/// before, as what both sides had, and nothing is ever written over it.
+/// before, as what both sides had or this one, and nothing else is ever written over.
 SyncActions planSync(const SyncItem &item);
 
 /// The id of the copy that keeps a version of an item.

@@ -29,6 +29,7 @@ const QLatin1String sinceKey("since");
 const QLatin1String waitsKey("waits");
 const QLatin1String stuckKey("stuck");
 const QLatin1String earlierPassIdsKey("earlierPassIds");
+const QLatin1String formerKey("former");
 
 const int longestHistory = 32;
 const int mostUnread = 10000;
@@ -56,6 +57,15 @@ SyncHistory readHistory(const QJsonObject &object, QLatin1String key)
             history.append(static_cast<qint64>(time.toDouble()));
     }
     return joined(history, {});
+}
+
+QStringList readTexts(const QJsonValue &list)
+{
+    QStringList texts;
+    const QJsonArray values = list.toArray();
+    for (const QJsonValue &value : values)
+        texts.append(value.toString());
+    return texts;
 }
 
 } // namespace
@@ -123,12 +133,16 @@ QByteArray SyncRecord::toJson() const
                                       {sinceKey, file->since},
                                       {waitsKey, file->waits},
                                       {stuckKey, file->stuck}});
+    QJsonObject formerLists;
+    for (auto each = former.begin(); each != former.end(); ++each)
+        formerLists.insert(each.key(), QJsonArray::fromStringList(each.value()));
     const QJsonObject object{{versionKey, writtenVersion},
                              {filesKey, fileList},
                              {deletedKey, deletedList},
                              {descriptionKey, QString::fromUtf8(description)},
                              {passIdKey, passId},
                              {unreadKey, unreadList},
+                             {formerKey, formerLists},
                              {earlierPassIdsKey, QJsonArray::fromStringList(earlierPassIds)}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
@@ -142,9 +156,10 @@ std::optional<SyncRecord> SyncRecord::fromJson(const QByteArray &json)
     SyncRecord record;
     record.description = object.value(descriptionKey).toString().toUtf8();
     record.passId = object.value(passIdKey).toString();
-    const QJsonArray earlier = object.value(earlierPassIdsKey).toArray();
-    for (const QJsonValue &hash : earlier)
-        record.earlierPassIds.append(hash.toString());
+    record.earlierPassIds = readTexts(object.value(earlierPassIdsKey));
+    const QJsonObject formerLists = object.value(formerKey).toObject();
+    for (auto each = formerLists.begin(); each != formerLists.end(); ++each)
+        record.former.insert(each.key(), readTexts(each.value()));
     const QJsonArray unreadList = object.value(unreadKey).toArray();
     for (const QJsonValue &value : unreadList) {
         const QJsonObject file = value.toObject();

@@ -83,6 +83,9 @@ struct SyncRecord
     QMap<QString, File> files;    ///< by path inside the safe, as "content/<name>"
     QMap<QString, Unread> unread; ///< by name in the mirror's content folder
     Deletions deletions;
+    /// By id: the bytes that the safe's item had under earlier passwords, as hashes, the latest
+    /// last.
+    QMap<QString, QStringList> former;
     QByteArray description;     ///< the safe's description that both sides had, as JSON
     QString passId;             ///< hash of the pass id that both sides had
     QStringList earlierPassIds; ///< and of those before, the latest last
@@ -95,8 +98,8 @@ struct SyncRecord
     bool operator==(const SyncRecord &other) const
     {
         return files == other.files && unread == other.unread && deletions == other.deletions &&
-               description == other.description && passId == other.passId &&
-               earlierPassIds == other.earlierPassIds;
+               former == other.former && description == other.description &&
+               passId == other.passId && earlierPassIds == other.earlierPassIds;
     }
 
     QByteArray toJson() const;

@@ -194,6 +194,7 @@ SyncVersions::Item SyncVersions::read(const QString &id) const
     for (auto file = record.files.lowerBound(prefix);
          file != record.files.end() && file.key().startsWith(prefix); ++file)
         item.plan.met = SyncItem::Met{file->hash, file->modified, file->earlier};
+    item.plan.former = record.former.value(id);
     const auto deletion = record.deletions.find(id);
     if (deletion != record.deletions.end() && deletion->counts())
         item.plan.deleted = SyncItem::Deletion{deletion->time, deletion->seen};

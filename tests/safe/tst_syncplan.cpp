@@ -512,6 +512,9 @@ private Q_SLOTS:
         row("another password there, written without having seen what was met",
             {version(b, 100, 1)}, {unreadable(a), version(c, 300, 1)}, a, 0,
             "c->1 local keep:b rm-mirror:");
+        row("left of the password before", {version(b, 100, 2)},
+            {unreadable(a), unreadable(QStringLiteral("former"), 1)}, a, 0,
+            "b->2 mirror rm-mirror: rm-mirror:.1");
         row("deleted there, under another password here", {version(b, 100, 1)}, {unreadable(a)}, a,
             150, "rm-local:.1 rm-mirror: deleted");
         row("conflict copy, later", {version(a, 100)}, {version(a, 100), beside(b, 200)}, a, 0,
@@ -532,6 +535,7 @@ private Q_SLOTS:
         SyncItem item{itemId, local, mirror, std::nullopt, std::nullopt};
         if (!met.isEmpty())
             item.met = SyncItem::Met{met, 100, {60, 70}};
+        item.former = QStringList{QStringLiteral("former")};
         if (deleted > 0)
             item.deleted = SyncItem::Deletion{deleted, {met == QLatin1String("a") ? 100 : 90}};
         QCOMPARE(textOf(planSync(item)), plan);

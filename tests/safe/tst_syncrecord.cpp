@@ -17,6 +17,7 @@ private Q_SLOTS:
         record.files.insert(QStringLiteral("content/a"),
                             {QStringLiteral("h"), {7, 11}, {7, 13}, 5, {2, 4}});
         record.unread.insert(QStringLiteral("b"), {QStringLiteral("i"), {3, 17}, 9, true, false});
+        record.former.insert(QStringLiteral("a"), {QStringLiteral("j"), QStringLiteral("k")});
         record.setPassId(QStringLiteral("first"));
         record.setPassId(QStringLiteral("second"));
         record.addDeletions({{QStringLiteral("x"), {1600000000123, 0, {8, 1}}}});

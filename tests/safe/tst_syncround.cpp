@@ -157,6 +157,12 @@ private:
         });
     }
 
+    static void changePassword(Computer &computer, const QString &password)
+    {
+        computer.work([&](GPMSafe &safe) { QVERIFY(safe.changePassword(password)); });
+        computer.password = password;
+    }
+
     void meet()
     {
         for (int round = 0; round < 3; ++round) {
@@ -269,21 +275,40 @@ private Q_SLOTS:
         const QString id = add(m_one, QStringLiteral("first"));
         attach(m_one, "some bytes");
         meet();
-        m_one.work([](GPMSafe &safe) { QVERIFY(safe.changePassword(newPassword)); });
-        m_one.password = newPassword;
+        changePassword(m_one, newPassword);
         rename(m_two, id, QStringLiteral("changed meanwhile"));
         QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::Done);
         const QMap<QString, QByteArray> before = snapshot(m_mirror);
         QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::NewPasswordNeeded);
         QCOMPARE(snapshot(m_mirror), before);
-        m_two.work([](GPMSafe &safe) { QVERIFY(safe.changePassword(newPassword)); });
-        m_two.password = newPassword;
+        changePassword(m_two, newPassword);
         meet();
         QCOMPARE(m_one.items(), m_two.items());
         QVERIFY(m_one.items().contains(id + QStringLiteral(" changed meanwhile")));
         QCOMPARE(QDir(inMirror(QStringLiteral("content"))).entryList(QDir::Files).size(), 2);
         QCOMPARE(contentOf(inMirror(QStringLiteral("safe.passid"))),
                  contentOf(m_two.folder + QStringLiteral("/safe.passid")));
+    }
+
+    /// Two computers change the password, and the one whose change is not to count has died in the
+    /// middle of its round: what it left in the mirror opens nowhere.
+    void clearsWhatAnotherPasswordLeft()
+    {
+        const QString id = add(m_one, QStringLiteral("first"));
+        meet();
+        changePassword(m_one, QStringLiteral("not to count 1"));
+        m_one.files->failPath = m_one.folder + QStringLiteral("/safe.sync");
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::SafeNotWritten);
+        m_one.files->failPath.clear();
+        changePassword(m_two, newPassword);
+        writeFile(inMirror(QStringLiteral("safe.passid")),
+                  contentOf(m_two.folder + QStringLiteral("/safe.passid")));
+        QCOMPARE(m_two.synchronise(m_mirror).state, SyncState::Waiting);
+        QCOMPARE(m_one.synchronise(m_mirror).state, SyncState::NewPasswordNeeded);
+        changePassword(m_one, newPassword);
+        meet();
+        QCOMPARE(m_two.items(), QStringList{id + QStringLiteral(" first")});
+        QCOMPARE(QDir(inMirror(QStringLiteral("content"))).entryList(QDir::Files).size(), 1);
     }
 
     void waitsForWholeFiles()
@@ -362,8 +387,7 @@ private Q_SLOTS:
         meet();
         if (deed == QLatin1String("old pass id")) {
             for (Computer *computer : {&m_one, &m_two}) {
-                computer->work([](GPMSafe &safe) { QVERIFY(safe.changePassword(newPassword)); });
-                computer->password = newPassword;
+                changePassword(*computer, newPassword);
                 QCOMPARE(computer->synchronise(m_mirror).state, SyncState::Done);
             }
         }
