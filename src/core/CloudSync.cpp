@@ -1,7 +1,6 @@
 #include "CloudSync.h"
 
 #include "FolderPath.h"
-#include "MirrorRemoval.h"
 #include "SafeCrypto.h"
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
@@ -59,9 +58,14 @@ CloudSync::CloudSync(KnownSafes &safes, std::function<QString()> backupFolder,
     , m_environment(safes.environment())
     , m_backupFolder(std::move(backupFolder))
     , m_pauses(pauses)
+    , m_removal(safes, m_worker)
+    , m_news(2 * pauses.burstMs)
 {
     m_worker.setMaxThreadCount(1);
+    connect(&m_removal, &CloudRemoval::ended, this, &CloudSync::copyRemoved);
+    connect(&m_news, &CloudNews::came, this, &CloudSync::itemsCame);
     connect(&m_facts, &SafeFacts::changed, this, &CloudSync::onFactsChanged);
+    m_removal.resume();
 }
 
 CloudSync::~CloudSync()
@@ -115,6 +119,7 @@ void CloudSync::stopHelper()
     if (m_helper)
         noteMeeting(0);
     m_helper.reset();
+    m_news.drop();
     m_mirrorFolder.clear();
     m_told = CloudStatus::State::Synchronised;
 }
@@ -135,6 +140,8 @@ void CloudSync::onFactsChanged(const QString &safeFolder)
 
 void CloudSync::onLockedChanged(bool locked)
 {
+    if (locked)
+        m_news.drop();
     if (locked && m_helper)
         noteMeeting(0);
     tellChange();
@@ -159,8 +166,7 @@ void CloudSync::onMet(SyncState state)
     const SyncSummary met = m_helper->last();
     if (state == SyncState::Done || state == SyncState::Waiting)
         noteMeeting(met.received + met.removed + met.sent > 0 ? 0 : secondsBetweenNotes);
-    if (met.received + met.removed > 0)
-        Q_EMIT itemsCame(met.received, met.removed);
+    m_news.add(met.received, met.removed);
     tellTrouble();
     tellChange();
 }
@@ -228,15 +234,6 @@ CloudStatus CloudSync::status(const QString &safeFolder) const
     return status;
 }
 
-QStringList CloudSync::safeFolders() const
-{
-    QStringList folders;
-    const QVector<KnownSafes::Entry> entries = m_safes.entries();
-    for (const KnownSafes::Entry &entry : entries)
-        folders.append(entry.folder);
-    return folders + m_facts.folders();
-}
-
 QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
 {
     QStringList mirrors;
@@ -251,8 +248,12 @@ QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
 
 void CloudSync::turnOn(const QString &safeFolder, const QString &sharedFolder)
 {
-    const MirrorChoice::Wish wish{
-        safeFolder, 0, sharedFolder, m_backupFolder(), mirrorsOfOthers(safeFolder), safeFolders()};
+    const MirrorChoice::Wish wish{safeFolder,
+                                  0,
+                                  sharedFolder,
+                                  m_backupFolder(),
+                                  mirrorsOfOthers(safeFolder),
+                                  m_removal.safeFolders()};
     const SafeEnvironment environment = m_environment;
     const auto prepare = [wish, environment] {
         MirrorChoice::Wish known = wish;
@@ -278,6 +279,7 @@ void CloudSync::join(const QString &safeFolder, const QString &mirrorFolder)
 {
     m_facts.change(safeFolder, [&mirrorFolder](SafeFact &fact) {
         fact.mirrorFolder = mirrorFolder;
+        fact.leavingFolder.clear();
         fact.lastSynchronised = {};
     });
 }
@@ -287,40 +289,30 @@ void CloudSync::turnOff(const QString &safeFolder, bool removeCopy)
     const QString mirror = m_facts.of(safeFolder).mirrorFolder;
     if (mirror.isEmpty())
         return;
-    const auto description = readDescription(files(), safeFolder);
     const bool isMeeting = isCurrent(safeFolder) && m_helper && m_helper->isRunning();
+    const bool removes = removeCopy && m_removal.note(safeFolder, mirror);
     m_facts.change(safeFolder, [](SafeFact &fact) {
         fact.mirrorFolder.clear();
         fact.lastSynchronised = {};
     });
-    if (removeCopy && description) {
-        if (isMeeting)
-            removeWhenMet(mirror, description->created);
-        else
-            removeCopyOf(mirror, description->created);
-    }
+    if (removes && isMeeting)
+        removeWhenMet(safeFolder);
+    else if (removes)
+        m_removal.begin(safeFolder);
     Q_EMIT turnedOff(safeFolder);
 }
 
-void CloudSync::removeWhenMet(const QString &mirrorFolder, qint64 created)
+void CloudSync::removeWhenMet(const QString &safeFolder)
 {
     // The meeting under way would put back what was removed.
     auto *waiting = new QObject(this);
-    const auto remove = [this, waiting, mirrorFolder, created, safe = m_safe] {
+    const auto remove = [this, waiting, safeFolder, safe = m_safe] {
         safe->disconnect(waiting);
         waiting->deleteLater();
-        removeCopyOf(mirrorFolder, created);
+        m_removal.begin(safeFolder);
     };
     connect(m_safe.get(), &GPMSafe::mirrorMet, waiting, remove);
     connect(m_safe.get(), &GPMSafe::lockedChanged, waiting, remove);
-}
-
-void CloudSync::removeCopyOf(const QString &mirrorFolder, qint64 created)
-{
-    const std::shared_ptr<FileLayer> files = m_environment.files;
-    const QStringList safes = safeFolders();
-    work<bool>([=] { return removeMirror(*files, mirrorFolder, created, safes); },
-               [=](bool good) { Q_EMIT copyRemoved(mirrorFolder, good); });
 }
 
 void CloudSync::finish()

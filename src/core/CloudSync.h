@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CloudNews.h"
+#include "CloudRemoval.h"
 #include "CloudStatus.h"
 #include "GPMSafeSyncHelper.h"
 #include "KnownSafes.h"
@@ -38,8 +40,8 @@ public:
     /// The same with a mirror that is known to be that of the safe.
     void join(const QString &safeFolder, const QString &mirrorFolder);
 
-    /// Stops mirroring a safe. Its copy in the cloud folder stays, or is removed behind this;
-    /// copyRemoved() tells then.
+    /// Stops mirroring a safe. Its copy in the cloud folder stays, or is removed behind this, if
+    /// need be with the next start of the program; copyRemoved() tells then.
     void turnOff(const QString &safeFolder, bool removeCopy);
 
     /// Waits until what is being removed is gone, as before the program ends; not for ever.
@@ -70,6 +72,7 @@ Q_SIGNALS:
     void turnedOff(const QString &safeFolder);
     void copyRemoved(const QString &mirrorFolder, bool good);
     /// Items of the current safe came from the mirror, or have gone as they were deleted elsewhere.
+    /// Once for all that come together.
     void itemsCame(int received, int removed);
     /// The current safe needs the password that its mirror has. Once for each.
     void passwordNeeded();
@@ -81,7 +84,6 @@ Q_SIGNALS:
 private:
     template <typename Result>
     void work(const std::function<Result()> &job, const std::function<void(const Result &)> &then);
-    QStringList safeFolders() const;
     QStringList mirrorsOfOthers(const QString &safeFolder) const;
     bool isCurrent(const QString &safeFolder) const;
     void startHelper();
@@ -94,8 +96,7 @@ private:
     void noteMeeting(int afterSeconds);
     void tellTrouble();
     void tellChange();
-    void removeWhenMet(const QString &mirrorFolder, qint64 created);
-    void removeCopyOf(const QString &mirrorFolder, qint64 created);
+    void removeWhenMet(const QString &safeFolder);
     void changePassword(const SecretBytes &password);
     void onPasswordChanged(PasswordChangeOutcome outcome);
 
@@ -114,6 +115,8 @@ private:
     bool m_isTaking = false;                                      ///< a password
     CloudStatus::State m_told = CloudStatus::State::Synchronised; ///< the last trouble
     QThreadPool m_worker; ///< one thread, so that what is asked for keeps its order
+    CloudRemoval m_removal;
+    CloudNews m_news;
 };
 
 Q_DECLARE_METATYPE(CloudSync::Taking)

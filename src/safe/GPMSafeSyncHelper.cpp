@@ -4,7 +4,6 @@
 #include "SyncMirror.h"
 
 #include <QDebug>
-#include <QFileInfo>
 
 #include <utility>
 
@@ -21,10 +20,7 @@ GPMSafeSyncHelper::GPMSafeSyncHelper(std::shared_ptr<GPMSafe> safe, const QStrin
     m_again.setSingleShot(true);
     connect(&m_burst, &QTimer::timeout, this, &GPMSafeSyncHelper::synchronize);
     connect(&m_again, &QTimer::timeout, this, &GPMSafeSyncHelper::synchronize);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this,
-            &GPMSafeSyncHelper::onMirrorChanged);
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this,
-            &GPMSafeSyncHelper::onMirrorChanged);
+    connect(&m_watch, &FolderWatch::changed, this, &GPMSafeSyncHelper::onMirrorChanged);
     connect(m_safe.get(), &GPMSafe::lockedChanged, this, &GPMSafeSyncHelper::onLockedChanged);
     connect(m_safe.get(), &GPMSafe::saved, this, &GPMSafeSyncHelper::synchronize);
     connect(m_safe.get(), &GPMSafe::passwordChangeFinished, this, &GPMSafeSyncHelper::synchronize);
@@ -58,7 +54,9 @@ void GPMSafeSyncHelper::synchronize()
         return;
     }
     m_onceMore = false;
-    watch();
+    const SafeFolder mirror(m_mirrorFolder);
+    m_watch.watch(
+        {mirror.root(), mirror.path(SafeLayout::content), mirror.path(SafeLayout::attachment)});
     m_told = m_deleted;
     m_isRunning = m_safe->meetMirror(m_mirrorFolder, m_told);
     const bool isFirstPart = m_counted.time.isNull();
@@ -75,8 +73,7 @@ void GPMSafeSyncHelper::pause()
     m_onceMore = false;
     m_counted = {};
     m_safe->cancelMeeting();
-    if (!m_watcher.directories().isEmpty())
-        m_watcher.removePaths(m_watcher.directories());
+    m_watch.stop();
 }
 
 void GPMSafeSyncHelper::onLockedChanged(bool locked)
@@ -134,7 +131,7 @@ void GPMSafeSyncHelper::onFinished(const SyncResult &result)
     if (m_last.state == SyncState::Done || m_last.state == SyncState::Waiting)
         m_lastMet = m_last.time;
     if (result.state == SyncState::NewPasswordNeeded)
-        askForPassword();
+        askForPassword(result.otherPassId);
     if (!m_isPaused)
         m_again.start(m_pauses.againMs);
     Q_EMIT synchronized(result.state);
@@ -157,22 +154,8 @@ void GPMSafeSyncHelper::count(const SyncResult &result)
     }
 }
 
-void GPMSafeSyncHelper::watch()
+void GPMSafeSyncHelper::askForPassword(const QByteArray &passId)
 {
-    const SafeFolder mirror(m_mirrorFolder);
-    const QStringList watched = m_watcher.directories();
-    for (const QString &folder :
-         {mirror.root(), mirror.path(SafeLayout::content), mirror.path(SafeLayout::attachment)}) {
-        if (!watched.contains(folder) && QFileInfo(folder).isDir())
-            m_watcher.addPath(folder);
-    }
-}
-
-void GPMSafeSyncHelper::askForPassword()
-{
-    const QByteArray passId =
-        m_environment.files->read(SafeFolder(m_mirrorFolder).path(SafeLayout::passId))
-            .value_or(QByteArray());
     if (passId == m_askedFor)
         return;
     m_askedFor = passId;

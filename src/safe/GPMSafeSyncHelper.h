@@ -1,10 +1,10 @@
 #pragma once
 
+#include "FolderWatch.h"
 #include "GPMSafe.h"
 #include "SyncRound.h"
 #include "SyncSummary.h"
 
-#include <QFileSystemWatcher>
 #include <QMap>
 #include <QObject>
 #include <QTimer>
@@ -67,14 +67,13 @@ private:
     void onFinished(const SyncResult &result);
     bool goesOn(const SyncResult &result) const;
     void count(const SyncResult &result);
-    void watch();
-    void askForPassword();
+    void askForPassword(const QByteArray &passId);
 
     std::shared_ptr<GPMSafe> m_safe;
     QString m_mirrorFolder;
     SafeEnvironment m_environment;
     Pauses m_pauses;
-    QFileSystemWatcher m_watcher;
+    FolderWatch m_watch;
     QTimer m_burst;
     QTimer m_again;
     SyncRecord::Deletions m_deleted; ///< since the last meeting that ended well

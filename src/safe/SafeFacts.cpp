@@ -17,6 +17,7 @@ const QLatin1String createdKey("created");
 const QLatin1String lastOpenedKey("last_opened");
 const QLatin1String itemCountKey("item_count");
 const QLatin1String mirrorFolderKey("mirror_folder");
+const QLatin1String leavingFolderKey("leaving_folder");
 const QLatin1String lastSynchronisedKey("last_synchronised");
 const QLatin1String hiddenKey("hidden");
 
@@ -38,6 +39,7 @@ QJsonObject toObject(const SafeFact &fact)
             {lastOpenedKey, momentText(fact.lastOpened)},
             {itemCountKey, fact.itemCount},
             {mirrorFolderKey, fact.mirrorFolder},
+            {leavingFolderKey, fact.leavingFolder},
             {lastSynchronisedKey, momentText(fact.lastSynchronised)},
             {hiddenKey, fact.isHidden}};
 }
@@ -50,6 +52,7 @@ SafeFact toFact(const QJsonObject &object)
     fact.lastOpened = momentOf(object.value(lastOpenedKey));
     fact.itemCount = object.value(itemCountKey).toInt(fact.itemCount);
     fact.mirrorFolder = object.value(mirrorFolderKey).toString();
+    fact.leavingFolder = object.value(leavingFolderKey).toString();
     fact.lastSynchronised = momentOf(object.value(lastSynchronisedKey));
     fact.isHidden = object.value(hiddenKey).toBool();
     return fact;
@@ -70,7 +73,8 @@ bool SafeFact::operator==(const SafeFact &other) const
 {
     return name == other.name && created == other.created && lastOpened == other.lastOpened &&
            itemCount == other.itemCount && mirrorFolder == other.mirrorFolder &&
-           lastSynchronised == other.lastSynchronised && isHidden == other.isHidden;
+           leavingFolder == other.leavingFolder && lastSynchronised == other.lastSynchronised &&
+           isHidden == other.isHidden;
 }
 
 SafeFacts::SafeFacts(const QString &filePath, std::shared_ptr<FileLayer> files, QObject *parent)

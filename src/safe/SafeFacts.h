@@ -21,8 +21,9 @@ struct SafeFact
     QString name;       ///< when it was last seen, for a safe whose folder has gone
     qint64 created = 0; ///< in ms since the epoch, to know it again; 0: not known
     QDateTime lastOpened;
-    int itemCount = -1;   ///< without the trash, when the safe was last open; -1: not known
-    QString mirrorFolder; ///< empty: not synchronised
+    int itemCount = -1;    ///< without the trash, when the safe was last open; -1: not known
+    QString mirrorFolder;  ///< empty: not synchronised
+    QString leavingFolder; ///< a former mirror that is being removed
     QDateTime lastSynchronised;
     bool isHidden = false; ///< taken off the list although it lies in the standard place
 

@@ -93,7 +93,7 @@ bool SyncHeader::replacesPassword() const
     return m_passId == PassId::Send && QFileInfo::exists(m_work.mirror.path(SafeLayout::passId));
 }
 
-SyncHeader::PassId SyncHeader::comparePassIds() const
+SyncHeader::PassId SyncHeader::comparePassIds()
 {
     const QString path = m_work.mirror.path(SafeLayout::passId);
     const auto mirror = readPlainFile(m_work.files(), path);
@@ -113,6 +113,8 @@ SyncHeader::PassId SyncHeader::comparePassIds() const
     const bool isEarlier = hash == m_work.record.passId ||
                            m_work.record.earlierPassIds.contains(hash) ||
                            mirror == m_work.files().read(safe.path(SafeLayout::passIdBackup));
+    if (!isEarlier)
+        m_work.result.otherPassId = *mirror;
     return isEarlier ? PassId::Send : PassId::Other;
 }
 

@@ -25,7 +25,7 @@ public:
 private:
     enum class PassId { Equal, Take, Send, Other, Arriving };
 
-    PassId comparePassIds() const;
+    PassId comparePassIds();
     bool readDeletions();
     bool syncPassId();
     bool syncDescription();

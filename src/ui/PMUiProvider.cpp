@@ -189,7 +189,7 @@ void PMUiProvider::connectSafeDesk(MainView &view)
     connect(window, &SecureWindow::importRequested, m_safeDesk.get(), &SafeDesk::importArchive);
     connect(m_sideWindows.get(), &SideWindows::restoreRequested, window,
             [this, window](const QString &archive) {
-                m_safeDesk->archives().importFrom(archive, window);
+                m_safeDesk->archives().restore(archive, window);
             });
     const SafeMenu &menu = view.safeMenu();
     connect(&menu, &SafeMenu::safesRequested, m_safeDesk.get(), &SafeDesk::openList);

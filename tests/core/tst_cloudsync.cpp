@@ -43,6 +43,16 @@ public:
     }
 };
 
+void copyFiles(const QString &from, const QString &to)
+{
+    const QMap<QString, QByteArray> files = snapshot(from);
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        const QString path = to + QLatin1Char('/') + file.key();
+        QDir().mkpath(QFileInfo(path).path());
+        writeFile(path, file.value());
+    }
+}
+
 /// What one computer has: its own settings and safes, and a cloud folder that it shares.
 struct Computer
 {
@@ -152,11 +162,11 @@ private Q_SLOTS:
         QSignalSpy came(&m_two->sync, &CloudSync::itemsCame);
         const QString id = m_one->add(QStringLiteral("first"));
         QTRY_COMPARE_WITH_TIMEOUT(m_two->title(id), QStringLiteral("first"), quickly);
-        QCOMPARE(came.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(came.count(), 1, quickly);
         QCOMPARE(came.first(), (QVariantList{1, 0}));
         QVERIFY(m_one->safe->removeItems({id}));
         QTRY_VERIFY_WITH_TIMEOUT(!m_two->safe->item(id), quickly);
-        QCOMPARE(came.last(), (QVariantList{0, 1}));
+        QTRY_COMPARE_WITH_TIMEOUT(came.last(), (QVariantList{0, 1}), quickly);
         QVERIFY(m_one->sync.status().last.isValid());
 
         // Known at the next start, too.
@@ -167,18 +177,28 @@ private Q_SLOTS:
         QVERIFY(facts.of(folder).lastSynchronised.isValid());
     }
 
+    void tellsOnceOfWhatComesInPortions()
+    {
+        CloudNews news(0);
+        QSignalSpy came(&news, &CloudNews::came);
+        news.add(2, 0);
+        news.add(3, 1);
+        QTRY_COMPARE_WITH_TIMEOUT(came.count(), 1, quickly);
+        QCOMPARE(came.first(), (QVariantList{5, 1}));
+        news.add(1, 0);
+        news.drop();
+        news.add(0, 0);
+        QVERIFY(!came.wait(0));
+    }
+
     /// The same safe came to the other computer by another way than the cloud folder.
     void joinsTheMirrorThatIsThere()
     {
         m_one->create();
         const QString first = m_one->add(QStringLiteral("first"));
         QVERIFY(m_one->safe->saveChanges());
-        const QMap<QString, QByteArray> files = snapshot(m_one->safe->folder());
         const QString copy = path("two/copied");
-        for (auto file = files.begin(); file != files.end(); ++file) {
-            QVERIFY(QDir().mkpath(QFileInfo(copy + QLatin1Char('/') + file.key()).path()));
-            writeFile(copy + QLatin1Char('/') + file.key(), file.value());
-        }
+        copyFiles(m_one->safe->folder(), copy);
         QVERIFY(QDir(copy).mkpath(QStringLiteral("attachment")));
         const QString second = m_one->add(QStringLiteral("second"));
         const MirrorChoice made = m_one->turnOn();
@@ -340,6 +360,35 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(m_mirror));
         QVERIFY(m_one->safe->item(id) && !m_two->safe->item(id));
         QCOMPARE(m_one->state(), State::Off);
+    }
+
+    /// The program ended, or its computer, in the middle of the removal.
+    void removesAtTheNextStartWhatTheEndCutOff_data()
+    {
+        QTest::addColumn<bool>("used");
+        QTest::newRow("nobody wants it") << false;
+        QTest::newRow("mirrored there again") << true;
+    }
+
+    void removesAtTheNextStartWhatTheEndCutOff()
+    {
+        QFETCH(const bool, used);
+        share();
+        const QString folder = m_one->safe->folder();
+        const QString away = path("away");
+        copyFiles(m_mirror, away);
+        m_one->sync.turnOff(folder, true);
+        m_one->sync.finish();
+        m_one.reset();
+        copyFiles(away, m_mirror);
+        QVERIFY(QFile::remove(m_mirror + QStringLiteral("/safe.passid")));
+        if (used) {
+            SafeFacts facts(path("one/safes.json"));
+            facts.change(folder, [this](SafeFact &fact) { fact.mirrorFolder = m_mirror; });
+        }
+        m_one = std::make_unique<Computer>(path("one"), path("cloud"));
+        m_one->sync.finish();
+        QCOMPARE(QFileInfo::exists(m_mirror), used);
     }
 
     void findsFoldersAndSafesOfBothAccounts()

@@ -87,18 +87,23 @@ void ArchiveDesk::importArchive(QWidget *above)
     const QString path =
         m_ways.choose.openFile(tr("Open GPM file on your computer"), tr("GPM file (*.gpm)"));
     if (!path.isEmpty())
-        importFrom(path, parent);
+        takeIn(path, tr("Import safe"), tr("Importing “%1”…"), parent);
 }
 
-void ArchiveDesk::importFrom(const QString &archivePath, QWidget *above)
+void ArchiveDesk::restore(const QString &archivePath, QWidget *above)
+{
+    takeIn(archivePath, tr("Restore backup"), tr("Restoring “%1”…"), above);
+}
+
+void ArchiveDesk::takeIn(const QString &archivePath, const QString &title, const QString &doing,
+                         QWidget *above)
 {
     if (m_importing && m_importing->isRunning()) {
         m_importing->raise();
         return;
     }
     const QString fileName = QFileInfo(archivePath).fileName();
-    ProgressDialog *progress =
-        showProgress(tr("Import safe"), tr("Importing “%1”…").arg(fileName), above);
+    ProgressDialog *progress = showProgress(title, doing.arg(fileName), above);
     m_importing = progress;
     connect(&m_core, &GPMAppCore::importProgress, progress, &ProgressDialog::setProgress);
     connect(progress, &ProgressDialog::cancelRequested, &m_core, &GPMAppCore::cancelImport);

@@ -35,7 +35,8 @@ public:
     void exportSafe(const QString &folder, const QString &name, QWidget *above);
     /// Asks for an archive and makes a safe from it. When none is open, the new one is chosen.
     void importArchive(QWidget *above);
-    void importFrom(const QString &archivePath, QWidget *above);
+    /// Makes a safe from a backup in the same way.
+    void restore(const QString &archivePath, QWidget *above);
 
     /// The name proposed for the archive of a safe.
     static QString archiveName(const QString &safeName, const QDateTime &now);
@@ -46,6 +47,8 @@ Q_SIGNALS:
 
 private:
     ProgressDialog *showProgress(const QString &title, const QString &text, QWidget *above);
+    void takeIn(const QString &archivePath, const QString &title, const QString &doing,
+                QWidget *above);
     void tellExported(const ArchiveResult &result, const QString &name, ProgressDialog &progress);
     void tellImported(const ArchiveResult &result, const QString &fileName,
                       ProgressDialog &progress);
