@@ -2,17 +2,20 @@
 
 #include <QRegularExpression>
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
 
-/// One a place that the extension comes from: the store of each kind of browser gives its own id.
-const QLatin1String knownOrigins[] = {
-    QLatin1String("chrome-extension://ieciiloegilkonbpcplcagbpkoohnoib"), // the key in the manifest
-};
+const QLatin1String chromiumScheme("chrome-extension://");
 
 } // namespace
+
+const QStringList &knownExtensionIds()
+{
+    // One a place that the extension comes from: each store gives an id of its own.
+    static const QStringList ids{
+        QStringLiteral("ieciiloegilkonbpcplcagbpkoohnoib"), // by the key in the manifest
+    };
+    return ids;
+}
 
 OriginTrust originTrust(const QString &origin)
 {
@@ -20,8 +23,9 @@ OriginTrust originTrust(const QString &origin)
         "\\Amoz-extension://[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}\\z"));
     if (origin.isEmpty())
         return OriginTrust::Known;
-    if (std::find(std::begin(knownOrigins), std::end(knownOrigins), origin) !=
-        std::end(knownOrigins))
-        return OriginTrust::Known;
+    if (origin.startsWith(chromiumScheme))
+        return knownExtensionIds().contains(origin.mid(chromiumScheme.size()))
+                   ? OriginTrust::Known
+                   : OriginTrust::Refused;
     return random.match(origin).hasMatch() ? OriginTrust::ToBeApproved : OriginTrust::Refused;
 }

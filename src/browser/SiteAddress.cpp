@@ -29,6 +29,15 @@ bool isReadAlikeByAll(const QString &address)
     });
 }
 
+/// An address of another kind before which a scheme was put, as "http://ftp://bank.example": what
+/// stands for the host there is none.
+bool hasSecondScheme(const QString &address)
+{
+    static const QRegularExpression pattern(QStringLiteral("^https?://[a-z][a-z0-9+.-]*://"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(address).hasMatch();
+}
+
 /// A name that ends so is a mistyped IP address to a browser.
 bool isNumber(const QString &label)
 {
@@ -80,7 +89,7 @@ QString SiteAddress::withScheme(const QString &address)
 std::optional<SiteAddress> SiteAddress::parse(const QString &address)
 {
     const QString site = upToPath(address);
-    if (!isReadAlikeByAll(site))
+    if (!isReadAlikeByAll(site) || hasSecondScheme(address))
         return std::nullopt;
     const QUrl url(site, QUrl::StrictMode);
     if (!url.isValid())

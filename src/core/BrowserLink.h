@@ -25,6 +25,7 @@ public:
                 QObject *parent = nullptr);
 
     GPMWebSocketServer &server() { return m_server; }
+    const GPMWebSocketServer &server() const { return m_server; }
     FormFillFlow &flow() { return m_flow; }
     bool hasExtension() const { return m_server.hasConnections(); }
 

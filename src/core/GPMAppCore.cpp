@@ -24,6 +24,13 @@ GPMAppCore::Places standardPlaces()
     return places;
 }
 
+BrowserPlaces systemBrowsers(Platform &platform)
+{
+    return BrowserPlaces::system([&platform](const QString &key) {
+        return QString::fromStdString(platform.currentUserRegistryValue(key.toStdString(), {}));
+    });
+}
+
 SafeEnvironment safeEnvironment(const QString &dataFolder)
 {
     SafeEnvironment environment;
@@ -40,6 +47,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     , m_linkSettings(places.configFolder + QStringLiteral("/browser.json"))
     , m_approvals(m_linkSettings)
     , m_siteIcons(m_linkSettings)
+    , m_browsers(places.browsers ? *places.browsers : systemBrowsers(*m_platform))
     , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
                    safeEnvironment(places.dataFolder))
     , m_trace(m_knownSafes)

@@ -4,6 +4,7 @@
 #include "ArchiveTask.h"
 #include "Backups.h"
 #include "BrowserLink.h"
+#include "BrowserWatch.h"
 #include "ClipboardKeeper.h"
 #include "CloudFolders.h"
 #include "CloudSync.h"
@@ -29,6 +30,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 /// The application's controller: owns the current safe, the browser link and the settings, and
 /// hands each command on to the part that does the work.
@@ -48,6 +50,7 @@ public:
         std::function<std::unique_ptr<UserActivity>()> activity = &makeUserActivity;
         QStringList cloudInfoFiles = providerInfoFiles(); ///< where the cloud folder is told of
         GPMSafeSyncHelper::Pauses cloudPauses = {};
+        std::optional<BrowserPlaces> browsers = {}; ///< those of the system when left out
     };
 
     explicit GPMAppCore(const Places &places, QObject *parent = nullptr);
@@ -82,6 +85,8 @@ public:
     /// Offers to save what the user types into pages.
     LoginSaving &loginSaving() { return m_loginSaving; }
 
+    /// The browsers of this computer.
+    BrowserWatch &browsers() { return m_browsers; }
     /// Fetches the icons of web sites.
     SiteIconDesk &siteIcons() { return m_siteIcons; }
     /// What the user decided about browsers.
@@ -97,6 +102,11 @@ public:
 
     /// Whether a browser's extension is connected, which can be asked to fill.
     bool hasExtension() const { return m_link && m_link->hasExtension(); }
+    /// For which browsers the connected extension was built; empty while none is.
+    QString extensionBundle() const
+    {
+        return hasExtension() ? m_link->server().extensionBundleId() : QString();
+    }
 
     /// Makes a safe and opens it. False, with nothing left behind, when it cannot be made.
     /// @param folder an empty or a new one; one in the standard place when it is left out
@@ -234,6 +244,7 @@ private:
     LinkSettings m_linkSettings;
     OriginApprovals m_approvals;
     SiteIconDesk m_siteIcons;
+    BrowserWatch m_browsers;
     KnownSafes m_knownSafes;
     OpenSafeTrace m_trace;
     Backups m_backups;

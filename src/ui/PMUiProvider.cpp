@@ -89,6 +89,7 @@ void PMUiProvider::makeFirstRun()
     };
     m_firstRun =
         std::make_unique<FirstRun>(m_core, m_settings, *m_theme, m_translator, chooseLanguage);
+    m_firstRun->setPluginParts([this] { return m_sideWindows->pluginParts(); });
     connect(m_firstRun.get(), &FirstRun::cloudImportRequested, m_cloud.get(),
             &CloudDesk::openImport);
 }

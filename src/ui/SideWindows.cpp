@@ -4,6 +4,8 @@
 #include "RandomSource.h"
 #include "backups/BackupRow.h"
 #include "browsers/ApprovalsPanel.h"
+#include "browsers/InstallSteps.h"
+#include "style/Style.h"
 #include "widgets/Controls.h"
 
 #include <utility>
@@ -118,7 +120,22 @@ QWidget *SideWindows::makePasswordRow(QWidget *parent)
 
 QWidget *SideWindows::makeBrowserPanel(QWidget *parent)
 {
-    return new ApprovalsPanel(m_core.approvals(), parent);
+    auto *panel = new QWidget(parent);
+    auto *column = new QVBoxLayout(panel);
+    column->setContentsMargins({});
+    column->setSpacing(Style::margin);
+    column->addWidget(new PluginsPage(pluginParts(), panel));
+    column->addWidget(new ApprovalsPanel(m_core.approvals(), panel));
+    return panel;
+}
+
+PluginsPage::Parts SideWindows::pluginParts()
+{
+    const auto install = [this](const BrowserInfo &browser, QWidget *owner) {
+        const auto copy = [this](const QString &text) { m_core.clipboard().copy(text, false); };
+        installExtension(browser, InstallWays::system(copy), m_theme, owner);
+    };
+    return {m_core.browsers(), [this] { return m_core.extensionBundle(); }, install};
 }
 
 void SideWindows::openChangePassword()

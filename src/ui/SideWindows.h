@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backups/RestoreDialog.h"
+#include "browsers/PluginsPage.h"
 #include "dialogs/PasswordChangeDesk.h"
 #include "dialogs/PasswordGeneratorDialog.h"
 #include "dialogs/RecentPasswords.h"
@@ -38,6 +39,8 @@ public:
     QWidget *makeBackupRow(QWidget *parent);
     /// What leads from the settings to another master password.
     QWidget *makePasswordRow(QWidget *parent);
+    /// What pages about the browsers need.
+    PluginsPage::Parts pluginParts();
     /// What the settings show of browsers.
     QWidget *makeBrowserPanel(QWidget *parent);
 

@@ -119,6 +119,8 @@ void TestSiteAddress::mayFill_data()
     row("https://www.bank.example", "https://login.bank.example/", true);
     row("https://bank.example", "https://bank.example:8443/", true);
     row("https://BANK.example", "https://bank.example./", true);
+    row("https://ana:pw@WWW.bank.example.:443/a?b#c", "https://bank.example/", true);
+    row(u8"https://xn--bcher-kva.example", u8"https://BÜCHER.example./", true);
     row("bank.example", "http://bank.example/", true);
     row("bank.example", "https://bank.example/", true);
     row("http://bank.example", "https://bank.example/", true);
@@ -162,6 +164,10 @@ void TestSiteAddress::mayFill_data()
     row("router", "http://router/", true);
     row("router", "http://router:8080/", false);
     row("router", "http://nas/", false);
+
+    row("ftp://bank.example", "http://ftp/", false);
+    row("ftp://bank.example", "http://bank.example/", false);
+    row("javascript://bank.example", "http://javascript/", false);
 
     row("https://bank.example", "", false);
     row("https://bank.example", "bank.example", false);

@@ -9,6 +9,7 @@
 #include "WindowChecks.h"
 #include "attachments/AttachmentPreview.h"
 #include "attachments/RenameDialog.h"
+#include "browsers/InstallSteps.h"
 #include "cloud/CloudPasswordDialog.h"
 #include "dialogs/ProgressDialog.h"
 #include "lock/PagesStack.h"
@@ -312,7 +313,8 @@ Show wizardStep(const char *id)
         const auto row = [&](const char *name, const QString &title, const auto &make) {
             return WizardStep{name, title, QString(), always, make};
         };
-        ExtensionPage::Parts parts{extensionFolder, [] { return false; }, [](const QString &) {}};
+        const PluginsPage::Parts parts{stage.test.core.browsers(), [] { return QString(); },
+                                       [](const BrowserInfo &, QWidget *) {}};
         auto *wizard = new SetupWizard(
             {row("safe", FirstRun::tr("Create a safe"),
                  [&stage](QWidget *parent) {
@@ -328,6 +330,7 @@ Show wizardStep(const char *id)
                  [](QWidget *parent) { return new ReadyPage(parent); })},
             stage.theme, stage.main);
         wizard->goTo(QLatin1String(id));
+        stage.findBrowsers();
         return shownBeside(stage, wizard);
     };
 }
@@ -641,6 +644,29 @@ QWidget *Stage::window(const char *name) const
     return nullptr;
 }
 
+void Stage::findBrowsers()
+{
+    const QByteArray entry =
+        R"({"extensions":{"settings":{"ieciiloegilkonbpcplcagbpkoohnoib":{"manifest":)"
+        R"({"name":"Glaceron Password Manager","version":"1.1.32"}}}}})";
+    const QString path = test.folder.path();
+    for (const char *folder : {"/usr/bin", "/home/.config/chromium/Default"})
+        QDir().mkpath(path + QLatin1String(folder));
+    FileLayer files;
+    files.writeBytes(path + QStringLiteral("/usr/bin/chromium"), "x");
+    files.writeBytes(path + QStringLiteral("/usr/bin/firefox"), "x");
+    files.writeBytes(path + QStringLiteral("/home/.config/chromium/Default/Preferences"), entry);
+    BrowserWatch &watch = test.core.browsers();
+    const auto found = [&watch] { return watch.browsers().size() == 2; };
+    // A search that runs already may not have seen them.
+    while (!found()) {
+        QSignalSpy changed(&watch, &BrowserWatch::changed);
+        watch.look();
+        if (!changed.wait())
+            qFatal("The browsers are not found");
+    }
+}
+
 void Stage::fillSafe()
 {
     GPMAppCore &core = test.core;
@@ -769,6 +795,25 @@ QWidget *approval(Stage &stage)
                : nullptr;
 }
 
+QWidget *browserSettings(Stage &stage)
+{
+    QWidget *settings = settingsPage(2)(stage);
+    stage.findBrowsers();
+    return settings;
+}
+
+Show installSteps(const char *kind, const char *name)
+{
+    return [kind, name](Stage &stage) {
+        BrowserInfo browser;
+        browser.kind = QLatin1String(kind);
+        browser.name = QLatin1String(name);
+        InstallWays ways;
+        ways.folder = [](bool) { return extensionFolder; };
+        return shownBeside(stage, new InstallSteps(browser, ways, stage.theme, stage.main));
+    };
+}
+
 QWidget *cloudPassword(Stage &stage)
 {
     auto *dialog = new CloudPasswordDialog(
@@ -831,7 +876,7 @@ const QVector<WindowCase> &everyWindow()
         {"attachment-rename", renameDialog},
         {"settings-general", settingsPage(0)},
         {"settings-security", settingsPage(1)},
-        {"settings-browser", settingsPage(2)},
+        {"settings-browser", browserSettings},
         {"settings-backup", backupSettings},
         {"restore", restoreList},
         {"restored", restored},
@@ -865,6 +910,8 @@ const QVector<WindowCase> &everyWindow()
         {"save-login-locked", savedLogin("https://studio.example/in", "Design Tools", "ana"),
          Stage::Locked},
         {"question", question},
+        {"install-steps", installSteps("chromium", "Chromium")},
+        {"install-steps-firefox", installSteps("firefox", "Firefox")},
         {"approval", approval},
         {"quick-access", quickAccess(Section::Logins)},
         {"quick-access-cards", quickAccess(Section::Cards)},

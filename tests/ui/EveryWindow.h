@@ -50,6 +50,8 @@ public:
     void press(const char *button);
     /// The window beside the main one that is shown; null when there is none.
     QWidget *window(const char *name) const;
+    /// Lets the computer have browsers, of which one has the extension.
+    void findBrowsers();
 
     /// The words of everything that the user, not the program, has written.
     QSet<QString> ownWords() const;

@@ -33,6 +33,11 @@ struct TestCore
         places.dataFolder = folder + QStringLiteral("/data");
         places.hiddenFolder = folder + QStringLiteral("/hidden");
         places.cloudInfoFiles = QStringList{folder + QStringLiteral("/info.json")};
+        BrowserPlaces browsers;
+        browsers.root = folder;
+        browsers.home = folder + QStringLiteral("/home");
+        browsers.environment = [](const QString &) { return QString(); };
+        places.browsers = browsers;
         places.activity = [user] { return std::make_unique<FakeActivity>(user); };
         return places;
     }

@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +19,18 @@
 #include <QScreen>
 #include <QSettings>
 #include <QToolButton>
+
+/// Stands for the programs that open addresses.
+class OpenedAddresses : public QObject
+{
+    Q_OBJECT
+
+public:
+    QStringList schemes;
+
+public Q_SLOTS:
+    void open(const QUrl &url) { schemes.append(url.scheme()); }
+};
 
 class TestPMUiProvider : public QObject
 {
@@ -37,6 +50,7 @@ private Q_SLOTS:
     void withoutATrayNothingIsHidden();
     void generatorFillsThePasswordOfAnItem();
     void menuEndsTheProgram();
+    void onlyWebPagesAreOpened();
     void splashStaysItsTime();
 };
 
@@ -325,6 +339,23 @@ void TestPMUiProvider::menuEndsTheProgram()
     find<QToolButton>(ui.window(), "menuButton")->menu()->actions().last()->trigger();
     QCOMPARE(quit.count(), 1);
     QVERIFY(!test.core.currentSafe()->isUnlocked());
+}
+
+void TestPMUiProvider::onlyWebPagesAreOpened()
+{
+    TestCore test;
+    Ui ui(test);
+    OpenedAddresses opened;
+    const QStringList schemes{QStringLiteral("http"),   QStringLiteral("https"),
+                              QStringLiteral("file"),   QStringLiteral("ftp"),
+                              QStringLiteral("mailto"), QStringLiteral("javascript")};
+    for (const QString &scheme : schemes)
+        QDesktopServices::setUrlHandler(scheme, &opened, "open");
+    for (const QString &scheme : schemes)
+        Q_EMIT test.core.openAddress(QUrl(scheme.toUpper() + QStringLiteral("://bank.example/")));
+    for (const QString &scheme : schemes)
+        QDesktopServices::unsetUrlHandler(scheme);
+    QCOMPARE(opened.schemes, (QStringList{QStringLiteral("http"), QStringLiteral("https")}));
 }
 
 void TestPMUiProvider::splashStaysItsTime()

@@ -1,6 +1,5 @@
 #include "PMUiProvider.h"
 #include "UiTesting.h"
-#include "wizard/ExtensionPage.h"
 #include "wizard/SetupWizard.h"
 #include "wizard/WizardPage.h"
 
@@ -19,8 +18,6 @@ private Q_SLOTS:
     void everyStepSkipped();
     void leftInTheMiddle();
     void onlyStepsThatExist();
-    void findsTheExtension();
-    void tellsWhenABrowserConnects();
 };
 
 namespace {
@@ -171,39 +168,6 @@ void TestSetupWizard::onlyStepsThatExist()
     QCOMPARE(wizard.step(), QStringLiteral("last"));
     onward->click();
     QCOMPARE(completed.count(), 1);
-}
-
-void TestSetupWizard::findsTheExtension()
-{
-    QTemporaryDir folder;
-    const QString program = folder.path() + QStringLiteral("/build/dev/src");
-    const QString sources = folder.path() + QStringLiteral("/extension/dist/chromium");
-    QVERIFY(QDir().mkpath(program) && QDir().mkpath(sources));
-    QCOMPARE(ExtensionPage::folder(program), QString());
-    QFile manifest(sources + QStringLiteral("/manifest.json"));
-    QVERIFY(manifest.open(QIODevice::WriteOnly));
-    QCOMPARE(ExtensionPage::folder(program), QFileInfo(sources).canonicalFilePath());
-}
-
-void TestSetupWizard::tellsWhenABrowserConnects()
-{
-    bool connected = false;
-    QString copied;
-    ExtensionPage page({QStringLiteral("/extension"), [&] { return connected; },
-                        [&](const QString &text) { copied = text; }},
-                       nullptr);
-    QSignalSpy changed(&page, &WizardPage::changed);
-    page.show();
-    QVERIFY(page.canSkip());
-    const QString before = find<QLabel>(page, "extensionState")->text();
-    connected = true;
-    page.hide();
-    page.show();
-    QVERIFY(find<QLabel>(page, "extensionState")->text() != before);
-    QVERIFY(!page.canSkip());
-    QCOMPARE(changed.count(), 1);
-    find<QPushButton>(page, "copyAddress")->click();
-    QCOMPARE(copied, QStringLiteral("chrome://extensions"));
 }
 
 QTEST_MAIN(TestSetupWizard)

@@ -9,8 +9,6 @@
 #include "SetupWizard.h"
 #include "UiSettings.h"
 
-#include <QCoreApplication>
-
 #include <utility>
 
 FirstRun::FirstRun(GPMAppCore &core, UiSettings &uiSettings, const Theme &theme,
@@ -46,13 +44,8 @@ QVector<WizardStep> FirstRun::steps() const
 
 QVector<WizardStep> FirstRun::stepsOfUse() const
 {
-    const QString folder = ExtensionPage::folder(QCoreApplication::applicationDirPath());
-    const auto extension = [this, folder](QWidget *parent) {
-        ExtensionPage::Parts parts;
-        parts.folder = folder;
-        parts.isConnected = [this] { return m_core.hasExtension(); };
-        parts.copy = [this](const QString &text) { m_core.clipboard().copy(text, false); };
-        return new ExtensionPage(parts, parent);
+    const auto extension = [this](QWidget *parent) {
+        return new ExtensionPage(m_pluginParts(), parent);
     };
     const auto moveIn = [this](QWidget *parent) { return new MoveInPage(m_core, m_theme, parent); };
     return {
@@ -60,9 +53,8 @@ QVector<WizardStep> FirstRun::stepsOfUse() const
          tr("From a browser or another program. You can also do it later, in the menu of the "
             "safe."),
          [] { return true; }, moveIn},
-        {"extension", tr("Fill forms in your browser"),
-         tr("The extension fills your logins into the pages they belong to."),
-         [folder] { return !folder.isEmpty(); }, extension},
+        {"extension", tr("Fill forms in your browser"), tr("Install plugin very fast and simple"),
+         [this] { return bool(m_pluginParts); }, extension},
         {"ready", tr("You are ready"),
          tr("The program waits in the tray when you close its window."), [] { return true; },
          [](QWidget *parent) { return new ReadyPage(parent); }},

@@ -2,6 +2,7 @@
 
 #include "NewSafePage.h"
 #include "WizardStep.h"
+#include "browsers/PluginsPage.h"
 
 #include <QObject>
 #include <QPointer>
@@ -29,6 +30,9 @@ public:
     /// What leads to a safe that is there already.
     void setSafeWays(const NewSafePage::Ways &ways) { m_safeWays = ways; }
 
+    /// What the step about browsers needs; without it there is no such step.
+    void setPluginParts(const std::function<PluginsPage::Parts()> &parts) { m_pluginParts = parts; }
+
     /// The window in front of which the wizard opens. One that is open moves over to it.
     void setMain(QWidget *main);
 
@@ -55,6 +59,7 @@ private:
     const PMTranslator &m_translator;
     ChooseLanguage m_chooseLanguage;
     NewSafePage::Ways m_safeWays;
+    std::function<PluginsPage::Parts()> m_pluginParts;
     QPointer<QWidget> m_main;
     QPointer<SetupWizard> m_wizard;
     QString m_resumeAt; ///< a step of the wizard that was open on a window that is gone
