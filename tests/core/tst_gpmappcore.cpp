@@ -4,10 +4,12 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSignalSpy>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QWebSocket>
 #include <QtTest>
@@ -48,6 +50,38 @@ public:
 
 private:
     QWebSocket m_socket;
+};
+
+/// A web site that has a picture at every address.
+class Site : public QTcpServer
+{
+public:
+    int requests = 0;
+
+    Site()
+    {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket *socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, this, std::bind(&Site::answer, this, socket));
+        });
+    }
+
+    QString icon() const { return QStringLiteral("http://127.0.0.1:%1/icon").arg(serverPort()); }
+
+private:
+    void answer(QTcpSocket *socket)
+    {
+        ++requests;
+        QImage image(16, 16, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+        socket->write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n" + bytes);
+        socket->disconnectFromHost();
+    }
 };
 
 /// A page with a login form at the address, as the answer to a request.
@@ -106,6 +140,32 @@ private Q_SLOTS:
         m_core->startServer();
     }
     void cleanup() { m_core.reset(); }
+
+    void iconsOfSitesGoIntoTheOpenSafe()
+    {
+        Site site;
+        QSignalSpy changed(m_core.get(), &GPMAppCore::siteIconChanged);
+        SiteIconDesk &icons = m_core->siteIcons();
+        icons.download(QStringLiteral("127.0.0.1"), site.icon());
+        QVERIFY(m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), {}));
+        const QDir folder(m_core->currentSafe()->folder() + QStringLiteral("/favicon"));
+        QVERIFY(icons.setEnabled(false));
+        icons.download(QStringLiteral("127.0.0.1"), site.icon());
+        QVERIFY(icons.setEnabled(true));
+        icons.download(QStringLiteral("127.0.0.1"), site.icon());
+        QVERIFY(changed.wait());
+        QCOMPARE(changed.first(), QVariantList{QStringLiteral("127.0.0.1")});
+        QCOMPARE(folder.entryList(QDir::Files), QStringList(QStringLiteral("127.0.0.1.png")));
+
+        // What is under way when the safe locks comes to nothing.
+        QVERIFY(QFile::remove(folder.filePath(QStringLiteral("127.0.0.1.png"))));
+        m_core->unlockCurrentSafe(QStringLiteral("pw"));
+        icons.download(QStringLiteral("localhost"), site.icon());
+        m_core->lockCurrentSafe();
+        icons.download(QStringLiteral("127.0.0.1"), site.icon());
+        QVERIFY(icons.findChildren<IconFetch *>().isEmpty());
+        QCOMPARE(site.requests, 1);
+    }
 
     void aSafeIsCreatedLockedAndUnlocked()
     {

@@ -44,6 +44,7 @@ InstallSteps::InstallSteps(const BrowserInfo &browser, const InstallWays &ways, 
                                      "program anew to get it."),
                                   "text", this);
         missing->setWordWrap(true);
+        keepTextHeight(*missing, Style::scaled(usualWidth) - 2 * Style::margin);
         body().addWidget(missing);
     } else {
         addSteps(folder);
@@ -107,6 +108,7 @@ void InstallSteps::addSteps(const QString &folder)
                                   "is closed."),
                                "muted", this);
         note->setWordWrap(true);
+        keepTextHeight(*note, Style::scaled(usualWidth) - 2 * Style::margin);
         body().addWidget(note);
     }
 }
@@ -123,8 +125,12 @@ QWidget *InstallSteps::makeStep(int number, const QString &text, QWidget *button
     auto *label = makeLabel(text, "text", row);
     label->setWordWrap(true);
     line->addWidget(label, 1);
-    if (button)
+    int room = Style::scaled(usualWidth - digitWidth) - 4 * Style::margin - Style::gap;
+    if (button) {
         line->addWidget(button);
+        room -= button->sizeHint().width() + Style::gap;
+    }
+    keepTextHeight(*label, room);
     return row;
 }
 

@@ -10,6 +10,7 @@
 namespace {
 
 const int smallestWidth = 380;
+const int margin = 20;
 
 } // namespace
 
@@ -28,6 +29,7 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
     auto *text = makeLabel(question.text, "text", this);
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    keepTextHeight(*text, Style::scaled(smallestWidth) - 2 * margin);
 
     // The way out stands left of the way on, which comes last as everywhere.
     auto *row = new QHBoxLayout;
@@ -48,7 +50,7 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent)
     }
 
     auto *all = new QVBoxLayout(this);
-    all->setContentsMargins(20, 20, 20, 16);
+    all->setContentsMargins(margin, margin, margin, 16);
     all->setSpacing(Style::spacing);
     all->addWidget(heading);
     all->addWidget(text);

@@ -4,6 +4,7 @@
 #include "main/CopyNotice.h"
 #include "main/EmptyState.h"
 #include "main/SearchWords.h"
+#include "main/SiteIcons.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/TextField.h"
@@ -72,6 +73,7 @@ void QuickList::makeList(SiteIcons &icons)
     m_list->setAccessibleName(tr("Items"));
     m_delegate = new QuickDelegate(m_theme, &icons, m_list);
     m_list->setItemDelegate(m_delegate);
+    connect(&icons, &SiteIcons::changed, m_list->viewport(), QOverload<>::of(&QWidget::update));
     m_list->setModel(&m_items);
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
