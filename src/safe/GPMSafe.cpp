@@ -328,33 +328,6 @@ PMListItem *GPMSafe::addItem(std::unique_ptr<PMListItem> item)
     return added;
 }
 
-PMListItem *GPMSafe::addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes)
-{
-    return m_attachments.add(std::move(item), bytes);
-}
-
-void GPMSafe::addAttachmentAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
-                                 const QString &parentId)
-{
-    m_attachments.addAsync(std::move(item), source, parentId);
-}
-
-bool GPMSafe::readAttachment(const QString &id, QIODevice &destination) const
-{
-    const std::optional<AttachmentReader> reader = attachmentReader(id);
-    return reader && reader->read(destination);
-}
-
-std::optional<AttachmentReader> GPMSafe::attachmentReader(const QString &id) const
-{
-    return m_attachments.reader(id);
-}
-
-qint64 GPMSafe::attachmentSize(const QString &id) const
-{
-    return m_attachments.size(id);
-}
-
 void GPMSafe::touchItem(PMListItem &item)
 {
     const qint64 time =
@@ -399,11 +372,6 @@ bool GPMSafe::commitDeleted(const QStringList &ids)
 bool GPMSafe::meetMirror(const QString &mirrorFolder, const SyncRecord::Deletions &deleted)
 {
     return !isChangingPassword() && m_meetings.start(mirrorFolder, deleted);
-}
-
-void GPMSafe::cancelMeeting()
-{
-    m_meetings.cancel();
 }
 
 void GPMSafe::settle()

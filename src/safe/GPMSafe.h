@@ -79,12 +79,18 @@ public:
     void cancelPasswordChange() { m_passwordChange.cancel(); }
     bool isChangingPassword() const { return m_passwordChange.isRunning(); }
 
+    /// Whether locking has to wait for something that is being written.
+    bool isWriting() const
+    {
+        return isChangingPassword() || m_state.writer.activeThreadCount() > 0;
+    }
+
     /// Makes the safe and its mirror alike on the writer; mirrorMet() follows. It gives way to
     /// everything else that writes. False when the safe is locked or a meeting is under way.
     /// @param deleted items removed since the last meeting
     bool meetMirror(const QString &mirrorFolder, const SyncRecord::Deletions &deleted);
     /// Stops a meeting soon; mirrorMet() follows.
-    void cancelMeeting();
+    void cancelMeeting() { m_meetings.cancel(); }
 
     /// A task, to be started, that writes the safe with all that was saved before this call into
     /// one archive. Locked or not, needs no password. Null while no safe is open.
@@ -127,19 +133,32 @@ public:
     PMListItem *addItem(std::unique_ptr<PMListItem> item);
 
     /// Takes a new attachment in with the bytes of an open device, which are encrypted at once.
-    PMListItem *addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes);
+    PMListItem *addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes)
+    {
+        return m_attachments.add(std::move(item), bytes);
+    }
 
     /// The same on a worker, in the order of the calls; attachmentDone() follows. Once it is in,
     /// the item of the given id refers to it, and everything is saved. Locking waits for it.
     void addAttachmentAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
-                            const QString &parentId = {});
+                            const QString &parentId = {})
+    {
+        m_attachments.addAsync(std::move(item), source, parentId);
+    }
 
     /// Decrypts an attachment's bytes into an open device, which is to be thrown away on failure.
-    bool readAttachment(const QString &id, QIODevice &destination) const;
+    bool readAttachment(const QString &id, QIODevice &destination) const
+    {
+        const std::optional<AttachmentReader> reader = attachmentReader(id);
+        return reader && reader->read(destination);
+    }
     /// What does so on another thread; nothing when there is no such item.
-    std::optional<AttachmentReader> attachmentReader(const QString &id) const;
+    std::optional<AttachmentReader> attachmentReader(const QString &id) const
+    {
+        return m_attachments.reader(id);
+    }
     /// The size of an attachment's bytes, up to 15 above the true one; -1 when they are missing.
-    qint64 attachmentSize(const QString &id) const;
+    qint64 attachmentSize(const QString &id) const { return m_attachments.size(id); }
 
     /// The edits of this safe that were not saved.
     DraftStore &drafts() { return m_drafts; }

@@ -5,6 +5,7 @@
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
 #include "SafeUse.h"
+#include "SyncFiles.h"
 
 #include <QDebug>
 #include <QFile>
@@ -16,6 +17,31 @@
 #include <utility>
 
 static const char operation[] = "GPMSafe::changePassword";
+
+namespace {
+
+/// A file that ends with a fault when the work is cancelled: whoever locks does not wait for the
+/// rest of a large one.
+class CancellableFile : public QFile
+{
+public:
+    CancellableFile(const QString &path, const WorkControl &control)
+        : QFile(path)
+        , m_control(control)
+    {
+    }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        return m_control.isCancelled() ? -1 : QFile::readData(data, size);
+    }
+
+private:
+    const WorkControl &m_control;
+};
+
+} // namespace
 
 PasswordChange::PasswordChange(Safe safe)
     : m_safe(std::move(safe))
@@ -145,7 +171,7 @@ bool PasswordChange::writeItems(const WorkControl &control,
     QtConcurrent::blockingMap(m_items, [&](Item &item) {
         if (failed || control.isCancelled())
             return;
-        if (!writeItem(item))
+        if (!writeItem(item, control))
             failed = true;
         else if (const int count = ++done; progress)
             progress(count);
@@ -154,11 +180,12 @@ bool PasswordChange::writeItems(const WorkControl &control,
     return done == m_items.size();
 }
 
-bool PasswordChange::writeItem(Item &item)
+bool PasswordChange::writeItem(Item &item, const WorkControl &control)
 {
-    if (item.attachment && !reencryptAttachment(item)) {
-        qWarning() << operation << "Can't re-encrypt attachment file:"
-                   << m_safe.folder.attachmentPath(item.oldName);
+    if (item.attachment && !reencryptAttachment(item, control)) {
+        if (!control.isCancelled())
+            qWarning() << operation << "Can't re-encrypt attachment file:"
+                       << m_safe.folder.attachmentPath(item.oldName);
         return false;
     }
     if (writeItemFile(m_safe.environment, m_safe.folder.contentPath(item.newName),
@@ -169,9 +196,9 @@ bool PasswordChange::writeItem(Item &item)
     return false;
 }
 
-bool PasswordChange::reencryptAttachment(Item &item)
+bool PasswordChange::reencryptAttachment(Item &item, const WorkControl &control)
 {
-    QFile source(m_safe.folder.attachmentPath(item.oldName));
+    CancellableFile source(m_safe.folder.attachmentPath(item.oldName), control);
     if (!source.open(QIODevice::ReadOnly))
         return false;
     const QString newPath = m_safe.folder.attachmentPath(item.newName);
@@ -179,7 +206,7 @@ bool PasswordChange::reencryptAttachment(Item &item)
         return reencryptStream(m_safe.oldPassword->view(), m_safe.newPassword->view(), source,
                                destination, m_safe.environment.random);
     });
-    const QString hash = written ? fileHash(newPath) : QString();
+    const QString hash = written ? hashOfFile(files(), newPath, control) : QString();
     item.document.publicFields.insert(QStringLiteral("hash"), hash);
     return !hash.isEmpty();
 }

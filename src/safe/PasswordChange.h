@@ -77,8 +77,8 @@ private:
     bool backUpPassId();
     bool writePassId();
     bool writeItems(const WorkControl &control, const std::function<void(int)> &progress);
-    bool writeItem(Item &item);
-    bool reencryptAttachment(Item &item);
+    bool writeItem(Item &item, const WorkControl &control);
+    bool reencryptAttachment(Item &item, const WorkControl &control);
     bool writeNewDescription();
     void cleanUp();
     FileLayer &files() const { return *m_safe.environment.files; }

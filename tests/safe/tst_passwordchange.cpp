@@ -23,6 +23,27 @@ struct Changed
     int operations = 0;
 };
 
+/// A change is cancelled as the first attachment begins to be written.
+class CancellingFiles : public FileLayer
+{
+public:
+    WorkControl control;
+    qint64 written = -1; ///< bytes of that attachment
+
+    bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
+    {
+        if (!path.contains(QLatin1String("/attachment/")))
+            return FileLayer::write(path, produce, mode);
+        const auto cancelAndProduce = [&](QIODevice &device) {
+            control.cancel();
+            const bool good = produce(device);
+            written = device.pos();
+            return good;
+        };
+        return FileLayer::write(path, cancelAndProduce, mode);
+    }
+};
+
 enum Way { AtOnce, OnTheWriter };
 
 /// Starts a change and lets the event loop run until it has ended.
@@ -341,6 +362,30 @@ private Q_SLOTS:
     }
 
     /// The hint changes with the password and stays with the old one.
+    /// Who locks does not wait for the rest of a large attachment.
+    void aCancelledChangeStopsInsideAnAttachment()
+    {
+        const ItemFileName name{attachmentId, 0};
+        const auto files = std::make_shared<CancellingFiles>();
+        SafeEnvironment world;
+        world.files = files;
+        const auto secret = [](const QString &text) {
+            return std::make_shared<const SecretBytes>(SecretBytes::fromText(text));
+        };
+        PasswordChange change({world,
+                               SafeFolder(m_folder),
+                               secret(samplePassword),
+                               secret(newPassword),
+                               std::make_shared<QMutex>(),
+                               {},
+                               {}});
+        const QString file = SafeFolder(m_folder).contentPath(name);
+        change.add({name, *readItemFile(*files, file, samplePassword.toUtf8()), true, 0, {}});
+        QCOMPARE(change.run(files->control, [] { return true; }), PasswordChangeOutcome::Cancelled);
+        QCOMPARE(files->written, 0);
+        QCOMPARE(snapshot(m_folder), m_before);
+    }
+
     void theHintGoesWithThePassword()
     {
         const QString hint = QStringLiteral("Another hint");

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void failedSaveAsks_data();
     void failedSaveAsks();
     void retriedSaveLocks();
+    void coversTheItemsBeforeItWaits();
 };
 
 namespace {
@@ -321,6 +322,23 @@ void TestSecureWindow::retriedSaveLocks()
     QVERIFY(!test.core.currentSafe()->isUnlocked());
     QVERIFY(test.core.currentSafe()->unlock(testPassword));
     QCOMPARE(test.login(id)->note(), QStringLiteral("changed"));
+}
+
+/// A change of password holds the lock up.
+void TestSecureWindow::coversTheItemsBeforeItWaits()
+{
+    TestCore test;
+    Window shown(test, false);
+    QVERIFY(test.createSafe());
+    QCOMPARE(shown.window.openProgress(), 1.0);
+    QVERIFY(test.core.changePassword(QStringLiteral("another password 2"), {}));
+    QVector<qreal> progress;
+    connect(&test.core, &GPMAppCore::requestLock, this,
+            [&] { progress.append(shown.window.openProgress()); });
+    test.core.lockCurrentSafe();
+    QCOMPARE(progress, QVector<qreal>{0.0});
+    QCOMPARE(shown.window.openProgress(), 0.0);
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
 }
 
 QTEST_MAIN(TestSecureWindow)

@@ -72,6 +72,7 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     connect(m_pages, &PagesStack::restoreRequested, this, &SecureWindow::restoreRequested);
     connect(m_pages, &PagesStack::cloudImportRequested, this, &SecureWindow::cloudImportRequested);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
+    connect(&core, &GPMAppCore::requestLock, this, &SecureWindow::cover);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
     followSafe();
 }
@@ -177,6 +178,19 @@ void SecureWindow::followSafe()
     }
 }
 
+void SecureWindow::cover()
+{
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    // Else it is locked before anybody could look at it.
+    if (!m_open || !isVisible() || !safe->isWriting())
+        return;
+    m_pages->clearSecrets();
+    m_pages->showUnlockPage();
+    setOpenProgress(0);
+    // The event loop is held until everything is written.
+    repaint();
+}
+
 void SecureWindow::lockByUser()
 {
     if (m_open)
@@ -218,9 +232,12 @@ void SecureWindow::leaveSafe(void (GPMAppCore::*way)())
     const QScopedValueRollback<bool> leaving(m_leaving, true);
     if (!m_content->mayLeave())
         return;
+    cover();
     const SaveAnswer answer = saveOrAsk();
-    if (answer == SaveAnswer::Cancel)
+    if (answer == SaveAnswer::Cancel) {
+        setOpenProgress(1);
         return;
+    }
     const QScopedValueRollback<bool> losing(m_losingChanges, answer == SaveAnswer::Lose);
     if (m_losingChanges)
         m_core.giveUpChanges();

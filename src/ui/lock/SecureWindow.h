@@ -93,6 +93,8 @@ private:
     void showLayers();
     void layOut();
     void showTitle();
+    /// Puts the lock page over the items while what is written holds the lock up.
+    void cover();
 
     GPMAppCore &m_core;
     const Theme &m_theme;
