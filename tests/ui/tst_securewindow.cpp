@@ -330,7 +330,7 @@ void TestSecureWindow::coversTheItemsBeforeItWaits()
     TestCore test;
     Window shown(test, false);
     QVERIFY(test.createSafe());
-    QCOMPARE(shown.window.openProgress(), 1.0);
+    QTRY_COMPARE(shown.window.openProgress(), 1.0);
     QVERIFY(test.core.changePassword(QStringLiteral("another password 2"), {}));
     QVector<qreal> progress;
     connect(&test.core, &GPMAppCore::requestLock, this,
