@@ -757,6 +757,7 @@ QSet<QString> Stage::ownWords() const
                       test.folder.path() + QStringLiteral("/hidden/backup passport.png"),
                       QStringLiteral("work gpm"),
                       extensionFolder,
+                      QStringLiteral("about:debugging#/runtime/this-firefox manifest.json"),
                       test.folder.path() + QStringLiteral("/cloud Family"),
                       QString::fromUtf8(browserExport),
                       QString::fromUtf8(unknownExport),
