@@ -1,8 +1,10 @@
 #include "PMUiProvider.h"
 
 #include "GPMAppCore.h"
+#include "LockShortcut.h"
 #include "SideWindows.h"
 #include "TrayIcon.h"
+#include "WebPages.h"
 #include "WindowActivation.h"
 #include "WorkWindows.h"
 #include "browsers/ApprovalDesk.h"
@@ -97,7 +99,7 @@ void PMUiProvider::makeFirstRun()
 void PMUiProvider::connectCore()
 {
     connect(&m_core, &GPMAppCore::message, this, &PMUiProvider::showMessage);
-    connect(&m_core, &GPMAppCore::openAddress, this, &PMUiProvider::openAddress);
+    connect(&m_core, &GPMAppCore::openAddress, this, &openWebPage);
     connect(&m_core, &GPMAppCore::requestShowMainWindow, this, &PMUiProvider::bringToFront);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closeMessages);
     connect(&m_core, &GPMAppCore::requestLock, this, &PMUiProvider::closePopups);
@@ -143,7 +145,8 @@ void PMUiProvider::createMainWindow()
     connect(m_window.get(), &SecureWindow::restoreRequested, m_sideWindows.get(),
             &SideWindows::openRestore);
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
-    makeLockShortcut();
+    connect(makeLockShortcut(m_core.settings(), *m_window), &QShortcut::activated, this,
+            &PMUiProvider::lock);
     m_settings.restoreGeometry(*m_window);
     view->restoreSplitter(m_settings.splitter(m_window->objectName()));
     makeTray();
@@ -218,19 +221,6 @@ void PMUiProvider::makeTray()
     const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
     m_tray->setLocked(!safe || !safe->isUnlocked());
     m_tray->show();
-}
-
-void PMUiProvider::makeLockShortcut()
-{
-    auto *shortcut = new QShortcut(m_window.get());
-    shortcut->setObjectName(QStringLiteral("lockHotkey"));
-    shortcut->setContext(Qt::ApplicationShortcut);
-    const auto setKeys = [shortcut](const QString &keys) {
-        shortcut->setKey(QKeySequence(keys, QKeySequence::PortableText));
-    };
-    setKeys(m_core.settings().lockHotkey());
-    connect(&m_core.settings(), &GPMAppSettings::lockHotkeyChanged, shortcut, setKeys);
-    connect(shortcut, &QShortcut::activated, this, &PMUiProvider::lock);
 }
 
 bool PMUiProvider::setLanguage(const QString &language)
@@ -360,15 +350,6 @@ void PMUiProvider::closePopups()
         if (!popup->close())
             return;
     }
-}
-
-void PMUiProvider::openAddress(const QUrl &url)
-{
-    // An address may come with an item that somebody else wrote; it is to open pages, not files
-    // or programs.
-    const QStringList schemes{QStringLiteral("https"), QStringLiteral("http")};
-    if (!schemes.contains(url.scheme()) || !QDesktopServices::openUrl(url))
-        qWarning() << "UI: openAddress: Can't open address of" << url.host();
 }
 
 void PMUiProvider::showAbout()

@@ -17,7 +17,6 @@ class FirstRun;
 class GPMAppCore;
 class MainView;
 class QuickDesk;
-class QUrl;
 class SafeDesk;
 class SaveLoginDesk;
 class SecureWindow;
@@ -71,7 +70,6 @@ private:
     void showMessage(const QString &title, const QString &text);
     void closeMessages();
     void closePopups();
-    void openAddress(const QUrl &url);
     void showAbout();
     void lock();
     void exitByUser();
@@ -79,7 +77,6 @@ private:
     void connectSafeDesk(MainView &view);
     void connectView(MainView &view);
     void makeTray();
-    void makeLockShortcut();
     void rebuildSoon();
     void rebuildWindows();
     void saveWindowState();
