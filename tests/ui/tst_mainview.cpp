@@ -768,10 +768,11 @@ void TestMainView::menuOffersWhatApplies_data()
     const QString shop = QStringLiteral("Shop");
     const QString card = QStringLiteral("Card");
     row("login", {shop},
-        "logInAction openAddressAction copyUserNameAction copySecretAction editAction "
+        "useAction openAddressAction copyUserNameAction copySecretAction editAction "
         "duplicateAction favoriteAction exportAction removeAction");
     row("card", {card},
-        "copySecretAction editAction duplicateAction favoriteAction exportAction removeAction");
+        "useAction copySecretAction editAction duplicateAction favoriteAction exportAction "
+        "removeAction");
     row("both", {card, shop}, "favoriteAction exportAction removeAction");
     row("trash", {QStringLiteral("Gone")}, "restoreAction deleteForeverAction");
 }

@@ -107,6 +107,24 @@ QString newItemText(PMListItem::Type type)
     return QCoreApplication::translate("ItemKinds", kindOf(type).create);
 }
 
+QString defaultActionText(PMListItem::Type type)
+{
+    switch (type) {
+    case PMListItem::Login:
+        return QCoreApplication::translate("ItemKinds", "Log in");
+    case PMListItem::CreditCard:
+    case PMListItem::Identity:
+        return QCoreApplication::translate("ItemKinds", "Fill in");
+    default:
+        return {};
+    }
+}
+
+const char *defaultActionIcon(PMListItem::Type type)
+{
+    return type == PMListItem::Login ? "login-2" : "world";
+}
+
 QString categoryName(const ItemCategory &category)
 {
     return QCoreApplication::translate("ItemKinds", kindOf(category).plural);

@@ -29,5 +29,9 @@ struct MainSecret
 };
 MainSecret mainSecret(PMListItem::Type type);
 
+/// What using an item does, "Log in" or "Fill in"; empty for kinds that are only looked at.
+QString defaultActionText(PMListItem::Type type);
+const char *defaultActionIcon(PMListItem::Type type);
+
 /// The property with the user name of a kind; empty for kinds without one.
 const char *userNameField(PMListItem::Type type);

@@ -47,8 +47,10 @@ void ItemMenu::addForOne(const QString &id)
         connect(action, &QAction::triggered, &m_actions,
                 [this, id, slot] { (m_actions.*slot)(id); });
     };
-    if (item.type() == PMListItem::Login)
-        run(add("logInAction", "login-2", tr("Log in"), "Ctrl+Return"), &ItemActions::runDefault);
+    const QString use = defaultActionText(item.type());
+    if (!use.isEmpty())
+        run(add("useAction", defaultActionIcon(item.type()), use, "Ctrl+Return"),
+            &ItemActions::runDefault);
     if (!item.url().isEmpty())
         run(add("openAddressAction", "external-link", tr("Open address")),
             &ItemActions::openAddress);

@@ -74,11 +74,9 @@ void ItemPage::makeHeader()
     m_edit->setAccessibleName(tr("Edit"));
     m_edit->setToolTip(tr("Edit (F2)"));
     connect(m_edit, &QPushButton::clicked, this, &ItemPage::editRequested);
-    m_logIn = makeButton(tr("Log in"), "primary", this);
-    m_logIn->setObjectName(QStringLiteral("logInButton"));
-    m_logIn->setIcon(m_theme.icon(QStringLiteral("login-2"), Palette::OnAccent));
-    m_logIn->setToolTip(tr("Log in (Ctrl+Return)"));
-    connect(m_logIn, &QPushButton::clicked, this, &ItemPage::defaultActionRequested);
+    m_use = makeButton({}, "primary", this);
+    m_use->setObjectName(QStringLiteral("useButton"));
+    connect(m_use, &QPushButton::clicked, this, &ItemPage::defaultActionRequested);
     m_times = makeLabel({}, "muted", this);
     m_times->setObjectName(QStringLiteral("itemTimes"));
     m_uses = makeLabel({}, "muted", this);
@@ -99,7 +97,7 @@ void ItemPage::layOut()
     header->setAlignment(names, Qt::AlignVCenter);
     header->addWidget(m_star);
     header->addWidget(m_edit);
-    header->addWidget(m_logIn);
+    header->addWidget(m_use);
 
     auto *info = new QHBoxLayout;
     info->addWidget(m_times, 1);
@@ -165,7 +163,12 @@ void ItemPage::showHeader()
     const bool usable = isUsable();
     m_star->setVisible(usable);
     m_edit->setVisible(usable);
-    m_logIn->setVisible(usable && type == PMListItem::Login);
+    const QString use = defaultActionText(type);
+    m_use->setVisible(usable && !use.isEmpty());
+    m_use->setText(use);
+    m_use->setIcon(m_theme.icon(QLatin1String(defaultActionIcon(type)), Palette::OnAccent));
+    m_use->setToolTip(type == PMListItem::Login ? tr("Log in (Ctrl+Return)")
+                                                : tr("Fill into the open page (Ctrl+Return)"));
     const bool favorite = m_item && m_item->favorite();
     m_star->setIcon(favorite ? m_theme.icon(QStringLiteral("star-filled"), Palette::Star)
                              : m_theme.icon(QStringLiteral("star"), Palette::Text));
@@ -204,7 +207,7 @@ void ItemPage::showFields()
     }
     m_column->insertWidget(1, m_fields);
     // New widgets come last for Tab; these belong behind the header.
-    QWidget *before = m_logIn;
+    QWidget *before = m_use;
     QList<QToolButton *> buttons = m_fields->findChildren<QToolButton *>();
     for (QToolButton *button : qAsConst(buttons)) {
         setTabOrder(before, button);
@@ -222,7 +225,7 @@ QWidget *ItemPage::lastFocus() const
 {
     const QList<QToolButton *> buttons =
         m_fields ? m_fields->findChildren<QToolButton *>() : QList<QToolButton *>();
-    return buttons.isEmpty() ? static_cast<QWidget *>(m_logIn) : buttons.last();
+    return buttons.isEmpty() ? static_cast<QWidget *>(m_use) : buttons.last();
 }
 
 FieldRow *ItemPage::makeRow(const ItemField &field, const QString &value)

@@ -82,7 +82,7 @@ private:
     ElidedLabel *m_subtitle;
     QToolButton *m_star;
     QPushButton *m_edit;
-    QPushButton *m_logIn;
+    QPushButton *m_use;
     QWidget *m_fields = nullptr;
     QVBoxLayout *m_cards = nullptr;
     QVBoxLayout *m_column;
