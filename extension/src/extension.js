@@ -1,3 +1,4 @@
+import { listenToLogins } from './captures.js';
 import { createDocuments } from './documents.js';
 import { createFills } from './fills.js';
 import { parseFrame } from './frames.js';
@@ -57,6 +58,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
   });
   listenToPages({ api, open: opening.open });
   listenToUser({ api, open: opening.open });
+  listenToLogins({ api, documents, timers, now, send: link.send, makeId: () => crypto.randomUUID() });
   // Timers end with the background script; the alarm starts it anew.
   api.alarms.onAlarm.addListener(() => link.connect());
   api.alarms.create(ALARM, { periodInMinutes: 0.5 });

@@ -25,11 +25,11 @@ export function createFills({ documents, logins, answer, send }) {
 
   // The values leave this script only for the document that reported their fields: whatever is now in its place may be
   // another site's.
-  async function fillGroup({ elements, ...route }, formUid) {
+  async function fillGroup({ elements, ...route }, formUid, isNew) {
     const frame = await documents.reportedAs(route);
     const fields = elements.map(({ opid, gpmid }) => ({ opid, gpmid }));
     if (!frame || !(await safeTargets(frame, formUid, fields))) return undefined;
-    const done = await documents.call(frame, 'fill', { formUid, elements });
+    const done = await documents.call(frame, 'fill', { formUid, elements, isNew });
     return done && { ...done, frame, last: elements.at(-1) };
   }
 
@@ -49,7 +49,7 @@ export function createFills({ documents, logins, answer, send }) {
 
   async function fillForm({ formUid, elements, reason, submit }) {
     const results = [];
-    for (const group of byDocument(elements)) results.push(await fillGroup(group, formUid));
+    for (const group of byDocument(elements)) results.push(await fillGroup(group, formUid, reason === 'placepwd'));
     const done = results.filter((result) => result?.some);
     if (done.length === 0) return;
 

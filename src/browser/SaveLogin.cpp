@@ -130,7 +130,8 @@ QString SaveLoginRequest::host() const
 SaveLoginRequest SaveLoginRequest::fromData(const QJsonObject &data)
 {
     SaveLoginRequest request;
-    request.title = plainLine(textOf(data, "title"), longestTitle);
+    const QString siteName = plainLine(textOf(data, "siteName"), longestTitle);
+    request.title = siteName.isEmpty() ? plainLine(textOf(data, "title"), longestTitle) : siteName;
     const QString url = textOf(data, "url");
     request.site = SiteAddress::parse(url) ? url : textOf(data, "domain");
     bool isWholePage = true;

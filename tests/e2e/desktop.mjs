@@ -40,6 +40,8 @@ export async function startDesktop() {
       await run('xdotool', ['windowactivate', '--sync', id], { env });
       return id;
     },
+    /** The title of the window that has the keyboard. */
+    activeTitle: async () => (await run('xdotool', ['getactivewindow', 'getwindowname'], { env })).stdout.trim(),
     async isVisible(title) {
       const found = run('xdotool', ['search', '--onlyvisible', '--name', title], { env });
       return found.then(() => true, () => false);

@@ -151,6 +151,13 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
       onConnect.fire(port);
       return { shown: port.shown, close: () => port.onDisconnect.fire(), say: (message) => { port.onMessage.fire(message); return idle(); } };
     },
+    /** A document of a tab speaks of logins: {say, end}. */
+    openLoginPort(tabId, origin) {
+      const tab = { ...view(tabs.get(tabId)), favIconUrl: 'https://shop.example/i.png' };
+      const port = { name: 'login', onMessage: createEvent(), onDisconnect: createEvent(), sender: { tab, url: origin ?? tab.url, origin: origin ?? new URL(tab.url).origin } };
+      onConnect.fire(port);
+      return { say: (message) => { port.onMessage.fire(message); return idle(); }, end: () => { port.onDisconnect.fire(); return idle(); } };
+    },
     documentOf: (tabId, frame = 0) => tabs.get(tabId).documents[frame].window.document,
     go: (tabId, url) => { navigate(tabs.get(tabId), url); return idle(); },
     /** What the browser tells when a page changes its own address. */

@@ -763,6 +763,7 @@ QSet<QString> Stage::ownWords() const
                       QString::fromUtf8(unknownExport),
                       QStringLiteral("passwords.csv safe.passid.bak"),
                       QStringLiteral("Work Family family"),
+                      QStringLiteral("studio.example gitforge.example"),
                       safeFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();

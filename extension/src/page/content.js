@@ -1,3 +1,4 @@
+import { watchLogins } from './capture.js';
 import { createIcons } from './icons.js';
 import { kindOf } from './kinds.js';
 import { watch } from './watch.js';
@@ -52,10 +53,12 @@ function start() {
   }
 
   const watcher = watch(document, { onField: take, onChange: refreshSoon });
+  const logins = watchLogins({ connect: () => api.runtime.connect({ name: 'login' }) });
   for (const type of MOVES) addEventListener(type, refreshSoon, { capture: true, passive: true });
 
   function stop() {
     watcher.stop();
+    logins.stop();
     icons.stop();
     for (const type of MOVES) removeEventListener(type, refreshSoon, { capture: true });
   }

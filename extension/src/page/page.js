@@ -1,6 +1,7 @@
 import { collect } from './collect.js';
 import { fillField } from './fill.js';
 import { shows } from './presence.js';
+import { passwordForms } from './shape.js';
 import { waysToSignIn } from './signin.js';
 import { submitFrom, targetsOf } from './submit.js';
 import { isVisible } from './visible.js';
@@ -45,13 +46,14 @@ function createPage(doc) {
     },
 
     /** What was filled: {all: every field took its value, some, password: a password field is among them}. */
-    fill({ formUid, elements }) {
+    fill({ formUid, elements, isNew }) {
       const filled = elements.map((element) => {
         const field = findField(element, formUid);
         const isStillThere = field && (!reported.get(element.opid).visible || isVisible(field));
         return isStillThere && fillField(field, element.value) ? field : undefined;
       });
       const fields = filled.filter(Boolean);
+      fields.forEach((field) => globalThis[Symbol.for('glaceron.typed')]?.filled(field, isNew));
       return {
         all: fields.length === elements.length,
         some: fields.length > 0,
@@ -64,6 +66,12 @@ function createPage(doc) {
       const field = findField(element, formUid);
       return field ? submitFrom(field, allowed) : false;
     },
+
+    /** The forms that show a password, and what the site's server said of the page. */
+    passwordForms: () => ({
+      forms: passwordForms(doc),
+      status: performance.getEntriesByType?.('navigation')[0]?.responseStatus ?? 0,
+    }),
 
     waysToSignIn() {
       ways = waysToSignIn(doc);

@@ -62,7 +62,7 @@ void setStyleProperty(QWidget &widget, const char *name, const QVariant &value)
 void keepTextHeight(QLabel &label, int width)
 {
     label.ensurePolished();
-    label.setMinimumHeight(label.heightForWidth(width));
+    label.setMinimumHeight(qMax(0, label.heightForWidth(width)));
 }
 
 QHBoxLayout *centred(QWidget *widget)

@@ -75,7 +75,9 @@ void TitleBar::setHeader(QWidget *header)
     auto *row = static_cast<QHBoxLayout *>(layout());
     row->setContentsMargins(Style::margin, Style::gap, edge, Style::spacing);
     row->insertWidget(0, header, 1);
-    setFixedHeight(header->sizeHint().height() + Style::gap + Style::spacing);
+    setMinimumHeight(0);
+    setMaximumHeight(QWIDGETSIZE_MAX);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 void TitleBar::setOnDark(bool onDark)

@@ -1,0 +1,203 @@
+import { captionOf, isButton, isSubmitButton } from './buttons.js';
+import { collect } from './collect.js';
+import { attr, elementsUnder, findAll, parentOf, shadowRootOf } from './dom.js';
+import { fieldType } from './fields.js';
+import { isStillAsked } from '../shapes.js';
+import { groupAround, isName, isPassword, passwordForms, shapeOf } from './shape.js';
+import { labelText } from './surroundings.js';
+import { clean } from './text.js';
+import { isVisible } from './visible.js';
+import { GO_ON, SIGN_IN, SIGN_UP, USER_NAME, findPhrase, isPhrase, leadsElsewhere } from './words.js';
+
+const LOOK = 300;
+const GONE_FOR = 1500;
+// A page that still shows that it is at work may show its form again.
+const BUSY_FOR = 6000;
+const PATIENCE = 30000;
+const LONGEST = 320;
+const LONGEST_CAPTION = 40;
+const BUSY = '[aria-busy=true], [role=progressbar], progress';
+const NAMING = ['name', 'id', 'type', 'autocomplete', 'placeholder', 'aria-label'];
+const HIDDEN_NAME = 'input[autocomplete~=username], input[type=hidden]';
+const NAMED = new RegExp(USER_NAME.join('|'), 'i');
+const TYPED = Symbol.for('glaceron.typed');
+
+// Inside of a closed shadow tree an event names only its host.
+function deepTarget(event) {
+  let [target] = event.composedPath();
+  for (let root = shadowRootOf(target); root; root = shadowRootOf(target)) {
+    const isPointed = event.type === 'click' && event.detail > 0;
+    const inner = isPointed ? root.elementFromPoint(event.clientX, event.clientY) : root.activeElement;
+    if (!inner || inner === target) break;
+    target = inner;
+  }
+  return target;
+}
+
+function sends(button) {
+  const caption = captionOf(button);
+  if (leadsElsewhere(caption) && findPhrase(caption, SIGN_UP) < 0) return false;
+  if (isSubmitButton(button)) return true;
+  const words = [...SIGN_IN, ...SIGN_UP, ...GO_ON];
+  return isButton(button) ? findPhrase(caption, words) >= 0 : caption.length <= LONGEST_CAPTION && isPhrase(caption, words);
+}
+
+function sendingButton(target) {
+  for (let node = target, level = 0; node && level < 5; node = parentOf(node), level += 1) {
+    if (fieldType(node)) return undefined;
+    if (isButton(node)) return sends(node) ? node : undefined;
+    if (node.tagName !== 'BODY' && findAll(node, '*').length < 5 && sends(node)) return node;
+  }
+  return undefined;
+}
+
+// What the page calls its site, without "Sign in".
+function siteTitle(doc) {
+  const named = findAll(doc, 'meta[property="og:site_name"], meta[name="application-name"]')[0];
+  const name = named && clean(attr(named, 'content'));
+  if (name) return name;
+  const parts = doc.title.split(/\s+[|·•–—:-]\s+/).map(clean).filter(Boolean);
+  return parts.find((part) => !isPhrase(part, [...SIGN_IN, ...SIGN_UP])) ?? '';
+}
+
+/**
+ * Watches for logins that a person types into the document and sends, and for what the page makes of them.
+ * connect: opens a port to the background script; on it go {name}, {submitted, shape, around}, {accepted} and {dropped},
+ * and its end means that the document went away. isReal: whether an event is a person's doing.
+ */
+export function watchLogins({ connect, isReal = (event) => event.isTrusted, doc = document, view = window }) {
+  const passwords = new WeakSet(); // also while they are shown as text
+  const typed = new WeakSet();
+  const numbers = new WeakMap();
+  const roots = new WeakSet();
+  let lastNumber = 0;
+  let current;
+
+  const isSecret = (field) => isPassword(field) || passwords.has(field);
+
+  function numberOf(element) {
+    if (!numbers.has(element)) numbers.set(element, (lastNumber += 1));
+    return numbers.get(element);
+  }
+
+  /** The program has filled a field. What it has just made up is not in the safe yet. */
+  function filled(field, isNew) {
+    if (!isSecret(field)) return;
+    passwords.add(field);
+    if (isNew) typed.add(field);
+    else typed.delete(field);
+  }
+
+  // The page is described as for filling, and what was typed added: the program finds the login in it.
+  function describe(group) {
+    const { report, fields } = collect(doc, 'typed', numberOf);
+    const entries = [...report.forms.flatMap((form) => form.fields), ...report.elements];
+    const form = report.forms.find((each) => each.fields.some(({ opid }) => group.includes(fields.get(opid).field)));
+    const described = entries.filter(({ opid }) => group.includes(fields.get(opid).field)).map((entry) => {
+      const { field } = fields.get(entry.opid);
+      if (attr(field, 'autocomplete').startsWith('cc-')) return entry;
+      if (isSecret(field)) return { ...entry, type: 'password', inputtype: 'password', value: field.value };
+      return isName(field) ? { ...entry, value: field.value.slice(0, LONGEST) } : entry;
+    });
+    return { title: clean(doc.title), siteName: siteTitle(doc), buttons: form?.buttons, fields: described };
+  }
+
+  // The second page of two often keeps the user name in a field that nobody sees.
+  function nameOf(group) {
+    const isNamed = (field) => NAMED.test([attr(field, 'name'), attr(field, 'id'), attr(field, 'autocomplete')].join(' '));
+    const form = group.find((field) => field.form)?.form;
+    const kept = [...findAll(form ?? doc, HIDDEN_NAME)].filter((field) => field.value !== '' && isNamed(field));
+    return kept[0]?.value.slice(0, LONGEST);
+  }
+
+  function end(word) {
+    const { port, timer } = current;
+    current = undefined;
+    view.clearInterval(timer);
+    port.postMessage({ [word]: true });
+    port.disconnect();
+  }
+
+  function look() {
+    const now = view.performance.now();
+    if (isStillAsked(current.shape, passwordForms(doc, isSecret))) {
+      current.gone = undefined;
+      if (now >= current.until) end('dropped');
+      return;
+    }
+    current.gone ??= now;
+    const isBusy = [...elementsUnder(doc)].some((element) => element.matches(BUSY) && isVisible(element));
+    if (now - current.gone >= (isBusy ? BUSY_FOR : GONE_FOR)) end('accepted');
+  }
+
+  function submit(group) {
+    const key = JSON.stringify(group.filter((field) => isSecret(field) || isName(field)).map(({ value }) => value));
+    const until = view.performance.now() + PATIENCE;
+    if (current?.key === key) {
+      current.until = until;
+      return;
+    }
+    if (current) end('dropped');
+    const shape = shapeOf(group, isSecret);
+    const port = connect();
+    const { screenX: posx, screenY: posy, outerWidth: width, outerHeight: height } = view;
+    port.postMessage({
+      submitted: { ...describe(group), login: nameOf(group), posx, posy, width, height },
+      shape,
+      around: [...(view.location.ancestorOrigins ?? [])],
+    });
+    current = { port, shape, key, until, timer: view.setInterval(look, LOOK) };
+  }
+
+  function tellName(group) {
+    const isNamed = (field) => NAMED.test([...NAMING.map((key) => attr(field, key)), labelText(field)].join(' '));
+    const name = group.find((field) => isName(field) && isVisible(field) && field.value !== '' && isNamed(field));
+    if (!name) return;
+    const port = connect();
+    port.postMessage({ name: name.value.slice(0, LONGEST), around: [...(view.location.ancestorOrigins ?? [])] });
+    port.disconnect();
+  }
+
+  function attempt(element) {
+    const group = groupAround(element);
+    if (group.some((field) => typed.has(field) && field.value !== '')) submit(group);
+    else if (!group.some((field) => isSecret(field) && isVisible(field))) tellName(group);
+  }
+
+  // Those of a shadow tree do not leave it.
+  function listenIn(root) {
+    if (root === doc || roots.has(root)) return;
+    roots.add(root);
+    root.addEventListener('submit', (event) => isReal(event) && attempt(event.target), { capture: true });
+  }
+
+  const listeners = {
+    input(event) {
+      const field = deepTarget(event);
+      if (!isSecret(field)) return;
+      passwords.add(field);
+      typed.add(field);
+      listenIn(field.getRootNode());
+    },
+    submit: (event) => attempt(event.target),
+    click(event) {
+      const button = sendingButton(deepTarget(event));
+      if (button) attempt(button);
+    },
+    keydown(event) {
+      const field = deepTarget(event);
+      if (event.key === 'Enter' && !event.isComposing && (isSecret(field) || isName(field))) attempt(field);
+    },
+  };
+  const guarded = Object.entries(listeners).map(([type, listener]) => [type, (event) => isReal(event) && listener(event)]);
+  for (const [type, listener] of guarded) view.addEventListener(type, listener, { capture: true });
+  globalThis[TYPED] = { filled };
+
+  return {
+    stop() {
+      for (const [type, listener] of guarded) view.removeEventListener(type, listener, { capture: true });
+      if (current) view.clearInterval(current.timer);
+      current = undefined;
+    },
+  };
+}

@@ -1,0 +1,176 @@
+// What a user types into pages ends in the safe: the real program, real browsers, real key strokes in both.
+
+import assert from 'node:assert/strict';
+import { execFileSync } from 'node:child_process';
+import { test } from 'node:test';
+import { BROWSERS } from './browser.mjs';
+import { makeStage } from './stage.mjs';
+
+const OFFER = '^Save login$';
+const SECRETS = ['the-first-1', 'the-second-2', 'of-two-steps-3', 'of-one-page-4', 'never-mind-5', 'in-the-dark-6', 'locked-7'];
+
+// Whatever begins with "wrong" leads back to the page that asked.
+const go = (page) => `onsubmit="this.action = /^wrong/.test(this.pw.value) ? '${page}' : '/home'"`;
+const PASSWORD = '<input id=pw name=pw type=password>';
+const LOGIN = `<title>Sign in | Every Shop</title><form method=post ${go('/login')}><label>User <input id=user name=user></label>
+  ${PASSWORD}<button>Log in</button></form>`;
+const ONE_PAGE = `<title>App</title><div id=app><input id=user placeholder="E-mail">${PASSWORD}<button id=send>Log in</button></div>
+  <script>app.onclick = async ({ target }) => {
+    if (target.id !== 'send') return;
+    const { value } = pw;
+    await fetch('/api', { method: 'POST' });
+    app.innerHTML = /^wrong/.test(value) ? app.innerHTML : '<h1>Hello</h1>';
+  }</script>`;
+const DARK = `<title>Dark</title><b id=host></b><script>
+  const root = host.attachShadow({ mode: 'closed' });
+  root.innerHTML = '<form><input name=user value=dora autofocus><input name=pw type=password><button>Log in</button></form>';
+  root.querySelector('form').onsubmit = (event) => { event.preventDefault(); host.remove(); };
+  onclick = () => root.querySelector('[name=pw]').focus();
+</script>`;
+const PAGES = {
+  '/login': LOGIN,
+  '/change': `<title>Change</title><form method=post action=/home><input id=old name=old type=password placeholder="Current password">
+    <input id=new name=new type=password placeholder="New password" autocomplete=new-password>
+    <input id=again name=again type=password placeholder="Repeat it" autocomplete=new-password><button>Save</button></form>`,
+  '/steps': '<form method=post action=/second><input id=user name=email type=email><button>Next</button></form>',
+  '/second': `<form method=post ${go('/second')}>${PASSWORD}<button>Log in</button></form>`,
+  '/app': ONE_PAGE,
+  '/dark': DARK,
+  '/home': '<h1>Hello</h1>',
+  '/api': '{}',
+};
+
+const limit = { timeout: 60000 };
+const shops = BROWSERS.flatMap((kind) => [`shop-of-${kind}.example`, `not-of-${kind}.example`, `last-of-${kind}.example`]);
+const stage = makeStage({ pages: PAGES, hosts: shops });
+
+const isOffered = () => stage.desktop.isVisible(OFFER);
+
+/** Waits for the window with the offer and presses keys in it; then there is none, and none behind it. */
+async function answer(...keys) {
+  await stage.desktop.activate(OFFER);
+  await stage.desktop.press(...keys);
+  await stage.program.until(async () => !(await isOffered()), 'the end of the offer');
+}
+
+test('a safe', limit, () => stage.user.createSafe('Personal', 'first Master 1!', 'the first'));
+
+stage.inEachBrowser((kind) => {
+  const [shop, other, last] = [`shop-of-${kind}.example`, `not-of-${kind}.example`, `last-of-${kind}.example`];
+  const pages = new Map();
+  let page;
+  let turn = 0;
+
+  async function open(path, host = shop) {
+    const tab = host === last ? last : shop;
+    if (!pages.has(tab)) pages.set(tab, await stage.browser.browser.newPage());
+    page = pages.get(tab);
+    await page.bringToFront();
+    await page.goto(stage.at(path, host));
+  }
+
+  async function type(texts, end = () => page.keyboard.press('Enter')) {
+    for (const [selector, text] of Object.entries(texts)) {
+      await page.click(selector, { count: 3 });
+      await page.type(selector, text);
+    }
+    await end();
+  }
+
+  const logIn = (user, password) => type({ '#user': user, '#pw': password });
+  const arrived = (path) => page.waitForFunction((end) => location.pathname === end && document.readyState === 'complete', {}, path);
+  const count = () => stage.program.items().length;
+
+  // What was not offered before a login that was sent after it is never offered.
+  async function nothingIsOffered() {
+    await open('/login', last);
+    await logIn('last', `${SECRETS[4]}${(turn += 1)}`);
+    await answer('Escape');
+  }
+
+  test('a login is added once its page has accepted it, and is known then', limit, async () => {
+    await open('/login');
+    await logIn('ana', 'wrong');
+    await arrived('/login');
+    await nothingIsOffered();
+    const before = count();
+    await open('/login');
+    await stage.user.openWindow();
+    await logIn('ana', SECRETS[0]);
+    await stage.program.until(isOffered, 'the offer');
+    assert.equal(await stage.desktop.activeTitle(), 'Personal - Glaceron Password Manager');
+    if (process.env.PICTURES) await stage.desktop.picture(`${process.env.PICTURES}/save-${kind}.png`);
+    await answer('Return');
+    await stage.program.until(() => count() === before + 1, 'the login on the disk');
+    await open('/login');
+    await logIn('ANA', SECRETS[0]);
+    await arrived('/home');
+    await nothingIsOffered();
+  });
+
+  test('a changed password updates it', limit, async () => {
+    const before = count();
+    await open('/change');
+    await type({ '#old': SECRETS[0], '#new': SECRETS[1], '#again': SECRETS[1] });
+    await answer('Return');
+    assert.equal(count(), before);
+    await open('/login');
+    await logIn('ana', SECRETS[1]);
+    await arrived('/home');
+    await nothingIsOffered();
+  });
+
+  test('user name and password of two pages, and of one that is never left', limit, async () => {
+    for (const expected of [() => answer('Return'), nothingIsOffered]) {
+      await open('/steps');
+      await type({ '#user': 'bob@mail.example' });
+      await page.waitForSelector('#pw');
+      await type({ '#pw': SECRETS[2] });
+      await arrived('/home');
+      await expected();
+    }
+    await open('/app');
+    await type({ '#user': 'carl@mail.example', '#pw': 'wrong' }, () => page.click('#send'));
+    await page.waitForFunction(() => document.querySelector('#pw').value === '');
+    await type({ '#user': 'carl@mail.example', '#pw': SECRETS[3] }, () => page.click('#send'));
+    await answer('Escape');
+  });
+
+  test('a login in a closed shadow tree', limit, async () => {
+    await open('/dark');
+    await page.click('body');
+    await page.keyboard.type(SECRETS[5]);
+    await page.keyboard.press('Enter');
+    await answer('Escape');
+  });
+
+  test('never for a site', limit, async () => {
+    await open('/login', other);
+    await logIn('eve', SECRETS[4]);
+    await answer('shift+Tab', 'shift+Tab', 'space');
+    await open('/login', other);
+    await logIn('eve', 'another');
+    await arrived('/home');
+    await nothingIsOffered();
+  });
+
+  test('on a locked safe the master password is asked for in place', limit, async () => {
+    await stage.user.lock();
+    await open('/login');
+    await logIn('fred', SECRETS[6]);
+    await stage.desktop.activate(OFFER);
+    const before = count();
+    await stage.desktop.type('first Master 1!');
+    await stage.desktop.press('Return');
+    await stage.user.openWindow();
+    await answer('Return');
+    assert.equal(count(), before + 1);
+  });
+});
+
+test('nothing that was typed lies about in the user\'s home', limit, () => {
+  execFileSync('grep', ['-rqF', 'the first', stage.program.home]); // what is no secret is found
+  for (const text of [...SECRETS, 'bob@mail.example']) {
+    assert.throws(() => execFileSync('grep', ['-rqF', text, stage.program.home]), ({ status }) => status === 1, text);
+  }
+});

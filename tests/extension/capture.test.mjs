@@ -1,0 +1,152 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { buildSync } from 'esbuild';
+import { createClock } from './clock.mjs';
+import { callPage, openPage } from './page.mjs';
+
+const source = new URL('../../extension/src/page/capture.js', import.meta.url).pathname;
+const script = buildSync({ entryPoints: [source], bundle: true, write: false, format: 'iife', globalName: 'capture' }).outputFiles[0].text;
+
+const LOGIN = '<form><input name=user value=ana><input name=pw type=password><button>Log in</button></form>';
+
+/** A page in which logins are watched; said: what the background script was told, "away" for the end of a port. */
+function open(html, { title = 'Sign in - Shop' } = {}) {
+  const clock = createClock();
+  const window = openPage(`<title>${title}</title>${html}`, { clock });
+  Object.defineProperty(window.performance, 'now', { value: clock.now });
+  const said = [];
+  window.connect = () => ({ postMessage: (message) => said.push(JSON.parse(JSON.stringify(message))), disconnect() {} });
+  window.eval(`${script}; capture.watchLogins({ connect, isReal: (event) => !event.forged })`);
+  const { document } = window;
+  const find = (selector) => document.querySelector(selector);
+  const fire = (element, type, { forged = false, ...more } = {}) => {
+    const event = Object.assign(new window.Event(type, { bubbles: true, composed: true, cancelable: true }), { forged, ...more });
+    element.dispatchEvent(event);
+  };
+  return {
+    clock, window, document, find, fire,
+    said: () => said.splice(0),
+    type(selector, text, options) {
+      const field = typeof selector === 'string' ? find(selector) : selector;
+      field.value = text;
+      fire(field, 'input', options);
+    },
+    click: (selector, options) => fire(find(selector), 'click', { detail: 0, ...options }),
+    submit: (selector = 'form', options) => fire(find(selector), 'submit', options),
+    enter: (selector) => fire(find(selector), 'keydown', { key: 'Enter' }),
+  };
+}
+
+/** What was submitted, field by field: "name=value". */
+const values = ({ submitted }) => submitted.fields.filter(({ value }) => value !== undefined).map(({ name, value }) => `${name}=${value}`).join(' ');
+
+const SENT = [
+  ['a form that is sent', LOGIN, (page) => page.submit()],
+  ['a button whose page sends by itself', LOGIN, (page) => page.click('button')],
+  ['Enter', LOGIN, (page) => page.enter('[name=pw]')],
+  ['no form, a button', LOGIN.replaceAll('form', 'div'), (page) => page.click('button')],
+  ['no form, a link', `${LOGIN.replaceAll('form', 'div')}`.replace(/button/g, 'a'), (page) => page.click('a')],
+  ['no form, a picture in a button', LOGIN.replaceAll('form', 'div').replace('Log in', '<b>Log in</b>'), (page) => page.click('b')],
+];
+for (const [what, html, send] of SENT) {
+  test(`a typed login is reported: ${what}`, () => {
+    const page = open(html);
+    page.type('[name=pw]', 'secret');
+    send(page);
+    const [message, ...more] = page.said();
+    assert.deepEqual([values(message), message.submitted.siteName, more], ['user=ana pw=secret', 'Shop', []]);
+    assert.deepEqual(message.shape, { passwords: 1, lines: 1, fresh: false });
+    send(page); // the same once more
+    assert.deepEqual(page.said(), []);
+  });
+}
+
+const NOT_SENT = [
+  ['what nobody typed', (page) => { page.find('[name=pw]').value = 'filled'; page.submit(); }],
+  ['what a script typed', (page) => { page.type('[name=pw]', 'x', { forged: true }); page.submit(); }],
+  ['what a script sent', (page) => { page.type('[name=pw]', 'x'); page.submit('form', { forged: true }); }],
+  ['a look under the dots', (page) => { page.type('[name=pw]', 'x'); page.click('#eye'); }],
+  ['a forgotten password', (page) => { page.type('[name=pw]', 'x'); page.click('#forgot'); }],
+  ['a code that is good once', (page) => { page.find('[name=pw]').autocomplete = 'one-time-code'; page.type('[name=pw]', '123456'); page.submit(); }],
+];
+for (const [what, act] of NOT_SENT) {
+  test(`not reported: ${what}`, () => {
+    const page = open(LOGIN.replace('<button>', '<button type=button id=eye>Show</button><a id=forgot>Forgot password?</a><button>'));
+    act(page);
+    assert.equal(page.said().filter(({ submitted }) => submitted).length, 0);
+  });
+}
+
+test('what the program filled is reported once it was changed, what it made up at once', async () => {
+  const page = open(LOGIN);
+  const fill = async (isNew) => {
+    const { forms } = await callPage(page.window, 'collect');
+    const { opid, gpmid } = forms[0].fields[1];
+    await callPage(page.window, 'fill', { formUid: forms[0].formUid, elements: [{ opid, gpmid, value: 'filled' }], isNew });
+  };
+  page.type('[name=pw]', 'typed');
+  await fill(false);
+  page.submit();
+  assert.deepEqual(page.said(), []);
+  page.type('[name=pw]', 'filled and changed');
+  page.submit();
+  assert.equal(values(page.said()[0]), 'user=ana pw=filled and changed');
+  await fill(true);
+  page.submit();
+  assert.equal(values(page.said().at(-1)), 'user=ana pw=filled');
+});
+
+test('a password that is shown as text, and one in a shadow tree whose name stands in another', () => {
+  const shown = open(LOGIN);
+  shown.type('[name=pw]', 'secret');
+  shown.find('[name=pw]').type = 'text';
+  shown.submit();
+  assert.equal(shown.said()[0].submitted.fields[1].type, 'password');
+
+  const page = open(`<div><span data-shadow="<input name=user value=ana>"></span><span data-shadow="<input name=pw type=password>"></span><button>Log in</button></div>`);
+  page.type(page.document.querySelectorAll('span')[1].shadowRoot.firstChild, 'secret');
+  page.click('button');
+  assert.equal(values(page.said()[0]), 'user=ana pw=secret');
+});
+
+test('the user name of a page before, and the one that a page keeps hidden', () => {
+  const first = open('<form><input name=email value=ana@b.c><button>Next</button></form><form id=search><input name=q value=shoes></form>');
+  first.submit('#search');
+  assert.deepEqual(first.said(), []);
+  first.submit();
+  assert.equal(first.said()[0].name, 'ana@b.c');
+  const second = open('<form><input type=hidden name=token value=t><input type=hidden name=username value=ana><input name=pw type=password></form>');
+  second.type('[name=pw]', 'secret');
+  second.submit();
+  assert.equal(second.said()[0].submitted.login, 'ana');
+});
+
+const CHANGE = '<form><input name=old type=password><input name=new type=password><input name=again type=password><p class=error></p><button>Save</button></form>';
+// What the page does after the form was sent, and what is said of it within the time.
+const OUTCOMES = [
+  ['the form stays', LOGIN, () => {}, 40000, 'dropped'],
+  ['the form goes', LOGIN, (page) => page.find('form').remove(), 2500, 'accepted'],
+  ['the form is away for a moment', LOGIN, async (page) => {
+    const form = page.find('form');
+    form.style.display = 'none';
+    await page.clock.advance(1000);
+    form.style.display = '';
+  }, 40000, 'dropped'],
+  ['the form is drawn anew', LOGIN, (page) => { page.document.body.innerHTML = `<p role=alert>Wrong</p>${LOGIN}`; }, 40000, 'dropped'],
+  ['the form goes, and something turns', LOGIN, (page) => { page.document.body.innerHTML = '<progress></progress>'; }, 2500, undefined],
+  ['a code is asked for', LOGIN, (page) => { page.document.body.innerHTML = '<input name=code>'; }, 2500, 'accepted'],
+  ['another form with a password comes', LOGIN, (page) => { page.document.body.innerHTML = CHANGE; }, 2500, 'accepted'],
+  ['a password is changed, and its form emptied', CHANGE, (page) => page.find('form').reset(), 2500, 'accepted'],
+  ['a password is not changed', CHANGE, (page) => { page.find('form').reset(); page.find('p').textContent = 'Too short'; }, 40000, 'dropped'],
+];
+for (const [what, html, act, time, expected] of OUTCOMES) {
+  test(`after a login was sent: ${what}`, async () => {
+    const page = open(html);
+    for (const field of page.document.querySelectorAll('[type=password]')) page.type(field, 'secret');
+    page.submit();
+    assert.ok(page.said()[0].submitted);
+    await act(page);
+    await page.clock.advance(time);
+    assert.deepEqual(page.said().flatMap(Object.keys), expected ? [expected] : []);
+  });
+}

@@ -1,0 +1,90 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { startBrowser } from './fake-browser.mjs';
+
+const LOGIN = '<form><input name=user><input name=pw type=password></form>';
+const CHANGE = '<form><input name=old type=password><input name=new type=password></form>';
+const WEB = {
+  'https://shop.example/login': LOGIN,
+  'https://shop.example/again': `<p>Wrong</p>${LOGIN}`,
+  'https://shop.example/in': '<p>Welcome</p>',
+  'https://shop.example/change': CHANGE,
+  'https://my.shop.example/in': { html: '<p>Welcome</p>', frames: [['https://my.shop.example/frame', 'https://my.shop.example/']] },
+  'https://my.shop.example/frame': LOGIN,
+  'https://bank.example/login': LOGIN,
+};
+const SHAPE = { passwords: 1, lines: 1, fresh: false };
+const submitted = (more) => ({ submitted: { title: 'Shop', fields: [], ...more }, shape: SHAPE, around: [] });
+
+async function sent(browser, tabId = 1, more = {}) {
+  const port = browser.openLoginPort(tabId);
+  await port.say({ ...submitted(), ...more });
+  const { payload } = browser.received().find(({ action }) => action === 'loginSubmitted');
+  return { port, id: payload.captureId, login: payload.login };
+}
+
+async function opened(url = 'https://shop.example/login') {
+  const browser = await startBrowser(WEB);
+  browser.addTab(url);
+  await browser.clock.advance(0);
+  return browser;
+}
+
+const told = (browser) => browser.received().map(({ action, payload }) => [action, payload.login?.captureId ?? payload.captureId]);
+
+// Where the tab goes after a login was sent from the login page, and what the program is told then.
+const OUTCOMES = [
+  ['https://shop.example/in', 'saveLogin'],
+  ['https://shop.example/again', 'loginDropped'],
+  ['https://shop.example/change', 'saveLogin'],
+  ['https://my.shop.example/in', 'loginDropped'], // asked for again in a frame
+  ['https://bank.example/login', 'saveLogin'], // another site's form
+  ['https://nowhere.example/', 'loginDropped'],
+];
+for (const [url, action] of OUTCOMES) {
+  test(`the page after a login: ${url}`, async () => {
+    const browser = await opened();
+    const { port, id, login } = await sent(browser);
+    assert.deepEqual([login.url, login.domain, login.faviconUrl], ['https://shop.example/login', 'shop.example', 'https://shop.example/i.png']);
+    await browser.go(1, url);
+    await port.end();
+    await browser.clock.advance(30000);
+    assert.deepEqual(told(browser), [[action, id]]);
+    await browser.clock.advance(60000);
+    assert.deepEqual(told(browser), []);
+  });
+}
+
+test('what the page itself says of its login', async () => {
+  const browser = await opened();
+  for (const [word, action] of [['accepted', 'saveLogin'], ['dropped', 'loginDropped']]) {
+    const { port, id } = await sent(browser);
+    await port.say({ [word]: true });
+    await port.end();
+    assert.deepEqual(told(browser), [[action, id]]);
+  }
+  const first = await sent(browser);
+  await browser.openLoginPort(1).say(submitted()); // sent once more
+  assert.deepEqual(told(browser).map(([action, id]) => [action, id === first.id]), [['loginDropped', true], ['loginSubmitted', false]]);
+  await first.port.say({ accepted: true });
+  assert.deepEqual(told(browser), []);
+  await browser.closeTab(1);
+  assert.deepEqual(told(browser).map(([action]) => action), ['loginDropped']);
+});
+
+test('frames of another site report nothing', async () => {
+  const browser = await opened();
+  await browser.openLoginPort(1, 'https://bank.example').say(submitted());
+  await browser.openLoginPort(1, 'http://shop.example').say(submitted());
+  await browser.openLoginPort(1).say({ ...submitted(), around: ['https://shop.example', 'https://bank.example'] });
+  assert.deepEqual(told(browser), []);
+});
+
+test('the user name of a page before goes with the password, for its own site and for a while', async () => {
+  const browser = await opened();
+  await browser.openLoginPort(1).say({ name: 'ana' });
+  assert.equal((await sent(browser)).login.login, 'ana');
+  assert.equal((await sent(browser, 1, submitted({ login: 'bob' }))).login.login, 'bob');
+  await browser.go(1, 'https://bank.example/login');
+  assert.equal((await sent(browser)).login.login, undefined);
+});
