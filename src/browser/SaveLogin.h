@@ -26,9 +26,9 @@ struct SaveLoginRequest
 
     QString host() const;
 
-    /// From the data of "saveLogin": "title" or "siteName", "url" (or "domain"), "faviconUrl", "posx", "posy",
-    /// "width", "height", and the login itself as "fields" of the submitted form, or as "login" and
-    /// "password". A "login" beside fields is the user name of a page before.
+    /// From the data of "saveLogin": "title" or "siteName", "url" (or "domain"), "faviconUrl",
+    /// "posx", "posy", "width", "height", and the login itself as "fields" of the submitted form,
+    /// or as "login" and "password". A "login" beside fields is the user name of a page before.
     static SaveLoginRequest fromData(const QJsonObject &data);
 };
 
