@@ -94,8 +94,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void request_data();
-    void request();
+    void asks_data();
+    void asks();
     void refusedItems();
     void wrongAddress();
     void withoutExtension();
@@ -115,8 +115,14 @@ private Q_SLOTS:
     void clearForgetsAll();
 
 private:
-    void requestLogin(const QString &callerId = QString(), const QString &option = QString());
-    QJsonObject reply(const QString &forms, const QString &tabUrl = site) const;
+    void become(const QString &kind);
+    void request(const QString &kind, const QString &callerId = {}, const QString &option = {});
+    void requestLogin(const QString &callerId = {}, const QString &option = {})
+    {
+        request(QStringLiteral("login"), callerId, option);
+    }
+    QJsonObject reply(const QString &forms, const QString &tabUrl = site,
+                      const QString &reason = QStringLiteral("login")) const;
     QJsonObject placeReply();
     QString answer(const QJsonObject &payload,
                    const QString &action = QStringLiteral("collectDocumentResults"));
@@ -173,19 +179,39 @@ void TestFormFillFlow::cleanup()
     m_server.reset();
 }
 
+/// Makes the item one of the kind "creditcard" or "identity".
+void TestFormFillFlow::become(const QString &kind)
+{
+    auto card = std::make_unique<PMCreditCard>();
+    card->setNumber(QStringLiteral("4111111111111111"));
+    auto identity = std::make_unique<PMIdentity>();
+    identity->setCity(QStringLiteral("Kassel"));
+    if (kind == QLatin1String("identity"))
+        m_item = std::move(identity);
+    else
+        m_item = std::move(card);
+    m_item->setId(itemId);
+}
+
 /// Leaves the payload that the extension got in m_request; empty when it got none.
-void TestFormFillFlow::requestLogin(const QString &callerId, const QString &option)
+void TestFormFillFlow::request(const QString &kind, const QString &callerId, const QString &option)
 {
     m_client->frames.clear();
-    m_flow->doLoginDefaultAction(itemId, callerId, option);
+    if (kind == QLatin1String("creditcard"))
+        m_flow->doCreditCardDefaultAction(itemId, callerId, option);
+    else if (kind == QLatin1String("identity"))
+        m_flow->doIdentityDefaultAction(itemId, callerId, option);
+    else
+        m_flow->doLoginDefaultAction(itemId, callerId, option);
     m_client->sayHello();
     m_request = m_client->frames.isEmpty() ? QJsonObject() : payloadOf(m_client->frames.last());
 }
 
 /// An answer to the latest request.
-QJsonObject TestFormFillFlow::reply(const QString &forms, const QString &tabUrl) const
+QJsonObject TestFormFillFlow::reply(const QString &forms, const QString &tabUrl,
+                                    const QString &reason) const
 {
-    return {{QStringLiteral("reason"), QStringLiteral("login")},
+    return {{QStringLiteral("reason"), reason},
             {QStringLiteral("itemid"), itemId},
             {QStringLiteral("timestamp"), m_request.value(QLatin1String("timestamp"))},
             {QStringLiteral("tabUrl"), tabUrl},
@@ -202,7 +228,7 @@ QString TestFormFillFlow::answer(const QJsonObject &payload, const QString &acti
     return summary(m_client->frames);
 }
 
-void TestFormFillFlow::request_data()
+void TestFormFillFlow::asks_data()
 {
     QTest::addColumn<QString>("url");
     QTest::addColumn<QString>("option");
@@ -222,7 +248,7 @@ void TestFormFillFlow::request_data()
                                << "currentNoReload";
 }
 
-void TestFormFillFlow::request()
+void TestFormFillFlow::asks()
 {
     QFETCH(QString, url);
     QFETCH(QString, option);
@@ -274,83 +300,15 @@ void TestFormFillFlow::withoutExtension()
     QCOMPARE(open, (QList<QVariantList>{address, address}));
 }
 
-// Each line is an answer to one request, "action address forms", and what the extension then gets.
-// The page that is open is filled, whatever its site, when it is encrypted, and once for a request.
 void TestFormFillFlow::cardsAndIdentities()
 {
-    auto card = std::make_unique<PMCreditCard>();
-    card->setNumber(QStringLiteral("4111111111111111"));
-    auto identity = std::make_unique<PMIdentity>();
-    identity->setCity(QStringLiteral("Kassel"));
-    using Action = void (FormFillFlow::*)(const QString &, const QString &, const QString &);
-    struct Kind
-    {
-        std::unique_ptr<PMListItem> item;
-        Action act;
-        const char *reason;
-        const char *filled;
-    };
-    Kind kinds[] = {{std::move(card), &FormFillFlow::doCreditCardDefaultAction, "creditcard",
-                     "card(4111111111111111)"},
-                    {std::move(identity), &FormFillFlow::doIdentityDefaultAction, "identity",
-                     "person(Kassel)"}};
-    const QString all = QStringLiteral("login+card+person");
-    for (Kind &kind : kinds) {
-        m_item = std::move(kind.item);
-        m_item->setId(itemId);
-        m_client->frames.clear();
-        (m_flow.get()->*kind.act)(itemId, {}, QStringLiteral("current"));
-        m_client->sayHello();
-        m_request = payloadOf(m_client->frames.last());
-        QCOMPARE(text(m_request, "reason"), QLatin1String(kind.reason));
+    for (const auto &kind : {QStringLiteral("creditcard"), QStringLiteral("identity")}) {
+        become(kind);
+        request(kind);
+        QCOMPARE(text(m_request, "reason"), kind);
         QCOMPARE(text(m_request, "openmode"), QStringLiteral("currentNoReload"));
-
-        QJsonObject payload = reply(all, QStringLiteral("https://elsewhere.example"));
-        expectWarning(discardedReply); // it says that it is for a login
-        QCOMPARE(answer(payload), QString());
-        payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
-        m_now += 31000; // the user may be on another page by now
-        expectWarning(discardedReply);
-        QCOMPARE(answer(payload), QString());
-        m_now -= 31000;
-        expectWarning(discardedReply);
-        QCOMPARE(answer(payload), QString());
-
-        (m_flow.get()->*kind.act)(itemId, {}, QStringLiteral("current"));
-        m_client->sayHello();
-        payload.insert(QStringLiteral("timestamp"),
-                       payloadOf(m_client->frames.last()).value(QLatin1String("timestamp")));
-        m_now += 30000;
-        QSignalSpy used(m_flow.get(), &FormFillFlow::itemUsed);
-        QCOMPARE(answer(payload), QLatin1String(kind.filled));
-        QCOMPARE(text(payloadOf(m_client->frames.first()), "reason"), QLatin1String(kind.reason));
-        QCOMPARE(used.size(), 1);
-        expectWarning(discardedReply);
-        QCOMPARE(answer(payload), QString());
-
-        QSignalSpy notice(m_flow.get(), &FormFillFlow::userNotice);
-        (m_flow.get()->*kind.act)(itemId, {}, {});
-        m_client->sayHello();
-        m_request = payloadOf(m_client->frames.last());
-        payload = reply(QStringLiteral("search"));
-        payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
-        QCOMPARE(answer(payload), QString());
-        QCOMPARE(notice.size(), 1);
-
-        used.clear();
-        for (const char *readable :
-             {"http://shop.example/", "http://127.0.0.1/", "", "file:///a"}) {
-            notice.clear();
-            (m_flow.get()->*kind.act)(itemId, {}, {});
-            m_client->sayHello();
-            m_request = payloadOf(m_client->frames.last());
-            payload = reply(all, QLatin1String(readable));
-            payload.insert(QStringLiteral("reason"), QLatin1String(kind.reason));
-            QCOMPARE(answer(payload), QString());
-            QCOMPARE(notice.value(0).value(0).toString(),
-                     QStringLiteral("This page is not encrypted"));
-        }
-        QVERIFY(used.isEmpty());
+        answer(reply(QStringLiteral("card+person"), site, kind));
+        QCOMPARE(text(payloadOf(m_client->frames.first()), "reason"), kind);
     }
     expectWarning("^Can't fill credit card data. Item must be type of \\[Credit Card\\].");
     m_flow->doCreditCardDefaultAction(itemId, {}, {});
@@ -364,6 +322,9 @@ void TestFormFillFlow::cardsAndIdentities()
     QCOMPARE(notice.size(), 1);
 }
 
+// Each line is an answer to the request, "action address forms", and what the extension then gets
+// and the user is told. A card and an identity are filled into the page that is open, whatever its
+// site, when it is encrypted, and once for a request.
 void TestFormFillFlow::conversation_data()
 {
     QTest::addColumn<QStringList>("lines");
@@ -408,6 +369,27 @@ void TestFormFillFlow::conversation_data()
     row("extension fills", fills, "main-submits from-extension");
     row("login submits", submits, "login-submits from-extension");
     row("login fills", fills, "login-fills main-submits");
+
+    const char *const open[][2] = {{"creditcard", "card(4111111111111111)"},
+                                   {"identity", "person(Kassel)"}};
+    for (const auto &kind : open) {
+        const QByteArray all = "https://elsewhere.example/ login+card+person -> ";
+        const QByteArray page = "page " + all;
+        const QByteArray filled = page + kind[1] + " used";
+        const QByteArray discarded = page + "discarded";
+        const auto rowOf = [&](const char *name, const QByteArray &lines) {
+            row((QByteArray(kind[0]) + ", " + name).constData(), lines.constData(), kind[0]);
+        };
+        rowOf("once", filled + " | " + discarded);
+        rowOf("as a login", "login " + all + "discarded");
+        // The user may be on another page by now.
+        rowOf("late", "wait 31000 | " + discarded + " | wait -31000 | " + discarded);
+        rowOf("in time", "wait 30000 | " + filled);
+        rowOf("nothing to fill", "page site search -> told");
+        for (const char *readable :
+             {"http://shop.example/", "http://127.0.0.1/", "''", "file:///a"})
+            rowOf(readable, "page " + QByteArray(readable) + " card+person -> unencrypted");
+    }
 }
 
 void TestFormFillFlow::conversation()
@@ -423,19 +405,38 @@ void TestFormFillFlow::conversation()
         m_login->setFillType(PMFieldTypes::LoginFillType::FillAndSubmit);
     if (isGiven("login-fills"))
         m_login->setFillType(PMFieldTypes::LoginFillType::OnlyFill);
-    requestLogin(isGiven("from-extension") ? m_callerId : QString());
+    QString kind = QStringLiteral("login");
+    if (isGiven("creditcard") || isGiven("identity"))
+        become(kind = given);
+    request(kind, isGiven("from-extension") ? m_callerId : QString());
     for (const QString &line : qAsConst(lines)) {
         const QStringList words = line.section(QLatin1String(" ->"), 0, 0).split(QLatin1Char(' '));
         const QString expected = line.section(QLatin1String(" ->"), 1).trimmed();
+        if (words.at(0) == QLatin1String("wait")) {
+            m_now += words.at(1).toInt();
+            continue;
+        }
         const bool isDiscarded = expected == QLatin1String("discarded");
         if (isDiscarded)
             expectWarning(discardedReply);
-        const bool isAddress = words.at(1) != QLatin1String("site");
-        const QJsonObject payload = reply(words.at(2), isAddress ? words.at(1) : site);
+        const QString address = words.at(1) == QLatin1String("site")
+                                    ? site
+                                    : QString(words.at(1)).remove(QLatin1Char('\''));
+        const bool isForLogin = words.at(0) != QLatin1String("page");
+        const QJsonObject payload =
+            reply(words.at(2), address, isForLogin ? QStringLiteral("login") : kind);
+        QSignalSpy notice(m_flow.get(), &FormFillFlow::userNotice);
+        QSignalSpy used(m_flow.get(), &FormFillFlow::itemUsed);
         const bool isLoginPage = words.at(0) == QLatin1String("loginpage");
-        const QString sent =
+        QString outcome =
             isLoginPage ? answer(payload, QStringLiteral("loginPageLoaded")) : answer(payload);
-        QCOMPARE(sent, isDiscarded ? QString() : expected);
+        if (kind != QLatin1String("login")) {
+            const QString told = notice.value(0).value(0).toString();
+            const bool isOpen = told == QLatin1String("This page is not encrypted");
+            outcome += QLatin1String(isOpen ? "unencrypted" : told.isEmpty() ? "" : "told");
+            outcome += QLatin1String(used.isEmpty() ? "" : " used");
+        }
+        QCOMPARE(outcome, isDiscarded ? QString() : expected);
     }
 }
 
