@@ -43,16 +43,6 @@ public:
     }
 };
 
-void copyFiles(const QString &from, const QString &to)
-{
-    const QMap<QString, QByteArray> files = snapshot(from);
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        const QString path = to + QLatin1Char('/') + file.key();
-        QDir().mkpath(QFileInfo(path).path());
-        writeFile(path, file.value());
-    }
-}
-
 /// What one computer has: its own settings and safes, and a cloud folder that it shares.
 struct Computer
 {
@@ -198,8 +188,7 @@ private Q_SLOTS:
         const QString first = m_one->add(QStringLiteral("first"));
         QVERIFY(m_one->safe->saveChanges());
         const QString copy = path("two/copied");
-        copyFiles(m_one->safe->folder(), copy);
-        QVERIFY(QDir(copy).mkpath(QStringLiteral("attachment")));
+        writeSafe(copy, snapshot(m_one->safe->folder()));
         const QString second = m_one->add(QStringLiteral("second"));
         const MirrorChoice made = m_one->turnOn();
         QVERIFY(made.good() && !made.joins);
@@ -376,11 +365,11 @@ private Q_SLOTS:
         share();
         const QString folder = m_one->safe->folder();
         const QString away = path("away");
-        copyFiles(m_mirror, away);
+        writeFiles(away, snapshot(m_mirror));
         m_one->sync.turnOff(folder, true);
         m_one->sync.finish();
         m_one.reset();
-        copyFiles(away, m_mirror);
+        writeFiles(m_mirror, snapshot(away));
         QVERIFY(QFile::remove(m_mirror + QStringLiteral("/safe.passid")));
         if (used) {
             SafeFacts facts(path("one/safes.json"));

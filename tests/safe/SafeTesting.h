@@ -37,16 +37,28 @@ inline QMap<QString, QByteArray> snapshot(const QString &folder)
     return files;
 }
 
-/// A copy of the sample safe that another implementation made.
-inline void copySampleSafe(const QString &folder)
+/// Writes what a snapshot holds into a folder, which is made where it is not there.
+inline void writeFiles(const QString &folder, const QMap<QString, QByteArray> &files)
 {
-    const QString sample = QStringLiteral(TEST_DATA_DIR "/safe");
-    const QMap<QString, QByteArray> files = snapshot(sample);
     for (auto file = files.begin(); file != files.end(); ++file) {
         const QString path = folder + QLatin1Char('/') + file.key();
         QDir().mkpath(QFileInfo(path).path());
         writeFile(path, file.value());
     }
+}
+
+/// The same as a safe's folder, which has its inner folders even when they are empty.
+inline void writeSafe(const QString &folder, const QMap<QString, QByteArray> &files)
+{
+    for (const char *inner : {"content", "attachment", "favicon"})
+        QDir().mkpath(folder + QLatin1Char('/') + QLatin1String(inner));
+    writeFiles(folder, files);
+}
+
+/// A copy of the sample safe that another implementation made.
+inline void copySampleSafe(const QString &folder)
+{
+    writeFiles(folder, snapshot(QStringLiteral(TEST_DATA_DIR "/safe")));
 }
 
 /// Real files, but the operation of the given number fails: a write as it does on a full disk.

@@ -70,11 +70,7 @@ public:
     {
         for (const QString &name : namesIn(m_folder))
             QDir(m_folder + QLatin1Char('/') + name).removeRecursively();
-        for (auto file = m_before.begin(); file != m_before.end(); ++file) {
-            const QString path = m_folder + QLatin1Char('/') + file.key();
-            QDir().mkpath(QFileInfo(path).path());
-            writeFile(path, file.value());
-        }
+        writeFiles(m_folder, m_before);
     }
 
     using Report = std::function<void(WorkControl &control, qint64 done, qint64 total)>;

@@ -239,13 +239,8 @@ public:
         if (!GPMSafe(m_computers[0].environment(m_time))
                  .init(m_computers[0].safe.root(), samplePassword, QStringLiteral("Mine"), {}))
             qFatal("no safe");
-        const QMap<QString, QByteArray> files = snapshot(m_computers[0].safe.root());
-        for (int i = 1; i < 3; ++i) {
-            for (const char *inner : {"content", "attachment", "favicon"})
-                QDir().mkpath(m_computers[i].safe.path(inner));
-            for (auto file = files.begin(); file != files.end(); ++file)
-                writeFile(m_computers[i].safe.root() + QLatin1Char('/') + file.key(), file.value());
-        }
+        for (int i = 1; i < 3; ++i)
+            writeSafe(m_computers[i].safe.root(), snapshot(m_computers[0].safe.root()));
     }
 
     void step()

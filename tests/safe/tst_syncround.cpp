@@ -89,17 +89,6 @@ void makeOld(const QString &path)
                         fs::file_time_type::clock::now() - std::chrono::hours(1), none);
 }
 
-void copyFolder(const QString &from, const QString &to)
-{
-    const QMap<QString, QByteArray> files = snapshot(from);
-    for (const char *inner : {"content", "attachment", "favicon"})
-        QDir().mkpath(to + QLatin1Char('/') + QLatin1String(inner));
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        if (!file.key().endsWith(QLatin1String("safe.sync")))
-            writeFile(to + QLatin1Char('/') + file.key(), file.value());
-    }
-}
-
 } // namespace
 
 class TestSyncRound : public QObject
@@ -196,10 +185,7 @@ private:
     {
         for (auto side = m_before.begin(); side != m_before.end(); ++side) {
             QDir(side.key()).removeRecursively();
-            for (const char *inner : {"content", "attachment", "favicon"})
-                QDir().mkpath(side.key() + QLatin1Char('/') + QLatin1String(inner));
-            for (auto file = side->begin(); file != side->end(); ++file)
-                writeFile(side.key() + QLatin1Char('/') + file.key(), file.value());
+            writeSafe(side.key(), side.value());
         }
         m_one.files->operations = 0;
     }
@@ -219,7 +205,7 @@ private Q_SLOTS:
             GPMSafe safe(m_one.environment());
             QVERIFY(safe.init(m_one.folder, samplePassword, QStringLiteral("Mine"), {}));
         }
-        copyFolder(m_one.folder, m_two.folder);
+        writeSafe(m_two.folder, snapshot(m_one.folder));
     }
 
     void exchanges()
@@ -514,8 +500,7 @@ private Q_SLOTS:
         remove(m_two, id);
         // The provider of the second computer finds that the first one was quicker.
         const QString replica = m_temporary->filePath(QStringLiteral("replica"));
-        QDir().mkpath(replica);
-        copyFolder(m_mirror, replica);
+        writeSafe(replica, snapshot(m_mirror));
         QCOMPARE(m_two.synchronise(replica).state, SyncState::Done);
         for (const char *name : {"passid", "meta", "restore", "deletions"}) {
             const QString ending = QLatin1Char('.') + QLatin1String(name);
