@@ -6,7 +6,7 @@
 
 namespace {
 
-const int longestWaitMs = 2000;
+const int longestWaitMs = 500;
 
 void look(QFileSystemWatcher &watcher, const QStringList &folders)
 {
