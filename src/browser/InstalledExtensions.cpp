@@ -40,8 +40,9 @@ QString versionInSettings(const QJsonObject &settings)
                                        .toObject();
     for (const QString &id : knownExtensionIds()) {
         const QJsonObject entry = extensions.value(id).toObject();
-        // Switched off by the user.
-        if (entry.value(QLatin1String("state")).toInt(1) == 0)
+        // Switched off by the user; "state" says so in older profiles.
+        if (!entry.value(QLatin1String("disable_reasons")).toArray().isEmpty() ||
+            entry.value(QLatin1String("state")).toInt(1) == 0)
             continue;
         const QString path = entry.value(QLatin1String("path")).toString();
         QString version;

@@ -131,11 +131,14 @@ QWidget *SideWindows::makeBrowserPanel(QWidget *parent)
 
 PluginsPage::Parts SideWindows::pluginParts()
 {
-    const auto install = [this](const BrowserInfo &browser, QWidget *owner) {
-        const auto copy = [this](const QString &text) { m_core.clipboard().copy(text, false); };
-        installExtension(browser, InstallWays::system(copy), m_theme, owner);
-    };
-    return {m_core.browsers(), [this] { return m_core.extensionBundle(); }, install};
+    return {m_core.browsers(), [this] { return m_core.extensionBundle(); },
+            [this](const BrowserInfo &browser, QWidget *owner) { install(browser, owner); }};
+}
+
+void SideWindows::install(const BrowserInfo &browser, QWidget *owner)
+{
+    const auto copy = [this](const QString &text) { m_core.clipboard().copy(text, false); };
+    installExtension(browser, InstallWays::system(copy), m_theme, owner);
 }
 
 void SideWindows::openChangePassword()

@@ -59,6 +59,7 @@ Q_SIGNALS:
 
 private:
     void showGenerator(const PasswordTarget &target);
+    void install(const BrowserInfo &browser, QWidget *owner);
     void closeForLock();
 
     GPMAppCore &m_core;

@@ -101,9 +101,12 @@ void TestBrowserDiscovery::chromeOnWindows_data()
                               << settings(R"({"manifest":)" + ours + R"(,"path":"C:\\x"})")
                               << "1.2.3";
     QTest::newRow("unpacked, by its folder")
-        << "Profile 1/Preferences" << settings(R"({"path":"UNPACKED"})") << "1.2.3";
+        << "Profile 1/Preferences" << settings(R"({"disable_reasons":[],"path":"UNPACKED"})")
+        << "1.2.3";
     QTest::newRow("switched off") << "Default/Preferences"
                                   << settings(R"({"state":0,"manifest":)" + ours + "}") << "";
+    QTest::newRow("switched off, as newer ones say")
+        << "Default/Preferences" << settings(R"({"disable_reasons":[1],"path":"UNPACKED"})") << "";
     QTest::newRow("wrong types") << "Default/Preferences" << settings("[7]") << "";
     QTest::newRow("nothing") << "Default/x" << QByteArray() << "";
 }
