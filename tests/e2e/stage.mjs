@@ -20,7 +20,6 @@ export function makeStage({ pages, hosts, approved = true }) {
     stage.user = makeUser(stage.desktop, stage.program);
     if (approved) await stage.program.approve([FIREFOX_ORIGIN]);
     stage.program.start();
-    await stage.user.lockedWindow();
   });
 
   after(async () => {

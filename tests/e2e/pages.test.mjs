@@ -1,0 +1,160 @@
+// On the page itself: the crystals in the fields, the keys and the pop-up, on pages like those of today's sites and on
+// hostile ones. The real program, both browsers.
+
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { setTimeout } from 'node:timers/promises';
+import { buildSync } from 'esbuild';
+import { makeStage } from './stage.mjs';
+
+const PASSWORD = 'first Master 1!';
+const SECRET = 's3cret-of-the-shop';
+const USER = 'ana@shop.example';
+const FILLED = { user: USER, pw: SECRET };
+
+// Each page has its fields where the tests look for them.
+const PLACE = { user: [60, 90], pw: [60, 160] };
+const SIZE = { width: 300, height: 40 };
+const styleOf = ([left, top]) => `position:fixed;left:${left}px;top:${top}px;width:${SIZE.width}px;height:${SIZE.height}px;box-sizing:border-box`;
+const iconIn = ([left, top]) => [left + SIZE.width - 18, top + SIZE.height / 2];
+const USER_FIELD = `<input name=user autocomplete=username required style="${styleOf(PLACE.user)}">`;
+const PW_FIELD = `<input name=pw type=password required style="${styleOf(PLACE.pw)}">`;
+const FIELDS = `${USER_FIELD}${PW_FIELD}<button style="position:fixed;left:60px;top:230px">Log in</button>`;
+const FORM = `<form method=post action=/done>${FIELDS}</form>`;
+
+const reactStyle = ([left, top]) => `{ position: 'fixed', left: ${left}, top: ${top}, width: ${SIZE.width}, height: ${SIZE.height}, boxSizing: 'border-box' }`;
+const REACT_APP = `
+  import { createElement as h, useState } from 'react';
+  import { createRoot } from 'react-dom/client';
+  function App() {
+    const [user, setUser] = useState('');
+    const [pw, setPw] = useState('');
+    const post = (event) => {
+      event.preventDefault();
+      fetch('/done', { method: 'POST', body: new URLSearchParams({ user, pw }) });
+    };
+    return h('form', { onSubmit: post },
+      h('input', { name: 'user', autoComplete: 'username', value: user, onChange: ({ target }) => setUser(target.value), style: ${reactStyle(PLACE.user)} }),
+      h('input', { name: 'pw', type: 'password', value: pw, onChange: ({ target }) => setPw(target.value), style: ${reactStyle(PLACE.pw)} }),
+      h('button', { disabled: !(user && pw), style: { position: 'fixed', left: 60, top: 230 } }, 'Log in'));
+  }
+  setTimeout(() => createRoot(document.getElementById('app')).render(h(App)), 300);`;
+
+// Forms in shadow trees post by script, as components do.
+const component = (mode) => `<sign-in></sign-in><script>
+  customElements.define('sign-in', class extends HTMLElement {
+    connectedCallback() {
+      const root = this.attachShadow({ mode: '${mode}' });
+      root.innerHTML = ${JSON.stringify(FORM)};
+      root.querySelector('form').onsubmit = (event) => {
+        event.preventDefault();
+        fetch('/done', { method: 'POST', body: new URLSearchParams(new FormData(event.target)) });
+      };
+    }
+  });
+</script>`;
+
+const PAGES = {
+  '/plain': FORM,
+  '/react': '<div id=app></div><script src=/react.js></script>',
+  '/react.js': buildSync({
+    stdin: { contents: REACT_APP, resolveDir: new URL('.', import.meta.url).pathname },
+    bundle: true, write: false, define: { 'process.env.NODE_ENV': '"production"' },
+  }).outputFiles[0].text,
+  '/open': component('open'),
+  '/closed': component('closed'),
+  '/frame': '<iframe src=/plain style="position:fixed;left:0;top:0;width:600px;height:400px;border:0"></iframe>',
+  '/modal': `<dialog style="position:fixed;inset:0;width:600px;height:400px;max-width:none;max-height:none;margin:0;border:0;padding:0">${FORM}</dialog>
+    <script>setTimeout(() => document.querySelector('dialog').showModal(), 300)</script>`,
+  '/steps': `<form method=post action=/second>${USER_FIELD}<button style="position:fixed;left:60px;top:230px">Next</button></form>`,
+  '/second': `<form method=post action=/done>${PW_FIELD}<button style="position:fixed;left:60px;top:230px">Log in</button></form>`,
+  '/covered': `${FORM}<div style="position:fixed;inset:0;background:white">Win a prize!</div>`,
+  '/ghost': `${FORM}<div style="position:fixed;inset:0;background:white;pointer-events:none;z-index:2147483647">Win a prize!</div>`,
+  '/faint': `<div style="opacity:0.01">${FORM}</div>`,
+  '/foreign': (port) => `<iframe src="http://evil.example:${port}/plain" style="position:fixed;left:0;top:0;width:600px;height:400px;border:0"></iframe>`,
+  '/scripted': `${FORM}<script>
+    addEventListener('load', () => setTimeout(() => {
+      for (const host of document.documentElement.children) host.dispatchEvent(new MouseEvent('click', { bubbles: true, clientX: ${iconIn(PLACE.pw)[0]}, clientY: ${iconIn(PLACE.pw)[1]} }));
+      document.elementFromPoint(${iconIn(PLACE.pw)})?.click();
+      document.title = 'tried';
+    }, 1500));
+  </script>`,
+  '/done': 'done',
+};
+
+const limit = { timeout: Number(process.env.LIMIT ?? 30000) };
+const QUICK = '^Quick access$';
+const stage = makeStage({ pages: PAGES, hosts: ['shop.example', 'evil.example'] });
+
+test('a safe with one login for the site', limit, async () => {
+  await stage.user.createSafe('Personal', PASSWORD, 'the first one');
+  await stage.user.addLogin({ title: 'Shop', userName: USER, password: SECRET, url: stage.at('/plain') });
+});
+
+stage.inEachBrowser((kind) => {
+  let page;
+
+  async function open(path) {
+    page ??= await stage.browser.browser.newPage();
+    await page.bringToFront();
+    await page.goto(stage.at(path));
+  }
+
+  const isQuickOpen = () => stage.desktop.isVisible(QUICK);
+
+  /** Clicks where the crystal of a field is until quick access opens: it takes a moment until it is drawn. */
+  async function clickIcon(place) {
+    await stage.program.until(async () => {
+      await page.mouse.click(...iconIn(place));
+      await setTimeout(300);
+      return isQuickOpen();
+    }, 'quick access');
+  }
+
+  /** Presses the page's button until something is sent: it sends nothing before the fields are filled. */
+  async function send() {
+    let sent;
+    stage.site.nextPost().then((post) => { sent = post; });
+    await stage.program.until(async () => {
+      await page.mouse.click(80, 240);
+      await setTimeout(100);
+      return sent !== undefined;
+    }, 'the page to send');
+    return sent;
+  }
+
+  for (const path of ['/plain', '/react', '/open', '/closed', '/frame', '/modal']) {
+    test(`the crystal opens quick access, Enter fills: ${path}`, limit, async () => {
+      await open(path);
+      await clickIcon(PLACE.pw);
+      await stage.desktop.press('Return');
+      assert.deepEqual(await send(), { path: '/done', fields: FILLED });
+      await stage.program.until(async () => !(await isQuickOpen()), 'quick access to close');
+    });
+  }
+
+  test('a sign-in in two steps', limit, async () => {
+    await open('/steps');
+    await clickIcon(PLACE.user);
+    await stage.desktop.press('Return');
+    assert.deepEqual(await send(), { path: '/second', fields: { user: USER } });
+    assert.deepEqual(await send(), { path: '/done', fields: { pw: SECRET } });
+  });
+
+  for (const path of ['/covered', '/ghost', '/faint', '/foreign']) {
+    test(`nothing opens where the user does not see the field, or it is another site's: ${path}`, limit, async () => {
+      await open(path);
+      await setTimeout(1500);
+      await page.mouse.click(...iconIn(PLACE.pw));
+      await setTimeout(300);
+      assert.equal(await isQuickOpen(), false);
+    });
+  }
+
+  test('nothing opens for the clicks of a page\'s script', limit, async () => {
+    await open('/scripted');
+    await page.waitForFunction(() => document.title === 'tried');
+    await setTimeout(300);
+    assert.equal(await isQuickOpen(), false);
+  });
+}, { visible: true });
