@@ -177,6 +177,20 @@ private Q_SLOTS:
         QVERIFY(isGone());
     }
 
+    void longNamesMakeItNoWider()
+    {
+        m_test->addLogin(QStringLiteral("Short"), QStringLiteral("ana"));
+        QVERIFY(offer("ana", "one"));
+        const int usual = dialog()->minimumSizeHint().width();
+        m_test->core.loginSaving().decline();
+        const QByteArray user(250, 'u');
+        m_test->addLogin(QString(200, QLatin1Char('t')), QString::fromLatin1(user).toUpper());
+        const QByteArray host = QByteArray(60, 'a') + '.' + QByteArray(60, 'b') + '.';
+        QVERIFY(offer(user.constData(), "one", ("https://" + host + "shop.example/").constData()));
+        QVERIFY(isShown("formerUserName"));
+        QCOMPARE(dialog()->minimumSizeHint().width(), usual);
+    }
+
     void itGoesWithTheLock()
     {
         QVERIFY(offer("ana", "one"));

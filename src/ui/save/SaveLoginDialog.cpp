@@ -6,6 +6,7 @@
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/MessageLabel.h"
 #include "widgets/PasswordField.h"
 #include "widgets/Tile.h"
@@ -66,7 +67,7 @@ QWidget *SaveLoginDialog::makeHeader(const Theme &theme)
     m_tile = new Tile(Style::scaled(tileSide), theme, header);
     m_headline = makeLabel({}, "heading", header);
     m_headline->setObjectName(QStringLiteral("saveLoginHeadline"));
-    m_host = makeLabel({}, "muted", header);
+    m_host = new ElidedLabel("muted", header);
     m_host->setObjectName(QStringLiteral("saveLoginHost"));
     auto *texts = new QVBoxLayout;
     texts->setSpacing(1);
@@ -143,7 +144,7 @@ void SaveLoginDialog::showOffer()
 {
     const LoginOffer &offer = *m_saving.offer();
     m_tile->setItem(offer.siteTitle, PMListItem::Login);
-    m_host->setText(offer.request.host());
+    m_host->setFullText(offer.request.host());
     m_host->setToolTip(offer.request.host());
     const bool locked = offer.state == LoginOffer::Locked;
     m_form->setOffer(offer);

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class ElidedLabel;
 class GPMAppCore;
 class MessageLabel;
 class PasswordField;
@@ -56,7 +57,7 @@ private:
     Clock m_clock;
     Tile *m_tile;
     QLabel *m_headline;
-    QLabel *m_host;
+    ElidedLabel *m_host;
     QLabel *m_text;
     SaveLoginForm *m_form;
     PasswordField *m_master;

@@ -5,6 +5,7 @@
 #include "style/Theme.h"
 #include "widgets/Badge.h"
 #include "widgets/Controls.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/PasswordField.h"
 #include "widgets/SelectBox.h"
 
@@ -29,9 +30,8 @@ SaveLoginForm::SaveLoginForm(const Theme &theme, QWidget *parent)
     m_title = makeLine("saveTitle");
     makeRow(tr("Title"), m_title, "saveTitleRow");
     m_userName = makeLine("saveUserName");
-    m_former = makeLabel({}, "muted", this);
+    m_former = new ElidedLabel("muted", this);
     m_former->setObjectName(QStringLiteral("formerUserName"));
-    m_former->setWordWrap(true);
     makeRow(tr("User name"), m_userName, "saveUserNameRow")->addWidget(m_former);
     makePassword(theme);
     connect(m_userName, &QLineEdit::textChanged, this, &SaveLoginForm::showUserName);
@@ -83,6 +83,8 @@ void SaveLoginForm::makeChooser(const Theme &theme)
     m_login = new SelectBox(theme.icon(QStringLiteral("chevron-down"), Palette::Muted), this);
     m_login->setObjectName(QStringLiteral("saveInto"));
     m_login->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    // Without it the longest entry counts.
+    m_login->setMinimumContentsLength(8);
     makeRow(tr("Save in"), m_login, "saveIntoRow");
 }
 
@@ -158,7 +160,7 @@ void SaveLoginForm::showUserName()
     const LoginOffer::Candidate *login = candidate();
     const bool isOther = login && !login->userName.isEmpty() && !m_userName->text().isEmpty() &&
                          login->userName != m_userName->text();
-    m_former->setText(isOther ? tr("Until now: %1").arg(login->userName) : QString());
+    m_former->setFullText(isOther ? tr("Until now: %1").arg(login->userName) : QString());
     m_former->setVisible(isOther);
 }
 

@@ -5,8 +5,8 @@
 #include <QFrame>
 
 class Badge;
+class ElidedLabel;
 class PasswordField;
-class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 class SelectBox;
@@ -48,7 +48,7 @@ private:
     SelectBox *m_login = nullptr;
     QLineEdit *m_title = nullptr;
     QLineEdit *m_userName = nullptr;
-    QLabel *m_former = nullptr;
+    ElidedLabel *m_former = nullptr;
     PasswordField *m_password = nullptr;
     QVBoxLayout *m_badgePlace = nullptr;
     Badge *m_badge = nullptr;
