@@ -2,6 +2,72 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en_GB">
 <context>
+    <name>ApprovalDesk</name>
+    <message>
+        <source>Let Firefox connect?</source>
+        <translation>Firefox verbinden lassen?</translation>
+    </message>
+    <message>
+        <source>An extension in Firefox wants to connect to this program. If you allow it, it can fill your logins into pages and offer to save new ones.
+
+Allow it if you have just added the extension to Firefox, or to another profile of it. If you do not know where this comes from, choose “Don&apos;t allow”.
+
+You can change your mind in the settings, on the page “Browser”.</source>
+        <translation>Eine Erweiterung in Firefox möchte sich mit diesem Programm verbinden. Wenn Sie es erlauben, kann sie Ihre Logins in Seiten eintragen und anbieten, neue zu speichern.
+
+Erlauben Sie es, wenn Sie die Erweiterung gerade zu Firefox oder zu einem weiteren Profil hinzugefügt haben. Wenn Sie nicht wissen, woher diese Frage kommt, wählen Sie „Nicht erlauben“.
+
+Sie können sich in den Einstellungen auf der Seite „Browser“ anders entscheiden.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
+    </message>
+    <message>
+        <source>Don&apos;t allow</source>
+        <translation>Nicht erlauben</translation>
+    </message>
+</context>
+<context>
+    <name>ApprovalsPanel</name>
+    <message>
+        <source>None yet. When one wants to connect, you are asked.</source>
+        <translation>Noch keine. Wenn sich eine verbinden möchte, werden Sie gefragt.</translation>
+    </message>
+    <message>
+        <source>Each Firefox profile gives the extension an id of its own, so you say which ones may connect.</source>
+        <translation>Jedes Profil von Firefox gibt der Erweiterung eine eigene Kennung; darum sagen Sie, welche sich verbinden dürfen.</translation>
+    </message>
+    <message>
+        <source>Extensions in Firefox</source>
+        <translation>Erweiterungen in Firefox</translation>
+    </message>
+    <message>
+        <source>%1: may connect</source>
+        <translation>%1: darf sich verbinden</translation>
+    </message>
+    <message>
+        <source>%1: may not connect</source>
+        <translation>%1: darf sich nicht verbinden</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>%1 erlauben</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveDesk</name>
     <message>
         <source>Export safe</source>
@@ -59,6 +125,14 @@
     <message>
         <source>Open it</source>
         <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Restore backup</source>
+        <translation>Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restoring “%1”…</source>
+        <translation>„%1“ wird wiederhergestellt …</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1353,29 @@ Sie lassen sich nicht wiederherstellen.</translation>
     </message>
 </context>
 <context>
+    <name>ExcludedSitesPanel</name>
+    <message>
+        <source>None. “Never for this site” puts one here.</source>
+        <translation>Keine. „Nie für diese Website“ trägt hier eine ein.</translation>
+    </message>
+    <message>
+        <source>Ask again</source>
+        <translation>Wieder fragen</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Websites ohne Angebot</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>Logins, die Sie dort eingeben, werden nicht zum Speichern angeboten.</translation>
+    </message>
+    <message>
+        <source>The list could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>Die Liste konnte nicht geschrieben werden. Prüfen Sie den freien Platz und die Rechte des Einstellungsordners.</translation>
+    </message>
+</context>
+<context>
     <name>ExpiryText</name>
     <message>
         <source>Expired</source>
@@ -1435,40 +1532,12 @@ Sie lassen sich nicht wiederherstellen.</translation>
 <context>
     <name>ExtensionPage</name>
     <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
+        <source>You can install plugin later from application Settings window</source>
+        <translation>Sie können die Erweiterung auch später in den Einstellungen installieren</translation>
     </message>
     <message>
-        <source>Copy the address</source>
-        <translation>Adresse kopieren</translation>
-    </message>
-    <message>
-        <source>Show folder</source>
-        <translation>Ordner zeigen</translation>
-    </message>
-    <message>
-        <source>In Chromium, Chrome or Edge open the address %1</source>
-        <translation>Öffnen Sie in Chromium, Chrome oder Edge die Adresse %1</translation>
-    </message>
-    <message>
-        <source>Choose “Load unpacked” and the folder of the extension</source>
-        <translation>Wählen Sie „Entpackte Erweiterung laden“ und den Ordner der Erweiterung</translation>
-    </message>
-    <message>
-        <source>Folder of the extension</source>
-        <translation>Ordner der Erweiterung</translation>
-    </message>
-    <message>
-        <source>A browser is connected.</source>
-        <translation>Ein Browser ist verbunden.</translation>
-    </message>
-    <message>
-        <source>No browser is connected yet. It shows here when it is.</source>
-        <translation>Noch ist kein Browser verbunden. Es wird hier angezeigt, sobald einer es ist.</translation>
-    </message>
-    <message>
-        <source>Switch on “Developer mode”</source>
-        <translation>Schalten Sie „Entwicklermodus“ ein</translation>
+        <source>Done</source>
+        <translation>Fertig</translation>
     </message>
 </context>
 <context>
@@ -1618,10 +1687,6 @@ Sie lassen sich nicht wiederherstellen.</translation>
         <translation>Formulare im Browser ausfüllen</translation>
     </message>
     <message>
-        <source>The extension fills your logins into the pages they belong to.</source>
-        <translation>Die Erweiterung trägt Ihre Logins in die Seiten ein, zu denen sie gehören.</translation>
-    </message>
-    <message>
         <source>You are ready</source>
         <translation>Alles ist bereit</translation>
     </message>
@@ -1636,6 +1701,10 @@ Sie lassen sich nicht wiederherstellen.</translation>
     <message>
         <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
         <translation>Aus einem Browser oder einem anderen Programm. Das geht auch später, im Menü des Tresors.</translation>
+    </message>
+    <message>
+        <source>Install plugin very fast and simple</source>
+        <translation>Die Erweiterung ist schnell und einfach installiert</translation>
     </message>
 </context>
 <context>
@@ -1718,6 +1787,65 @@ Earlier backups are left as they are, in:
 
 Frühere Sicherungen bleiben, wie sie sind, in:
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneratorPanel</name>
+    <message>
+        <source>Generated password</source>
+        <translation>Erzeugtes Passwort</translation>
+    </message>
+    <message>
+        <source>Another password</source>
+        <translation>Anderes Passwort</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Länge:</translation>
+    </message>
+    <message>
+        <source>Special chars:</source>
+        <translation>Sonderzeichen:</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Zuletzt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Einsetzen</translation>
+    </message>
+    <message>
+        <source>There is nothing to place it in.</source>
+        <translation>Es gibt nichts, wo es eingesetzt werden kann.</translation>
+    </message>
+    <message>
+        <source>The passwords made since the safe was opened; locking it wipes them</source>
+        <translation>Die Passwörter, die seit dem Öffnen des Tresors erzeugt wurden; beim Sperren werden sie gelöscht</translation>
+    </message>
+    <message>
+        <source>Passwords are remembered only while a safe is open</source>
+        <translation>Passwörter werden nur gemerkt, solange ein Tresor offen ist</translation>
+    </message>
+    <message>
+        <source>Hidden password</source>
+        <translation>Verborgenes Passwort</translation>
+    </message>
+    <message>
+        <source>used</source>
+        <translation>benutzt</translation>
+    </message>
+    <message>
+        <source>Copy the password of %1</source>
+        <translation>Passwort von %1 kopieren</translation>
     </message>
 </context>
 <context>
@@ -1845,6 +1973,65 @@ Frühere Sicherungen bleiben, wie sie sind, in:
     <message>
         <source>There is no safe in this archive. Choose a file that was exported or backed up from a safe.</source>
         <translation>In diesem Archiv ist kein Tresor. Wählen Sie eine Datei, die aus einem Tresor exportiert oder gesichert wurde.</translation>
+    </message>
+</context>
+<context>
+    <name>InstallSteps</name>
+    <message>
+        <source>Add the extension to %1</source>
+        <translation>Die Erweiterung zu %1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>The extension did not come with this program. Install the program anew to get it.</source>
+        <translation>Die Erweiterung lag diesem Programm nicht bei. Installieren Sie das Programm neu, um sie zu erhalten.</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 öffnen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the address</source>
+        <translation>Adresse kopieren</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>In %1 open the address %2</source>
+        <translation>Öffnen Sie in %1 die Adresse %2</translation>
+    </message>
+    <message>
+        <source>Choose “Load Temporary Add-on…” and the file “manifest.json” in the folder of the extension</source>
+        <translation>Wählen Sie „Temporäres Add-on laden …“ und die Datei „manifest.json“ im Ordner der Erweiterung</translation>
+    </message>
+    <message>
+        <source>Come back here: the program asks whether Firefox may connect</source>
+        <translation>Kommen Sie hierher zurück: Das Programm fragt, ob Firefox sich verbinden darf</translation>
+    </message>
+    <message>
+        <source>Switch on “Developer mode”</source>
+        <translation>Schalten Sie den „Entwicklermodus“ ein</translation>
+    </message>
+    <message>
+        <source>Choose “Load unpacked” and the folder of the extension</source>
+        <translation>Wählen Sie „Entpackte Erweiterung laden“ und den Ordner der Erweiterung</translation>
+    </message>
+    <message>
+        <source>Folder of the extension</source>
+        <translation>Ordner der Erweiterung</translation>
+    </message>
+    <message>
+        <source>Firefox forgets an extension that was added this way when it is closed.</source>
+        <translation>Firefox vergisst eine so hinzugefügte Erweiterung, wenn es geschlossen wird.</translation>
     </message>
 </context>
 <context>
@@ -2403,6 +2590,14 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
         <source>Expiring</source>
         <translation>Läuft ab</translation>
     </message>
+    <message>
+        <source>Log in</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Fill in</source>
+        <translation>Eintragen</translation>
+    </message>
 </context>
 <context>
     <name>ItemListPane</name>
@@ -2498,10 +2693,6 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Anmelden</translation>
-    </message>
-    <message>
         <source>Open address</source>
         <translation>Adresse öffnen</translation>
     </message>
@@ -2535,10 +2726,6 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
     <message>
         <source>Favourite</source>
         <translation>Favorit</translation>
-    </message>
-    <message>
-        <source>Log in</source>
-        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Log in (Ctrl+Return)</source>
@@ -2578,6 +2765,10 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
     <message>
         <source>Edit (F2)</source>
         <translation>Bearbeiten (F2)</translation>
+    </message>
+    <message>
+        <source>Fill into the open page (Ctrl+Return)</source>
+        <translation>In die offene Seite eintragen (Strg+Eingabe)</translation>
     </message>
 </context>
 <context>
@@ -3496,62 +3687,6 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
         <source>Password Generator</source>
         <translation>Passwortgenerator</translation>
     </message>
-    <message>
-        <source>Generated password</source>
-        <translation>Erzeugtes Passwort</translation>
-    </message>
-    <message>
-        <source>Another password</source>
-        <translation>Anderes Passwort</translation>
-    </message>
-    <message>
-        <source>Length:</source>
-        <translation>Länge:</translation>
-    </message>
-    <message>
-        <source>Special chars:</source>
-        <translation>Sonderzeichen:</translation>
-    </message>
-    <message>
-        <source>Recent</source>
-        <translation>Letzte</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Einsetzen</translation>
-    </message>
-    <message>
-        <source>There is nothing to place it in.</source>
-        <translation>Es gibt nichts, worin es eingesetzt werden könnte.</translation>
-    </message>
-    <message>
-        <source>The passwords made since the safe was opened; locking it wipes them</source>
-        <translation>Die seit dem Öffnen des Tresors erzeugten Passwörter; das Sperren löscht sie</translation>
-    </message>
-    <message>
-        <source>Passwords are remembered only while a safe is open</source>
-        <translation>Passwörter werden nur gemerkt, solange ein Tresor offen ist</translation>
-    </message>
-    <message>
-        <source>Hidden password</source>
-        <translation>Verborgenes Passwort</translation>
-    </message>
-    <message>
-        <source>used</source>
-        <translation>benutzt</translation>
-    </message>
-    <message>
-        <source>Copy the password of %1</source>
-        <translation>Passwort von %1 kopieren</translation>
-    </message>
 </context>
 <context>
     <name>PasswordStrength</name>
@@ -3643,6 +3778,49 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     </message>
 </context>
 <context>
+    <name>PluginsPage</name>
+    <message>
+        <source>No browser was found that the extension is made for: Chrome, Chromium or Firefox.</source>
+        <translation>Es wurde kein Browser gefunden, für den es die Erweiterung gibt: Chrome, Chromium oder Firefox.</translation>
+    </message>
+    <message>
+        <source>Looking for browsers…</source>
+        <translation>Browser werden gesucht …</translation>
+    </message>
+    <message>
+        <source>A browser is connected.</source>
+        <translation>Ein Browser ist verbunden.</translation>
+    </message>
+    <message>
+        <source>No browser is connected yet. It shows here when it is.</source>
+        <translation>Noch ist kein Browser verbunden. Sobald einer es ist, sehen Sie es hier.</translation>
+    </message>
+    <message>
+        <source>Opens your web links</source>
+        <translation>Öffnet Ihre Weblinks</translation>
+    </message>
+    <message>
+        <source>Installed %1</source>
+        <translation>Installiert: %1</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>%1, connected</source>
+        <translation>%1, verbunden</translation>
+    </message>
+    <message>
+        <source>Install Plugin</source>
+        <translation>Erweiterung installieren</translation>
+    </message>
+    <message>
+        <source>Install Plugin: %1</source>
+        <translation>Erweiterung installieren: %1</translation>
+    </message>
+</context>
+<context>
     <name>ProgramShortcuts</name>
     <message>
         <source>copy</source>
@@ -3690,6 +3868,126 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     <message>
         <source>Cancelling…</source>
         <translation>Wird abgebrochen …</translation>
+    </message>
+</context>
+<context>
+    <name>QuickAccessWindow</name>
+    <message>
+        <source>Quick access</source>
+        <translation>Schnellzugriff</translation>
+    </message>
+    <message>
+        <source>No safe yet</source>
+        <translation>Noch kein Tresor</translation>
+    </message>
+    <message>
+        <source>Create one in the main window; what it keeps is found here.</source>
+        <translation>Legen Sie einen im Hauptfenster an; was er enthält, finden Sie hier.</translation>
+    </message>
+    <message>
+        <source>Open main window</source>
+        <translation>Hauptfenster öffnen</translation>
+    </message>
+    <message>
+        <source>Password Generator</source>
+        <translation>Passwortgenerator</translation>
+    </message>
+    <message>
+        <source>No browser with the extension is connected</source>
+        <translation>Es ist kein Browser mit der Erweiterung verbunden</translation>
+    </message>
+</context>
+<context>
+    <name>QuickBar</name>
+    <message>
+        <source>Logins</source>
+        <translation>Logins</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Identitäten</translation>
+    </message>
+    <message>
+        <source>Generate</source>
+        <translation>Erzeugen</translation>
+    </message>
+    <message>
+        <source>%1 (Ctrl+%2)</source>
+        <translation>%1 (Strg+%2)</translation>
+    </message>
+</context>
+<context>
+    <name>QuickDelegate</name>
+    <message>
+        <source>For %1</source>
+        <translation>Für %1</translation>
+    </message>
+    <message>
+        <source>Most used</source>
+        <translation>Meistbenutzt</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Identitäten</translation>
+    </message>
+    <message>
+        <source>Logins</source>
+        <translation>Logins</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Eintragen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>QuickList</name>
+    <message>
+        <source>Search logins, cards, identities</source>
+        <translation>Logins, Karten, Identitäten suchen</translation>
+    </message>
+    <message>
+        <source>The arrow keys choose an item, Enter fills it. Ctrl+C copies its password, Ctrl+B its user name.</source>
+        <translation>Die Pfeiltasten wählen einen Eintrag, die Eingabetaste trägt ihn ein. Strg+C kopiert das Passwort, Strg+B den Benutzernamen.</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Try another word, or fewer letters.</source>
+        <translation>Versuchen Sie ein anderes Wort oder weniger Buchstaben.</translation>
+    </message>
+    <message>
+        <source>No logins yet</source>
+        <translation>Noch keine Logins</translation>
+    </message>
+    <message>
+        <source>No cards yet</source>
+        <translation>Noch keine Karten</translation>
+    </message>
+    <message>
+        <source>No identities yet</source>
+        <translation>Noch keine Identitäten</translation>
+    </message>
+    <message>
+        <source>What you add in the main window is found here.</source>
+        <translation>Was Sie im Hauptfenster hinzufügen, finden Sie hier.</translation>
     </message>
 </context>
 <context>
@@ -4107,6 +4405,123 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     <message>
         <source>There is no safe yet. Make a new one, or import an archive.</source>
         <translation>Es gibt noch keinen Tresor. Legen Sie einen an oder importieren Sie ein Archiv.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginDialog</name>
+    <message>
+        <source>Save login</source>
+        <translation>Login speichern</translation>
+    </message>
+    <message>
+        <source>Never for this site</source>
+        <translation>Nie für diese Website</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Jetzt nicht</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Masterpasswort</translation>
+    </message>
+    <message>
+        <source>The login is in the safe now, but it could not be written to the disk. Check the free space and the permissions, then try again.</source>
+        <translation>Das Login ist nun im Tresor, konnte aber nicht auf die Festplatte geschrieben werden. Prüfen Sie den freien Platz und die Rechte und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Your safe is locked. Unlock it to save this login.</source>
+        <translation>Ihr Tresor ist gesperrt. Entsperren Sie ihn, um dieses Login zu speichern.</translation>
+    </message>
+    <message>
+        <source>Your safe has this login already, so there is nothing to save.</source>
+        <translation>Ihr Tresor hat dieses Login schon; es gibt nichts zu speichern.</translation>
+    </message>
+    <message>
+        <source>Already saved</source>
+        <translation>Schon gespeichert</translation>
+    </message>
+    <message>
+        <source>Update this login?</source>
+        <translation>Dieses Login aktualisieren?</translation>
+    </message>
+    <message>
+        <source>Save this login?</source>
+        <translation>Dieses Login speichern?</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Trotzdem entsperren</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Entsperren</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Unlocking…</source>
+        <translation>Wird entsperrt …</translation>
+    </message>
+    <message numerus="yes">
+        <source>What you typed is kept for %n more seconds, then forgotten.</source>
+        <translation>
+            <numerusform>Was Sie eingegeben haben, wird noch %n Sekunde behalten und dann vergessen.</numerusform>
+            <numerusform>Was Sie eingegeben haben, wird noch %n Sekunden behalten und dann vergessen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no password to save. Type it in, or choose Not now.</source>
+        <translation>Es gibt kein Passwort zu speichern. Geben Sie es ein oder wählen Sie „Jetzt nicht“.</translation>
+    </message>
+    <message>
+        <source>That login is no longer in the safe. Choose again where to save.</source>
+        <translation>Dieses Login ist nicht mehr im Tresor. Wählen Sie noch einmal, wo gespeichert werden soll.</translation>
+    </message>
+    <message>
+        <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>Die Liste der Websites konnte nicht geschrieben werden. Prüfen Sie den freien Platz und die Rechte des Einstellungsordners.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginForm</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Save in</source>
+        <translation>Speichern in</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>A new login</source>
+        <translation>Ein neues Login</translation>
+    </message>
+    <message>
+        <source>Until now: %1</source>
+        <translation>Bisher: %1</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +5030,46 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
         <source>synchronise sync mirror share provider account computers</source>
         <translation>synchronisieren abgleichen spiegeln teilen Anbieter Konto Computer</translation>
     </message>
+    <message>
+        <source>Browsers and extensions</source>
+        <translation>Browser und Erweiterungen</translation>
+    </message>
+    <message>
+        <source>In which browsers the extension is, and which may connect.</source>
+        <translation>In welchen Browsern die Erweiterung ist und welche sich verbinden dürfen.</translation>
+    </message>
+    <message>
+        <source>plugin install approve connect chrome chromium firefox</source>
+        <translation>plugin erweiterung installieren erlauben verbinden chrome chromium firefox</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Websites ohne Angebot</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>Logins, die Sie dort eingeben, werden nicht zum Speichern angeboten.</translation>
+    </message>
+    <message>
+        <source>never save login ask again</source>
+        <translation>nie speichern login wieder fragen</translation>
+    </message>
+    <message>
+        <source>Show the icons of web sites</source>
+        <translation>Symbole von Websites zeigen</translation>
+    </message>
+    <message>
+        <source>They are fetched from the sites of your logins and kept in the safe.</source>
+        <translation>Sie werden von den Websites Ihrer Logins geladen und im Tresor aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>favicon logo picture download</source>
+        <translation>favicon logo symbol bild herunterladen</translation>
+    </message>
+    <message>
+        <source>The setting holds until the program ends, but it could not be stored.</source>
+        <translation>Die Einstellung gilt, bis das Programm endet, konnte aber nicht gespeichert werden.</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -4666,14 +5121,6 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
         <translation>Bearbeitung verlassen oder Suche leeren</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Anmelden</translation>
-    </message>
-    <message>
-        <source>Log in, from the list or the search</source>
-        <translation>Anmelden, aus der Liste oder der Suche</translation>
-    </message>
-    <message>
         <source>Copy the user name</source>
         <translation>Benutzernamen kopieren</translation>
     </message>
@@ -4720,6 +5167,14 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>Show this list</source>
         <translation>Diese Liste zeigen</translation>
+    </message>
+    <message>
+        <source>Log in, or fill in a card or identity</source>
+        <translation>Anmelden oder eine Karte oder Identität eintragen</translation>
+    </message>
+    <message>
+        <source>Log in or fill in, from the list or the search</source>
+        <translation>Anmelden oder eintragen, aus der Liste oder der Suche</translation>
     </message>
 </context>
 <context>
@@ -4924,6 +5379,10 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Quick Access</source>
+        <translation>Schnellzugriff</translation>
     </message>
 </context>
 <context>

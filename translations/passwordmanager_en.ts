@@ -287,6 +287,16 @@ They can not be restored.</numerusform>
     </message>
 </context>
 <context>
+    <name>SaveLoginDialog</name>
+    <message numerus="yes">
+        <source>What you typed is kept for %n more seconds, then forgotten.</source>
+        <translation>
+            <numerusform>What you typed is kept for %n more second, then forgotten.</numerusform>
+            <numerusform>What you typed is kept for %n more seconds, then forgotten.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SelectionPage</name>
     <message numerus="yes">
         <source>%n items selected</source>

@@ -2,6 +2,72 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en_GB">
 <context>
+    <name>ApprovalDesk</name>
+    <message>
+        <source>Let Firefox connect?</source>
+        <translation>¿Permitir que Firefox se conecte?</translation>
+    </message>
+    <message>
+        <source>An extension in Firefox wants to connect to this program. If you allow it, it can fill your logins into pages and offer to save new ones.
+
+Allow it if you have just added the extension to Firefox, or to another profile of it. If you do not know where this comes from, choose “Don&apos;t allow”.
+
+You can change your mind in the settings, on the page “Browser”.</source>
+        <translation>Una extensión de Firefox quiere conectarse con este programa. Si lo permite, podrá rellenar sus accesos en las páginas y ofrecer guardar los nuevos.
+
+Permítalo si acaba de añadir la extensión a Firefox o a otro de sus perfiles. Si no sabe de dónde viene esto, elija “No permitir”.
+
+Puede cambiar de opinión en los ajustes, en la página “Navegador”.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>Don&apos;t allow</source>
+        <translation>No permitir</translation>
+    </message>
+</context>
+<context>
+    <name>ApprovalsPanel</name>
+    <message>
+        <source>None yet. When one wants to connect, you are asked.</source>
+        <translation>Ninguna todavía. Cuando una quiera conectarse, se le preguntará.</translation>
+    </message>
+    <message>
+        <source>Each Firefox profile gives the extension an id of its own, so you say which ones may connect.</source>
+        <translation>Cada perfil de Firefox da a la extensión un identificador propio; por eso usted dice cuáles pueden conectarse.</translation>
+    </message>
+    <message>
+        <source>Extensions in Firefox</source>
+        <translation>Extensiones en Firefox</translation>
+    </message>
+    <message>
+        <source>%1: may connect</source>
+        <translation>%1: puede conectarse</translation>
+    </message>
+    <message>
+        <source>%1: may not connect</source>
+        <translation>%1: no puede conectarse</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Quitar %1</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>Permitir %1</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveDesk</name>
     <message>
         <source>Export safe</source>
@@ -59,6 +125,14 @@
     <message>
         <source>Open it</source>
         <translation>Abrirla</translation>
+    </message>
+    <message>
+        <source>Restore backup</source>
+        <translation>Restaurar copia</translation>
+    </message>
+    <message>
+        <source>Restoring “%1”…</source>
+        <translation>Restaurando “%1”…</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1353,29 @@ No se podrá restaurar.</translation>
     </message>
 </context>
 <context>
+    <name>ExcludedSitesPanel</name>
+    <message>
+        <source>None. “Never for this site” puts one here.</source>
+        <translation>Ninguno. “Nunca en este sitio” añade uno aquí.</translation>
+    </message>
+    <message>
+        <source>Ask again</source>
+        <translation>Volver a preguntar</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Sitios sin ofrecimiento</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>No se ofrece guardar los accesos que escriba en ellos.</translation>
+    </message>
+    <message>
+        <source>The list could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>No se pudo escribir la lista. Compruebe el espacio libre y los permisos de la carpeta de ajustes.</translation>
+    </message>
+</context>
+<context>
     <name>ExpiryText</name>
     <message>
         <source>Expired</source>
@@ -1435,40 +1532,12 @@ No se podrá restaurar.</translation>
 <context>
     <name>ExtensionPage</name>
     <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
+        <source>You can install plugin later from application Settings window</source>
+        <translation>Puede instalar la extensión más tarde desde los ajustes</translation>
     </message>
     <message>
-        <source>Copy the address</source>
-        <translation>Copiar la dirección</translation>
-    </message>
-    <message>
-        <source>Show folder</source>
-        <translation>Mostrar carpeta</translation>
-    </message>
-    <message>
-        <source>In Chromium, Chrome or Edge open the address %1</source>
-        <translation>En Chromium, Chrome o Edge, abrir la dirección %1</translation>
-    </message>
-    <message>
-        <source>Choose “Load unpacked” and the folder of the extension</source>
-        <translation>Elegir «Cargar descomprimida» y la carpeta de la extensión</translation>
-    </message>
-    <message>
-        <source>Folder of the extension</source>
-        <translation>Carpeta de la extensión</translation>
-    </message>
-    <message>
-        <source>A browser is connected.</source>
-        <translation>Hay un navegador conectado.</translation>
-    </message>
-    <message>
-        <source>No browser is connected yet. It shows here when it is.</source>
-        <translation>Aún no hay ningún navegador conectado. Aquí se verá cuando lo haya.</translation>
-    </message>
-    <message>
-        <source>Switch on “Developer mode”</source>
-        <translation>Activar «Modo de desarrollador»</translation>
+        <source>Done</source>
+        <translation>Listo</translation>
     </message>
 </context>
 <context>
@@ -1618,10 +1687,6 @@ No se podrá restaurar.</translation>
         <translation>Rellenar formularios en el navegador</translation>
     </message>
     <message>
-        <source>The extension fills your logins into the pages they belong to.</source>
-        <translation>La extensión rellena los accesos en las páginas a las que pertenecen.</translation>
-    </message>
-    <message>
         <source>You are ready</source>
         <translation>Todo está listo</translation>
     </message>
@@ -1636,6 +1701,10 @@ No se podrá restaurar.</translation>
     <message>
         <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
         <translation>De un navegador o de otro programa. También puede hacerlo después, en el menú de la caja fuerte.</translation>
+    </message>
+    <message>
+        <source>Install plugin very fast and simple</source>
+        <translation>Instale la extensión de forma rápida y sencilla</translation>
     </message>
 </context>
 <context>
@@ -1718,6 +1787,65 @@ Earlier backups are left as they are, in:
 
 Las copias anteriores quedan como están, en:
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneratorPanel</name>
+    <message>
+        <source>Generated password</source>
+        <translation>Contraseña generada</translation>
+    </message>
+    <message>
+        <source>Another password</source>
+        <translation>Otra contraseña</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Longitud:</translation>
+    </message>
+    <message>
+        <source>Special chars:</source>
+        <translation>Caracteres especiales:</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recientes</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Colocar</translation>
+    </message>
+    <message>
+        <source>There is nothing to place it in.</source>
+        <translation>No hay dónde colocarla.</translation>
+    </message>
+    <message>
+        <source>The passwords made since the safe was opened; locking it wipes them</source>
+        <translation>Las contraseñas creadas desde que se abrió la caja fuerte; al bloquearla se borran</translation>
+    </message>
+    <message>
+        <source>Passwords are remembered only while a safe is open</source>
+        <translation>Las contraseñas solo se recuerdan mientras hay una caja fuerte abierta</translation>
+    </message>
+    <message>
+        <source>Hidden password</source>
+        <translation>Contraseña oculta</translation>
+    </message>
+    <message>
+        <source>used</source>
+        <translation>usada</translation>
+    </message>
+    <message>
+        <source>Copy the password of %1</source>
+        <translation>Copiar la contraseña de %1</translation>
     </message>
 </context>
 <context>
@@ -1845,6 +1973,65 @@ Las copias anteriores quedan como están, en:
     <message>
         <source>There is no safe in this archive. Choose a file that was exported or backed up from a safe.</source>
         <translation>No hay ninguna caja fuerte en este archivo comprimido. Hay que elegir uno creado al exportar una caja fuerte o al hacer su copia de seguridad.</translation>
+    </message>
+</context>
+<context>
+    <name>InstallSteps</name>
+    <message>
+        <source>Add the extension to %1</source>
+        <translation>Añadir la extensión a %1</translation>
+    </message>
+    <message>
+        <source>The extension did not come with this program. Install the program anew to get it.</source>
+        <translation>La extensión no venía con este programa. Instale de nuevo el programa para obtenerla.</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Abrir %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copiar la dirección</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Mostrar carpeta</translation>
+    </message>
+    <message>
+        <source>In %1 open the address %2</source>
+        <translation>En %1 abra la dirección %2</translation>
+    </message>
+    <message>
+        <source>Choose “Load Temporary Add-on…” and the file “manifest.json” in the folder of the extension</source>
+        <translation>Elija “Cargar complemento temporal…” y el archivo “manifest.json” de la carpeta de la extensión</translation>
+    </message>
+    <message>
+        <source>Come back here: the program asks whether Firefox may connect</source>
+        <translation>Vuelva aquí: el programa pregunta si Firefox puede conectarse</translation>
+    </message>
+    <message>
+        <source>Switch on “Developer mode”</source>
+        <translation>Active el “Modo de desarrollador”</translation>
+    </message>
+    <message>
+        <source>Choose “Load unpacked” and the folder of the extension</source>
+        <translation>Elija “Cargar descomprimida” y la carpeta de la extensión</translation>
+    </message>
+    <message>
+        <source>Folder of the extension</source>
+        <translation>Carpeta de la extensión</translation>
+    </message>
+    <message>
+        <source>Firefox forgets an extension that was added this way when it is closed.</source>
+        <translation>Firefox olvida una extensión añadida así cuando se cierra.</translation>
     </message>
 </context>
 <context>
@@ -2403,6 +2590,14 @@ No se podrán restaurar.</numerusform>
         <source>Expiring</source>
         <translation>Por caducar</translation>
     </message>
+    <message>
+        <source>Log in</source>
+        <translation>Acceder</translation>
+    </message>
+    <message>
+        <source>Fill in</source>
+        <translation>Rellenar</translation>
+    </message>
 </context>
 <context>
     <name>ItemListPane</name>
@@ -2498,10 +2693,6 @@ No se podrán restaurar.</numerusform>
         <translation>Eliminar</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Acceder</translation>
-    </message>
-    <message>
         <source>Open address</source>
         <translation>Abrir dirección</translation>
     </message>
@@ -2535,10 +2726,6 @@ No se podrán restaurar.</numerusform>
     <message>
         <source>Favourite</source>
         <translation>Favorito</translation>
-    </message>
-    <message>
-        <source>Log in</source>
-        <translation>Acceder</translation>
     </message>
     <message>
         <source>Log in (Ctrl+Return)</source>
@@ -2578,6 +2765,10 @@ No se podrán restaurar.</numerusform>
     <message>
         <source>Edit (F2)</source>
         <translation>Editar (F2)</translation>
+    </message>
+    <message>
+        <source>Fill into the open page (Ctrl+Return)</source>
+        <translation>Rellenar en la página abierta (Ctrl+Intro)</translation>
     </message>
 </context>
 <context>
@@ -3496,62 +3687,6 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
         <source>Password Generator</source>
         <translation>Generador de contraseñas</translation>
     </message>
-    <message>
-        <source>Generated password</source>
-        <translation>Contraseña generada</translation>
-    </message>
-    <message>
-        <source>Another password</source>
-        <translation>Otra contraseña</translation>
-    </message>
-    <message>
-        <source>Length:</source>
-        <translation>Longitud:</translation>
-    </message>
-    <message>
-        <source>Special chars:</source>
-        <translation>Caract. especiales:</translation>
-    </message>
-    <message>
-        <source>Recent</source>
-        <translation>Recientes</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Insertar</translation>
-    </message>
-    <message>
-        <source>There is nothing to place it in.</source>
-        <translation>No hay dónde insertarla.</translation>
-    </message>
-    <message>
-        <source>The passwords made since the safe was opened; locking it wipes them</source>
-        <translation>Contraseñas generadas desde que se abrió la caja fuerte; al bloquearla se borran</translation>
-    </message>
-    <message>
-        <source>Passwords are remembered only while a safe is open</source>
-        <translation>Las contraseñas solo se recuerdan mientras hay una caja fuerte abierta</translation>
-    </message>
-    <message>
-        <source>Hidden password</source>
-        <translation>Contraseña oculta</translation>
-    </message>
-    <message>
-        <source>used</source>
-        <translation>usada</translation>
-    </message>
-    <message>
-        <source>Copy the password of %1</source>
-        <translation>Copiar la contraseña (%1)</translation>
-    </message>
 </context>
 <context>
     <name>PasswordStrength</name>
@@ -3643,6 +3778,49 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     </message>
 </context>
 <context>
+    <name>PluginsPage</name>
+    <message>
+        <source>No browser was found that the extension is made for: Chrome, Chromium or Firefox.</source>
+        <translation>No se encontró ningún navegador para el que exista la extensión: Chrome, Chromium o Firefox.</translation>
+    </message>
+    <message>
+        <source>Looking for browsers…</source>
+        <translation>Buscando navegadores…</translation>
+    </message>
+    <message>
+        <source>A browser is connected.</source>
+        <translation>Hay un navegador conectado.</translation>
+    </message>
+    <message>
+        <source>No browser is connected yet. It shows here when it is.</source>
+        <translation>Todavía no hay ningún navegador conectado. Cuando lo haya, se verá aquí.</translation>
+    </message>
+    <message>
+        <source>Opens your web links</source>
+        <translation>Abre sus enlaces web</translation>
+    </message>
+    <message>
+        <source>Installed %1</source>
+        <translation>Instalada %1</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectada</translation>
+    </message>
+    <message>
+        <source>%1, connected</source>
+        <translation>%1, conectada</translation>
+    </message>
+    <message>
+        <source>Install Plugin</source>
+        <translation>Instalar extensión</translation>
+    </message>
+    <message>
+        <source>Install Plugin: %1</source>
+        <translation>Instalar extensión: %1</translation>
+    </message>
+</context>
+<context>
     <name>ProgramShortcuts</name>
     <message>
         <source>copy</source>
@@ -3690,6 +3868,126 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     <message>
         <source>Cancelling…</source>
         <translation>Cancelando…</translation>
+    </message>
+</context>
+<context>
+    <name>QuickAccessWindow</name>
+    <message>
+        <source>Quick access</source>
+        <translation>Acceso rápido</translation>
+    </message>
+    <message>
+        <source>No safe yet</source>
+        <translation>Todavía no hay ninguna caja fuerte</translation>
+    </message>
+    <message>
+        <source>Create one in the main window; what it keeps is found here.</source>
+        <translation>Cree una en la ventana principal; lo que guarde se encuentra aquí.</translation>
+    </message>
+    <message>
+        <source>Open main window</source>
+        <translation>Abrir la ventana principal</translation>
+    </message>
+    <message>
+        <source>Password Generator</source>
+        <translation>Generador de contraseñas</translation>
+    </message>
+    <message>
+        <source>No browser with the extension is connected</source>
+        <translation>No hay ningún navegador conectado con la extensión</translation>
+    </message>
+</context>
+<context>
+    <name>QuickBar</name>
+    <message>
+        <source>Logins</source>
+        <translation>Accesos</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Tarjetas</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Identidades</translation>
+    </message>
+    <message>
+        <source>Generate</source>
+        <translation>Generar</translation>
+    </message>
+    <message>
+        <source>%1 (Ctrl+%2)</source>
+        <translation>%1 (Ctrl+%2)</translation>
+    </message>
+</context>
+<context>
+    <name>QuickDelegate</name>
+    <message>
+        <source>For %1</source>
+        <translation>Para %1</translation>
+    </message>
+    <message>
+        <source>Most used</source>
+        <translation>Más usados</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Tarjetas</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Identidades</translation>
+    </message>
+    <message>
+        <source>Logins</source>
+        <translation>Accesos</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Rellenar</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+</context>
+<context>
+    <name>QuickList</name>
+    <message>
+        <source>Search logins, cards, identities</source>
+        <translation>Buscar accesos, tarjetas, identidades</translation>
+    </message>
+    <message>
+        <source>The arrow keys choose an item, Enter fills it. Ctrl+C copies its password, Ctrl+B its user name.</source>
+        <translation>Las flechas eligen un elemento, Intro lo rellena. Ctrl+C copia su contraseña, Ctrl+B su nombre de usuario.</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Elementos</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>No se encontró nada</translation>
+    </message>
+    <message>
+        <source>Try another word, or fewer letters.</source>
+        <translation>Pruebe con otra palabra o con menos letras.</translation>
+    </message>
+    <message>
+        <source>No logins yet</source>
+        <translation>Todavía no hay accesos</translation>
+    </message>
+    <message>
+        <source>No cards yet</source>
+        <translation>Todavía no hay tarjetas</translation>
+    </message>
+    <message>
+        <source>No identities yet</source>
+        <translation>Todavía no hay identidades</translation>
+    </message>
+    <message>
+        <source>What you add in the main window is found here.</source>
+        <translation>Lo que añada en la ventana principal se encuentra aquí.</translation>
     </message>
 </context>
 <context>
@@ -4107,6 +4405,123 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     <message>
         <source>There is no safe yet. Make a new one, or import an archive.</source>
         <translation>Aún no hay ninguna caja fuerte. Cree una o importe un archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginDialog</name>
+    <message>
+        <source>Save login</source>
+        <translation>Guardar acceso</translation>
+    </message>
+    <message>
+        <source>Never for this site</source>
+        <translation>Nunca en este sitio</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Contraseña maestra</translation>
+    </message>
+    <message>
+        <source>The login is in the safe now, but it could not be written to the disk. Check the free space and the permissions, then try again.</source>
+        <translation>El acceso ya está en la caja fuerte, pero no se pudo escribir en el disco. Compruebe el espacio libre y los permisos e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Your safe is locked. Unlock it to save this login.</source>
+        <translation>Su caja fuerte está bloqueada. Desbloquéela para guardar este acceso.</translation>
+    </message>
+    <message>
+        <source>Your safe has this login already, so there is nothing to save.</source>
+        <translation>Su caja fuerte ya tiene este acceso; no hay nada que guardar.</translation>
+    </message>
+    <message>
+        <source>Already saved</source>
+        <translation>Ya está guardado</translation>
+    </message>
+    <message>
+        <source>Update this login?</source>
+        <translation>¿Actualizar este acceso?</translation>
+    </message>
+    <message>
+        <source>Save this login?</source>
+        <translation>¿Guardar este acceso?</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Desbloquear de todos modos</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Desbloquear</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Unlocking…</source>
+        <translation>Desbloqueando…</translation>
+    </message>
+    <message numerus="yes">
+        <source>What you typed is kept for %n more seconds, then forgotten.</source>
+        <translation>
+            <numerusform>Lo que ha escrito se conserva %n segundo más y después se olvida.</numerusform>
+            <numerusform>Lo que ha escrito se conserva %n segundos más y después se olvida.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no password to save. Type it in, or choose Not now.</source>
+        <translation>No hay ninguna contraseña que guardar. Escríbala o elija “Ahora no”.</translation>
+    </message>
+    <message>
+        <source>That login is no longer in the safe. Choose again where to save.</source>
+        <translation>Ese acceso ya no está en la caja fuerte. Elija de nuevo dónde guardar.</translation>
+    </message>
+    <message>
+        <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>No se pudo escribir la lista de sitios. Compruebe el espacio libre y los permisos de la carpeta de ajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginForm</name>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message>
+        <source>Save in</source>
+        <translation>Guardar en</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>A new login</source>
+        <translation>Un acceso nuevo</translation>
+    </message>
+    <message>
+        <source>Until now: %1</source>
+        <translation>Hasta ahora: %1</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +5030,46 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
         <source>synchronise sync mirror share provider account computers</source>
         <translation>sincronizar copia espejo compartir proveedor cuenta equipos</translation>
     </message>
+    <message>
+        <source>Browsers and extensions</source>
+        <translation>Navegadores y extensiones</translation>
+    </message>
+    <message>
+        <source>In which browsers the extension is, and which may connect.</source>
+        <translation>En qué navegadores está la extensión y cuáles pueden conectarse.</translation>
+    </message>
+    <message>
+        <source>plugin install approve connect chrome chromium firefox</source>
+        <translation>plugin extensión instalar permitir conectar chrome chromium firefox</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Sitios sin ofrecimiento</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>No se ofrece guardar los accesos que escriba en ellos.</translation>
+    </message>
+    <message>
+        <source>never save login ask again</source>
+        <translation>nunca guardar acceso volver a preguntar</translation>
+    </message>
+    <message>
+        <source>Show the icons of web sites</source>
+        <translation>Mostrar los iconos de los sitios web</translation>
+    </message>
+    <message>
+        <source>They are fetched from the sites of your logins and kept in the safe.</source>
+        <translation>Se obtienen de los sitios de sus accesos y se guardan en la caja fuerte.</translation>
+    </message>
+    <message>
+        <source>favicon logo picture download</source>
+        <translation>favicon logotipo icono imagen descargar</translation>
+    </message>
+    <message>
+        <source>The setting holds until the program ends, but it could not be stored.</source>
+        <translation>El ajuste vale hasta que termine el programa, pero no se pudo guardar.</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -4666,14 +5121,6 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
         <translation>Salir del editor o borrar la búsqueda</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Acceder</translation>
-    </message>
-    <message>
-        <source>Log in, from the list or the search</source>
-        <translation>Acceder, desde la lista o la búsqueda</translation>
-    </message>
-    <message>
         <source>Copy the user name</source>
         <translation>Copiar el nombre de usuario</translation>
     </message>
@@ -4720,6 +5167,14 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>Show this list</source>
         <translation>Mostrar esta lista</translation>
+    </message>
+    <message>
+        <source>Log in, or fill in a card or identity</source>
+        <translation>Acceder, o rellenar una tarjeta o identidad</translation>
+    </message>
+    <message>
+        <source>Log in or fill in, from the list or the search</source>
+        <translation>Acceder o rellenar, desde la lista o la búsqueda</translation>
     </message>
 </context>
 <context>
@@ -4924,6 +5379,10 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>Settings</source>
         <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Quick Access</source>
+        <translation>Acceso rápido</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,72 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en_GB">
 <context>
+    <name>ApprovalDesk</name>
+    <message>
+        <source>Let Firefox connect?</source>
+        <translation>Autoriser Firefox à se connecter&#x202f;?</translation>
+    </message>
+    <message>
+        <source>An extension in Firefox wants to connect to this program. If you allow it, it can fill your logins into pages and offer to save new ones.
+
+Allow it if you have just added the extension to Firefox, or to another profile of it. If you do not know where this comes from, choose “Don&apos;t allow”.
+
+You can change your mind in the settings, on the page “Browser”.</source>
+        <translation>Une extension dans Firefox veut se connecter à ce programme. Si vous l’autorisez, elle peut remplir les pages avec vos identifiants et proposer d’en enregistrer de nouveaux.
+
+Autorisez-la si vous venez d’ajouter l’extension à Firefox, ou à un autre de ses profils. Si vous ne savez pas d’où cela vient, choisissez «&#x202f;Ne pas autoriser&#x202f;».
+
+Vous pouvez changer d’avis dans les paramètres, à la page «&#x202f;Navigateur&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Autoriser</translation>
+    </message>
+    <message>
+        <source>Don&apos;t allow</source>
+        <translation>Ne pas autoriser</translation>
+    </message>
+</context>
+<context>
+    <name>ApprovalsPanel</name>
+    <message>
+        <source>None yet. When one wants to connect, you are asked.</source>
+        <translation>Aucune pour l’instant. Si l’une d’elles veut se connecter, vous serez consulté.</translation>
+    </message>
+    <message>
+        <source>Each Firefox profile gives the extension an id of its own, so you say which ones may connect.</source>
+        <translation>Chaque profil Firefox donne à l’extension son propre ID&#xa0;: c’est vous qui dites lesquelles peuvent se connecter.</translation>
+    </message>
+    <message>
+        <source>Extensions in Firefox</source>
+        <translation>Extensions dans Firefox</translation>
+    </message>
+    <message>
+        <source>%1: may connect</source>
+        <translation>%1&#xa0;: connexion autorisée</translation>
+    </message>
+    <message>
+        <source>%1: may not connect</source>
+        <translation>%1&#xa0;: connexion non autorisée</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Autoriser</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Retirer %1</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>Autoriser %1</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveDesk</name>
     <message>
         <source>Export safe</source>
@@ -59,6 +125,14 @@
     <message>
         <source>Open it</source>
         <translation>L’ouvrir</translation>
+    </message>
+    <message>
+        <source>Restore backup</source>
+        <translation>Restaurer une sauvegarde</translation>
+    </message>
+    <message>
+        <source>Restoring “%1”…</source>
+        <translation>Restauration de «&#x202f;%1&#x202f;»…</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1353,29 @@ Elle ne pourra pas être restaurée.</translation>
     </message>
 </context>
 <context>
+    <name>ExcludedSitesPanel</name>
+    <message>
+        <source>None. “Never for this site” puts one here.</source>
+        <translation>Aucun. «&#x202f;Jamais pour ce site&#x202f;» en ajoute un ici.</translation>
+    </message>
+    <message>
+        <source>Ask again</source>
+        <translation>Demander à nouveau</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Sites sans proposition d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>Il n’est pas proposé d’enregistrer les identifiants que vous y saisissez.</translation>
+    </message>
+    <message>
+        <source>The list could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>La liste n’a pas pu être écrite. Vérifiez l’espace libre et les droits d’accès au dossier des paramètres.</translation>
+    </message>
+</context>
+<context>
     <name>ExpiryText</name>
     <message>
         <source>Expired</source>
@@ -1435,40 +1532,12 @@ Elle ne pourra pas être restaurée.</translation>
 <context>
     <name>ExtensionPage</name>
     <message>
-        <source>Copy</source>
-        <translation>Copier</translation>
+        <source>You can install plugin later from application Settings window</source>
+        <translation>Vous pourrez installer l’extension plus tard, depuis la fenêtre Paramètres du programme</translation>
     </message>
     <message>
-        <source>Copy the address</source>
-        <translation>Copier l’adresse</translation>
-    </message>
-    <message>
-        <source>Show folder</source>
-        <translation>Afficher le dossier</translation>
-    </message>
-    <message>
-        <source>In Chromium, Chrome or Edge open the address %1</source>
-        <translation>Dans Chromium, Chrome ou Edge, ouvrez l’adresse %1</translation>
-    </message>
-    <message>
-        <source>Choose “Load unpacked” and the folder of the extension</source>
-        <translation>Choisissez « Charger l’extension non empaquetée » et le dossier de l’extension</translation>
-    </message>
-    <message>
-        <source>Folder of the extension</source>
-        <translation>Dossier de l’extension</translation>
-    </message>
-    <message>
-        <source>A browser is connected.</source>
-        <translation>Un navigateur est connecté.</translation>
-    </message>
-    <message>
-        <source>No browser is connected yet. It shows here when it is.</source>
-        <translation>Aucun navigateur n’est encore connecté. Cela s’affichera ici.</translation>
-    </message>
-    <message>
-        <source>Switch on “Developer mode”</source>
-        <translation>Activez « Mode développeur »</translation>
+        <source>Done</source>
+        <translation>Terminer</translation>
     </message>
 </context>
 <context>
@@ -1618,10 +1687,6 @@ Elle ne pourra pas être restaurée.</translation>
         <translation>Remplir les formulaires du navigateur</translation>
     </message>
     <message>
-        <source>The extension fills your logins into the pages they belong to.</source>
-        <translation>L’extension remplit vos identifiants dans les pages auxquelles ils appartiennent.</translation>
-    </message>
-    <message>
         <source>You are ready</source>
         <translation>Tout est prêt</translation>
     </message>
@@ -1636,6 +1701,10 @@ Elle ne pourra pas être restaurée.</translation>
     <message>
         <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
         <translation>Depuis un navigateur ou un autre programme. Vous pouvez aussi le faire plus tard, dans le menu du coffre.</translation>
+    </message>
+    <message>
+        <source>Install plugin very fast and simple</source>
+        <translation>Installer l’extension est très simple et rapide</translation>
     </message>
 </context>
 <context>
@@ -1718,6 +1787,65 @@ Earlier backups are left as they are, in:
 
 Les sauvegardes précédentes restent telles quelles, dans :
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneratorPanel</name>
+    <message>
+        <source>Generated password</source>
+        <translation>Mot de passe généré</translation>
+    </message>
+    <message>
+        <source>Another password</source>
+        <translation>Autre mot de passe</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Longueur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Special chars:</source>
+        <translation>Caract. spéciaux&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Récents</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Insérer</translation>
+    </message>
+    <message>
+        <source>There is nothing to place it in.</source>
+        <translation>Il n’y a aucun champ où l’insérer.</translation>
+    </message>
+    <message>
+        <source>The passwords made since the safe was opened; locking it wipes them</source>
+        <translation>Mots de passe générés depuis l’ouverture du coffre&#x202f;; son verrouillage les efface</translation>
+    </message>
+    <message>
+        <source>Passwords are remembered only while a safe is open</source>
+        <translation>Les mots de passe ne sont mémorisés que tant qu’un coffre est ouvert</translation>
+    </message>
+    <message>
+        <source>Hidden password</source>
+        <translation>Mot de passe masqué</translation>
+    </message>
+    <message>
+        <source>used</source>
+        <translation>utilisé</translation>
+    </message>
+    <message>
+        <source>Copy the password of %1</source>
+        <translation>Copier le mot de passe (%1)</translation>
     </message>
 </context>
 <context>
@@ -1845,6 +1973,65 @@ Les sauvegardes précédentes restent telles quelles, dans :
     <message>
         <source>There is no safe in this archive. Choose a file that was exported or backed up from a safe.</source>
         <translation>Il n’y a pas de coffre dans cette archive. Choisissez un fichier issu de l’exportation ou de la sauvegarde d’un coffre.</translation>
+    </message>
+</context>
+<context>
+    <name>InstallSteps</name>
+    <message>
+        <source>Add the extension to %1</source>
+        <translation>Ajouter l’extension à %1</translation>
+    </message>
+    <message>
+        <source>The extension did not come with this program. Install the program anew to get it.</source>
+        <translation>L’extension n’était pas fournie avec ce programme. Réinstallez le programme pour l’obtenir.</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Ouvrir %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy the address</source>
+        <translation>Copier l’adresse</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Afficher le dossier</translation>
+    </message>
+    <message>
+        <source>In %1 open the address %2</source>
+        <translation>Dans %1, ouvrez l’adresse %2</translation>
+    </message>
+    <message>
+        <source>Choose “Load Temporary Add-on…” and the file “manifest.json” in the folder of the extension</source>
+        <translation>Choisissez «&#x202f;Charger un module complémentaire temporaire…&#x202f;» et le fichier «&#x202f;manifest.json&#x202f;» dans le dossier de l’extension</translation>
+    </message>
+    <message>
+        <source>Come back here: the program asks whether Firefox may connect</source>
+        <translation>Revenez ici&#xa0;: le programme demande si Firefox peut se connecter</translation>
+    </message>
+    <message>
+        <source>Switch on “Developer mode”</source>
+        <translation>Activez «&#x202f;Mode développeur&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Choose “Load unpacked” and the folder of the extension</source>
+        <translation>Choisissez «&#x202f;Charger l’extension non empaquetée&#x202f;» et le dossier de l’extension</translation>
+    </message>
+    <message>
+        <source>Folder of the extension</source>
+        <translation>Dossier de l’extension</translation>
+    </message>
+    <message>
+        <source>Firefox forgets an extension that was added this way when it is closed.</source>
+        <translation>À sa fermeture, Firefox oublie une extension ajoutée de cette façon.</translation>
     </message>
 </context>
 <context>
@@ -2403,6 +2590,14 @@ Ils ne pourront pas être restaurés.</numerusform>
         <source>Expiring</source>
         <translation>Bientôt expirés</translation>
     </message>
+    <message>
+        <source>Log in</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>Fill in</source>
+        <translation>Remplir</translation>
+    </message>
 </context>
 <context>
     <name>ItemListPane</name>
@@ -2498,10 +2693,6 @@ Ils ne pourront pas être restaurés.</numerusform>
         <translation>Supprimer</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Connexion</translation>
-    </message>
-    <message>
         <source>Open address</source>
         <translation>Ouvrir l’adresse</translation>
     </message>
@@ -2535,10 +2726,6 @@ Ils ne pourront pas être restaurés.</numerusform>
     <message>
         <source>Favourite</source>
         <translation>Favori</translation>
-    </message>
-    <message>
-        <source>Log in</source>
-        <translation>Connexion</translation>
     </message>
     <message>
         <source>Log in (Ctrl+Return)</source>
@@ -2578,6 +2765,10 @@ Ils ne pourront pas être restaurés.</numerusform>
     <message>
         <source>Edit (F2)</source>
         <translation>Modifier (F2)</translation>
+    </message>
+    <message>
+        <source>Fill into the open page (Ctrl+Return)</source>
+        <translation>Remplir dans la page ouverte (Ctrl+Entrée)</translation>
     </message>
 </context>
 <context>
@@ -3496,62 +3687,6 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
         <source>Password Generator</source>
         <translation>Générateur de mots de passe</translation>
     </message>
-    <message>
-        <source>Generated password</source>
-        <translation>Mot de passe généré</translation>
-    </message>
-    <message>
-        <source>Another password</source>
-        <translation>Autre mot de passe</translation>
-    </message>
-    <message>
-        <source>Length:</source>
-        <translation>Longueur&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Special chars:</source>
-        <translation>Caract. spéciaux&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Recent</source>
-        <translation>Récents</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copier</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Insérer</translation>
-    </message>
-    <message>
-        <source>There is nothing to place it in.</source>
-        <translation>Il n’y a aucun champ où l’insérer.</translation>
-    </message>
-    <message>
-        <source>The passwords made since the safe was opened; locking it wipes them</source>
-        <translation>Mots de passe générés depuis l’ouverture du coffre&#x202f;; son verrouillage les efface</translation>
-    </message>
-    <message>
-        <source>Passwords are remembered only while a safe is open</source>
-        <translation>Les mots de passe ne sont mémorisés que tant qu’un coffre est ouvert</translation>
-    </message>
-    <message>
-        <source>Hidden password</source>
-        <translation>Mot de passe masqué</translation>
-    </message>
-    <message>
-        <source>used</source>
-        <translation>utilisé</translation>
-    </message>
-    <message>
-        <source>Copy the password of %1</source>
-        <translation>Copier le mot de passe (%1)</translation>
-    </message>
 </context>
 <context>
     <name>PasswordStrength</name>
@@ -3643,6 +3778,49 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     </message>
 </context>
 <context>
+    <name>PluginsPage</name>
+    <message>
+        <source>No browser was found that the extension is made for: Chrome, Chromium or Firefox.</source>
+        <translation>Aucun navigateur pour lequel l’extension est conçue n’a été trouvé&#xa0;: Chrome, Chromium ou Firefox.</translation>
+    </message>
+    <message>
+        <source>Looking for browsers…</source>
+        <translation>Recherche de navigateurs…</translation>
+    </message>
+    <message>
+        <source>A browser is connected.</source>
+        <translation>Un navigateur est connecté.</translation>
+    </message>
+    <message>
+        <source>No browser is connected yet. It shows here when it is.</source>
+        <translation>Aucun navigateur n’est encore connecté. Cela s’affichera ici.</translation>
+    </message>
+    <message>
+        <source>Opens your web links</source>
+        <translation>Ouvre vos liens web</translation>
+    </message>
+    <message>
+        <source>Installed %1</source>
+        <translation>Installée %1</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connectée</translation>
+    </message>
+    <message>
+        <source>%1, connected</source>
+        <translation>%1, connectée</translation>
+    </message>
+    <message>
+        <source>Install Plugin</source>
+        <translation>Installer l’extension</translation>
+    </message>
+    <message>
+        <source>Install Plugin: %1</source>
+        <translation>Installer l’extension&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>ProgramShortcuts</name>
     <message>
         <source>copy</source>
@@ -3690,6 +3868,126 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     <message>
         <source>Cancelling…</source>
         <translation>Annulation…</translation>
+    </message>
+</context>
+<context>
+    <name>QuickAccessWindow</name>
+    <message>
+        <source>Quick access</source>
+        <translation>Accès rapide</translation>
+    </message>
+    <message>
+        <source>No safe yet</source>
+        <translation>Aucun coffre pour l’instant</translation>
+    </message>
+    <message>
+        <source>Create one in the main window; what it keeps is found here.</source>
+        <translation>Créez-en un dans la fenêtre principale&#x202f;; vous trouverez ici son contenu.</translation>
+    </message>
+    <message>
+        <source>Open main window</source>
+        <translation>Ouvrir la fenêtre principale</translation>
+    </message>
+    <message>
+        <source>Password Generator</source>
+        <translation>Générateur de mots de passe</translation>
+    </message>
+    <message>
+        <source>No browser with the extension is connected</source>
+        <translation>Aucun navigateur doté de l’extension n’est connecté</translation>
+    </message>
+</context>
+<context>
+    <name>QuickBar</name>
+    <message>
+        <source>Logins</source>
+        <translation>Identifiants</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Cartes</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Identités</translation>
+    </message>
+    <message>
+        <source>Generate</source>
+        <translation>Générer</translation>
+    </message>
+    <message>
+        <source>%1 (Ctrl+%2)</source>
+        <translation>%1 (Ctrl+%2)</translation>
+    </message>
+</context>
+<context>
+    <name>QuickDelegate</name>
+    <message>
+        <source>For %1</source>
+        <translation>Pour %1</translation>
+    </message>
+    <message>
+        <source>Most used</source>
+        <translation>Les plus utilisés</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Cartes</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Identités</translation>
+    </message>
+    <message>
+        <source>Logins</source>
+        <translation>Identifiants</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>QuickList</name>
+    <message>
+        <source>Search logins, cards, identities</source>
+        <translation>Chercher identifiants, cartes, identités</translation>
+    </message>
+    <message>
+        <source>The arrow keys choose an item, Enter fills it. Ctrl+C copies its password, Ctrl+B its user name.</source>
+        <translation>Les flèches choisissent un élément, Entrée le remplit. Ctrl+C copie son mot de passe, Ctrl+B son nom d’utilisateur.</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Éléments</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Aucun résultat</translation>
+    </message>
+    <message>
+        <source>Try another word, or fewer letters.</source>
+        <translation>Essayez un autre mot, ou moins de lettres.</translation>
+    </message>
+    <message>
+        <source>No logins yet</source>
+        <translation>Aucun identifiant pour l’instant</translation>
+    </message>
+    <message>
+        <source>No cards yet</source>
+        <translation>Aucune carte pour l’instant</translation>
+    </message>
+    <message>
+        <source>No identities yet</source>
+        <translation>Aucune identité pour l’instant</translation>
+    </message>
+    <message>
+        <source>What you add in the main window is found here.</source>
+        <translation>Vous trouverez ici ce que vous ajoutez dans la fenêtre principale.</translation>
     </message>
 </context>
 <context>
@@ -4107,6 +4405,123 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     <message>
         <source>There is no safe yet. Make a new one, or import an archive.</source>
         <translation>Il n’y a pas encore de coffre. Créez-en un, ou importez une archive.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginDialog</name>
+    <message>
+        <source>Save login</source>
+        <translation>Enregistrer l’identifiant</translation>
+    </message>
+    <message>
+        <source>Never for this site</source>
+        <translation>Jamais pour ce site</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Mot de passe maître</translation>
+    </message>
+    <message>
+        <source>The login is in the safe now, but it could not be written to the disk. Check the free space and the permissions, then try again.</source>
+        <translation>L’identifiant est maintenant dans le coffre, mais n’a pas pu être écrit sur le disque. Vérifiez l’espace libre et les droits d’accès, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>Your safe is locked. Unlock it to save this login.</source>
+        <translation>Votre coffre est verrouillé. Déverrouillez-le pour enregistrer cet identifiant.</translation>
+    </message>
+    <message>
+        <source>Your safe has this login already, so there is nothing to save.</source>
+        <translation>Votre coffre contient déjà cet identifiant&#xa0;: il n’y a rien à enregistrer.</translation>
+    </message>
+    <message>
+        <source>Already saved</source>
+        <translation>Déjà enregistré</translation>
+    </message>
+    <message>
+        <source>Update this login?</source>
+        <translation>Mettre à jour cet identifiant&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Save this login?</source>
+        <translation>Enregistrer cet identifiant&#x202f;?</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Ouvrir quand même</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Déverrouiller</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Unlocking…</source>
+        <translation>Déverrouillage…</translation>
+    </message>
+    <message numerus="yes">
+        <source>What you typed is kept for %n more seconds, then forgotten.</source>
+        <translation>
+            <numerusform>Votre saisie est conservée encore %n&#xa0;seconde, puis oubliée.</numerusform>
+            <numerusform>Votre saisie est conservée encore %n&#xa0;secondes, puis oubliée.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no password to save. Type it in, or choose Not now.</source>
+        <translation>Il n’y a pas de mot de passe à enregistrer. Saisissez-le, ou choisissez «&#x202f;Pas maintenant&#x202f;».</translation>
+    </message>
+    <message>
+        <source>That login is no longer in the safe. Choose again where to save.</source>
+        <translation>Cet identifiant n’est plus dans le coffre. Choisissez à nouveau où enregistrer.</translation>
+    </message>
+    <message>
+        <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>La liste des sites n’a pas pu être écrite. Vérifiez l’espace libre et les droits d’accès au dossier des paramètres.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginForm</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nom d’utilisateur</translation>
+    </message>
+    <message>
+        <source>Save in</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>A new login</source>
+        <translation>Un nouvel identifiant</translation>
+    </message>
+    <message>
+        <source>Until now: %1</source>
+        <translation>Jusqu’ici&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -4615,6 +5030,46 @@ type:carte affiche un seul type d’éléments.
         <source>synchronise sync mirror share provider account computers</source>
         <translation>synchroniser synchronisation synchro sync miroir partager partage fournisseur compte ordinateurs</translation>
     </message>
+    <message>
+        <source>Browsers and extensions</source>
+        <translation>Navigateurs et extensions</translation>
+    </message>
+    <message>
+        <source>In which browsers the extension is, and which may connect.</source>
+        <translation>Dans quels navigateurs se trouve l’extension, et lesquels peuvent se connecter.</translation>
+    </message>
+    <message>
+        <source>plugin install approve connect chrome chromium firefox</source>
+        <translation>extension module installer installation autoriser connecter connexion chrome chromium firefox</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Sites sans proposition d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>Il n’est pas proposé d’enregistrer les identifiants que vous y saisissez.</translation>
+    </message>
+    <message>
+        <source>never save login ask again</source>
+        <translation>jamais enregistrer identifiant demander nouveau redemander</translation>
+    </message>
+    <message>
+        <source>Show the icons of web sites</source>
+        <translation>Afficher les icônes des sites web</translation>
+    </message>
+    <message>
+        <source>They are fetched from the sites of your logins and kept in the safe.</source>
+        <translation>Elles sont récupérées sur les sites de vos identifiants et conservées dans le coffre.</translation>
+    </message>
+    <message>
+        <source>favicon logo picture download</source>
+        <translation>favicon logo icône icone image télécharger telecharger</translation>
+    </message>
+    <message>
+        <source>The setting holds until the program ends, but it could not be stored.</source>
+        <translation>Le paramètre reste valable jusqu’à la fermeture du programme, mais n’a pas pu être enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -4666,14 +5121,6 @@ type:carte affiche un seul type d’éléments.
         <translation>Quitter l’éditeur ou effacer la recherche</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Connexion</translation>
-    </message>
-    <message>
-        <source>Log in, from the list or the search</source>
-        <translation>Se connecter, depuis la liste ou la recherche</translation>
-    </message>
-    <message>
         <source>Copy the user name</source>
         <translation>Copier le nom d’utilisateur</translation>
     </message>
@@ -4720,6 +5167,14 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>Show this list</source>
         <translation>Afficher cette liste</translation>
+    </message>
+    <message>
+        <source>Log in, or fill in a card or identity</source>
+        <translation>Se connecter, ou remplir une carte ou une identité</translation>
+    </message>
+    <message>
+        <source>Log in or fill in, from the list or the search</source>
+        <translation>Se connecter ou remplir, depuis la liste ou la recherche</translation>
     </message>
 </context>
 <context>
@@ -4924,6 +5379,10 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>Settings</source>
         <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Quick Access</source>
+        <translation>Accès rapide</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,72 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en_GB">
 <context>
+    <name>ApprovalDesk</name>
+    <message>
+        <source>Let Firefox connect?</source>
+        <translation>Разрешить Firefox подключиться?</translation>
+    </message>
+    <message>
+        <source>An extension in Firefox wants to connect to this program. If you allow it, it can fill your logins into pages and offer to save new ones.
+
+Allow it if you have just added the extension to Firefox, or to another profile of it. If you do not know where this comes from, choose “Don&apos;t allow”.
+
+You can change your mind in the settings, on the page “Browser”.</source>
+        <translation>Расширение в Firefox хочет подключиться к этой программе. Если Вы разрешите, оно сможет заполнять страницы Вашими логинами и предлагать сохранить новые.
+
+Разрешите, если Вы только что добавили расширение в Firefox или в другой его профиль. Если не знаете, откуда этот запрос, выберите «Не разрешать».
+
+Передумать можно в настройках, на странице «Браузер».</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Разрешить</translation>
+    </message>
+    <message>
+        <source>Don&apos;t allow</source>
+        <translation>Не разрешать</translation>
+    </message>
+</context>
+<context>
+    <name>ApprovalsPanel</name>
+    <message>
+        <source>None yet. When one wants to connect, you are asked.</source>
+        <translation>Пока нет. Когда расширение захочет подключиться, программа Вас спросит.</translation>
+    </message>
+    <message>
+        <source>Each Firefox profile gives the extension an id of its own, so you say which ones may connect.</source>
+        <translation>Каждый профиль Firefox даёт расширению свой ID, поэтому Вы сами решаете, каким можно подключаться.</translation>
+    </message>
+    <message>
+        <source>Extensions in Firefox</source>
+        <translation>Расширения в Firefox</translation>
+    </message>
+    <message>
+        <source>%1: may connect</source>
+        <translation>%1: подключение разрешено</translation>
+    </message>
+    <message>
+        <source>%1: may not connect</source>
+        <translation>%1: подключение запрещено</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Разрешить</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Убрать %1</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>Разрешить %1</translation>
+    </message>
+</context>
+<context>
     <name>ArchiveDesk</name>
     <message>
         <source>Export safe</source>
@@ -60,6 +126,14 @@
     <message>
         <source>Open it</source>
         <translation>Открыть его</translation>
+    </message>
+    <message>
+        <source>Restore backup</source>
+        <translation>Восстановление из копии</translation>
+    </message>
+    <message>
+        <source>Restoring “%1”…</source>
+        <translation>Восстановление «%1»…</translation>
     </message>
 </context>
 <context>
@@ -1287,6 +1361,29 @@ It can not be restored.</source>
     </message>
 </context>
 <context>
+    <name>ExcludedSitesPanel</name>
+    <message>
+        <source>None. “Never for this site” puts one here.</source>
+        <translation>Пока нет. Кнопка «Никогда для этого сайта» добавит сайт сюда.</translation>
+    </message>
+    <message>
+        <source>Ask again</source>
+        <translation>Снова спрашивать</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Сайты без предложения сохранить</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>Логины, которые Вы там вводите, не предлагается сохранить.</translation>
+    </message>
+    <message>
+        <source>The list could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>Список не удалось записать. Проверьте свободное место и права доступа к папке настроек.</translation>
+    </message>
+</context>
+<context>
     <name>ExpiryText</name>
     <message>
         <source>Expired</source>
@@ -1448,40 +1545,12 @@ It can not be restored.</source>
 <context>
     <name>ExtensionPage</name>
     <message>
-        <source>Copy</source>
-        <translation>Копировать</translation>
+        <source>You can install plugin later from application Settings window</source>
+        <translation>Расширение можно установить и позже, в окне настроек программы</translation>
     </message>
     <message>
-        <source>Copy the address</source>
-        <translation>Копировать адрес</translation>
-    </message>
-    <message>
-        <source>Show folder</source>
-        <translation>Показать папку</translation>
-    </message>
-    <message>
-        <source>In Chromium, Chrome or Edge open the address %1</source>
-        <translation>В браузере Chromium, Chrome или Edge откройте адрес %1</translation>
-    </message>
-    <message>
-        <source>Choose “Load unpacked” and the folder of the extension</source>
-        <translation>Выберите «Загрузить распакованное расширение» и папку расширения</translation>
-    </message>
-    <message>
-        <source>Folder of the extension</source>
-        <translation>Папка расширения</translation>
-    </message>
-    <message>
-        <source>A browser is connected.</source>
-        <translation>Браузер подключён.</translation>
-    </message>
-    <message>
-        <source>No browser is connected yet. It shows here when it is.</source>
-        <translation>Браузер ещё не подключён. Подключение будет показано здесь.</translation>
-    </message>
-    <message>
-        <source>Switch on “Developer mode”</source>
-        <translation>Включите «Режим разработчика»</translation>
+        <source>Done</source>
+        <translation>Готово</translation>
     </message>
 </context>
 <context>
@@ -1632,10 +1701,6 @@ It can not be restored.</source>
         <translation>Заполнение форм в браузере</translation>
     </message>
     <message>
-        <source>The extension fills your logins into the pages they belong to.</source>
-        <translation>Расширение вводит логины на тех страницах, к которым они относятся.</translation>
-    </message>
-    <message>
         <source>You are ready</source>
         <translation>Всё готово</translation>
     </message>
@@ -1650,6 +1715,10 @@ It can not be restored.</source>
     <message>
         <source>From a browser or another program. You can also do it later, in the menu of the safe.</source>
         <translation>Из браузера или другой программы. Это можно сделать и позже, в меню сейфа.</translation>
+    </message>
+    <message>
+        <source>Install plugin very fast and simple</source>
+        <translation>Установить расширение очень быстро и просто</translation>
     </message>
 </context>
 <context>
@@ -1732,6 +1801,65 @@ Earlier backups are left as they are, in:
 
 Прежние копии оставлены без изменений в папке:
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>GeneratorPanel</name>
+    <message>
+        <source>Generated password</source>
+        <translation>Созданный пароль</translation>
+    </message>
+    <message>
+        <source>Another password</source>
+        <translation>Другой пароль</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Длина:</translation>
+    </message>
+    <message>
+        <source>Special chars:</source>
+        <translation>Спецсимволы:</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Недавние</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>There is nothing to place it in.</source>
+        <translation>Вставить пароль некуда.</translation>
+    </message>
+    <message>
+        <source>The passwords made since the safe was opened; locking it wipes them</source>
+        <translation>Пароли, созданные после открытия сейфа; при блокировке они стираются</translation>
+    </message>
+    <message>
+        <source>Passwords are remembered only while a safe is open</source>
+        <translation>Пароли запоминаются, только пока сейф открыт</translation>
+    </message>
+    <message>
+        <source>Hidden password</source>
+        <translation>Скрытый пароль</translation>
+    </message>
+    <message>
+        <source>used</source>
+        <translation>использован</translation>
+    </message>
+    <message>
+        <source>Copy the password of %1</source>
+        <translation>Копировать пароль от %1</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1987,65 @@ Earlier backups are left as they are, in:
     <message>
         <source>There is no safe in this archive. Choose a file that was exported or backed up from a safe.</source>
         <translation>В этом архиве нет сейфа. Выберите файл, полученный при экспорте или резервном копировании сейфа.</translation>
+    </message>
+</context>
+<context>
+    <name>InstallSteps</name>
+    <message>
+        <source>Add the extension to %1</source>
+        <translation>Добавление расширения в %1</translation>
+    </message>
+    <message>
+        <source>The extension did not come with this program. Install the program anew to get it.</source>
+        <translation>Расширения нет в составе этой программы. Чтобы его получить, переустановите программу.</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Открыть %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Copy the address</source>
+        <translation>Копировать адрес</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Показать папку</translation>
+    </message>
+    <message>
+        <source>In %1 open the address %2</source>
+        <translation>В %1 откройте адрес %2</translation>
+    </message>
+    <message>
+        <source>Choose “Load Temporary Add-on…” and the file “manifest.json” in the folder of the extension</source>
+        <translation>Выберите «Загрузить временное дополнение…» и файл «manifest.json» в папке расширения</translation>
+    </message>
+    <message>
+        <source>Come back here: the program asks whether Firefox may connect</source>
+        <translation>Вернитесь сюда: программа спросит, можно ли Firefox подключиться</translation>
+    </message>
+    <message>
+        <source>Switch on “Developer mode”</source>
+        <translation>Включите «Режим разработчика»</translation>
+    </message>
+    <message>
+        <source>Choose “Load unpacked” and the folder of the extension</source>
+        <translation>Выберите «Загрузить распакованное расширение» и папку расширения</translation>
+    </message>
+    <message>
+        <source>Folder of the extension</source>
+        <translation>Папка расширения</translation>
+    </message>
+    <message>
+        <source>Firefox forgets an extension that was added this way when it is closed.</source>
+        <translation>При закрытии Firefox забывает расширение, добавленное таким способом.</translation>
     </message>
 </context>
 <context>
@@ -2422,6 +2609,14 @@ They can not be restored.</source>
         <source>Expiring</source>
         <translation>Истекают</translation>
     </message>
+    <message>
+        <source>Log in</source>
+        <translation>Войти</translation>
+    </message>
+    <message>
+        <source>Fill in</source>
+        <translation>Заполнить</translation>
+    </message>
 </context>
 <context>
     <name>ItemListPane</name>
@@ -2517,10 +2712,6 @@ They can not be restored.</source>
         <translation>Удалить</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Войти</translation>
-    </message>
-    <message>
         <source>Open address</source>
         <translation>Открыть адрес</translation>
     </message>
@@ -2554,10 +2745,6 @@ They can not be restored.</source>
     <message>
         <source>Favourite</source>
         <translation>Избранное</translation>
-    </message>
-    <message>
-        <source>Log in</source>
-        <translation>Войти</translation>
     </message>
     <message>
         <source>Log in (Ctrl+Return)</source>
@@ -2598,6 +2785,10 @@ They can not be restored.</source>
     <message>
         <source>Edit (F2)</source>
         <translation>Изменить (F2)</translation>
+    </message>
+    <message>
+        <source>Fill into the open page (Ctrl+Return)</source>
+        <translation>Заполнить на открытой странице (Ctrl+Enter)</translation>
     </message>
 </context>
 <context>
@@ -3529,62 +3720,6 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
         <source>Password Generator</source>
         <translation>Генератор паролей</translation>
     </message>
-    <message>
-        <source>Generated password</source>
-        <translation>Созданный пароль</translation>
-    </message>
-    <message>
-        <source>Another password</source>
-        <translation>Другой пароль</translation>
-    </message>
-    <message>
-        <source>Length:</source>
-        <translation>Длина:</translation>
-    </message>
-    <message>
-        <source>Special chars:</source>
-        <translation>Спецсимволы:</translation>
-    </message>
-    <message>
-        <source>Recent</source>
-        <translation>Недавние</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Отмена</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Копировать</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Вставить</translation>
-    </message>
-    <message>
-        <source>There is nothing to place it in.</source>
-        <translation>Вставить пароль некуда.</translation>
-    </message>
-    <message>
-        <source>The passwords made since the safe was opened; locking it wipes them</source>
-        <translation>Пароли, созданные после открытия сейфа; при блокировке они стираются</translation>
-    </message>
-    <message>
-        <source>Passwords are remembered only while a safe is open</source>
-        <translation>Пароли запоминаются, только пока сейф открыт</translation>
-    </message>
-    <message>
-        <source>Hidden password</source>
-        <translation>Скрытый пароль</translation>
-    </message>
-    <message>
-        <source>used</source>
-        <translation>использован</translation>
-    </message>
-    <message>
-        <source>Copy the password of %1</source>
-        <translation>Копировать пароль от %1</translation>
-    </message>
 </context>
 <context>
     <name>PasswordStrength</name>
@@ -3676,6 +3811,49 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     </message>
 </context>
 <context>
+    <name>PluginsPage</name>
+    <message>
+        <source>No browser was found that the extension is made for: Chrome, Chromium or Firefox.</source>
+        <translation>Не найден ни один браузер, для которого есть расширение: Chrome, Chromium или Firefox.</translation>
+    </message>
+    <message>
+        <source>Looking for browsers…</source>
+        <translation>Поиск браузеров…</translation>
+    </message>
+    <message>
+        <source>A browser is connected.</source>
+        <translation>Браузер подключён.</translation>
+    </message>
+    <message>
+        <source>No browser is connected yet. It shows here when it is.</source>
+        <translation>Браузер ещё не подключён. Подключение будет показано здесь.</translation>
+    </message>
+    <message>
+        <source>Opens your web links</source>
+        <translation>Открывает Ваши веб-ссылки</translation>
+    </message>
+    <message>
+        <source>Installed %1</source>
+        <translation>Установлено %1</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <source>%1, connected</source>
+        <translation>%1, подключено</translation>
+    </message>
+    <message>
+        <source>Install Plugin</source>
+        <translation>Установить расширение</translation>
+    </message>
+    <message>
+        <source>Install Plugin: %1</source>
+        <translation>Установить расширение: %1</translation>
+    </message>
+</context>
+<context>
     <name>ProgramShortcuts</name>
     <message>
         <source>copy</source>
@@ -3723,6 +3901,126 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     <message>
         <source>Cancelling…</source>
         <translation>Отмена…</translation>
+    </message>
+</context>
+<context>
+    <name>QuickAccessWindow</name>
+    <message>
+        <source>Quick access</source>
+        <translation>Быстрый доступ</translation>
+    </message>
+    <message>
+        <source>No safe yet</source>
+        <translation>Сейфов пока нет</translation>
+    </message>
+    <message>
+        <source>Create one in the main window; what it keeps is found here.</source>
+        <translation>Создайте сейф в главном окне; его содержимое Вы найдёте здесь.</translation>
+    </message>
+    <message>
+        <source>Open main window</source>
+        <translation>Открыть главное окно</translation>
+    </message>
+    <message>
+        <source>Password Generator</source>
+        <translation>Генератор паролей</translation>
+    </message>
+    <message>
+        <source>No browser with the extension is connected</source>
+        <translation>Нет подключённого браузера с расширением</translation>
+    </message>
+</context>
+<context>
+    <name>QuickBar</name>
+    <message>
+        <source>Logins</source>
+        <translation>Логины</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Карты</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Личные данные</translation>
+    </message>
+    <message>
+        <source>Generate</source>
+        <translation>Генератор</translation>
+    </message>
+    <message>
+        <source>%1 (Ctrl+%2)</source>
+        <translation>%1 (Ctrl+%2)</translation>
+    </message>
+</context>
+<context>
+    <name>QuickDelegate</name>
+    <message>
+        <source>For %1</source>
+        <translation>Для %1</translation>
+    </message>
+    <message>
+        <source>Most used</source>
+        <translation>Частые</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Карты</translation>
+    </message>
+    <message>
+        <source>Identities</source>
+        <translation>Личные данные</translation>
+    </message>
+    <message>
+        <source>Logins</source>
+        <translation>Логины</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Заполнить</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+</context>
+<context>
+    <name>QuickList</name>
+    <message>
+        <source>Search logins, cards, identities</source>
+        <translation>Поиск логинов, карт, личных данных</translation>
+    </message>
+    <message>
+        <source>The arrow keys choose an item, Enter fills it. Ctrl+C copies its password, Ctrl+B its user name.</source>
+        <translation>Стрелки выбирают запись, Enter заполняет её. Ctrl+C копирует её пароль, Ctrl+B — имя пользователя.</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Записи</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Ничего не найдено</translation>
+    </message>
+    <message>
+        <source>Try another word, or fewer letters.</source>
+        <translation>Попробуйте другое слово или меньше букв.</translation>
+    </message>
+    <message>
+        <source>No logins yet</source>
+        <translation>Логинов пока нет</translation>
+    </message>
+    <message>
+        <source>No cards yet</source>
+        <translation>Карт пока нет</translation>
+    </message>
+    <message>
+        <source>No identities yet</source>
+        <translation>Личных данных пока нет</translation>
+    </message>
+    <message>
+        <source>What you add in the main window is found here.</source>
+        <translation>Здесь Вы найдёте то, что добавите в главном окне.</translation>
     </message>
 </context>
 <context>
@@ -4142,6 +4440,124 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     <message>
         <source>There is no safe yet. Make a new one, or import an archive.</source>
         <translation>Сейфов ещё нет. Создайте новый или импортируйте архив.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginDialog</name>
+    <message>
+        <source>Save login</source>
+        <translation>Сохранение логина</translation>
+    </message>
+    <message>
+        <source>Never for this site</source>
+        <translation>Никогда для этого сайта</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Не сейчас</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Master password</source>
+        <translation>Мастер-пароль</translation>
+    </message>
+    <message>
+        <source>The login is in the safe now, but it could not be written to the disk. Check the free space and the permissions, then try again.</source>
+        <translation>Логин уже в сейфе, но его не удалось записать на диск. Проверьте свободное место и права доступа и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>Your safe is locked. Unlock it to save this login.</source>
+        <translation>Ваш сейф заблокирован. Откройте его, чтобы сохранить этот логин.</translation>
+    </message>
+    <message>
+        <source>Your safe has this login already, so there is nothing to save.</source>
+        <translation>Этот логин уже есть в Вашем сейфе, сохранять нечего.</translation>
+    </message>
+    <message>
+        <source>Already saved</source>
+        <translation>Уже сохранено</translation>
+    </message>
+    <message>
+        <source>Update this login?</source>
+        <translation>Обновить этот логин?</translation>
+    </message>
+    <message>
+        <source>Save this login?</source>
+        <translation>Сохранить этот логин?</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Unlock anyway</source>
+        <translation>Всё равно открыть</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Unlocking…</source>
+        <translation>Открывается…</translation>
+    </message>
+    <message numerus="yes">
+        <source>What you typed is kept for %n more seconds, then forgotten.</source>
+        <translation>
+            <numerusform>Введённое хранится ещё %n секунду, затем забывается.</numerusform>
+            <numerusform>Введённое хранится ещё %n секунды, затем забывается.</numerusform>
+            <numerusform>Введённое хранится ещё %n секунд, затем забывается.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no password to save. Type it in, or choose Not now.</source>
+        <translation>Нет пароля для сохранения. Введите его или выберите «Не сейчас».</translation>
+    </message>
+    <message>
+        <source>That login is no longer in the safe. Choose again where to save.</source>
+        <translation>Этого логина больше нет в сейфе. Выберите ещё раз, куда сохранить.</translation>
+    </message>
+    <message>
+        <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
+        <translation>Список сайтов не удалось записать. Проверьте свободное место и права доступа к папке настроек.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveLoginForm</name>
+    <message>
+        <source>Title</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Имя пользователя</translation>
+    </message>
+    <message>
+        <source>Save in</source>
+        <translation>Сохранить в</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>A new login</source>
+        <translation>Новый логин</translation>
+    </message>
+    <message>
+        <source>Until now: %1</source>
+        <translation>До сих пор: %1</translation>
     </message>
 </context>
 <context>
@@ -4651,6 +5067,46 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <source>synchronise sync mirror share provider account computers</source>
         <translation>синхронизировать синхронизация sync зеркало общий доступ поделиться провайдер аккаунт учётная запись компьютеры</translation>
     </message>
+    <message>
+        <source>Browsers and extensions</source>
+        <translation>Браузеры и расширения</translation>
+    </message>
+    <message>
+        <source>In which browsers the extension is, and which may connect.</source>
+        <translation>В каких браузерах есть расширение и каким можно подключаться.</translation>
+    </message>
+    <message>
+        <source>plugin install approve connect chrome chromium firefox</source>
+        <translation>расширение плагин установить установка разрешить подключить подключение chrome chromium firefox</translation>
+    </message>
+    <message>
+        <source>Sites without an offer</source>
+        <translation>Сайты без предложения сохранить</translation>
+    </message>
+    <message>
+        <source>Logins that you type in there are not offered to be saved.</source>
+        <translation>Логины, которые Вы там вводите, не предлагается сохранить.</translation>
+    </message>
+    <message>
+        <source>never save login ask again</source>
+        <translation>никогда не сохранять логин снова спрашивать</translation>
+    </message>
+    <message>
+        <source>Show the icons of web sites</source>
+        <translation>Показывать значки сайтов</translation>
+    </message>
+    <message>
+        <source>They are fetched from the sites of your logins and kept in the safe.</source>
+        <translation>Они загружаются с сайтов Ваших логинов и хранятся в сейфе.</translation>
+    </message>
+    <message>
+        <source>favicon logo picture download</source>
+        <translation>favicon иконка логотип картинка загрузка</translation>
+    </message>
+    <message>
+        <source>The setting holds until the program ends, but it could not be stored.</source>
+        <translation>Настройка действует до завершения программы, но её не удалось сохранить.</translation>
+    </message>
 </context>
 <context>
     <name>SetupWizard</name>
@@ -4702,14 +5158,6 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <translation>Выйти из правки или очистить поиск</translation>
     </message>
     <message>
-        <source>Log in</source>
-        <translation>Войти</translation>
-    </message>
-    <message>
-        <source>Log in, from the list or the search</source>
-        <translation>Войти из списка или из поиска</translation>
-    </message>
-    <message>
         <source>Copy the user name</source>
         <translation>Копировать имя пользователя</translation>
     </message>
@@ -4756,6 +5204,14 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>Show this list</source>
         <translation>Показать этот список</translation>
+    </message>
+    <message>
+        <source>Log in, or fill in a card or identity</source>
+        <translation>Войти или заполнить данные карты или личности</translation>
+    </message>
+    <message>
+        <source>Log in or fill in, from the list or the search</source>
+        <translation>Войти или заполнить из списка или поиска</translation>
     </message>
 </context>
 <context>
@@ -4960,6 +5416,10 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>Settings</source>
         <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Quick Access</source>
+        <translation>Быстрый доступ</translation>
     </message>
 </context>
 <context>
