@@ -509,5 +509,5 @@ void TestGPMFaviconDownloader::hiddenSizes()
     QCOMPARE(SiteIconImage::format(ico(png).left(30)), QByteArray());
 }
 
-QTEST_MAIN(TestGPMFaviconDownloader)
+QTEST_GUILESS_MAIN(TestGPMFaviconDownloader)
 #include "tst_gpmfavicondownloader.moc"
