@@ -7,6 +7,7 @@ BrowserLink::BrowserLink(quint16 port, Platform &platform, OriginApprovals &appr
     : QObject(parent)
     , m_server(port, true, platform)
     , m_flow(m_server, std::move(findItem), settings)
+    , m_openPage(m_server)
 {
     m_server.setApprovals(
         [&approvals](const QString &origin) { return approvals.isApproved(origin); });

@@ -3,6 +3,7 @@
 #include "FormFillFlow.h"
 #include "GPMAppSettings.h"
 #include "GPMWebSocketServer.h"
+#include "OpenPage.h"
 #include "OriginApprovals.h"
 #include "Platform.h"
 #include "QuickAccessWish.h"
@@ -27,6 +28,7 @@ public:
     GPMWebSocketServer &server() { return m_server; }
     const GPMWebSocketServer &server() const { return m_server; }
     FormFillFlow &flow() { return m_flow; }
+    OpenPage &openPage() { return m_openPage; }
     bool hasExtension() const { return m_server.hasConnections(); }
 
 Q_SIGNALS:
@@ -41,4 +43,5 @@ Q_SIGNALS:
 private:
     GPMWebSocketServer m_server;
     FormFillFlow m_flow;
+    OpenPage m_openPage;
 };

@@ -125,14 +125,6 @@ void GPMAppCore::startWatching()
     m_hotkeys->start();
 }
 
-void GPMAppCore::openQuickAccess()
-{
-    QuickAccessWish wish;
-    if (m_link)
-        wish.callerId = m_link->server().targetCaller({});
-    Q_EMIT requestQuickAccess(wish);
-}
-
 bool GPMAppCore::createSafe(const QString &name, const QString &password, const QString &hint,
                             const QString &folder)
 {

@@ -226,6 +226,8 @@ Q_SIGNALS:
     /// The main window is to come to the front; the address is that of the browser's page, if any.
     void requestShowMainWindow(const QString &url);
     void requestQuickAccess(const QuickAccessWish &wish);
+    /// The page that the user saw when quick access was opened without one.
+    void quickAccessPageFound(const QString &url);
     /// Something that the user has to know.
     void message(const QString &title, const QString &text);
     /// An address to be opened in the default browser.

@@ -19,6 +19,7 @@ void GPMAppCore::startServer()
             &GPMAppCore::parsePluginReplay);
     connect(&m_link->server(), &GPMWebSocketServer::loginPageLoaded, this,
             &GPMAppCore::fillLoginPage);
+    connect(&m_link->openPage(), &OpenPage::found, this, &GPMAppCore::quickAccessPageFound);
     connect(m_link.get(), &BrowserLink::quickAccessRequested, this,
             &GPMAppCore::requestQuickAccess);
     connect(m_link.get(), &BrowserLink::message, this, &GPMAppCore::message);
@@ -32,6 +33,17 @@ void GPMAppCore::startServer()
             &LoginSaving::keepSubmitted);
     connect(&m_link->server(), &GPMWebSocketServer::loginDropped, &m_loginSaving,
             &LoginSaving::dropSubmitted);
+}
+
+void GPMAppCore::openQuickAccess()
+{
+    QuickAccessWish wish;
+    if (m_link)
+        wish.callerId = m_link->server().targetCaller({});
+    Q_EMIT requestQuickAccess(wish);
+    // It opens without waiting for the browser.
+    if (m_link)
+        m_link->openPage().ask();
 }
 
 void GPMAppCore::doItemDefaultAction(const QString &itemId, const QString &callerId,
@@ -73,7 +85,8 @@ void GPMAppCore::placePasswordValue(const QString &password)
 
 void GPMAppCore::parsePluginReplay(const QString &callerId, const QJsonObject &data)
 {
-    m_link->flow().parsePluginReplay(callerId, data);
+    if (!m_link->openPage().take(callerId, data))
+        m_link->flow().parsePluginReplay(callerId, data);
 }
 
 void GPMAppCore::fillLoginPage(const QString &callerId, const QJsonObject &data)

@@ -426,6 +426,32 @@ private Q_SLOTS:
         QCOMPARE(made->text().size(), 15);
     }
 
+    void theHotkeyAsksForThePage()
+    {
+        Quick quick;
+        QVERIFY(quick.createSafe());
+        quick.addLogin(QStringLiteral("Archive"), QStringLiteral("https://archive.example"));
+        quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"));
+        Browser browser(quick);
+        const auto answer = [&browser](QJsonObject reply, const QString &url) {
+            reply.insert(QStringLiteral("tabUrl"), url);
+            reply.insert(QStringLiteral("result"), QJsonObject{});
+            browser.sendFrame(QStringLiteral("collectDocumentResults"), reply);
+        };
+        quick.core.openQuickAccess();
+        QCOMPARE(quick.chosen(), QStringLiteral("Archive"));
+        QTRY_VERIFY(!browser.request().isEmpty());
+        // What was not asked for is no answer.
+        QJsonObject other = browser.request();
+        other.insert(QStringLiteral("timestamp"), QStringLiteral("1"));
+        answer(other, QStringLiteral("https://archive.example/"));
+        answer(browser.request(), page);
+        QTRY_COMPARE(quick.chosen(), QStringLiteral("Shop"));
+        quick.press(Qt::Key_Return);
+        QTRY_COMPARE(textOf(browser.request(), "openmode"), QStringLiteral("currentNoReload"));
+        QTRY_COMPARE(textOf(browser.request(), "reason"), QStringLiteral("login"));
+    }
+
     void goesWhenTheUserTurnsToSomethingElse()
     {
         Quick quick;

@@ -153,6 +153,14 @@ void QuickAccessWindow::open(const QuickAccessWish &wish)
     activateWindow();
 }
 
+void QuickAccessWindow::takePage(const QString &url)
+{
+    if (isHidden() || !m_wish.url.isEmpty())
+        return;
+    m_wish.url = url;
+    m_list->setPage(hostOf(url), m_actions.pageIds(m_wish));
+}
+
 void QuickAccessWindow::place()
 {
     QVector<QRect> screens;

@@ -40,6 +40,8 @@ public:
 
     /// Fills at once what is wanted, else opens in front of everything.
     void open(const QuickAccessWish &wish);
+    /// The page is known now that was not when it was opened; what the user does goes on.
+    void takePage(const QString &url);
 
 Q_SIGNALS:
     void mainWindowRequested();

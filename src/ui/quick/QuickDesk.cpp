@@ -16,6 +16,10 @@ QuickDesk::QuickDesk(GPMAppCore &core, UiSettings &settings, const Theme &theme,
     m_making.setInterval(0);
     connect(&m_making, &QTimer::timeout, this, &QuickDesk::make);
     connect(&core, &GPMAppCore::requestQuickAccess, this, &QuickDesk::open);
+    connect(&core, &GPMAppCore::quickAccessPageFound, this, [this](const QString &url) {
+        if (m_window)
+            m_window->takePage(url);
+    });
 }
 
 QuickDesk::~QuickDesk() = default;

@@ -94,11 +94,16 @@ void QuickList::makeList(SiteIcons &icons)
 void QuickList::start(PMListItem::Type kind, const QString &host, const QStringList &pageIds)
 {
     m_kept.clear();
-    m_delegate->setHost(host);
     m_items.setKind(kind);
-    m_items.setPageIds(pageIds);
+    setPage(host, pageIds);
     m_search->clear();
     onReset();
+}
+
+void QuickList::setPage(const QString &host, const QStringList &ids)
+{
+    m_delegate->setHost(host);
+    m_items.setPageIds(ids);
 }
 
 void QuickList::setKind(PMListItem::Type kind)

@@ -34,6 +34,7 @@ public:
     /// Shows what belongs to another page, with the first item chosen and nothing searched for.
     void start(PMListItem::Type kind, const QString &host, const QStringList &pageIds);
     void setKind(PMListItem::Type kind);
+    void setPage(const QString &host, const QStringList &ids);
     /// Whether Enter fills; else it opens the page of a login.
     void setFilling(bool filling);
     /// While it is not active it does not follow changes.
