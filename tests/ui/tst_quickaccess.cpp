@@ -215,7 +215,9 @@ private Q_SLOTS:
         for (const char *title : {"Alpha", "Beta", "Gamma", "Shop"})
             quick.addLogin(QLatin1String(title));
         quick.add<PMCreditCard>(QStringLiteral("Betacard"));
+        quick.provider.bringToFront();
         quick.open();
+        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
         QCOMPARE(quick.chosen(), QStringLiteral("Alpha"));
         quick.press(Qt::Key_Up);
         QCOMPARE(quick.chosen(), QStringLiteral("Alpha"));
@@ -233,7 +235,14 @@ private Q_SLOTS:
         quick.press(Qt::Key_Escape);
         QVERIFY(!quick.isShown());
         // The next time nothing is left of it.
+        quick.open({{QStringLiteral("kind"), QStringLiteral("creditcard")}});
+        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
+        QCOMPARE(quick.chosen(), QStringLiteral("Betacard"));
+        quick.window()->close();
         quick.open();
+        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
         QCOMPARE(quick.chosen(), QStringLiteral("Alpha"));
         QCOMPARE(find<QLineEdit>(*quick.window(), "quickSearch")->text(), QString());
     }

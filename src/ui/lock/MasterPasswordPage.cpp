@@ -128,7 +128,10 @@ void MasterPasswordPage::layOut(Extent extent)
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(Style::margin, Style::margin, Style::margin, Style::margin);
     all->addStretch(3);
-    all->addLayout(centred(frame));
+    // As wide as it may be, in a small window as well.
+    QHBoxLayout *middle = centred(frame);
+    middle->setStretchFactor(frame, extent == Whole ? 0 : 1000);
+    all->addLayout(middle);
     all->addStretch(4);
     if (extent == Small) {
         hideWays();

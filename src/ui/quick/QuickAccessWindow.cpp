@@ -249,8 +249,13 @@ void QuickAccessWindow::keyPressEvent(QKeyEvent *event)
 void QuickAccessWindow::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+    if (event->type() != QEvent::ActivationChange)
+        return;
+    // Another window may have moved the keyboard away while this one was hidden.
+    if (!isActiveWindow())
         QTimer::singleShot(0, this, &QuickAccessWindow::leaveUnlessBusy);
+    else if (!m_pages->currentWidget()->isAncestorOf(focusWidget()))
+        takeFocus();
 }
 
 void QuickAccessWindow::leaveUnlessBusy()
