@@ -9,6 +9,10 @@
 #include <filesystem>
 #include <system_error>
 
+#ifdef Q_OS_LINUX
+#include <sys/stat.h>
+#endif
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -19,19 +23,35 @@ const qint64 longestAttachment = (4LL << 30) + (1LL << 20);
 const qint64 coarsestStepMs = 3000;
 const int pieceSize = 256 * 1024;
 
+#ifdef Q_OS_LINUX
+/// Asks for both at once, as a round looks at every file of a safe and its mirror.
+std::optional<FileStamp> lookAt(const fs::directory_entry &file)
+{
+    struct stat status = {};
+    if (::stat(file.path().c_str(), &status) != 0)
+        return std::nullopt;
+    const auto time = std::chrono::seconds(status.st_mtim.tv_sec) +
+                      std::chrono::nanoseconds(status.st_mtim.tv_nsec);
+    return FileStamp{S_ISREG(status.st_mode) ? static_cast<qint64>(status.st_size) : -1,
+                     std::chrono::duration_cast<std::chrono::milliseconds>(time).count()};
+}
+#else
 qint64 millisecondsOf(fs::file_time_type time)
 {
     return std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch()).count();
 }
 
-FileStamp stampOf(const fs::directory_entry &file)
+std::optional<FileStamp> lookAt(const fs::directory_entry &file)
 {
     std::error_code error;
+    if (!file.exists(error))
+        return std::nullopt;
     // Not through local time, which takes longer than the rest.
     const fs::file_time_type time = file.last_write_time(error);
     const auto length = static_cast<qint64>(file.file_size(error));
-    return {error ? -1 : length, millisecondsOf(time)};
+    return FileStamp{error ? -1 : length, millisecondsOf(time)};
 }
+#endif
 
 bool list(const QString &folder, bool copies, QMap<QString, FileStamp> &files)
 {
@@ -45,7 +65,7 @@ bool list(const QString &folder, bool copies, QMap<QString, FileStamp> &files)
         const auto own = SyncFileName::parse(name);
         if (own && (copies || !own->conflictCopy) && each->is_regular_file(unknown) &&
             !each->is_symlink(unknown))
-            files.insert(name, stampOf(*each));
+            files.insert(name, lookAt(*each).value_or(FileStamp()));
     }
     return !error;
 }
@@ -76,7 +96,12 @@ std::optional<SyncListing> SyncListing::of(const SafeFolder &folder, bool copies
 
 qint64 fileClock()
 {
+#ifdef Q_OS_LINUX
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+#else
     return millisecondsOf(fs::file_time_type::clock::now());
+#endif
 }
 
 bool SyncListing::hasItem(const QMap<QString, FileStamp> &files, const QString &id)
@@ -104,9 +129,7 @@ std::optional<FileStamp> stampOf(const QString &path)
 {
     std::error_code error;
     const fs::directory_entry file(path.toStdU16String(), error);
-    if (error || !file.exists(error))
-        return std::nullopt;
-    return stampOf(file);
+    return error ? std::nullopt : lookAt(file);
 }
 
 FileStamp settled(const FileStamp &stamp, qint64 taken)
