@@ -63,6 +63,8 @@ QString inMask(const QString &mask, const QString &digits)
 QString partAt(const FieldPlace &place, const QStringList &parts)
 {
     const FieldKind kind = place.kind();
+    if (!place.field().hasHints())
+        return {};
     int first = place.at;
     while (first > 0 && place.at - first < mostParts && place.kinds.at(first - 1) == kind)
         --first;

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void identityShapes();
     void americanShapes_data();
     void americanShapes();
+    void namesAloneTakeAll();
 };
 
 void TestItemValues::cardShapes_data()
@@ -248,6 +249,22 @@ void TestItemValues::americanShapes()
     identity.setPhone({QStringLiteral("1"), QStringLiteral("2125550123")});
     const QJsonObject page = pageOf(fields, "en-US");
     QTEST(valuesOf(fillIdentityForms(page, identity), fieldsIn(page)), "values");
+}
+
+// Fields that say no more than their names are not known to be parts.
+void TestItemValues::namesAloneTakeAll()
+{
+    PMCreditCard card;
+    fillIn(card);
+    QJsonArray fields;
+    for (int i = 0; i < 4; ++i)
+        fields.append(QJsonObject{{QStringLiteral("opid"), QString::number(i)},
+                                  {QStringLiteral("type"), QStringLiteral("text")},
+                                  {QStringLiteral("name"), QStringLiteral("cardnumber")}});
+    const QJsonObject page = {{QStringLiteral("elements"), fields}};
+    const QString number = QStringLiteral("4111111111111111");
+    QCOMPARE(valuesOf(fillCardForms(page, card), 4),
+             QStringList({number, number, number, number}).join(QLatin1Char('|')));
 }
 
 QTEST_APPLESS_MAIN(TestItemValues)
