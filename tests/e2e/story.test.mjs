@@ -105,6 +105,32 @@ stage.inEachBrowser(() => {
     assert.deepEqual(await stage.site.nextPost(), { path: '/done', fields: { user: 'ana-plain@example.org', pw: SECRET } });
   });
 
+  test('quick access opens at a field, unlocks in place and fills', limit, async () => {
+    const page = await stage.browser.browser.newPage();
+    await page.goto(shop('/plain'));
+    await stage.user.lock();
+    const field = await page.$('[name=pw]');
+    // The crystal comes a moment after the page.
+    await stage.program.until(async () => {
+      const { x, y, width, height } = await field.boundingBox();
+      await page.mouse.click(x + width - 14, y + height / 2);
+      return stage.desktop.isVisible('^Quick access$');
+    }, 'quick access');
+    await stage.user.quickAccess();
+    await shot('4-quick-locked');
+    await stage.desktop.type(PASSWORD);
+    await stage.desktop.press('Return');
+    await stage.program.until(() => stage.desktop.isVisible('^Personal - '), 'the open safe');
+    await stage.user.quickAccess();
+    await stage.desktop.type('plain');
+    await shot('5-quick');
+    await stage.desktop.press('Return');
+    await page.waitForFunction((value) => document.querySelector('[name=pw]').value === value, {}, SECRET);
+    assert.equal(await page.$eval('[name=user]', ({ value }) => value), 'ana-plain@example.org');
+    assert.equal(await stage.desktop.isVisible('^Quick access$'), false);
+    await page.close();
+  });
+
   test('after a kill and a restart the extension finds the program again', limit, async () => {
     await stage.program.stop('SIGKILL');
     stage.program.start();

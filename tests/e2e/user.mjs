@@ -60,6 +60,9 @@ export function makeUser(desktop, program) {
       await desktop.activate(open(safe));
     },
 
+    /** The identifier of quick access, once it is there. */
+    quickAccess: () => desktop.activate('^Quick access$'),
+
     /** Finds a login by its title and logs in with it. */
     async logIn(title) {
       await desktop.activate(open(safe));
