@@ -10,13 +10,14 @@ const script = buildSync({ entryPoints: [source], bundle: true, write: false, fo
 const LOGIN = '<form><input name=user value=ana><input name=pw type=password><button>Log in</button></form>';
 
 /** A page in which logins are watched; said: what the background script was told, "away" for the end of a port. */
-function open(html, { title = 'Sign in - Shop' } = {}) {
+function open(html, { title = 'Sign in - Shop', activation } = {}) {
   const clock = createClock();
   const window = openPage(`<title>${title}</title>${html}`, { clock });
   Object.defineProperty(window.performance, 'now', { value: clock.now });
+  Object.defineProperty(window.navigator, 'userActivation', { value: activation });
   const said = [];
   window.connect = () => ({ postMessage: (message) => said.push(JSON.parse(JSON.stringify(message))), disconnect() {} });
-  window.eval(`${script}; capture.watchLogins({ connect, isReal: (event) => !event.forged })`);
+  window.eval(`${script}; capture.watchLogins({ connect, isTrusted: (event) => !event.forged })`);
   const { document } = window;
   const find = (selector) => document.querySelector(selector);
   const fire = (element, type, { forged = false, ...more } = {}) => {
@@ -65,13 +66,21 @@ const NOT_SENT = [
   ['what nobody typed', (page) => { page.find('[name=pw]').value = 'filled'; page.submit(); }],
   ['what a script typed', (page) => { page.type('[name=pw]', 'x', { forged: true }); page.submit(); }],
   ['what a script sent', (page) => { page.type('[name=pw]', 'x'); page.submit('form', { forged: true }); }],
+  ['what nobody acted for', (page) => { page.type('[name=pw]', 'x'); page.submit(); }, { hasBeenActive: false, isActive: false }],
+  ['what was sent long after', (page) => { page.type('[name=pw]', 'x'); page.submit(); }, { hasBeenActive: true, isActive: false }],
+  ['what was typed before', (page) => {
+    page.type('[name=pw]', 'x');
+    Object.assign(page.window.navigator.userActivation, { hasBeenActive: true, isActive: true });
+    page.submit();
+  }, { hasBeenActive: false, isActive: false }],
   ['a look under the dots', (page) => { page.type('[name=pw]', 'x'); page.click('#eye'); }],
   ['a forgotten password', (page) => { page.type('[name=pw]', 'x'); page.click('#forgot'); }],
   ['a code that is good once', (page) => { page.find('[name=pw]').autocomplete = 'one-time-code'; page.type('[name=pw]', '123456'); page.submit(); }],
 ];
-for (const [what, act] of NOT_SENT) {
+for (const [what, act, activation] of NOT_SENT) {
   test(`not reported: ${what}`, () => {
-    const page = open(LOGIN.replace('<button>', '<button type=button id=eye>Show</button><a id=forgot>Forgot password?</a><button>'));
+    const html = LOGIN.replace('<button>', '<button type=button id=eye>Show</button><a id=forgot>Forgot password?</a><button>');
+    const page = open(html, { activation });
     act(page);
     assert.equal(page.said().filter(({ submitted }) => submitted).length, 0);
   });
@@ -122,10 +131,17 @@ test('the user name of a page before, and the one that a page keeps hidden', () 
 });
 
 const CHANGE = '<form><input name=old type=password><input name=new type=password><input name=again type=password><p class=error></p><button>Save</button></form>';
+const WAYS_OUT = `${LOGIN}<p id=note><a>Forgot <b>password?</b></a><button aria-label=Close>x</button><i>Welcome</i></p>`;
+const leave = (selector) => (page) => { page.click(selector); page.find('form').remove(); };
 // What the page does after the form was sent, and what is said of it within the time.
 const OUTCOMES = [
   ['the form stays', LOGIN, () => {}, 40000, 'dropped'],
   ['the form goes', LOGIN, (page) => page.find('form').remove(), 2500, 'accepted'],
+  ['the user forgot the password', WAYS_OUT, leave('#note b'), 2500, 'dropped'],
+  ['the user closes the form', WAYS_OUT, leave('[aria-label]'), 2500, 'dropped'],
+  ['the user clicks on anything else', WAYS_OUT, leave('i'), 2500, 'accepted'],
+  ['the form goes, and the user asks for help', WAYS_OUT, (page) => { page.find('form').remove(); page.click('#note b'); }, 2500, 'accepted'],
+  ['the user presses Escape', LOGIN, (page) => { page.fire(page.document.body, 'keydown', { key: 'Escape' }); page.find('form').remove(); }, 2500, 'dropped'],
   ['the form is away for a moment', LOGIN, async (page) => {
     const form = page.find('form');
     form.style.display = 'none';

@@ -1,13 +1,13 @@
 import { captionOf, isButton, isSubmitButton } from './buttons.js';
 import { collect } from './collect.js';
-import { attr, elementsUnder, findAll, parentOf, shadowRootOf } from './dom.js';
+import { attr, elementsUnder, findAll, matches, parentOf, shadowRootOf } from './dom.js';
 import { fieldType } from './fields.js';
 import { isStillAsked } from '../shapes.js';
 import { groupAround, isName, isPassword, passwordForms, shapeOf } from './shape.js';
 import { labelText } from './surroundings.js';
 import { clean } from './text.js';
 import { isVisible } from './visible.js';
-import { GO_ON, SIGN_IN, SIGN_UP, USER_NAME, findPhrase, isPhrase, leadsElsewhere } from './words.js';
+import { CLOSE, GO_ON, SIGN_IN, SIGN_UP, USER_NAME, findPhrase, isPhrase, leadsElsewhere } from './words.js';
 
 const LOOK = 300;
 const GONE_FOR = 1500;
@@ -21,6 +21,9 @@ const NAMING = ['name', 'id', 'type', 'autocomplete', 'placeholder', 'aria-label
 const HIDDEN_NAME = 'input[autocomplete~=username], input[type=hidden]';
 const NAMED = new RegExp(USER_NAME.join('|'), 'i');
 const TYPED = Symbol.for('glaceron.typed');
+const NEAR = 5;
+// A page's script can type and send by itself, and the browser calls that trusted: a person must have acted too.
+const ACTED = { input: 'hasBeenActive', submit: 'isActive' };
 
 // Inside of a closed shadow tree an event names only its host.
 function deepTarget(event) {
@@ -43,12 +46,22 @@ function sends(button) {
 }
 
 function sendingButton(target) {
-  for (let node = target, level = 0; node && level < 5; node = parentOf(node), level += 1) {
+  for (let node = target, level = 0; node && level < NEAR; node = parentOf(node), level += 1) {
     if (fieldType(node)) return undefined;
     if (isButton(node)) return sends(node) ? node : undefined;
     if (node.tagName !== 'BODY' && findAll(node, '*').length < 5 && sends(node)) return node;
   }
   return undefined;
+}
+
+/** Whether a click there leaves a login alone: another way in, help with it, or the end of its window. */
+function givesUp(target) {
+  for (let node = target, level = 0; node && level < NEAR; node = parentOf(node), level += 1) {
+    if (!isButton(node) && !matches(node, 'a')) continue;
+    const caption = captionOf(node);
+    return leadsElsewhere(caption) || isPhrase(caption, CLOSE);
+  }
+  return false;
 }
 
 // What the page calls its site, without "Sign in".
@@ -63,9 +76,9 @@ function siteTitle(doc) {
 /**
  * Watches for logins that a person types into the document and sends, and for what the page makes of them.
  * connect: opens a port to the background script; on it go {name}, {submitted, shape, around}, {accepted} and {dropped},
- * and its end means that the document went away. isReal: whether an event is a person's doing.
+ * and its end means that the document went away. isTrusted: whether an event is the browser's and not a script's.
  */
-export function watchLogins({ connect, isReal = (event) => event.isTrusted, doc = document, view = window }) {
+export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, doc = document, view = window }) {
   const passwords = new WeakSet(); // also while they are shown as text
   const typed = new WeakSet();
   const numbers = new WeakMap();
@@ -73,6 +86,7 @@ export function watchLogins({ connect, isReal = (event) => event.isTrusted, doc 
   let lastNumber = 0;
   let current;
 
+  const isReal = (event) => isTrusted(event) && view.navigator.userActivation?.[ACTED[event.type]] !== false;
   const isSecret = (field) => isPassword(field) || passwords.has(field);
 
   function numberOf(element) {
@@ -118,9 +132,16 @@ export function watchLogins({ connect, isReal = (event) => event.isTrusted, doc 
     port.disconnect();
   }
 
+  const isAsked = () => isStillAsked(current.shape, passwordForms(doc, isSecret));
+
+  // A form that goes because the user gave up was not accepted.
+  function giveUp() {
+    if (current && isAsked()) end('dropped');
+  }
+
   function look() {
     const now = view.performance.now();
-    if (isStillAsked(current.shape, passwordForms(doc, isSecret))) {
+    if (isAsked()) {
       current.gone = undefined;
       if (now >= current.until) end('dropped');
       return;
@@ -181,10 +202,13 @@ export function watchLogins({ connect, isReal = (event) => event.isTrusted, doc 
     },
     submit: (event) => attempt(event.target),
     click(event) {
-      const button = sendingButton(deepTarget(event));
+      const target = deepTarget(event);
+      const button = sendingButton(target);
       if (button) attempt(button);
+      else if (givesUp(target)) giveUp();
     },
     keydown(event) {
+      if (event.key === 'Escape') giveUp();
       const field = deepTarget(event);
       if (event.key === 'Enter' && !event.isComposing && (isSecret(field) || isName(field))) attempt(field);
     },

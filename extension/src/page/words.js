@@ -31,6 +31,12 @@ const SIDE_WAYS = [
   'help', 'hilfe', 'show', 'hide', 'anzeigen', 'показать', 'cancel', 'abbrechen', 'отмена', 'back', 'zurück', 'назад',
 ];
 
+// The whole caption of a button that closes a window.
+export const CLOSE = [
+  'close', 'close dialog', 'close modal', 'dismiss', 'schließen', 'fermer', 'cerrar', 'chiudi', 'fechar', 'закрыть', 'закрити',
+  'zamknij', 'sluiten', 'zavřít', 'stäng', 'kapat', '閉じる', '关闭', '닫기',
+];
+
 export const GO_ON = [
   'next', 'continue', 'submit', 'ok', 'go', 'confirm', 'weiter', 'fortfahren', 'absenden', 'bestätigen',
   'далее', 'продолжить', 'отправить', 'подтвердить', 'suivant', 'continuer', 'valider', 'siguiente', 'continuar',
