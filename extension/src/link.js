@@ -4,6 +4,8 @@ const PAUSES = [500, 1000, 2000, 4000, 8000, 16000, 30000];
 const BEAT = 20000;
 const HELLO_WAIT = 2000;
 const OPEN_LIMIT = 10000;
+// The program ends a connection that sends more than 8 MiB at once; a page's description alone has 7.
+const MOST_BYTES = 7.5 * 1024 * 1024;
 
 /**
  * The one connection to the program. States reported to onState: "connected", "offline" (the program is
@@ -26,7 +28,10 @@ export function createLink({ WebSocket, timers, identity, touchBrowser, parseFra
   }
 
   function write(action, payload) {
-    socket.send(JSON.stringify({ action, ...identity, payload }));
+    const text = JSON.stringify({ action, ...identity, payload });
+    if (new TextEncoder().encode(text).length > MOST_BYTES) return false;
+    socket.send(text);
+    return true;
   }
 
   /** Opens the connection unless there is one; harmless at any time. */
@@ -77,11 +82,9 @@ export function createLink({ WebSocket, timers, identity, touchBrowser, parseFra
     };
   }
 
-  /** Sends one frame; false when the program is not listening to this browser. */
+  /** Sends one frame; false when the program is not listening to this browser, or it is too long. */
   function send(action, payload) {
-    if (state !== 'connected') return false;
-    write(action, payload);
-    return true;
+    return state === 'connected' && write(action, payload);
   }
 
   return { connect, send };

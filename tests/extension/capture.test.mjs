@@ -45,6 +45,8 @@ const SENT = [
   ['a form that is sent', LOGIN, (page) => page.submit()],
   ['a button whose page sends by itself', LOGIN, (page) => page.click('button')],
   ['Enter', LOGIN, (page) => page.enter('[name=pw]')],
+  ['inputs with the names of what a form can do', LOGIN.replace('</form>', `${['matches', 'tagName', 'getRootNode', 'checkVisibility', 'elements']
+    .map((name) => `<input type=hidden name=${name}>`).join('')}</form>`).replace('<form>', '<img name=title><form class=error aria-busy=true>'), (page) => page.submit()],
   ['no form, a button', LOGIN.replaceAll('form', 'div'), (page) => page.click('button')],
   ['no form, a link', `${LOGIN.replaceAll('form', 'div')}`.replace(/button/g, 'a'), (page) => page.click('a')],
   ['no form, a picture in a button', LOGIN.replaceAll('form', 'div').replace('Log in', '<b>Log in</b>'), (page) => page.click('b')],
@@ -75,7 +77,8 @@ const NOT_SENT = [
   }, { hasBeenActive: false, isActive: false }],
   ['a look under the dots', (page) => { page.type('[name=pw]', 'x'); page.click('#eye'); }],
   ['a forgotten password', (page) => { page.type('[name=pw]', 'x'); page.click('#forgot'); }],
-  ['a code that is good once', (page) => { page.find('[name=pw]').autocomplete = 'one-time-code'; page.type('[name=pw]', '123456'); page.submit(); }],
+  ['a code that is good once', (page) => { page.find('[name=pw]').autocomplete = 'section-a One-Time-Code'; page.type('[name=pw]', '123456'); page.submit(); }],
+  ['what no password is as long as', (page) => { page.type('[name=pw]', 'x'.repeat(1025)); page.submit(); }],
 ];
 for (const [what, act, activation] of NOT_SENT) {
   test(`not reported: ${what}`, () => {
@@ -124,10 +127,27 @@ test('the user name of a page before, and the one that a page keeps hidden', () 
   assert.deepEqual(first.said(), []);
   first.submit();
   assert.equal(first.said()[0].name, 'ana@b.c');
-  const second = open('<form><input type=hidden name=token value=t><input type=hidden name=username value=ana><input name=pw type=password></form>');
-  second.type('[name=pw]', 'secret');
-  second.submit();
-  assert.equal(second.said()[0].submitted.login, 'ana');
+  const noNames = ['user[reset_password_token]', 'login_challenge', 'user_agent', 'account_type', 'user_id', 'user[id]', 'csrf_login'];
+  for (const [kept, expected] of [
+    [noNames.map((name) => `<input type=hidden name=${name} value=x>`).join('') + '<input type=hidden name=username value=ana>', 'ana'],
+    ['<input type=hidden name=user value=number><input hidden id=u autocomplete="section-a Username" value=ana>', 'ana'],
+    [`<input type=hidden name=username value=${'x'.repeat(101)}>`, undefined],
+  ]) {
+    const second = open(`<form>${kept}<input name=pw type=password></form>`);
+    second.type('[name=pw]', 'secret');
+    second.submit();
+    assert.equal(second.said()[0].submitted.login, expected, kept);
+  }
+});
+
+test('of what a form asks beside the login little is told', () => {
+  const choices = '<select name=land><option>Malta</select>';
+  const page = open(LOGIN.replace('<button>', `<input name=number autocomplete="billing cc-number" value=4111111111111111>${choices}<button>`));
+  page.type('[name=pw]', 'secret');
+  page.submit();
+  const [message] = page.said();
+  assert.equal(values(message), 'user=ana pw=secret land=Malta');
+  assert.ok(!JSON.stringify(message).includes('options'));
 });
 
 const CHANGE = '<form><input name=old type=password><input name=new type=password><input name=again type=password><p class=error></p><button>Save</button></form>';
@@ -142,6 +162,7 @@ const OUTCOMES = [
   ['the user clicks on anything else', WAYS_OUT, leave('i'), 2500, 'accepted'],
   ['the form goes, and the user asks for help', WAYS_OUT, (page) => { page.find('form').remove(); page.click('#note b'); }, 2500, 'accepted'],
   ['the user presses Escape', LOGIN, (page) => { page.fire(page.document.body, 'keydown', { key: 'Escape' }); page.find('form').remove(); }, 2500, 'dropped'],
+  ['the form goes, one with an input of a telling name stays', `${LOGIN}<form><input name=matches></form>`, (page) => page.find('form').remove(), 2500, 'accepted'],
   ['the form is away for a moment', LOGIN, async (page) => {
     const form = page.find('form');
     form.style.display = 'none';

@@ -14,6 +14,7 @@ const FIELDS = [
   ['login', PLAIN, '<input type=password autocomplete="new-password">'],
   ['login', PLAIN, '<input autocomplete="section-a username webauthn">'],
   ['login', LOGIN, '<input type=email>'],
+  ['login', LOGIN.replace('</', '<input name=elements></'), '<input type=email>'],
   ['login', LOGIN, '<input autocomplete=email>'],
   ['login', STEP, '<label>Benutzername <input></label>'],
   ['login', STEP, '<input id=loginId type=tel>'],

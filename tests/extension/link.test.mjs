@@ -48,6 +48,10 @@ test('says hello with its version and name, and is connected when that is answer
   assert.equal(link.send('showWindow', { url: 'u' }), true);
   assert.deepEqual(newest().sent.at(-1), { action: 'showWindow', version: '1.1.32', bundleId: 'glaceron.chrome', payload: { url: 'u' } });
   assert.deepEqual([log.frames, log.states], [[REQUEST], ['connected']]);
+
+  const before = newest().sent.length;
+  assert.equal(link.send('loginSubmitted', { value: 'ж'.repeat(4 * 1024 * 1024) }), false); // the program would hang up
+  assert.equal(newest().sent.length, before);
 });
 
 test('stays alive by one message and one API call every 20 s', async () => {

@@ -1,7 +1,7 @@
 import { captionOf, isButton, isSubmitButton } from './buttons.js';
 import { collect } from './collect.js';
-import { attr, elementsUnder, findAll, matches, parentOf, shadowRootOf } from './dom.js';
-import { fieldType } from './fields.js';
+import { attr, elementsUnder, findAll, matches, parentOf, shadowRootOf, titleOf } from './dom.js';
+import { fieldType, purposeOf } from './fields.js';
 import { isStillAsked } from '../shapes.js';
 import { groupAround, isName, isPassword, passwordForms, shapeOf } from './shape.js';
 import { labelText } from './surroundings.js';
@@ -18,8 +18,12 @@ const LONGEST = 320;
 const LONGEST_CAPTION = 40;
 const BUSY = '[aria-busy=true], [role=progressbar], progress';
 const NAMING = ['name', 'id', 'type', 'autocomplete', 'placeholder', 'aria-label'];
-const HIDDEN_NAME = 'input[autocomplete~=username], input[type=hidden]';
 const NAMED = new RegExp(USER_NAME.join('|'), 'i');
+// Hidden fields hold much that is about users and is not what they type.
+const NOT_NAMED = /token|csrf|nonce|challenge|session|agent|type|hash|key|state|(^|[_\-[])id\b/i;
+const LONGEST_HIDDEN = 100;
+// No password is longer, and the program ends a connection that says too much.
+const LONGEST_SECRET = 1024;
 const TYPED = Symbol.for('glaceron.typed');
 const NEAR = 5;
 // A page's script can type and send by itself, and the browser calls that trusted: a person must have acted too.
@@ -69,7 +73,7 @@ function siteTitle(doc) {
   const named = findAll(doc, 'meta[property="og:site_name"], meta[name="application-name"]')[0];
   const name = named && clean(attr(named, 'content'));
   if (name) return name;
-  const parts = doc.title.split(/\s+[|·•–—:-]\s+/).map(clean).filter(Boolean);
+  const parts = titleOf(doc).split(/\s+[|·•–—:-]\s+/).map(clean).filter(Boolean);
   return parts.find((part) => !isPhrase(part, [...SIGN_IN, ...SIGN_UP])) ?? '';
 }
 
@@ -107,21 +111,25 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     const { report, fields } = collect(doc, 'typed', numberOf);
     const entries = [...report.forms.flatMap((form) => form.fields), ...report.elements];
     const form = report.forms.find((each) => each.fields.some(({ opid }) => group.includes(fields.get(opid).field)));
-    const described = entries.filter(({ opid }) => group.includes(fields.get(opid).field)).map((entry) => {
+    const described = entries.filter(({ opid }) => group.includes(fields.get(opid).field)).map(({ options, ...entry }) => {
       const { field } = fields.get(entry.opid);
-      if (attr(field, 'autocomplete').startsWith('cc-')) return entry;
+      if (purposeOf(field).some((word) => word.startsWith('cc-'))) return entry;
       if (isSecret(field)) return { ...entry, type: 'password', inputtype: 'password', value: field.value };
       return isName(field) ? { ...entry, value: field.value.slice(0, LONGEST) } : entry;
     });
-    return { title: clean(doc.title), siteName: siteTitle(doc), buttons: form?.buttons, fields: described };
+    return { title: clean(titleOf(doc)), siteName: siteTitle(doc), buttons: form?.buttons, fields: described };
   }
 
   // The second page of two often keeps the user name in a field that nobody sees.
   function nameOf(group) {
-    const isNamed = (field) => NAMED.test([attr(field, 'name'), attr(field, 'id'), attr(field, 'autocomplete')].join(' '));
-    const form = group.find((field) => field.form)?.form;
-    const kept = [...findAll(form ?? doc, HIDDEN_NAME)].filter((field) => field.value !== '' && isNamed(field));
-    return kept[0]?.value.slice(0, LONGEST);
+    const inputs = [...findAll(group.find((field) => field.form)?.form ?? doc, 'input')].filter(({ value }) => value !== '');
+    const isNamed = (field) => {
+      const words = [attr(field, 'name'), attr(field, 'id')];
+      return NAMED.test(words.join(' ')) && !words.some((word) => NOT_NAMED.test(word));
+    };
+    const told = inputs.find((field) => purposeOf(field).includes('username'));
+    const kept = told ?? inputs.find((field) => field.type === 'hidden' && field.value.length <= LONGEST_HIDDEN && isNamed(field));
+    return kept?.value.slice(0, LONGEST);
   }
 
   function end(word) {
@@ -147,11 +155,12 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
       return;
     }
     current.gone ??= now;
-    const isBusy = [...elementsUnder(doc)].some((element) => element.matches(BUSY) && isVisible(element));
+    const isBusy = [...elementsUnder(doc)].some((element) => matches(element, BUSY) && isVisible(element));
     if (now - current.gone >= (isBusy ? BUSY_FOR : GONE_FOR)) end('accepted');
   }
 
   function submit(group) {
+    if (group.some((field) => isSecret(field) && field.value.length > LONGEST_SECRET)) return;
     const key = JSON.stringify(group.filter((field) => isSecret(field) || isName(field)).map(({ value }) => value));
     const until = view.performance.now() + PATIENCE;
     if (current?.key === key) {
@@ -160,13 +169,10 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     }
     if (current) end('dropped');
     const shape = shapeOf(group, isSecret);
-    const port = connect();
     const { screenX: posx, screenY: posy, outerWidth: width, outerHeight: height } = view;
-    port.postMessage({
-      submitted: { ...describe(group), login: nameOf(group), posx, posy, width, height },
-      shape,
-      around: [...(view.location.ancestorOrigins ?? [])],
-    });
+    const submitted = { ...describe(group), login: nameOf(group), posx, posy, width, height };
+    const port = connect();
+    port.postMessage({ submitted, shape, around: [...(view.location.ancestorOrigins ?? [])] });
     current = { port, shape, key, until, timer: view.setInterval(look, LOOK) };
   }
 

@@ -1,4 +1,4 @@
-import { boxOf, elementsUnder, flatParentOf, matches } from './dom.js';
+import { boxOf, elementsUnder, flatParentOf, matches, rootOf } from './dom.js';
 import { isOwnHost } from './icon.js';
 
 const OPAQUE = 0.9;
@@ -39,7 +39,7 @@ function hides(above, element, view) {
 
 /** Whether other parts of the page are painted over the element everywhere, as far as it is on the screen. */
 export function isCovered(element, view) {
-  const root = element.getRootNode();
+  const root = rootOf(element);
   const box = boxOf(element);
   return PLACES.every(([x, y]) => {
     const stack = root.elementsFromPoint?.(box.left + (box.right - box.left) * x, box.top + (box.bottom - box.top) * y) ?? [];

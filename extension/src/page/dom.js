@@ -3,6 +3,7 @@
 const getter = (prototype, name) => Object.getOwnPropertyDescriptor(prototype, name).get;
 const nodeType = getter(Node.prototype, 'nodeType');
 const parentNode = getter(Node.prototype, 'parentNode');
+const rootNode = Node.prototype.getRootNode;
 const assignedSlot = getter(Element.prototype, 'assignedSlot');
 const FIND = {
   [Node.ELEMENT_NODE]: Element.prototype.querySelectorAll,
@@ -16,6 +17,9 @@ export const isElement = (node) => node !== null && nodeType.call(node) === Node
 export const attr = (element, name) => Element.prototype.getAttribute.call(element, name) ?? '';
 export const hasAttr = (element, name) => Element.prototype.hasAttribute.call(element, name);
 export const matches = (element, selector) => Element.prototype.matches.call(element, selector);
+export const rootOf = (node) => rootNode.call(node);
+export const partsOf = (form) => getter(HTMLFormElement.prototype, 'elements').call(form);
+export const titleOf = (doc) => getter(Document.prototype, 'title').call(doc);
 export const boxOf = (element) => Element.prototype.getBoundingClientRect.call(element);
 
 /** All matching descendants in document order, without those in shadow trees. */

@@ -20,6 +20,9 @@ export function fieldType(element) {
   return Object.hasOwn(TYPES, element.tagName) ? TYPES[element.tagName](element) : undefined;
 }
 
+/** The words of the field's autocomplete, in lower case: the page may say where it belongs before what it is. */
+export const purposeOf = (field) => attr(field, 'autocomplete').toLowerCase().split(/\s+/).filter(Boolean);
+
 /** The type word that the page itself uses. */
 export function pageType(field) {
   return field.tagName === 'INPUT' ? attr(field, 'type').trim().toLowerCase() || 'text' : field.type;

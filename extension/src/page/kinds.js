@@ -1,5 +1,6 @@
 import { captionOf, isButton } from './buttons.js';
-import { attr } from './dom.js';
+import { attr, partsOf } from './dom.js';
+import { purposeOf } from './fields.js';
 import { GO_ON, SIGN_IN, USER_NAME, findPhrase } from './words.js';
 
 // What a field is for, as far as its icon goes: told from the field itself alone, cheaply, as every field of every page
@@ -28,16 +29,12 @@ function textOf(field) {
   return [...TOLD.map((name) => attr(field, name)), ...labels].join(' ').replaceAll(/([a-zà-ž])([A-Z])/g, '$1 $2');
 }
 
-function tokenOf(field) {
-  return attr(field, 'autocomplete').toLowerCase().split(/\s+/).findLast((word) => word !== '' && word !== 'webauthn') ?? '';
-}
-
-const partsOf = (field) => [...(field.form?.elements ?? field.getRootNode().querySelectorAll('input, button'))];
+const tokenOf = (field) => purposeOf(field).findLast((word) => word !== 'webauthn') ?? '';
 const isPassword = ({ type }) => type === 'password';
 
 // A page that asks for the user name first has no password field yet, only a button that goes on.
 function leadsToLogin(field) {
-  const parts = partsOf(field);
+  const parts = [...(field.form ? partsOf(field.form) : field.getRootNode().querySelectorAll('input, button'))];
   if (parts.some(isPassword)) return true;
   const captions = parts.filter(isButton).map(captionOf);
   return captions.some((caption) => findPhrase(caption, [...SIGN_IN, ...GO_ON]) >= 0);

@@ -1,5 +1,5 @@
-import { attr, findAll, matches, parentOf } from './dom.js';
-import { fieldType, fieldsUnder } from './fields.js';
+import { attr, findAll, matches, parentOf, rootOf } from './dom.js';
+import { fieldType, fieldsUnder, purposeOf } from './fields.js';
 import { clean, textOf } from './text.js';
 import { isVisible } from './visible.js';
 
@@ -9,7 +9,7 @@ const NAMES = new Set(['text', 'email', 'tel', 'number', '']);
 const WRONG = '[aria-invalid=true], [role=alert], [class*=error i], [class*=invalid i], [class*=danger i]';
 
 /** A code that is good once is no password, however it is typed. */
-export const isPassword = (field) => fieldType(field) === 'password' && attr(field, 'autocomplete') !== 'one-time-code';
+export const isPassword = (field) => fieldType(field) === 'password' && !purposeOf(field).includes('one-time-code');
 /** A line that can hold a user name. */
 export const isName = (field) => fieldType(field) === 'text' && NAMES.has(attr(field, 'type').trim().toLowerCase());
 
@@ -17,8 +17,8 @@ const isLine = (field) => isPassword(field) || isName(field);
 
 /** The fields that belong together around an element: those of its form, else those near it that have none. */
 export function groupAround(element, isWanted = isLine) {
-  const form = element.tagName === 'FORM' ? element : element.form;
-  if (form) return [...fieldsUnder(form.getRootNode())].filter((field) => field.form === form);
+  const form = matches(element, 'form') ? element : element.form;
+  if (form) return [...fieldsUnder(rootOf(form))].filter((field) => field.form === form);
   let group = fieldType(element) ? [element] : [];
   for (let level = 0, block = parentOf(element); block && level < NEAR; level += 1, block = parentOf(block)) {
     group = [...fieldsUnder(block)].filter((field) => !field.form);
@@ -35,7 +35,7 @@ export function shapeOf(group, isSecret = isPassword) {
   return {
     passwords: passwords.length,
     lines: visible.filter((field) => isName(field) && !isSecret(field)).length,
-    fresh: passwords.length > 1 || passwords.some((field) => attr(field, 'autocomplete') === 'new-password'),
+    fresh: passwords.length > 1 || passwords.some((field) => purposeOf(field).includes('new-password')),
   };
 }
 

@@ -1,4 +1,4 @@
-import { attr, hasAttr } from './dom.js';
+import { attr, hasAttr, rootOf } from './dom.js';
 import { fieldType, fieldsUnder } from './fields.js';
 
 function read(form, submitter, own, theirs) {
@@ -22,5 +22,5 @@ export function showsPassword(form, submitter) {
   if (['post', 'dialog'].includes(read(form, submitter, 'method', 'formmethod').toLowerCase())) return false;
   const isSent = (field) =>
     field.form === form && fieldType(field) === 'password' && !field.disabled && attr(field, 'name') !== '' && field.value !== '';
-  return [...fieldsUnder(form.getRootNode())].some(isSent);
+  return [...fieldsUnder(rootOf(form))].some(isSent);
 }

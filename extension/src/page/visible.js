@@ -57,10 +57,13 @@ function inHiddenFrame(view) {
   }
 }
 
+// Not every browser tells.
+const isUnseen = (element) => Element.prototype.checkVisibility?.call(element, { opacityProperty: true }) === false;
+
 /** Whether a person who scrolls through the page can see the element. */
 export function isVisible(element, view = window) {
   let box = boxOf(element);
-  if (tooSmall(box) || (element.checkVisibility && !element.checkVisibility({ opacityProperty: true }))) return false;
+  if (tooSmall(box) || isUnseen(element)) return false;
   if (view.getComputedStyle(element).visibility !== 'visible') return false;
 
   let opacity = 1;
