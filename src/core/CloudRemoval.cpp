@@ -58,6 +58,14 @@ bool CloudRemoval::isUsed(const QString &mirrorFolder) const
     });
 }
 
+void CloudRemoval::strike(const QString &safeFolder, const QString &mirrorFolder)
+{
+    m_facts.change(safeFolder, [&mirrorFolder](SafeFact &fact) {
+        if (fact.leavingFolder == mirrorFolder)
+            fact.leavingFolder.clear();
+    });
+}
+
 void CloudRemoval::remove(const QString &safeFolder, bool tellsSuccess)
 {
     const SafeFact fact = m_facts.of(safeFolder);
@@ -67,10 +75,7 @@ void CloudRemoval::remove(const QString &safeFolder, bool tellsSuccess)
     auto *watcher = new QFutureWatcher<bool>(this);
     connect(watcher, &QFutureWatcher<bool>::finished, this, [=] {
         watcher->deleteLater();
-        m_facts.change(safeFolder, [&](SafeFact &now) {
-            if (now.leavingFolder == mirror)
-                now.leavingFolder.clear();
-        });
+        strike(safeFolder, mirror);
         if (tellsSuccess || !watcher->result())
             Q_EMIT ended(mirror, watcher->result());
     });

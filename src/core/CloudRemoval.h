@@ -31,6 +31,7 @@ Q_SIGNALS:
 
 private:
     bool isUsed(const QString &mirrorFolder) const;
+    void strike(const QString &safeFolder, const QString &mirrorFolder);
     void remove(const QString &safeFolder, bool tellsSuccess);
 
     KnownSafes &m_safes;

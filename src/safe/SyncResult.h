@@ -19,8 +19,8 @@ struct SyncResult
 
     SyncState state = SyncState::Done;
     QVector<Item> taken;
-    QStringList removed; ///< ids of items that are gone
-    QStringList waiting; ///< ids of items that stay as they are until a file is whole
+    QStringList removed;    ///< ids of items that are gone
+    QStringList waiting;    ///< ids of items that stay as they are until a file is whole
     QByteArray otherPassId; ///< of the mirror, where it needs a password that the safe has not
     bool descriptionTaken = false;
     int received = 0; ///< items that came from the mirror
