@@ -202,11 +202,13 @@ FieldReading readTextsOf(const FormField &field)
     }
     if (!hasSign)
         take(reading, field.textAfter(), MainWord::First);
+    const FieldKind behind = hasSign ? FieldKind::Unknown : reading.kind;
     const QString &name = field.name();
     const QString &id = field.id();
     take(reading, name, MainWord::Last);
     if (id != name)
         take(reading, id, MainWord::Last);
+    reading.isFromBehind = behind != FieldKind::Unknown && reading.kind == behind;
     if (reading.kind == FieldKind::Unknown && hasExample)
         reading.kind = FieldKind::Email;
     if (field.isInSearch())

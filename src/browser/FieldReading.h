@@ -13,6 +13,8 @@ struct FieldReading
     QVector<FieldKind> also;
     /// Whether a person reads anything at the field.
     bool hasText = false;
+    /// Whether only what stands behind it tells its kind, which may belong to the next field.
+    bool isFromBehind = false;
     /// Whether the page itself says the kind by "autocomplete".
     bool isTold = false;
 

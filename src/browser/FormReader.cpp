@@ -7,7 +7,6 @@
 #include "SplitFields.h"
 
 #include <QHash>
-#include <QJsonArray>
 
 #include <algorithm>
 
@@ -15,8 +14,6 @@ namespace {
 
 /// How many fields away a neighbour still counts.
 constexpr int near = 4;
-constexpr int mostButtons = 4;
-constexpr int longestCaption = 300;
 
 /// Reads the fields of a form one after another, each with what is known of those around it.
 class Reader
@@ -135,6 +132,13 @@ private:
         return isSilentAt(i) && (kindAt(i) == FieldKind::Unknown || isVagueKind(kindAt(i)));
     }
 
+    /// Whether it is as short as the one before it, and has no word but that of the next field.
+    bool isNextPart(int i) const
+    {
+        const int length = isSilentAt(i) ? m_fields.at(i).maxLength() : 0;
+        return length > 0 && length == m_fields.at(i - 1).maxLength() && reading(i).isFromBehind;
+    }
+
     void continueList(int at);
     void continueOne(int at);
     void readDate(int at);
@@ -192,7 +196,7 @@ void Reader::continueOne(int at)
             m_kinds[next] = FieldKind::AddressLine2;
         return;
     case FieldKind::CardNumber:
-        for (int i = next; isOpen(i) && m_fields.at(i).isLine(); ++i)
+        for (int i = next; (isOpen(i) || isNextPart(i)) && m_fields.at(i).isLine(); ++i)
             m_kinds[i] = FieldKind::CardNumber;
         return;
     default:
@@ -373,21 +377,6 @@ FieldKind Reader::plainName(int at) const
 }
 
 } // namespace
-
-FormSurroundings FormSurroundings::of(const QJsonObject &form, const QString &pageTitle)
-{
-    FormSurroundings around;
-    const auto line = [](const QJsonValue &value) { return value.toString().left(longestCaption); };
-    const auto text = [&](const char *key) { return line(form.value(QLatin1String(key))); };
-    const QJsonArray buttons = form.value(QLatin1String("buttons")).toArray();
-    for (int i = 0; i < qMin(mostButtons, buttons.size()); ++i)
-        around.captions.append(line(buttons.at(i)));
-    around.captions.append(text("title"));
-    const QJsonArray fields = form.value(QLatin1String("fields")).toArray();
-    const QString heading = fields.first().toObject().value(QLatin1String("heading")).toString();
-    around.captions += {line(heading), text("id"), text("name"), pageTitle.left(longestCaption)};
-    return around;
-}
 
 QVector<FieldKind> readForm(const QVector<FormField> &fields, const FormSurroundings &around)
 {

@@ -1,18 +1,9 @@
 #pragma once
 
 #include "FieldReading.h"
+#include "FormSurroundings.h"
 
-#include <QJsonObject>
 #include <QVector>
-
-/// What is known of the form around its fields.
-struct FormSurroundings
-{
-    /// What a person reads on the form: its buttons, its title, the headings, the page's title.
-    QStringList captions;
-
-    static FormSurroundings of(const QJsonObject &form, const QString &pageTitle);
-};
 
 /// The kinds of the fields of one form, in their order. A text alone often says little, so fields
 /// are read with their neighbours: "Number" beside a security code is the card's. Vague kinds are

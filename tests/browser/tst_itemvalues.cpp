@@ -49,6 +49,9 @@ void TestItemValues::cardShapes_data()
     row(R"({"label":"Card number","maxlength":4}, {"maxlength":4}, {"maxlength":4}, {"maxlength":4})",
         "4111|1111|1111|1111");
     row(R"({"label":"Card number"}, {}, {}, {})", "4111|1111|1111|1111");
+    row(R"({"label":"Card number","maxlength":4}, {"maxlength":4}, {"maxlength":4},
+            {"maxlength":4,"textAfter":"Expiry date"}, {"label":"Expiry date","maxlength":4})",
+        "4111|1111|1111|1111|0929");
     row(R"({"label":"Card number"}, {"label":"Card number again"})",
         "4111111111111111|4111111111111111");
     row(R"({"label":"Card number","placeholder":"0000 0000 0000 0000"})", "4111 1111 1111 1111");
