@@ -9,14 +9,26 @@ const script = buildSync({ entryPoints: [source], bundle: true, write: false, fo
 
 const LOGIN = '<form><input name=user value=ana><input name=pw type=password><button>Log in</button></form>';
 
-/** A page in which logins are watched; said: what the background script was told, "away" for the end of a port. */
+/** A page in which logins are watched. */
 function open(html, { title = 'Sign in - Shop', activation } = {}) {
   const clock = createClock();
   const window = openPage(`<title>${title}</title>${html}`, { clock });
   Object.defineProperty(window.performance, 'now', { value: clock.now });
   Object.defineProperty(window.navigator, 'userActivation', { value: activation });
   const said = [];
-  window.connect = () => ({ postMessage: (message) => said.push(JSON.parse(JSON.stringify(message))), disconnect() {} });
+  const ports = [];
+  window.connect = () => {
+    const port = {
+      postMessage(message) {
+        if (port.isDead) throw new Error('Attempting to use a disconnected port object');
+        said.push(JSON.parse(JSON.stringify(message)));
+      },
+      disconnect: () => said.push('away'),
+      onDisconnect: { addListener: (listener) => { port.onEnd = listener; } },
+    };
+    ports.push(port);
+    return port;
+  };
   window.eval(`${script}; capture.watchLogins({ connect, isTrusted: (event) => !event.forged })`);
   const { document } = window;
   const find = (selector) => document.querySelector(selector);
@@ -26,7 +38,10 @@ function open(html, { title = 'Sign in - Shop', activation } = {}) {
   };
   return {
     clock, window, document, find, fire,
-    said: () => said.splice(0),
+    ports,
+    /** What the background script was told since the last look. */
+    said: () => said.splice(0).filter((message) => message !== 'away'),
+    isAway: () => said.includes('away'),
     type(selector, text, options) {
       const field = typeof selector === 'string' ? find(selector) : selector;
       field.value = text;
@@ -149,6 +164,41 @@ test('of what a form asks beside the login little is told', () => {
   assert.equal(values(message), 'user=ana pw=secret land=Malta');
   assert.ok(!JSON.stringify(message).includes('options'));
 });
+
+const words = (page) => page.said().flatMap((message) => Object.keys(message)[0]);
+
+test('a login that is sent again is a new one after a while, and none waits longer for it', async () => {
+  const page = open(LOGIN);
+  page.type('[name=pw]', 'secret');
+  for (const [pause, expected] of [[0, ['submitted']], [9000, []], [2000, ['dropped', 'submitted']], [9000, []], [21500, ['dropped']]]) {
+    await page.clock.advance(pause);
+    if (pause < 20000) page.submit();
+    assert.deepEqual(words(page), expected, String(pause));
+  }
+});
+
+const ENDS = [
+  ['its port ends', (page) => { page.ports[0].isDead = true; page.ports[0].onEnd(); }],
+  ['its port ended unnoticed', (page) => { page.ports[0].isDead = true; page.click('a'); }],
+  ['its document is put aside', (page) => {
+    page.fire(page.window, 'pagehide');
+    assert.ok(page.isAway(), 'the port is kept');
+  }],
+];
+for (const [what, act] of ENDS) {
+  test(`a login is forgotten, and the next one told: ${what}`, async () => {
+    const page = open(`${LOGIN}<a>Forgot password?</a>`);
+    page.type('[name=pw]', 'secret');
+    page.submit();
+    page.said();
+    await act(page);
+    page.submit();
+    assert.deepEqual(words(page), ['submitted']);
+    page.find('form').remove();
+    await page.clock.advance(2500);
+    assert.deepEqual(words(page), ['accepted']);
+  });
+}
 
 const CHANGE = '<form><input name=old type=password><input name=new type=password><input name=again type=password><p class=error></p><button>Save</button></form>';
 const WAYS_OUT = `${LOGIN}<p id=note><a>Forgot <b>password?</b></a><button aria-label=Close>x</button><i>Welcome</i></p>`;

@@ -14,6 +14,8 @@ const GONE_FOR = 1500;
 // A page that still shows that it is at work may show its form again.
 const BUSY_FOR = 6000;
 const PATIENCE = 30000;
+// The program keeps a report for a minute: one that is sent again later is a new one.
+const SAME_FOR = 10000;
 const LONGEST = 320;
 const LONGEST_CAPTION = 40;
 const BUSY = '[aria-busy=true], [role=progressbar], progress';
@@ -132,12 +134,20 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     return kept?.value.slice(0, LONGEST);
   }
 
-  function end(word) {
-    const { port, timer } = current;
+  function forget() {
+    view.clearInterval(current?.timer);
     current = undefined;
-    view.clearInterval(timer);
-    port.postMessage({ [word]: true });
-    port.disconnect();
+  }
+
+  function end(word) {
+    const { port } = current;
+    forget();
+    try {
+      port.postMessage({ [word]: true });
+      port.disconnect();
+    } catch {
+      // The background script was ended, and its reports with it.
+    }
   }
 
   const isAsked = () => isStillAsked(current.shape, passwordForms(doc, isSecret));
@@ -151,7 +161,7 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     const now = view.performance.now();
     if (isAsked()) {
       current.gone = undefined;
-      if (now >= current.until) end('dropped');
+      if (now - current.since >= PATIENCE) end('dropped');
       return;
     }
     current.gone ??= now;
@@ -162,18 +172,17 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
   function submit(group) {
     if (group.some((field) => isSecret(field) && field.value.length > LONGEST_SECRET)) return;
     const key = JSON.stringify(group.filter((field) => isSecret(field) || isName(field)).map(({ value }) => value));
-    const until = view.performance.now() + PATIENCE;
-    if (current?.key === key) {
-      current.until = until;
-      return;
-    }
+    const now = view.performance.now();
+    if (current?.key === key && now - current.since < SAME_FOR) return;
     if (current) end('dropped');
     const shape = shapeOf(group, isSecret);
     const { screenX: posx, screenY: posy, outerWidth: width, outerHeight: height } = view;
     const submitted = { ...describe(group), login: nameOf(group), posx, posy, width, height };
     const port = connect();
     port.postMessage({ submitted, shape, around: [...(view.location.ancestorOrigins ?? [])] });
-    current = { port, shape, key, until, timer: view.setInterval(look, LOOK) };
+    const report = { port, shape, key, since: now, timer: view.setInterval(look, LOOK) };
+    port.onDisconnect.addListener(() => report === current && forget());
+    current = report;
   }
 
   function tellName(group) {
@@ -218,6 +227,11 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
       const field = deepTarget(event);
       if (event.key === 'Enter' && !event.isComposing && (isSecret(field) || isName(field))) attempt(field);
     },
+    // The document may come back later; what became of its login is seen in the next one.
+    pagehide() {
+      current?.port.disconnect();
+      forget();
+    },
   };
   const guarded = Object.entries(listeners).map(([type, listener]) => [type, (event) => isReal(event) && listener(event)]);
   for (const [type, listener] of guarded) view.addEventListener(type, listener, { capture: true });
@@ -226,8 +240,7 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
   return {
     stop() {
       for (const [type, listener] of guarded) view.removeEventListener(type, listener, { capture: true });
-      if (current) view.clearInterval(current.timer);
-      current = undefined;
+      forget();
     },
   };
 }
