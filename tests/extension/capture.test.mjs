@@ -1,11 +1,9 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { buildSync } from 'esbuild';
 import { createClock } from './clock.mjs';
-import { callPage, openPage } from './page.mjs';
+import { bundle, callPage, openPage } from './page.mjs';
 
-const source = new URL('../../extension/src/page/capture.js', import.meta.url).pathname;
-const script = buildSync({ entryPoints: [source], bundle: true, write: false, format: 'iife', globalName: 'capture' }).outputFiles[0].text;
+const script = bundle('capture.js', 'capture');
 
 const LOGIN = '<form><input name=user value=ana><input name=pw type=password><button>Log in</button></form>';
 

@@ -1,10 +1,8 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { buildSync } from 'esbuild';
-import { openPage } from './page.mjs';
+import { bundle, openPage } from './page.mjs';
 
-const source = new URL('../../extension/src/page/kinds.js', import.meta.url).pathname;
-const script = buildSync({ entryPoints: [source], bundle: true, write: false, format: 'iife', globalName: 'kinds' }).outputFiles[0].text;
+const script = bundle('kinds.js', 'kinds');
 
 const LOGIN = '<form>$<input type=password><button>Go</button></form>';
 const STEP = '<form>$<button>Weiter</button></form>';

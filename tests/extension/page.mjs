@@ -4,6 +4,12 @@ import { JSDOM } from 'jsdom';
 const source = new URL('../../extension/src/page/page.js', import.meta.url).pathname;
 export const pageScript = buildSync({ entryPoints: [source], bundle: true, write: false }).outputFiles[0].text;
 
+/** A script of extension/src/page that leaves what it exports in a global. */
+export function bundle(file, globalName) {
+  const entry = new URL(`../../extension/src/page/${file}`, import.meta.url).pathname;
+  return buildSync({ entryPoints: [entry], bundle: true, write: false, format: 'iife', globalName }).outputFiles[0].text;
+}
+
 /**
  * A document in a window of its own. Since nothing is laid out here, every element is a 100 x 20 box at the top
  * left, or what its data-box="left,top,width,height" says; its data-scroll="x,y,width,height" says how far its content

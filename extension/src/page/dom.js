@@ -4,6 +4,7 @@ const getter = (prototype, name) => Object.getOwnPropertyDescriptor(prototype, n
 const nodeType = getter(Node.prototype, 'nodeType');
 const parentNode = getter(Node.prototype, 'parentNode');
 const rootNode = Node.prototype.getRootNode;
+const connected = getter(Node.prototype, 'isConnected');
 const assignedSlot = getter(Element.prototype, 'assignedSlot');
 const FIND = {
   [Node.ELEMENT_NODE]: Element.prototype.querySelectorAll,
@@ -17,6 +18,7 @@ export const isElement = (node) => node !== null && nodeType.call(node) === Node
 export const attr = (element, name) => Element.prototype.getAttribute.call(element, name) ?? '';
 export const hasAttr = (element, name) => Element.prototype.hasAttribute.call(element, name);
 export const matches = (element, selector) => Element.prototype.matches.call(element, selector);
+export const isConnected = (node) => connected.call(node);
 export const rootOf = (node) => rootNode.call(node);
 export const partsOf = (form) => getter(HTMLFormElement.prototype, 'elements').call(form);
 export const titleOf = (doc) => getter(Document.prototype, 'title').call(doc);

@@ -1,5 +1,5 @@
 import { ghostOver } from './covered.js';
-import { boxOf, parentOf, matches } from './dom.js';
+import { boxOf, isConnected, parentOf, matches } from './dom.js';
 import { SIZE, createHost, createIcon, isOwnHost, isUntouched } from './icon.js';
 import { isVisible } from './visible.js';
 
@@ -110,6 +110,11 @@ export function createIcons({ title, open }) {
       boxes.unobserve(field);
       if (field.isConnected) boxes.observe(field);
       else remove(field);
+    }
+    for (const [layer, { host }] of hosts) {
+      if (isConnected(layer)) continue;
+      host.remove();
+      hosts.delete(layer);
     }
   }
 

@@ -4,11 +4,16 @@ import { isOwnHost } from './icon.js';
 // A page may change hundreds of times a second; what it added is looked at this often, and only while nothing else waits.
 const PAUSE = 250;
 const LEAST_TIME = 3;
+// On a page that is never idle too it takes no more of a turn.
+const MOST_TIME = 8;
 const STEP = 200;
 const TELLING = ['class', 'style', 'hidden', 'open', 'inert', 'disabled', 'readonly', 'type'];
+// What decides whether an input is one to fill.
+const DECIDING = new Set(['disabled', 'readonly', 'type']);
 
 /**
- * Watches a document and its shadow trees: onField gets every input once, onChange is told after changes that may have
+ * Watches a document and its shadow trees: onField gets every input once, and again
+ * when it may have become one to fill; onChange is told after changes that may have
  * moved, hidden or covered fields.
  */
 export function watch(doc, { onField, onChange }) {
@@ -47,7 +52,8 @@ export function watch(doc, { onField, onChange }) {
 
   function run(deadline) {
     work ??= lookAll();
-    while (deadline.timeRemaining() > LEAST_TIME || deadline.didTimeout) {
+    const end = performance.now() + MOST_TIME;
+    while (performance.now() < end && (deadline.didTimeout || deadline.timeRemaining() > LEAST_TIME)) {
       if (!work.next().done) continue;
       work = undefined;
       planned = false;
@@ -65,8 +71,10 @@ export function watch(doc, { onField, onChange }) {
   }
 
   function note(records) {
-    for (const { addedNodes } of records) {
+    for (const { addedNodes, attributeName, target } of records) {
       for (const node of addedNodes) if (isElement(node)) added.push(node);
+      if (!DECIDING.has(attributeName) || !matches(target, 'input') || !seen.delete(target)) continue;
+      added.push(target);
     }
     plan();
   }
