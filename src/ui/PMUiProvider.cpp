@@ -48,20 +48,8 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
     m_theme->setMode(m_settings.themeMode());
     m_theme->setTextPercent(m_settings.textPercent());
     m_theme->setMotionOff(m_settings.motionOff());
-    m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme, [this] {
-        return SettingsTable({m_core.settings(), m_settings, *m_theme, m_translator,
-                              [this](const QString &language) { return setLanguage(language); },
-                              [this](int percent) { return setTextPercent(percent); },
-                              [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
-                              [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); },
-                              [this](QWidget *row) { return m_cloud->makePanel(row); },
-                              [this](QWidget *row) { return m_sideWindows->makeBrowserPanel(row); },
-                              [this](QWidget *row) -> QWidget * {
-                                  return new ExcludedSitesPanel(m_core.loginSaving(), row);
-                              },
-                              &m_core.siteIcons()})
-            .settings();
-    });
+    m_sideWindows = std::make_unique<SideWindows>(m_core, m_settings, *m_theme,
+                                                  std::bind(&PMUiProvider::allSettings, this));
     m_safeDesk = std::make_unique<SafeDesk>(m_core, *m_theme);
     m_cloud = std::make_unique<CloudDesk>(m_core, *m_theme);
     m_saveLogin = std::make_unique<SaveLoginDesk>(m_core, *m_theme);
@@ -78,6 +66,22 @@ PMUiProvider::~PMUiProvider()
 {
     m_quick->setMain(nullptr, nullptr);
     m_window.reset();
+}
+
+QVector<Setting> PMUiProvider::allSettings()
+{
+    return SettingsTable({m_core.settings(), m_settings, *m_theme, m_translator,
+                          [this](const QString &language) { return setLanguage(language); },
+                          [this](int percent) { return setTextPercent(percent); },
+                          [this](QWidget *row) { return m_sideWindows->makeBackupRow(row); },
+                          [this](QWidget *row) { return m_sideWindows->makePasswordRow(row); },
+                          [this](QWidget *row) { return m_cloud->makePanel(row); },
+                          [this](QWidget *row) { return m_sideWindows->makeBrowserPanel(row); },
+                          [this](QWidget *row) -> QWidget * {
+                              return new ExcludedSitesPanel(m_core.loginSaving(), row);
+                          },
+                          &m_core.siteIcons()})
+        .settings();
 }
 
 void PMUiProvider::makeFirstRun()

@@ -23,6 +23,7 @@ class SecureWindow;
 class SideWindows;
 class Theme;
 class TrayIcon;
+struct Setting;
 
 /// The user interface as a whole: owns the window, the tray icon and the translator, and carries
 /// out what the core asks of it.
@@ -66,6 +67,8 @@ public Q_SLOTS:
     void bringToFront();
 
 private:
+    /// All that can be set.
+    QVector<Setting> allSettings();
     void makeFirstRun();
     void showMessage(const QString &title, const QString &text);
     void closeMessages();
