@@ -137,14 +137,16 @@ void LoginSaving::decide(LoginOffer &offer) const
               });
 }
 
-/// One offer a site, the newest; those of other sites wait for their turn.
+/// One offer a site, the newest; those of other sites wait for their turn, and all of them for the
+/// one that is being written.
 void LoginSaving::enqueue(const LoginOffer &offer)
 {
-    const auto same = std::find_if(m_offers.begin(), m_offers.end(), [&](const LoginOffer &other) {
+    const auto firstWaiting = m_offers.begin() + (isSaving() ? 1 : 0);
+    const auto same = std::find_if(firstWaiting, m_offers.end(), [&](const LoginOffer &other) {
         return isSameSite(other.request, offer.request);
     });
     const bool isFirst = same == m_offers.begin();
-    if (same != m_offers.end() && !(isFirst && isSaving()))
+    if (same != m_offers.end())
         *same = offer;
     else if (m_offers.size() < mostOffers)
         m_offers.append(offer);
@@ -207,10 +209,18 @@ bool LoginSaving::save(const LoginChoice &choice)
 
 void LoginSaving::onSafeSaved(bool good)
 {
+    if (!isSaving())
+        return;
     const std::shared_ptr<GPMSafe> safe = m_safe();
     const PMListItem *item = safe ? safe->item(m_savedId) : nullptr;
-    if (!isSaving() || !item)
+    if (!item) {
+        // Removed meanwhile, as by a synchronisation: the user is asked anew.
+        m_waitsForDisk = false;
+        m_savedId.clear();
+        decide(m_offers.first());
+        Q_EMIT offerChanged();
         return;
+    }
     // It may have been the end of a save that began before this one.
     if (good && item->isChanged())
         return;

@@ -209,6 +209,36 @@ private Q_SLOTS:
         QCOMPARE(m_saving->offer()->decision.action, SaveLoginOffer::Add);
     }
 
+    void offersWhileOneIsBeingWritten()
+    {
+        QSignalSpy done(m_saving.get(), &LoginSaving::saved);
+        offer(shop, "ana", "one");
+        QVERIFY(m_saving->save({{}, {}, QStringLiteral("ana"), QStringLiteral("one")}));
+        offer(shop, "bob", "w");
+        offer(shop, "bob", "x");
+        QCOMPARE(offered(), QStringLiteral("decided shop.example one"));
+        QVERIFY(m_saving->isSaving());
+        QVERIFY(done.wait());
+        QCOMPARE(offered(), QStringLiteral("decided shop.example x"));
+        QCOMPARE(stored().size(), 1);
+        m_saving->decline();
+        QVERIFY(!m_saving->offer());
+        QCOMPARE(done.count(), 1);
+    }
+
+    void aLoginThatGoesWhileItIsBeingWritten()
+    {
+        offer(shop, "ana", "one");
+        QVERIFY(m_saving->save({{}, {}, QStringLiteral("ana"), QStringLiteral("one")}));
+        QSignalSpy changed(m_saving.get(), &LoginSaving::offerChanged);
+        const QStringList all{m_safe->items().front()->id()};
+        m_items->setDeleted(all, true);
+        m_items->purge(all);
+        QVERIFY(changed.wait());
+        QVERIFY(!m_saving->isSaving());
+        QCOMPARE(offered(), QStringLiteral("decided shop.example one"));
+    }
+
     void whatWasFilledIsNotOffered()
     {
         const QString id = addLogin("ana", "one");
