@@ -31,6 +31,11 @@ QString withoutWww(const QString &host)
     return host.startsWith(QLatin1String("www.")) ? host.mid(4) : host;
 }
 
+bool isOfHost(const PMLogin &login, const QString &host)
+{
+    return withoutWww(hostOf(login.url())) == withoutWww(host);
+}
+
 /// The logins of the site that are not in the trash, those of the very host first.
 QVector<const PMLogin *> loginsOfSite(const QString &site, const QVector<const PMLogin *> &logins)
 {
@@ -43,9 +48,8 @@ QVector<const PMLogin *> loginsOfSite(const QString &site, const QVector<const P
         if (address && !login->deleted() && address->isSameSite(*page))
             found.append(login);
     }
-    std::stable_partition(found.begin(), found.end(), [&](const PMLogin *login) {
-        return withoutWww(hostOf(login->url())) == withoutWww(page->host());
-    });
+    std::stable_partition(found.begin(), found.end(),
+                          [&](const PMLogin *login) { return isOfHost(*login, page->host()); });
     return found;
 }
 
@@ -177,6 +181,12 @@ SaveLoginOffer decideSaveLogin(const SaveLoginRequest &request,
     const auto former = std::find_if(same.begin(), same.end(), [&typed](const PMLogin *login) {
         return !typed.oldPassword.isEmpty() && login->password() == typed.oldPassword;
     });
+    const auto here = std::count_if(same.begin(), same.end(), [&request](const PMLogin *login) {
+        return isOfHost(*login, request.host());
+    });
+    // Nothing tells whose password it is: it shall not replace that of another account.
+    if (former == same.end() && typed.userName.isEmpty() && same.size() > 1 && here != 1)
+        return {SaveLoginOffer::Add, {}, namesOf(candidates)};
     const PMLogin *login = former == same.end() ? same.first() : *former;
     return {SaveLoginOffer::Update, login->id(), namesOf(candidates)};
 }

@@ -135,6 +135,11 @@ void TestSaveLogin::decides_data()
     row("http://login.shop.example", "bob", "new", "update bob@login.shop of 1");
     // The old password tells whose it is.
     row("shop.example", "", "new after two", "update bob@login.shop of 2");
+    // Nothing tells whose it is.
+    row("bank.example", "", "neu", "add of 2");
+    row("bank.example", "", "neu after first", "update first@bank of 2");
+    row("bank.example", "", "neu after neither", "add of 2");
+    row("my.bank.example", "", "neu", "add of 2");
 }
 
 void TestSaveLogin::decides()
@@ -147,7 +152,9 @@ void TestSaveLogin::decides()
         {QStringLiteral("trash"), QStringLiteral("shop.example"), QStringLiteral("gone"),
          QStringLiteral("three")},
         {QStringLiteral("elsewhere"), QStringLiteral("bank.example"), QStringLiteral("ana"),
-         QStringLiteral("new")}};
+         QStringLiteral("new")},
+        {QStringLiteral("first@bank"), QStringLiteral("bank.example"), QStringLiteral("ana"),
+         QStringLiteral("first")}};
     std::vector<std::unique_ptr<PMLogin>> items;
     QVector<const PMLogin *> logins;
     for (const QStringList &login : known) {
