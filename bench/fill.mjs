@@ -36,7 +36,7 @@ async function round(page) {
     window.filledAt = 0;
     for (const input of document.querySelectorAll('input')) input.value = '';
   });
-  await desktop.press('ctrl+shift+y');
+  await desktop.press('alt+shift+y');
   const window = await desktop.activate('^Quick access$');
   await setTimeout(150);
   const start = now();
