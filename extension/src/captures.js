@@ -1,5 +1,5 @@
 import { isStillAsked } from './shapes.js';
-import { losesEncryption, sameSite, siteOf } from './site.js';
+import { belongsTo, siteOf } from './site.js';
 
 // A page that has arrived may still be drawing its form.
 const SETTLE = 1000;
@@ -20,11 +20,7 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
   const captures = new Map(); // tab → the report that is not decided yet
   const names = new Map(); // tab → the user name of a page before
 
-  // A frame counts when it and every frame around it are of the page's site, and none gives up its encryption.
-  function belongs({ tab, url, origin }, around) {
-    const all = [origin ?? url, ...around];
-    return all.every((one) => sameSite(one, tab.url) && !losesEncryption(tab.url, one));
-  }
+  const belongs = ({ tab, url, origin }, around) => belongsTo(tab.url, [origin ?? url, ...around]);
 
   function decide(capture, accepted) {
     if (captures.get(capture.tabId) !== capture) return;

@@ -1,5 +1,6 @@
+import { describeFrame } from './frame.js';
 import { routedOpid } from './route.js';
-import { losesEncryption, sameSite } from './site.js';
+import { belongsTo } from './site.js';
 
 const MOST_FIELDS = 500;
 const MOST_OPTIONS = 5000;
@@ -10,12 +11,7 @@ const TOP = 0;
 // One frame that is busy, such as an advertisement, must not keep the page from being filled.
 const FRAME_LIMIT = 1000;
 
-// The next two run inside the page and can use nothing from around them.
-function describeFrame() {
-  const around = location.ancestorOrigins ? [...location.ancestorOrigins] : self === top ? [] : ['null'];
-  return { origin: self.origin, around };
-}
-
+// Runs inside the page and can use nothing from around it.
 async function callPage(name, argument) {
   return globalThis[Symbol.for('glaceron')]?.[name](argument);
 }
@@ -56,9 +52,8 @@ export function createDocuments({ api, timers }) {
     if (!top?.result) return [];
     const all = (await within(FRAME_LIMIT, run({ tabId, allFrames: true }, { func: describeFrame }))) ?? [];
     const { origin: site } = top.result;
-    const belongs = (origin) => sameSite(origin, site) && !losesEncryption(site, origin);
     return [top, ...all.filter(({ frameId }) => frameId !== TOP)]
-      .filter(({ result }) => result && [result.origin, ...result.around].every(belongs))
+      .filter(({ result }) => result && belongsTo(site, [result.origin, ...result.around]))
       .map(({ frameId, documentId, result }) => ({ tabId, frameId, documentId, origin: result.origin }))
       .sort((a, b) => a.frameId - b.frameId);
   }
@@ -79,6 +74,9 @@ export function createDocuments({ api, timers }) {
     });
   }
 
+  /** The answers of documents of one page; undefined for those that went away, or are not the top one and take long. */
+  const callAll = (frames, name) => Promise.all(askAll(frames, name, {}, FRAME_LIMIT));
+
   /** Waits until one of the documents shows a field of the kind; undefined when the top document went away. */
   async function waitFor(frames, kind, milliseconds) {
     const answers = askAll(frames, 'waitFor', { kind, milliseconds }, milliseconds + FRAME_LIMIT);
@@ -90,7 +88,7 @@ export function createDocuments({ api, timers }) {
   /** The description of a tab's page: {docinfo, tabUrl, icon, password: a visible password field is there}. */
   async function describe(tabId) {
     const frames = await list(tabId);
-    const reports = await Promise.all(askAll(frames, 'collect', {}, FRAME_LIMIT));
+    const reports = await callAll(frames, 'collect');
     if (!reports[0]) return undefined;
     const known = new Map();
     reported.set(tabId, known);
@@ -136,5 +134,5 @@ export function createDocuments({ api, timers }) {
     return there && (await call(there, 'token')) === token ? there : undefined;
   }
 
-  return { list, call, waitFor, describe, reportedAs, forget: (tabId) => reported.delete(tabId) };
+  return { list, call, callAll, waitFor, describe, reportedAs, forget: (tabId) => reported.delete(tabId) };
 }

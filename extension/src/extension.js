@@ -51,7 +51,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
   api.tabs.onRemoved.addListener(documents.forget);
   api.tabs.onRemoved.addListener(logins.dropTab);
   api.runtime.onConnect.addListener((port) => {
-    if (port.name !== 'popup') return;
+    if (port.name !== 'popup' || !port.sender?.url?.startsWith(api.runtime.getURL(''))) return;
     link.connect();
     port.onMessage.addListener(async ({ url, open }) => (open ? opening.open(await tabs.active()) : status.watch(port, url)));
     port.onDisconnect.addListener(() => status.forget(port));

@@ -1,4 +1,4 @@
-import { losesEncryption, sameSite } from './site.js';
+import { belongsTo } from './site.js';
 
 const KINDS = ['login', 'creditcard', 'identity'];
 const SIDES = ['left', 'top', 'width', 'height'];
@@ -10,16 +10,12 @@ function wishOf({ kind, field }) {
 
 /** What the script in the pages says: an icon was clicked on, or whether its frame is one of the page's site. */
 export function listenToPages({ api, open }) {
-  // A frame counts when it and every frame around it are of the page's site, and none gives up its encryption.
-  function belongs({ tab, url, origin }, around) {
-    const all = [origin ?? url, ...around];
-    return all.every((one) => sameSite(one, tab.url) && !losesEncryption(tab.url, one));
-  }
+  const belongs = ({ tab, url, origin }, around) => Array.isArray(around) && belongsTo(tab.url, [origin ?? url, ...around]);
 
   const answers = {
-    belongs: (around, sender) => Array.isArray(around) && belongs(sender, around),
+    belongs: (around, sender) => belongs(sender, around),
     open(payload, sender) {
-      const wish = wishOf(payload);
+      const wish = belongs(sender, payload?.around) && wishOf(payload);
       if (wish) open(sender.tab, wish);
     },
   };

@@ -39,6 +39,11 @@ export function losesEncryption(from, to) {
   return webUrl(from)?.protocol === 'https:' && webUrl(to)?.protocol !== 'https:';
 }
 
+/** Whether a frame is one of the page: it and every frame around it are of its site, and none gives up its encryption. */
+export function belongsTo(page, frames) {
+  return frames.every((address) => sameSite(address, page) && !losesEncryption(page, address));
+}
+
 /** Whether two addresses name the same document; what follows the # does not count. */
 export function sameDocument(one, other) {
   const [a, b] = [webUrl(one), webUrl(other)];

@@ -146,8 +146,8 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
       return answer;
     },
     /** The pop-up of the toolbar button: {say, shown: what it was told}. */
-    async openPopup() {
-      const port = { name: 'popup', onMessage: createEvent(), onDisconnect: createEvent(), shown: [], postMessage: (state) => port.shown.push(state) };
+    async openPopup(url = 'chrome-extension://id/popup/popup.html') {
+      const port = { name: 'popup', sender: { url }, onMessage: createEvent(), onDisconnect: createEvent(), shown: [], postMessage: (state) => port.shown.push(state) };
       onConnect.fire(port);
       return { shown: port.shown, close: () => port.onDisconnect.fire(), say: (message) => { port.onMessage.fire(message); return idle(); } };
     },

@@ -363,13 +363,27 @@ test('the pop-up shows what the program says of its page, and follows it', async
   assert.deepEqual([popup.shown.length, browser.received()], [4, []]);
 });
 
+test('a page that calls itself the pop-up is told nothing', async () => {
+  const { browser } = await browserAt(SHOP);
+  for (const url of [SHOP, 'https://other.example/chrome-extension://id/', null]) {
+    const page = await browser.openPopup(url);
+    await page.say({ url: SHOP });
+    await page.say({ open: true });
+    assert.deepEqual([browser.received(), page.shown], [[], []], url);
+  }
+});
+
 test('an icon opens quick access for its field, in frames of the page\'s site alone', async () => {
   const { browser } = await browserAt(SHOP);
   const tab = { id: 1, windowId: 1, url: SHOP };
   const field = { left: 1, top: 2, width: 3, height: 4 };
-  await browser.hear({ open: { kind: 'creditcard', field: { ...field, more: 5 }, fill: true } }, { tab });
-  for (const wrong of [{ kind: 'other', field }, { kind: 'login' }, { kind: 'login', field: { ...field, top: '2' } }]) await browser.hear({ open: wrong }, { tab });
-  await browser.hear({ open: { kind: 'login', field } }, { tab, id: 'another' });
+  const wish = { kind: 'creditcard', field: { ...field, more: 5 }, fill: true, around: [] };
+  const from = { tab, url: SHOP };
+  await browser.hear({ open: wish }, from);
+  for (const wrong of [{ kind: 'other' }, { field: undefined }, { field: { ...field, top: '2' } }, { around: undefined }, { around: ['https://other.example'] }]) {
+    await browser.hear({ open: { ...wish, ...wrong } }, from);
+  }
+  for (const other of [{ id: 'another' }, { origin: 'https://other.example' }]) await browser.hear({ open: wish }, { ...from, ...other });
   assert.deepEqual(browser.received().map(({ payload }) => payload), [{ url: SHOP, kind: 'creditcard', field, window: WINDOW }]);
   for (const [origin, around, expected] of [
     ['https://id.shop.example', [SHOP], true], ['https://other.example', [SHOP], false], ['http://shop.example', [SHOP], false],

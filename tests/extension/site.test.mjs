@@ -1,6 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { losesEncryption, sameDocument, sameSite } from '../../extension/src/site.js';
+import { describeFrame } from '../../extension/src/frame.js';
+import { belongsTo, losesEncryption, sameDocument, sameSite } from '../../extension/src/site.js';
 import { shippedList, suffixList } from '../../scripts/refresh-suffixes.mjs';
 
 const PAIRS = [
@@ -54,4 +55,21 @@ test('the same document differs at most in what follows the #', () => {
 
 test('the program tells sites apart by the same list', () => {
   assert.ok(shippedList() === suffixList(), 'run scripts/refresh-suffixes.mjs');
+});
+
+const STANDS = [
+  [['https://shop.example'], false, ['https://shop.example']],
+  [[], true, []],
+  [undefined, true, []],
+  [undefined, false, ['null']],
+];
+
+test('a frame whose surroundings the browser does not tell is one of no site', () => {
+  for (const [ancestorOrigins, isTop, expected] of STANDS) {
+    const top = {};
+    const self = isTop ? top : {};
+    const { around } = new Function('location', 'self', 'top', `return (${describeFrame})()`)({ ancestorOrigins }, self, top);
+    assert.deepEqual(around, expected);
+    assert.equal(belongsTo('https://shop.example/', around), !around.includes('null'));
+  }
 });

@@ -1,3 +1,4 @@
+import { describeFrame } from '../frame.js';
 import { captionOf, isButton, isSubmitButton } from './buttons.js';
 import { collect } from './collect.js';
 import { attr, elementsUnder, findAll, matches, parentOf, shadowRootOf, titleOf } from './dom.js';
@@ -179,7 +180,7 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     const { screenX: posx, screenY: posy, outerWidth: width, outerHeight: height } = view;
     const submitted = { ...describe(group), login: nameOf(group), posx, posy, width, height };
     const port = connect();
-    port.postMessage({ submitted, shape, around: [...(view.location.ancestorOrigins ?? [])] });
+    port.postMessage({ submitted, shape, around: describeFrame().around });
     const report = { port, shape, key, since: now, timer: view.setInterval(look, LOOK) };
     port.onDisconnect.addListener(() => report === current && forget());
     current = report;
@@ -190,7 +191,7 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     const name = group.find((field) => isName(field) && isVisible(field) && field.value !== '' && isNamed(field));
     if (!name) return;
     const port = connect();
-    port.postMessage({ name: name.value.slice(0, LONGEST), around: [...(view.location.ancestorOrigins ?? [])] });
+    port.postMessage({ name: name.value.slice(0, LONGEST), around: describeFrame().around });
     port.disconnect();
   }
 

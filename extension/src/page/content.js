@@ -1,3 +1,4 @@
+import { describeFrame } from '../frame.js';
 import { watchLogins } from './capture.js';
 import { createIcons } from './icons.js';
 import { kindOf } from './kinds.js';
@@ -17,7 +18,7 @@ function onScreen({ left, top, width, height }, { screenX, screenY, clientX, cli
 function start() {
   const icons = createIcons({
     title: api.i18n.getMessage('iconTitle'),
-    open: (kind, box, place) => say({ open: { kind, field: onScreen(box, place) } }),
+    open: (kind, box, place) => say({ open: { kind, field: onScreen(box, place), around: describeFrame().around } }),
   });
   let isPlanned = false;
   let belongs = self === top ? true : undefined; // whether the frame is one of the page's site; not known yet
@@ -48,7 +49,7 @@ function start() {
     if (belongs) return icons.add(field, kind);
     waiting.push([field, kind]);
     if (waiting.length > 1) return;
-    belongs = Boolean(await say({ belongs: [...location.ancestorOrigins] }));
+    belongs = Boolean(await say({ belongs: describeFrame().around }));
     if (belongs) waiting.forEach(([each, of]) => icons.add(each, of));
   }
 
