@@ -68,7 +68,7 @@ export function buildExtension(kind = 'chromium') {
 export async function launchBrowser(kind, { profileDir, hosts = [], headless = true, args = [], preferences, env, extension = true } = {}) {
   const userDataDir = profileDir ?? (await mkdtemp(join(tmpdir(), `glaceron-${kind}-`)));
   const own = KINDS[kind].options({ hosts, args, preferences });
-  const browser = await puppeteer.launch({ ...own, headless, userDataDir, ...(env && { env }) });
+  const browser = await puppeteer.launch({ ...own, headless, userDataDir, acceptInsecureCerts: true, ...(env && { env }) });
   const extensionId = extension ? await browser.installExtension(buildExtension(kind)) : undefined;
   const origin = KINDS[kind].origin(extensionId);
 

@@ -7,14 +7,14 @@ import { makeUser } from './user.mjs';
 /**
  * What a file of stories needs, started once: {desktop, program, user, site}, there from the first test on. The program
  * stands at its first start, and Firefox's extension is approved unless approved is false.
- * pages: as in startSite; hosts: the names that lead to them.
+ * pages, secure: as in startSite; hosts: the names that lead to them.
  */
-export function makeStage({ pages, hosts, approved = true }) {
+export function makeStage({ pages, hosts, secure = false, approved = true }) {
   const stage = { browser: undefined };
 
   before(async () => {
     buildExtension();
-    stage.site = await startSite(pages);
+    stage.site = await startSite(pages, { secure });
     stage.desktop = await startDesktop();
     stage.program = await startDesktopProgram(stage.desktop);
     stage.user = makeUser(stage.desktop, stage.program);
@@ -31,7 +31,7 @@ export function makeStage({ pages, hosts, approved = true }) {
   });
 
   /** The address of a path at one of the hosts. */
-  stage.at = (path, host = hosts[0]) => `http://${host}:${stage.site.port}${path}`;
+  stage.at = (path, host = hosts[0]) => `http${secure ? 's' : ''}://${host}:${stage.site.port}${path}`;
 
   /**
    * Tells the same stories in each browser, one after the other, as the program serves one at a time. Within,

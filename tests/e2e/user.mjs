@@ -43,6 +43,17 @@ export function makeUser(desktop, program) {
       await program.until(() => count() === before + 1, `the login ${title} on the disk`);
     },
 
+    /** Adds an item of a kind, given by its place in the menu of new items, with texts for its fields in their order. */
+    async addItem(place, texts) {
+      const count = () => program.items().length;
+      const before = count();
+      await desktop.activate(open(safe));
+      await press('ctrl+f', 'Tab', 'space', ...Array(place).fill('Down'), 'Return');
+      await fill(texts);
+      await press('ctrl+s');
+      await program.until(() => count() === before + 1, `the item ${texts[0]} on the disk`);
+    },
+
     async lock() {
       await desktop.activate(open(safe));
       await press('ctrl+l');
