@@ -102,6 +102,8 @@ stage.inEachBrowser((kind) => {
 
   const isQuickOpen = () => stage.desktop.isVisible(QUICK);
 
+  const quickHasKeys = () => stage.program.until(async () => (await stage.desktop.activeTitle()) === 'Quick access', 'quick access to have the keys');
+
   /** Clicks where the crystal of a field is until quick access opens: it takes a moment until it is drawn. */
   async function clickIcon(place) {
     await stage.program.until(async () => {
@@ -109,6 +111,7 @@ stage.inEachBrowser((kind) => {
       await setTimeout(300);
       return isQuickOpen();
     }, 'quick access');
+    await quickHasKeys();
   }
 
   /** Presses the page's button until something is sent: it sends nothing before the fields are filled. */
@@ -139,6 +142,21 @@ stage.inEachBrowser((kind) => {
     await stage.desktop.press('Return');
     assert.deepEqual(await send(), { path: '/second', fields: { user: USER } });
     assert.deepEqual(await send(), { path: '/done', fields: { pw: SECRET } });
+  });
+
+  test('on a locked safe quick access asks for the password and goes on', limit, async () => {
+    await stage.user.lock();
+    await open('/plain');
+    await clickIcon(PLACE.pw);
+    await stage.desktop.type(PASSWORD);
+    await stage.desktop.press('Return');
+    await stage.program.until(async () => !/^Glaceron/.test(await stage.desktop.activeTitle()) && (await isQuickOpen()), 'the list');
+    await stage.program.until(async () => {
+      await stage.desktop.press('Return');
+      await setTimeout(300);
+      return !(await isQuickOpen());
+    }, 'quick access to fill');
+    assert.deepEqual(await send(), { path: '/done', fields: FILLED });
   });
 
   for (const path of ['/covered', '/ghost', '/faint', '/foreign']) {
