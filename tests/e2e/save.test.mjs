@@ -21,7 +21,7 @@ const ONE_PAGE = `<title>App</title><div id=app><input id=user placeholder="E-ma
     await fetch('/api', { method: 'POST' });
     app.innerHTML = /^wrong/.test(value) ? app.innerHTML : '<h1>Hello</h1>';
   }</script>`;
-const DARK = `<title>Dark</title><b id=host></b><script>
+const DARK = `<title>Dark</title><div id=host></div><script>
   const root = host.attachShadow({ mode: 'closed' });
   root.innerHTML = '<form><input name=user value=dora><input name=pw type=password><button>Log in</button></form>';
   root.querySelector('form').onsubmit = (event) => { event.preventDefault(); host.remove(); };

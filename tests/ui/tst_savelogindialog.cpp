@@ -164,7 +164,8 @@ private Q_SLOTS:
         type("masterPassword", testPassword);
         QTest::keyClick(part<QLineEdit>("masterPassword"), Qt::Key_Return);
         QTRY_COMPARE(text("saveLoginHeadline"), QStringLiteral("Update this login?"));
-        QTest::keyClick(part<QWidget>("saveButton"), Qt::Key_Return);
+        QTRY_COMPARE(dialog()->focusWidget(), part<QWidget>("saveButton"));
+        QTest::keyClick(dialog()->focusWidget(), Qt::Key_Return);
         QVERIFY(isGone());
         QCOMPARE(logins(), QStringList{QStringLiteral("First|ana|new")});
 
@@ -211,6 +212,7 @@ private Q_SLOTS:
         QCOMPARE(part<QLineEdit>("savePassword")->text(), QStringLiteral("one"));
         QVERIFY(inTheWay.remove());
         QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
+        QCOMPARE(dialog()->focusWidget(), part<QWidget>("saveButton"));
         press("saveButton");
         QVERIFY(isGone());
         QCOMPARE(logins(), QStringList{QStringLiteral("Every Shop|ana|one")});

@@ -130,6 +130,7 @@ void SaveLoginDialog::connectAll()
     });
     connect(&m_saving, &LoginSaving::saveFailed, this, [this] {
         showButtons();
+        m_save->setFocus();
         tell(tr("The login is in the safe now, but it could not be written to the disk. Check the "
                 "free space and the permissions, then try again."));
     });
@@ -202,6 +203,8 @@ void SaveLoginDialog::showUnlocking()
 {
     if (state() != LoginOffer::Locked) {
         showButtons();
+        // While it was disabled, the keyboard went to the button beside it.
+        m_save->setFocus();
         return;
     }
     const bool unlocking = m_unlock->state() == UnlockLogic::State::Unlocking;
