@@ -4,6 +4,10 @@ import { belongsTo, siteOf } from './site.js';
 // A page that has arrived may still be drawing its form.
 const SETTLE = 1000;
 const LIMIT = 40000;
+// What the last look may take, at a page that may be hanging.
+const LAST_LOOK = 2000;
+// A window for logging in that closes this soon has done its work.
+const POPUP_TIME = 3000;
 const MOST_LOOKS = 5;
 // A user may be slow on the page between user name and password.
 const NAME_PATIENCE = 180000;
@@ -37,11 +41,17 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
     return known && known.until > now() && known.site === siteOf(tab.url) ? known.name : undefined;
   }
 
+  // Not to be asked any more once it has closed.
+  async function noteWindow(capture, id) {
+    const window = await api.windows.get(id).catch(() => undefined);
+    capture.isPopup = window?.type === 'popup';
+  }
+
   function report(port, { submitted, shape }) {
     const { tab } = port.sender;
     const former = captures.get(tab.id);
     if (former) decide(former, false);
-    const capture = { captureId: makeId(), tabId: tab.id, site: siteOf(tab.url), shape, looks: 0 };
+    const capture = { captureId: makeId(), tabId: tab.id, site: siteOf(tab.url), shape, looks: 0, since: now() };
     const icon = tab.favIconUrl;
     const login = {
       ...submitted,
@@ -52,7 +62,8 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
     };
     if (!send('loginSubmitted', { captureId: capture.captureId, login })) return undefined;
     captures.set(tab.id, capture);
-    capture.limit = timers.setTimeout(() => decide(capture, false), LIMIT);
+    capture.limit = timers.setTimeout(() => judgeAtLast(capture), LIMIT);
+    noteWindow(capture, tab.windowId);
     return capture;
   }
 
@@ -61,7 +72,7 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
     const frames = await documents.list(tabId);
     if (frames.length === 0) return undefined;
     if (siteOf(frames[0].origin) !== site) return true;
-    const answers = await Promise.all(frames.map((frame) => documents.call(frame, 'passwordForms')));
+    const answers = await documents.callAll(frames, 'passwordForms');
     if (!answers[0]) return undefined;
     if (answers[0].status >= FAILED) return false;
     return !isStillAsked(shape, answers.flatMap((answer) => answer?.forms ?? []));
@@ -70,11 +81,19 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
   async function judge(capture) {
     const tab = await api.tabs.get(capture.tabId).catch(() => undefined);
     if (!tab) return decide(capture, false);
-    if (tab.status === 'loading') return undefined; // until it has loaded
+    if (tab.status === 'loading' && !capture.isLast) return undefined; // until it has loaded
     const accepted = await outcome(capture);
     capture.looks += 1;
     if (accepted !== undefined) return decide(capture, accepted);
-    return capture.looks < MOST_LOOKS ? judgeSoon(capture) : decide(capture, false);
+    return capture.looks < MOST_LOOKS && !capture.isLast ? judgeSoon(capture) : decide(capture, false);
+  }
+
+  // A page may load forever and be used all the same.
+  function judgeAtLast(capture) {
+    if (!capture.isAway) return decide(capture, false);
+    capture.isLast = true;
+    capture.limit = timers.setTimeout(() => decide(capture, false), LAST_LOOK);
+    return judge(capture);
   }
 
   function judgeSoon(capture) {
@@ -109,6 +128,6 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
   api.tabs.onRemoved.addListener((tabId) => {
     names.delete(tabId);
     const capture = captures.get(tabId);
-    if (capture) decide(capture, false);
+    if (capture) decide(capture, Boolean(capture.isPopup) && now() - capture.since <= POPUP_TIME);
   });
 }

@@ -12,6 +12,10 @@ const WEB = {
   'https://my.shop.example/in': { html: '<p>Welcome</p>', frames: [['https://my.shop.example/frame', 'https://my.shop.example/']] },
   'https://my.shop.example/frame': LOGIN,
   'https://bank.example/login': LOGIN,
+  'https://shop.example/endless': { html: '<p>Welcome</p>', endless: true },
+  'https://shop.example/endless-again': { html: LOGIN, endless: true },
+  'https://shop.example/hanging': { html: '<p>Welcome</p>', busy: true },
+  'https://shop.example/advertised': { html: '<p>Welcome</p>', frames: [['https://shop.example/hanging', 'https://shop.example/']] },
 };
 const SHAPE = { passwords: 1, lines: 1, fresh: false };
 const submitted = (more) => ({ submitted: { title: 'Shop', fields: [], ...more }, shape: SHAPE, around: [] });
@@ -23,8 +27,8 @@ async function sent(browser, tabId = 1, more = {}) {
   return { port, id: payload.captureId, login: payload.login };
 }
 
-async function opened(url = 'https://shop.example/login') {
-  const browser = await startBrowser(WEB);
+async function opened(url = 'https://shop.example/login', options = {}) {
+  const browser = await startBrowser(WEB, options);
   browser.addTab(url);
   await browser.clock.advance(0);
   return browser;
@@ -40,6 +44,7 @@ const OUTCOMES = [
   ['https://my.shop.example/in', 'loginDropped'], // asked for again in a frame
   ['https://bank.example/login', 'saveLogin'], // another site's form
   ['https://nowhere.example/', 'loginDropped'],
+  ['https://shop.example/advertised', 'saveLogin'], // a frame hangs
 ];
 for (const [url, action] of OUTCOMES) {
   test(`the page after a login: ${url}`, async () => {
@@ -52,6 +57,33 @@ for (const [url, action] of OUTCOMES) {
     assert.deepEqual(told(browser), [[action, id]]);
     await browser.clock.advance(60000);
     assert.deepEqual(told(browser), []);
+  });
+}
+
+// Of pages that never finish loading one look at last tells.
+const ENDLESS = [['endless', 'saveLogin'], ['endless-again', 'loginDropped'], ['hanging', 'loginDropped']];
+for (const [page, action] of ENDLESS) {
+  test(`the page after a login never ends: ${page}`, async () => {
+    const browser = await opened();
+    const { port, id } = await sent(browser);
+    await browser.go(1, `https://shop.example/${page}`);
+    await port.end();
+    await browser.clock.advance(page === 'hanging' ? 5000 : 39000);
+    assert.deepEqual(told(browser), []);
+    await browser.clock.advance(40000);
+    assert.deepEqual(told(browser), [[action, id]]);
+  });
+}
+
+const CLOSED = [['popup', 2900, 'saveLogin'], ['popup', 3100, 'loginDropped'], ['normal', 0, 'loginDropped']];
+for (const [type, wait, action] of CLOSED) {
+  test(`a window (${type}) that closes ${wait} ms after a login was sent from it`, async () => {
+    const browser = await opened('https://shop.example/login', { windowType: type });
+    const { port, id } = await sent(browser);
+    await browser.clock.advance(wait);
+    await port.end();
+    await browser.closeTab(1);
+    assert.deepEqual(told(browser), [[action, id]]);
   });
 }
 

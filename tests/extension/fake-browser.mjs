@@ -15,11 +15,11 @@ export const WINDOW = { left: 10, top: 20, width: 800, height: 600 };
 
 /**
  * A browser with one window and the extension running in it, connected to a stand-in for the program.
- * web: address → page text, or {html, busy, frames: [[address, ...addresses around it]]}; one that is missing fails to
- * load, one that is busy answers no script. With manual set, a navigation stays under way until arrive() is called.
- * documentIds: whether the browser names documents, or knows them by their frame alone.
+ * web: address → page text, or {html, busy, endless, frames: [[address, ...addresses around it]]}; one that is missing fails
+ * to load, one that is busy answers no script, one that is endless never finishes loading. With manual set, a navigation stays under way until arrive() is called.
+ * documentIds: whether the browser names documents, or knows them by their frame alone. windowType: what kind its window is.
  */
-export async function startBrowser(web, { manual = false, documentIds = true } = {}) {
+export async function startBrowser(web, { manual = false, documentIds = true, windowType = 'normal' } = {}) {
   const clock = createClock();
   const tabs = new Map();
   const looks = {};
@@ -47,6 +47,7 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
     onUpdated.fire(tab.id, { status: 'loading' });
     const page = web[url];
     tab.documents = page === undefined ? [] : [open(url, 0, []), ...(page.frames ?? []).map(([address, ...around], index) => open(address, index + 1, around))];
+    if (page?.endless) return idle();
     tab.status = 'complete';
     onUpdated.fire(tab.id, { status: 'complete' });
     return idle();
@@ -105,7 +106,7 @@ export async function startBrowser(web, { manual = false, documentIds = true } =
     },
     windows: {
       getLastFocused: async () => ({ id: 1 }),
-      get: async (id) => (id === 1 ? { id, type: 'normal', ...WINDOW } : Promise.reject(new Error('No window'))),
+      get: async (id) => (id === 1 ? { id, type: windowType, ...WINDOW } : Promise.reject(new Error('No window'))),
       create: async ({ url }) => ({ tabs: [addTab(url)] }),
       update: async () => ({}),
     },
