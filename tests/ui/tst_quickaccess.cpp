@@ -317,11 +317,16 @@ private Q_SLOTS:
         quick.add<PMCreditCard>(QStringLiteral("Visa"));
         quick.open();
         quick.press(Qt::Key_Tab);
+        quick.press(Qt::Key_Tab);
+        QCOMPARE(quick.focus(), QStringLiteral("section1"));
+        quick.press(Qt::Key_Space);
         QCOMPARE(quick.chosen(), QStringLiteral("Visa"));
+        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
         QVERIFY(find<QToolButton>(*quick.window(), "section1")->isChecked());
+        QVERIFY(!find<QToolButton>(*quick.window(), "section0")->isChecked());
         quick.press(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(quick.chosen(), QStringLiteral("Shop"));
-        quick.press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(quick.focus(), QStringLiteral("section3"));
+        quick.press(Qt::Key_Space);
         QCOMPARE(quick.focus(), QStringLiteral("length"));
         // From there on it goes from control to control, and back to the sections.
         QStringList seen;

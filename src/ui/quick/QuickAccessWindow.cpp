@@ -104,10 +104,6 @@ void QuickAccessWindow::connectParts()
             [this](const QString &id) { m_actions.copySecret(id); });
     connect(m_list, &QuickList::userNameWanted, this,
             [this](const QString &id) { m_actions.copyUserName(id); });
-    connect(m_list, &QuickList::sectionStepped, this, [this](int step) {
-        const int next = static_cast<int>(m_wish.section) + step + QuickBar::count;
-        setSection(static_cast<Section>(next % QuickBar::count));
-    });
     connect(m_bar, &QuickBar::chosen, this, &QuickAccessWindow::setSection);
     connect(m_noSafe, &EmptyState::pressed, this, &QuickAccessWindow::mainWindowRequested);
     connect(m_noSafe, &EmptyState::pressed, this, &QWidget::hide);

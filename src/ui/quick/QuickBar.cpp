@@ -35,7 +35,6 @@ QuickBar::QuickBar(const Theme &theme, QWidget *parent)
         button->setAccessibleName(names[i]);
         button->setToolTip(tr("%1 (Ctrl+%2)").arg(names[i]).arg(i + 1));
         button->setCheckable(true);
-        button->setAutoExclusive(true);
         button->setFocusPolicy(Qt::TabFocus);
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
         row->addWidget(button);

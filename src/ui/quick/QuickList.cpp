@@ -144,12 +144,6 @@ bool QuickList::eventFilter(QObject *watched, QEvent *event)
 bool QuickList::onKey(const QKeyEvent &key)
 {
     const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
-    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) {
-        if (modifiers & (Qt::ControlModifier | Qt::AltModifier))
-            return false;
-        Q_EMIT sectionStepped(key.key() == Qt::Key_Tab ? 1 : -1);
-        return true;
-    }
     if (modifiers == Qt::ControlModifier)
         return onCommand(key.key());
     if (modifiers != Qt::NoModifier)

@@ -48,8 +48,6 @@ Q_SIGNALS:
     void activated(const QString &id);
     void secretWanted(const QString &id);
     void userNameWanted(const QString &id);
-    /// The next section is wanted, or the one before.
-    void sectionStepped(int step);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
