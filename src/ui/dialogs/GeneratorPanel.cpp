@@ -52,7 +52,6 @@ GeneratorPanel::GeneratorPanel(const Parts &parts, Extent extent, const Theme &t
     connectNumbers();
     setTarget({});
     showRecent();
-    setFocusProxy(m_length);
 }
 
 GeneratorPanel::~GeneratorPanel()
@@ -72,6 +71,11 @@ void GeneratorPanel::connectNumbers()
     connect(m_specials, QOverload<int>::of(&QSpinBox::valueChanged), this,
             &GeneratorPanel::generate);
     connect(&m_parts.recent, &RecentPasswords::changed, this, &GeneratorPanel::showRecent);
+}
+
+void GeneratorPanel::takeFocus()
+{
+    m_length->setFocus();
 }
 
 void GeneratorPanel::start()

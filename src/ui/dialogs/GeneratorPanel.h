@@ -50,6 +50,7 @@ public:
 
     /// Makes the first password, of the kind that was chosen last.
     void start();
+    void takeFocus();
     /// Keeps what was chosen, and forgets the password.
     void finish();
 

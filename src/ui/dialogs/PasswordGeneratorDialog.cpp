@@ -25,7 +25,7 @@ PasswordGeneratorDialog::PasswordGeneratorDialog(const Parts &parts, const Theme
     connect(m_panel, &GeneratorPanel::cancelled, this, &QDialog::reject);
     connect(m_panel, &GeneratorPanel::grown, this, &QWidget::adjustSize);
     m_panel->start();
-    m_panel->setFocus();
+    m_panel->takeFocus();
     qDebug().noquote() << "UI: PasswordGenerator: instance created";
 }
 

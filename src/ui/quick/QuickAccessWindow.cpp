@@ -208,7 +208,7 @@ void QuickAccessWindow::takeFocus()
     else if (page == m_list)
         m_list->takeFocus();
     else
-        m_generator->setFocus();
+        m_generator->takeFocus();
 }
 
 void QuickAccessWindow::followSafe()
