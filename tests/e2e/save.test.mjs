@@ -78,7 +78,8 @@ stage.inEachBrowser((kind) => {
   }
 
   const logIn = (user, password) => type({ '#user': user, '#pw': password });
-  const arrived = (path) => page.waitForFunction((end) => location.pathname === end && document.readyState === 'complete', {}, path);
+  // Not asked inside of the page, which may be leaving just then.
+  const arrived = (path) => stage.program.until(() => new URL(page.url()).pathname === path, path);
   const count = () => stage.program.items().length;
 
   // What was not offered before a login that was sent after it is never offered.
