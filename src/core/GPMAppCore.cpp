@@ -59,7 +59,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
           m_settings, [this] { return m_safe && m_safe->isUnlocked(); }, places.activity())
     , m_port(places.port)
     , m_items([this] { return m_safe; })
-    , m_loginSaving([this] { return m_safe; }, m_items,
+    , m_loginSaving([this] { return m_safe; }, m_items, m_pageLogins,
                     places.configFolder + QStringLiteral("/excluded_sites.json"))
 {
     connect(&m_items, &ItemChanges::message, this, &GPMAppCore::message);

@@ -38,11 +38,12 @@ QByteArray randomKey()
 
 } // namespace
 
-LoginSaving::LoginSaving(ItemChanges::FindSafe safe, ItemChanges &items,
+LoginSaving::LoginSaving(ItemChanges::FindSafe safe, ItemChanges &items, PageLogins &pageLogins,
                          const QString &excludedSitesFile, Clock clock, QObject *parent)
     : QObject(parent)
     , m_safe(std::move(safe))
     , m_items(items)
+    , m_pageLogins(pageLogins)
     , m_excluded(excludedSitesFile)
     , m_clock(clock)
     , m_captures(std::move(clock), this)
@@ -87,16 +88,12 @@ void LoginSaving::noteFilled(const QString &itemId)
 /// call its user by another name.
 bool LoginSaving::isFilledJustNow(const SaveLoginRequest &request) const
 {
-    const auto site = SiteAddress::parse(SiteAddress::withScheme(request.site));
-    const QVector<const PMLogin *> all = logins();
-    return site && std::any_of(all.begin(), all.end(), [&](const PMLogin *login) {
-               const QDateTime filled = m_filled.value(login->id());
-               if (!filled.isValid() || qAbs(filled.msecsTo(m_clock())) > filledMs)
-                   return false;
-               const auto address = SiteAddress::parse(SiteAddress::withScheme(login->url()));
-               return address && address->isSameSite(*site) &&
-                      login->password() == request.login.password;
-           });
+    const QVector<const PMLogin *> all = loginsFor(request);
+    return std::any_of(all.begin(), all.end(), [&](const PMLogin *login) {
+        const QDateTime filled = m_filled.value(login->id());
+        return filled.isValid() && qAbs(filled.msecsTo(m_clock())) <= filledMs &&
+               login->password() == request.login.password;
+    });
 }
 
 void LoginSaving::makeOffer(const SaveLoginRequest &request, const QDateTime &until)
@@ -117,13 +114,14 @@ void LoginSaving::makeOffer(const SaveLoginRequest &request, const QDateTime &un
 void LoginSaving::decide(LoginOffer &offer) const
 {
     const std::shared_ptr<GPMSafe> safe = m_safe();
+    const QVector<const PMLogin *> logins = loginsFor(offer.request);
     QMap<QString, QString> names;
-    ::fillSaveLoginParams(offer.request, logins(), offer.siteTitle, names);
+    ::fillSaveLoginParams(offer.request, logins, offer.siteTitle, names);
     offer.state = LoginOffer::Locked;
     offer.candidates.clear();
     if (!safe || !safe->isUnlocked())
         return;
-    offer.decision = decideSaveLogin(offer.request, logins());
+    offer.decision = decideSaveLogin(offer.request, logins);
     const bool isKnown =
         offer.decision.action == SaveLoginOffer::Nothing || isFilledJustNow(offer.request);
     offer.state = isKnown ? LoginOffer::Known : LoginOffer::Decided;
@@ -162,7 +160,7 @@ void LoginSaving::enqueue(const LoginOffer &offer)
 void LoginSaving::fillSaveLoginParams(QString &siteTitle, QMap<QString, QString> &candidates) const
 {
     if (const LoginOffer *current = offer())
-        ::fillSaveLoginParams(current->request, logins(), siteTitle, candidates);
+        ::fillSaveLoginParams(current->request, loginsFor(current->request), siteTitle, candidates);
 }
 
 /// The login that the choice is written into: the one to update, a new one, or the one that an
@@ -294,7 +292,8 @@ void LoginSaving::forgetOld()
         const LoginOffer &offer = m_offers.at(i);
         if (offer.state != LoginOffer::Locked)
             continue;
-        if (offer.until <= now)
+        // Longer than ever given: the clock was set back.
+        if (offer.until <= now || now.msecsTo(offer.until) > CapturedLogins::patience.count())
             m_offers.removeAt(i);
         else if (!next.isValid() || offer.until < next)
             next = offer.until;
@@ -346,15 +345,11 @@ QByteArray LoginSaving::traceOf(const SaveLoginRequest &request) const
     return code.result();
 }
 
-QVector<const PMLogin *> LoginSaving::logins() const
+/// The logins of the site that the request names.
+QVector<const PMLogin *> LoginSaving::loginsFor(const SaveLoginRequest &request) const
 {
-    QVector<const PMLogin *> found;
     const std::shared_ptr<GPMSafe> safe = m_safe();
     if (!safe || !safe->isUnlocked())
-        return found;
-    for (const PMListItem *item : safe->items()) {
-        if (const auto *login = qobject_cast<const PMLogin *>(item))
-            found.append(login);
-    }
-    return found;
+        return {};
+    return m_pageLogins.loginsOf(request.site);
 }

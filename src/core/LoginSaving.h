@@ -4,6 +4,7 @@
 #include "Clock.h"
 #include "ExcludedSites.h"
 #include "ItemChanges.h"
+#include "PageLogins.h"
 #include "SaveLogin.h"
 
 #include <QMap>
@@ -57,9 +58,11 @@ public:
     static constexpr int mostOffers = 5;
 
     /// @param safe the open one; null while there is none
-    /// @param items outlives this
-    LoginSaving(ItemChanges::FindSafe safe, ItemChanges &items, const QString &excludedSitesFile,
-                Clock clock = systemTime, QObject *parent = nullptr);
+    /// @param items outlives this, as does the next
+    /// @param pageLogins the logins of that safe
+    LoginSaving(ItemChanges::FindSafe safe, ItemChanges &items, PageLogins &pageLogins,
+                const QString &excludedSitesFile, Clock clock = systemTime,
+                QObject *parent = nullptr);
 
     /// What the user is to be asked now; null when nothing is.
     const LoginOffer *offer() const { return m_offers.isEmpty() ? nullptr : &m_offers.first(); }
@@ -112,7 +115,7 @@ private:
     void enqueue(const LoginOffer &offer);
     bool isFilledJustNow(const SaveLoginRequest &request) const;
     QByteArray traceOf(const SaveLoginRequest &request) const;
-    QVector<const PMLogin *> logins() const;
+    QVector<const PMLogin *> loginsFor(const SaveLoginRequest &request) const;
     PMLogin *loginToWrite(const LoginChoice &choice);
     void onSafeSaved(bool good);
     void removeFirst();
@@ -120,6 +123,7 @@ private:
 
     ItemChanges::FindSafe m_safe;
     ItemChanges &m_items;
+    PageLogins &m_pageLogins;
     ExcludedSites m_excluded;
     Clock m_clock;
     CapturedLogins m_captures;

@@ -1,5 +1,7 @@
 #include "PageLogins.h"
 
+#include "PMLogin.h"
+
 #include <QElapsedTimer>
 
 #include <algorithm>
@@ -25,6 +27,12 @@ PageLogins::PageLogins(QObject *parent)
     m_announcement.setSingleShot(true);
     m_announcement.setInterval(0);
     connect(&m_announcement, &QTimer::timeout, this, &PageLogins::changed);
+}
+
+PageLogins::~PageLogins()
+{
+    // It may hold the safe as the last one, which tells of its end.
+    setSafe(nullptr);
 }
 
 void PageLogins::setSafe(const std::shared_ptr<GPMSafe> &safe)
@@ -149,6 +157,20 @@ QStringList PageLogins::idsFor(const QString &pageUrl)
     for (const Key &key : found)
         ids.append(std::get<2>(key));
     return ids;
+}
+
+QVector<const PMLogin *> PageLogins::loginsOf(const QString &site)
+{
+    QVector<const PMLogin *> found;
+    const std::optional<SiteAddress> address = SiteAddress::parse(SiteAddress::withScheme(site));
+    if (!address)
+        return found;
+    readAll();
+    for (const PMListItem *item : m_bySite.value(address->site())) {
+        if (const auto *login = qobject_cast<const PMLogin *>(item))
+            found.append(login);
+    }
+    return found;
 }
 
 void PageLogins::announce()

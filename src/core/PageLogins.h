@@ -11,6 +11,8 @@
 #include <memory>
 #include <optional>
 
+class PMLogin;
+
 /// Which logins of the open safe belong to a page. They are kept by their site, so that a page is
 /// answered without a look at all of them.
 class PageLogins : public QObject
@@ -19,6 +21,7 @@ class PageLogins : public QObject
 
 public:
     explicit PageLogins(QObject *parent = nullptr);
+    ~PageLogins() override;
 
     /// Follows another safe, or none.
     void setSafe(const std::shared_ptr<GPMSafe> &safe);
@@ -26,6 +29,10 @@ public:
     /// The logins that may be filled into the page: first those of its very host, then the others
     /// of its site, each by title. None of the trash. The address may be any text.
     QStringList idsFor(const QString &pageUrl);
+
+    /// All logins of the site of an address, which may be any text and needs no scheme, but those
+    /// of the trash; in no order.
+    QVector<const PMLogin *> loginsOf(const QString &site);
 
 Q_SIGNALS:
     /// Other logins than before may belong to a page. Once for any number of changes in one turn of

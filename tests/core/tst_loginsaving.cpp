@@ -43,6 +43,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::shared_ptr<GPMSafe> m_safe;
     std::unique_ptr<ItemChanges> m_items;
+    std::unique_ptr<PageLogins> m_pages;
     std::unique_ptr<LoginSaving> m_saving;
     QDateTime m_now = QDateTime::currentDateTimeUtc();
 
@@ -98,7 +99,9 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(folder));
         QVERIFY(m_safe->init(folder, password, QStringLiteral("Mine"), {}));
         m_items = std::make_unique<ItemChanges>([this] { return m_safe; });
-        m_saving = std::make_unique<LoginSaving>([this] { return m_safe; }, *m_items,
+        m_pages = std::make_unique<PageLogins>();
+        m_pages->setSafe(m_safe);
+        m_saving = std::make_unique<LoginSaving>([this] { return m_safe; }, *m_items, *m_pages,
                                                  m_folder->filePath(QStringLiteral("sites.json")),
                                                  [this] { return m_now; });
     }
@@ -271,6 +274,10 @@ private Q_SLOTS:
         offer(shop, "ana", "late");
         m_now = m_now.addSecs(61);
         m_saving->setUnlocking(false); // looks at the time
+        QVERIFY(!m_saving->offer());
+        offer(shop, "ana", "late");
+        m_now = m_now.addSecs(-3600);
+        m_saving->setUnlocking(false);
         QVERIFY(!m_saving->offer());
     }
 
