@@ -1,6 +1,7 @@
 #include "GPMFaviconDownloader.h"
 
 #include <QFileInfo>
+#include <QNetworkProxy>
 
 #include <algorithm>
 #include <utility>
@@ -19,6 +20,9 @@ GPMFaviconDownloader::GPMFaviconDownloader(IconNetwork network, Clock clock, QOb
     , m_network(std::move(network))
     , m_clock(std::move(clock))
 {
+    // To ask the system for a proxy can block for seconds, and a proxy would resolve names anew:
+    // the address that was judged is the one to connect to.
+    m_manager.setProxy(QNetworkProxy::NoProxy);
     connect(&m_manager, &QNetworkAccessManager::finished, this,
             &GPMFaviconDownloader::dataDownloaded);
 }

@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
+#include <QNetworkProxy>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -89,6 +90,7 @@ private Q_SLOTS:
     void answers_data();
     void answers();
     void requestSaysNoMoreThanNeeded();
+    void passesAnyProxy();
     void nextPlaceIsTriedOnce();
     void slowSiteIsLeft();
     void usualPlaces();
@@ -228,6 +230,18 @@ void TestGPMFaviconDownloader::answers()
     QCOMPARE(files(), file.isEmpty() ? QStringList() : QStringList(file));
     QCOMPARE(changed.size(), file.isEmpty() ? 0 : 1);
     QTEST(m_server->requests.size(), "requests");
+}
+
+void TestGPMFaviconDownloader::passesAnyProxy()
+{
+    Server proxy;
+    QNetworkProxy::setApplicationProxy(
+        {QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), proxy.serverPort()});
+    m_server->answers.insert("/icon", answer(picture("PNG")));
+    download(url("/icon"));
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    QCOMPARE(m_server->paths(), QByteArrayList{"/icon"});
+    QVERIFY(proxy.requests.isEmpty());
 }
 
 void TestGPMFaviconDownloader::requestSaysNoMoreThanNeeded()
