@@ -29,6 +29,7 @@ private Q_SLOTS:
     void exitKey();
     void failedSaveAsks_data();
     void failedSaveAsks();
+    void lockedWhileItAsks();
     void retriedSaveLocks();
     void coversTheItemsBeforeItWaits();
 };
@@ -304,6 +305,23 @@ void TestSecureWindow::failedSaveAsks()
     QCOMPARE(quit.count(), ends && locked ? 1 : 0);
     QVERIFY(!shown.window.isLosingChanges());
     QVERIFY(!QDir(test.folder.filePath(QStringLiteral("data/drafts"))).exists() || !locked);
+    putFolderBack(test);
+}
+
+void TestSecureWindow::lockedWhileItAsks()
+{
+    TestCore test;
+    int asked = 0;
+    Window shown(test, false, [&](const Question &) {
+        if (++asked == 1)
+            test.core.lockCurrentSafe();
+        return 2;
+    });
+    changeAndTakeFolderAway(test);
+    shown.window.exitByUser();
+    QCOMPARE(asked, 1);
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
+    QCOMPARE(shown.window.openProgress(), 0.0);
     putFolderBack(test);
 }
 

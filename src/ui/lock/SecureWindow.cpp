@@ -235,7 +235,9 @@ void SecureWindow::leaveSafe(void (GPMAppCore::*way)())
     cover();
     const SaveAnswer answer = saveOrAsk();
     if (answer == SaveAnswer::Cancel) {
-        setOpenProgress(1);
+        // It may have been locked while the question stood there.
+        if (m_open)
+            setOpenProgress(1);
         return;
     }
     const QScopedValueRollback<bool> losing(m_losingChanges, answer == SaveAnswer::Lose);
