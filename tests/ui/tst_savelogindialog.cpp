@@ -5,6 +5,7 @@
 #include "style/Theme.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -110,8 +111,11 @@ private Q_SLOTS:
         QVERIFY(offer("ana", "two"));
         QVERIFY(offer("bob", "x", "https://bank.example")); // waits
         QCOMPARE(text("saveLoginHost"), QStringLiteral("shop.example"));
+        part<QLineEdit>("savePassword")->actions().last()->trigger();
+        QCOMPARE(part<QLineEdit>("savePassword")->displayText(), QStringLiteral("two"));
         dialog()->close();
         QCOMPARE(text("saveLoginHost"), QStringLiteral("bank.example"));
+        QCOMPARE(part<QLineEdit>("savePassword")->displayText(), QString(QChar(0x2022)));
     }
 
     void anotherLoginIsChosenForTheUpdate()
@@ -210,6 +214,7 @@ private Q_SLOTS:
         press("saveButton");
         QTRY_VERIFY(isShown("saveLoginMessage"));
         QCOMPARE(part<QLineEdit>("savePassword")->text(), QStringLiteral("one"));
+        QCOMPARE(part<QAbstractButton>("notNowButton")->text(), QStringLiteral("Close"));
         QVERIFY(inTheWay.remove());
         QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
         QCOMPARE(dialog()->focusWidget(), part<QWidget>("saveButton"));

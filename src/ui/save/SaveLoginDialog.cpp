@@ -129,6 +129,8 @@ void SaveLoginDialog::connectAll()
         m_master->setFocus();
     });
     connect(&m_saving, &LoginSaving::saveFailed, this, [this] {
+        // The change stays in the safe, whatever is answered.
+        m_notNow->setText(tr("Close"));
         showButtons();
         m_save->setFocus();
         tell(tr("The login is in the safe now, but it could not be written to the disk. Check the "
@@ -156,6 +158,7 @@ void SaveLoginDialog::showOffer()
     m_master->setVisible(locked);
     m_master->clearSecret();
     m_timeLeft->setVisible(locked);
+    m_notNow->setText(tr("Not now"));
     tell({});
     if (locked)
         m_seconds.start();

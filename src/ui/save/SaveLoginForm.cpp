@@ -112,6 +112,8 @@ void SaveLoginForm::setOffer(const LoginOffer &offer)
     m_offer = offer;
     m_title->setText(offer.siteTitle);
     m_title->setCursorPosition(0);
+    // What one offer showed the next one hides.
+    m_password->clearSecret();
     m_password->setText(offer.request.login.password);
     fillChooser(offer);
     showChoice();
