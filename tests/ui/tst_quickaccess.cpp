@@ -4,16 +4,19 @@
 #include "PMUiProvider.h"
 #include "RandomSource.h"
 #include "UiTesting.h"
+#include "dialogs/Question.h"
 #include "quick/QuickAccessWindow.h"
 #include "quick/QuickPlace.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTcpServer>
+#include <QTimer>
 #include <QToolButton>
 
 namespace {
@@ -438,6 +441,50 @@ private Q_SLOTS:
         // The length is that of the next one.
         quick.open({{QStringLiteral("kind"), QStringLiteral("generate")}});
         QCOMPARE(made->text().size(), 15);
+        // Nobody is there any more.
+        quick.core.lockCurrentSafe();
+        QVERIFY(!quick.isShown());
+        QCOMPARE(made->text(), QString());
+    }
+
+    void dialogsLeftOpen()
+    {
+        Quick quick;
+        QVERIFY(quick.createSafe());
+        QString typed;
+        QTimer::singleShot(0, quick.provider.mainWindow(), [&] {
+            quick.open();
+            quick.type(QStringLiteral("x"));
+            typed = find<QLineEdit>(*quick.window(), "quickSearch")->text();
+            QApplication::activeModalWidget()->close();
+        });
+        dialogAsker(quick.provider.mainWindow())({{}, {}, {QStringLiteral("OK")}});
+        QCOMPARE(typed, QStringLiteral("x"));
+        quick.window()->hide();
+        quick.provider.mainWindow()->hide();
+        // In the way of all windows.
+        QDialog other;
+        other.setModal(true);
+        other.show();
+        quick.open();
+        QVERIFY(!quick.isShown());
+        QVERIFY(quick.provider.mainWindow()->isVisible());
+    }
+
+    void whatWasSearchedForStaysChosen()
+    {
+        Quick quick;
+        QVERIFY(quick.createSafe());
+        quick.addLogin(QStringLiteral("Shop A"), QStringLiteral("https://archive.example"));
+        quick.addLogin(QStringLiteral("Shop B"), QStringLiteral("https://shop.example"));
+        quick.core.openQuickAccess();
+        quick.type(QStringLiteral("shop"));
+        QCOMPARE(quick.chosen(), QStringLiteral("Shop A"));
+        Q_EMIT quick.core.quickAccessPageFound(page);
+        // It is above now, below a heading.
+        QCOMPARE(find<QListView>(*quick.window(), "quickList")->model()->index(1, 0).data(),
+                 QVariant(QStringLiteral("Shop B")));
+        QCOMPARE(quick.chosen(), QStringLiteral("Shop A"));
     }
 
     void theHotkeyAsksForThePage()

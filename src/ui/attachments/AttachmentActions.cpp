@@ -67,6 +67,7 @@ AttachmentChoosers AttachmentChoosers::dialogs(const Theme &theme, QWidget *widg
     };
     choosers.newName = [&theme, widget](const QString &fileName) {
         RenameDialog dialog(fileName, theme, widget->window());
+        dialog.setWindowModality(Qt::WindowModal);
         return dialog.exec() == QDialog::Accepted ? dialog.name() : QString();
     };
     choosers.openFile = [](const QString &path) {

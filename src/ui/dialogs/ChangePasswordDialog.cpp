@@ -27,7 +27,7 @@ ChangePasswordDialog::ChangePasswordDialog(const Parts &parts, const Theme &them
     , m_caps(new CapsIndicator(this))
 {
     setObjectName(QStringLiteral("changePasswordDialog"));
-    setModal(true);
+    setWindowModality(Qt::WindowModal);
     m_caps->setObjectName(QStringLiteral("changeCaps"));
     makeFields();
     auto *warning = makeLabel(tr("Only you know it. It cannot be recovered."), "muted", this);

@@ -12,6 +12,8 @@ namespace {
 QStringList answerOf(QFileDialog *made)
 {
     const QPointer<QFileDialog> dialog(made);
+    if (dialog->parentWidget())
+        dialog->setWindowModality(Qt::WindowModal);
     const bool chosen = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return {};

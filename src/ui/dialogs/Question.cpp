@@ -67,6 +67,8 @@ Asker dialogAsker(QWidget *widget)
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
         window->show();
         const QPointer<QuestionDialog> dialog(new QuestionDialog(question, window));
+        // What stands above the browser is not in the way of it.
+        dialog->setWindowModality(Qt::WindowModal);
         dialog->exec();
         // The window may have gone meanwhile, and the question with it.
         const int answer = dialog ? dialog->answer() : question.buttons.size() - 1;

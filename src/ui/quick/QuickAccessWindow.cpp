@@ -24,6 +24,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 
 const QSize usualSize(360, 470);
@@ -39,6 +41,15 @@ QString hostOf(const QString &url)
     const auto address = SiteAddress::parse(url);
     const QString host = address ? address->host() : QString();
     return host.startsWith(QLatin1String("www.")) ? host.mid(4) : host;
+}
+
+/// Whether a dialog keeps the keyboard and the mouse from all windows.
+bool isBlocked()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->isVisible() && window->windowModality() == Qt::ApplicationModal;
+    });
 }
 
 } // namespace
@@ -118,6 +129,11 @@ void QuickAccessWindow::connectParts()
                                            : tr("No browser with the extension is connected");
                             }});
     connect(m_generator, &GeneratorPanel::placed, this, &QWidget::hide);
+    connect(&core, &GPMAppCore::requestLock, this, [this] {
+        // The other pages give way to the master password.
+        if (m_wish.section == Section::Generator)
+            hide();
+    });
     connect(&core, &GPMAppCore::safeLockedChanged, this, &QuickAccessWindow::followSafe);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &QuickAccessWindow::followSafe);
     connect(&m_parts.unlock, &UnlockLogic::safesChanged, this, &QuickAccessWindow::followSafe);
@@ -136,6 +152,10 @@ void QuickAccessWindow::open(const QuickAccessWish &wish)
 {
     if (m_actions.fillOnly(wish))
         return;
+    if (isBlocked()) {
+        Q_EMIT mainWindowRequested();
+        return;
+    }
     m_wish = wish;
     m_list->setFilling(m_parts.core.hasExtension());
     m_list->start(kindOf(wish.section), hostOf(wish.url), m_actions.pageIds(wish));

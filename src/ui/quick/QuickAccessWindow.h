@@ -38,7 +38,8 @@ public:
     QuickAccessWindow(const Parts &parts, const Theme &theme);
     ~QuickAccessWindow() override;
 
-    /// Fills at once what is wanted, else opens in front of everything.
+    /// Fills at once what is wanted, else opens in front of everything; while a dialog is in the
+    /// way of all windows the main one is wanted instead.
     void open(const QuickAccessWish &wish);
     /// The page is known now that was not when it was opened; what the user does goes on.
     void takePage(const QString &url);

@@ -93,15 +93,18 @@ void QuickList::makeList(SiteIcons &icons)
 
 void QuickList::start(PMListItem::Type kind, const QString &host, const QStringList &pageIds)
 {
+    m_search->clear();
     m_kept.clear();
     m_items.setKind(kind);
     setPage(host, pageIds);
-    m_search->clear();
     onReset();
 }
 
 void QuickList::setPage(const QString &host, const QStringList &ids)
 {
+    // What the user searched for and has in view is not replaced under the Enter key.
+    if (m_items.isSearching())
+        m_kept = chosenId();
     m_delegate->setHost(host);
     m_items.setPageIds(ids);
 }
