@@ -451,15 +451,14 @@ private Q_SLOTS:
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        QString typed;
+        bool opens = false;
         QTimer::singleShot(0, quick.provider.mainWindow(), [&] {
             quick.open();
-            quick.type(QStringLiteral("x"));
-            typed = find<QLineEdit>(*quick.window(), "quickSearch")->text();
+            opens = quick.isShown();
             QApplication::activeModalWidget()->close();
         });
         dialogAsker(quick.provider.mainWindow())({{}, {}, {QStringLiteral("OK")}});
-        QCOMPARE(typed, QStringLiteral("x"));
+        QVERIFY(opens);
         quick.window()->hide();
         quick.provider.mainWindow()->hide();
         // In the way of all windows.
