@@ -26,8 +26,17 @@ const DARK = `<title>Dark</title><div id=host></div><script>
   root.innerHTML = '<form><input name=user value=dora><input name=pw type=password><button>Log in</button></form>';
   root.querySelector('form').onsubmit = (event) => { event.preventDefault(); host.remove(); };
 </script>`;
+// The page's own script types and sends, with events that the browser calls trusted.
+const FORGED = `<form method=post action=/home><input name=user value=mallory><input id=pw name=pw type=password></form><script>
+  onload = () => setTimeout(() => {
+    pw.focus();
+    document.execCommand('insertText', false, 'forged');
+    document.forms[0].requestSubmit();
+  });
+</script>`;
 const PAGES = {
   '/login': LOGIN,
+  '/forged': FORGED,
   '/change': `<title>Change</title><form method=post action=/home><input id=old name=old type=password placeholder="Current password">
     <input id=new name=new type=password placeholder="New password" autocomplete=new-password>
     <input id=again name=again type=password placeholder="Repeat it" autocomplete=new-password><button>Save</button></form>`,
@@ -144,6 +153,12 @@ stage.inEachBrowser((kind) => {
     await page.keyboard.type(SECRETS[5]);
     await page.keyboard.press('Enter');
     await answer('Escape');
+  });
+
+  test('what a page types and sends by itself is not offered', limit, async () => {
+    await open('/forged');
+    await arrived('/home');
+    await nothingIsOffered();
   });
 
   test('never for a site', limit, async () => {
