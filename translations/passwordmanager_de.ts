@@ -4492,6 +4492,10 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
         <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
         <translation>Die Liste der Websites konnte nicht geschrieben werden. Prüfen Sie den freien Platz und die Rechte des Einstellungsordners.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>SaveLoginForm</name>

@@ -4492,6 +4492,10 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
         <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
         <translation>No se pudo escribir la lista de sitios. Compruebe el espacio libre y los permisos de la carpeta de ajustes.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 <context>
     <name>SaveLoginForm</name>

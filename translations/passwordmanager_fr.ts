@@ -4492,6 +4492,10 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
         <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
         <translation>La liste des sites n’a pas pu être écrite. Vérifiez l’espace libre et les droits d’accès au dossier des paramètres.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 <context>
     <name>SaveLoginForm</name>

@@ -4528,6 +4528,10 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
         <source>The list of sites could not be written. Check the free space and the permissions of the settings folder.</source>
         <translation>Список сайтов не удалось записать. Проверьте свободное место и права доступа к папке настроек.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
 </context>
 <context>
     <name>SaveLoginForm</name>
