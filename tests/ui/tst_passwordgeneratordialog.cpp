@@ -146,8 +146,9 @@ private Q_SLOTS:
         QCOMPARE(button->toolTip(), obstacle);
         obstacle.clear();
         dialog->updatePlace();
-        QTest::keyClick(button, Qt::Key_Return);
-        QCOMPARE(placed, shown(*dialog));
+        const QString seen = shown(*dialog);
+        QTest::keyClick(find<QSpinBox>(*dialog, "specialCount"), Qt::Key_Return);
+        QCOMPARE(placed, seen);
         QVERIFY(!dialog->isVisible());
     }
 

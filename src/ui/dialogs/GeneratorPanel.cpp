@@ -11,6 +11,7 @@
 #include "widgets/NumberBox.h"
 #include "widgets/StrengthMeter.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
 
@@ -66,10 +67,10 @@ void GeneratorPanel::connectNumbers()
     connect(m_length, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int length) {
         const QSignalBlocker once(m_specials);
         m_specials->setMaximum(length);
-        generate();
+        followNumbers();
     });
     connect(m_specials, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            &GeneratorPanel::generate);
+            &GeneratorPanel::followNumbers);
     connect(&m_parts.recent, &RecentPasswords::changed, this, &GeneratorPanel::showRecent);
 }
 
@@ -189,8 +190,16 @@ void GeneratorPanel::updatePlace()
     m_place->setAccessibleDescription(obstacle);
 }
 
+void GeneratorPanel::followNumbers()
+{
+    // Enter makes a number tell its value again: what is placed is what was seen.
+    if (m_password->text().size() != m_length->value() || m_madeSpecials != m_specials->value())
+        generate();
+}
+
 void GeneratorPanel::generate()
 {
+    m_madeSpecials = m_specials->value();
     const QString password =
         generatePassword(m_length->value(), m_specials->value(), m_parts.random);
     m_password->setText(password);
@@ -217,6 +226,15 @@ void GeneratorPanel::place()
     m_parts.recent.markUsed(password);
     m_target.place(password);
     Q_EMIT placed();
+}
+
+void GeneratorPanel::keyPressEvent(QKeyEvent *event)
+{
+    // Outside of a dialog nothing else presses the default button.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        place();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void GeneratorPanel::showRecent()

@@ -68,12 +68,16 @@ Q_SIGNALS:
     /// Its height has changed.
     void grown();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QWidget *makeField(const Theme &theme);
     QBoxLayout *makeNumbers(const Theme &theme);
     QBoxLayout *makeButtons(Extent extent, const Theme &theme);
     NumberBox *makeNumber(const Theme &theme, const char *name, const QString &label,
                           QBoxLayout &row);
+    void followNumbers();
     void generate();
     void copy(const QString &password);
     void place();
@@ -92,5 +96,6 @@ private:
     QPushButton *m_recentButton = nullptr;
     QPushButton *m_place = nullptr;
     QWidget *m_recent = nullptr;
+    int m_madeSpecials = 0;
     bool m_started = false;
 };
