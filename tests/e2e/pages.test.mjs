@@ -19,6 +19,7 @@ const styleOf = ([left, top]) => `position:fixed;left:${left}px;top:${top}px;wid
 const iconIn = ([left, top]) => [left + SIZE.width - 18, top + SIZE.height / 2];
 const USER_FIELD = `<input name=user autocomplete=username required style="${styleOf(PLACE.user)}">`;
 const PW_FIELD = `<input name=pw type=password required style="${styleOf(PLACE.pw)}">`;
+const newField = (name, top) => `<input name=${name} type=password autocomplete=new-password required style="${styleOf([60, top])}">`;
 const FIELDS = `${USER_FIELD}${PW_FIELD}<button style="position:fixed;left:60px;top:230px">Log in</button>`;
 const FORM = `<form method=post action=/done>${FIELDS}</form>`;
 
@@ -68,6 +69,10 @@ const PAGES = {
     <script>setTimeout(() => document.querySelector('dialog').showModal(), 300)</script>`,
   '/steps': `<form method=post action=/second>${USER_FIELD}<button style="position:fixed;left:60px;top:230px">Next</button></form>`,
   '/second': `<form method=post action=/done>${PW_FIELD}<button style="position:fixed;left:60px;top:230px">Log in</button></form>`,
+  '/signup': `<form method=post action=/done>${USER_FIELD}${newField('chosen', 160)}${newField('again', 300)}
+    <button style="position:fixed;left:60px;top:230px">Create account</button></form>`,
+  '/change': `<form method=post action=/done>${PW_FIELD}${newField('chosen', 300)}${newField('again', 360)}
+    <button style="position:fixed;left:60px;top:230px">Change password</button></form>`,
   '/covered': `${FORM}<div style="position:fixed;inset:0;background:white">Win a prize!</div>`,
   '/ghost': `${FORM}<div style="position:fixed;inset:0;background:white;pointer-events:none;z-index:2147483647">Win a prize!</div>`,
   '/faint': `<div style="opacity:0.01">${FORM}</div>`,
@@ -143,6 +148,34 @@ stage.inEachBrowser((kind) => {
     assert.deepEqual(await send(), { path: '/second', fields: { user: USER } });
     assert.deepEqual(await send(), { path: '/done', fields: { pw: SECRET } });
   });
+
+  /** Presses the keys once the browser's window has the keyboard, which quick access gives back. */
+  async function pressInPage(keys) {
+    await stage.program.until(async () => !/Glaceron|Quick access/.test(await stage.desktop.activeTitle()), 'the browser to have the keys');
+    await stage.desktop.press(keys);
+  }
+
+  test('the key fills at once where one login belongs to the page', limit, async () => {
+    await open('/plain');
+    await pressInPage('alt+shift+l');
+    assert.deepEqual(await send(), { path: '/done', fields: FILLED });
+    assert.equal(await isQuickOpen(), false);
+  });
+
+  for (const [path, other] of [['/signup', 'user'], ['/change', 'pw']]) {
+    test(`a generated password goes into both new fields and no other: ${path}`, limit, async () => {
+      const values = () => page.$$eval('input', (inputs) => Object.fromEntries(inputs.map(({ name, value }) => [name, value])));
+      await open(path);
+      await pressInPage('alt+shift+g');
+      await quickHasKeys();
+      await stage.desktop.press('Return');
+      await stage.program.until(async () => (await values()).again !== '', 'the password');
+      const { again } = await values();
+      assert.equal(again.length, 8);
+      assert.deepEqual(await values(), { [other]: '', chosen: again, again });
+      await stage.program.until(async () => !(await isQuickOpen()), 'quick access to close');
+    });
+  }
 
   test('on a locked safe quick access asks for the password and goes on', limit, async () => {
     await stage.user.lock();
