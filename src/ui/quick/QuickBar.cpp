@@ -20,7 +20,6 @@ QuickBar::QuickBar(const Theme &theme, QWidget *parent)
 {
     setObjectName(QStringLiteral("footer"));
     setAttribute(Qt::WA_StyledBackground);
-    setFixedHeight(Style::scaled(barHeight));
     const QString names[count] = {tr("Logins"), tr("Cards"), tr("Identities"), tr("Generate")};
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(Style::spacing, 3, Style::spacing, 2);
@@ -41,7 +40,10 @@ QuickBar::QuickBar(const Theme &theme, QWidget *parent)
         connect(button, &QToolButton::clicked, this,
                 [this, i] { Q_EMIT chosen(static_cast<Section>(i)); });
         m_buttons.append(button);
+        button->ensurePolished();
     }
+    // The smallest texts are not scaled down as far as the bar.
+    setFixedHeight(qMax(Style::scaled(barHeight), row->sizeHint().height()));
     setSection(Section::Logins);
 }
 

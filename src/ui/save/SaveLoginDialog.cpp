@@ -93,20 +93,19 @@ void SaveLoginDialog::makeUnlocking(const Theme &theme)
 
 void SaveLoginDialog::layOut()
 {
-    FramedDialog::setFixedWidth(Style::scaled(usualWidth));
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(Style::spacing);
-    buttons->addWidget(m_never);
-    buttons->addStretch();
-    buttons->addWidget(m_notNow);
-    buttons->addWidget(m_save);
+    m_buttons = new QHBoxLayout;
+    m_buttons->setSpacing(Style::spacing);
+    m_buttons->addWidget(m_never);
+    m_buttons->addStretch();
+    m_buttons->addWidget(m_notNow);
+    m_buttons->addWidget(m_save);
     body().setSpacing(Style::gap);
     body().addWidget(m_text);
     body().addWidget(m_master);
     body().addWidget(m_form);
     body().addWidget(m_timeLeft);
     body().addWidget(m_message);
-    body().addLayout(buttons);
+    body().addLayout(m_buttons);
     setTabOrder(m_master, m_form);
     setTabOrder(m_form, m_never);
     setTabOrder(m_never, m_notNow);
@@ -120,7 +119,7 @@ void SaveLoginDialog::connectAll()
     connect(m_never, &QPushButton::clicked, this, &SaveLoginDialog::exclude);
     connect(m_form, &SaveLoginForm::chosen, this, [this] {
         showHeadline();
-        fit();
+        showButtons();
     });
     connect(&m_seconds, &QTimer::timeout, this, &SaveLoginDialog::showTimeLeft);
     connect(m_unlock.get(), &UnlockLogic::changed, this, &SaveLoginDialog::showUnlocking);
@@ -200,6 +199,7 @@ void SaveLoginDialog::showButtons()
         m_save->setText(m_unlock->isOpenElsewhere() ? tr("Unlock anyway") : tr("Unlock"));
     else
         m_save->setText(m_form->isUpdate() ? tr("Update") : tr("Save"));
+    fit();
 }
 
 void SaveLoginDialog::showUnlocking()
@@ -237,13 +237,20 @@ void SaveLoginDialog::tell(const QString &fault)
     fit();
 }
 
-/// Takes the height that the content needs; the top stays.
+/// Takes the height that the content needs; the top stays. The width grows where the words on the
+/// buttons are long, and never shrinks again.
 void SaveLoginDialog::fit()
 {
+    for (QPushButton *button : {m_never, m_notNow, m_save})
+        button->ensurePolished();
+    const QMargins margins = body().contentsMargins();
+    const int needed = m_buttons->sizeHint().width() + margins.left() + margins.right();
+    m_width = qMax(m_width, qMax(Style::scaled(usualWidth), needed));
+    FramedDialog::setFixedWidth(m_width);
     // Wrapped labels tell their height once they have their width.
     for (QLabel *label : {m_text, m_timeLeft, static_cast<QLabel *>(m_message)}) {
         if (!label->isHidden())
-            keepTextHeight(*label, Style::scaled(usualWidth) - 2 * Style::margin);
+            keepTextHeight(*label, m_width - margins.left() - margins.right());
     }
     layout()->activate();
     QDialog::resize(width(), minimumSizeHint().height());

@@ -12,6 +12,7 @@ class ElidedLabel;
 class GPMAppCore;
 class MessageLabel;
 class PasswordField;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class SaveLoginForm;
@@ -66,6 +67,8 @@ private:
     QPushButton *m_never;
     QPushButton *m_notNow;
     QPushButton *m_save;
+    QHBoxLayout *m_buttons;
+    int m_width = 0;
     QTimer m_seconds;
     std::unique_ptr<UnlockLogic> m_unlock;
 };
