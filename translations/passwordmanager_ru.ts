@@ -36,7 +36,7 @@ You can change your mind in the settings, on the page “Browser”.</source>
     </message>
     <message>
         <source>Each Firefox profile gives the extension an id of its own, so you say which ones may connect.</source>
-        <translation>Каждый профиль Firefox даёт расширению свой ID, поэтому Вы сами решаете, каким можно подключаться.</translation>
+        <translation>Каждый профиль Firefox даёт расширению свой идентификатор, поэтому Вы сами решаете, каким можно подключаться.</translation>
     </message>
     <message>
         <source>Extensions in Firefox</source>
@@ -3942,7 +3942,7 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     </message>
     <message>
         <source>Identities</source>
-        <translation>Личные данные</translation>
+        <translation>Данные</translation>
     </message>
     <message>
         <source>Generate</source>

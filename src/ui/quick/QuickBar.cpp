@@ -9,6 +9,8 @@
 namespace {
 
 const int barHeight = 48;
+/// The smallest texts are not scaled down as far as the bar would be.
+const int leastHeight = 45;
 const int barIcon = 18;
 const char *const icons[QuickBar::count] = {"key", "credit-card", "id", "wand"};
 
@@ -20,6 +22,7 @@ QuickBar::QuickBar(const Theme &theme, QWidget *parent)
 {
     setObjectName(QStringLiteral("footer"));
     setAttribute(Qt::WA_StyledBackground);
+    setFixedHeight(qMax(Style::scaled(barHeight), leastHeight));
     const QString names[count] = {tr("Logins"), tr("Cards"), tr("Identities"), tr("Generate")};
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(Style::spacing, 3, Style::spacing, 2);
@@ -40,10 +43,7 @@ QuickBar::QuickBar(const Theme &theme, QWidget *parent)
         connect(button, &QToolButton::clicked, this,
                 [this, i] { Q_EMIT chosen(static_cast<Section>(i)); });
         m_buttons.append(button);
-        button->ensurePolished();
     }
-    // The smallest texts are not scaled down as far as the bar.
-    setFixedHeight(qMax(Style::scaled(barHeight), row->sizeHint().height()));
     setSection(Section::Logins);
 }
 
