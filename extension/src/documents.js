@@ -1,4 +1,4 @@
-import { describeFrame } from './frame.js';
+import { announceFrame, describeFrame } from './frame.js';
 import { routedOpid } from './route.js';
 import { belongsTo } from './site.js';
 
@@ -21,6 +21,7 @@ async function callPage(name, argument) {
  * belong to the site of the tab and none of them gives up the tab's encryption.
  */
 export function createDocuments({ api, timers }) {
+  let lastQuestion = 0;
   const reported = new Map(); // tab → the documents of its latest description
 
   async function run(target, injection) {
@@ -46,11 +47,25 @@ export function createDocuments({ api, timers }) {
   const targetOf = ({ tabId, frameId, documentId }) =>
     documentId ? { tabId, documentIds: [documentId] } : { tabId, frameIds: [frameId] };
 
+  // What all frames of a tab say of themselves. The browser keeps its answer back until the last has spoken; of those that
+  // let it wait, the others have told by themselves.
+  async function askFrames(tabId) {
+    const id = (lastQuestion += 1);
+    const told = [];
+    const hear = (message, { tab, frameId, documentId }) => {
+      if (message?.frame?.id === id && tab?.id === tabId) told.push({ frameId, documentId, result: message.frame });
+    };
+    api.runtime.onMessage.addListener(hear);
+    const all = await within(FRAME_LIMIT, run({ tabId, allFrames: true }, { func: announceFrame, args: [id] }));
+    api.runtime.onMessage.removeListener(hear);
+    return all ?? told;
+  }
+
   /** The tab's top document and the frames of its site, the top one first; empty when the page is out of reach. */
   async function list(tabId) {
     const [top] = await run({ tabId, frameIds: [TOP] }, { func: describeFrame });
     if (!top?.result) return [];
-    const all = (await within(FRAME_LIMIT, run({ tabId, allFrames: true }, { func: describeFrame }))) ?? [];
+    const all = await askFrames(tabId);
     const { origin: site } = top.result;
     return [top, ...all.filter(({ frameId }) => frameId !== TOP)]
       .filter(({ result }) => result && belongsTo(site, [result.origin, ...result.around]))

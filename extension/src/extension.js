@@ -2,6 +2,7 @@ import { listenToLogins } from './captures.js';
 import { createDocuments } from './documents.js';
 import { createFills } from './fills.js';
 import { parseFrame } from './frames.js';
+import { injectIntoOpenPages } from './injection.js';
 import { createLink } from './link.js';
 import { createLogins } from './logins.js';
 import { listenToUser } from './menu.js';
@@ -10,13 +11,14 @@ import { listenToPages } from './pages.js';
 import { createRequests } from './requests.js';
 import { createStatus } from './status.js';
 import { createTabs } from './tabs.js';
-import { showState } from './toolbar.js';
+import { createToolbar } from './toolbar.js';
 
 const ALARM = 'link';
 
 /** Puts the parts together and connects them to the browser. */
 export function startExtension({ api, WebSocket, timers, now }) {
   const bundleId = api.runtime.getURL('').startsWith('moz-') ? 'glaceron.firefox' : 'glaceron.chrome';
+  const toolbar = createToolbar({ api });
   const link = createLink({
     WebSocket,
     timers,
@@ -25,7 +27,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
     parseFrame,
     onFrame: ({ action, payload }) => actions[action](payload),
     onState: (state) => {
-      showState(api, state);
+      toolbar.show(state);
       status.linked(state);
       opening.deliver();
     },
@@ -42,7 +44,10 @@ export function startExtension({ api, WebSocket, timers, now }) {
     getDocumentData: requests.getDocumentData,
     findLoginPage: requests.findLoginPage,
     fillForm: fills.fillForm,
-    state: status.told,
+    state(payload) {
+      if (payload.refused) toolbar.show(payload.refused);
+      status.told(payload);
+    },
   };
 
   api.tabs.onUpdated.addListener((tabId, { status }) => {
@@ -56,6 +61,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
     port.onMessage.addListener(async ({ url, open }) => (open ? opening.open(await tabs.active()) : status.watch(port, url)));
     port.onDisconnect.addListener(() => status.forget(port));
   });
+  injectIntoOpenPages({ api });
   listenToPages({ api, open: opening.open });
   listenToUser({ api, open: opening.open });
   listenToLogins({ api, documents, timers, now, send: link.send, makeId: () => crypto.randomUUID() });

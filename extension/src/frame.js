@@ -7,3 +7,11 @@ export function describeFrame() {
   const around = location.ancestorOrigins ? [...location.ancestorOrigins] : self === top ? [] : ['null'];
   return { origin: self.origin, around };
 }
+
+/** As describeFrame; says it to the background script at once, too, since the browser answers for all frames together. */
+export function announceFrame(id) {
+  const around = location.ancestorOrigins ? [...location.ancestorOrigins] : self === top ? [] : ['null'];
+  const place = { origin: self.origin, around };
+  (globalThis.browser ?? globalThis.chrome).runtime.sendMessage({ frame: { id, ...place } }).catch(() => {});
+  return place;
+}

@@ -34,6 +34,8 @@ export function createStatus({ send }) {
 
     /** The program said how it is. What it says unasked may be of another page than the one that is shown. */
     told(payload) {
+      // An extension that is too old stays so, whatever else it is told.
+      if (told?.refused) return;
       told = payload;
       for (const [port, url] of readers) {
         if (payload.url === url || payload.locked || payload.refused) show(port);

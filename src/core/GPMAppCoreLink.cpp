@@ -94,10 +94,13 @@ void GPMAppCore::fillLoginPage(const QString &callerId, const QJsonObject &data)
     m_link->flow().fillLoginPage(callerId, data);
 }
 
-void GPMAppCore::onHello(const QString &, const QString &version, const QString &bundleId)
+void GPMAppCore::onHello(const QString &callerId, const QString &version, const QString &bundleId)
 {
-    if (const std::optional<QString> warning = pluginVersionWarning(version, bundleId))
-        Q_EMIT message(tr("Warning"), *warning);
+    const std::optional<QString> warning = pluginVersionWarning(version, bundleId);
+    if (!warning)
+        return;
+    m_link->server().sendState(callerId, {{QStringLiteral("refused"), QStringLiteral("version")}});
+    Q_EMIT message(tr("Warning"), *warning);
 }
 
 void GPMAppCore::saveLogin(const QString &callerId, const QJsonObject &data)

@@ -29,7 +29,8 @@ export async function startDesktop() {
     /** Presses keys, one combination after the other, in the window that has the keyboard. */
     press: (...keys) => run('xdotool', ['key', '--clearmodifiers', '--delay', '30', ...keys], { env }),
     type: (text) => run('xdotool', ['type', '--clearmodifiers', '--delay', '15', '--', text], { env }),
-    click: (x, y, button = 1) => run('xdotool', ['mousemove', '--sync', x, y, 'click', button], { env }),
+    // Not --sync: where the pointer stands there already, that waits for it to move.
+    click: (x, y, button = 1) => run('xdotool', ['mousemove', x, y, 'click', button], { env }),
     /** Waits for a visible window with the title and gives it the keyboard. */
     async activate(title) {
       // It fails when a window goes while it walks over them, as the splash does.
@@ -42,6 +43,12 @@ export async function startDesktop() {
     },
     /** The title of the window that has the keyboard. */
     activeTitle: async () => (await run('xdotool', ['getactivewindow', 'getwindowname'], { env })).stdout.trim(),
+    /** Where a window is on the screen, without its frame: {left, top, width, height}. */
+    async placeOf(id) {
+      const { stdout } = await run('xdotool', ['getwindowgeometry', '--shell', id], { env });
+      const [left, top, width, height] = ['X', 'Y', 'WIDTH', 'HEIGHT'].map((name) => Number(new RegExp(`^${name}=(.*)$`, 'm').exec(stdout)[1]));
+      return { left, top, width, height };
+    },
     async isVisible(title) {
       const found = run('xdotool', ['search', '--onlyvisible', '--name', title], { env });
       return found.then(() => true, () => false);

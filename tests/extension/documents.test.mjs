@@ -9,7 +9,7 @@ const origin = 'https://shop.example';
 async function describe(elements) {
   const report = { title: '', url: origin, language: '', forms: [{ formUid: 'f', fields: elements }], elements: [], origin, token: 't' };
   const executeScript = async ({ args }) => [{ frameId: 0, documentId: 'd', result: args ? report : { origin, around: [] } }];
-  const { docinfo } = await createDocuments({ api: { scripting: { executeScript } }, timers: globalThis }).describe(1);
+  const { docinfo } = await createDocuments({ api: { scripting: { executeScript }, runtime: { onMessage: { addListener() {}, removeListener() {} } } }, timers: globalThis }).describe(1);
   assert.ok(Buffer.byteLength(JSON.stringify(docinfo)) < LIMIT);
   return docinfo.forms.flatMap(({ fields }) => fields);
 }

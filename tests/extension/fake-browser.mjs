@@ -35,9 +35,12 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
   const view = ({ id, windowId, url, status }) => ({ id, windowId, url, status });
   const htmlOf = (page) => (typeof page === 'string' ? page : page.html);
 
-  function open(url, frameId, around) {
+  function open(tab, url, frameId, around) {
     const window = openPage(htmlOf(web[url]), { url, clock, ancestors: around.map((address) => new URL(address).origin) });
-    return { frameId, documentId: `D${(lastDocument += 1)}`, window, busy: web[url].busy };
+    const document = { frameId, documentId: `D${(lastDocument += 1)}`, window, busy: web[url].busy };
+    const sender = { id: 'own', tab: view(tab), frameId, ...(documentIds && { documentId: document.documentId }) };
+    window.chrome = { runtime: { sendMessage: async (message) => onMessage.fire(structuredClone(message), sender, () => {}) } };
+    return document;
   }
 
   function arrive(tab) {
@@ -46,7 +49,7 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
     tab.url = url;
     onUpdated.fire(tab.id, { status: 'loading' });
     const page = web[url];
-    tab.documents = page === undefined ? [] : [open(url, 0, []), ...(page.frames ?? []).map(([address, ...around], index) => open(address, index + 1, around))];
+    tab.documents = page === undefined ? [] : [open(tab, url, 0, []), ...(page.frames ?? []).map(([address, ...around], index) => open(tab, address, index + 1, around))];
     if (page?.endless) return idle();
     tab.status = 'complete';
     onUpdated.fire(tab.id, { status: 'complete' });
@@ -99,7 +102,7 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
     },
     scripting: { executeScript },
     tabs: {
-      onUpdated, onRemoved, get: getTab,
+      onUpdated, onRemoved, get: getTab, getZoom: async () => 2,
       query: async () => [...tabs.values()].filter(({ active }) => active).map(view),
       create: async ({ url }) => addTab(url),
       update: async (id, { url }) => navigate(tabs.get(id), url),
@@ -118,6 +121,7 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
     i18n: { getMessage: (name) => name },
     alarms: { onAlarm: createEvent(), create: () => {} },
     commands: { onCommand },
+    permissions: { contains: async () => true, onAdded: createEvent(), onRemoved: createEvent() },
     contextMenus: { onClicked: createEvent(), create: () => {}, removeAll: async () => {} },
   });
 

@@ -1,5 +1,6 @@
 import { describeFrame } from '../frame.js';
 import { watchLogins } from './capture.js';
+import { removeOrphans } from './icon.js';
 import { createIcons } from './icons.js';
 import { kindOf } from './kinds.js';
 import { watch } from './watch.js';
@@ -7,18 +8,21 @@ import { watch } from './watch.js';
 // Runs in every page by itself, and so does next to nothing before there is a field to fill.
 const api = globalThis.browser ?? globalThis.chrome;
 const STARTED = Symbol.for('glaceron.content');
+const RENEWED = 'glaceron-renewed';
 const MOVES = ['scroll', 'resize', 'focusin', 'transitionend', 'animationend', 'toggle'];
 
-// Coordinates on the screen: only a real click tells where the window's begin.
-function onScreen({ left, top, width, height }, { screenX, screenY, clientX, clientY }) {
-  const round = Math.round;
-  return { left: round(left + screenX - clientX), top: round(top + screenY - clientY), width: round(width), height: round(height) };
+// Where on the screen the click was and, in the page's own measure, where around it the field is: only a real click tells
+// of both, and only the background script knows how large the page is shown.
+function fromClick({ left, top, width, height }, { screenX, screenY, clientX, clientY }) {
+  const { scale } = visualViewport;
+  const [x, y, w, h] = [left - clientX, top - clientY, width, height].map((length) => length * scale);
+  return { field: { left: x, top: y, width: w, height: h }, click: { left: screenX, top: screenY } };
 }
 
 function start() {
   const icons = createIcons({
     title: api.i18n.getMessage('iconTitle'),
-    open: (kind, box, place) => say({ open: { kind, field: onScreen(box, place), around: describeFrame().around } }),
+    open: (kind, box, place) => say({ open: { kind, ...fromClick(box, place), around: describeFrame().around } }),
   });
   let isPlanned = false;
   let belongs = self === top ? true : undefined; // whether the frame is one of the page's site; not known yet
@@ -28,7 +32,7 @@ function start() {
     try {
       return await api.runtime.sendMessage(message);
     } catch {
-      if (!api.runtime?.id) stop();
+      stopIfLeft();
       return undefined;
     }
   }
@@ -57,15 +61,24 @@ function start() {
   const logins = watchLogins({ connect: () => api.runtime.connect({ name: 'login' }) });
   for (const type of MOVES) addEventListener(type, refreshSoon, { capture: true, passive: true });
 
+  // A new version has come, or the page says so: only who is left behind goes.
+  function stopIfLeft() {
+    if (!api.runtime?.id) stop();
+  }
+  addEventListener(RENEWED, stopIfLeft);
+
   function stop() {
     watcher.stop();
     logins.stop();
     icons.stop();
     for (const type of MOVES) removeEventListener(type, refreshSoon, { capture: true });
+    removeEventListener(RENEWED, stopIfLeft);
   }
 }
 
 if (!globalThis[STARTED] && document instanceof HTMLDocument) {
   globalThis[STARTED] = true;
+  dispatchEvent(new Event(RENEWED));
+  removeOrphans(document);
   start();
 }

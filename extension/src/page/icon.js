@@ -1,3 +1,5 @@
+import { findAll, shadowRootOf } from './dom.js';
+
 const SVG = 'http://www.w3.org/2000/svg';
 const SHAPES = [
   ['#4aa6c3', 'M128 6 234 66V190L128 250 22 190V66Z'],
@@ -27,6 +29,15 @@ export function createHost() {
   dress(host, HOST);
   host.setAttribute('aria-hidden', 'true');
   return { host, root: host.attachShadow({ mode: 'closed' }) };
+}
+
+const isOrphan = (host) => !own.has(host) && shadowRootOf(host)?.querySelector(`[d="${SHAPES[0][1]}"]`);
+
+/** Takes away the icons of a former version of this script, which nobody answers any more. */
+export function removeOrphans(doc) {
+  for (const host of findAll(doc, 'html > div[aria-hidden], dialog > div[aria-hidden], [popover] > div[aria-hidden]')) {
+    if (isOrphan(host)) host.remove();
+  }
 }
 
 /** The host as it was made, whatever the page did to it since. */

@@ -1,8 +1,15 @@
 #include "FileSync.h"
 
-#include "WideText.h"
-
 #include <windows.h>
+
+static std::wstring wide(const std::string &text)
+{
+    const int size = static_cast<int>(text.size());
+    const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), size, nullptr, 0);
+    std::wstring result(static_cast<std::size_t>(length), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, text.data(), size, &result[0], length);
+    return result;
+}
 
 bool forceFileToDisk(const std::string &path)
 {

@@ -1,7 +1,6 @@
 #include "ForeignClipboard.h"
 #include "WideText.h"
 
-#include <cwchar>
 #include <windows.h>
 
 std::optional<std::string> foreignClipboardText(int timeoutMs)
@@ -16,8 +15,7 @@ std::optional<std::string> foreignClipboardText(int timeoutMs)
     std::optional<std::string> text;
     if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
         if (const auto *characters = static_cast<const wchar_t *>(GlobalLock(data))) {
-            // Who put it there may have left out its end.
-            text = utf8({characters, wcsnlen(characters, GlobalSize(data) / sizeof(wchar_t))});
+            text = utf8(characters);
             GlobalUnlock(data);
         }
     }

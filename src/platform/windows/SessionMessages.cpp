@@ -6,9 +6,6 @@
 
 namespace {
 
-const UINT_PTR retryTimer = 1;
-const UINT retryMs = 5000;
-
 class SessionMessageWindow : public SessionMessages
 {
 public:
@@ -16,7 +13,8 @@ public:
         : m_handler(handler)
         , m_window([this](UINT message, WPARAM word, LPARAM) { onMessage(message, word); })
     {
-        registerWindow();
+        if (m_window.handle())
+            WTSRegisterSessionNotification(m_window.handle(), NOTIFY_FOR_THIS_SESSION);
     }
     ~SessionMessageWindow() override
     {
@@ -25,22 +23,8 @@ public:
     }
 
 private:
-    /// Refused while the service of the sessions still starts, as this program may with the
-    /// session.
-    void registerWindow()
+    void onMessage(UINT message, WPARAM word) const
     {
-        if (!m_window.handle())
-            return;
-        if (WTSRegisterSessionNotification(m_window.handle(), NOTIFY_FOR_THIS_SESSION))
-            KillTimer(m_window.handle(), retryTimer);
-        else
-            SetTimer(m_window.handle(), retryTimer, retryMs, nullptr);
-    }
-
-    void onMessage(UINT message, WPARAM word)
-    {
-        if (message == WM_TIMER && word == retryTimer)
-            return registerWindow();
         struct Row
         {
             UINT message;
