@@ -14,6 +14,7 @@ display_packages=(xvfb)
 extension_packages=(zip)
 # Servers of their own for the C++ tests, and the tools that their archives are held against.
 test_packages=(xvfb dbus-daemon zip unzip p7zip-full python3)
+windows_packages=(g++-mingw-w64-x86-64-posix wine64 xvfb)
 browser_packages=(chromium firefox-esr xvfb openbox trayer xdotool maim)
 
 # install_packages NAME...: installs those that are missing, and says so.
@@ -63,4 +64,14 @@ start_display() {
   DISPLAY=:$(cat "$pipe")
   rm -f "$pipe"
   export DISPLAY
+}
+
+# start_wine: a folder of its own for Windows programs, and a display, as long as this script lives.
+wine=/usr/lib/wine/wine64
+start_wine() {
+  export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
+  start_display
+  WINEPREFIX=$(mktemp -d)
+  trap '/usr/lib/wine/wineserver64 -k; kill $display_pid 2>/dev/null; rm -rf "$WINEPREFIX"' EXIT
+  timeout 120 "$wine" wineboot --init >/dev/null 2>&1
 }

@@ -7,6 +7,7 @@
 #include "PMFieldTypes.h"
 #include "PMUiProvider.h"
 #include "Platform.h"
+#include "SecretMemory.h"
 #include "SplashScreen.h"
 #include "StartArguments.h"
 #include "style/Style.h"
@@ -82,6 +83,7 @@ void prepareFonts()
 
 int main(int argc, char *argv[])
 {
+    keepOutOfCrashDumps();
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
     Application application(argc, argv);
     if (application.isRunning())

@@ -10,5 +10,9 @@ void *allocateSecretMemory(std::size_t size);
 /// Wipes and releases what allocateSecretMemory() gave; null is ignored.
 void freeSecretMemory(void *memory, std::size_t size);
 
+/// Keeps what this program has in memory out of the dumps that the system writes when it crashes, as
+/// far as the system lets it. Called once, at the start.
+void keepOutOfCrashDumps();
+
 /// Overwrites memory with zeros in a way that the compiler does not leave out.
 void wipeMemory(void *memory, std::size_t size);

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <new>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 static std::size_t wholePages(std::size_t size)
@@ -30,6 +31,15 @@ void freeSecretMemory(void *memory, std::size_t size)
         return;
     wipeMemory(memory, size);
     munmap(memory, wholePages(size));
+}
+
+void keepOutOfCrashDumps()
+{
+    rlimit limit = {};
+    if (getrlimit(RLIMIT_CORE, &limit) != 0)
+        return;
+    limit.rlim_cur = 0;
+    (void)setrlimit(RLIMIT_CORE, &limit);
 }
 
 void wipeMemory(void *memory, std::size_t size)

@@ -72,6 +72,11 @@ bool WindowSystem::answerFrameMessage(void *, std::intptr_t *)
     return false;
 }
 
+bool WindowSystem::hideFromCapture(std::uintptr_t, bool)
+{
+    return false;
+}
+
 bool WindowSystem::wantsStillness()
 {
     return false;

@@ -1,15 +1,8 @@
 #include "FileSync.h"
 
-#include <windows.h>
+#include "WideText.h"
 
-static std::wstring wide(const std::string &text)
-{
-    const int size = static_cast<int>(text.size());
-    const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), size, nullptr, 0);
-    std::wstring result(static_cast<std::size_t>(length), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, text.data(), size, &result[0], length);
-    return result;
-}
+#include <windows.h>
 
 bool forceFileToDisk(const std::string &path)
 {

@@ -1,6 +1,7 @@
 #include "ForeignClipboard.h"
 #include "WideText.h"
 
+#include <cwchar>
 #include <windows.h>
 
 std::optional<std::string> foreignClipboardText(int timeoutMs)
@@ -15,7 +16,8 @@ std::optional<std::string> foreignClipboardText(int timeoutMs)
     std::optional<std::string> text;
     if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
         if (const auto *characters = static_cast<const wchar_t *>(GlobalLock(data))) {
-            text = utf8(characters);
+            // Who put it there may have left out its end.
+            text = utf8({characters, wcsnlen(characters, GlobalSize(data) / sizeof(wchar_t))});
             GlobalUnlock(data);
         }
     }

@@ -1,5 +1,7 @@
 #include "Platform.h"
+#include "SystemCall.h"
 #include "WideText.h"
+#include "WindowsVersion.h"
 
 #include <windows.h>
 
@@ -37,33 +39,13 @@ public:
     /// manifest for newer systems.
     int windowsVersionCode() override
     {
-        using RtlGetVersionCall = LONG(WINAPI *)(OSVERSIONINFOW *);
-        const HMODULE kernel = GetModuleHandleW(L"ntdll.dll");
-        if (!kernel)
-            return 0;
-        const auto call = reinterpret_cast<RtlGetVersionCall>(
-            reinterpret_cast<void *>(GetProcAddress(kernel, "RtlGetVersion")));
+        const auto call =
+            systemCall<LONG(WINAPI *)(OSVERSIONINFOW *)>(L"ntdll.dll", "RtlGetVersion");
         OSVERSIONINFOW info = {};
         info.dwOSVersionInfoSize = sizeof(info);
         if (!call || call(&info) != 0)
-            return 0;
-
-        struct Row
-        {
-            DWORD major;
-            DWORD minor;
-            int code;
-        };
-        static const Row rows[] = {{5, 0, 0x20}, {5, 1, 0x30}, {5, 2, 0x40}, {6, 0, 0x80},
-                                   {6, 1, 0x90}, {6, 2, 0xA0}, {6, 3, 0xB0}};
-        for (const Row &row : rows) {
-            if (info.dwMajorVersion == row.major && info.dwMinorVersion == row.minor)
-                return row.code;
-        }
-        const DWORD firstBuildOfEleven = 22000;
-        if (info.dwMajorVersion == 10)
-            return info.dwBuildNumber < firstBuildOfEleven ? 0xC0 : 0xD0;
-        return info.dwMajorVersion > 10 ? 0xD0 : 0x10;
+            return 0x10;
+        return ::windowsVersionCode(info.dwMajorVersion, info.dwMinorVersion, info.dwBuildNumber);
     }
 
     /// Not asked: a connection leads to its owner only by way of a process that may have ended.

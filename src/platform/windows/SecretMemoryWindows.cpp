@@ -1,7 +1,31 @@
 #include "SecretMemory.h"
 
+#include "SystemCall.h"
+
 #include <new>
 #include <windows.h>
+
+namespace {
+
+// What is asked for beyond the need, as the quota is small and each secret has a page of its own.
+const SIZE_T spareBytes = 64 * 4096;
+
+void lockPages(void *memory, SIZE_T size)
+{
+    if (VirtualLock(memory, size) || GetLastError() != ERROR_WORKING_SET_QUOTA)
+        return;
+    const HANDLE process = GetCurrentProcess();
+    SIZE_T smallest = 0;
+    SIZE_T largest = 0;
+    if (!GetProcessWorkingSetSize(process, &smallest, &largest))
+        return;
+    const SIZE_T more = size + spareBytes;
+    // May be refused all the same; the memory serves without.
+    if (SetProcessWorkingSetSize(process, smallest + more, largest + more))
+        VirtualLock(memory, size);
+}
+
+} // namespace
 
 void *allocateSecretMemory(std::size_t size)
 {
@@ -9,8 +33,12 @@ void *allocateSecretMemory(std::size_t size)
     void *memory = VirtualAlloc(nullptr, length, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     if (!memory)
         throw std::bad_alloc();
-    // May be refused when the working set is small; the memory serves all the same.
-    VirtualLock(memory, length);
+    lockPages(memory, length);
+    // Since Windows 10.
+    static const auto exclude = systemCall<HRESULT(WINAPI *)(const void *, DWORD)>(
+        L"kernel32.dll", "WerRegisterExcludedMemoryBlock");
+    if (exclude)
+        exclude(memory, static_cast<DWORD>(length));
     return memory;
 }
 
@@ -19,7 +47,20 @@ void freeSecretMemory(void *memory, std::size_t size)
     if (!memory)
         return;
     wipeMemory(memory, size);
+    static const auto forget = systemCall<HRESULT(WINAPI *)(const void *)>(
+        L"kernel32.dll", "WerUnregisterExcludedMemoryBlock");
+    if (forget)
+        forget(memory);
     VirtualFree(memory, 0, MEM_RELEASE);
+}
+
+void keepOutOfCrashDumps()
+{
+    // MinGW's header of error reporting does not compile.
+    const DWORD withoutHeap = 1;
+    const auto setFlags = systemCall<HRESULT(WINAPI *)(DWORD)>(L"kernel32.dll", "WerSetFlags");
+    if (setFlags)
+        setFlags(withoutHeap);
 }
 
 void wipeMemory(void *memory, std::size_t size)

@@ -6,6 +6,9 @@
 
 namespace {
 
+const UINT_PTR retryTimer = 1;
+const UINT retryMs = 5000;
+
 class SessionMessageWindow : public SessionMessages
 {
 public:
@@ -13,8 +16,7 @@ public:
         : m_handler(handler)
         , m_window([this](UINT message, WPARAM word, LPARAM) { onMessage(message, word); })
     {
-        if (m_window.handle())
-            WTSRegisterSessionNotification(m_window.handle(), NOTIFY_FOR_THIS_SESSION);
+        registerWindow();
     }
     ~SessionMessageWindow() override
     {
@@ -23,8 +25,22 @@ public:
     }
 
 private:
-    void onMessage(UINT message, WPARAM word) const
+    /// Refused while the service of the sessions still starts, as this program may with the
+    /// session.
+    void registerWindow()
     {
+        if (!m_window.handle())
+            return;
+        if (WTSRegisterSessionNotification(m_window.handle(), NOTIFY_FOR_THIS_SESSION))
+            KillTimer(m_window.handle(), retryTimer);
+        else
+            SetTimer(m_window.handle(), retryTimer, retryMs, nullptr);
+    }
+
+    void onMessage(UINT message, WPARAM word)
+    {
+        if (message == WM_TIMER && word == retryTimer)
+            return registerWindow();
         struct Row
         {
             UINT message;

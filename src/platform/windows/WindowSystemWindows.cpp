@@ -117,6 +117,17 @@ bool WindowSystem::answerFrameMessage(void *message, std::intptr_t *result)
     }
 }
 
+bool WindowSystem::hideFromCapture(std::uintptr_t window, bool hide)
+{
+    const DWORD leftOut = 0x11; // WDA_EXCLUDEFROMCAPTURE, which is not in all headers
+    const auto handle = reinterpret_cast<HWND>(window);
+    if (!hide)
+        return SetWindowDisplayAffinity(handle, WDA_NONE) != FALSE;
+    // Older systems only know to show it black.
+    return SetWindowDisplayAffinity(handle, leftOut) ||
+           SetWindowDisplayAffinity(handle, WDA_MONITOR);
+}
+
 bool WindowSystem::wantsStillness()
 {
     BOOL animated = TRUE;

@@ -1,0 +1,11 @@
+# What the program is linked with.
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Network WebSockets Svg Concurrent LinguistTools)
+if(NOT WIN32)
+  find_package(Qt5 5.15 QUIET OPTIONAL_COMPONENTS DBus)
+endif()
+find_package(OpenSSL 3 REQUIRED COMPONENTS Crypto)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(Psl REQUIRED IMPORTED_TARGET libpsl)
+pkg_check_modules(QuaZip REQUIRED IMPORTED_TARGET quazip1-qt5)
+find_library(ZXCVBN_LIBRARY zxcvbn REQUIRED)
+find_path(ZXCVBN_INCLUDE zxcvbn.h REQUIRED)
