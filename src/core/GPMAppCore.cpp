@@ -113,6 +113,7 @@ void GPMAppCore::startWatching()
 {
     m_sessionWatch = SessionWatch::create();
     connect(m_sessionWatch.get(), &SessionWatch::happened, &m_guard, &LockGuard::onSessionEvent);
+    connect(m_sessionWatch.get(), &SessionWatch::awake, &m_guard, &LockGuard::checkSleep);
     m_hotkeys = std::make_unique<Hotkeys>(m_settings, SystemHotkeys::create());
     connect(m_hotkeys.get(), &Hotkeys::lockPressed, this, &GPMAppCore::lockCurrentSafe);
     connect(m_hotkeys.get(), &Hotkeys::pluginPressed, this, &GPMAppCore::openQuickAccess);

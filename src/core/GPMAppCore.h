@@ -8,6 +8,7 @@
 #include "ClipboardKeeper.h"
 #include "CloudFolders.h"
 #include "CloudSync.h"
+#include "EventGate.h"
 #include "GPMAppSettings.h"
 #include "Hotkeys.h"
 #include "ItemChanges.h"
@@ -257,6 +258,7 @@ private:
     PrivateFiles m_privateFiles;
     LockGuard m_guard;
     QTimer m_guardTimer;
+    EventGate m_eventGate{[this] { m_guard.checkSleep(); }};
     std::unique_ptr<Hotkeys> m_hotkeys;
     std::unique_ptr<SessionWatch> m_sessionWatch;
     QString m_lockReason;

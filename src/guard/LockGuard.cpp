@@ -53,16 +53,23 @@ int LockGuard::inactivityLimit()
     return usualLimit;
 }
 
+qint64 LockGuard::limitMs()
+{
+    return qint64(inactivityLimit()) * msPerMinute;
+}
+
+void LockGuard::checkSleep()
+{
+    // Asked every time: it measures from the last time.
+    if (wasAsleep(limitMs()) && m_settings.autolockInactive())
+        lock(LockReason::Sleep, "Locked after sleep");
+}
+
 void LockGuard::checkInactivity()
 {
-    const int minutes = inactivityLimit();
-    const qint64 limitMs = qint64(minutes) * msPerMinute;
-    // Asked every time: it measures from the last time.
-    const bool asleep = wasAsleep(limitMs);
+    checkSleep();
     if (!m_settings.autolockInactive())
         return;
-    if (asleep)
-        return lock(LockReason::Sleep, "Locked after sleep");
 
     // In this order: input between the two would seem to come from the future, that is, to be
     // seven weeks old.
@@ -73,7 +80,7 @@ void LockGuard::checkInactivity()
         return;
     }
     const std::uint32_t idleMs = m_activity->tickCount() - *lastInput;
-    if (idleMs > limitMs)
+    if (idleMs > limitMs())
         lock(LockReason::Inactivity, "Locked due user inactivity");
 }
 

@@ -33,6 +33,9 @@ public:
     int inactivityLimit();
 
 public Q_SLOTS:
+    /// Whether the computer slept longer than the limit since anything was checked last. Also asked
+    /// between the seconds: when the computer wakes, and before a window draws or takes input.
+    void checkSleep();
     void checkInactivity();
     void checkScreenSaverRunning();
     void checkBackupJob();
@@ -45,6 +48,7 @@ Q_SIGNALS:
     void lockDue(LockReason reason);
 
 private:
+    qint64 limitMs();
     bool wasAsleep(qint64 limitMs);
     void lock(LockReason reason, const char *logLine);
 

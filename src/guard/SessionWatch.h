@@ -18,4 +18,6 @@ public:
 
 Q_SIGNALS:
     void happened(LockReason reason);
+    /// The computer has slept.
+    void awake();
 };

@@ -187,9 +187,11 @@ void TestBusSessionWatch::sleepWaitsForTheLock()
     QVERIFY(lockedBefore);
     released.setEnabled(false);
 
-    // The next sleep is to wait as well.
+    // The next sleep is to wait as well, and who was not asked in time is locked now.
+    QSignalSpy awake(m_watch.get(), &SessionWatch::awake);
     Q_EMIT m_manager->PrepareForSleep(false);
     QTRY_COMPARE(m_manager->delays, 2);
+    QCOMPARE(awake.count(), 1);
     QCOMPARE(happened.count(), 1);
 }
 

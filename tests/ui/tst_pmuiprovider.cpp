@@ -46,6 +46,7 @@ private Q_SLOTS:
     void failedSaveOnLockIsTold();
     void lockClosesMessagesAboutItems();
     void guardLocksThroughMenuAndDialog();
+    void nothingIsDrawnAfterALongSleep();
     void requestsKeepWhatIsEntered();
     void withoutATrayNothingIsHidden();
     void generatorFillsThePasswordOfAnItem();
@@ -269,6 +270,50 @@ void TestPMUiProvider::guardLocksThroughMenuAndDialog()
     test.core.lockCurrentSafe();
     QCOMPARE(subtitle->text(), QStringLiteral("Unlock your safe to go on"));
     QCOMPARE(locked.count(), 3);
+}
+
+/// Notes whether the safe was open when a widget was painted.
+class PaintWatch : public QObject
+{
+public:
+    PaintWatch(QWidget &widget, GPMAppCore &core)
+        : m_core(core)
+    {
+        widget.installEventFilter(this);
+    }
+
+    int paintedOpen = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && m_core.currentSafe()->isUnlocked())
+            ++paintedOpen;
+        return false;
+    }
+
+private:
+    GPMAppCore &m_core;
+};
+
+void TestPMUiProvider::nothingIsDrawnAfterALongSleep()
+{
+    TestCore test;
+    Ui ui(test);
+    QVERIFY(test.createSafe());
+    test.addLogin(QStringLiteral("Shop"));
+    ui.window().show();
+    auto *list = find<QAbstractItemView>(ui.window(), "itemList");
+    PaintWatch watch(*list->viewport(), test.core);
+    // A lock that has to wait for the disk draws its page over the items first.
+    QTRY_VERIFY(watch.paintedOpen > 0 && !test.core.currentSafe()->isWriting());
+    test.user->tick += 180001; // and the key that woke the computer is input: nobody seems idle
+    watch.paintedOpen = 0;
+    list->viewport()->update();
+    QTRY_VERIFY(!test.core.currentSafe()->isUnlocked());
+    QCOMPARE(watch.paintedOpen, 0);
+    QCOMPARE(find<QLabel>(ui.window(), "unlockSubtitle")->text(),
+             QStringLiteral("Locked because the computer slept"));
 }
 
 void TestPMUiProvider::requestsKeepWhatIsEntered()

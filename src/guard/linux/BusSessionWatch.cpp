@@ -132,6 +132,7 @@ void BusSessionWatch::onSessionProperties(const QString &interface, const QVaria
 void BusSessionWatch::onSleep(bool begins)
 {
     if (!begins) {
+        Q_EMIT awake();
         delaySleep();
         return;
     }
