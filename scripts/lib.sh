@@ -13,7 +13,7 @@ build_packages=(
 display_packages=(xvfb)
 extension_packages=(zip)
 # Servers of their own for the C++ tests, and the tools that their archives are held against.
-test_packages=(xvfb dbus-daemon zip unzip p7zip-full python3)
+test_packages=(xvfb dbus-daemon faketime zip unzip p7zip-full python3)
 windows_packages=(g++-mingw-w64-x86-64-posix wine64 xvfb)
 browser_packages=(chromium firefox-esr xvfb openbox trayer xdotool maim)
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QProcessEnvironment>
 
 #include <X11/Xlib.h>
 
@@ -9,8 +10,16 @@
 class XServer
 {
 public:
-    XServer()
+    /// @param speed how many times faster than others its clock runs
+    explicit XServer(int speed = 1)
     {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        if (speed > 1) {
+            environment.insert(QStringLiteral("LD_PRELOAD"),
+                               QStringLiteral("/usr/$LIB/faketime/libfaketime.so.1"));
+            environment.insert(QStringLiteral("FAKETIME"), QStringLiteral("+0 x%1").arg(speed));
+        }
+        m_process.setProcessEnvironment(environment);
         m_process.start(QStringLiteral("Xvfb"),
                         {QStringLiteral("-displayfd"), QStringLiteral("1"),
                          QStringLiteral("-screen"), QStringLiteral("0"),

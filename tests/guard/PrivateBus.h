@@ -24,6 +24,8 @@ public:
     PrivateBus(const PrivateBus &) = delete;
     PrivateBus &operator=(const PrivateBus &) = delete;
 
+    const QString &address() const { return m_address; }
+
     /// The connection of a name, the same for each call until it is disconnected.
     QDBusConnection connection(const char *name) const
     {
