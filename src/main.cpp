@@ -117,6 +117,10 @@ int main(int argc, char *argv[])
     core.startWatching();
     QObject::connect(&application, &QtSingleApplication::messageReceived, &ui,
                      &PMUiProvider::bringToFront);
+    QObject::connect(&core, &GPMAppCore::safeLockedChanged, [](bool locked) {
+        if (!locked)
+            closeMemoryToOthers();
+    });
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &core,
                      &GPMAppCore::lockCurrentSafe);
     // The end of the session would otherwise be tried by closing windows, which only hide.

@@ -2,15 +2,29 @@
 
 #include "SecretMemory.h"
 
+#include <QtDebug>
+
+#include <atomic>
 #include <cstring>
 #include <utility>
+
+/// Secrets come in on several threads.
+static void sayThatSecretsMaySwap()
+{
+    static std::atomic_flag said = ATOMIC_FLAG_INIT;
+    if (!said.test_and_set())
+        qWarning("SecretBytes: the system does not keep secrets off the disk that it swaps to");
+}
 
 SecretBytes::SecretBytes(const QByteArray &bytes)
 {
     if (bytes.isEmpty())
         return;
     m_size = static_cast<std::size_t>(bytes.size());
-    m_data = static_cast<char *>(allocateSecretMemory(m_size));
+    bool isKept = false;
+    m_data = static_cast<char *>(allocateSecretMemory(m_size, &isKept));
+    if (!isKept)
+        sayThatSecretsMaySwap();
     std::memcpy(m_data, bytes.constData(), m_size);
 }
 

@@ -2,7 +2,6 @@
 
 #include "ClipboardMarks.h"
 #include "ForeignClipboard.h"
-#include "SecretBytes.h"
 #include "SecretMemory.h"
 
 #include <QClipboard>
@@ -56,7 +55,7 @@ ClipboardKeeper::ClipboardKeeper(Later later, QObject *parent)
 
 void ClipboardKeeper::copy(const QString &text, bool clearLater)
 {
-    m_text = text;
+    m_text = SecretBytes::fromText(text);
     QGuiApplication::clipboard()->setMimeData(secretText(text));
     if (clearLater)
         m_later(keepMs, this, [this] { clear(); });
@@ -83,22 +82,21 @@ void ClipboardKeeper::clear()
         return;
     if (isOnClipboard())
         QGuiApplication::clipboard()->clear();
-    wipe(m_text);
+    m_text = {};
     Q_EMIT cleared();
 }
 
 bool ClipboardKeeper::isOnClipboard() const
 {
     if (const QMimeData *data = ownData(QClipboard::Clipboard))
-        return data->text() == m_text;
+        return SecretBytes::fromText(data->text()) == m_text;
     // A program that keeps copies may hold the same text. Qt would wait many seconds for one that
     // does not answer.
     std::optional<std::string> text = foreignClipboardText(answerMs);
     if (!text)
         return false;
-    QString held = QString::fromStdString(*text);
-    const bool same = held == m_text;
-    wipe(held);
+    const bool same =
+        m_text.view() == QByteArray::fromRawData(text->data(), static_cast<int>(text->size()));
     wipeMemory(text->data(), text->size());
     return same;
 }

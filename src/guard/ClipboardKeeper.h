@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SecretBytes.h"
+
 #include <QObject>
 #include <QString>
 
@@ -42,6 +44,6 @@ private:
     bool isOnClipboard() const;
 
     Later m_later;
-    QString m_text;
+    SecretBytes m_text;
     std::function<bool()> m_clearLater;
 };

@@ -2,6 +2,16 @@
 
 #include <QtTest>
 
+#ifdef Q_OS_LINUX
+#include "SecretMemory.h"
+
+#include <linux/capability.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#endif
+
 class TestSecretBytes : public QObject
 {
     Q_OBJECT
@@ -29,6 +39,63 @@ private Q_SLOTS:
         QVERIFY(shared.isEmpty());
         QCOMPARE(other, QByteArray("shared"));
     }
+
+#ifdef Q_OS_LINUX
+    void isNeitherSwappedNorDumped()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("Memory is not locked under this sanitizer");
+#endif
+        const SecretBytes secret(QByteArray("master"));
+        const QByteArray flags = flagsOf(secret.data());
+        QVERIFY2(flags.contains(" lo ") && flags.contains(" dd "), flags.constData());
+        closeMemoryToOthers();
+        QCOMPARE(prctl(PR_GET_DUMPABLE), 0);
+    }
+
+    /// The last one: the right is not given back.
+    void smallLimitsAreToldOnce()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("Memory is not locked under this sanitizer");
+#endif
+        __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
+        __user_cap_data_struct none[2] = {};
+        QCOMPARE(syscall(SYS_capset, &header, none), 0L);
+        const rlimit nothing = {0, 0};
+        QCOMPARE(setrlimit(RLIMIT_MEMLOCK, &nothing), 0);
+        static int warnings;
+        warnings = 0;
+        const QtMessageHandler before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &) { ++warnings; });
+        const SecretBytes first(QByteArray("first"));
+        const SecretBytes second(QByteArray("second"));
+        qInstallMessageHandler(before);
+        QCOMPARE(warnings, 1);
+        QCOMPARE(first.view() + second.view(), QByteArray("firstsecond"));
+    }
+
+private:
+    /// What the kernel says of the pages at an address.
+    static QByteArray flagsOf(const void *address)
+    {
+        QFile maps(QStringLiteral("/proc/self/smaps"));
+        if (!maps.open(QIODevice::ReadOnly))
+            return {};
+        const auto place = reinterpret_cast<quintptr>(address);
+        bool found = false;
+        const QList<QByteArray> lines = maps.readAll().split('\n');
+        for (const QByteArray &line : lines) {
+            const QList<QByteArray> range = line.left(line.indexOf(' ')).split('-');
+            if (range.size() == 2)
+                found = range[0].toULongLong(nullptr, 16) <= place &&
+                        place < range[1].toULongLong(nullptr, 16);
+            if (found && line.startsWith("VmFlags:"))
+                return line + ' ';
+        }
+        return {};
+    }
+#endif
 };
 
 QTEST_GUILESS_MAIN(TestSecretBytes)

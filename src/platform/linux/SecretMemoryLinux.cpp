@@ -3,6 +3,7 @@
 #include <cstring>
 #include <new>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -12,16 +13,17 @@ static std::size_t wholePages(std::size_t size)
     return size == 0 ? page : (size + page - 1) / page * page;
 }
 
-void *allocateSecretMemory(std::size_t size)
+void *allocateSecretMemory(std::size_t size, bool *isKept)
 {
     const std::size_t length = wholePages(size);
     void *memory =
         mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED)
         throw std::bad_alloc();
-    // Either may be refused (limits of the user); the memory serves all the same.
-    (void)mlock(memory, length);
-    (void)madvise(memory, length, MADV_DONTDUMP);
+    const bool locked = mlock(memory, length) == 0;
+    const bool undumped = madvise(memory, length, MADV_DONTDUMP) == 0;
+    if (isKept)
+        *isKept = locked && undumped;
     return memory;
 }
 
@@ -40,6 +42,11 @@ void keepOutOfCrashDumps()
         return;
     limit.rlim_cur = 0;
     (void)setrlimit(RLIMIT_CORE, &limit);
+}
+
+void closeMemoryToOthers()
+{
+    (void)prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
 }
 
 void wipeMemory(void *memory, std::size_t size)

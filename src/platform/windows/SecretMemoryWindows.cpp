@@ -10,30 +10,33 @@ namespace {
 // What is asked for beyond the need, as the quota is small and each secret has a page of its own.
 const SIZE_T spareBytes = 64 * 4096;
 
-void lockPages(void *memory, SIZE_T size)
+bool lockPages(void *memory, SIZE_T size)
 {
-    if (VirtualLock(memory, size) || GetLastError() != ERROR_WORKING_SET_QUOTA)
-        return;
+    if (VirtualLock(memory, size))
+        return true;
+    if (GetLastError() != ERROR_WORKING_SET_QUOTA)
+        return false;
     const HANDLE process = GetCurrentProcess();
     SIZE_T smallest = 0;
     SIZE_T largest = 0;
     if (!GetProcessWorkingSetSize(process, &smallest, &largest))
-        return;
+        return false;
     const SIZE_T more = size + spareBytes;
-    // May be refused all the same; the memory serves without.
-    if (SetProcessWorkingSetSize(process, smallest + more, largest + more))
-        VirtualLock(memory, size);
+    return SetProcessWorkingSetSize(process, smallest + more, largest + more) &&
+           VirtualLock(memory, size);
 }
 
 } // namespace
 
-void *allocateSecretMemory(std::size_t size)
+void *allocateSecretMemory(std::size_t size, bool *isKept)
 {
     const std::size_t length = size == 0 ? 1 : size;
     void *memory = VirtualAlloc(nullptr, length, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     if (!memory)
         throw std::bad_alloc();
-    lockPages(memory, length);
+    const bool locked = lockPages(memory, length);
+    if (isKept)
+        *isKept = locked;
     // Since Windows 10.
     static const auto exclude = systemCall<HRESULT(WINAPI *)(const void *, DWORD)>(
         L"kernel32.dll", "WerRegisterExcludedMemoryBlock");
@@ -61,6 +64,11 @@ void keepOutOfCrashDumps()
     const auto setFlags = systemCall<HRESULT(WINAPI *)(DWORD)>(L"kernel32.dll", "WerSetFlags");
     if (setFlags)
         setFlags(withoutHeap);
+}
+
+void closeMemoryToOthers()
+{
+    // What programs of one user may do to each other is the same for all of them here.
 }
 
 void wipeMemory(void *memory, std::size_t size)
