@@ -34,8 +34,8 @@ void adoptFrame(std::uintptr_t window, bool resizable);
 /// @return whether it is answered, by the result
 bool answerFrameMessage(void *message, std::intptr_t *result);
 
-/// Leaves a window out of screenshots, recordings and shared screens, or lets it appear there again.
-/// False where the system cannot. Windows alone.
+/// Leaves a window out of screenshots, recordings and shared screens, or lets it appear there
+/// again. False where the system cannot. Windows alone.
 bool hideFromCapture(std::uintptr_t window, bool hide);
 
 /// Whether the user has switched animations off. Windows alone.

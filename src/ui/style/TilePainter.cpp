@@ -15,8 +15,8 @@ QColor tileColor(const QString &title)
                                                0x946000, 0x3a505e, 0x0b7a96, 0x85582f};
     // A hash of our own: Qt's may change between versions, and the colours with it.
     quint32 hash = 2166136261U;
-    for (const char byte : title.toUtf8())
-        hash = (hash ^ static_cast<uchar>(byte)) * 16777619U;
+    for (const char letter : title.toUtf8())
+        hash = (hash ^ static_cast<uchar>(letter)) * 16777619U;
     return QColor(colors[(hash >> 8) % colors.size()]);
 }
 

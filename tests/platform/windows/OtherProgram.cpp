@@ -6,6 +6,8 @@
 #include "TestWindow.h"
 #include "UserActivity.h"
 
+#include <cstdio>
+
 namespace {
 
 const wchar_t readyName[] = L"GlaceronTestReady";
@@ -19,6 +21,15 @@ int stay()
     const HANDLE ready = OpenEventW(EVENT_MODIFY_STATE, FALSE, readyName);
     SetEvent(ready);
     return waitUntil([end] { return WaitForSingleObject(end, 0) == WAIT_OBJECT_0; }) ? 0 : 1;
+}
+
+/// For the checks of the installer, which end it.
+int runOn()
+{
+    std::puts("runs");
+    std::fflush(stdout);
+    WaitForSingleObject(GetCurrentProcess(), 60000);
+    return 0;
 }
 
 int holdHotkey()
@@ -107,6 +118,8 @@ int OtherProgram::end()
 
 int OtherProgram::act(const std::wstring &part)
 {
+    if (part == L"run")
+        return runOn();
     if (part == L"hotkey")
         return holdHotkey();
     if (part == L"foreground")
