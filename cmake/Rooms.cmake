@@ -20,6 +20,13 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
   if(GLACERON_STRICT)
     target_compile_options(glaceron_options INTERFACE -Werror)
   endif()
+  if(UNIX)
+    # What Debian builds with, too: an overrun ends the program instead of taking it over.
+    target_compile_definitions(glaceron_options INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+    target_compile_options(glaceron_options INTERFACE
+      $<$<CONFIG:Release>:-fstack-protector-strong>)
+    target_link_options(glaceron_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
+  endif()
 elseif(MSVC)
   target_compile_options(glaceron_options INTERFACE /W4 /utf-8)
   if(GLACERON_STRICT)

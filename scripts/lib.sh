@@ -15,6 +15,7 @@ extension_packages=(zip)
 # Servers of their own for the C++ tests, and the tools that their archives are held against.
 test_packages=(xvfb dbus-daemon faketime zip unzip p7zip-full python3)
 windows_packages=(g++-mingw-w64-x86-64-posix wine64 xvfb)
+check_packages=(mmdebstrap lintian desktop-file-utils appstream man-db iproute2 xvfb openbox xdotool maim x11-utils)
 browser_packages=(chromium firefox-esr xvfb openbox trayer xdotool maim)
 
 # install_packages NAME...: installs those that are missing, and says so.

@@ -6,6 +6,8 @@ Application::Application(int &argc, char **argv)
     setApplicationName(QStringLiteral("Glaceron Password Manager"));
     setOrganizationName(QStringLiteral("Glaceron"));
     setOrganizationDomain(QStringLiteral("glaceron.example"));
-    setApplicationVersion(QStringLiteral("1.1.32"));
+    setApplicationVersion(QStringLiteral(GLACERON_VERSION));
+    // Wayland finds the icon and the name by it.
+    setDesktopFileName(QStringLiteral("glaceron"));
     setQuitOnLastWindowClosed(false);
 }

@@ -19,6 +19,13 @@ PMTranslator::PMTranslator(const QString &folder, QObject *parent)
 {
 }
 
+QString PMTranslator::folderOf(const QString &programFolder)
+{
+    const QString beside = programFolder + QStringLiteral("/translations");
+    const QString shared = programFolder + QStringLiteral("/../share/glaceron/translations");
+    return !QDir(beside).exists() && QDir(shared).exists() ? QDir::cleanPath(shared) : beside;
+}
+
 QStringList PMTranslator::availableLanguages() const
 {
     QStringList languages{builtIn};

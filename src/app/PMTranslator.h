@@ -15,6 +15,10 @@ class PMTranslator : public QObject
 public:
     explicit PMTranslator(const QString &folder, QObject *parent = nullptr);
 
+    /// Where an installed or built program has its languages: beside it or, when they are not
+    /// there, in the system's share.
+    static QString folderOf(const QString &programFolder);
+
     /// Names of the languages, English first.
     QStringList availableLanguages() const;
 

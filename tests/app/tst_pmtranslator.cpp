@@ -63,6 +63,20 @@ private Q_SLOTS:
                  QStringLiteral("passwordmanager_xx"));
     }
 
+    void folderOfAnInstalledProgram()
+    {
+        const QTemporaryDir system;
+        const QDir root(system.path());
+        QVERIFY(root.mkpath(QStringLiteral("share/glaceron/translations")) &&
+                root.mkpath(QStringLiteral("bin")));
+        QCOMPARE(PMTranslator::folderOf(root.filePath(QStringLiteral("bin"))),
+                 root.filePath(QStringLiteral("share/glaceron/translations")));
+        // What lies beside the program was made with it.
+        QVERIFY(root.mkpath(QStringLiteral("bin/translations")));
+        QCOMPARE(PMTranslator::folderOf(root.filePath(QStringLiteral("bin"))),
+                 root.filePath(QStringLiteral("bin/translations")));
+    }
+
     void switching()
     {
         PMTranslator translator(m_folder.path());
