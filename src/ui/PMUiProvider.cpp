@@ -41,7 +41,7 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
     , m_hasTray(std::move(hasTray))
     , m_settings(QFileInfo(core.settings().filePath()).path())
     , m_translator(translations.isEmpty()
-                       ? QCoreApplication::applicationDirPath() + QStringLiteral("/translations")
+                       ? PMTranslator::folderOf(QCoreApplication::applicationDirPath())
                        : translations)
     , m_theme(std::make_unique<Theme>())
 {
@@ -80,7 +80,8 @@ QVector<Setting> PMUiProvider::allSettings()
                           [this](QWidget *row) -> QWidget * {
                               return new ExcludedSitesPanel(m_core.loginSaving(), row);
                           },
-                          &m_core.siteIcons()})
+                          [this](QWidget *row) { return m_sideWindows->updates().makePanel(row); },
+                          m_sideWindows->updates().checker().hasEndpoint(), &m_core.siteIcons()})
         .settings();
 }
 
@@ -296,6 +297,7 @@ void PMUiProvider::openMainView(const QString &url)
     else if (!m_window->isVisible() && !m_hasTray())
         m_window->showMinimized();
     m_firstRun->showExpected();
+    m_sideWindows->updates().start();
 }
 
 void PMUiProvider::showFirstPage()

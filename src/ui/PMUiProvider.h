@@ -40,6 +40,7 @@ public:
     ~PMUiProvider() override;
 
     PMTranslator &translator() { return m_translator; }
+    SideWindows &sideWindows() { return *m_sideWindows; }
 
     /// Connects the core's signals. Once, before a window is shown.
     void connectCore();

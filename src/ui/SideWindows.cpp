@@ -2,6 +2,7 @@
 
 #include "GPMAppCore.h"
 #include "RandomSource.h"
+#include "WebPages.h"
 #include "backups/BackupRow.h"
 #include "browsers/ApprovalsPanel.h"
 #include "browsers/InstallSteps.h"
@@ -28,8 +29,10 @@ SideWindows::SideWindows(GPMAppCore &core, UiSettings &uiSettings, const Theme &
     , m_theme(theme)
     , m_makeSettings(std::move(settings))
     , m_passwordChange(core, theme)
+    , m_updates(core.settings(), uiSettings, core.platform(), theme)
 {
     connect(&core, &GPMAppCore::requestLock, this, &SideWindows::closeForLock);
+    connect(&m_updates, &UpdateDesk::pageRequested, this, &openWebPage);
     connect(&core, &GPMAppCore::safeLockedChanged, &m_recent,
             [this](bool locked) { m_recent.setKeeping(!locked); });
     const std::shared_ptr<GPMSafe> &safe = core.currentSafe();
@@ -48,6 +51,7 @@ void SideWindows::setMain(QWidget *main)
     delete m_restore;
     m_main = main;
     m_passwordChange.setWindow(main);
+    m_updates.setMain(main);
 }
 
 void SideWindows::openGenerator()

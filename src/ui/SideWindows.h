@@ -6,6 +6,7 @@
 #include "dialogs/PasswordGeneratorDialog.h"
 #include "dialogs/RecentPasswords.h"
 #include "settings/SettingsDialog.h"
+#include "updates/UpdateDesk.h"
 
 #include <QPointer>
 
@@ -32,6 +33,9 @@ public:
 
     /// The passwords that were made last.
     RecentPasswords &recentPasswords() { return m_recent; }
+
+    /// Newer versions of the program.
+    UpdateDesk &updates() { return m_updates; }
 
     bool hasSettingsOpen() const { return m_settings; }
 
@@ -68,6 +72,7 @@ private:
     std::function<QVector<Setting>()> m_makeSettings;
     RecentPasswords m_recent;
     PasswordChangeDesk m_passwordChange;
+    UpdateDesk m_updates;
     QPointer<QWidget> m_main;
     QPointer<PasswordGeneratorDialog> m_generator;
     QPointer<SettingsDialog> m_settings;

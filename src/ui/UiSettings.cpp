@@ -11,6 +11,8 @@ const QString lastFolderKey = QStringLiteral("LastFolderForOpenDialog");
 const QString screenNumberKey = QStringLiteral("LastMainWindowScreenNumber");
 const QString setUpDoneKey = QStringLiteral("SetUpDone");
 const QString itemOrderKey = QStringLiteral("ItemOrder");
+const QString updateVersionKey = QStringLiteral("LastUpdateVersionShow");
+const QString updateCheckKey = QStringLiteral("LastUpdateCheck");
 const QString geometrySuffix = QStringLiteral("_Geometry");
 const QString splitterSuffix = QStringLiteral("_Splitter");
 const QString tabIndexSuffix = QStringLiteral("_TabIndex");
@@ -175,6 +177,26 @@ bool UiSettings::setUpDone() const
 void UiSettings::setSetUpDone(bool done)
 {
     m_store.setValue(setUpDoneKey, done);
+}
+
+QString UiSettings::lastUpdateVersionShow() const
+{
+    return m_store.value(updateVersionKey).toString();
+}
+
+void UiSettings::setLastUpdateVersionShow(const QString &version)
+{
+    m_store.setValue(updateVersionKey, version);
+}
+
+QDateTime UiSettings::lastUpdateCheck() const
+{
+    return QDateTime::fromString(m_store.value(updateCheckKey).toString(), Qt::ISODate);
+}
+
+void UiSettings::setLastUpdateCheck(const QDateTime &moment)
+{
+    m_store.setValue(updateCheckKey, moment.toUTC().toString(Qt::ISODate));
 }
 
 void UiSettings::forgetWindows()

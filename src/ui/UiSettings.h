@@ -2,6 +2,7 @@
 
 #include "style/Theme.h"
 
+#include <QDateTime>
 #include <QSettings>
 
 class QWidget;
@@ -62,6 +63,14 @@ public:
     /// Whether the user went through the first steps to their end.
     bool setUpDone() const;
     void setSetUpDone(bool done);
+
+    /// The newest version of the program that the user was told of; empty before the first.
+    QString lastUpdateVersionShow() const;
+    void setLastUpdateVersionShow(const QString &version);
+
+    /// When was last told which version is the newest.
+    QDateTime lastUpdateCheck() const;
+    void setLastUpdateCheck(const QDateTime &moment);
 
     /// Forgets where all windows were and how they were divided.
     void forgetWindows();

@@ -5,6 +5,7 @@
 #include "PMItemFactory.h"
 #include "PMUiProvider.h"
 #include "PasswordStrength.h"
+#include "SideWindows.h"
 #include "UiSettings.h"
 #include "WindowChecks.h"
 #include "attachments/AttachmentPreview.h"
@@ -48,6 +49,8 @@
 namespace {
 
 const QString safeFolder = QStringLiteral("/home/ana/safes/personal");
+const QString newVersionText = QStringLiteral("Opening a large safe takes half the time.\n"
+                                              "Cards are filled into forms in parts.");
 const QString extensionFolder = QStringLiteral("/opt/glaceron/extension");
 
 using ItemValues = std::initializer_list<std::pair<const char *, QVariant>>;
@@ -601,6 +604,8 @@ void Stage::start(const Look &look)
     m_ui->createMainWindow();
     m_ui->openMainView({});
     m_ui->bringToFront();
+    m_ui->sideWindows().updates().checker().setEndpoint(
+        QUrl(QStringLiteral("https://updates.glaceron.example/check")));
     main = m_ui->mainWindow();
 }
 
@@ -763,7 +768,8 @@ QSet<QString> Stage::ownWords() const
                       QString::fromUtf8(unknownExport),
                       QStringLiteral("passwords.csv safe.passid.bak"),
                       QStringLiteral("Work Family family"),
-                      QStringLiteral("studio.example gitforge.example"),
+                      QStringLiteral("studio.example gitforge.example glaceron.example"),
+                      newVersionText,
                       safeFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
         const QMetaObject &meta = *item->metaObject();
@@ -814,6 +820,15 @@ Show installSteps(const char *kind, const char *name)
         ways.folder = [](bool) { return extensionFolder; };
         return shownBeside(stage, new InstallSteps(browser, ways, stage.theme, stage.main));
     };
+}
+
+QWidget *newVersion(Stage &stage)
+{
+    const UpdateNews news{QStringLiteral("1.2.0"),
+                          QUrl(QStringLiteral("https://glaceron.example/download")),
+                          newVersionText};
+    return shownBeside(
+        stage, new NewVersionDialog(news, QStringLiteral("1.1.32"), stage.theme, stage.main));
 }
 
 QWidget *cloudPassword(Stage &stage)
@@ -915,6 +930,7 @@ const QVector<WindowCase> &everyWindow()
         {"install-steps", installSteps("chromium", "Chromium")},
         {"install-steps-firefox", installSteps("firefox", "Firefox")},
         {"approval", approval},
+        {"new-version", newVersion},
         {"quick-access", quickAccess(Section::Logins)},
         {"quick-access-cards", quickAccess(Section::Cards)},
         {"quick-access-generate", quickAccess(Section::Generator)},

@@ -1,4 +1,5 @@
 #include "PMUiProvider.h"
+#include "SideWindows.h"
 #include "UiTesting.h"
 #include "settings/HotkeyLineEdit.h"
 #include "settings/SettingsDialog.h"
@@ -64,6 +65,8 @@ struct Program
         ui.createMainWindow();
         ui.openMainView({});
         ui.bringToFront();
+        ui.sideWindows().updates().checker().setEndpoint(
+            QUrl(QStringLiteral("https://updates.glaceron.example/check")));
         test.createSafe();
     }
 
@@ -173,7 +176,7 @@ void TestSettingsDialog::everySettingIsTested()
          {"autolock_inactive", "inactivity_interval", "autolock_screensaver", "clear_clipboard",
           "login_mode", "plugin_login_mode", "plugin_open_mode", "enable_backup", "backup_interval",
           "backup_state", "backup_count", "cloud_state", "lock_hotkey", "plugin_hotkey",
-          "master_password", "browsers", "excluded_sites", "site_icons"})
+          "master_password", "browsers", "excluded_sites", "site_icons", "updates"})
         tested.append(QLatin1String(id));
     Program program;
     QStringList shown;

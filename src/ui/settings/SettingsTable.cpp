@@ -81,15 +81,30 @@ QVector<Setting> SettingsTable::general() const
         m_parts.settings.setLanguageFile(value.toString());
         return storeSettings();
     };
-    return {language, bound({"check_updates",
-                             Setting::General,
-                             tr("Check for updates"),
-                             tr("Looks from time to time whether there is a newer version."),
-                             tr("new version download"),
-                             Setting::Switch,
-                             {},
-                             {}},
-                            "checkUpdates")};
+    QVector<Setting> rows{language};
+    if (m_parts.canUpdate)
+        rows.append(bound({"check_updates",
+                           Setting::General,
+                           tr("Check for updates"),
+                           tr("Asks once a day whether there is a newer version. Sent are your "
+                              "version and a number made for this computer, nothing else."),
+                           tr("new version download"),
+                           Setting::Switch,
+                           {},
+                           {}},
+                          "checkUpdates"));
+    Setting updates = {"updates",
+                       Setting::General,
+                       tr("Newest version"),
+                       tr("Which version there is, and when was last looked for it."),
+                       tr("update check download"),
+                       Setting::Panel,
+                       {},
+                       {}};
+    updates.makePanel = m_parts.makeUpdatePanel;
+    if (updates.makePanel)
+        rows.append(updates);
+    return rows;
 }
 
 QVector<Setting> SettingsTable::security() const

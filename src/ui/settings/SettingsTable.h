@@ -34,6 +34,10 @@ public:
         std::function<QWidget *(QWidget *parent)> makeBrowserPanel = {};
         /// The sites of which logins are not offered to be saved.
         std::function<QWidget *(QWidget *parent)> makeExcludedSites = {};
+        /// What is known of newer versions.
+        std::function<QWidget *(QWidget *parent)> makeUpdatePanel = {};
+        /// Whether newer versions can be looked for; the switch for it is left out otherwise.
+        bool canUpdate = false;
         /// Whether icons of web sites are fetched; null leaves the setting out.
         SiteIconDesk *siteIcons = nullptr;
     };
