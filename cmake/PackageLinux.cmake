@@ -22,8 +22,7 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE ${GLACERON_PACKAGE_RELEASE})
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Of what is not linked: pictures of icons, Wayland, Qt's own texts, and pages opened by a click.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt5svg5")
+# Qt's own texts, Wayland, and pages and folders that are opened by a click.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qttranslations5-l10n, qtwayland5, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "chromium | firefox-esr | firefox")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION

@@ -1,5 +1,6 @@
 #include "Check.h"
 #include "FileSync.h"
+#include "MachineIdentity.h"
 #include "OtherProgram.h"
 #include "Platform.h"
 #include "SecretMemory.h"
@@ -147,6 +148,13 @@ void filesOnDisk()
     DeleteFileW(path.c_str());
 }
 
+void machine()
+{
+    const std::string identity = machineIdentity();
+    CHECK(!identity.empty());
+    CHECK_EQUAL(machineIdentity(), identity);
+}
+
 void texts()
 {
     const std::string texts[] = {"", "plain", "\xc3\xbc \xf0\x9f\x94\x91", std::string("a\0b", 3)};
@@ -157,10 +165,8 @@ void texts()
     CHECK_EQUAL(utf8(std::wstring(1, wchar_t(0xD800))), "\xef\xbf\xbd");
 }
 
-const Checks::Group groups[] = {{"version", versions},
-                                {"secret memory", secretMemory},
-                                {"many secrets", manySecrets},
-                                {"files on the disk", filesOnDisk},
-                                {"texts", texts}};
+const Checks::Group groups[] = {{"version", versions},         {"secret memory", secretMemory},
+                                {"many secrets", manySecrets}, {"files on the disk", filesOnDisk},
+                                {"machine", machine},          {"texts", texts}};
 
 } // namespace
