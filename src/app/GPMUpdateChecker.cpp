@@ -122,7 +122,9 @@ void GPMUpdateChecker::judge(const QByteArray &answer)
     m_parts.setLastCheck(m_parts.clock());
     m_parts.log(QStringLiteral("GPMUpdateChecker::judge: Newest version %1").arg(news->version));
     // An older one would bring mended faults back.
-    const bool newer = isNewerVersion(news->version, m_parts.version);
+    const QString installed = m_parts.installedVersion();
+    const bool newer = isNewerVersion(news->version, m_parts.version) &&
+                       (installed.isEmpty() || isNewerVersion(news->version, installed));
     m_news = newer ? *news : UpdateNews();
     finish(newer ? NewVersion : UpToDate);
 }

@@ -27,6 +27,8 @@ public:
         std::function<QDateTime()> lastCheck; ///< the last one that was answered; kept for long
         std::function<void(const QDateTime &)> setLastCheck;
         std::function<void(const QString &)> log;
+        /// What the installer says is there, which may wait for a restart; empty when it is silent.
+        std::function<QString()> installedVersion;
         Clock clock = systemTime;
         std::chrono::milliseconds limit = std::chrono::seconds(20); ///< with all redirects
     };

@@ -82,6 +82,7 @@ struct Computer
                 [this] { return last; },
                 [this](const QDateTime &moment) { last = moment; },
                 [this](const QString &line) { log.append(line); },
+                [this] { return installed; },
                 [this] { return now; },
                 limit};
     }
@@ -97,6 +98,7 @@ struct Computer
     QDateTime now = QDateTime({2026, 5, 1}, {12, 0}, Qt::UTC);
     QDateTime last;
     QStringList log;
+    QString installed;
     std::chrono::milliseconds limit = std::chrono::seconds(20);
     GPMUpdateChecker checker;
     QSignalSpy told;
@@ -280,6 +282,12 @@ void TestGpmUpdateChecker::askedByTheUser()
     QVERIFY(computer.answered());
     QCOMPARE(server.requests.size(), 3);
     QVERIFY(computer.told.last().at(1).toBool());
+
+    // It is installed already, and only a restart is missing.
+    computer.installed = QStringLiteral("1.2.0");
+    computer.checker.checkNow();
+    QVERIFY(computer.answered());
+    QCOMPARE(computer.checker.state(), GPMUpdateChecker::UpToDate);
 }
 
 void TestGpmUpdateChecker::noAnswer()

@@ -597,6 +597,7 @@ void Stage::start(const Look &look)
     // What moves would be met half way.
     settings.setMotionOff(true);
     settings.store();
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.1.32"));
     m_ui = std::make_unique<PMUiProvider>(test.core, [] { return true; });
     m_ui->connectCore();
     m_ui->translator().translate(look.language.isEmpty() ? QStringLiteral("en") : look.language,

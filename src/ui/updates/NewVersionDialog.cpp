@@ -17,16 +17,20 @@ QWidget *makeNews(const QString &text, QWidget *parent)
     label->setObjectName(QStringLiteral("newVersionText"));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    label->setContentsMargins(Style::spacing, Style::spacing, Style::spacing, Style::spacing);
-    auto *area = new QScrollArea(parent);
+    auto *card = makeCard(parent);
+    auto *area = new QScrollArea(card);
+    area->setObjectName(QStringLiteral("newVersionNews"));
     area->setAccessibleName(NewVersionDialog::tr("What is new"));
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(label);
-    const int inner = Style::scaled(usualWidth) - 2 * Style::margin - 2 * Style::spacing;
+    auto *inside = new QVBoxLayout(card);
+    inside->setContentsMargins(Style::gap, Style::gap, Style::gap, Style::gap);
+    inside->addWidget(area);
+    const int inner = Style::scaled(usualWidth) - 2 * (Style::margin + Style::gap + 1);
     area->setFixedHeight(qMin(label->heightForWidth(inner), Style::scaled(mostTextHeight)));
-    return area;
+    return card;
 }
 
 } // namespace

@@ -35,6 +35,10 @@ GPMUpdateChecker::Parts partsOf(const GPMAppSettings &settings, UiSettings &uiSe
     parts.setLastCheck = [&uiSettings](const QDateTime &moment) {
         uiSettings.setLastUpdateCheck(moment);
     };
+    parts.installedVersion = [&platform] {
+        return QString::fromStdString(platform.currentUserRegistryValue(
+            "Software\\Glaceron\\Glaceron Password Manager", "CurrentVersion"));
+    };
     parts.log = [](const QString &line) { Logger::instance().write(line, Logger::Debug); };
     return parts;
 }
