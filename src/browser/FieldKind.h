@@ -7,6 +7,8 @@ enum class FieldKind {
     Never,
     /// Known, and no item has it: a fax, a quantity.
     Other,
+    /// Of those, what tells money where to go.
+    BankAccount,
 
     UserName,
     Password,
@@ -53,6 +55,12 @@ enum class FieldKind {
     JobTitle,
     Website,
 
+    // Words of an address that are used when nothing plainer stands in it.
+    PerhapsCity,
+    PerhapsState,
+    PerhapsLine2,
+    PerhapsPostalCode,
+
     // Words that need their surroundings to mean something. The reader hands none of them out.
     CurrentPassword,
     RepeatedPassword,
@@ -78,6 +86,11 @@ inline bool isCardKind(FieldKind kind)
 inline bool isIdentityKind(FieldKind kind)
 {
     return kind >= FieldKind::FirstName && kind <= FieldKind::Website;
+}
+
+inline bool isPerhapsKind(FieldKind kind)
+{
+    return kind >= FieldKind::PerhapsCity && kind <= FieldKind::PerhapsPostalCode;
 }
 
 inline bool isVagueKind(FieldKind kind)

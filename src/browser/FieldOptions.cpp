@@ -91,13 +91,18 @@ int monthOfName(const QString &text)
 
 Sex sexOfChoice(const QString &text)
 {
-    static const QStringList men = QStringLiteral("m|male|man|mr|mister|sir|herr|mann|mannlich|"
-                                                  "hombre|masculino|varon|sr|senor|homme|masculin|"
-                                                  "monsieur|мужчина|мужскои|муж|м|г н|господин")
-                                       .split(QLatin1Char('|'));
+    static const QStringList men =
+        QStringLiteral("m|male|man|mr|mister|sir|herr|mann|mannlich|"
+                       "hombre|masculino|varon|sr|senor|homme|masculin|"
+                       "monsieur|мужчина|мужскои|муж|м|г н|господин|dhr|heer|man|uomo|maschio|"
+                       "sig|signor|homem|pan|mezczyzna|erkek|muz|herre|mies")
+            .split(QLatin1Char('|'));
     static const QStringList women =
-        QStringLiteral("f|w|female|woman|mrs|ms|miss|madam|frau|weiblich|mujer|femenino|sra|srta|"
-                       "senora|femme|feminin|mme|madame|mlle|женщина|женскии|жен|ж|г жа|госпожа")
+        QStringLiteral(
+            "f|w|female|woman|mrs|ms|miss|madam|frau|weiblich|mujer|femenino|sra|srta|"
+            "senora|femme|feminin|mme|madame|mlle|женщина|женскии|жен|ж|г жа|госпожа|mevr|mevrouw|"
+            "vrouw|donna|femmina|sig "
+            "ra|signora|mulher|pani|kobieta|kadin|zena|kvinna|kvinde|nainen")
             .split(QLatin1Char('|'));
     const QString plain = wordsOf(text.left(longestChoice)).join(QLatin1Char(' '));
     if (men.contains(plain))

@@ -1,6 +1,7 @@
 #include "FieldPhrases.h"
 
 #include "FieldWords.h"
+#include "WordSets.h"
 
 #include <QHash>
 #include <QStringList>
@@ -76,6 +77,18 @@ public:
 
     int size() const { return m_words.size(); }
     QStringView at(int i) const { return m_words.at(i); }
+
+    /// Whether only a space or the sign of a genitive stands between the word and the next.
+    bool isBesideNext(int i) const
+    {
+        if (i < 0 || i + 1 >= m_words.size())
+            return false;
+        const QChar *end = m_words.at(i).data() + m_words.at(i).size();
+        const QChar *next = m_words.at(i + 1).data();
+        return std::all_of(end, next, [](QChar sign) {
+            return sign.isSpace() || sign == QLatin1Char('\'') || sign == QChar(0x2019);
+        });
+    }
 
 private:
     void append(int from, int to) { m_words.append(QStringView(m_plain).mid(from, to - from)); }
@@ -166,19 +179,90 @@ bool TextMeaning::names(FieldKind kind) const
                        [&](const Part &part) { return part.kind == kind; });
 }
 
-TextMeaning meaningOf(const QString &text)
+namespace {
+
+const PhraseBook<FieldKind> &fieldBook()
 {
     static const PhraseBook<FieldKind> book(fieldWords());
+    return book;
+}
+
+bool isIn(const WordSet &set, const Words &words, int i)
+{
+    return i >= 0 && i < words.size() && set.contains(words.at(i));
+}
+
+/// Whether the word says something that the program does not know.
+bool isStrange(const Words &words, int i)
+{
+    if (i < 0 || i >= words.size() || words.at(i).size() < 2 || words.at(i).at(0).isDigit())
+        return false;
+    return !isIn(harmlessWords(), words, i) && !fieldBook().find(words, i);
+}
+
+bool isRussianGenitive(QStringView word)
+{
+    static const QString endings = QString::fromUtf8("аяиы");
+    return word.size() > 3 &&
+           (endings.contains(word.at(word.size() - 1)) || word.endsWith(QString::fromUtf8("ов")) ||
+            word.endsWith(QString::fromUtf8("еи")));
+}
+
+/// "Agent's phone", "project name": in English what is meant stands before.
+bool isOfStrangerBefore(const Words &words, int from, int count, int known)
+{
+    int before = from - 1;
+    const bool isGenitive = before > 0 && words.at(before) == QLatin1String("s");
+    if (isGenitive)
+        --before;
+    if (!isGenitive && !isIn(englishHeads(), words, from + count - 1))
+        return false;
+    return before >= known && words.isBesideNext(before) && isStrange(words, before);
+}
+
+/// "Name of the project", "nombre de la mascota", "имя ребёнка": elsewhere it stands behind.
+bool isOfStrangerBehind(const Words &words, int from, int count)
+{
+    int behind = from + count;
+    if (!words.isBesideNext(behind - 1))
+        return false;
+    if (words.at(from).at(0).script() == QChar::Script_Cyrillic)
+        return isStrange(words, behind) && isRussianGenitive(words.at(behind));
+    if (!isIn(genitiveWords(), words, behind))
+        return false;
+    while (isIn(genitiveWords(), words, behind))
+        ++behind;
+    return isStrange(words, behind);
+}
+
+bool isOfStranger(const Words &words, int from, const PhraseBook<FieldKind>::Phrase &phrase,
+                  int known)
+{
+    const int count = phrase.words.size();
+    if (isOfStrangerBefore(words, from, count, known))
+        return true;
+    // An example names a street: "rue des Lilas".
+    return phrase.kind != FieldKind::AddressLine1 && isOfStrangerBehind(words, from, count);
+}
+
+} // namespace
+
+TextMeaning meaningOf(const QString &text, TextSort sort)
+{
     TextMeaning meaning;
     const Words words(text);
+    const bool isProse = sort == TextSort::Prose;
+    int known = 0;
     for (int i = 0; i < words.size();) {
-        const auto *phrase = book.find(words, i);
-        if (!phrase) {
-            ++i;
-            continue;
+        const auto *phrase = fieldBook().find(words, i);
+        const int count = phrase ? phrase->words.size() : 1;
+        for (int at = i; isProse && at < i + count; ++at)
+            meaning.isOfRecipient = meaning.isOfRecipient || isIn(recipientWords(), words, at);
+        if (phrase) {
+            const bool isOfOther = isProse && isOfStranger(words, i, *phrase, known);
+            meaning.parts.append({phrase->kind, i, count, phrase->letters, isOfOther});
+            known = i + count;
         }
-        const int count = phrase->words.size();
-        meaning.parts.append({phrase->kind, i, count, phrase->letters});
         i += count;
     }
     return meaning;

@@ -18,15 +18,23 @@ struct TextMeaning
         int position = 0;
         int words = 0;
         int letters = 0;
+        /// Whether in prose a word beside it says that it is of something the program knows nothing
+        /// of: the name "of the project", the "agent's" phone.
+        bool isOfOther = false;
     };
     QVector<Part> parts;
+    /// Whether prose speaks of who receives something: the user, or somebody else.
+    bool isOfRecipient = false;
 
     bool names(FieldKind kind) const;
 };
 
+/// Where a text comes from: names in code say nothing of whose a thing is.
+enum class TextSort { Code, Prose };
+
 /// Reads a text in any of the languages that the program speaks. Longer phrases swallow shorter
 /// ones inside them: a "gift card number" is no card number.
-TextMeaning meaningOf(const QString &text);
+TextMeaning meaningOf(const QString &text, TextSort sort = TextSort::Code);
 
 /// Which part of a form a caption names: signing in, signing up, a newsletter, a search.
 enum class CaptionKind {

@@ -56,6 +56,25 @@ bool isNever(const TextMeaning &meaning, MainWord mainWord)
     return is;
 }
 
+bool isWeakerThan(FieldKind kind, FieldKind other)
+{
+    return (isVagueKind(kind) && !isVagueKind(other)) ||
+           (isPerhapsKind(kind) && isIdentityKind(other));
+}
+
+/// In "company website" the site is meant, in "company" the company.
+const TextMeaning::Part *withoutCompany(const TextMeaning &meaning, const TextMeaning::Part *main)
+{
+    if (main->kind != FieldKind::Company)
+        return main;
+    for (const TextMeaning::Part &part : meaning.parts) {
+        if (part.position == main->position + main->words && !isVagueKind(part.kind) &&
+            part.words <= main->words)
+            return &part;
+    }
+    return main;
+}
+
 FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
 {
     const TextMeaning::Part *main = nullptr;
@@ -65,12 +84,14 @@ FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
         const bool isLonger = !main || part.words > main->words;
         const bool isLater = mainWord == MainWord::Last && main && part.words == main->words;
         const bool isPlainer =
-            main && isVagueKind(main->kind) && !isVagueKind(part.kind) && part.words >= main->words;
+            main && isWeakerThan(main->kind, part.kind) && part.words >= main->words;
         if (isLonger || isPlainer || (isLater && !isVagueKind(part.kind)))
             main = &part;
     }
     if (!main)
         return FieldKind::Unknown;
+    if (mainWord == MainWord::First)
+        main = withoutCompany(meaning, main);
     // "Street and house number" is the street's line, "phone or e-mail" takes an address.
     if (main->kind == FieldKind::HouseNumber && meaning.names(FieldKind::AddressLine1))
         return FieldKind::AddressLine1;
@@ -78,7 +99,19 @@ FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
         return FieldKind::Email;
     if (meaning.names(FieldKind::FirstName) && meaning.names(FieldKind::LastName))
         return FieldKind::FullName;
+    if (meaning.names(FieldKind::FirstName) && meaning.names(FieldKind::MiddleName))
+        return FieldKind::FirstName;
     return main->kind;
+}
+
+/// Whether a text says that what is asked for is not the user's.
+bool isOfOther(const TextMeaning &meaning, FieldKind kind)
+{
+    if (!isIdentityKind(kind) && kind != FieldKind::SomeName && kind != FieldKind::CardNumber &&
+        kind != FieldKind::CardExpiry && !isPerhapsKind(kind))
+        return false;
+    return std::any_of(meaning.parts.begin(), meaning.parts.end(),
+                       [](const TextMeaning::Part &part) { return part.isOfOther; });
 }
 
 QVector<FieldKind> kindsIn(const TextMeaning &meaning)
@@ -95,12 +128,22 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord)
 {
     if (text.isEmpty())
         return;
-    const TextMeaning meaning = meaningOf(mainWord == MainWord::First ? withoutAsides(text) : text);
+    const TextMeaning meaning = mainWord == MainWord::First
+                                    ? meaningOf(withoutAsides(text), TextSort::Prose)
+                                    : meaningOf(text);
     FieldKind kind = mainKind(meaning, mainWord);
     if (mainWord == MainWord::First && isSum(text))
         kind = FieldKind::Never;
     if (kind == FieldKind::Unknown)
         return;
+    if (mainWord == MainWord::First) {
+        reading.isOfRecipient = reading.isOfRecipient || meaning.isOfRecipient;
+        if (reading.kind == FieldKind::Unknown && isOfOther(meaning, kind)) {
+            reading.isOfOther = true;
+            reading.kind = FieldKind::Other;
+            return;
+        }
+    }
     // "user[name]" is a name in the code of a user.
     const bool isOfUser = reading.kind == FieldKind::SomeName && kind == FieldKind::UserName;
     const bool isBetter = reading.kind == FieldKind::Unknown ||
@@ -197,8 +240,11 @@ FieldReading readTextsOf(const FormField &field)
             continue;
         }
         hasSign = hasSign || !text.isEmpty();
+        const bool isFirst = !reading.hasText;
         reading.hasText = reading.hasText || hasWord(text);
         take(reading, text, MainWord::First);
+        if (isFirst && reading.hasText)
+            reading.isStrange = reading.kind == FieldKind::Unknown;
     }
     if (!hasSign)
         take(reading, field.textAfter(), MainWord::First);
@@ -224,7 +270,8 @@ FieldReading readTextsOf(const FormField &field)
     else if (reading.kind == FieldKind::Unknown ||
              kindOfType(field.inputType()) == FieldKind::Never)
         reading.kind = kindOfType(field.inputType());
-    if (field.inputType() == QLatin1String("email") && reading.kind != FieldKind::Never)
+    if (field.inputType() == QLatin1String("email") && reading.kind != FieldKind::Never &&
+        !reading.isOfOther)
         reading.kind = FieldKind::Email;
     return reading;
 }

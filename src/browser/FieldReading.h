@@ -17,6 +17,12 @@ struct FieldReading
     bool isFromBehind = false;
     /// Whether the page itself says the kind by "autocomplete".
     bool isTold = false;
+    /// Whether what it asks for is said to be of something that the program knows nothing of.
+    bool isOfOther = false;
+    /// Whether it speaks of who receives something.
+    bool isOfRecipient = false;
+    /// Whether the first text that a person reads at it has words, and none that is known.
+    bool isStrange = false;
 
     bool says(FieldKind wanted) const
     {

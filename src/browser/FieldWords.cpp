@@ -34,7 +34,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "комментарий|сообщение|=тема|"
      "fax|fax number|faxnummer|vat|vat number|vat id|tax id|tax number|ust id|ustid|umsatzsteuer id|steuernummer|cif|nif cif|nif|"
      "numero tva|tva|siret|инн|кпп|"
-     "iban|bic|swift|account number|routing number|sort code|kontonummer|bankleitzahl|blz|numero de cuenta|"
+     "account number|kontonummer|numero de cuenta|"
      "номер документа|серия и номер|серия и номер документа|=dni|dni nif|=nie|codice fiscale|=cf|=cpf|cpf do titular|tussenvoegsel|toevoeging|"
      "passport|passport number|passport no|passport expiry|passport expiry date|doc no|doc exp|doc number|document number|document expiry|"
      "reisepass|reisepassnummer|pasaporte|passeport|паспорт|=серия|ppnumber|ppexpiry|pp number|pp expiry|"
@@ -49,6 +49,8 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "time zone|timezone|language|sprache|idioma|langue|currency|rating|employees|number of employees|numemployees|company size|team size|size of company|"
      "=extension|=ext|in honor of|honoree|=client|=tenant|=domain|colonia|=age|=alter|=edad|=hint|"
      "титул|titel|phone extension|estado civil|marital status"},
+
+    {FieldKind::BankAccount, "iban|bic|swift|swift code|routing number|sort code|bankleitzahl|blz|verwendungszweck"},
 
     {FieldKind::UserName,
      "username|user name|user id|userid|user|login|login id|loginid|login name|uname|user login|logon|logon id|account id|account name|"
@@ -82,7 +84,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "name on card|card user name|card username|name on the card|name on credit card|name as it appears on card|name as it appears on the card|name as on card|"
      "cardholder|card holder|cardholder name|card holder name|cardholder s name|card holder s name|cardholders name|cc name|ccname|"
      "card name|cardname|cc holder|ccholder|cc owner|card owner|=owner|=holder|holder name|card holder full name|name on your card|"
-     "name of cardholder|karteninhaber|name des karteninhabers|name auf der karte|name auf karte|=inhaber|kontoinhaber|"
+     "name of cardholder|karteninhaber|name des karteninhabers|name auf der karte|name auf karte|=inhaber|"
      "=titular|titular de la tarjeta|nombre del titular|nombre en la tarjeta|nombre y apellidos del titular|"
      "=titulaire|titulaire de la carte|nom du titulaire|nom sur la carte|nom du porteur|=porteur|"
      "держатель карты|держатель|владелец карты|имя владельца|имя держателя|имя на карте|имя и фамилия на карте"},
@@ -140,11 +142,11 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "country|country region|country name|country code|countrycode|country id|country or region|land|=staat|pais|pays|страна|strana|"
      "country of residence|land region"},
     {FieldKind::State,
-     "state|province|region|county|state province|state county|territory|state territory|prefecture|canton|state id|state or region|state or "
-     "province|=zone|province id|region id|bundesland|kanton|provincia|estado|departamento|departement|область|регион|край|oblast|=edo"},
+     "state|province|state province|state county|territory|state territory|canton|state id|state or region|state or "
+     "province|province id|bundesland|kanton|provincia|estado|область|регион|край|oblast|=edo"},
     {FieldKind::City,
-     "city|town|suburb|locality|city town|town city|post town|municipality|village|ort|stadt|wohnort|ciudad|poblacion|localidad|municipio|"
-     "ville|commune|localite|город|населенныи пункт|населенный пункт|gorod|=cty"},
+     "city|town|city town|town city|ort|stadt|wohnort|ciudad|poblacion|"
+     "ville|город|gorod|=cty"},
     {FieldKind::AddressLine1,
      "address|street|street address|streetaddress|address line 1|addressline 1|address 1|addr 1|addr|line 1|street 1|home address|mailing "
      "address|postal address|street name|street and number|street and house number|house no and street|house number and street name|"
@@ -154,9 +156,9 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "улица|адрес|адрес доставки|улица дом|adres|adres 1|ulica|ulitsa"},
     {FieldKind::AddressLine2,
      "address line 2|addressline 2|address 2|addr 2|line 2|street 2|apartment|apartment suite|apartment suite unit|apt|apt suite|apt unit|suite|"
-     "unit|unit number|apt number|=floor|=building|address complement|address line two|street address line 2|extra line|street line 2|street "
-     "address 2|adresszusatz|=zusatz|adresserganzung|=piso|piso puerta|=puerta|=portal|escalera|=complement|complement d adresse|batiment|etage|"
-     "appartement|квартира|корпус|adres 2|enter address line 2|dpto|departamento numero"},
+     "unit|unit number|apt number|address complement|address line two|street address line 2|extra line|street line 2|street "
+     "address 2|adresszusatz|=zusatz|adresserganzung|=piso|piso puerta|=complement|complement d adresse|"
+     "appartement|квартира|adres 2|enter address line 2|dpto|departamento numero"},
     {FieldKind::HouseNumber,
      "house number|house no|housenumber|=house|street number|hausnummer|hausnr|haus nr|hnr|=nr|numero exterior|numero de casa|numero de rue|"
      "=дом|номер дома|=dom"},
@@ -227,6 +229,77 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "imie i nazwisko na karcie"},
     {FieldKind::CardExpiry, "vervaldatum|scadenza|data di scadenza|validade|data de validade|data waznosci"},
     {FieldKind::CardCode, "beveiligingscode|codice di sicurezza|codigo de seguranca|kod bezpieczenstwa"},
+    // Words that are an address's in one country and beside it in another.
+    {FieldKind::PerhapsCity,
+     "suburb|locality|village|municipality|post town|localidad|municipio|commune|localite|населенныи пункт|bairro municipio"},
+    {FieldKind::PerhapsState, "region|region id|county|prefecture|departamento|departement|=zone|uezd"},
+    {FieldKind::PerhapsLine2, "=floor|=building|=escalera|=puerta|=portal|=piso|batiment|etage|=корпус"},
+    {FieldKind::PerhapsPostalCode, "postnummer|postnr"},
+
+    {FieldKind::Never,
+     "recovery code|backup code|activation code|pairing code|access code sent|code we|passcode we|pin we|we emailed|we sent|we texted|sent you|"
+     "emailed to you|texted to you|code sent|from your app|from the app|sent by sms|sent to your|einmalkennwort|aktivierungscode|"
+     "freischaltcode|codigo sms|codigo recibido|codigo enviado|clave sms|codigo de un solo uso|code recu|code envoye|code a usage unique|"
+     "код активации|код авторизации|type the characters|type the text|type the word|letters in the image|введите символы|символы с|"
+     "gift voucher|gift card pin|store credit|cupon de descuento|codigo cupon|bon d achat|cheque cadeau|geschenkkarte|geschenkgutschein|"
+     "wertgutschein|vorteilscode|werbecode|код купона|подарочный сертификат|код скидки|kod rabatowy|=rabat|codice sconto|codice promozionale|"
+     "buono sconto|cupom|codigo de desconto|kortingscode|rabattkod|rabatkode|slevovy kod|slevovy kupon|indirim kodu|kupon|"
+     "code parrainage|code de parrainage|codigo de invitacion|codigo amigo|empfehlungscode|einladungscode|реферальный код|код приглашения"},
+    {FieldKind::Other,
+     "=po box|=p o box|=pobox|=postfach|=packstation|=apartado|=apartado postal|=apartado de correos|=boite postale|packstation|"
+     "company id|company number|company no|company registration number|company code|=ico|=dic|=nip|=regon|=cnpj|=oib|partita iva|p iva|=rfc|=curp|"
+     "=rut|gst|gst number|gstin|=abn|=ein|=fein|tin|personnummer|=cpr|=pesel|rodne cislo|tc kimlik|tc kimlik no|=bsn|aadhaar|pan number|dni cif|"
+     "employee id|employee number|student id|student number|customer id|client number|policy number|claim number|contract number|tracking number|"
+     "numero de poliza|numero de contrato|numero de contrat|numero de pedido|numero de commande|номер договора|номер полиса|номер заказа|"
+     "kontoinhaber|account holder|account holder name|titular de la cuenta|titulaire du compte|владелец счета|employer address|employer phone|employer city|employer email|employer name and address|website name|bank name|name of bank|bank address|"
+     "linked in|linkedin|facebook|twitter|instagram|github|youtube|tiktok|xing|telegram|skype|discord|snapchat|pinterest|"
+     "city of birth|country of birth|state of birth|town of birth|birth city|birth country|birth state|birth town|geburtsland|geburtsstadt|"
+     "ciudad de nacimiento|pais de nacimiento|provincia de nacimiento|ville de naissance|pays de naissance|commune de naissance|"
+     "departement de naissance|nom de naissance|страна рождения|город рождения|luogo di nascita|comune di nascita|citta di nascita|"
+     "дополнительный телефон|другой телефон|запасной телефон|второй телефон|telefono alternativo|otro telefono|telefono adicional|"
+     "autre telephone|telephone secondaire|autre numero|weitere telefonnummer|zweite telefonnummer|alternative telefonnummer|notfallkontakt|"
+     "notfallnummer|contacto de emergencia|contact d urgence|экстренный контакт|"
+     "entrance|intercom|gate code|door code|digicode|interphone|landmark|neighborhood|neighbourhood|=barrio|=bairro|=colonia|=quartier|"
+     "подъезд|этаж|домофон|код домофона|район|entre calles|entre que calles|stadtteil|ortsteil|"
+     "carte de fidelite|numero de fidelite|n de carte de fidelite|numero de carte de fidelite|tarjeta de fidelidad|kundenkarte|kundenkartennummer|"
+     "carta fedelta|=bahncard|бонусная карта|номер бонусной карты|карта лояльности|id card|id card number|identity card|ausweisnummer|personalausweis|"
+     "house name|name suffix|=suffix|name prefix|middle name of father|father s name|mother s name|girokonto|"
+     "versicherungsnummer|steuer id|steueridentifikationsnummer|krankenkasse|numero de securite sociale|seguridad social|снилс"},
+    {FieldKind::HouseNumber,
+     "house name or number|house name number|house name no|house number or name|house number name|house name and number|building number|"
+     "numer budynku|husnummer|husnr|cislo popisne|kapi no|bina no|n civico|numero porta"},
+    {FieldKind::NewPassword,
+     "add a password|set a password|set password|set your password|enter a new password|pick a password|create your password|your new password|"
+     "passwort festlegen|passwort vergeben|passwort erstellen|wunschpasswort|crear contrasena|elige una contrasena|crea tu contrasena|"
+     "creer un mot de passe|creez un mot de passe|choisir un mot de passe|создайте пароль|задайте пароль|nieuw wachtwoord|nuova password|"
+     "nova senha|nowe haslo|nytt losenord"},
+    {FieldKind::FullName, "имя получателя|имя и отчество|recipient s name|recipient full name|applicant name"},
+    {FieldKind::PostalCode, "eircode|address by postcode|postcode lookup|by postcode|postcode zip"},
+    {FieldKind::AddressLine2, "flat|flat number|flat no|piso y puerta|piso puerta|piso puerta escalera|apt no|apartment number|unit no|suite number|door number|complemento|=офис|numero interior|depto"},
+
+    // Languages of neighbours further away.
+    {FieldKind::FirstName, "fornamn|fornavn|etunimi|jmeno|krestni jmeno|=meno|keresztnev|prenume|=ad|ім я|=ime|=isim"},
+    {FieldKind::LastName, "efternamn|etternavn|efternavn|sukunimi|prijmeni|priezvisko|vezeteknev|nume de familie|soyad|soyadi|soyisim|прізвище|prezime"},
+    {FieldKind::FullName, "jmeno a prijmeni|ad soyad|fulde navn|fullt navn|fullstandigt namn|meno a priezvisko|ime i prezime|teljes nev|прізвище та ім я"},
+    {FieldKind::SomeName, "namn|navn|nimi"},
+    {FieldKind::AddressLine1,
+     "gatuadress|gateadresse|vejnavn|adress|=gata|katuosoite|osoite|ulice|ulice a cislo|ulice a cislo popisne|ulica a cislo|cadde|sokak|utca|strada|вулиця|"
+     "acik adres|lahiosoite"},
+    {FieldKind::City, "=ort|stad|=sted|poststed|kaupunki|postitoimipaikka|=mesto|=obec|sehir|varos|telepules|=oras|localitate|місто|=grad"},
+    {FieldKind::PostalCode, "postinumero|psc|posta kodu|iranyitoszam|cod postal|поштовий індекс|postanski broj"},
+    {FieldKind::Country, "=maa|=zeme|krajina|ulke|orszag|=tara|країна|drzava"},
+    {FieldKind::Phone, "telefonnummer|mobilnummer|mobilnr|puhelin|puhelinnumero|matkapuhelin|telefonni cislo|telefonszam|cep telefonu|telefon no|номер телефону"},
+    {FieldKind::Email, "e post|epost|e postadress|e postadresse|sahkoposti|e posta|eposta|e posta adresi|електронна пошта|e mailova adresa"},
+    {FieldKind::Password, "losenord|passord|adgangskode|salasana|heslo|sifre|parola|jelszo"},
+    {FieldKind::RepeatedPassword, "bekrafta losenord|gjenta passord|gentag adgangskode|heslo znovu|potvrzeni hesla|sifre tekrar|powtorz haslo|ripeti password|conferma password|confirme a senha|herhaal wachtwoord"},
+    {FieldKind::UserName, "anvandarnamn|brukernavn|brugernavn|kayttajatunnus|uzivatelske jmeno|kullanici adi|felhasznalonev|codice cliente|codice utente|kundnummer"},
+    {FieldKind::Gender, "=kon|kjonn|sukupuoli|pohlavi|cinsiyet|стать"},
+    {FieldKind::Company, "foretag|foretagsnamn|firmanavn|yritys|spolecnost|nazev firmy|sirket|azienda|ragione sociale|bedrijf|bedrijfsnaam|nazwa firmy|nome da empresa"},
+    {FieldKind::BirthDate, "fodelsedatum|fodselsdato|fodselsdag|syntymaaika|datum narozeni|dogum tarihi|szuletesi datum|дата народження"},
+    {FieldKind::CardNumber, "kortnummer|kartnummer|cislo karty|kart numarasi|kartyaszam|kortin numero"},
+    {FieldKind::CardCode, "sakerhetskod|sikkerhetskode|bezpecnostni kod|guvenlik kodu"},
+    {FieldKind::CardExpiry, "utgangsdatum|utlopsdato|udlobsdato|platnost|son kullanma tarihi|giltig till"},
+    {FieldKind::CardHolder, "kortinnehavare|kortinnehavarens namn|kortholder|kortholders navn|drzitel karty|kart uzerindeki isim|kart sahibi"},
     };
     return rows;
 }
@@ -261,6 +334,16 @@ const QVector<WordRow<CaptionKind>> &captionWords()
     {CaptionKind::Code,
      "verification|two step verification|two factor|2 step verification|verification code|authenticator|authentication code|"
      "check your email|bestatigung|verifizierung|verificacion|подтверждение|подтвердите"},
+    {CaptionKind::SignUp,
+     "finish setting up|set up your account|setting up your account|open an account|open account|apply now|become a member|register now|"
+     "create profile|create your profile|create a new mailbox|mitglied werden|abrir cuenta|hazte socio|ouvrir un compte|devenir membre|"
+     "открыть счет|стать клиентом|skapa konto|opprett konto|opret konto|vytvorit ucet|uye ol|registrace"},
+    {CaptionKind::SignIn, "logga in|logg inn|log ind|kirjaudu|prihlasit|prihlaseni|giris yap|giris|bejelentkezes|entra|увіити"},
+    {CaptionKind::Code,
+     "enter security code|enter the code|enter code|enter your code|confirm your identity|verify your identity|verify it s you|one time code|"
+     "one time passcode|one time password|codigo de verificacion|code de verification|код подтверждения|введите код|code eingeben|код из смс"},
+    {CaptionKind::Newsletter,
+     "sign up for our newsletter|join our mailing list|join our newsletter|get our best|email updates|get updates|sign me up|keep me posted"},
     };
     return rows;
 }

@@ -1,5 +1,7 @@
 #include "FormAnalysis.h"
 
+#include <QHash>
+
 #include <algorithm>
 
 namespace {
@@ -54,10 +56,29 @@ bool isChosenFrom(FieldKind kind)
     return kinds.contains(kind);
 }
 
-bool isTyped(FieldKind kind)
+/// Whether a control of the page's can hold what the kind is: no name is a number, no street is
+/// chosen from a list.
+bool canHold(const FormField &field, FieldKind kind)
 {
-    return kind == FieldKind::CardNumber || kind == FieldKind::CardCode ||
-           kind == FieldKind::CardExpiry;
+    if (isChoice(field))
+        return isChosenFrom(kind) || kind == FieldKind::City;
+    static const QHash<QString, QVector<FieldKind>> only = {
+        {QStringLiteral("date"), {FieldKind::BirthDate, FieldKind::CardExpiry}},
+        {QStringLiteral("month"), {FieldKind::CardExpiry}},
+        {QStringLiteral("url"), {FieldKind::Website}},
+        {QStringLiteral("email"), {FieldKind::Email, FieldKind::UserName}}};
+    static const QVector<FieldKind> noNumbers = {
+        FieldKind::FirstName,    FieldKind::LastName,   FieldKind::MiddleName,
+        FieldKind::FullName,     FieldKind::CardHolder, FieldKind::AddressLine1,
+        FieldKind::AddressLine2, FieldKind::City,       FieldKind::State,
+        FieldKind::Country,      FieldKind::Company,    FieldKind::JobTitle,
+        FieldKind::Website,      FieldKind::Email};
+    const QString type = field.inputType().toLower();
+    const auto found = only.constFind(type);
+    if (found != only.constEnd())
+        return found->contains(kind);
+    const bool isNumber = type == QLatin1String("number") || type == QLatin1String("tel");
+    return !isNumber || !noNumbers.contains(kind);
 }
 
 /// A choice that nobody sees receives only what is chosen from a list, and only beside a field of
@@ -75,7 +96,7 @@ void leaveHiddenChoices(const QVector<FormField> &fields, QVector<FieldKind> &ki
         const FieldKind kind = kinds.at(i);
         const bool isAlone = !isChosenFrom(kind) || !seen.contains(groupOf(kind));
         const bool isHidden = field.hasHints() && !field.isVisible() && isAlone;
-        if (isChoice(field) && (isTyped(kind) || isHidden))
+        if (isChoice(field) && isHidden)
             kinds[i] = FieldKind::Unknown;
     }
 }
@@ -154,9 +175,9 @@ QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurro
             kind = FieldKind::Unknown;
         else if (kind == FieldKind::Unknown && asksNames(action, read))
             kind = kindByFallback(field, read, action);
-        if (isChosen && kind == FieldKind::Password)
-            kind = FieldKind::Unknown;
-        kinds.append(belongsTo(kind, action) ? kind : FieldKind::Unknown);
+        const bool isLeft = (isChosen && kind == FieldKind::Password) || !belongsTo(kind, action) ||
+                            (field.hasHints() && !canHold(field, kind));
+        kinds.append(isLeft ? FieldKind::Unknown : kind);
     }
     leaveHiddenChoices(fields, kinds);
     leaveLoneCountry(fields, kinds);

@@ -22,6 +22,7 @@ FormField::FormField(const QJsonObject &object)
     , m_ariaLabel(text("ariaLabel"))
     , m_textBefore(text("textBefore"))
     , m_tableHead(text("tableHead"))
+    , m_heading(text("heading"))
     , m_maxLength(qBound(0, object.value(QLatin1String("maxlength")).toInt(), longestValue))
     , m_isVisible(flag("visible"))
     , m_hasHints(object.contains(QLatin1String("autocomplete")) ||

@@ -44,7 +44,7 @@ public:
     const QString &autocomplete() const { return m_autocomplete; }
     const QString &label() const { return m_label; }
     const QString &placeholder() const { return m_placeholder; }
-    QString heading() const { return text("heading"); }
+    const QString &heading() const { return m_heading; }
     QString pattern() const { return text("pattern"); }
     /// The texts that a person reads at the field, the most telling first.
     QStringList readTexts() const;
@@ -90,6 +90,7 @@ private:
     QString m_ariaLabel;
     QString m_textBefore;
     QString m_tableHead;
+    QString m_heading;
     int m_maxLength;
     int m_optionLimit = mostOptions;
     bool m_isVisible;

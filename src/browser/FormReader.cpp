@@ -1,9 +1,11 @@
 #include "FormReader.h"
 
+#include "AddressFields.h"
 #include "DateShape.h"
 #include "FieldOptions.h"
 #include "FieldPhrases.h"
 #include "LoginRoles.h"
+#include "OtherPeople.h"
 #include "SplitFields.h"
 
 #include <QHash>
@@ -33,9 +35,13 @@ public:
 
     QVector<FieldKind> read()
     {
-        for (int i = 0; i < m_fields.size(); ++i)
-            continueList(i);
+        continueLists(m_fields, m_readings, m_kinds);
+        leaveSingleFigures(m_fields, m_kinds);
         assignSplitFields(m_fields, m_readings, m_kinds);
+        settleAddress(m_fields, m_readings, m_kinds);
+        m_hasOneDate = m_kinds.count(FieldKind::SomeDay) == 1 &&
+                       m_kinds.count(FieldKind::SomeMonth) == 1 &&
+                       m_kinds.count(FieldKind::SomeYear) == 1 && !has(FieldKind::SomeDate);
         const QHash<QString, Sexes> sexes = sexesOfRadios();
         for (int i = 0; i < m_fields.size(); ++i) {
             if (m_fields.at(i).isRadio())
@@ -46,9 +52,13 @@ public:
         }
         for (int i = 0; i < m_fields.size(); ++i)
             readNeighbours(i);
+        leaveLoneCards();
+        leaveExtraStreets(m_kinds);
+        leaveOtherPeople(m_fields, m_readings, m_kinds);
+        leaveLoneName(m_readings, m_kinds);
         assignLoginRoles(m_fields, m_readings, m_around, m_kinds);
         for (FieldKind &kind : m_kinds)
-            kind = isVagueKind(kind) ? FieldKind::Other : kind;
+            kind = isVagueKind(kind) || kind == FieldKind::BankAccount ? FieldKind::Other : kind;
         return m_kinds;
     }
 
@@ -122,29 +132,18 @@ private:
         return false;
     }
 
+    bool isOpen(int i) const { return isOpenField(i, m_fields, m_readings, m_kinds); }
     bool isSilentAt(int i) const
     {
         return i < m_fields.size() && isSilent(m_fields.at(i), reading(i));
     }
 
-    bool isOpen(int i) const
-    {
-        return isSilentAt(i) && (kindAt(i) == FieldKind::Unknown || isVagueKind(kindAt(i)));
-    }
-
-    /// Whether it is as short as the one before it, and has no word but that of the next field.
-    bool isNextPart(int i) const
-    {
-        const int length = isSilentAt(i) ? m_fields.at(i).maxLength() : 0;
-        return length > 0 && length == m_fields.at(i - 1).maxLength() && reading(i).isFromBehind;
-    }
-
-    void continueList(int at);
-    void continueOne(int at);
     void readDate(int at);
     FieldKind datePart(int at, bool isBirth) const;
+    bool isBirthOfPerson(int at) const;
     void readNeighbours(int at);
     void readVague(int at);
+    void leaveLoneCards();
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
     bool isOfPhone(int at) const;
@@ -154,55 +153,9 @@ private:
     const FormSurroundings &m_around;
     QVector<FieldReading> m_readings;
     QVector<FieldKind> m_kinds;
+    /// Whether a day, a month and a year are each asked for once.
+    bool m_hasOneDate = false;
 };
-
-/// "City, State, Zip" before three fields names one after another.
-void Reader::continueList(int at)
-{
-    if (!reading(at).hasText)
-        return;
-    QVector<FieldKind> named;
-    for (const FieldKind kind : reading(at).named) {
-        if (isIdentityKind(kind))
-            named.append(kind);
-    }
-    int silent = 0;
-    while (isOpen(at + silent + 1))
-        ++silent;
-    if (silent == 0)
-        return;
-    if (named.size() < 2) {
-        continueOne(at);
-        return;
-    }
-    for (int i = 0; i < named.size() && i <= silent; ++i)
-        m_kinds[at + i] = named.at(i);
-}
-
-/// What follows the field that has the words for both.
-void Reader::continueOne(int at)
-{
-    const int next = at + 1;
-    switch (m_kinds.at(at)) {
-    case FieldKind::SomeName:
-    case FieldKind::FullName:
-        if (m_fields.at(next).isLine()) {
-            m_kinds[at] = FieldKind::FirstName;
-            m_kinds[next] = FieldKind::LastName;
-        }
-        return;
-    case FieldKind::AddressLine1:
-        if (m_fields.at(next).isLine())
-            m_kinds[next] = FieldKind::AddressLine2;
-        return;
-    case FieldKind::CardNumber:
-        for (int i = next; (isOpen(i) || isNextPart(i)) && m_fields.at(i).isLine(); ++i)
-            m_kinds[i] = FieldKind::CardNumber;
-        return;
-    default:
-        return;
-    }
-}
 
 FieldKind Reader::datePart(int at, bool isBirth) const
 {
@@ -224,20 +177,39 @@ FieldKind Reader::datePart(int at, bool isBirth) const
     return count == 1 ? said : FieldKind::Unknown;
 }
 
+/// Day, month and year side by side, in a form that asks a person for name and gender and for no
+/// other date: no card shows the day.
+bool Reader::isBirthOfPerson(int at) const
+{
+    if (!m_hasOneDate || reading(at).isStrange)
+        return false;
+    const auto isBeside = [&](FieldKind some, FieldKind birth) {
+        return isNear(at, some) || isNear(at, birth);
+    };
+    return has(FieldKind::FirstName) && (has(FieldKind::Gender) || has(FieldKind::NewPassword)) &&
+           isBeside(FieldKind::SomeDay, FieldKind::BirthDay) &&
+           isBeside(FieldKind::SomeMonth, FieldKind::BirthMonth) &&
+           isBeside(FieldKind::SomeYear, FieldKind::BirthYear);
+}
+
 /// Whole dates and their parts, of a birth or of a card.
 void Reader::readDate(int at)
 {
     const FormField &field = m_fields.at(at);
     const FieldKind kind = m_kinds.at(at);
     const FieldKind before = kindAt(at - 1);
-    const bool followsBirth = before >= FieldKind::BirthDate && before <= FieldKind::BirthYear;
+    // A date with a word of its own that is not known is another date.
+    const bool followsBirth =
+        before >= FieldKind::BirthDate && before <= FieldKind::BirthYear && !reading(at).isStrange;
     const bool isCard = isCardKind(kind) || reading(at).says(FieldKind::CardExpiry);
-    const bool isBirth = !isCard && (isIdentityKind(kind) || followsBirth ||
-                                     reading(at).says(FieldKind::BirthDate) ||
-                                     captionKindOf(field.heading()) == CaptionKind::Birth);
+    const bool isBirth =
+        !isCard &&
+        (isIdentityKind(kind) || followsBirth || reading(at).says(FieldKind::BirthDate) ||
+         captionKindOf(field.heading()) == CaptionKind::Birth || isBirthOfPerson(at));
     // No card shows the day.
     const bool isWhole = kind == FieldKind::CardExpiry && datePartsOf(field).size() == 3;
-    if (isWhole || (!isBirth && !isCard && !isNearCard(at))) {
+    const bool isStrange = isVagueKind(kind) && reading(at).isStrange;
+    if (isWhole || (!isBirth && !isCard && (isStrange || !isNearCard(at)))) {
         m_kinds[at] = FieldKind::Other;
         return;
     }
@@ -322,6 +294,9 @@ void Reader::readNeighbours(int at)
 
 void Reader::readVague(int at)
 {
+    const bool isStrange = reading(at).isStrange && m_kinds.at(at) != FieldKind::SomeName;
+    if (isStrange && isVagueKind(m_kinds.at(at)))
+        return;
     switch (m_kinds.at(at)) {
     case FieldKind::SomeName:
         m_kinds[at] = plainName(at);
@@ -336,6 +311,23 @@ void Reader::readVague(int at)
         return;
     default:
         return;
+    }
+}
+
+/// A card's number that is asked for together with nothing else that a card shows, and with other
+/// things, is that of a customer's or a library's card.
+void Reader::leaveLoneCards()
+{
+    bool isAlone = true;
+    for (int i = 0; i < m_kinds.size(); ++i) {
+        if (isCardKind(kindAt(i)) && kindAt(i) != FieldKind::CardNumber)
+            return;
+        isAlone = isAlone && (kindAt(i) == FieldKind::CardNumber || !reading(i).hasText);
+    }
+    for (int i = 0; i < m_kinds.size() && !isAlone; ++i) {
+        if (kindAt(i) == FieldKind::CardNumber && !reading(i).isTold &&
+            captionKindOf(m_fields.at(i).heading()) != CaptionKind::Card)
+            m_kinds[i] = FieldKind::Other;
     }
 }
 

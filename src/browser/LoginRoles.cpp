@@ -2,12 +2,15 @@
 
 #include "FieldPhrases.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace {
 
 constexpr int mostNewsletterFields = 3;
 constexpr int mostBesideLogin = 2;
+constexpr int longestCode = 8;
 /// The rank of a field that is called a user name.
 constexpr int surelyUserName = 6;
 
@@ -44,6 +47,30 @@ bool asksForPerson(const QVector<FieldKind> &kinds)
         return isIdentityKind(kind) && kind != FieldKind::Email && kind != FieldKind::Phone;
     });
     return count >= 2;
+}
+
+/// Nobody tells the rules of a password to those who have one: "8 characters or more".
+bool tellsRules(const FormField &field)
+{
+    static const QRegularExpression rules(
+        QString::fromUtf8(
+            "\\d\\+?\\s*(or "
+            "more\\s*)?(char|zeichen|caract|символ|знак|znak|tekens|tecken|karakter)"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QStringList texts = field.readTexts() << field.textAfter();
+    return std::any_of(texts.begin(), texts.end(),
+                       [&](const QString &text) { return rules.match(text).hasMatch(); });
+}
+
+/// "What is your favourite film?" is answered in secret, and is no password.
+bool isQuestion(const FormField &field)
+{
+    static const QRegularExpression question(
+        QString::fromUtf8("^\\s*¿?(what|which|who|where|when|in what|in which|wie |was |welche|wer "
+                          "|wo |que |cual|quien|donde|qué |cuál|quién|dónde|"
+                          "quel|qui |où |как |какой|какая|кто |где )[^?]*\\?"),
+        QRegularExpression::CaseInsensitiveOption);
+    return question.match(field.label()).hasMatch();
 }
 
 void assignSinglePassword(int at, CaptionKind purpose, QVector<FieldKind> &kinds)
@@ -169,6 +196,18 @@ bool isIdentifierFirst(const QVector<FormField> &fields, const QVector<FieldRead
     return purpose == CaptionKind::SignIn || (isAskedFor && purpose == CaptionKind::None);
 }
 
+/// A page that asks for a code that was sent has no user name beside it.
+bool isSentCode(const QVector<FormField> &fields, const QVector<FieldKind> &kinds, int at,
+                CaptionKind purpose)
+{
+    if (purpose != CaptionKind::Code || fields.at(at).maxLength() == 0 ||
+        fields.at(at).maxLength() > longestCode)
+        return false;
+    return std::none_of(kinds.begin(), kinds.end(), [](FieldKind kind) {
+        return kind == FieldKind::UserName || kind == FieldKind::Email || kind == FieldKind::Phone;
+    });
+}
+
 } // namespace
 
 bool asksForCode(const FormSurroundings &around)
@@ -184,6 +223,11 @@ void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReadi
     for (const int at : hidden) {
         if (isCardSecret(readings.at(at), kinds))
             kinds[at] = FieldKind::Other;
+        else if (isQuestion(fields.at(at)) || isSentCode(fields, kinds, at, purpose))
+            kinds[at] = FieldKind::Never;
+        else if (purpose != CaptionKind::SignIn && kinds.at(at) == FieldKind::Password &&
+                 tellsRules(fields.at(at)))
+            kinds[at] = FieldKind::NewPassword;
     }
     const QVector<int> passwords = passwordsIn(fields, kinds);
     if (!passwords.isEmpty())

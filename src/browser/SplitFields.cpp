@@ -2,11 +2,15 @@
 
 #include "DateShape.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int longestPart = 8;
 constexpr int longestFirstPart = 5;
 constexpr int mostParts = 4;
+/// So many fields of one figure each are a code.
+constexpr int fewestFigures = 4;
 
 bool isShort(const FormField &field, int most)
 {
@@ -56,11 +60,101 @@ QVector<FieldKind> birthParts(const FormField &field)
     return parts;
 }
 
+/// Whether it is as short as the one before it, and has no word but that of the next field.
+bool isNextPart(int i, const QVector<FormField> &fields, const QVector<FieldReading> &readings)
+{
+    const bool isOpen = i < fields.size() && isSilent(fields.at(i), readings.at(i));
+    const int length = isOpen ? fields.at(i).maxLength() : 0;
+    return length > 0 && length == fields.at(i - 1).maxLength() && readings.at(i).isFromBehind;
+}
+
+/// What follows the field that has the words for both.
+void continueOne(int at, const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                 QVector<FieldKind> &kinds)
+{
+    const int next = at + 1;
+    switch (kinds.at(at)) {
+    case FieldKind::SomeName:
+    case FieldKind::FullName:
+        if (fields.at(next).isLine()) {
+            kinds[at] = FieldKind::FirstName;
+            kinds[next] = FieldKind::LastName;
+        }
+        return;
+    case FieldKind::AddressLine1:
+        if (fields.at(next).isLine())
+            kinds[next] = FieldKind::AddressLine2;
+        return;
+    case FieldKind::CardNumber:
+        for (int i = next;
+             (isOpenField(i, fields, readings, kinds) || isNextPart(i, fields, readings)) &&
+             fields.at(i).isLine();
+             ++i)
+            kinds[i] = FieldKind::CardNumber;
+        return;
+    default:
+        return;
+    }
+}
+
+/// "City, State, Zip" before three fields names one after another.
+void continueList(int at, const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                  QVector<FieldKind> &kinds)
+{
+    if (!readings.at(at).hasText)
+        return;
+    QVector<FieldKind> named;
+    for (const FieldKind kind : readings.at(at).named) {
+        if (isIdentityKind(kind) || isPerhapsKind(kind))
+            named.append(kind);
+    }
+    int silent = 0;
+    while (isOpenField(at + silent + 1, fields, readings, kinds))
+        ++silent;
+    if (silent == 0)
+        return;
+    if (named.size() < 2) {
+        continueOne(at, fields, readings, kinds);
+        return;
+    }
+    for (int i = 0; i < named.size() && i <= silent; ++i)
+        kinds[at + i] = named.at(i);
+}
+
 } // namespace
 
 bool isSilent(const FormField &field, const FieldReading &reading)
 {
     return !reading.hasText && !field.isPassword() && (field.isLine() || field.isSelect());
+}
+
+bool isOpenField(int i, const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                 const QVector<FieldKind> &kinds)
+{
+    return i < fields.size() && isSilent(fields.at(i), readings.at(i)) &&
+           (kinds.at(i) == FieldKind::Unknown || isVagueKind(kinds.at(i)));
+}
+
+void continueLists(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                   QVector<FieldKind> &kinds)
+{
+    for (int at = 0; at < fields.size(); ++at)
+        continueList(at, fields, readings, kinds);
+}
+
+void leaveSingleFigures(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
+{
+    for (int from = 0; from < fields.size();) {
+        int to = from;
+        while (to < fields.size() && fields.at(to).maxLength() == 1 &&
+               (fields.at(to).isLine() || fields.at(to).isPassword()))
+            ++to;
+        const bool isCode =
+            to - from >= fewestFigures || (to > from && fields.at(from).isPassword());
+        if (isCode)
+            std::fill(kinds.begin() + from, kinds.begin() + to, FieldKind::Never);
+        from = qMax(to, from + 1);
+    }
 }
 
 void assignSplitFields(const QVector<FormField> &fields, const QVector<FieldReading> &readings,

@@ -18,7 +18,7 @@ QString nameOf(FieldKind kind)
     static const QHash<int, QString> names = [] {
         const QStringList list =
             QStringLiteral(
-                "unknown never other username password new-password cc-first cc-last "
+                "unknown never other bank username password new-password cc-first cc-last "
                 "cc-name cc-number cc-csc cc-month cc-year cc-exp cc-type first last middle name "
                 "country state city line1 line2 house zip email tel tel-code tel-local tel-area "
                 "tel-prefix tel-line "

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void namesAlone();
     void veto_data();
     void veto();
+    void identities_data();
+    void identities();
     void layers();
     void hiddenChoices_data();
     void hiddenChoices();
@@ -130,6 +132,14 @@ void TestFormAnalysis::veto_data()
         "anna|secret");
     row(R"({"label":"Account ID"}, {"label":"User name"}, {"type":"password","label":"Password"})",
         "-|anna|secret");
+    row(R"({"type":"password","label":"1st","maxlength":1}, {"type":"password","label":"4th","maxlength":1})",
+        "-|-");
+    row(R"({"label":"User name"}, {"type":"password","label":"Password"}, {"type":"password","label":"What is your favourite film?"})",
+        "anna|secret|-");
+    row(R"({"type":"password","label":"Passcode","maxlength":6,"heading":"Enter security code"})",
+        "-");
+    row(R"({"label":"E-mail"}, {"type":"password","label":"Password","placeholder":"8 characters or more"})",
+        "-|-");
     row(R"({"label":"Workspace address","heading":"Sign in"})", "-");
     row(R"({"label":"Street","heading":"Sign in"})", "-");
     row(R"({"label":"User name"}, {"type":"password","label":"Password"}, {"type":"password","label":"Social security number"})",
@@ -142,6 +152,74 @@ void TestFormAnalysis::veto()
     const QJsonObject page = pageOf(fields);
     const auto forms = fillLoginForms(page, QStringLiteral("anna"), QStringLiteral("secret"));
     QTEST(valuesOf(forms, fieldsIn(page)), "values");
+}
+
+// Which labels take a value of a person's in a form that asks for an address, a card or neither,
+// and which speak of something or somebody else.
+void TestFormAnalysis::identities_data()
+{
+    QTest::addColumn<QString>("around");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<FieldKind>("kind");
+    const QString address = QStringLiteral("Street|City|Postcode");
+    const QString american = QStringLiteral("Street|City|State|ZIP code");
+    const QString zip = QStringLiteral("Street|City|ZIP code");
+    const QString person = QStringLiteral("E-mail");
+    const QString card = QStringLiteral("Card number|Expiry date");
+    const auto rows = [](const QString &around, FieldKind kind, const char *labels) {
+        const QStringList list = QString::fromUtf8(labels).split(QLatin1Char('|'));
+        for (const QString &label : list)
+            QTest::addRow("%s, %s", qPrintable(around), qPrintable(label))
+                << around << label << kind;
+    };
+    rows(address, FieldKind::State, "County|State/County|Region|Bundesland|Provincia|Область");
+    rows(american, FieldKind::Unknown, "County|Region");
+    rows(zip, FieldKind::Unknown, "County");
+    rows(person, FieldKind::Unknown, "County|Region");
+    rows(address, FieldKind::AddressLine2,
+         "Apt/Suite|Unit|Floor|Adresszusatz|Piso y puerta|Квартира");
+    rows(address, FieldKind::HouseNumber, "House name or number|Hausnummer");
+    rows(address, FieldKind::Unknown,
+         "Locality|P.O. Box|Postfach|Address line 3|Gate code|Landmark|Ortsteil|Район|VAT ID|NIF|"
+         "Company registration number|Gift card code|Coupon");
+    rows(QStringLiteral("Street|Postcode"), FieldKind::City, "Locality|Village|Suburb");
+    rows(address, FieldKind::Company, "Company|Company name (if any)");
+    rows(person, FieldKind::Website, "Company website");
+    rows(person, FieldKind::FullName, "Your name|Customer name|Recipient");
+    rows(person, FieldKind::FirstName, "Patient first name|First and middle names|Vorname");
+    rows(person, FieldKind::Phone, "Home phone|Best phone number to reach you|Telefon (tagsüber)");
+    rows(person, FieldKind::Unknown,
+         "Project name|Pet's name|Name of the school|Name des Kindes|Nombre de la mascota|"
+         "Nom du projet|Имя ребёнка|Mother's first name|Manager's phone|Emergency contact phone|"
+         "Alternate phone|Phone extension|Hotel address|Wallet address|City of birth|"
+         "Ville de naissance|State of issue|Date|Event date|Suffix|Nationality");
+    rows(QStringLiteral("IBAN"), FieldKind::Unknown, "Recipient|Empfänger");
+    rows(QStringLiteral("Your name|Your e-mail"), FieldKind::Unknown, "Recipient's name");
+    rows(QStringLiteral("Description"), FieldKind::Unknown, "Name");
+    rows(card, FieldKind::CardHolder, "Name|Name on card|Karteninhaber");
+    rows(card, FieldKind::CardCode, "Security code|CVC|Prüfnummer|Cryptogramme");
+    rows(card, FieldKind::Unknown,
+         "Gift card number|Store credit code|Loyalty card number|Kundenkarte|License expiration "
+         "date|"
+         "Card nickname|Issue number|Order number|Kontoinhaber");
+}
+
+void TestFormAnalysis::identities()
+{
+    QFETCH(QString, around);
+    QFETCH(QString, label);
+    QVector<FormField> fields;
+    const QStringList labels = around.split(QLatin1Char('|')) << label;
+    for (const QString &text : labels) {
+        fields.append(FormField({{QStringLiteral("type"), QStringLiteral("text")},
+                                 {QStringLiteral("visible"), true},
+                                 {QStringLiteral("label"), text}}));
+    }
+    QFETCH(FieldKind, kind);
+    const auto kindIn = [&](FillAction action) { return analyseForm(fields, {}, action).last(); };
+    const bool isCard = isCardKind(kind);
+    QCOMPARE(kindIn(FillAction::CreditCard), isCard ? kind : FieldKind::Unknown);
+    QCOMPARE(kindIn(FillAction::Identity), isCard ? FieldKind::Unknown : kind);
 }
 
 void TestFormAnalysis::layers()

@@ -58,8 +58,10 @@ void TestItemValues::cardShapes_data()
     row(R"({"label":"Card number","placeholder":"0000-0000-0000-0000"})", "4111-1111-1111-1111");
     row(R"({"label":"Name on card","maxlength":8}, {"label":"Card number"})", "-|4111111111111111");
     row(R"({"label":"Full name"}, {"label":"Card number"})", "Ana Maria Lind|4111111111111111");
-    row(R"({"label":"Full name"}, {"label":"Card number"}, {"label":"Address"})",
-        "-|4111111111111111|-");
+    row(R"({"label":"Full name"}, {"label":"Card number"}, {"label":"Address"}, {"label":"CVC"})",
+        "-|4111111111111111|-|123");
+    // A card that is asked for by its number alone, among other things, is not for paying.
+    row(R"({"label":"Full name"}, {"label":"Card number"}, {"label":"E-mail"})", "-|-|-");
     // A paper that expires, with its day, is no card.
     row(R"({"label":"Number"}, {"label":"Valid until","placeholder":"DD.MM.YYYY"})", "-|-");
     row(R"({"label":"Number"}, {"label":"Expiry"})", "-|-");
@@ -82,8 +84,8 @@ void TestItemValues::cardShapes_data()
     row(R"({"label":"Number","heading":"Card"}, {"label":"Code","heading":"Card"})", "-|-");
     row(R"({"label":"Number","heading":"Card"}, {"label":"Name on card"}, {"label":"Code"})",
         "4111111111111111|Ana Maria Lind|123");
-    row(R"({"label":"Code","heading":"Verification code"}, {"label":"Card number"})",
-        "-|4111111111111111");
+    row(R"({"label":"Code","heading":"Verification code"}, {"label":"Card number"}, {"label":"Card holder"})",
+        "-|4111111111111111|Ana Maria Lind");
 }
 
 void TestItemValues::cardShapes()

@@ -1,0 +1,87 @@
+#include "AddressFields.h"
+
+#include "FieldPhrases.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Settled
+{
+    FieldKind perhaps;
+    FieldKind plain;
+};
+
+bool isOfAddress(FieldKind kind)
+{
+    return kind == FieldKind::City || kind == FieldKind::PostalCode ||
+           kind == FieldKind::AddressLine1;
+}
+
+/// Where a "ZIP code" is asked for, and no "postcode", a county is a part of a state.
+bool isAmerican(const QVector<FormField> &fields, const QVector<FieldKind> &kinds)
+{
+    for (int i = 0; i < fields.size(); ++i) {
+        if (kinds.at(i) != FieldKind::PostalCode)
+            continue;
+        const QStringList texts = fields.at(i).readTexts();
+        for (const QString &text : texts) {
+            const QStringList words = wordsOf(text);
+            if (words.contains(QLatin1String("zip")) && !words.contains(QLatin1String("postal")) &&
+                !words.contains(QLatin1String("postcode")))
+                return true;
+        }
+    }
+    return false;
+}
+
+bool saysCounty(const FormField &field)
+{
+    const QStringList texts = field.readTexts() << field.name();
+    return std::any_of(texts.begin(), texts.end(), [](const QString &text) {
+        return text.contains(QLatin1String("county"), Qt::CaseInsensitive);
+    });
+}
+
+} // namespace
+
+void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                   QVector<FieldKind> &kinds)
+{
+    static const Settled table[] = {{FieldKind::PerhapsCity, FieldKind::City},
+                                    {FieldKind::PerhapsPostalCode, FieldKind::PostalCode},
+                                    {FieldKind::PerhapsState, FieldKind::State},
+                                    {FieldKind::PerhapsLine2, FieldKind::AddressLine2}};
+    const auto streets = kinds.count(FieldKind::AddressLine1);
+    for (const Settled &row : table) {
+        const int count = kinds.count(row.perhaps);
+        if (count == 0)
+            continue;
+        const bool isAddress = std::any_of(kinds.begin(), kinds.end(), isOfAddress);
+        // Two that are as likely are both left empty.
+        const bool isClear = !kinds.contains(row.plain) && count <= qMax(1, streets) && isAddress;
+        const bool isCounty = row.perhaps == FieldKind::PerhapsState && isAmerican(fields, kinds);
+        for (int i = 0; i < fields.size(); ++i) {
+            if (kinds.at(i) == row.perhaps)
+                kinds[i] = isClear && !(isCounty && saysCounty(fields.at(i))) ? row.plain
+                                                                              : FieldKind::Other;
+        }
+    }
+    // "Number" behind the street is the house's.
+    for (int i = 1; i < fields.size(); ++i) {
+        if (kinds.at(i) == FieldKind::SomeNumber && kinds.at(i - 1) == FieldKind::AddressLine1 &&
+            fields.at(i).isLine() && readings.at(i).hasText && !readings.at(i).isStrange)
+            kinds[i] = FieldKind::HouseNumber;
+    }
+}
+
+void leaveExtraStreets(QVector<FieldKind> &kinds)
+{
+    const int most =
+        qMax(1, qMax(kinds.count(FieldKind::City), kinds.count(FieldKind::PostalCode)));
+    int streets = 0;
+    for (FieldKind &kind : kinds) {
+        if (kind == FieldKind::AddressLine1 && ++streets > most)
+            kind = FieldKind::Other;
+    }
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "FieldKind.h"
+#include "FieldReading.h"
+#include "FormField.h"
+
+#include <QVector>
+
+/// Settles the words of an address that mean one thing in one country and another elsewhere:
+/// "county" is the state in Britain, and stands beside the state in America.
+void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                   QVector<FieldKind> &kinds);
+
+/// Leaves what belongs to an address that is not there: a second street without a second city.
+void leaveExtraStreets(QVector<FieldKind> &kinds);

@@ -1,0 +1,130 @@
+#include "OtherPeople.h"
+
+#include "FieldPhrases.h"
+#include "WordSets.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+/// What the kinds have in common that are asked for once of a person.
+FieldKind groupOf(FieldKind kind)
+{
+    switch (kind) {
+    case FieldKind::FirstName:
+    case FieldKind::LastName:
+    case FieldKind::FullName:
+    case FieldKind::SomeName:
+        return FieldKind::FullName;
+    case FieldKind::Email:
+    case FieldKind::Phone:
+        return kind;
+    default:
+        return FieldKind::Unknown;
+    }
+}
+
+/// Whether the form transfers money: who receives it is somebody else.
+bool isTransfer(const QVector<FieldReading> &readings)
+{
+    return std::any_of(readings.begin(), readings.end(), [](const FieldReading &reading) {
+        return reading.says(FieldKind::BankAccount);
+    });
+}
+
+/// Whom a part of a form is about.
+enum class Part { User, Recipient, Stranger };
+
+/// "Passenger 2" where there is a "Passenger 1".
+bool isFurther(const QString &heading, const QStringList &headings)
+{
+    static const QRegularExpression number(QStringLiteral("(?<!\\d)[2-9](?!\\d)"));
+    const QRegularExpressionMatch found = number.match(heading);
+    if (!found.hasMatch())
+        return false;
+    QString first = heading;
+    first.replace(found.capturedStart(), 1, QLatin1Char('1'));
+    return headings.contains(first);
+}
+
+Part partOf(const QString &heading, const QStringList &headings)
+{
+    Part part = isFurther(heading, headings) ? Part::Stranger : Part::User;
+    const QStringList words = wordsOf(heading);
+    for (const QString &word : words) {
+        if (strangerWords().contains(word))
+            return Part::Stranger;
+        if (recipientWords().contains(word) && part == Part::User)
+            part = Part::Recipient;
+    }
+    return part;
+}
+
+/// Whom each field's part of the form is about.
+QVector<Part> partsOf(const QVector<FormField> &fields)
+{
+    QStringList headings;
+    for (const FormField &field : fields) {
+        const QString heading = field.heading();
+        if (headings.isEmpty() || headings.last() != heading)
+            headings.append(heading);
+    }
+    QHash<QString, Part> known;
+    for (const QString &heading : qAsConst(headings)) {
+        if (!known.contains(heading))
+            known.insert(heading, partOf(heading, headings));
+    }
+    QVector<Part> parts;
+    parts.reserve(fields.size());
+    for (const FormField &field : fields)
+        parts.append(known.value(field.heading()));
+    return parts;
+}
+
+} // namespace
+
+void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                      QVector<FieldKind> &kinds)
+{
+    const QVector<Part> parts = partsOf(fields);
+    const auto isOfRecipient = [&](int i) {
+        return readings.at(i).isOfRecipient || parts.at(i) == Part::Recipient;
+    };
+    QVector<FieldKind> own;
+    bool hasRecipient = false;
+    for (int i = 0; i < kinds.size(); ++i) {
+        if (parts.at(i) == Part::Stranger && isIdentityKind(kinds.at(i)))
+            kinds[i] = FieldKind::Other;
+        hasRecipient = hasRecipient || isOfRecipient(i);
+        if (!isOfRecipient(i) && !own.contains(groupOf(kinds.at(i))))
+            own.append(groupOf(kinds.at(i)));
+    }
+    if (!hasRecipient)
+        return;
+    const bool isOfOther = isTransfer(readings);
+    for (int i = 0; i < kinds.size(); ++i) {
+        const FieldKind group = groupOf(kinds.at(i));
+        if (isOfRecipient(i) && group != FieldKind::Unknown && (isOfOther || own.contains(group)))
+            kinds[i] = FieldKind::Other;
+    }
+}
+
+void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+{
+    int only = -1;
+    for (int i = 0; i < kinds.size(); ++i) {
+        if (isCardKind(kinds.at(i)))
+            return;
+        if (!isIdentityKind(kinds.at(i)))
+            continue;
+        if (only >= 0)
+            return;
+        only = i;
+    }
+    if (only >= 0 && kinds.at(only) == FieldKind::FullName && !readings.at(only).isTold &&
+        readings.at(only).kind == FieldKind::SomeName)
+        kinds[only] = FieldKind::Other;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "FieldKind.h"
+#include "FieldReading.h"
+#include "FormField.h"
+
+#include <QVector>
+
+/// Leaves what is asked for of somebody else: of a spouse or a second passenger, by the heading,
+/// and of whoever receives something, where the user's own is asked for as well.
+void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                      QVector<FieldKind> &kinds);
+
+/// Leaves a plain "name" in a form that asks for nothing else of a person: anything has a name.
+void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QSet>
+#include <QStringList>
+#include <QStringView>
+
+/// Words in lower case and without accents, to be asked with parts of a text.
+class WordSet
+{
+public:
+    explicit WordSet(const char *words);
+    WordSet(const WordSet &) = delete;
+    WordSet &operator=(const WordSet &) = delete;
+
+    bool contains(QStringView word) const { return m_views.contains(word); }
+
+private:
+    QStringList m_words;
+    QSet<QStringView> m_views;
+};
+
+/// What may stand beside the name of a field without changing whose it is: "your", "billing".
+const WordSet &harmlessWords();
+
+/// What an English field is in the end, whatever stands before: a name, an address, a number.
+const WordSet &englishHeads();
+
+/// What ties a noun to what follows: "of the", "de la", "des".
+const WordSet &genitiveWords();
+
+/// Whose part of a form is not the user's, when its heading has one of these.
+const WordSet &strangerWords();
+
+/// Who receives something: the user, where nobody else is asked for.
+const WordSet &recipientWords();
