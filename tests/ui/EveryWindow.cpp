@@ -23,11 +23,8 @@
 #include "safes/DeleteSafeDialog.h"
 #include "safes/SafesDialog.h"
 #include "style/Style.h"
-#include "wizard/ExtensionPage.h"
 #include "wizard/FirstRun.h"
-#include "wizard/MoveInPage.h"
 #include "wizard/NewSafePage.h"
-#include "wizard/ReadyPage.h"
 #include "wizard/SetupWizard.h"
 
 #include <QAbstractButton>
@@ -308,40 +305,32 @@ QWidget *shownBeside(Stage &stage, QDialog *window)
     return window;
 }
 
-/// A step of the wizard of the first start.
+/// A step of the wizard of the first start, as it is with a safe.
 Show wizardStep(const char *id)
 {
-    return [id](Stage &stage) {
-        const auto always = [] { return true; };
-        const auto row = [&](const char *name, const QString &title, const auto &make) {
-            return WizardStep{name, title, QString(), always, make};
-        };
-        const PluginsPage::Parts parts{stage.test.core.browsers(), [] { return QString(); },
-                                       [](const BrowserInfo &, QWidget *) {}};
-        auto *wizard = new SetupWizard(
-            {row("safe", FirstRun::tr("Create a safe"),
-                 [&stage](QWidget *parent) {
-                     return new NewSafePage(stage.test.core, stage.theme, parent, {[] {}, [] {}});
-                 }),
-             row("move-in", FirstRun::tr("Bring your passwords over"),
-                 [&stage](QWidget *parent) {
-                     return new MoveInPage(stage.test.core, stage.theme, parent);
-                 }),
-             row("extension", FirstRun::tr("Fill forms in your browser"),
-                 [parts](QWidget *parent) { return new ExtensionPage(parts, parent); }),
-             row("ready", FirstRun::tr("You are ready"),
-                 [](QWidget *parent) { return new ReadyPage(parent); })},
-            stage.theme, stage.main);
-        wizard->goTo(QLatin1String(id));
+    return [id](Stage &stage) -> QWidget * {
         stage.findBrowsers();
-        return shownBeside(stage, wizard);
+        Q_EMIT stage.main->findChild<MainView *>()->setUpRequested();
+        auto *wizard = qobject_cast<SetupWizard *>(stage.window("SetupWizard"));
+        if (!wizard)
+            return nullptr;
+        wizard->goTo(QLatin1String(id));
+        return wizard->step() == QLatin1String(id) ? wizard : nullptr;
     };
 }
 
-QWidget *firstWizardStep(Stage &stage)
+/// The step that exists as long as there is no safe.
+QWidget *wizardSafe(Stage &stage)
 {
-    Q_EMIT stage.main->findChild<MainView *>()->setUpRequested();
-    return stage.window("SetupWizard");
+    const WizardStep step{
+        "safe", FirstRun::tr("Create a safe"),
+        FirstRun::tr(
+            "It keeps your passwords. Only you know its password, and it cannot be recovered."),
+        [] { return true; },
+        [&stage](QWidget *parent) {
+            return new NewSafePage(stage.test.core, stage.theme, parent, {[] {}, [] {}});
+        }};
+    return shownBeside(stage, new SetupWizard({step}, stage.theme, stage.main));
 }
 
 QWidget *preview(Stage &stage, const char *name, const QByteArray &bytes)
@@ -908,8 +897,8 @@ const QVector<WindowCase> &everyWindow()
         {"cloud-safe", mainWindow, Stage::Shared},
         {"cloud-import", cloudImport, Stage::Shared},
         {"cloud-password", cloudPassword, Stage::Shared},
-        {"wizard-language", firstWizardStep},
-        {"wizard-safe", wizardStep("safe"), Stage::Locked},
+        {"wizard-language", wizardStep("language")},
+        {"wizard-safe", wizardSafe, Stage::Locked},
         {"wizard-move-in", wizardStep("move-in")},
         {"wizard-extension", wizardStep("extension")},
         {"wizard-ready", wizardStep("ready")},
