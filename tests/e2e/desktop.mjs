@@ -65,6 +65,24 @@ export async function startDesktop() {
         before = now;
       }
     },
+    /** What has exactly the colour [red, green, blue] on the screen: {left, top, right, bottom}. */
+    async find([red, green, blue]) {
+      const { stdout } = await run('maim', ['-f', 'bmp'], { env, encoding: 'buffer', maxBuffer: 2 ** 24 });
+      const [start, width, height, depth] = [stdout.readUInt32LE(10), stdout.readInt32LE(18), stdout.readInt32LE(22), stdout.readUInt16LE(28) / 8];
+      const line = Math.ceil((width * depth) / 4) * 4;
+      const [xs, ys] = [[], []];
+      for (let y = 0; y < Math.abs(height); y += 1) {
+        for (let x = 0; x < width; x += 1) {
+          const at = start + y * line + x * depth;
+          if (stdout[at] !== blue || stdout[at + 1] !== green || stdout[at + 2] !== red) continue;
+          xs.push(x);
+          ys.push(height > 0 ? height - 1 - y : y);
+        }
+      }
+      const [left, right] = xs.reduce(([least, most], x) => [Math.min(least, x), Math.max(most, x)], [Infinity, -Infinity]);
+      const [top, bottom] = ys.reduce(([least, most], y) => [Math.min(least, y), Math.max(most, y)], [Infinity, -Infinity]);
+      return { left, top, right, bottom };
+    },
     stop() {
       for (const helper of [...helpers, xvfb]) helper.kill();
     },

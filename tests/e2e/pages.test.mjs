@@ -6,8 +6,11 @@ import { test } from 'node:test';
 import { setTimeout } from 'node:timers/promises';
 import { buildSync } from 'esbuild';
 import { makeStage } from './stage.mjs';
+import { UNGRANTED, tellOfToolbar } from './toolbar.mjs';
 
 const PASSWORD = 'first Master 1!';
+// Its place in the menu of new items.
+const CARD = 2;
 const SECRET = 's3cret-of-the-shop';
 const USER = 'ana@shop.example';
 const FILLED = { user: USER, pw: SECRET };
@@ -17,7 +20,10 @@ const PLACE = { user: [60, 90], pw: [60, 160] };
 const SIZE = { width: 300, height: 40 };
 const styleOf = ([left, top]) => `position:fixed;left:${left}px;top:${top}px;width:${SIZE.width}px;height:${SIZE.height}px;box-sizing:border-box`;
 const iconIn = ([left, top]) => [left + SIZE.width - 18, top + SIZE.height / 2];
-const USER_FIELD = `<input name=user autocomplete=username required style="${styleOf(PLACE.user)}">`;
+// So that it can be found on the screen.
+const FIELD_COLOR = [255, 0, 254];
+const COLORED = `border:0;background:rgb(${FIELD_COLOR})`;
+const USER_FIELD = `<input name=user autocomplete=username required style="${styleOf(PLACE.user)};${COLORED}">`;
 const PW_FIELD = `<input name=pw type=password required style="${styleOf(PLACE.pw)}">`;
 const newField = (name, top) => `<input name=${name} type=password autocomplete=new-password required style="${styleOf([60, top])}">`;
 const FIELDS = `${USER_FIELD}${PW_FIELD}<button style="position:fixed;left:60px;top:230px">Log in</button>`;
@@ -73,10 +79,12 @@ const PAGES = {
     <button style="position:fixed;left:60px;top:230px">Create account</button></form>`,
   '/change': `<form method=post action=/done>${PW_FIELD}${newField('chosen', 300)}${newField('again', 360)}
     <button style="position:fixed;left:60px;top:230px">Change password</button></form>`,
+  '/card': `<form><input name=number autocomplete=cc-number style="${styleOf(PLACE.user)};${COLORED}">
+    <input name=code autocomplete=cc-csc style="${styleOf(PLACE.pw)}"></form>`,
   '/covered': `${FORM}<div style="position:fixed;inset:0;background:white">Win a prize!</div>`,
   '/ghost': `${FORM}<div style="position:fixed;inset:0;background:white;pointer-events:none;z-index:2147483647">Win a prize!</div>`,
   '/faint': `<div style="opacity:0.01">${FORM}</div>`,
-  '/foreign': (port) => `<iframe src="http://evil.example:${port}/plain" style="position:fixed;left:0;top:0;width:600px;height:400px;border:0"></iframe>`,
+  '/foreign': (port) => `<iframe src="https://evil.example:${port}/plain" style="position:fixed;left:0;top:0;width:600px;height:400px;border:0"></iframe>`,
   '/scripted': `${FORM}<script>
     addEventListener('load', () => setTimeout(() => {
       for (const host of document.documentElement.children) host.dispatchEvent(new MouseEvent('click', { bubbles: true, clientX: ${iconIn(PLACE.pw)[0]}, clientY: ${iconIn(PLACE.pw)[1]} }));
@@ -89,14 +97,16 @@ const PAGES = {
 
 const limit = { timeout: Number(process.env.LIMIT ?? 30000) };
 const QUICK = '^Quick access$';
-const stage = makeStage({ pages: PAGES, hosts: ['shop.example', 'evil.example'] });
+const stage = makeStage({ pages: PAGES, hosts: ['shop.example', 'evil.example'], secure: true, approved: false });
 
-test('a safe with one login for the site', limit, async () => {
+test('a safe with one login for the site, and a card', limit, async () => {
   await stage.user.createSafe('Personal', PASSWORD, 'the first one');
   await stage.user.addLogin({ title: 'Shop', userName: USER, password: SECRET, url: stage.at('/plain') });
+  await stage.user.addItem(CARD, ['My card', '4111111111111111', 'Ana Lind', '09 / 2029', '123']);
 });
 
 stage.inEachBrowser((kind) => {
+  const tellTheEnd = tellOfToolbar(stage, kind, { path: '/plain', crystal: iconIn(PLACE.pw), masterPassword: PASSWORD, password: SECRET });
   let page;
 
   async function open(path) {
@@ -162,6 +172,52 @@ stage.inEachBrowser((kind) => {
     assert.equal(await isQuickOpen(), false);
   });
 
+  /** Where the coloured field is on the screen, once the browser has drawn it. */
+  async function fieldOnScreen() {
+    let place;
+    await stage.program.until(async () => Number.isFinite((place = await stage.desktop.find(FIELD_COLOR)).left), 'the field');
+    return place;
+  }
+
+  /** Chooses from the extension's part of a field's menu, by the place of the entry. */
+  async function choose(entry) {
+    const { left, top } = await fieldOnScreen();
+    await stage.desktop.click(left + 10, top + 10, 3);
+    await setTimeout(500);
+    if (process.env.PICTURES) await stage.desktop.picture(`${process.env.PICTURES}/menu-${kind}.png`);
+    await stage.desktop.press({ chromium: 'g', firefox: 'Up' }[kind], 'Right', ...Array(entry).fill('Down'), 'Return');
+  }
+
+  test('the menu of a field fills its login', limit, async () => {
+    await open('/plain');
+    await choose(0);
+    assert.deepEqual(await send(), { path: '/done', fields: FILLED });
+  });
+
+  test('the menu of a field fills a card, chosen in quick access', limit, async () => {
+    await open('/card');
+    await choose(1);
+    
+    await quickHasKeys();
+    await stage.desktop.type('my c');
+    await stage.desktop.press('Return');
+    await page.waitForFunction(() => document.querySelector('[name=code]').value === '123');
+    assert.equal(await page.$eval('[name=number]', ({ value }) => value), '4111111111111111');
+  });
+
+  test('where a page is shown larger, quick access opens at the field all the same', limit, async () => {
+    await open('/plain');
+    await pressInPage('ctrl+0');
+    await stage.desktop.press('ctrl+plus', 'ctrl+plus', 'ctrl+plus');
+    await page.waitForFunction(() => devicePixelRatio > 1.3);
+    const field = await fieldOnScreen();
+    await clickIcon(PLACE.user);
+    const { left, top } = await stage.desktop.placeOf(await stage.user.quickAccess());
+    assert.ok(Math.abs(left - field.left) <= 4 && top > field.bottom && top < field.bottom + 12, JSON.stringify([field, left, top]));
+    await stage.desktop.press('Escape');
+    await pressInPage('ctrl+0');
+  });
+
   for (const [path, other] of [['/signup', 'user'], ['/change', 'pw']]) {
     test(`a generated password goes into both new fields and no other: ${path}`, limit, async () => {
       const values = () => page.$$eval('input', (inputs) => Object.fromEntries(inputs.map(({ name, value }) => [name, value])));
@@ -208,4 +264,6 @@ stage.inEachBrowser((kind) => {
     await setTimeout(300);
     assert.equal(await isQuickOpen(), false);
   });
-}, { visible: true });
+
+  tellTheEnd();
+}, { connect: false, visible: true, preferences: UNGRANTED });

@@ -9,26 +9,10 @@ import { test } from 'node:test';
 import { setTimeout } from 'node:timers/promises';
 import WebSocket from 'ws';
 import { buildExtension } from './browser.mjs';
-import { makeStage } from './stage.mjs';
 
-const PASSWORD = 'first Master 1!';
 const QUICK = '^Quick access$';
-const FIELD = 'position:fixed;left:60px;width:300px;height:40px;box-sizing:border-box';
-const PAGES = { '/': `<title>Shop</title><form><input name=user autocomplete=username style="${FIELD};top:90px"><input name=pw type=password style="${FIELD};top:160px"></form>` };
-const CRYSTAL = [60 + 300 - 18, 160 + 20];
 // Where the button "Allow" of the question has its middle, from the corner at the bottom right.
 const ALLOW = [53, 33];
-
-const limit = { timeout: 60000 };
-const stage = makeStage({ pages: PAGES, hosts: ['shop.example'], approved: false });
-const isQuickOpen = () => stage.desktop.isVisible(QUICK);
-const shot = (name) => process.env.PICTURES && stage.desktop.picture(`${process.env.PICTURES}/${name}.png`);
-
-async function leaveQuick() {
-  await stage.desktop.activate(QUICK);
-  await stage.desktop.press('Escape');
-  await stage.program.until(async () => !(await isQuickOpen()), 'quick access to close');
-}
 
 /** Another browser that comes as soon as the program does. */
 async function otherBrowser() {
@@ -42,14 +26,26 @@ async function otherBrowser() {
   }
 }
 
-test('a safe with one login for the site', limit, async () => {
-  await stage.user.createSafe('Personal', PASSWORD, 'the first one');
-  await stage.user.addLogin({ title: 'Shop', userName: 'ana', password: 's3cret', url: stage.at('/') });
-});
+const limit = { timeout: 60000 };
 
-stage.inEachBrowser((kind) => {
+/** A browser that grants nothing at first, for stories that begin with letting the extension in. */
+export const UNGRANTED = { 'extensions.originControls.grantByDefault': false };
+
+/**
+ * Tells of the toolbar button in a browser: path leads to a page with a crystal at the place, and the stage's open safe
+ * has one login with the password for it. Returns the stories for the end, after which the browser has another extension.
+ */
+export function tellOfToolbar(stage, kind, { path, crystal, masterPassword, password }) {
+  const isQuickOpen = () => stage.desktop.isVisible(QUICK);
+  const shot = (name) => process.env.PICTURES && stage.desktop.picture(`${process.env.PICTURES}/${name}.png`);
   let page;
   let popup;
+
+  async function leaveQuick() {
+    await stage.desktop.activate(QUICK);
+    await stage.desktop.press('Escape');
+    await stage.program.until(async () => !(await isQuickOpen()), 'quick access to close');
+  }
 
   /** Waits until the pop-up shows the state: its words, and what can be pressed. */
   async function shows(state) {
@@ -79,7 +75,7 @@ stage.inEachBrowser((kind) => {
   async function clickCrystal() {
     await page.bringToFront();
     await stage.program.until(async () => {
-      await page.mouse.click(...CRYSTAL);
+      await page.mouse.click(...crystal);
       await setTimeout(1000);
       return isQuickOpen();
     }, 'quick access');
@@ -88,7 +84,7 @@ stage.inEachBrowser((kind) => {
 
   test('a page is open before the extension is allowed anything', limit, async () => {
     page = await stage.browser.browser.newPage();
-    await page.goto(stage.at('/'));
+    await page.goto(stage.at(path));
     await openPopup();
   });
 
@@ -108,7 +104,7 @@ stage.inEachBrowser((kind) => {
       'Pages are not allowed yet', 'To find and fill fields, the extension has to be allowed on the sites you visit', 'Allow…',
     ]);
     await page.bringToFront();
-    await page.mouse.click(...CRYSTAL);
+    await page.mouse.click(...crystal);
     await stage.desktop.activate('Mozilla Firefox$');
     await popup.bringToFront();
     await popup.click('#permission button');
@@ -122,7 +118,7 @@ stage.inEachBrowser((kind) => {
   test('a page that was there before is filled by a click on its crystal', limit, async () => {
     await clickCrystal();
     await stage.desktop.press('Return');
-    await page.waitForFunction(() => document.querySelector('[name=pw]').value === 's3cret');
+    await page.waitForFunction((value) => document.querySelector('[name=pw]').value === value, {}, password);
   });
 
   test('connected: the safe, the logins of the page, quick access', limit, async () => {
@@ -137,7 +133,7 @@ stage.inEachBrowser((kind) => {
     await openPopup();
     assert.deepEqual(await shows('locked'), ['The safe is locked', 'Unlock it in the program to fill this page', 'Unlock…']);
     await press();
-    await stage.desktop.type(PASSWORD);
+    await stage.desktop.type(masterPassword);
     await stage.desktop.press('Return');
     await stage.program.until(() => stage.desktop.isVisible('^Personal - '), 'the open safe');
     await leaveQuick();
@@ -161,31 +157,33 @@ stage.inEachBrowser((kind) => {
     ]);
     other.close();
     await shows('locked');
-    await stage.user.unlock(PASSWORD);
+    await stage.user.unlock(masterPassword);
     await shows('connected');
+    await stage.desktop.activate('(Chromium|Mozilla Firefox)$');
   });
 
-  // Last, as the browser keeps it.
-  test('another version takes over in open pages; one that is too old says so', limit, async () => {
-    const folder = mkdtempSync(join(tmpdir(), 'glaceron-old-'));
-    cpSync(buildExtension(kind), folder, { recursive: true });
-    const manifest = join(folder, 'manifest.json');
-    writeFileSync(manifest, readFileSync(manifest, 'utf8').replace('"1.1.32"', '"1.0.1.25"'));
-    await popup.close();
-    await stage.browser.browser.installExtension(folder);
-    if (kind === 'chromium') {
-      await stage.desktop.activate('^Warning$');
-      await stage.desktop.press('Return');
-    }
-    await clickCrystal();
-    assert.equal(await page.$$eval('html > div', ({ length }) => length), 1);
-    await leaveQuick();
-    await openPopup();
-    if (kind === 'chromium') {
-      assert.deepEqual(await shows('version'), [
-        'This extension is too old', 'Update it; the settings of Glaceron Password Manager, under Browser, show the way',
-      ]);
-    } else await shows('connected');
-    rmSync(folder, { recursive: true });
-  });
-}, { connect: false, visible: true, preferences: { 'extensions.originControls.grantByDefault': false } });
+  return () => {
+    test('another version takes over in open pages; one that is too old says so', limit, async () => {
+      const folder = mkdtempSync(join(tmpdir(), 'glaceron-old-'));
+      cpSync(buildExtension(kind), folder, { recursive: true });
+      const manifest = join(folder, 'manifest.json');
+      writeFileSync(manifest, readFileSync(manifest, 'utf8').replace('"1.1.32"', '"1.0.1.25"'));
+      await popup.close();
+      await stage.browser.browser.installExtension(folder);
+      if (kind === 'chromium') {
+        await stage.desktop.activate('^Warning$');
+        await stage.desktop.press('Return');
+      }
+      await clickCrystal();
+      assert.equal(await page.$$eval('html > div', ({ length }) => length), 1);
+      await leaveQuick();
+      await openPopup();
+      if (kind === 'chromium') {
+        assert.deepEqual(await shows('version'), [
+          'This extension is too old', 'Update it; the settings of Glaceron Password Manager, under Browser, show the way',
+        ]);
+      } else await shows('connected');
+      rmSync(folder, { recursive: true });
+    });
+  };
+}
