@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QMetaEnum>
 
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -22,35 +23,54 @@ QString enumName(Enum value)
     return QString::fromLatin1(QMetaEnum::fromType<Enum>().valueToKey(value));
 }
 
-// One reader a type: a missing key or a value of another type leaves the field as it is.
+// One reader a type: a missing key or a value of no use leaves the field as it is.
+
+void refuse(const QJsonValue &value, const char *key)
+{
+    if (!value.isUndefined())
+        qWarning() << "GPMAppSettings: a setting makes no sense:" << key;
+}
 
 void readField(const QJsonObject &object, const char *key, bool &field)
 {
-    field = object.value(QLatin1String(key)).toBool(field);
+    const QJsonValue value = object.value(QLatin1String(key));
+    if (!value.isBool())
+        return refuse(value, key);
+    field = value.toBool();
 }
 
 void readField(const QJsonObject &object, const char *key, int &field)
 {
-    field = object.value(QLatin1String(key)).toInt(field);
+    const QJsonValue value = object.value(QLatin1String(key));
+    // It gives what it is handed for a fraction, and for what no int can hold.
+    if (value.toInt(0) != value.toInt(1))
+        return refuse(value, key);
+    field = value.toInt();
 }
 
 void readField(const QJsonObject &object, const char *key, QString &field)
 {
-    field = object.value(QLatin1String(key)).toString(field);
+    const QJsonValue value = object.value(QLatin1String(key));
+    if (!value.isString())
+        return refuse(value, key);
+    field = value.toString();
 }
 
 void readField(const QJsonObject &object, const char *key, QDateTime &field)
 {
     const QJsonValue value = object.value(QLatin1String(key));
-    if (value.isDouble())
-        field = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(value.toDouble()), Qt::UTC);
+    // All of them are whole numbers that a double holds exactly.
+    const double longest = 9e15;
+    if (!value.isDouble() || std::abs(value.toDouble()) > longest)
+        return refuse(value, key);
+    field = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(value.toDouble()), Qt::UTC);
 }
 
 void readField(const QJsonObject &object, const char *key, QStringList &field)
 {
     const QJsonValue value = object.value(QLatin1String(key));
     if (!value.isArray())
-        return;
+        return refuse(value, key);
     field.clear();
     const QJsonArray entries = value.toArray();
     for (const QJsonValue &entry : entries) {
@@ -63,10 +83,11 @@ template <typename Enum>
 void readEnum(const QJsonObject &object, const char *key, Enum &field)
 {
     bool known = false;
-    const QByteArray name = object.value(QLatin1String(key)).toString().toLatin1();
-    const int value = QMetaEnum::fromType<Enum>().keyToValue(name.constData(), &known);
-    if (known)
-        field = static_cast<Enum>(value);
+    const QJsonValue name = object.value(QLatin1String(key));
+    const int value = QMetaEnum::fromType<Enum>().keyToValue(name.toString().toLatin1(), &known);
+    if (!known)
+        return refuse(name, key);
+    field = static_cast<Enum>(value);
 }
 
 } // namespace

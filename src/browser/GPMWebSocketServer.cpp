@@ -313,7 +313,8 @@ void GPMWebSocketServer::dispatch(const QString &callerId, const QString &action
              Q_EMIT server.stateRequested(caller, data);
          }},
         {QStringLiteral("pressEnterKey"), [](Server &server, const QString &, const QJsonObject &) {
-             server.m_platform.pressEnterKey();
+             if (!server.m_platform.pressEnterKey())
+                 qWarning("GPMWebSocketServer: no window takes the Enter key");
          }}};
     if (const Handler handler = handlers.value(action))
         handler(*this, callerId, payload);

@@ -1,7 +1,5 @@
 #include "HotkeyText.h"
 
-#include <QKeySequence>
-
 namespace {
 
 using Keys = SystemHotkeys;
@@ -75,4 +73,10 @@ std::optional<SystemHotkeys::Combination> hotkeyCombination(const QString &text)
     if (combination.key == 0 || (!guarded && !standsAlone(combination.key)))
         return {};
     return combination;
+}
+
+QKeySequence hotkeySequence(const QString &text)
+{
+    return hotkeyCombination(text) ? QKeySequence::fromString(text, QKeySequence::PortableText)
+                                   : QKeySequence();
 }

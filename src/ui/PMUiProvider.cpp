@@ -1,7 +1,7 @@
 #include "PMUiProvider.h"
 
 #include "GPMAppCore.h"
-#include "LockShortcut.h"
+#include "HotkeyShortcuts.h"
 #include "SideWindows.h"
 #include "TrayIcon.h"
 #include "WebPages.h"
@@ -152,6 +152,8 @@ void PMUiProvider::createMainWindow()
     connect(m_window.get(), &SecureWindow::hidden, this, &PMUiProvider::saveWindowState);
     connect(makeLockShortcut(m_core.settings(), *m_window), &QShortcut::activated, this,
             &PMUiProvider::lock);
+    connect(makeQuickAccessShortcut(m_core.settings(), *m_window), &QShortcut::activated, &m_core,
+            &GPMAppCore::openQuickAccess);
     m_settings.restoreGeometry(*m_window);
     view->restoreSplitter(m_settings.splitter(m_window->objectName()));
     makeTray();
@@ -317,7 +319,7 @@ void PMUiProvider::bringToFront()
         return;
     m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     m_window->show();
-    putInFront(*m_window->windowHandle());
+    putInFront(*m_window->windowHandle(), m_window->objectName());
     m_window->raise();
     m_window->activateWindow();
     m_firstRun->showExpected();

@@ -1,5 +1,6 @@
 #include "TrayIcon.h"
 
+#include "HotkeyText.h"
 #include "style/SvgIcon.h"
 
 TrayIcon::TrayIcon(QObject *parent)
@@ -26,10 +27,10 @@ TrayIcon::TrayIcon(QObject *parent)
 
 void TrayIcon::setQuickHotkey(const QString &keys)
 {
-    m_quick->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
+    m_quick->setShortcut(hotkeySequence(keys));
 }
 
 void TrayIcon::setLockHotkey(const QString &keys)
 {
-    m_lock->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
+    m_lock->setShortcut(hotkeySequence(keys));
 }

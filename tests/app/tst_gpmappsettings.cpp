@@ -127,18 +127,31 @@ private Q_SLOTS:
     void partialFiles_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::newRow("marker alone") << json("{'config':'gpm'}");
+        QTest::addColumn<int>("refused"); // each of them with a line in the log
+        QTest::newRow("marker alone") << json("{'config':'gpm'}") << 0;
         QTest::newRow("wrong types")
             << json("{'backup_count':'x','first_start':3,'recent_list':{},'login_mode':0,"
-                    "'backup_check':'now','backup_path':7,'instance_id':[]}");
-        QTest::newRow("unknown names") << json(
-            "{'login_mode':'Never','plugin_open_mode':'newtab','backup_interval':'Hourly'}");
+                    "'backup_check':'now','backup_path':7,'instance_id':[]}")
+            << 7;
+        QTest::newRow("unknown names")
+            << json("{'login_mode':'Never','plugin_open_mode':'newtab','backup_interval':'Hourly'}")
+            << 3;
+        QTest::newRow("numbers that none can hold")
+            << json("{'inactivity_interval':1e300,'backup_count':2.5,'backup_check':-1e300}") << 3;
     }
     void partialFiles()
     {
         QFETCH(QByteArray, text);
+        QFETCH(int, refused);
         write(text);
+        static int warnings;
+        warnings = 0;
+        const QtMessageHandler before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &) { ++warnings; });
         const auto settings = load();
+        qInstallMessageHandler(before);
+        QCOMPARE(warnings, refused);
+        QCOMPARE(settings->inactivityInterval(), 3);
         QCOMPARE(settings->backupPath(), QString());
         QVERIFY(settings->backupCheck().isNull());
         QCOMPARE(settings->backupCount(), 10);

@@ -96,6 +96,7 @@ void TestHotkeys::text()
     QFETCH(int, key);
     const std::optional<SystemHotkeys::Combination> combination = hotkeyCombination(text);
     QCOMPARE(combination.has_value(), key != 0);
+    QCOMPARE(hotkeySequence(text).isEmpty(), key == 0);
     if (combination) {
         QCOMPARE(int(combination->modifiers), modifiers);
         QCOMPARE(int(combination->key), key);

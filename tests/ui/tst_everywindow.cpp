@@ -1,6 +1,8 @@
 #include "EveryWindow.h"
 #include "WindowChecks.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -22,6 +24,8 @@ private Q_SLOTS:
     void textsFit_data();
     void textsFit();
     void everythingIsTranslated();
+    void aLockLeavesNoItemInSight_data();
+    void aLockLeavesNoItemInSight();
 
 private:
     using Check = std::function<QStringList(QWidget &, const Stage &)>;
@@ -140,6 +144,64 @@ void TestEveryWindow::everythingIsTranslated()
     QVERIFY(allPass({false, 100, QStringLiteral("ru")}, [](QWidget &window, const Stage &stage) {
         return WindowChecks::latinTexts(window, stage.ownWords());
     }));
+}
+
+/// What visible windows tell of the values.
+static QStringList shownValues(const QStringList &values)
+{
+    QStringList found;
+    const auto look = [&](const QWidget &widget, const QString &text) {
+        for (const QString &value : values) {
+            if (text.contains(value))
+                found << QStringLiteral("%1 in %2 of %3")
+                             .arg(value, QLatin1String(widget.metaObject()->className()),
+                                  widget.window()->objectName());
+        }
+    };
+    for (const QWidget *widget : QApplication::allWidgets()) {
+        if (!widget->isVisible())
+            continue;
+        look(*widget, widget->isWindow() ? widget->windowTitle() : widget->toolTip());
+        for (const char *property : {"text", "plainText"})
+            look(*widget, widget->property(property).toString());
+        const auto *view = qobject_cast<const QAbstractItemView *>(widget);
+        for (int row = 0; view && view->model() && row < view->model()->rowCount(); ++row)
+            look(*widget, view->model()->index(row, 0).data().toString());
+    }
+    return found;
+}
+
+void TestEveryWindow::aLockLeavesNoItemInSight_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"edit-login", "selection", "health", "generator-recent",
+                             "move-in-preview", "export", "question", "save-login", "quick-access"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestEveryWindow::aLockLeavesNoItemInSight()
+{
+    QFETCH(QString, name);
+    const auto shown =
+        std::find_if(everyWindow().begin(), everyWindow().end(),
+                     [&name](const WindowCase &one) { return name == QLatin1String(one.name); });
+    QVERIFY(shown != everyWindow().end());
+    Stage stage(shown->safe);
+    stage.open({});
+    QVERIFY(shown->show(stage));
+    QStringList values{QStringLiteral("Alpine Shop")}; // in a file to be moved in
+    for (const PMListItem *item : stage.test.core.currentSafe()->items()) {
+        for (const char *field : {"title", "login", "password", "number"}) {
+            const QString value = item->property(field).toString();
+            if (!value.isEmpty())
+                values << value;
+        }
+    }
+    QVERIFY(!shownValues(values).isEmpty());
+    stage.test.user->idleMs = 180001;
+    stage.test.core.checkInactivity();
+    QVERIFY(!stage.test.core.currentSafe()->isUnlocked());
+    QCOMPARE(shownValues(values), QStringList());
 }
 
 QTEST_MAIN(TestEveryWindow)

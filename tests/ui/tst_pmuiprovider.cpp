@@ -47,6 +47,7 @@ private Q_SLOTS:
     void lockClosesMessagesAboutItems();
     void guardLocksThroughMenuAndDialog();
     void nothingIsDrawnAfterALongSleep();
+    void hotkeysWorkInOurWindows();
     void requestsKeepWhatIsEntered();
     void withoutATrayNothingIsHidden();
     void generatorFillsThePasswordOfAnItem();
@@ -93,6 +94,9 @@ void TestPMUiProvider::secondStartBringsTheWindowBack()
     TestCore test;
     Ui ui(test);
     ui.window().showMinimized();
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral(
+                                         "^UI: Window SecureWindow: ActivateWindow, hWnd: "
+                                         "[0-9a-f]+, Parent: QWindow\\(0x0\\)$")));
     ui.provider.bringToFront();
     QVERIFY(!ui.window().isMinimized());
     ui.window().close();
@@ -314,6 +318,30 @@ void TestPMUiProvider::nothingIsDrawnAfterALongSleep()
     QCOMPARE(watch.paintedOpen, 0);
     QCOMPARE(find<QLabel>(ui.window(), "unlockSubtitle")->text(),
              QStringLiteral("Locked because the computer slept"));
+}
+
+void TestPMUiProvider::hotkeysWorkInOurWindows()
+{
+    TestCore test;
+    GPMAppSettings &settings = test.core.settings();
+    settings.setLockHotkey(QStringLiteral("L")); // who types would lock the safe
+    Ui ui(test);
+    QVERIFY(test.createSafe());
+    ui.provider.bringToFront();
+    QVERIFY(QTest::qWaitForWindowActive(&ui.window()));
+    QTest::keyClick(&ui.window(), Qt::Key_L);
+    QVERIFY(test.core.currentSafe()->isUnlocked());
+    settings.setLockHotkey(QStringLiteral("Ctrl+Alt+K"));
+    settings.setPluginHotkey(QStringLiteral("Ctrl+F9"));
+    QSignalSpy wished(&test.core, &GPMAppCore::requestQuickAccess);
+    QTest::keyClick(&ui.window(), Qt::Key_F9, Qt::ControlModifier);
+    QCOMPARE(wished.count(), 1);
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (top != &ui.window() && top->isVisible())
+            top->close();
+    }
+    QTest::keyClick(&ui.window(), Qt::Key_K, Qt::ControlModifier | Qt::AltModifier);
+    QVERIFY(!test.core.currentSafe()->isUnlocked());
 }
 
 void TestPMUiProvider::requestsKeepWhatIsEntered()

@@ -21,7 +21,7 @@ Time serverTime(Display *display, Window root)
 
 bool putWindowInFront(std::uintptr_t window)
 {
-    const XConnection server{!XConnection::isGuest()};
+    const XConnection server;
     Display *display = server.display();
     if (!display)
         return false;

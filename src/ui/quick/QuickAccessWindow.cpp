@@ -164,7 +164,7 @@ void QuickAccessWindow::open(const QuickAccessWish &wish)
     place();
     show();
     takeFocus();
-    putInFront(*windowHandle());
+    putInFront(*windowHandle(), objectName());
     raise();
     activateWindow();
 }
