@@ -126,9 +126,6 @@ BrowserPlaces::system(const std::function<QString(const QString &key)> &currentU
         return qEnvironmentVariable(name.toLatin1().constData());
     };
     places.currentUserRegistry = currentUserRegistry;
-#ifdef Q_OS_WIN
-    places.isWindows = true;
-#endif
     return places;
 }
 

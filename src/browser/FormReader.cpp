@@ -15,7 +15,7 @@
 namespace {
 
 /// How many fields away a neighbour still counts.
-constexpr int near = 4;
+constexpr int nearby = 4;
 
 /// Reads the fields of a form one after another, each with what is known of those around it.
 class Reader
@@ -94,7 +94,7 @@ private:
                                                    FieldKind::CardCode,     FieldKind::CardType,
                                                    FieldKind::CardMonth,    FieldKind::CardYear,
                                                    FieldKind::CardFirstName};
-        for (int i = qMax(0, at - near); i <= at + near; ++i) {
+        for (int i = qMax(0, at - nearby); i <= at + nearby; ++i) {
             if (i != at && telling.contains(kindAt(i)))
                 return true;
         }
@@ -117,7 +117,7 @@ private:
             return false;
         const bool isHeaded = captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
         for (int i = 0; i < m_fields.size(); ++i) {
-            if (i != at && saysCard(i) && (isHeaded || qAbs(i - at) <= near))
+            if (i != at && saysCard(i) && (isHeaded || qAbs(i - at) <= nearby))
                 return true;
         }
         return false;
@@ -125,7 +125,7 @@ private:
 
     bool isNear(int at, FieldKind kind) const
     {
-        for (int i = at - near; i <= at + near; ++i) {
+        for (int i = at - nearby; i <= at + nearby; ++i) {
             if (kindAt(i) == kind)
                 return true;
         }

@@ -25,9 +25,11 @@ GPMAppCore::Places standardPlaces()
 
 BrowserPlaces systemBrowsers(Platform &platform)
 {
-    return BrowserPlaces::system([&platform](const QString &key) {
+    BrowserPlaces places = BrowserPlaces::system([&platform](const QString &key) {
         return QString::fromStdString(platform.currentUserRegistryValue(key.toStdString(), {}));
     });
+    places.isWindows = platform.windowsVersionCode() != 0;
+    return places;
 }
 
 SafeEnvironment safeEnvironment(const QString &dataFolder)

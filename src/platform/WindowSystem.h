@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 /// What windows with a frame of our own ask of the system. Safe to call where the system lacks it.
 namespace WindowSystem {
@@ -37,6 +38,10 @@ bool answerFrameMessage(void *message, std::intptr_t *result);
 /// Leaves a window out of screenshots, recordings and shared screens, or lets it appear there
 /// again. False where the system cannot. Windows alone.
 bool hideFromCapture(std::uintptr_t window, bool hide);
+
+/// Whether the user has chosen dark windows, where Qt's palette does not follow that. Windows
+/// alone.
+std::optional<bool> prefersDark();
 
 /// Whether the user has switched animations off. Windows alone.
 bool wantsStillness();

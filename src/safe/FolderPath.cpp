@@ -1,5 +1,7 @@
 #include "FolderPath.h"
 
+#include "FileNameCase.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -20,11 +22,7 @@ QString canonicalFolder(const QString &path)
 QString folderKey(const QString &path)
 {
     const QString canonical = canonicalFolder(path);
-#ifdef Q_OS_WIN
-    return canonical.toCaseFolded();
-#else
-    return canonical;
-#endif
+    return fileNamesIgnoreCase() ? canonical.toCaseFolded() : canonical;
 }
 
 bool isSameFolder(const QString &one, const QString &other)

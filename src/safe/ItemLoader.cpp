@@ -7,7 +7,7 @@
 
 namespace {
 
-struct ReadFile
+struct ReadItemFile
 {
     using result_type = LoadedFile;
 
@@ -43,7 +43,7 @@ QFuture<LoadedFile> loadItemFiles(const QStringList &fileNames, const QString &c
                                   std::shared_ptr<FileLayer> files)
 {
     return QtConcurrent::mapped(fileNames,
-                                ReadFile{contentFolder, std::move(password), std::move(files)});
+                                ReadItemFile{contentFolder, std::move(password), std::move(files)});
 }
 
 void LoadedItems::add(const LoadedFile &file)

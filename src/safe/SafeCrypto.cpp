@@ -216,8 +216,8 @@ QString makePassId(const QByteArray &password, const RandomSource &random)
     const auto first = std::find_if(half.begin(), half.end(), [](unsigned char b) { return b; });
     const unsigned char mask = first == half.end() ? 0 : *first;
     QByteArray plain(reinterpret_cast<const char *>(half.data()), passIdHalf);
-    for (const unsigned char byte : half)
-        plain.append(static_cast<char>(byte ^ mask));
+    for (const unsigned char each : half)
+        plain.append(static_cast<char>(each ^ mask));
     QString passId;
     encryptString(password, plain, passId, random);
     return passId;

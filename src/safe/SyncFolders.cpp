@@ -22,12 +22,8 @@ QStringList providerInfoFiles(const QString &roaming, const QString &local, cons
 
 QStringList providerInfoFiles()
 {
-#ifdef Q_OS_WIN
     return providerInfoFiles(qEnvironmentVariable("APPDATA"), qEnvironmentVariable("LOCALAPPDATA"),
-                             {});
-#else
-    return providerInfoFiles({}, {}, QDir::homePath());
-#endif
+                             QDir::homePath());
 }
 
 QVector<SyncFolder> parseProviderInfo(const QByteArray &json)

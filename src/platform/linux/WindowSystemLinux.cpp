@@ -77,6 +77,11 @@ bool WindowSystem::hideFromCapture(std::uintptr_t, bool)
     return false;
 }
 
+std::optional<bool> WindowSystem::prefersDark()
+{
+    return std::nullopt;
+}
+
 bool WindowSystem::wantsStillness()
 {
     return false;

@@ -39,5 +39,8 @@ LRESULT CALLBACK MessageWindow::procedure(HWND window, UINT message, WPARAM word
         reinterpret_cast<const MessageWindow *>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (self)
         self->m_handler(message, word, value);
+    // A tool that asks all windows of a program to close must not make it deaf.
+    if (message == WM_CLOSE)
+        return 0;
     return DefWindowProcW(window, message, word, value);
 }

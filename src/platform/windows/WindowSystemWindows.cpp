@@ -128,6 +128,16 @@ bool WindowSystem::hideFromCapture(std::uintptr_t window, bool hide)
            SetWindowDisplayAffinity(handle, WDA_MONITOR);
 }
 
+std::optional<bool> WindowSystem::prefersDark()
+{
+    DWORD light = 1;
+    DWORD size = sizeof(light);
+    RegGetValueW(HKEY_CURRENT_USER,
+                 L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                 L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &light, &size);
+    return light == 0;
+}
+
 bool WindowSystem::wantsStillness()
 {
     BOOL animated = TRUE;

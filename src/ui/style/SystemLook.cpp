@@ -39,18 +39,11 @@ const QVector<Row> &rows()
 
 bool SystemLook::isDark()
 {
-#ifdef Q_OS_WIN
-    // Qt's own palette stays light on Windows whatever the user chose there.
-    const QSettings personal(
-        QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\"
-                       "Personalize"),
-        QSettings::NativeFormat);
-    return personal.value(QStringLiteral("AppsUseLightTheme"), 1).toInt() == 0;
-#else
+    if (const std::optional<bool> dark = WindowSystem::prefersDark())
+        return *dark;
     const QPalette palette = QApplication::palette();
     return palette.color(QPalette::Window).lightness() <
            palette.color(QPalette::WindowText).lightness();
-#endif
 }
 
 bool SystemLook::wantsReducedMotion()

@@ -68,6 +68,8 @@ void sessionMessages()
         {"battery", WM_POWERBROADCAST, PBT_APMPOWERSTATUSCHANGE, {}},
         {"the same number", WM_USER, WTS_SESSION_LOCK, {}},
     };
+    // Asked to close, it goes on listening.
+    SendMessageW(window, WM_CLOSE, 0, 0);
     for (const Row &row : rows) {
         events.clear();
         SendMessageW(window, row.message, row.word, 1);

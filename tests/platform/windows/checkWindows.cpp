@@ -115,6 +115,24 @@ void stillness()
     }
 }
 
+void darkness()
+{
+    const wchar_t key[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize";
+    const wchar_t name[] = L"AppsUseLightTheme";
+    const auto store = [&](DWORD type, const void *bytes, DWORD size) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, key, name, type, bytes, size);
+        return WindowSystem::prefersDark().value_or(false);
+    };
+    const DWORD numbers[] = {0, 1};
+    CHECK(store(REG_DWORD, &numbers[0], sizeof(DWORD)));
+    CHECK(!store(REG_DWORD, &numbers[1], sizeof(DWORD)));
+    // What makes no sense is the default.
+    CHECK(!store(REG_SZ, L"0", 4));
+    CHECK(!store(REG_BINARY, numbers, sizeof(numbers)));
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, key, name);
+    CHECK(!WindowSystem::prefersDark().value_or(true));
+}
+
 /// Not every system can: what it says has to be what it did.
 void capture()
 {
@@ -132,6 +150,7 @@ void capture()
 const Checks::Group groups[] = {{"window to the front", toTheFront},
                                 {"adopted frame", adoptedFrame},
                                 {"stillness", stillness},
+                                {"dark windows", darkness},
                                 {"screen capture", capture}};
 
 } // namespace

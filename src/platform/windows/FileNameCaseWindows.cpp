@@ -1,0 +1,6 @@
+#include "FileNameCase.h"
+
+bool fileNamesIgnoreCase()
+{
+    return true;
+}
