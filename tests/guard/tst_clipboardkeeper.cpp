@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -28,6 +29,7 @@ public:
 private Q_SLOTS:
     void init();
     void copyIsMarkedAndStaysOffTheSelection();
+    void selectedTextStaysOffTheSelection_data();
     void selectedTextStaysOffTheSelection();
     void otherCopiesAreMarkedAndCleared();
     void clearsAfterItsTime_data();
@@ -170,22 +172,37 @@ void TestClipboardKeeper::copyIsMarkedAndStaysOffTheSelection()
     QCOMPARE(offered("UTF8_STRING"), QByteArray());
 }
 
+void TestClipboardKeeper::selectedTextStaysOffTheSelection_data()
+{
+    QTest::addColumn<bool>("isNote");
+    QTest::newRow("line") << false;
+    QTest::newRow("note") << true;
+}
+
 void TestClipboardKeeper::selectedTextStaysOffTheSelection()
 {
-    QLineEdit field(QStringLiteral("revealed"));
+    QFETCH(bool, isNote);
+    const QString text = QStringLiteral("revealed");
+    QLineEdit line(text);
+    QPlainTextEdit note(text);
+    QWidget &field = isNote ? static_cast<QWidget &>(note) : line;
+    QWidget &clicked = isNote ? *note.viewport() : field;
+    const auto selectByMouse = [&] {
+        QTest::mouseDClick(&clicked, Qt::LeftButton, {}, QPoint(12, 12));
+        QTest::mouseRelease(&clicked, Qt::LeftButton, {}, QPoint(12, 12));
+    };
     field.show();
     QVERIFY(QTest::qWaitForWindowExposed(&field));
     // What a program does that keeps none: the check below can fail.
-    QTest::mouseDClick(&field, Qt::LeftButton);
-    QTest::mouseRelease(&field, Qt::LeftButton);
-    QCOMPARE(clipboard().text(QClipboard::Selection), QStringLiteral("revealed"));
+    selectByMouse();
+    QCOMPARE(clipboard().text(QClipboard::Selection), text);
     QVERIFY(owner("PRIMARY") != Window(None));
 
     ClipboardKeeper keeper(m_later);
-    field.deselect();
-    QTest::mouseDClick(&field, Qt::LeftButton);
-    QTest::mouseRelease(&field, Qt::LeftButton);
-    QCOMPARE(field.selectedText(), QStringLiteral("revealed"));
+    line.deselect();
+    note.moveCursor(QTextCursor::End);
+    selectByMouse();
+    QCOMPARE(isNote ? note.textCursor().selectedText() : line.selectedText(), text);
     QCOMPARE(clipboard().text(QClipboard::Selection), QString());
     QCOMPARE(owner("PRIMARY"), Window(None));
 }

@@ -8,6 +8,7 @@
 #include <QDBusObjectPath>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVirtualObject>
+#include <QDirIterator>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -77,6 +78,19 @@ public:
             qFatal("No safe to test with");
     }
 
+    QByteArray log() const
+    {
+        QByteArray lines;
+        QDirIterator files(path("") + QStringLiteral("/.") + program + QStringLiteral("/log"),
+                           QDir::Files);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            if (file.open(QIODevice::ReadOnly))
+                lines += file.readAll();
+        }
+        return lines;
+    }
+
     QString path(const char *folder) const
     {
         const QString below = m_folder.filePath(QLatin1String(folder));
@@ -98,7 +112,7 @@ protected:
 class Desk
 {
 public:
-    Desk(const XServer &server, const PrivateBus &bus, const Home &home)
+    Desk(const XServer &server, const QString &bus, const Home &home)
         : m_client(server.client())
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -110,8 +124,8 @@ public:
         set("HOME", home.path("."));
         set("XDG_RUNTIME_DIR", home.path("."));
         set("QT_QPA_PLATFORM", QStringLiteral("xcb"));
-        set("DBUS_SESSION_BUS_ADDRESS", bus.address());
-        set("DBUS_SYSTEM_BUS_ADDRESS", bus.address());
+        set("DBUS_SESSION_BUS_ADDRESS", bus);
+        set("DBUS_SYSTEM_BUS_ADDRESS", bus);
         // What is never given back before the end of the process is no leak.
         set("ASAN_OPTIONS", QStringLiteral("detect_leaks=0"));
         process.setProcessEnvironment(environment);
@@ -272,14 +286,17 @@ void TestGuardedProgram::send(const QString &path, const char *interface, const 
     QVERIFY(m_desktop.send(message));
 }
 
-/// The shortest limit is a minute, which passes soon by the clock of this server.
+/// The shortest limit is a minute, which passes soon by the clock of this server. There is no bus.
 void TestGuardedProgram::locksWhenTheUserIsAway()
 {
     const int speed = 20;
     const XServer server(speed);
     XSetScreenSaver(server.client(), 0, 0, PreferBlanking, AllowExposures);
-    const Home home([](GPMAppSettings &settings) { settings.setInactivityInterval(1); });
-    Desk desk(server, m_bus, home);
+    const Home home([](GPMAppSettings &settings) {
+        settings.setInactivityInterval(1);
+        settings.setLockHotkey(QStringLiteral("sometimes"));
+    });
+    Desk desk(server, QStringLiteral("unix:path=/nonexistent"), home);
     QVERIFY(desk.unlock());
     QElapsedTimer atWork;
     atWork.start();
@@ -291,6 +308,9 @@ void TestGuardedProgram::locksWhenTheUserIsAway()
     QVERIFY(desk.isOpen());
     QVERIFY(desk.waitForLock());
     QVERIFY2(idleMs(server) > 60000, "locked too early, or the server's clock is not faster");
+    const QByteArray log = home.log();
+    for (const char *told : {"no session bus", "no system bus", "not a hotkey: \"sometimes\""})
+        QCOMPARE(log.count(told), 1);
 }
 
 void TestGuardedProgram::locksWithTheSession()
@@ -301,7 +321,7 @@ void TestGuardedProgram::locksWithTheSession()
         settings.setLockHotkey(QStringLiteral("Ctrl+Alt+L"));
     });
     const int delays = m_login.delays;
-    Desk desk(server, m_bus, home);
+    Desk desk(server, m_bus.address(), home);
     QVERIFY(desk.unlock());
     QTRY_VERIFY(m_login.delays > delays);
     send(QStringLiteral("/ScreenSaver"), screenSaver, "ActiveChanged", {true});
@@ -331,7 +351,7 @@ void TestGuardedProgram::keepsSecretsOffTheClipboard()
         return XGetSelectionOwner(client, XInternAtom(client, selection, False));
     };
     const Home home([](GPMAppSettings &settings) { settings.setAutolockInactive(false); });
-    Desk desk(server, m_bus, home);
+    Desk desk(server, m_bus.address(), home);
     const Window other = XCreateSimpleWindow(client, server.root(), 0, 0, 1, 1, 0, 0, 0);
     const auto copy = [&] {
         desk.press({XK_Control_L, XK_Shift_L, XK_c});
