@@ -63,19 +63,25 @@ export function buildExtension(kind = 'chromium') {
 /**
  * Starts a browser ("chromium", "firefox") with the extension. Without profileDir it gets a profile of its own, removed
  * by close(). hosts: names that lead to this machine; env: with DISPLAY where it is not headless; preferences: more of
- * Firefox's; extension: false leaves it out. Returns {kind, browser, extensionId, origin, newPage, openExtensionPage, pageAt, connected, close}.
+ * Firefox's; extension: false leaves it out, until install().
+ * Returns {kind, browser, extensionId, origin, install, openExtensionPage, pageAt, connected, close}.
  */
 export async function launchBrowser(kind, { profileDir, hosts = [], headless = true, args = [], preferences, env, extension = true } = {}) {
   const userDataDir = profileDir ?? (await mkdtemp(join(tmpdir(), `glaceron-${kind}-`)));
   const own = KINDS[kind].options({ hosts, args, preferences });
   const browser = await puppeteer.launch({ ...own, headless, userDataDir, acceptInsecureCerts: true, ...(env && { env }) });
-  const extensionId = extension ? await browser.installExtension(buildExtension(kind)) : undefined;
-  const origin = KINDS[kind].origin(extensionId);
+  let extensionId;
+
+  async function install() {
+    extensionId = await browser.installExtension(buildExtension(kind));
+  }
+
+  const origin = () => KINDS[kind].origin(extensionId);
 
   /** Opens a page of the extension in a tab. */
   async function openExtensionPage(path, selector) {
     const page = await browser.newPage();
-    await page.goto(`${origin}/${path}`, { waitUntil: [] });
+    await page.goto(`${origin()}/${path}`, { waitUntil: [] });
     await page.waitForSelector(selector);
     return page;
   }
@@ -101,5 +107,6 @@ export async function launchBrowser(kind, { profileDir, hosts = [], headless = t
     if (!profileDir) await rm(userDataDir, { recursive: true, force: true, maxRetries: 10, retryDelay: 200 });
   }
 
-  return { kind, browser, extensionId, origin, openExtensionPage, pageAt, connected, close };
+  if (extension) await install();
+  return { kind, browser, extensionId, origin: origin(), install, openExtensionPage, pageAt, connected, close };
 }

@@ -7,7 +7,7 @@ import { BROWSERS } from './browser.mjs';
 import { makeStage } from './stage.mjs';
 
 const OFFER = '^Save login$';
-const SECRETS = ['the-first-1', 'the-second-2', 'of-two-steps-3', 'of-one-page-4', 'never-mind-5', 'in-the-dark-6', 'locked-7'];
+const SECRETS = ['the-first-1', 'the-second-2', 'of-two-steps-3', 'of-one-page-4', 'never-mind-5', 'in-the-dark-6', 'locked-7', 'framed-8'];
 
 // Whatever begins with "wrong" leads back to the page that asked.
 const go = (page) => `onsubmit="this.action = /^wrong/.test(this.pw.value) ? '${page}' : '/home'"`;
@@ -34,7 +34,10 @@ const FORGED = `<form method=post action=/home><input name=user value=mallory><i
     document.forms[0].requestSubmit();
   });
 </script>`;
+const FRAMED = '<form method=post action=/home target=_top><input id=user name=user><input id=pw name=pw type=password><button>Log in</button></form>';
 const PAGES = {
+  '/framed': FRAMED,
+  '/around': (port) => `<title>Around</title><script>document.write('<iframe src="' + location.hash.slice(1).replace('PORT', ${port}) + '"></iframe>')</script>`,
   '/login': LOGIN,
   '/forged': FORGED,
   '/change': `<title>Change</title><form method=post action=/home><input id=old name=old type=password placeholder="Current password">
@@ -49,7 +52,7 @@ const PAGES = {
 };
 
 const limit = { timeout: 120000 };
-const shops = BROWSERS.flatMap((kind) => [`shop-of-${kind}.example`, `not-of-${kind}.example`, `last-of-${kind}.example`]);
+const shops = BROWSERS.flatMap((kind) => [`shop-of-${kind}.example`, `id.shop-of-${kind}.example`, `not-of-${kind}.example`, `last-of-${kind}.example`]);
 const stage = makeStage({ pages: PAGES, hosts: shops });
 
 const isOffered = () => stage.desktop.isVisible(OFFER);
@@ -153,6 +156,19 @@ stage.inEachBrowser((kind) => {
     await page.keyboard.type(SECRETS[5]);
     await page.keyboard.press('Enter');
     await answer('Escape');
+  });
+
+  test('a login in a frame of the page\'s site is offered, in one of another site it is not', limit, async () => {
+    for (const [host, end] of [[other, nothingIsOffered], [`id.${shop}`, () => answer('Escape')]]) {
+      await open(`/around#http://${host}:PORT/framed`);
+      const frame = await (await page.waitForSelector('iframe')).contentFrame();
+      await frame.waitForSelector('#pw');
+      await frame.type('#user', 'gina');
+      await frame.type('#pw', SECRETS[7]);
+      await page.keyboard.press('Enter');
+      await arrived('/home');
+      await end();
+    }
   });
 
   test('what a page types and sends by itself is not offered', limit, async () => {

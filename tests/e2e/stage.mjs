@@ -35,15 +35,24 @@ export function makeStage({ pages, hosts, secure = false, approved = true }) {
 
   /**
    * Tells the same stories in each browser, one after the other, as the program serves one at a time. Within,
-   * stage.browser is the running one, connected to the program unless connect is false. options: as in launchBrowser.
+   * stage.browser is the running one, connected to the program unless connect is false. One that is not visible is started
+   * while the stories are told in the one before. options: as in launchBrowser.
    */
   stage.inEachBrowser = (tell, { connect = true, visible = false, ...options } = {}) => {
-    for (const kind of BROWSERS) {
+    const screen = () => (visible ? { headless: false, env: stage.desktop.env } : {});
+    const launch = (kind) => launchBrowser(kind, { hosts, ...screen(), ...options, extension: false });
+    const coming = new Map();
+    after(() => Promise.all([...coming.values()].map(async (each) => (await each).close())));
+
+    for (const [index, kind] of BROWSERS.entries()) {
       describe(kind, () => {
         before(async () => {
-          const screen = visible ? { headless: false, env: stage.desktop.env } : {};
-          stage.browser = await launchBrowser(kind, { hosts, ...screen, ...options });
+          stage.browser = await (coming.get(kind) ?? launch(kind));
+          coming.delete(kind);
+          await stage.browser.install();
           if (connect) await stage.browser.connected();
+          const next = BROWSERS[index + 1];
+          if (next && !visible) coming.set(next, launch(next));
         });
         after(async () => {
           await stage.browser?.close();
