@@ -28,6 +28,7 @@ private Q_SLOTS:
     void text();
     void pressed_data();
     void pressed();
+    void heldKeysCountOnce();
     void followsTheSettings();
     void takenByAnotherProgram();
     void senseless();
@@ -139,6 +140,23 @@ void TestHotkeys::pressed()
     press({XK_F9});
     QVERIFY(program.plugin.wait());
     QCOMPARE(program.lock.count(), 1);
+}
+
+void TestHotkeys::heldKeysCountOnce()
+{
+    Program program(lockKeys, QStringLiteral("F9"));
+    Display *client = m_server.client();
+    const KeyCode key = XKeysymToKeycode(client, XK_F9);
+    XkbSetAutoRepeatRate(client, XkbUseCoreKbd, 20, 10);
+    XTestFakeKeyEvent(client, key, True, CurrentTime);
+    XSync(client, False);
+    QVERIFY(program.plugin.wait());
+    QVERIFY(!program.plugin.wait(200)); // in which it would repeat many times
+    XTestFakeKeyEvent(client, key, False, CurrentTime);
+    XkbSetAutoRepeatRate(client, XkbUseCoreKbd, 660, 40);
+    press({XK_F9});
+    QVERIFY(program.plugin.wait());
+    QCOMPARE(program.plugin.count(), 2);
 }
 
 void TestHotkeys::followsTheSettings()

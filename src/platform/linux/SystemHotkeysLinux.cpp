@@ -1,9 +1,10 @@
 #include "SystemHotkeys.h"
 #include "XConnection.h"
 
-#include <X11/Xlib.h>
+#include <X11/XKBlib.h>
 #include <X11/keysym.h>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -97,6 +98,13 @@ bool ErrorTrap::s_refused = false;
 class SystemHotkeysLinux : public SystemHotkeys
 {
 public:
+    SystemHotkeysLinux()
+    {
+        // A key that is held repeats without seeming to be let go.
+        if (m_server.display())
+            XkbSetDetectableAutoRepeat(m_server.display(), True, nullptr);
+    }
+
     Result add(int id, const Combination &combination) override
     {
         Display *display = m_server.display();
@@ -137,7 +145,10 @@ public:
             XNextEvent(m_server.display(), &event);
             if (event.type == MappingNotify)
                 followKeyboard(event.xmapping);
-            else if (event.type == KeyPress)
+            else if (event.type == KeyRelease)
+                m_held = 0;
+            else if (event.type == KeyPress &&
+                     std::exchange(m_held, event.xkey.keycode) != event.xkey.keycode)
                 notePress(event.xkey, pressed);
         }
         for (const int id : pressed)
@@ -198,6 +209,7 @@ private:
 
     XConnection m_server{!XConnection::isGuest()};
     std::map<int, Grab> m_grabs;
+    unsigned m_held = 0; ///< the key that is down
 };
 
 } // namespace
