@@ -1,5 +1,6 @@
 #include "PMUiProvider.h"
 
+#include "CaptureGuard.h"
 #include "GPMAppCore.h"
 #include "HotkeyShortcuts.h"
 #include "SideWindows.h"
@@ -44,6 +45,7 @@ PMUiProvider::PMUiProvider(GPMAppCore &core, std::function<bool()> hasTray,
                        ? PMTranslator::folderOf(QCoreApplication::applicationDirPath())
                        : translations)
     , m_theme(std::make_unique<Theme>())
+    , m_capture(CaptureGuard::create(core.platform(), m_settings.hiddenFromCapture()))
 {
     m_theme->setMode(m_settings.themeMode());
     m_theme->setTextPercent(m_settings.textPercent());
@@ -81,7 +83,8 @@ QVector<Setting> PMUiProvider::allSettings()
                               return new ExcludedSitesPanel(m_core.loginSaving(), row);
                           },
                           [this](QWidget *row) { return m_sideWindows->updates().makePanel(row); },
-                          m_sideWindows->updates().checker().hasEndpoint(), &m_core.siteIcons()})
+                          m_sideWindows->updates().checker().hasEndpoint(), &m_core.siteIcons(),
+                          m_capture.get()})
         .settings();
 }
 
@@ -120,11 +123,6 @@ void PMUiProvider::prepareFirstLaunch()
     // What an earlier installation left may not fit this screen.
     m_settings.forgetWindows();
     m_firstRun->expect();
-}
-
-int PMUiProvider::mainWindowScreenNumber() const
-{
-    return m_settings.mainWindowScreenNumber();
 }
 
 void PMUiProvider::createMainWindow()
@@ -334,8 +332,7 @@ void PMUiProvider::showMessage(const QString &title, const QString &text)
     auto *dialog = new QuestionDialog({title, text, {tr("OK")}}, m_window.get());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setModal(false);
-    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
-    if (safe && safe->isUnlocked())
+    if (const auto &safe = m_core.currentSafe(); safe && safe->isUnlocked())
         m_safeMessages.append(dialog);
     bringToFront();
     dialog->show();
@@ -372,9 +369,8 @@ void PMUiProvider::showAbout()
 
 void PMUiProvider::lock()
 {
-    if (!m_window->content().isEnabled())
-        return;
-    m_window->lockByUser();
+    if (m_window->content().isEnabled())
+        m_window->lockByUser();
 }
 
 void PMUiProvider::exitByUser()
@@ -388,8 +384,8 @@ void PMUiProvider::saveWindowState()
         return;
     m_settings.saveGeometry(*m_window);
     m_settings.saveSplitter(m_window->objectName(), m_window->content().splitterState());
-    const int number = QGuiApplication::screens().indexOf(m_window->screen());
-    m_settings.setMainWindowScreenNumber(qMax(0, number));
+    m_settings.setMainWindowScreenNumber(
+        qMax(0, QGuiApplication::screens().indexOf(m_window->screen())));
 }
 
 void PMUiProvider::onLockedChanged(bool locked)

@@ -12,6 +12,7 @@
 #include <memory>
 
 class ApprovalDesk;
+class CaptureGuard;
 class CloudDesk;
 class FirstRun;
 class GPMAppCore;
@@ -47,7 +48,7 @@ public:
     void prepareFirstLaunch();
 
     /// The number of the screen on which the main window was last.
-    int mainWindowScreenNumber() const;
+    int mainWindowScreenNumber() const { return m_settings.mainWindowScreenNumber(); }
 
     /// Makes the main window, hidden, and the tray icon.
     void createMainWindow();
@@ -96,6 +97,7 @@ private:
     std::unique_ptr<CloudDesk> m_cloud;
     std::unique_ptr<SaveLoginDesk> m_saveLogin;
     std::unique_ptr<ApprovalDesk> m_approvals;
+    std::unique_ptr<CaptureGuard> m_capture; ///< null where windows cannot be hidden
     std::unique_ptr<FirstRun> m_firstRun;
     std::unique_ptr<QuickDesk> m_quick;
     std::unique_ptr<SecureWindow> m_window;

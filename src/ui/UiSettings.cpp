@@ -19,6 +19,7 @@ const QString tabIndexSuffix = QStringLiteral("_TabIndex");
 const QString themeKey = QStringLiteral("Theme");
 const QString textSizeKey = QStringLiteral("TextSize");
 const QString motionOffKey = QStringLiteral("MotionOff");
+const QString hiddenFromCaptureKey = QStringLiteral("HiddenFromCapture");
 const QString lengthSuffix = QStringLiteral("_Length");
 const QString specialCountSuffix = QStringLiteral("_SpecialCharsCount");
 
@@ -138,6 +139,16 @@ bool UiSettings::motionOff() const
 void UiSettings::setMotionOff(bool off)
 {
     m_store.setValue(motionOffKey, off);
+}
+
+bool UiSettings::hiddenFromCapture() const
+{
+    return m_store.value(hiddenFromCaptureKey, true).toBool();
+}
+
+void UiSettings::setHiddenFromCapture(bool hidden)
+{
+    m_store.setValue(hiddenFromCaptureKey, hidden);
 }
 
 bool UiSettings::store()

@@ -43,6 +43,10 @@ public:
     bool motionOff() const;
     void setMotionOff(bool off);
 
+    /// Whether the windows are left out of screenshots and shared screens, where that can be done.
+    bool hiddenFromCapture() const;
+    void setHiddenFromCapture(bool hidden);
+
     /// Writes what was set now. False when that fails.
     bool store();
     QString filePath() const { return m_store.fileName(); }

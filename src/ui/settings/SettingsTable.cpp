@@ -1,5 +1,6 @@
 #include "SettingsTable.h"
 
+#include "CaptureGuard.h"
 #include "GPMAppSettings.h"
 #include "PMTranslator.h"
 #include "UiSettings.h"
@@ -160,9 +161,31 @@ QVector<Setting> SettingsTable::security() const
                {},
                {}},
               "clearClipboard")};
+    if (m_parts.capture)
+        rows.append(capture());
     if (m_parts.makePasswordRow)
         rows.prepend(password);
     return rows;
+}
+
+Setting SettingsTable::capture() const
+{
+    const Parts parts = m_parts;
+    Setting setting = {"hidden_from_capture",
+                       Setting::Security,
+                       tr("Hide the windows from screenshots"),
+                       tr("What is in the safe appears in no recording and on no shared screen."),
+                       tr("screen capture sharing meeting"),
+                       Setting::Switch,
+                       {},
+                       {}};
+    setting.value = [parts] { return parts.uiSettings.hiddenFromCapture(); };
+    setting.apply = [*this](const QVariant &value) {
+        m_parts.capture->setHides(value.toBool());
+        m_parts.uiSettings.setHiddenFromCapture(value.toBool());
+        return storeUiSettings();
+    };
+    return setting;
 }
 
 QVector<Setting> SettingsTable::backup() const

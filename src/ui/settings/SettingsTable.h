@@ -2,6 +2,7 @@
 
 #include "Setting.h"
 
+class CaptureGuard;
 class GPMAppSettings;
 class PMTranslator;
 class SiteIconDesk;
@@ -40,6 +41,8 @@ public:
         bool canUpdate = false;
         /// Whether icons of web sites are fetched; null leaves the setting out.
         SiteIconDesk *siteIcons = nullptr;
+        /// What leaves the windows out of screenshots; null where that cannot be done.
+        CaptureGuard *capture = nullptr;
     };
 
     explicit SettingsTable(const Parts &parts);
@@ -54,6 +57,7 @@ private:
     QVector<Setting> security() const;
     QVector<Setting> browser() const;
     Setting siteIcons() const;
+    Setting capture() const;
     QVector<Setting> backup() const;
     QVector<Setting> cloud() const;
     QVector<Setting> hotkeys() const;
