@@ -25,16 +25,16 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Qt's own texts, Wayland, and pages and folders that are opened by a click.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qttranslations5-l10n, qtwayland5, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "chromium | firefox-esr | firefox")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "password manager with encrypted safes and a browser extension")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"password manager with encrypted safes and a browser extension
- Keeps logins, cards, bank accounts, identities, documents, notes, licences
- and files in safes: folders of encrypted files under a master password that
- nobody but the user knows. There is no account and no server.
- .
- The browser extension, which comes with the program, fills logins into the
- pages they belong to and offers to save those that are typed there. The safe
- locks when the user leaves, copied secrets go from the clipboard, and backups
- are made by themselves.")
+"Keeps logins, cards, bank accounts, identities, documents, notes, licences
+and files in safes: folders of encrypted files under a master password that
+nobody but the user knows. There is no account and no server.
+
+The browser extension, which comes with the program, fills logins into the
+pages they belong to and offers to save those that are typed there. The safe
+locks when the user leaves, copied secrets go from the clipboard, and backups
+are made by themselves.")
 
 get_property(files GLOBAL PROPERTY glaceron_compressed)
 add_custom_target(compressed ALL DEPENDS ${files})
