@@ -1,5 +1,6 @@
 #include "OwnerOnlyFile.h"
 
+#include "FileInUse.h"
 #include "FileSync.h"
 
 #include <QDir>
@@ -17,6 +18,8 @@ bool writeOwnerOnlyFile(const QString &path, const std::function<bool(QIODevice 
         file.cancelWriting();
         return false;
     }
+    // It is tried anyhow: the system knows best.
+    waitWhileFileInUse(path.toStdString());
     return file.commit();
 }
 

@@ -1,5 +1,6 @@
 #include "FileLayer.h"
 
+#include "FileInUse.h"
 #include "OwnerOnlyFile.h"
 
 #include <QDir>
@@ -31,11 +32,14 @@ std::optional<QByteArray> FileLayer::read(const QString &path)
 
 bool FileLayer::remove(const QString &path)
 {
+    waitWhileFileInUse(path.toStdString());
     return QFile::remove(path) || !QFile::exists(path);
 }
 
 bool FileLayer::replace(const QString &from, const QString &to)
 {
+    waitWhileFileInUse(from.toStdString());
+    waitWhileFileInUse(to.toStdString());
     std::error_code error;
     std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
     return !error;

@@ -57,6 +57,19 @@ int holdClipboard()
     return result;
 }
 
+/// As scanners of files do, for whom nobody may remove it.
+int holdFile()
+{
+    const HANDLE file = CreateFileW(OtherProgram::filePath().c_str(), GENERIC_READ,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return 2;
+    const int result = stay();
+    CloseHandle(file);
+    return result;
+}
+
 int holdSecrets()
 {
     std::vector<void *> secrets(OtherProgram::secretCount);
@@ -103,17 +116,29 @@ bool OtherProgram::isReady() const
            isSet(m_ready);
 }
 
+void OtherProgram::tellToEnd() const
+{
+    SetEvent(m_end);
+}
+
 int OtherProgram::end()
 {
     if (!m_process)
         return -1;
-    SetEvent(m_end);
+    tellToEnd();
     DWORD code = 0;
     const bool ended = WaitForSingleObject(m_process, patience) == WAIT_OBJECT_0 &&
                        GetExitCodeProcess(m_process, &code);
     CloseHandle(m_process);
     m_process = nullptr;
     return ended ? static_cast<int>(code) : -1;
+}
+
+std::wstring OtherProgram::filePath()
+{
+    wchar_t folder[MAX_PATH];
+    GetTempPathW(MAX_PATH, folder);
+    return std::wstring(folder) + L"h\u00e4lt \u0436.txt";
 }
 
 int OtherProgram::act(const std::wstring &part)
@@ -126,6 +151,8 @@ int OtherProgram::act(const std::wstring &part)
         return holdForeground();
     if (part == L"clipboard")
         return holdClipboard();
+    if (part == L"file")
+        return holdFile();
     if (part.rfind(L"secrets", 0) == 0)
         return holdSecrets();
     if (part == L"version")

@@ -8,6 +8,8 @@ class OtherProgram
 {
 public:
     static const int secretCount = 300;
+    /// The file that "file" has open.
+    static std::wstring filePath();
 
     explicit OtherProgram(const std::wstring &part);
     ~OtherProgram();
@@ -16,6 +18,7 @@ public:
 
     /// Waits until it says that it is ready.
     bool isReady() const;
+    void tellToEnd() const;
     /// Tells it to end and gives its exit code; -1 when it does not end.
     int end();
 

@@ -1,9 +1,11 @@
 #include "Check.h"
+#include "FileInUse.h"
 #include "FileSync.h"
 #include "MachineIdentity.h"
 #include "OtherProgram.h"
 #include "Platform.h"
 #include "SecretMemory.h"
+#include "TestWindow.h"
 #include "WideText.h"
 #include "WindowsVersion.h"
 
@@ -155,6 +157,29 @@ void machine()
     CHECK_EQUAL(machineIdentity(), identity);
 }
 
+void fileInUse()
+{
+    const std::wstring path = OtherProgram::filePath();
+    CHECK(waitWhileFileInUse(utf8(path)));
+    const std::wstring next = path + L".next";
+    for (const std::wstring &name : {path, next})
+        CloseHandle(CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+    CHECK(waitWhileFileInUse(utf8(path)));
+    OtherProgram other(L"file");
+    CHECK(other.isReady());
+    CHECK(!MoveFileExW(next.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING));
+    const ULONGLONG start = GetTickCount64();
+    CHECK(!waitWhileFileInUse(utf8(path)));
+    CHECK(GetTickCount64() - start >= 490);
+    // It ends while this waits.
+    other.tellToEnd();
+    CHECK(waitUntil([&] { return waitWhileFileInUse(utf8(path)); }));
+    CHECK(MoveFileExW(next.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE);
+    CHECK_EQUAL(other.end(), 0);
+    DeleteFileW(path.c_str());
+}
+
 void texts()
 {
     const std::string texts[] = {"", "plain", "\xc3\xbc \xf0\x9f\x94\x91", std::string("a\0b", 3)};
@@ -165,8 +190,12 @@ void texts()
     CHECK_EQUAL(utf8(std::wstring(1, wchar_t(0xD800))), "\xef\xbf\xbd");
 }
 
-const Checks::Group groups[] = {{"version", versions},         {"secret memory", secretMemory},
-                                {"many secrets", manySecrets}, {"files on the disk", filesOnDisk},
-                                {"machine", machine},          {"texts", texts}};
+const Checks::Group groups[] = {{"version", versions},
+                                {"secret memory", secretMemory},
+                                {"many secrets", manySecrets},
+                                {"files on the disk", filesOnDisk},
+                                {"machine", machine},
+                                {"file in use", fileInUse},
+                                {"texts", texts}};
 
 } // namespace

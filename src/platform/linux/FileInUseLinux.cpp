@@ -1,0 +1,6 @@
+#include "FileInUse.h"
+
+bool waitWhileFileInUse(const std::string &)
+{
+    return true;
+}
