@@ -4,6 +4,7 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -12,8 +13,6 @@ namespace {
 const char *const screenSaverLogLine = "Screensaver activated";
 const int msPerMinute = 60000;
 const int usualLimit = 3;
-// The first answer of some systems takes its time.
-const int toleratedMisses = 10;
 // What the counter of ticks can measure.
 const int longestLimit = std::numeric_limits<std::uint32_t>::max() / msPerMinute;
 
@@ -75,10 +74,12 @@ void LockGuard::checkInactivity()
     // seven weeks old.
     const std::optional<std::uint32_t> lastInput = m_activity->lastInputTick();
     if (!lastInput) {
-        if (++m_missedAnswers == toleratedMisses)
+        m_missedAnswers = std::min(m_missedAnswers + 1, toleratedMisses);
+        if (!seesInput() && !std::exchange(m_saidMissing, true))
             qWarning("LockGuard: the system does not tell when the last input was");
         return;
     }
+    m_missedAnswers = 0;
     const std::uint32_t idleMs = m_activity->tickCount() - *lastInput;
     if (idleMs > limitMs())
         lock(LockReason::Inactivity, "Locked due user inactivity");

@@ -32,6 +32,9 @@ public:
     /// where they make no sense.
     int inactivityLimit();
 
+    /// Whether the system tells when there was input; without it nobody ever seems to be away.
+    bool seesInput() const { return m_missedAnswers < toleratedMisses; }
+
 public Q_SLOTS:
     /// Whether the computer slept longer than the limit since anything was checked last. Also asked
     /// between the seconds: when the computer wakes, and before a window draws or takes input.
@@ -48,6 +51,9 @@ Q_SIGNALS:
     void lockDue(LockReason reason);
 
 private:
+    /// The first answer of some systems takes its time.
+    static const int toleratedMisses = 10;
+
     qint64 limitMs();
     bool wasAsleep(qint64 limitMs);
     void lock(LockReason reason, const char *logLine);
@@ -60,5 +66,6 @@ private:
     QDateTime m_lastCheck;
     std::uint32_t m_lastTick = 0;
     std::optional<int> m_refusedLimit; ///< the one that was logged last
-    int m_missedAnswers = 0;
+    int m_missedAnswers = 0;           ///< since the last one
+    bool m_saidMissing = false;
 };

@@ -83,8 +83,8 @@ QVector<Setting> PMUiProvider::allSettings()
                               return new ExcludedSitesPanel(m_core.loginSaving(), row);
                           },
                           [this](QWidget *row) { return m_sideWindows->updates().makePanel(row); },
-                          m_sideWindows->updates().checker().hasEndpoint(), &m_core.siteIcons(),
-                          m_capture.get()})
+                          m_sideWindows->updates().checker().hasEndpoint(),
+                          m_core.guard().seesInput(), &m_core.siteIcons(), m_capture.get()})
         .settings();
 }
 

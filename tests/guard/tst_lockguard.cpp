@@ -256,9 +256,15 @@ void TestLockGuard::failingQueriesAreSkippedAndSaidOnce()
     QCOMPARE(log.lines, QStringList{QStringLiteral(
                             "LockGuard: the system does not tell when the last input was")});
     QCOMPARE(guarded.reasons, Reasons{});
+    QVERIFY(!guarded.guard.seesInput());
     guarded.state.tells = true;
     guarded.check();
+    QVERIFY(guarded.guard.seesInput());
     QCOMPARE(guarded.reasons, Reasons{LockReason::Inactivity});
+    guarded.state.tells = false;
+    for (int check = 0; check < 30; ++check)
+        guarded.check();
+    QCOMPARE(log.lines.size(), 2); // with that of the lock
 }
 
 void TestLockGuard::backupIsCheckedLast()

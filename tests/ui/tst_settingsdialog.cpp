@@ -113,6 +113,7 @@ private Q_SLOTS:
     void ownShortcutsAreTaken();
     void lockHotkeyLocks();
     void openFromTheLockPage();
+    void tellsWhereNobodySeemsAway();
     void look();
     void languageWithoutRestart();
     void unsavedEditIsAskedFor();
@@ -379,6 +380,22 @@ void TestSettingsDialog::openFromTheLockPage()
     QApplication::setActiveWindow(program.ui.mainWindow());
     QTest::keyClick(program.ui.mainWindow()->focusWidget(), Qt::Key_Comma, Qt::ControlModifier);
     QVERIFY(program.ui.mainWindow()->findChild<SettingsDialog *>());
+}
+
+void TestSettingsDialog::tellsWhereNobodySeemsAway()
+{
+    Program program;
+    const auto explanation = [&program] {
+        const QWidget *lock = reach(program.settings(), Setting::Security, "autolock_inactive");
+        return lock->accessibleDescription();
+    };
+    QCOMPARE(explanation(), QStringLiteral("The safe locks when you leave the computer alone."));
+    delete program.ui.mainWindow()->findChild<SettingsDialog *>();
+    program.test.user->tells = false;
+    for (int second = 0; second < 10; ++second)
+        program.test.core.checkInactivity();
+    QVERIFY(
+        explanation().startsWith(QStringLiteral("Your desktop does not tell when you are away.")));
 }
 
 void TestSettingsDialog::look()

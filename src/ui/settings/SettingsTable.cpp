@@ -135,7 +135,9 @@ QVector<Setting> SettingsTable::security() const
         bound({"autolock_inactive",
                Setting::Security,
                tr("Lock after inactivity"),
-               tr("The safe locks when you leave the computer alone."),
+               m_parts.seesInput ? tr("The safe locks when you leave the computer alone.")
+                                 : tr("Your desktop does not tell when you are away. The safe "
+                                      "locks with the screen and when the computer sleeps."),
                tr("auto-lock idle away"),
                Setting::Switch,
                {},

@@ -39,6 +39,8 @@ public:
         std::function<QWidget *(QWidget *parent)> makeUpdatePanel = {};
         /// Whether newer versions can be looked for; the switch for it is left out otherwise.
         bool canUpdate = false;
+        /// Whether the system tells when the user is away.
+        bool seesInput = true;
         /// Whether icons of web sites are fetched; null leaves the setting out.
         SiteIconDesk *siteIcons = nullptr;
         /// What leaves the windows out of screenshots; null where that cannot be done.
