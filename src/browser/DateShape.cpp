@@ -25,7 +25,7 @@ struct Run
     bool isMonth() const { return letter == QLatin1Char('m') || letter == QChar(0x43C); }
     bool isYear() const
     {
-        static const QString years = QStringLiteral("yaг");
+        static const QString years = QStringLiteral("yaгrå");
         return length == 4 || years.contains(letter);
     }
 };
@@ -41,9 +41,9 @@ struct Shape
 Shape shapeIn(const QString &text, int parts)
 {
     static const QRegularExpression mask(
-        QStringLiteral("(?<!\\pL)([dtjдmмyaг])\\1{0,3}\\s*([./-]?)\\s*([dtjдmмyaг])\\3{0,3}"
-                       "(?:\\s*([./-]?)\\s*([dtjдmмyaг])\\5{0,3})?(?!\\pL)"));
-    static const QRegularExpression run(QStringLiteral("([dtjдmмyaг])\\1*"));
+        QStringLiteral("(?<!\\pL)([dtjgдmмyaгrå])\\1{0,3}\\s*([./-]?)\\s*([dtjgдmмyaгrå])\\3{0,3}"
+                       "(?:\\s*([./-]?)\\s*([dtjgдmмyaгrå])\\5{0,3})?(?!\\pL)"));
+    static const QRegularExpression run(QStringLiteral("([dtjgдmмyaгrå])\\1*"));
     const QRegularExpressionMatch found = mask.match(text.toLower());
     Shape shape;
     if (!found.hasMatch())
@@ -62,7 +62,7 @@ Shape shapeIn(const QString &text, int parts)
 /// Whether a letter for a part of a date stands twice, as in "MM": most texts have none.
 bool mayHaveShape(const QString &text)
 {
-    static const QString letters = QStringLiteral("dtjдmмyaг");
+    static const QString letters = QStringLiteral("dtjgдmмyaгrå");
     for (int i = 1; i < text.size(); ++i) {
         const QChar letter = text.at(i).toLower();
         if (letter == text.at(i - 1).toLower() && letters.contains(letter))

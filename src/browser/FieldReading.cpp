@@ -62,10 +62,12 @@ bool isWeakerThan(FieldKind kind, FieldKind other)
            (isPerhapsKind(kind) && isIdentityKind(other));
 }
 
-/// In "company website" the site is meant, in "company" the company.
-const TextMeaning::Part *withoutCompany(const TextMeaning &meaning, const TextMeaning::Part *main)
+/// In "company website" the site is meant, in "recipient address" the address.
+const TextMeaning::Part *withoutOwner(const TextMeaning &meaning, const TextMeaning::Part *main)
 {
-    if (main->kind != FieldKind::Company)
+    const bool isOwner = main->kind == FieldKind::Company ||
+                         (main->kind == FieldKind::FullName && meaning.isOfRecipient);
+    if (!isOwner)
         return main;
     for (const TextMeaning::Part &part : meaning.parts) {
         if (part.position == main->position + main->words && !isVagueKind(part.kind) &&
@@ -91,7 +93,7 @@ FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
     if (!main)
         return FieldKind::Unknown;
     if (mainWord == MainWord::First)
-        main = withoutCompany(meaning, main);
+        main = withoutOwner(meaning, main);
     // "Street and house number" is the street's line, "phone or e-mail" takes an address.
     if (main->kind == FieldKind::HouseNumber && meaning.names(FieldKind::AddressLine1))
         return FieldKind::AddressLine1;
@@ -128,9 +130,11 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord)
 {
     if (text.isEmpty())
         return;
-    const TextMeaning meaning = mainWord == MainWord::First
-                                    ? meaningOf(withoutAsides(text), TextSort::Prose)
-                                    : meaningOf(text);
+    const TextSort sort = mainWord == MainWord::First ? TextSort::Prose : TextSort::Code;
+    TextMeaning meaning = meaningOf(sort == TextSort::Prose ? withoutAsides(text) : text, sort);
+    // In "location (city)" only the aside is known.
+    if (meaning.parts.isEmpty() && sort == TextSort::Prose && text.contains(QLatin1Char('(')))
+        meaning = meaningOf(text, sort);
     FieldKind kind = mainKind(meaning, mainWord);
     if (mainWord == MainWord::First && isSum(text))
         kind = FieldKind::Never;
@@ -175,6 +179,8 @@ FieldKind kindOfType(const QString &inputType)
 FieldReading readSelect(const FormField &field, FieldReading reading)
 {
     const FieldKind chosen = kindOfOptions(field.options(mostTellingOptions));
+    if (reading.kind == FieldKind::Phone && reading.says(FieldKind::Country))
+        reading.kind = FieldKind::PhoneCode;
     const bool isCountryOfCodes =
         chosen == FieldKind::PhoneCode &&
         (reading.kind == FieldKind::Country || reading.kind == FieldKind::Phone ||

@@ -233,7 +233,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::PerhapsCity,
      "suburb|locality|village|municipality|post town|localidad|municipio|commune|localite|населенныи пункт|bairro municipio"},
     {FieldKind::PerhapsState, "region|region id|county|prefecture|departamento|departement|=zone|uezd"},
-    {FieldKind::PerhapsLine2, "=floor|=building|=escalera|=puerta|=portal|=piso|batiment|etage|=корпус"},
+    {FieldKind::PerhapsLine2, "=escalera|=puerta|=portal|=piso|=корпус|batiment"},
     {FieldKind::PerhapsPostalCode, "postnummer|postnr"},
 
     {FieldKind::Never,
@@ -259,6 +259,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "дополнительный телефон|другой телефон|запасной телефон|второй телефон|telefono alternativo|otro telefono|telefono adicional|"
      "autre telephone|telephone secondaire|autre numero|weitere telefonnummer|zweite telefonnummer|alternative telefonnummer|notfallkontakt|"
      "notfallnummer|contacto de emergencia|contact d urgence|экстренный контакт|"
+     "=floor|=building|=etage|=stockwerk|building name|tipo de via|type de voie|"
      "entrance|intercom|gate code|door code|digicode|interphone|landmark|neighborhood|neighbourhood|=barrio|=bairro|=colonia|=quartier|"
      "подъезд|этаж|домофон|код домофона|район|entre calles|entre que calles|stadtteil|ortsteil|"
      "carte de fidelite|numero de fidelite|n de carte de fidelite|numero de carte de fidelite|tarjeta de fidelidad|kundenkarte|kundenkartennummer|"
@@ -267,15 +268,16 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "versicherungsnummer|steuer id|steueridentifikationsnummer|krankenkasse|numero de securite sociale|seguridad social|снилс"},
     {FieldKind::HouseNumber,
      "house name or number|house name number|house name no|house number or name|house number name|house name and number|building number|"
-     "numer budynku|husnummer|husnr|cislo popisne|kapi no|bina no|n civico|numero porta"},
+     "numer budynku|nr domu|nr budynku|husnummer|husnr|cislo popisne|kapi no|bina no|n civico|numero porta"},
     {FieldKind::NewPassword,
      "add a password|set a password|set password|set your password|enter a new password|pick a password|create your password|your new password|"
      "passwort festlegen|passwort vergeben|passwort erstellen|wunschpasswort|crear contrasena|elige una contrasena|crea tu contrasena|"
      "creer un mot de passe|creez un mot de passe|choisir un mot de passe|создайте пароль|задайте пароль|nieuw wachtwoord|nuova password|"
      "nova senha|nowe haslo|nytt losenord"},
+    {FieldKind::AddressLine1, "nombre de la via|nombre de la calle|nom de la rue|nom de la voie|name der strasse|name of street"},
     {FieldKind::FullName, "имя получателя|имя и отчество|recipient s name|recipient full name|applicant name"},
     {FieldKind::PostalCode, "eircode|address by postcode|postcode lookup|by postcode|postcode zip"},
-    {FieldKind::AddressLine2, "flat|flat number|flat no|piso y puerta|piso puerta|piso puerta escalera|apt no|apartment number|unit no|suite number|door number|complemento|=офис|numero interior|depto"},
+    {FieldKind::AddressLine2, "nr lokalu|nr mieszkania|numer mieszkania|numer lokalu|flat|flat number|flat no|piso y puerta|piso puerta|piso puerta escalera|apt no|apartment number|unit no|suite number|door number|complemento|=офис|numero interior|depto"},
 
     // Languages of neighbours further away.
     {FieldKind::FirstName, "fornamn|fornavn|etunimi|jmeno|krestni jmeno|=meno|keresztnev|prenume|=ad|ім я|=ime|=isim"},

@@ -53,6 +53,7 @@ public:
         for (int i = 0; i < m_fields.size(); ++i)
             readNeighbours(i);
         leaveLoneCards();
+        leaveFurtherBirths();
         leaveExtraStreets(m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveLoneName(m_readings, m_kinds);
@@ -144,6 +145,7 @@ private:
     void readNeighbours(int at);
     void readVague(int at);
     void leaveLoneCards();
+    void leaveFurtherBirths();
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
     bool isOfPhone(int at) const;
@@ -201,7 +203,8 @@ void Reader::readDate(int at)
     // A date with a word of its own that is not known is another date.
     const bool followsBirth =
         before >= FieldKind::BirthDate && before <= FieldKind::BirthYear && !reading(at).isStrange;
-    const bool isCard = isCardKind(kind) || reading(at).says(FieldKind::CardExpiry);
+    const bool isCard =
+        isCardKind(kind) || (!isIdentityKind(kind) && reading(at).says(FieldKind::CardExpiry));
     const bool isBirth =
         !isCard &&
         (isIdentityKind(kind) || followsBirth || reading(at).says(FieldKind::BirthDate) ||
@@ -327,6 +330,15 @@ void Reader::leaveLoneCards()
     for (int i = 0; i < m_kinds.size() && !isAlone; ++i) {
         if (kindAt(i) == FieldKind::CardNumber && !reading(i).isTold &&
             captionKindOf(m_fields.at(i).heading()) != CaptionKind::Card)
+            m_kinds[i] = FieldKind::Other;
+    }
+}
+
+/// A person is born once: a second date is somebody else's.
+void Reader::leaveFurtherBirths()
+{
+    for (int i = m_kinds.indexOf(FieldKind::BirthDate) + 1; i > 0 && i < m_kinds.size(); ++i) {
+        if (kindAt(i) == FieldKind::BirthDate && !reading(i).isTold)
             m_kinds[i] = FieldKind::Other;
     }
 }

@@ -124,7 +124,10 @@ void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &ki
             return;
         only = i;
     }
-    if (only >= 0 && kinds.at(only) == FieldKind::FullName && !readings.at(only).isTold &&
-        readings.at(only).kind == FieldKind::SomeName)
+    if (only < 0 || readings.at(only).isTold)
+        return;
+    const bool isPlainName =
+        kinds.at(only) == FieldKind::FullName && readings.at(only).kind == FieldKind::SomeName;
+    if (isPlainName || readings.at(only).isOfRecipient)
         kinds[only] = FieldKind::Other;
 }

@@ -11,5 +11,6 @@
 void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                       QVector<FieldKind> &kinds);
 
-/// Leaves a plain "name" in a form that asks for nothing else of a person: anything has a name.
+/// Leaves a plain "name" or something of a recipient's in a form that asks for nothing else of a
+/// person: anything has a name.
 void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);

@@ -177,10 +177,11 @@ void TestFormAnalysis::identities_data()
     rows(zip, FieldKind::Unknown, "County");
     rows(person, FieldKind::Unknown, "County|Region");
     rows(address, FieldKind::AddressLine2,
-         "Apt/Suite|Unit|Floor|Adresszusatz|Piso y puerta|Квартира");
+         "Apt/Suite|Unit|Piso|Adresszusatz|Piso y puerta|Квартира");
     rows(address, FieldKind::HouseNumber, "House name or number|Hausnummer");
     rows(address, FieldKind::Unknown,
-         "Locality|P.O. Box|Postfach|Address line 3|Gate code|Landmark|Ortsteil|Район|VAT ID|NIF|"
+         "Floor|Locality|P.O. Box|Postfach|Address line 3|Gate code|Landmark|Ortsteil|Район|VAT "
+         "ID|NIF|"
          "Company registration number|Gift card code|Coupon");
     rows(QStringLiteral("Street|Postcode"), FieldKind::City, "Locality|Village|Suburb");
     rows(address, FieldKind::Company, "Company|Company name (if any)");
