@@ -1,6 +1,7 @@
 #include "AddressFields.h"
 
 #include "FieldPhrases.h"
+#include "SplitFields.h"
 
 #include <algorithm>
 
@@ -66,6 +67,17 @@ void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading>
                 kinds[i] = isClear && !(isCounty && saysCounty(fields.at(i))) ? row.plain
                                                                               : FieldKind::Other;
         }
+    }
+    // "Postcode or town" asks for one of two, or for both in one.
+    for (int i = 0; i < fields.size(); ++i) {
+        const QVector<FieldKind> &named = readings.at(i).named;
+        const bool isBoth =
+            named.contains(FieldKind::PostalCode) && named.contains(FieldKind::City);
+        const bool isOne =
+            i + 1 >= fields.size() || !isSilent(fields.at(i + 1), readings.at(i + 1));
+        if (isBoth && isOne && !readings.at(i).isTold &&
+            (kinds.at(i) == FieldKind::PostalCode || kinds.at(i) == FieldKind::City))
+            kinds[i] = FieldKind::Other;
     }
     // "Number" behind the street is the house's.
     for (int i = 1; i < fields.size(); ++i) {

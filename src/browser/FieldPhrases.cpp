@@ -215,6 +215,9 @@ bool isOfStrangerBefore(const Words &words, int from, int count, int known)
     const bool isGenitive = before > 0 && words.at(before) == QLatin1String("s");
     if (isGenitive)
         --before;
+    // "IPv4 address", "passenger 1 name".
+    while (before > known && words.at(before).at(0).isDigit() && words.isBesideNext(before))
+        --before;
     if (!isGenitive && !isIn(englishHeads(), words, from + count - 1))
         return false;
     return before >= known && words.isBesideNext(before) && isStrange(words, before);

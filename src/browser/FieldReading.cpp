@@ -110,7 +110,7 @@ FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
 bool isOfOther(const TextMeaning &meaning, FieldKind kind)
 {
     if (!isIdentityKind(kind) && kind != FieldKind::SomeName && kind != FieldKind::CardNumber &&
-        kind != FieldKind::CardExpiry && !isPerhapsKind(kind))
+        kind != FieldKind::CardExpiry && kind != FieldKind::SomeNumber && !isPerhapsKind(kind))
         return false;
     return std::any_of(meaning.parts.begin(), meaning.parts.end(),
                        [](const TextMeaning::Part &part) { return part.isOfOther; });
@@ -143,8 +143,9 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord)
     if (mainWord == MainWord::First) {
         reading.isOfRecipient = reading.isOfRecipient || meaning.isOfRecipient;
         if (reading.kind == FieldKind::Unknown && isOfOther(meaning, kind)) {
-            reading.isOfOther = true;
+            reading.isOfOther = kind != FieldKind::SomeNumber;
             reading.kind = FieldKind::Other;
+            reading.also.append(kind);
             return;
         }
     }
@@ -194,9 +195,9 @@ FieldReading readSelect(const FormField &field, FieldReading reading)
     return reading;
 }
 
-FieldKind kindInPassword(FieldKind kind)
+FieldKind kindInPassword(const FieldReading &reading)
 {
-    switch (kind) {
+    switch (reading.kind) {
     case FieldKind::Never:
     // A social security number is hidden too.
     case FieldKind::Other:
@@ -204,9 +205,12 @@ FieldKind kindInPassword(FieldKind kind)
     case FieldKind::CurrentPassword:
     case FieldKind::RepeatedPassword:
     case FieldKind::CardCode:
-        return kind;
-    default:
+        return reading.kind;
+    case FieldKind::Password:
         return FieldKind::Password;
+    default:
+        // "Last 4 digits of your SSN" are no name.
+        return reading.says(FieldKind::Other) ? FieldKind::Other : FieldKind::Password;
     }
 }
 
@@ -268,7 +272,7 @@ FieldReading readTextsOf(const FormField &field)
     if (field.isSelect())
         return readSelect(field, reading);
     if (field.isPassword())
-        reading.kind = kindInPassword(reading.kind);
+        reading.kind = kindInPassword(reading);
     else if (field.isTextArea())
         reading.kind = kindInText(reading.kind);
     else if (!field.isLine())

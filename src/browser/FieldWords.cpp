@@ -179,7 +179,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "phone country code|phone code|dialing code|dialling code|dial code|dialcode|calling code|country calling code|phone prefix|"
      "international code|landesvorwahl|landervorwahl|landercode|prefijo|prefijo telefonico|prefijo internacional|indicatif|indicatif "
      "telephonique|indicatif pays|код страны|phonecode|phone countrycode"},
-    {FieldKind::PhoneArea, "area code|phone area|phone area code|vorwahl|ortsvorwahl|codigo de area|indicatif regional|код города"},
+    {FieldKind::PhoneArea, "area code|phone area|phone area code|vorwahl|ortsvorwahl|codigo de area|cod area|codigo area|indicatif regional|код города"},
     {FieldKind::PhonePrefix, "phone exchange|exchange code|=exchange"},
     {FieldKind::PhoneLine, "phone line|phone line number|phone suffix|local phone number"},
     {FieldKind::BirthDate,
@@ -259,7 +259,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "дополнительный телефон|другой телефон|запасной телефон|второй телефон|telefono alternativo|otro telefono|telefono adicional|"
      "autre telephone|telephone secondaire|autre numero|weitere telefonnummer|zweite telefonnummer|alternative telefonnummer|notfallkontakt|"
      "notfallnummer|contacto de emergencia|contact d urgence|экстренный контакт|"
-     "=floor|=building|=etage|=stockwerk|building name|tipo de via|type de voie|"
+     "wi fi password|wifi password|wlan passwort|wlan schlussel|network key|network password|wi fi network|clave wifi|cle wifi|пароль wi fi|ssid|=floor|=building|=etage|=stockwerk|building name|tipo de via|type de voie|"
      "entrance|intercom|gate code|door code|digicode|interphone|landmark|neighborhood|neighbourhood|=barrio|=bairro|=colonia|=quartier|"
      "подъезд|этаж|домофон|код домофона|район|entre calles|entre que calles|stadtteil|ortsteil|"
      "carte de fidelite|numero de fidelite|n de carte de fidelite|numero de carte de fidelite|tarjeta de fidelidad|kundenkarte|kundenkartennummer|"
@@ -267,7 +267,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "house name|name suffix|=suffix|name prefix|middle name of father|father s name|mother s name|girokonto|"
      "versicherungsnummer|steuer id|steueridentifikationsnummer|krankenkasse|numero de securite sociale|seguridad social|снилс"},
     {FieldKind::HouseNumber,
-     "house name or number|house name number|house name no|house number or name|house number name|house name and number|building number|"
+     "=altura|house name or number|house name number|house name no|house number or name|house number name|house name and number|building number|"
      "numer budynku|nr domu|nr budynku|husnummer|husnr|cislo popisne|kapi no|bina no|n civico|numero porta"},
     {FieldKind::NewPassword,
      "add a password|set a password|set password|set your password|enter a new password|pick a password|create your password|your new password|"

@@ -56,6 +56,7 @@ public:
         leaveFurtherBirths();
         leaveExtraStreets(m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
+        leaveFurtherNames(m_readings, m_kinds);
         leaveLoneName(m_readings, m_kinds);
         assignLoginRoles(m_fields, m_readings, m_around, m_kinds);
         for (FieldKind &kind : m_kinds)

@@ -134,6 +134,9 @@ int userNameRank(const FormField &field, const FieldReading &reading, FieldKind 
         return surelyUserName;
     if (reading.says(FieldKind::UserName))
         return 5;
+    // The number of a library's card does, the name of a device does not.
+    if (reading.isOfOther)
+        return reading.says(FieldKind::SomeName) ? 0 : 3;
     switch (kind) {
     case FieldKind::Email:
         return 4;

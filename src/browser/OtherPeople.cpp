@@ -131,3 +131,17 @@ void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &ki
     if (isPlainName || readings.at(only).isOfRecipient)
         kinds[only] = FieldKind::Other;
 }
+
+void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+{
+    int most = 1;
+    for (const FieldKind kind : {FieldKind::AddressLine1, FieldKind::City, FieldKind::PostalCode})
+        most = qMax(most, kinds.count(kind));
+    for (const FieldKind kind : {FieldKind::FullName, FieldKind::FirstName, FieldKind::LastName}) {
+        int count = 0;
+        for (int i = 0; i < kinds.size(); ++i) {
+            if (kinds.at(i) == kind && ++count > most && !readings.at(i).isTold)
+                kinds[i] = FieldKind::Other;
+        }
+    }
+}

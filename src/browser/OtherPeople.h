@@ -14,3 +14,6 @@ void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReadi
 /// Leaves a plain "name" or something of a recipient's in a form that asks for nothing else of a
 /// person: anything has a name.
 void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
+
+/// Leaves the names of further people: there are no more of the user's than there are addresses.
+void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);

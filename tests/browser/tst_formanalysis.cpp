@@ -140,6 +140,10 @@ void TestFormAnalysis::veto_data()
         "-");
     row(R"({"label":"E-mail"}, {"type":"password","label":"Password","placeholder":"8 characters or more"})",
         "-|-");
+    row(R"({"label":"Library card number"}, {"type":"password","label":"Password"})",
+        "anna|secret");
+    row(R"({"label":"Device name"}, {"type":"password","label":"Wi-Fi password"})", "-|-");
+    row(R"({"type":"password","label":"Last 4 digits of your SSN"})", "-");
     row(R"({"label":"Workspace address","heading":"Sign in"})", "-");
     row(R"({"label":"Street","heading":"Sign in"})", "-");
     row(R"({"label":"User name"}, {"type":"password","label":"Password"}, {"type":"password","label":"Social security number"})",
@@ -193,7 +197,8 @@ void TestFormAnalysis::identities_data()
          "Project name|Pet's name|Name of the school|Name des Kindes|Nombre de la mascota|"
          "Nom du projet|Имя ребёнка|Mother's first name|Manager's phone|Emergency contact phone|"
          "Alternate phone|Phone extension|Hotel address|Wallet address|City of birth|"
-         "Ville de naissance|State of issue|Date|Event date|Suffix|Nationality");
+         "Ville de naissance|State of issue|IPv4 address|Postcode or town|Date|Event "
+         "date|Suffix|Nationality");
     rows(QStringLiteral("IBAN"), FieldKind::Unknown, "Recipient|Empfänger");
     rows(QStringLiteral("Your name|Your e-mail"), FieldKind::Unknown, "Recipient's name");
     rows(QStringLiteral("Description"), FieldKind::Unknown, "Name");

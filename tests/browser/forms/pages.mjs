@@ -23,7 +23,7 @@ export const describing = buildSync({
   write: false,
 }).outputFiles[0].text;
 
-/** The pages of a set ("dev", "held"): {name, html}. */
+/** The pages of a set, a folder here: {name, html}. */
 export function pagesOf(set) {
   const folder = new URL(`${set}/`, here);
   return readdirSync(folder).sort().flatMap((file) => {
