@@ -17,3 +17,4 @@ if(NOT CMAKE_HOST_WIN32)
 endif()
 # Read by packaging/windows/NSIS.template.in.
 set(CPACK_WINDOWS_ICON ${PROJECT_SOURCE_DIR}/packaging/windows/glaceron.ico)
+set(CPACK_WINDOWS_PICTURE ${PROJECT_SOURCE_DIR}/packaging/windows/installer.bmp)
