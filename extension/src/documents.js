@@ -2,7 +2,7 @@ import { announceFrame, describeFrame } from './frame.js';
 import { routedOpid } from './route.js';
 import { belongsTo } from './site.js';
 
-const MOST_FIELDS = 500;
+const MOST_FIELDS = 1000;
 const MOST_OPTIONS = 5000;
 const LONGEST_ADDRESS = 4096;
 // The program closes the connection on a message of more than 8 MiB.

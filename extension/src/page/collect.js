@@ -4,9 +4,9 @@ import { fieldType, pageType } from './fields.js';
 import { hintsOf } from './hints.js';
 import { labelText, textBefore } from './surroundings.js';
 import { clean, textOf } from './text.js';
-import { isVisible } from './visible.js';
+import { isVisible, readingOnce } from './visible.js';
 
-const MOST_FIELDS = 500;
+const MOST_FIELDS = 1000;
 const NO_FORM = 'none';
 // A typed value is never reported, only what the page itself offers to choose from.
 const WITH_VALUE = new Set(['select-one', 'select-multiple', 'radio']);
@@ -31,6 +31,7 @@ function describeField(field, opid, position, heading) {
   const type = fieldType(field);
   const inputtype = clean(pageType(field));
   const before = textBefore(field);
+  const label = labelText(field);
   return {
     opid,
     gpmid: hash([name, id, inputtype, position].join('|')),
@@ -43,9 +44,9 @@ function describeField(field, opid, position, heading) {
     sourceName: name,
     sourceId: id,
     sourceClass: className,
-    sourceLabelFor: labelText(field),
+    sourceLabelFor: label,
     sourceContext: contextText(field, before),
-    ...hintsOf(field, before, heading),
+    ...hintsOf(field, { label, before, heading }),
     ...(WITH_VALUE.has(type) && { value: clean(field.value) }),
   };
 }
@@ -77,7 +78,9 @@ function describeForm(form, token, place) {
  * each reported field to {field, formUid, gpmid, visible}.
  * numberOf gives an element the same number for as long as it lives; token names the document.
  */
-export function collect(doc, token, numberOf) {
+export const collect = (doc, token, numberOf) => readingOnce(() => describe(doc, token, numberOf));
+
+function describe(doc, token, numberOf) {
   const forms = new Map();
   const loose = { formUid: NO_FORM, fields: [] };
   const fields = new Map();

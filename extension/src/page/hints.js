@@ -1,6 +1,6 @@
 import { attr } from './dom.js';
 import { clean } from './text.js';
-import { labelText, tableHead, textAfter } from './surroundings.js';
+import { tableHead, textAfter } from './surroundings.js';
 
 const MOST_OPTIONS = 300;
 const LONGEST_OPTION = 60;
@@ -20,10 +20,10 @@ function isFilled(field) {
 }
 
 /** What a field says of itself beyond name, id, class and the text near it. Never what was typed into it. */
-export function hintsOf(field, before, heading) {
+export function hintsOf(field, { label, before, heading }) {
   const hints = {
     autocomplete: clean(attr(field, 'autocomplete')),
-    label: labelText(field),
+    label,
     placeholder: clean(attr(field, 'placeholder')),
     ariaLabel: clean(attr(field, 'aria-label')),
     title: clean(attr(field, 'title')),

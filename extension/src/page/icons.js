@@ -1,7 +1,7 @@
 import { ghostOver } from './covered.js';
 import { boxOf, isConnected, parentOf, matches } from './dom.js';
 import { SIZE, createHost, createIcon, isOwnHost, isUntouched } from './icon.js';
-import { isVisible } from './visible.js';
+import { isVisible, readingOnce } from './visible.js';
 
 const MOST_ICONS = 60;
 const SMALLEST = { width: 60, height: 16 };
@@ -62,15 +62,17 @@ export function createIcons({ title, open }) {
   // Runs when the browser has just laid the page out: reading boxes costs nothing then.
   function place(changes) {
     const latest = new Map(changes.map((change) => [change.target, change]));
-    const moves = [...latest.values()].map(({ target: field, isIntersecting, boundingClientRect: box }) => {
-      const entry = entries.get(field);
-      if (!entry) return () => {};
-      const isThere = isIntersecting && box.width >= SMALLEST.width && box.height >= SMALLEST.height;
-      const room = isThere && isVisible(field) ? roomIn(field, box) : undefined;
-      if (!room) return () => entry.icon?.hide();
-      return () => show(field, entry, room);
-    });
+    const moves = readingOnce(() => [...latest.values()].map(moveFor));
     for (const move of moves) move();
+  }
+
+  function moveFor({ target: field, isIntersecting, boundingClientRect: box }) {
+    const entry = entries.get(field);
+    if (!entry) return () => {};
+    const isThere = isIntersecting && box.width >= SMALLEST.width && box.height >= SMALLEST.height;
+    const room = isThere && isVisible(field) ? roomIn(field, box) : undefined;
+    if (!room) return () => entry.icon?.hide();
+    return () => show(field, entry, room);
   }
 
   function show(field, entry, room) {

@@ -24,10 +24,10 @@ export function scrollerReaches(scroller, inner, style) {
   }, inner);
 }
 
-/** Whether scrolling the page can bring the box into the window. */
-export function pageReaches(view, inner) {
+/** How far the page in the window can be scrolled, for pageReaches. */
+export function pageOf(view) {
   const { documentElement: page, body } = view.document;
-  return reaches({
+  return {
     box: { left: 0, top: 0 },
     x: view.scrollX,
     y: view.scrollY,
@@ -35,5 +35,8 @@ export function pageReaches(view, inner) {
     scrollWidth: Math.max(page.scrollWidth, view.innerWidth),
     scrollHeight: Math.max(page.scrollHeight, view.innerHeight),
     direction: view.getComputedStyle(body ?? page).direction,
-  }, inner);
+  };
 }
+
+/** Whether scrolling the page can bring the box into the window. */
+export const pageReaches = reaches;

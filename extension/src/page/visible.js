@@ -1,6 +1,6 @@
 import { isCovered } from './covered.js';
 import { boxOf, flatParentOf, hasAttr } from './dom.js';
-import { pageReaches, scrollerReaches } from './reach.js';
+import { pageOf, pageReaches, scrollerReaches } from './reach.js';
 
 const SMALLEST = 3;
 const FAINTEST = 0.1;
@@ -60,30 +60,63 @@ function inHiddenFrame(view) {
 // Not every browser tells.
 const isUnseen = (element) => Element.prototype.checkVisibility?.call(element, { opacityProperty: true }) === false;
 
+let known; // what was read of the page, while all of it is looked at
+
+/** Runs work, which changes nothing on the page, and reads what it needs of every element and of the page once. */
+export function readingOnce(work) {
+  if (known) return work();
+  known = new Map();
+  try {
+    return work();
+  } finally {
+    known = undefined;
+  }
+}
+
+function remember(key, read) {
+  if (!known) return read();
+  if (!known.has(key)) known.set(key, read());
+  return known.get(key);
+}
+
+function lookOf(node, view) {
+  return remember(node, () => {
+    const style = view.getComputedStyle(node);
+    const isGone = style.display === 'none' || style.contentVisibility === 'hidden' || hasAttr(node, 'inert');
+    return {
+      isGone: isGone || clippedAway(style) || maskedAway(style),
+      opacity: opacityOf(style),
+      visibility: style.visibility,
+      position: style.position,
+      direction: style.direction,
+      scrollsWithWindow: scrollsWithWindow(node, view),
+      overflow: `${style.overflowX || style.overflow} ${style.overflowY}`,
+    };
+  });
+}
+
 /** Whether a person who scrolls through the page can see the element. */
 export function isVisible(element, view = window) {
   let box = boxOf(element);
   if (tooSmall(box) || isUnseen(element)) return false;
-  if (view.getComputedStyle(element).visibility !== 'visible') return false;
+  if (lookOf(element, view).visibility !== 'visible') return false;
 
   let opacity = 1;
   let position; // of the box that the ancestors clip
   for (let node = element; node; node = flatParentOf(node)) {
-    const style = view.getComputedStyle(node);
-    if (style.display === 'none' || style.contentVisibility === 'hidden' || hasAttr(node, 'inert')) return false;
-    opacity *= opacityOf(style);
-    if (opacity < FAINTEST || clippedAway(style) || maskedAway(style)) return false;
+    const look = lookOf(node, view);
+    opacity *= look.opacity;
+    if (look.isGone || opacity < FAINTEST) return false;
 
-    const clips = position !== 'fixed' && (position !== 'absolute' || style.position !== 'static');
-    if (node !== element && clips && !scrollsWithWindow(node, view)) {
-      const overflow = `${style.overflow} ${style.overflowX} ${style.overflowY}`;
-      if (/auto|scroll/.test(overflow)) {
-        if (!scrollerReaches(node, box, style)) return false;
+    const clips = position !== 'fixed' && (position !== 'absolute' || look.position !== 'static');
+    if (node !== element && clips && !look.scrollsWithWindow) {
+      if (/auto|scroll/.test(look.overflow)) {
+        if (!scrollerReaches(node, box, look)) return false;
         box = boxOf(node);
-      } else if (/hidden|clip/.test(overflow)) box = overlap(box, boxOf(node));
+      } else if (/hidden|clip/.test(look.overflow)) box = overlap(box, boxOf(node));
     }
     if (tooSmall(box)) return false;
-    if (clips) position = style.position;
+    if (clips) position = look.position;
   }
-  return pageReaches(view, box) && !isCovered(element, view) && !inHiddenFrame(view);
+  return pageReaches(remember(view, () => pageOf(view)), box) && !isCovered(element, view) && !inHiddenFrame(view);
 }

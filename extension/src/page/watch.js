@@ -61,13 +61,15 @@ export function watch(doc, { onField, onChange }) {
       if (added.length > 0) plan();
       return;
     }
-    requestIdleCallback(run, { timeout: 1000 });
+    runSoon();
   }
+
+  const runSoon = () => requestIdleCallback(run, { timeout: 1000 });
 
   function plan() {
     if (planned) return;
     planned = true;
-    setTimeout(() => requestIdleCallback(run, { timeout: 1000 }), PAUSE);
+    setTimeout(runSoon, PAUSE);
   }
 
   function note(records) {
@@ -86,7 +88,9 @@ export function watch(doc, { onField, onChange }) {
   function start(root) {
     observe(root);
     added.push(root);
-    plan();
+    // Who opens a page shall not wait for its crystals.
+    planned = true;
+    runSoon();
   }
 
   start(doc);
