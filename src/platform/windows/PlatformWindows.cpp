@@ -1,4 +1,6 @@
 #include "Platform.h"
+
+#include "ConnectionSession.h"
 #include "SystemCall.h"
 #include "WideText.h"
 #include "WindowsVersion.h"
@@ -48,8 +50,15 @@ public:
         return ::windowsVersionCode(info.dwMajorVersion, info.dwMinorVersion, info.dwBuildNumber);
     }
 
-    /// Not asked: a connection leads to its owner only by way of a process that may have ended.
-    bool isForeignConnection(std::uint16_t, std::uint16_t) override { return false; }
+    bool isForeignConnection(std::uint16_t port, std::uint16_t toPort) override
+    {
+        const std::optional<unsigned long> process = connectionProcess(port, toPort);
+        const std::optional<unsigned long> session =
+            process ? processSession(*process) : std::nullopt;
+        DWORD own = 0;
+        return session && ProcessIdToSessionId(GetCurrentProcessId(), &own) &&
+               isForeignSession(*session, own);
+    }
 };
 
 } // namespace
