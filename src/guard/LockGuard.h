@@ -52,7 +52,7 @@ Q_SIGNALS:
 
 private:
     /// The first answer of some systems takes its time.
-    static const int toleratedMisses = 10;
+    static constexpr int toleratedMisses = 10;
 
     qint64 limitMs();
     bool wasAsleep(qint64 limitMs);
