@@ -28,6 +28,7 @@ QWidget *makeNews(const QString &text, QWidget *parent)
     auto *inside = new QVBoxLayout(card);
     inside->setContentsMargins(Style::gap, Style::gap, Style::gap, Style::gap);
     inside->addWidget(area);
+    label->ensurePolished(); // its font decides how high it is
     const int inner = Style::scaled(usualWidth) - 2 * (Style::margin + Style::gap + 1);
     area->setFixedHeight(qMin(label->heightForWidth(inner), Style::scaled(mostTextHeight)));
     return card;
