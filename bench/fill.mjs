@@ -1,5 +1,6 @@
-// From Enter in quick access to the value in the page, in both browsers: run by hand, `node bench/fill.mjs`, with the
-// program closed. The real program and browser on a screen of their own, real key strokes.
+// From Enter in quick access to the value in the page, in both browsers: `node bench/fill.mjs`, with the program closed;
+// PROGRAM names another than that of the build for development. The real program and browser on a screen of
+// their own, real key strokes.
 
 import { spawn } from 'node:child_process';
 import { performance } from 'node:perf_hooks';
@@ -23,7 +24,7 @@ const FORM = `<title>Shop</title><form method=post action=/done><input name=user
 const now = () => performance.timeOrigin + performance.now();
 const site = await startSite({ '/': FORM, '/done': 'done' });
 const desktop = await startDesktop();
-const program = await startDesktopProgram(desktop);
+const program = await startDesktopProgram(desktop, { binary: process.env.PROGRAM ?? 'build/dev/src/glaceron' });
 const user = makeUser(desktop, program);
 const url = `http://${HOST}:${site.port}/`;
 
