@@ -2,6 +2,7 @@
 
 #include "UpdateQuery.h"
 
+#include <QNetworkProxy>
 #include <QNetworkReply>
 
 namespace {
@@ -22,6 +23,8 @@ GPMUpdateChecker::GPMUpdateChecker(const Parts &parts, QObject *parent)
     : QObject(parent)
     , m_parts(parts)
 {
+    // The system's proxy is looked up while the caller waits, for seconds at worst.
+    m_network.setProxy(QNetworkProxy::NoProxy);
     m_limit.setSingleShot(true);
     connect(&m_limit, &QTimer::timeout, this,
             [this] { fail(QStringLiteral("No answer in time")); });

@@ -19,11 +19,18 @@ UpdateNews newsOf(const char *version)
 /// The program's main window, and what it tells of newer versions.
 struct Program
 {
-    Program()
-        : ui(test.core, [] { return true; })
+    explicit Program(const QString &shownBefore = {})
+        : ui((remember(shownBefore), test.core), [] { return true; })
     {
         QCoreApplication::setApplicationVersion(QStringLiteral("1.1.32"));
         start(ui);
+    }
+
+    void remember(const QString &shownBefore)
+    {
+        UiSettings settings(QFileInfo(test.core.settings().filePath()).path());
+        settings.setLastUpdateVersionShow(shownBefore);
+        settings.store();
     }
 
     static void start(PMUiProvider &ui)
@@ -91,6 +98,26 @@ private Q_SLOTS:
         // Who asks is told again.
         program.learns("1.10.0", true);
         QVERIFY(program.tells("1.10.0"));
+    }
+
+    void aSenselessSettingSilencesNothing()
+    {
+        Program program(QStringLiteral("newest"));
+        program.learns("1.2.0");
+        QVERIFY(program.tells("1.2.0"));
+    }
+
+    void noMoreThanIsWanted()
+    {
+        Program program;
+        program.ui.mainWindow()->hide();
+        program.learns("1.2.0");
+        program.test.core.settings().setCheckUpdates(false);
+        program.ui.bringToFront();
+        QEvent activated(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(program.ui.mainWindow(), &activated);
+        QCoreApplication::processEvents();
+        QVERIFY(!program.dialog());
     }
 
     void waitsForTheUser()

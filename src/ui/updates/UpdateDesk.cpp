@@ -47,12 +47,18 @@ GPMUpdateChecker::Parts partsOf(const GPMAppSettings &settings, UiSettings &uiSe
 
 UpdateDesk::UpdateDesk(const GPMAppSettings &settings, UiSettings &uiSettings, Platform &platform,
                        const Theme &theme)
-    : m_uiSettings(uiSettings)
+    : m_settings(settings)
+    , m_uiSettings(uiSettings)
     , m_theme(theme)
     , m_checker(new GPMUpdateChecker(partsOf(settings, uiSettings, platform), this))
 {
     m_checker->setEndpoint(QUrl(QStringLiteral(GLACERON_UPDATE_URL)));
     connect(m_checker, &GPMUpdateChecker::newVersionFound, this, &UpdateDesk::onNews);
+    connect(m_checker, &GPMUpdateChecker::stateChanged, this, [this] {
+        // Taken back, or installed in the meantime.
+        if (m_checker->state() == GPMUpdateChecker::UpToDate)
+            m_waiting = {};
+    });
     connect(&m_timer, &QTimer::timeout, this, [this] {
         m_timer.setInterval(between);
         m_checker->checkIfDue();
@@ -92,7 +98,8 @@ void UpdateDesk::start()
 void UpdateDesk::tellWaiting()
 {
     const bool seen = m_main && m_main->isVisible() && !m_main->isMinimized();
-    if (m_waiting.version.isEmpty() || !seen || QApplication::activeModalWidget())
+    if (m_waiting.version.isEmpty() || !seen || QApplication::activeModalWidget() ||
+        !m_settings.checkUpdates())
         return;
     show(m_waiting);
 }
@@ -110,8 +117,9 @@ void UpdateDesk::onNews(const UpdateNews &news, bool byUser)
         show(news);
         return;
     }
+    // Written so that a senseless word in the settings keeps nothing from the user.
     const QString shown = m_uiSettings.lastUpdateVersionShow();
-    if (!shown.isEmpty() && !isNewerVersion(news.version, shown))
+    if (shown == news.version || isNewerVersion(shown, news.version))
         return;
     m_waiting = news;
     tellWaiting();

@@ -46,6 +46,7 @@ private:
     void onNews(const UpdateNews &news, bool byUser);
     void show(const UpdateNews &news);
 
+    const GPMAppSettings &m_settings;
     UiSettings &m_uiSettings;
     const Theme &m_theme;
     GPMUpdateChecker *m_checker;
