@@ -209,7 +209,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
 
     // Words of further languages that many shops of the neighbourhood write.
     {FieldKind::FirstName, "voornaam|imie|prenome"},
-    {FieldKind::LastName, "achternaam|cognome|nazwisko|sobrenome"},
+    {FieldKind::LastName, "achternaam|cognome|nazwisko|sobrenome|apelido|apelidos"},
     {FieldKind::SomeName, "nome|naam"},
     {FieldKind::FullName, "nome e cognome|nome completo|volledige naam|imie i nazwisko"},
     {FieldKind::AddressLine1, "straat|straatnaam|straat en huisnummer|indirizzo|endereco|morada|logradouro|=rua|ulica i numer"},
@@ -217,7 +217,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::PostalCode, "=cap|codice postale|kod pocztowy|=cep|codigo de enderecamento"},
     {FieldKind::City, "woonplaats|=plaats|citta|comune|miejscowosc|miasto|cidade"},
     {FieldKind::Country, "nazione|paese|=kraj"},
-    {FieldKind::Phone, "telefoon|telefoonnummer|cellulare|numero di telefono|numer telefonu|telefone"},
+    {FieldKind::Phone, "telefoon|telefoonnummer|telemovel|cellulare|numero di telefono|numer telefonu|telefone"},
     {FieldKind::Email, "e mailadres|emailadres|posta elettronica|adres e mail|adres email"},
     {FieldKind::BirthDate, "geboortedatum|data di nascita|data de nascimento|data urodzenia"},
     {FieldKind::Gender, "geslacht|aanhef|sesso|płec|sexo"},
@@ -231,7 +231,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::CardCode, "beveiligingscode|codice di sicurezza|codigo de seguranca|kod bezpieczenstwa"},
     // Words that are an address's in one country and beside it in another.
     {FieldKind::PerhapsCity,
-     "suburb|locality|village|municipality|post town|localidad|municipio|commune|localite|населенныи пункт|bairro municipio"},
+     "localidade|suburb|locality|village|municipality|post town|localidad|municipio|commune|localite|населенныи пункт|bairro municipio"},
     {FieldKind::PerhapsState, "region|region id|county|prefecture|departamento|departement|=zone|uezd"},
     {FieldKind::PerhapsLine2, "=escalera|=puerta|=portal|=piso|=корпус|batiment"},
     {FieldKind::PerhapsPostalCode, "postnummer|postnr"},

@@ -53,7 +53,7 @@ public:
         for (int i = 0; i < m_fields.size(); ++i)
             readNeighbours(i);
         leaveLoneCards();
-        leaveFurtherBirths();
+        leaveFurtherBirths(m_readings, m_kinds);
         leaveExtraStreets(m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveFurtherNames(m_readings, m_kinds);
@@ -140,13 +140,23 @@ private:
         return i < m_fields.size() && isSilent(m_fields.at(i), reading(i));
     }
 
+    /// Whether it says that it is a second line, or no more than the one before it.
+    bool isSecondLine(int at) const
+    {
+        const auto wordsAt = [&](int i) {
+            return wordsOf(m_fields.at(i).readTexts().join(QLatin1Char(' ')));
+        };
+        const int words = wordsAt(at).size();
+        return reading(at).says(FieldKind::AddressLine2) || words <= 2 ||
+               words <= wordsAt(at - 1).size();
+    }
+
     void readDate(int at);
     FieldKind datePart(int at, bool isBirth) const;
     bool isBirthOfPerson(int at) const;
     void readNeighbours(int at);
     void readVague(int at);
     void leaveLoneCards();
-    void leaveFurtherBirths();
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
     bool isOfPhone(int at) const;
@@ -262,7 +272,7 @@ void Reader::readNeighbours(int at)
         return;
     case FieldKind::AddressLine1:
         if (before == FieldKind::AddressLine1 && m_fields.at(at).isLine())
-            m_kinds[at] = FieldKind::AddressLine2;
+            m_kinds[at] = isSecondLine(at) ? FieldKind::AddressLine2 : FieldKind::Other;
         return;
     case FieldKind::Phone:
         if (before == FieldKind::PhoneArea)
@@ -331,15 +341,6 @@ void Reader::leaveLoneCards()
     for (int i = 0; i < m_kinds.size() && !isAlone; ++i) {
         if (kindAt(i) == FieldKind::CardNumber && !reading(i).isTold &&
             captionKindOf(m_fields.at(i).heading()) != CaptionKind::Card)
-            m_kinds[i] = FieldKind::Other;
-    }
-}
-
-/// A person is born once: a second date is somebody else's.
-void Reader::leaveFurtherBirths()
-{
-    for (int i = m_kinds.indexOf(FieldKind::BirthDate) + 1; i > 0 && i < m_kinds.size(); ++i) {
-        if (kindAt(i) == FieldKind::BirthDate && !reading(i).isTold)
             m_kinds[i] = FieldKind::Other;
     }
 }

@@ -125,6 +125,16 @@ void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> 
         kinds[first] = FieldKind::Password;
 }
 
+/// "New e-mail" beside the password changes the account, and does not open it.
+bool asksForNew(const FormField &field)
+{
+    static const QRegularExpression isNew(
+        QString::fromUtf8("\\b(new|neue|neuer|nueva|nuevo|nouvelle|nouveau|nova|novo|nieuwe?|nuova)"
+                          "\\b|нов(ый|ая|ое)"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    return isNew.match(field.label()).hasMatch();
+}
+
 /// How well a field does as the user name of a sign-in form, 0 for not at all.
 int userNameRank(const FormField &field, const FieldReading &reading, FieldKind kind)
 {
@@ -139,7 +149,7 @@ int userNameRank(const FormField &field, const FieldReading &reading, FieldKind 
         return reading.says(FieldKind::SomeName) ? 0 : 3;
     switch (kind) {
     case FieldKind::Email:
-        return 4;
+        return asksForNew(field) ? 0 : 4;
     case FieldKind::Phone:
     case FieldKind::CardNumber:
         return 3;

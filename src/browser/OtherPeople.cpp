@@ -145,3 +145,11 @@ void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind>
         }
     }
 }
+
+void leaveFurtherBirths(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+{
+    for (int i = kinds.indexOf(FieldKind::BirthDate) + 1; i > 0 && i < kinds.size(); ++i) {
+        if (kinds.at(i) == FieldKind::BirthDate && !readings.at(i).isTold)
+            kinds[i] = FieldKind::Other;
+    }
+}

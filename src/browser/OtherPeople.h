@@ -17,3 +17,6 @@ void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &ki
 
 /// Leaves the names of further people: there are no more of the user's than there are addresses.
 void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
+
+/// A person is born once: leaves the dates after the first, which are somebody else's.
+void leaveFurtherBirths(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);

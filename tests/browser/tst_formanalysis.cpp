@@ -144,6 +144,7 @@ void TestFormAnalysis::veto_data()
         "anna|secret");
     row(R"({"label":"Device name"}, {"type":"password","label":"Wi-Fi password"})", "-|-");
     row(R"({"type":"password","label":"Last 4 digits of your SSN"})", "-");
+    row(R"({"label":"New e-mail"}, {"type":"password","label":"Password"})", "-|secret");
     row(R"({"label":"Workspace address","heading":"Sign in"})", "-");
     row(R"({"label":"Street","heading":"Sign in"})", "-");
     row(R"({"label":"User name"}, {"type":"password","label":"Password"}, {"type":"password","label":"Social security number"})",
