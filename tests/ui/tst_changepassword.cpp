@@ -127,6 +127,8 @@ void TestChangePassword::messages_data()
         Confirm);
     row("no match", input("a", "Abc", "abc", "h"), Confirm, "Password does not match", Confirm);
     row("no hint", input("a", "b", "b", ""), Hint, "Hint can not be empty", Hint);
+    row("hint that tells", input("a", "bird", "bird", "A Bird"), Hint,
+        "The hint gives the password away", FieldCount);
     row("old before all", input("a", "a", "c", "", true), Hint, "Hint can not be empty", Old);
 }
 

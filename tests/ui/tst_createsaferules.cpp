@@ -1,3 +1,4 @@
+#include "HintRules.h"
 #include "lock/CreateSafeRules.h"
 
 #include <QtTest>
@@ -11,6 +12,8 @@ class TestCreateSafeRules : public QObject
 private Q_SLOTS:
     void messages_data();
     void messages();
+    void hints_data();
+    void hints();
     void createIsAllowed_data();
     void createIsAllowed();
 };
@@ -50,6 +53,8 @@ void TestCreateSafeRules::messages_data()
     row("confirmation", input("Work", "abc", "abc", ""), Confirm, "");
     row("no hint", input("Work", "abc", "abc", ""), Hint, "Hint can not be empty");
     row("hint", input("Work", "abc", "abc", "h"), Hint, "");
+    row("hint that tells", input("Work", "abc", "abc", "It is ABC"), Hint,
+        "The hint gives the password away");
 }
 
 void TestCreateSafeRules::messages()
@@ -59,6 +64,34 @@ void TestCreateSafeRules::messages()
     const Message shown = message(entered, Field(field));
     QTEST(shown.text, "text");
     QTEST(shown.strength, "strength");
+}
+
+void TestCreateSafeRules::hints_data()
+{
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<bool>("tells");
+    const auto row = [](const char *hint, const char *password, bool tells) {
+        QTest::newRow(hint) << QString::fromUtf8(hint) << QString::fromUtf8(password) << tells;
+    };
+    row("correct horse", "correct horse", true);
+    row("my Correct Horse!", "correct horse", true);
+    row("c-o-r-r-e-c-t horse", "correct horse", true);
+    row("correct", "correct horse", false);
+    row("Straße 7 am See", "strasse7", false);
+    row("Ключ: ЗИМА 1985", "зима1985", true);
+    row("$$$!", "$$$!", true);
+    row("what I pay with: $$$!", "$$$!", true);
+    row("a cat", "a", false); // no hint could do without
+    row(" A ", "a", true);
+    row("the usual", "", false);
+}
+
+void TestCreateSafeRules::hints()
+{
+    QFETCH(QString, hint);
+    QFETCH(QString, password);
+    QTEST(hintTellsPassword(hint, password), "tells");
 }
 
 void TestCreateSafeRules::createIsAllowed_data()

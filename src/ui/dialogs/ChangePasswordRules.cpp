@@ -1,5 +1,6 @@
 #include "ChangePasswordRules.h"
 
+#include "HintRules.h"
 #include "PasswordStrength.h"
 
 #include <QCoreApplication>
@@ -43,6 +44,9 @@ QString fault(const ChangePasswordRules::Input &input, ChangePasswordRules::Fiel
 ChangePasswordRules::Message ChangePasswordRules::message(const Input &input, Field field)
 {
     const QString text = fault(input, field);
+    // It is warned of, not refused: the user decides.
+    if (text.isEmpty() && field == Hint && hintTellsPassword(input.hint, input.newPassword))
+        return {Words::tr("The hint gives the password away")};
     if (!text.isEmpty() || field != New)
         return {text};
     const int level = passwordStrengthLevel(input.newPassword);

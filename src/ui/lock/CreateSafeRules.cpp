@@ -1,5 +1,6 @@
 #include "CreateSafeRules.h"
 
+#include "HintRules.h"
 #include "PasswordStrength.h"
 
 #include <QCoreApplication>
@@ -36,6 +37,8 @@ CreateSafeRules::Message CreateSafeRules::message(const Input &input, Field fiel
     case Hint:
         if (input.hint.isEmpty())
             return {text(QT_TRANSLATE_NOOP("CreateSafeRules", "Hint can not be empty"))};
+        if (hintTellsPassword(input.hint, input.password))
+            return {text(QT_TRANSLATE_NOOP("CreateSafeRules", "The hint gives the password away"))};
         return {};
     case FieldCount:
         break;

@@ -24,6 +24,7 @@ struct Message
 Message message(const Input &input, Field field);
 
 /// Whether the safe can be made: everything is filled in and the confirmation is the password.
+/// A hint that gives the password away is warned of, not refused: the user decides.
 bool canCreate(const Input &input);
 
 } // namespace CreateSafeRules
