@@ -4,6 +4,7 @@
 #include "ItemDelegate.h"
 #include "ItemKinds.h"
 #include "ItemListView.h"
+#include "ItemSelection.h"
 #include "NewItemMenu.h"
 #include "SearchWords.h"
 #include "SiteIcons.h"
@@ -18,11 +19,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMetaEnum>
-#include <QScopedValueRollback>
 #include <QStackedWidget>
-
-#include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -52,10 +49,6 @@ ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *pa
     setAttribute(Qt::WA_StyledBackground);
     m_filter->setSourceModel(&items);
     m_filter->setTerms(searchTerms());
-    // Before the list connects: it moves on from a row that goes, which is not the user's doing.
-    connect(m_filter, &QAbstractItemModel::rowsAboutToBeRemoved, this,
-            [this] { m_rowsGoing = true; });
-    connect(m_filter, &QAbstractItemModel::modelAboutToBeReset, this, &ItemListPane::keepSelection);
     makeSearch();
     makeList(clock);
     m_categoryName = new ElidedLabel("muted", this);
@@ -65,8 +58,8 @@ ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *pa
     m_trashBar = makeTrashBar();
     layOut();
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &ItemListPane::showEmptyState);
-    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &ItemListPane::onRowsRemoved);
-    connect(m_filter, &QAbstractItemModel::modelReset, this, &ItemListPane::onReset);
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &ItemListPane::showEmptyState);
+    connect(m_filter, &QAbstractItemModel::modelReset, this, &ItemListPane::showEmptyState);
     showEmptyState();
 }
 
@@ -104,15 +97,12 @@ void ItemListPane::makeList(const Clock &clock)
     m_list = new ItemListView(this);
     m_list->setObjectName(QStringLiteral("itemList"));
     m_list->setAccessibleName(tr("Items"));
-    m_list->setModel(m_filter);
+    m_selection = new ItemSelection(*m_list, *m_filter, this);
+    connect(m_selection, &ItemSelection::chosen, this, &ItemListPane::selectionChosen);
     connect(m_icons, &SiteIcons::changed, m_list->viewport(), QOverload<>::of(&QWidget::update));
     m_list->setItemDelegate(new ItemDelegate(m_theme, m_icons, m_list, clock));
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->installEventFilter(this);
-    connect(m_list, &ItemListView::selectionSettled, this, [this] {
-        if (!m_marking && !m_rowsGoing)
-            Q_EMIT selectionChosen();
-    });
     connect(m_list, &QListView::doubleClicked, this, [this](const QModelIndex &index) {
         Q_EMIT activated(index.data(ItemListModel::IdRole).toString());
     });
@@ -214,8 +204,9 @@ void ItemListPane::layOut()
 
 void ItemListPane::setCategory(const ItemCategory &category)
 {
-    const QScopedValueRollback<bool> marking(m_marking, true);
+    m_selection->setCategoryChanging(true);
     m_filter->setCategory(category);
+    m_selection->setCategoryChanging(false);
     m_categoryName->setFullText(categoryName(category));
     // That category has an order of its own.
     m_sort->setVisible(category.kind != ItemCategory::MostUsed);
@@ -248,18 +239,12 @@ void ItemListPane::clearSearch()
 
 QString ItemListPane::currentId() const
 {
-    const QStringList ids = selectedIds();
-    return ids.size() == 1 ? ids.first() : QString();
+    return m_selection->currentId();
 }
 
 QStringList ItemListPane::selectedIds() const
 {
-    QModelIndexList rows = m_list->selectionModel()->selectedIndexes();
-    std::sort(rows.begin(), rows.end());
-    QStringList ids;
-    for (const QModelIndex &row : qAsConst(rows))
-        ids.append(row.data(ItemListModel::IdRole).toString());
-    return ids;
+    return m_selection->ids();
 }
 
 bool ItemListPane::contains(const QString &id) const
@@ -274,58 +259,12 @@ QString ItemListPane::firstId() const
 
 void ItemListPane::setCurrent(const QString &id)
 {
-    const QScopedValueRollback<bool> marking(m_marking, true);
-    const QModelIndex index = m_filter->indexOf(id);
-    m_list->setCurrentIndex(index);
-    if (index.isValid()) {
-        m_list->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
-        m_list->scrollTo(index);
-    } else {
-        m_list->clearSelection();
-    }
+    m_selection->setCurrent(id);
 }
 
 void ItemListPane::selectAll()
 {
     m_list->selectAll();
-}
-
-void ItemListPane::keepSelection()
-{
-    m_kept = selectedIds();
-    m_keptCurrent = m_list->currentIndex().data(ItemListModel::IdRole).toString();
-}
-
-void ItemListPane::onReset()
-{
-    const QScopedValueRollback<bool> marking(m_marking, true);
-    const QStringList ids = std::exchange(m_kept, {});
-    QItemSelection selection;
-    for (const QString &id : ids) {
-        const QModelIndex index = m_filter->indexOf(id);
-        if (!index.isValid())
-            continue;
-        // Rows that follow each other are one range.
-        if (!selection.isEmpty() && selection.last().bottom() + 1 == index.row())
-            selection.last() = QItemSelectionRange(selection.last().topLeft(), index);
-        else
-            selection.select(index, index);
-    }
-    QModelIndex current = m_filter->indexOf(m_keptCurrent);
-    if (!current.isValid() && !selection.isEmpty())
-        current = selection.first().topLeft();
-    m_list->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
-    m_list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-    showEmptyState();
-}
-
-void ItemListPane::onRowsRemoved()
-{
-    // The row that came to the place of the last selected one is the selected one now.
-    if (!m_list->selectionModel()->hasSelection())
-        m_list->selectionModel()->select(m_list->currentIndex(), QItemSelectionModel::Select);
-    m_rowsGoing = false;
-    showEmptyState();
 }
 
 void ItemListPane::onDayChanged()

@@ -7,6 +7,7 @@
 class ElidedLabel;
 class EmptyState;
 class ItemListView;
+class ItemSelection;
 class QLabel;
 class QLineEdit;
 class QStackedWidget;
@@ -91,9 +92,6 @@ private:
     bool onListKey(int key);
     void requestMenu(const QPoint &position);
     void onOrderChosen(ItemFilterModel::SortBy order);
-    void keepSelection();
-    void onReset();
-    void onRowsRemoved();
 
     const Theme &m_theme;
     ItemFilterModel *m_filter;
@@ -106,11 +104,8 @@ private:
     QWidget *m_trashBar;
     QStackedWidget *m_stack;
     ItemListView *m_list;
+    ItemSelection *m_selection;
     EmptyState *m_empty;
-    QStringList m_kept; ///< what was selected before the rows are made anew
-    QString m_keptCurrent;
     int m_inCategory = 0;
     bool m_safeIsEmpty = true;
-    bool m_marking = false;   ///< the selection is not being changed by the user
-    bool m_rowsGoing = false; ///< rows are being removed
 };

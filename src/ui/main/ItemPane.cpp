@@ -1,29 +1,20 @@
 #include "ItemPane.h"
 
-#include "CopyNotice.h"
 #include "EmptyState.h"
 #include "GPMAppCore.h"
+#include "ItemFooter.h"
 #include "ItemPage.h"
 #include "PMLogin.h"
 #include "attachments/AttachmentActions.h"
 #include "attachments/AttachmentsCard.h"
 #include "drafts/DraftDocument.h"
 #include "editor/SafeItemEditor.h"
-#include "style/Style.h"
 #include "style/Theme.h"
-#include "widgets/Controls.h"
 
 #include <QBoxLayout>
 #include <QStackedWidget>
 
 #include <utility>
-
-namespace {
-
-const int footerHeight = 58;
-const int pageMargin = 28;
-
-} // namespace
 
 ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *parent)
     : QWidget(parent)
@@ -36,13 +27,13 @@ ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     , m_attachments(new AttachmentActions(core, theme, m_asker, this))
     , m_card(new AttachmentsCard(core, *m_attachments, theme, this))
     , m_editor(new SafeItemEditor(core.settings(), theme, this))
+    , m_footer(new ItemFooter(core.clipboard(), theme, this))
 {
     setObjectName(QStringLiteral("itemPane"));
     setAttribute(Qt::WA_StyledBackground);
     m_stack->addWidget(m_empty);
     m_stack->addWidget(m_page);
     m_stack->addWidget(m_editor);
-    makeFooter();
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins({});
     all->setSpacing(0);
@@ -59,6 +50,12 @@ ItemPane::ItemPane(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     connect(m_page, &ItemPage::editRequested, this, &ItemPane::startEdit);
     connect(m_page, &ItemPage::generatorRequested, this, &ItemPane::editPassword);
     connect(m_page, &ItemPage::fillTypeChosen, this, &ItemPane::setFillType);
+    connect(m_footer, &ItemFooter::removeRequested, this,
+            [this] { Q_EMIT removeRequested(currentId()); });
+    connect(m_footer, &ItemFooter::restoreRequested, this,
+            [this] { Q_EMIT restoreRequested(currentId()); });
+    connect(m_footer, &ItemFooter::discardRequested, this, &ItemPane::discard);
+    connect(m_footer, &ItemFooter::saveRequested, this, &ItemPane::save);
     connectAttachments();
     showNothing();
 }
@@ -100,39 +97,6 @@ ItemPane::~ItemPane()
     // A new item goes before the editor does, which would call back.
     m_editor->disconnect(this);
     m_editor->setItem(nullptr, false);
-}
-
-void ItemPane::makeFooter()
-{
-    m_footer = new QWidget(this);
-    m_footer->setObjectName(QStringLiteral("footer"));
-    m_footer->setAttribute(Qt::WA_StyledBackground);
-    m_footer->setFixedHeight(Style::scaled(footerHeight));
-    m_notice = new CopyNotice(m_core.clipboard(), m_theme, m_footer);
-    m_remove = footerButton(tr("Remove"), "plain", "removeButton", &ItemPane::requestRemove);
-    m_remove->setIcon(m_theme.icon(QStringLiteral("trash"), Palette::Text));
-    m_restore = footerButton(tr("Restore"), "plain", "restoreButton", &ItemPane::requestRestore);
-    m_restore->setIcon(m_theme.icon(QStringLiteral("arrow-back-up"), Palette::Text));
-    m_discard = footerButton(tr("Discard changes"), "plain", "discardButton", &ItemPane::discard);
-    m_save = footerButton(tr("Save"), "primary", "saveButton", &ItemPane::saveByUser);
-    m_save->setToolTip(tr("Save (Ctrl+S)"));
-
-    auto *row = new QHBoxLayout(m_footer);
-    row->setContentsMargins(pageMargin, 0, pageMargin, 0);
-    row->setSpacing(Style::spacing);
-    row->addWidget(m_notice, 1);
-    row->addStretch();
-    for (QPushButton *button : {m_restore, m_remove, m_discard, m_save})
-        row->addWidget(button);
-}
-
-QPushButton *ItemPane::footerButton(const QString &text, const char *look, const char *name,
-                                    void (ItemPane::*slot)())
-{
-    QPushButton *button = makeButton(text, look, m_footer);
-    button->setObjectName(QLatin1String(name));
-    connect(button, &QPushButton::clicked, this, slot);
-    return button;
 }
 
 void ItemPane::showItem(const PMListItem *item)
@@ -188,7 +152,8 @@ void ItemPane::showEditor()
     m_stack->setCurrentWidget(m_editor);
     // New fields come last for Tab; the buttons below belong behind them.
     QWidget *before = m_editor->lastFocus();
-    for (QPushButton *button : {m_remove, m_discard, m_save}) {
+    const QVector<QWidget *> buttons = m_footer->editorButtons();
+    for (QWidget *button : buttons) {
         setTabOrder(before, button);
         before = button;
     }
@@ -318,11 +283,6 @@ bool ItemPane::save()
     return true;
 }
 
-void ItemPane::saveByUser()
-{
-    save();
-}
-
 void ItemPane::discard()
 {
     if (!isEditing())
@@ -377,30 +337,10 @@ QString ItemPane::currentId() const
     return isEditing() ? m_editedId : shownId();
 }
 
-void ItemPane::requestRemove()
-{
-    Q_EMIT removeRequested(currentId());
-}
-
-void ItemPane::requestRestore()
-{
-    Q_EMIT restoreRequested(currentId());
-}
-
 void ItemPane::showButtons()
 {
     const bool editing = isEditing();
     const PMListItem *item = m_page->item();
-    const bool trashed = item && item->deleted() && !editing;
-    m_remove->setVisible(!currentId().isEmpty());
-    const QString remove = trashed ? tr("Delete forever") : tr("Remove");
-    m_remove->setAccessibleName(remove);
-    m_remove->setToolTip(remove);
-    // Beside the editor's buttons there is room for its icon alone.
-    m_remove->setText(editing ? QString() : remove);
-    setStyleProperty(*m_remove, "narrow", editing);
-    m_restore->setVisible(trashed);
-    m_discard->setVisible(editing);
-    m_save->setVisible(editing);
+    m_footer->setState({editing, currentId().isEmpty(), item && item->deleted() && !editing});
     m_footer->setVisible(editing || item);
 }

@@ -12,11 +12,10 @@
 
 class AttachmentActions;
 class AttachmentsCard;
-class CopyNotice;
 class EmptyState;
 class GPMAppCore;
+class ItemFooter;
 class ItemPage;
-class QPushButton;
 class QStackedWidget;
 class Theme;
 
@@ -80,9 +79,6 @@ Q_SIGNALS:
     void generatorRequested(QObject *owner, const SafeItemEditor::Place &place);
 
 private:
-    void makeFooter();
-    QPushButton *footerButton(const QString &text, const char *look, const char *name,
-                              void (ItemPane::*slot)());
     void showEditor();
     void closeEditor();
     void showButtons();
@@ -90,9 +86,6 @@ private:
     void connectAttachments();
     void chooseAttachment();
     void orderFocus();
-    void requestRemove();
-    void requestRestore();
-    void saveByUser();
     void editPassword();
     void setFillType(PMFieldTypes::LoginFillType type);
     QString currentId() const;
@@ -107,12 +100,7 @@ private:
     AttachmentActions *m_attachments;
     AttachmentsCard *m_card;
     SafeItemEditor *m_editor;
-    CopyNotice *m_notice;
-    QWidget *m_footer;
-    QPushButton *m_remove;
-    QPushButton *m_restore;
-    QPushButton *m_discard;
-    QPushButton *m_save;
+    ItemFooter *m_footer;
     std::unique_ptr<PMListItem> m_newItem;
     QString m_editedId;
     QDateTime m_baseModified; ///< when the edited item had last changed as editing began
