@@ -6,6 +6,7 @@
 #include "UiTesting.h"
 #include "dialogs/Question.h"
 #include "quick/QuickAccessWindow.h"
+#include "quick/QuickList.h"
 #include "quick/QuickPlace.h"
 
 #include <QApplication>
@@ -486,6 +487,33 @@ private Q_SLOTS:
         QCOMPARE(quick.chosen(), QStringLiteral("Shop A"));
     }
 
+    void aKeyMeantForTheRowBeforeDoesNothingWithTheNewOne()
+    {
+        Quick quick;
+        QVERIFY(quick.createSafe());
+        quick.addLogin(QStringLiteral("Archive"), QStringLiteral("https://archive.example"));
+        PMLogin *shop =
+            quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"));
+        Browser browser(quick);
+        QApplication::clipboard()->clear();
+        quick.core.openQuickAccess();
+        QCOMPARE(quick.chosen(), QStringLiteral("Archive"));
+        Q_EMIT quick.core.quickAccessPageFound(page);
+        QCOMPARE(quick.chosen(), QStringLiteral("Shop"));
+        quick.press(Qt::Key_C, Qt::ControlModifier);
+        quick.press(Qt::Key_Return);
+        QVERIFY(quick.isShown());
+        QCOMPARE(QApplication::clipboard()->text(), QString());
+        // The user who moves has seen it; who does not has some time to.
+        quick.press(Qt::Key_Down);
+        quick.press(Qt::Key_Up);
+        quick.press(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), shop->password());
+        QTRY_VERIFY(!quick.window()->findChild<QuickList *>()->isSettling());
+        quick.press(Qt::Key_Return);
+        QVERIFY(!quick.isShown());
+    }
+
     void theHotkeyAsksForThePage()
     {
         Quick quick;
@@ -507,6 +535,7 @@ private Q_SLOTS:
         answer(other, QStringLiteral("https://archive.example/"));
         answer(browser.request(), page);
         QTRY_COMPARE(quick.chosen(), QStringLiteral("Shop"));
+        QTRY_VERIFY(!quick.window()->findChild<QuickList *>()->isSettling());
         quick.press(Qt::Key_Return);
         QTRY_COMPARE(textOf(browser.request(), "openmode"), QStringLiteral("currentNoReload"));
         QTRY_COMPARE(textOf(browser.request(), "reason"), QStringLiteral("login"));

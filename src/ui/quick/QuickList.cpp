@@ -19,6 +19,8 @@
 namespace {
 
 const int pageSteps = 6;
+/// How long a user who was about to press a key may go on to see what it would have hit.
+const int settleMs = 400;
 
 } // namespace
 
@@ -44,6 +46,8 @@ QuickList::QuickList(const Parts &parts, const Theme &theme, QWidget *parent)
     all->addWidget(m_stack, 1);
     all->addLayout(foot);
     setFocusProxy(m_search);
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(settleMs);
     connect(&m_items, &QAbstractItemModel::modelReset, this, &QuickList::onReset);
     onReset();
 }
@@ -98,6 +102,7 @@ void QuickList::start(PMListItem::Type kind, const QString &host, const QStringL
     m_items.setKind(kind);
     setPage(host, pageIds);
     onReset();
+    m_settling.stop();
 }
 
 void QuickList::setPage(const QString &host, const QStringList &ids)
@@ -105,8 +110,12 @@ void QuickList::setPage(const QString &host, const QStringList &ids)
     // What the user searched for and has in view is not replaced under the Enter key.
     if (m_items.isSearching())
         m_kept = chosenId();
+    const QString seen = chosenId();
     m_delegate->setHost(host);
     m_items.setPageIds(ids);
+    // The key that was meant for the item before is not for the one that took its place.
+    if (isVisible() && !seen.isEmpty() && chosenId() != seen)
+        m_settling.start();
 }
 
 void QuickList::setKind(PMListItem::Type kind)
@@ -154,22 +163,19 @@ bool QuickList::onKey(const QKeyEvent &key)
     if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
         return step(key.key());
     const QString id = chosenId();
-    if (!id.isEmpty())
+    if (!id.isEmpty() && !isSettling())
         Q_EMIT activated(id);
     return true;
 }
 
 bool QuickList::onCommand(int key)
 {
-    const QString id = chosenId();
-    if (key == Qt::Key_B) {
-        Q_EMIT userNameWanted(id);
-        return true;
-    }
     // What the user has marked in the field is what is meant.
-    if (key != Qt::Key_C || m_search->hasSelectedText())
+    const bool wantsSecret = key == Qt::Key_C && !m_search->hasSelectedText();
+    if (key != Qt::Key_B && !wantsSecret)
         return false;
-    Q_EMIT secretWanted(id);
+    if (!isSettling())
+        Q_EMIT wantsSecret ? secretWanted(chosenId()) : userNameWanted(chosenId());
     return true;
 }
 
@@ -185,6 +191,7 @@ bool QuickList::step(int key)
     const int row = m_items.itemRow(m_list->currentIndex().row(), by);
     choose(row);
     m_kept = chosenId();
+    m_settling.stop(); // the user has seen the rows as they are
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "ItemQuery.h"
 #include "QuickItems.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class ClipboardKeeper;
@@ -41,6 +42,8 @@ public:
     void setActive(bool active);
     void takeFocus();
 
+    /// Another item was just chosen without the user: for a moment keys do nothing with it.
+    bool isSettling() const { return m_settling.isActive(); }
     /// The id of the chosen item; empty when there is none.
     QString chosenId() const;
 
@@ -70,5 +73,6 @@ private:
     QuickDelegate *m_delegate = nullptr;
     EmptyState *m_empty = nullptr;
     QStackedWidget *m_stack = nullptr;
+    QTimer m_settling;
     QString m_kept; ///< the item that the user went to; empty while the first one is chosen
 };
