@@ -1,10 +1,21 @@
 #include "ItemChanges.h"
 
+#include "PMItemDocument.h"
+#include "TrashCopy.h"
+
 #include <QDir>
 #include <QSet>
+#include <QUuid>
 
 #include <algorithm>
 #include <utility>
+
+namespace {
+
+/// Names the item that a copy in the trash was made of.
+const QLatin1String formerOfKey("formerOf");
+
+} // namespace
 
 ItemChanges::ItemChanges(FindSafe safe, QObject *parent)
     : QObject(parent)
@@ -147,6 +158,38 @@ void ItemChanges::dropReferences(GPMSafe &safe, const QStringList &ids)
     }
     if (changed)
         safe.saveChangesAsync();
+}
+
+void ItemChanges::keepFormer(const QString &itemId, const QString &title)
+{
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    const PMListItem *item = safe ? safe->item(itemId) : nullptr;
+    if (!item)
+        return;
+    PMItemDocument document = PMItemDocument::fromItem(*item);
+    toTrashCopy(document, QUuid::createUuid().toString(QUuid::WithoutBraces), title);
+    document.publicFields.insert(formerOfKey, itemId);
+    if (safe->addItem(document.toItem()))
+        dropOldFormer(*safe, itemId);
+}
+
+void ItemChanges::dropOldFormer(GPMSafe &safe, const QString &itemId)
+{
+    std::vector<const PMListItem *> former;
+    for (const PMListItem *item : safe.items()) {
+        // One that was taken out of the trash is the user's own.
+        if (item->deleted() && item->unknownKeys().publicFields.value(formerOfKey) == itemId)
+            former.push_back(item);
+    }
+    std::sort(former.begin(), former.end(), [](const PMListItem *one, const PMListItem *other) {
+        return one->modified() > other->modified();
+    });
+    QStringList old;
+    for (std::size_t i = mostFormer; i < former.size(); ++i)
+        old.append(former[i]->id());
+    // While the password is being changed nothing can be removed; the next time does.
+    if (!old.isEmpty() && !safe.isChangingPassword())
+        safe.removeItems(old);
 }
 
 void ItemChanges::countUse(const QString &itemId)

@@ -5,6 +5,7 @@
 #include "SiteAddress.h"
 
 #include <QDebug>
+#include <QLocale>
 #include <QMessageAuthenticationCode>
 #include <QRandomGenerator>
 
@@ -27,6 +28,12 @@ bool isSameSite(const SaveLoginRequest &a, const SaveLoginRequest &b)
     const auto one = SiteAddress::parse(SiteAddress::withScheme(a.site));
     const auto other = SiteAddress::parse(SiteAddress::withScheme(b.site));
     return one && other && one->isSameSite(*other);
+}
+
+QString siteOf(const SaveLoginRequest &request)
+{
+    const auto address = SiteAddress::parse(SiteAddress::withScheme(request.site));
+    return address ? address->site() : request.host();
 }
 
 QByteArray randomKey()
@@ -100,7 +107,8 @@ void LoginSaving::makeOffer(const SaveLoginRequest &request, const QDateTime &un
 {
     if (!m_safe() || request.login.password.isEmpty() || request.host().isEmpty())
         return;
-    if (m_excluded.contains(request.site) || m_declined.contains(traceOf(request)))
+    if (m_excluded.contains(request.site) || m_declined.contains(traceOf(request)) ||
+        m_declinedOfSite.value(siteOf(request)) >= mostDeclinedOfSite)
         return;
     qDebug() << "Try favicon download:" << request.faviconUrl;
     LoginOffer offer;
@@ -117,6 +125,7 @@ void LoginSaving::decide(LoginOffer &offer) const
     const QVector<const PMLogin *> logins = loginsFor(offer.request);
     QMap<QString, QString> names;
     ::fillSaveLoginParams(offer.request, logins, offer.siteTitle, names);
+    offer.isLast = m_declinedOfSite.value(siteOf(offer.request)) == mostDeclinedOfSite - 1;
     offer.state = LoginOffer::Locked;
     offer.candidates.clear();
     if (!safe || !safe->isUnlocked())
@@ -189,6 +198,7 @@ bool LoginSaving::save(const LoginChoice &choice)
         Q_EMIT offerChanged();
         return false;
     }
+    keepFormer(*login, choice.password);
     if (choice.itemId.isEmpty())
         login->setTitle(choice.title.trimmed().isEmpty() ? m_offers.first().siteTitle
                                                          : choice.title.trimmed());
@@ -203,6 +213,15 @@ bool LoginSaving::save(const LoginChoice &choice)
     connect(m_safe().get(), &GPMSafe::saved, this, &LoginSaving::onSafeSaved, Qt::UniqueConnection);
     m_items.changed(m_savedId);
     return true;
+}
+
+/// A site may have refused what is saved now; the password before it is not lost.
+void LoginSaving::keepFormer(const PMLogin &login, const QString &password)
+{
+    if (login.password().isEmpty() || login.password() == password)
+        return;
+    const QString until = QLocale().toString(m_clock().toLocalTime(), QLocale::ShortFormat);
+    m_items.keepFormer(login.id(), tr("%1 (former password, until %2)").arg(login.title(), until));
 }
 
 void LoginSaving::onSafeSaved(bool good)
@@ -238,8 +257,10 @@ void LoginSaving::decline()
 {
     if (m_offers.isEmpty())
         return;
-    if (m_declined.size() < mostDeclined)
+    if (m_declined.size() < mostDeclined) {
         m_declined.insert(traceOf(m_offers.first().request));
+        ++m_declinedOfSite[siteOf(m_offers.first().request)];
+    }
     removeFirst();
 }
 
@@ -324,6 +345,7 @@ void LoginSaving::clear()
 {
     m_captures.clear();
     m_declined.clear();
+    m_declinedOfSite.clear();
     m_filled.clear();
     m_savedId.clear();
     m_waitsForDisk = false;

@@ -33,6 +33,7 @@ struct LoginOffer
     State state = Decided;
     SaveLoginRequest request;
     SaveLoginOffer decision;
+    bool isLast = false; ///< declined, the site is not offered again until the safe locks
     QString siteTitle;
     QVector<Candidate> candidates;
     QDateTime until;
@@ -56,6 +57,8 @@ class LoginSaving : public QObject
 
 public:
     static constexpr int mostOffers = 5;
+    /// A page that pretends to have been given logins is not to wear the user down.
+    static constexpr int mostDeclinedOfSite = 3;
 
     /// @param safe the open one; null while there is none
     /// @param items outlives this, as does the next
@@ -74,7 +77,8 @@ public:
     /// update is no longer there.
     bool save(const LoginChoice &choice);
     bool isSaving() const { return !m_savedId.isEmpty() && m_waitsForDisk; }
-    /// The user does not want it; the same is not offered again until the safe locks.
+    /// The user does not want it; the same is not offered again until the safe locks, nor is
+    /// anything of a site of which this was said too often.
     void decline();
     /// The user never wants to be asked about the site. False when that cannot be remembered.
     bool exclude();
@@ -117,6 +121,7 @@ private:
     QByteArray traceOf(const SaveLoginRequest &request) const;
     QVector<const PMLogin *> loginsFor(const SaveLoginRequest &request) const;
     PMLogin *loginToWrite(const LoginChoice &choice);
+    void keepFormer(const PMLogin &login, const QString &password);
     void onSafeSaved(bool good);
     void removeFirst();
     void forgetOld();
@@ -132,6 +137,7 @@ private:
     QMap<QString, QDateTime> m_filled;
     QByteArray m_traceKey;
     QSet<QByteArray> m_declined;
+    QMap<QString, int> m_declinedOfSite;
     QString m_savedId; ///< what the offer was written into
     bool m_waitsForDisk = false;
     bool m_isUnlocking = false;

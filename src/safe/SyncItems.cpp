@@ -1,6 +1,7 @@
 #include "SyncItems.h"
 
 #include "SafeLayout.h"
+#include "TrashCopy.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -86,12 +87,9 @@ bool SyncItems::makeCopy(const SyncVersions::Item &item, const SyncActions::Copy
         SyncListing::hasItem(m_versions.listing(SyncSide::Mirror).content, copy.id))
         return true;
     PMItemDocument document = item.documents.value(copy.source.version.hash);
-    QJsonObject &fields = document.publicFields;
-    const QString title = fields.value(QStringLiteral("title")).toString();
-    fields.insert(QStringLiteral("id"), copy.id);
-    fields.insert(QStringLiteral("deleted"), true);
-    fields.insert(
-        QStringLiteral("title"),
+    const QString title = document.publicFields.value(QStringLiteral("title")).toString();
+    toTrashCopy(
+        document, copy.id,
         syncCopyTitle(title, timeOf(copy.source.version.modified), timeOf(copy.winnerModified)));
     const SafeFolder &safe = m_work.safe.folder;
     const QString hash = attachmentHashOf(document);

@@ -203,13 +203,60 @@ private Q_SLOTS:
         QSignalSpy done(m_saving.get(), &LoginSaving::saved);
         QVERIFY(m_saving->save({bob, {}, {}, QStringLiteral("new")}));
         QVERIFY(done.wait());
-        QCOMPARE(stored(), (QStringList{QStringLiteral("Shop|https://shop.example|ana|one|"),
-                                        QStringLiteral("Shop|https://shop.example|bob|new|bob")}));
+        const QStringList now = stored();
+        QCOMPARE(now.size(), 3);
+        QCOMPARE(now.at(1), QStringLiteral("Shop|https://shop.example|ana|one|"));
+        QCOMPARE(now.at(2), QStringLiteral("Shop|https://shop.example|bob|new|bob"));
+        // What it was lies in the trash.
+        QVERIFY(now.at(0).startsWith(QLatin1String("Shop (former password, until ")));
+        QVERIFY(now.at(0).endsWith(QLatin1String("|bob|two|")));
+        QCOMPARE(m_items->trashedIds().size(), 1);
 
         offer(shop, "ana", "newer");
         m_items->setDeleted({ana}, true);
         QVERIFY(!m_saving->save({ana, {}, {}, QStringLiteral("newer")}));
         QCOMPARE(m_saving->offer()->decision.action, SaveLoginOffer::Add);
+    }
+
+    void formerPasswordsDoNotFillTheSafe()
+    {
+        const QString ana = addLogin("ana", "0");
+        QSignalSpy done(m_saving.get(), &LoginSaving::saved);
+        const auto update = [&](int password) {
+            const QByteArray text = QByteArray::number(password);
+            offer(shop, "ana", text);
+            m_now = m_now.addSecs(60);
+            return m_saving->save({ana, {}, {}, QString::fromLatin1(text)}) && done.wait();
+        };
+        for (int i = 1; i <= ItemChanges::mostFormer + 2; ++i)
+            QVERIFY(update(i));
+        // The same password with another name for the user is no loss.
+        offer(shop, "eve", "7");
+        QVERIFY(m_saving->save({ana, {}, QStringLiteral("eve"), QStringLiteral("7")}));
+        QVERIFY(done.wait());
+        QStringList kept;
+        for (const QString &id : m_items->trashedIds())
+            kept.append(qobject_cast<PMLogin *>(m_safe->item(id))->password());
+        kept.sort();
+        QCOMPARE(kept, (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"),
+                                    QStringLiteral("5"), QStringLiteral("6")}));
+    }
+
+    void aSiteThatIsDeclinedOftenIsQuiet()
+    {
+        for (int i = 1; i <= LoginSaving::mostDeclinedOfSite; ++i) {
+            offer("https://www.shop.example", "ana", QByteArray::number(i));
+            QVERIFY(m_saving->offer());
+            QCOMPARE(m_saving->offer()->isLast, i == LoginSaving::mostDeclinedOfSite);
+            m_saving->decline();
+        }
+        offer(shop, "ana", "new");
+        QCOMPARE(offered(), QStringLiteral("none"));
+        offer("https://other.example", "ana", "new");
+        QCOMPARE(offered(), QStringLiteral("decided other.example new"));
+        m_saving->clear();
+        offer(shop, "ana", "new");
+        QCOMPARE(offered(), QStringLiteral("decided shop.example new"));
     }
 
     void offersWhileOneIsBeingWritten()

@@ -58,14 +58,15 @@ private:
     {
         return QTest::qWaitFor([this] { return !dialog(); });
     }
-    /// Title, user name and password of the logins in the safe.
+    /// Title, user name and password of the logins in the safe, without the trash.
     QStringList logins() const
     {
         QStringList lines;
         for (const PMListItem *item : m_test->core.currentSafe()->items()) {
             const auto *login = qobject_cast<const PMLogin *>(item);
-            lines.append(QStringList{login->title(), login->login(), login->password()}.join(
-                QLatin1Char('|')));
+            if (!login->deleted())
+                lines.append(QStringList{login->title(), login->login(), login->password()}.join(
+                    QLatin1Char('|')));
         }
         lines.sort();
         return lines;

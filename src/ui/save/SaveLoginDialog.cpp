@@ -151,9 +151,8 @@ void SaveLoginDialog::showOffer()
     const bool locked = offer.state == LoginOffer::Locked;
     m_form->setOffer(offer);
     m_form->setVisible(offer.state == LoginOffer::Decided);
-    m_text->setVisible(offer.state != LoginOffer::Decided);
-    m_text->setText(locked ? tr("Your safe is locked. Unlock it to save this login.")
-                           : tr("Your safe has this login already, so there is nothing to save."));
+    m_text->setText(textOf(offer));
+    m_text->setVisible(!m_text->text().isEmpty());
     m_master->setVisible(locked);
     m_master->clearSecret();
     m_timeLeft->setVisible(locked);
@@ -171,6 +170,17 @@ void SaveLoginDialog::showOffer()
     else
         m_save->setFocus();
     fit();
+}
+
+QString SaveLoginDialog::textOf(const LoginOffer &offer) const
+{
+    if (offer.state == LoginOffer::Locked)
+        return tr("Your safe is locked. Unlock it to save this login.");
+    if (offer.state == LoginOffer::Known)
+        return tr("Your safe has this login already, so there is nothing to save.");
+    return offer.isLast ? tr("You declined logins of this site before. If you do so now, it is not "
+                             "offered again until you lock the safe.")
+                        : QString();
 }
 
 void SaveLoginDialog::showHeadline()

@@ -45,6 +45,7 @@ private:
     void accept() override;
     void save();
     void exclude();
+    QString textOf(const LoginOffer &offer) const;
     void showHeadline();
     void showButtons();
     void showUnlocking();
