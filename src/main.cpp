@@ -1,6 +1,7 @@
 #include "Application.h"
 #include "GPMAppCore.h"
 #include "GPMAppSettings.h"
+#include "LooseWork.h"
 #include "MessageHandler.h"
 #include "OwnerOnlyFile.h"
 #include "PMCountryTable.h"
@@ -16,9 +17,15 @@
 #include <QFontDatabase>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QThreadPool>
 #include <QUuid>
 
+#include <cstdlib>
+
 namespace {
+
+const int longestLookMs = 500;
+const int longestWorkMs = 10000;
 
 void translate(PMTranslator &translator, GPMAppSettings &settings)
 {
@@ -155,5 +162,13 @@ int main(int argc, char *argv[])
 
     qDebug() << "main"
              << "Run app...";
-    return Application::exec();
+    const int result = Application::exec();
+    // Everything is stored by now. A drive that does not answer must not hold the end.
+    if (!LooseWork::settle(longestLookMs) ||
+        !QThreadPool::globalInstance()->waitForDone(longestWorkMs)) {
+        qWarning() << "main"
+                   << "A drive does not answer.";
+        std::_Exit(result);
+    }
+    return result;
 }

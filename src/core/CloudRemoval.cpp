@@ -1,8 +1,6 @@
 #include "CloudRemoval.h"
 
-#include "FolderPath.h"
 #include "MirrorRemoval.h"
-#include "SafeDescriptionFile.h"
 
 #include <QFutureWatcher>
 #include <QtConcurrent>
@@ -28,13 +26,14 @@ QStringList CloudRemoval::safeFolders() const
 
 bool CloudRemoval::note(const QString &safeFolder, const QString &mirrorFolder)
 {
-    const auto description = readDescription(*m_safes.environment().files, safeFolder);
-    if (description)
-        m_facts.change(safeFolder, [&](SafeFact &fact) {
-            fact.created = description->created;
-            fact.leavingFolder = mirrorFolder;
-        });
-    return description.has_value();
+    const SafeLook *look = m_safes.lookAt(safeFolder);
+    if (!look || !look->isHere())
+        return false;
+    m_facts.change(safeFolder, [&](SafeFact &fact) {
+        fact.created = look->description->created;
+        fact.leavingFolder = mirrorFolder;
+    });
+    return true;
 }
 
 void CloudRemoval::begin(const QString &safeFolder)

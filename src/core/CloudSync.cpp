@@ -1,6 +1,5 @@
 #include "CloudSync.h"
 
-#include "FolderPath.h"
 #include "SafeCrypto.h"
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
@@ -126,7 +125,7 @@ void CloudSync::stopHelper()
 
 bool CloudSync::isCurrent(const QString &safeFolder) const
 {
-    return m_safe && isSameFolder(m_safe->folder(), safeFolder);
+    return m_safe && m_facts.isSame(m_safe->folder(), safeFolder);
 }
 
 void CloudSync::onFactsChanged(const QString &safeFolder)
@@ -234,29 +233,30 @@ CloudStatus CloudSync::status(const QString &safeFolder) const
     return status;
 }
 
-QStringList CloudSync::mirrorsOfOthers(const QString &safeFolder) const
+QVector<CloudSync::Mirrored> CloudSync::mirrorsOfOthers(const QString &safeFolder) const
 {
-    QStringList mirrors;
+    QVector<Mirrored> mirrors;
     const QStringList folders = m_facts.folders();
     for (const QString &folder : folders) {
         const QString mirror = m_facts.of(folder).mirrorFolder;
-        if (!mirror.isEmpty() && !isSameFolder(folder, safeFolder) && QFileInfo(folder).isDir())
-            mirrors.append(mirror);
+        if (!mirror.isEmpty() && !m_facts.isSame(folder, safeFolder))
+            mirrors.append({folder, mirror});
     }
     return mirrors;
 }
 
 void CloudSync::turnOn(const QString &safeFolder, const QString &sharedFolder)
 {
-    const MirrorChoice::Wish wish{safeFolder,
-                                  0,
-                                  sharedFolder,
-                                  m_backupFolder(),
-                                  mirrorsOfOthers(safeFolder),
-                                  m_removal.safeFolders()};
+    const MirrorChoice::Wish wish{safeFolder,       0,  sharedFolder,
+                                  m_backupFolder(), {}, m_removal.safeFolders()};
     const SafeEnvironment environment = m_environment;
-    const auto prepare = [wish, environment] {
+    const QVector<Mirrored> others = mirrorsOfOthers(safeFolder);
+    const auto prepare = [wish, environment, others] {
         MirrorChoice::Wish known = wish;
+        for (const Mirrored &other : others) {
+            if (QFileInfo(other.safe).isDir())
+                known.taken.append(other.mirror);
+        }
         const auto description = readDescription(*environment.files, wish.safeFolder);
         known.created = description ? description->created : 0;
         MirrorChoice choice = MirrorChoice::make(*environment.files, known);

@@ -82,9 +82,15 @@ Q_SIGNALS:
     void troubled(const CloudStatus &status);
 
 private:
+    struct Mirrored
+    {
+        QString safe;
+        QString mirror;
+    };
+
     template <typename Result>
     void work(const std::function<Result()> &job, const std::function<void(const Result &)> &then);
-    QStringList mirrorsOfOthers(const QString &safeFolder) const;
+    QVector<Mirrored> mirrorsOfOthers(const QString &safeFolder) const;
     bool isCurrent(const QString &safeFolder) const;
     void startHelper();
     void stopHelper();

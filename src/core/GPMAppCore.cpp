@@ -32,10 +32,11 @@ BrowserPlaces systemBrowsers(Platform &platform)
     return places;
 }
 
-SafeEnvironment safeEnvironment(const QString &dataFolder)
+SafeEnvironment safeEnvironment(const GPMAppCore::Places &places)
 {
     SafeEnvironment environment;
-    environment.draftsFolder = dataFolder + QStringLiteral("/drafts");
+    environment.lookWaitMs = places.lookWaitMs;
+    environment.draftsFolder = places.dataFolder + QStringLiteral("/drafts");
     return environment;
 }
 
@@ -50,7 +51,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     , m_siteIcons(m_linkSettings)
     , m_browsers(places.browsers ? *places.browsers : systemBrowsers(*m_platform))
     , m_knownSafes(m_settings, places.dataFolder + QStringLiteral("/safes"),
-                   safeEnvironment(places.dataFolder))
+                   safeEnvironment(places))
     , m_trace(m_knownSafes)
     , m_backups(m_settings, m_knownSafes, places.hiddenFolder + QStringLiteral("/backup"))
     , m_cloud(

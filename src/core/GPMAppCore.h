@@ -52,6 +52,7 @@ public:
         QStringList cloudInfoFiles = providerInfoFiles(); ///< where the cloud folder is told of
         GPMSafeSyncHelper::Pauses cloudPauses = {};
         std::optional<BrowserPlaces> browsers = {}; ///< those of the system when left out
+        int lookWaitMs = SafeEnvironment().lookWaitMs;
     };
 
     explicit GPMAppCore(const Places &places, QObject *parent = nullptr);

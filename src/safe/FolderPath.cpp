@@ -19,10 +19,14 @@ QString canonicalFolder(const QString &path)
                            QFileInfo(clean).fileName());
 }
 
+QString keyOf(const QString &canonical)
+{
+    return fileNamesIgnoreCase() ? canonical.toCaseFolded() : canonical;
+}
+
 QString folderKey(const QString &path)
 {
-    const QString canonical = canonicalFolder(path);
-    return fileNamesIgnoreCase() ? canonical.toCaseFolded() : canonical;
+    return keyOf(canonicalFolder(path));
 }
 
 bool isSameFolder(const QString &one, const QString &other)

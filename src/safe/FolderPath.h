@@ -8,6 +8,9 @@
 /// The path without links. Of a folder that is not there, of as much of the path as is.
 QString canonicalFolder(const QString &path);
 
+/// What to compare a canonical path by.
+QString keyOf(const QString &canonical);
+
 /// What to compare and to find folders by; the same where the system takes no notice of case.
 QString folderKey(const QString &path);
 

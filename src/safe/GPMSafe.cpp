@@ -73,21 +73,25 @@ bool GPMSafe::init(const QString &folder, const QString &password, const QString
 
 bool GPMSafe::open(const QString &folder)
 {
-    if (isOpen()) {
-        qWarning() << "GPMSafe::open"
-                   << "Safe already opened";
-        return false;
-    }
     if (!QDir(folder).exists()) {
         qWarning() << "GPMSafe::open"
                    << "Safe directory doesn't exists at location:" << folder;
         return false;
     }
+    const auto description = readDescription(*m_state.environment.files, folder);
+    return description && open(folder, *description);
+}
+
+bool GPMSafe::open(const QString &folder, const SafeDescription &description)
+{
+    if (isOpen()) {
+        qWarning() << "GPMSafe::open"
+                   << "Safe already opened";
+        return false;
+    }
     m_state.folder = SafeFolder(folder);
-    if (readMetaFile())
-        return true;
-    m_state.folder = {};
-    return false;
+    m_state.description = description;
+    return true;
 }
 
 bool GPMSafe::readMetaFile()

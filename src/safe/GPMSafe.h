@@ -37,6 +37,8 @@ public:
 
     /// Attaches to the folder of a safe and reads its description.
     bool open(const QString &folder);
+    /// The same with the description that somebody has just read there.
+    bool open(const QString &folder, const SafeDescription &description);
     bool readMetaFile();
 
     /// Writes the description, to another path when one is given.

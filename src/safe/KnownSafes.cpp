@@ -6,7 +6,6 @@
 #include "SafeDescriptionFile.h"
 #include "SafeImport.h"
 #include "SafeLayout.h"
-#include "SafeRemoval.h"
 
 #include <QDebug>
 #include <QDir>
@@ -17,28 +16,91 @@
 #include <algorithm>
 #include <utility>
 
+bool KnownSafes::Entry::operator==(const Entry &other) const
+{
+    return folder == other.folder && name == other.name && hint == other.hint &&
+           available == other.available && looking == other.looking && onDrive == other.onDrive;
+}
+
 KnownSafes::KnownSafes(GPMAppSettings &settings, const QString &safesFolder,
                        SafeEnvironment environment, QObject *parent)
     : QObject(parent)
     , m_settings(settings)
-    , m_safesFolder(safesFolder)
     , m_environment(std::move(environment))
     , m_facts(QFileInfo(settings.filePath()).path() + QStringLiteral("/safes.json"))
+    , m_looks(m_environment.files, safesFolder)
 {
+    m_facts.expect(safesFolder);
+    m_telling.setSingleShot(true);
+    m_telling.setInterval(0);
+    connect(&m_telling, &QTimer::timeout, this, &KnownSafes::tellNews);
+    connect(&m_looks, &SafeLooks::answered, this,
+            [this](const QString &folder, const QString &canonical) {
+                m_facts.learn(folder, canonical);
+                m_telling.start();
+                Q_EMIT answered(folder);
+            });
+    lookAnew();
+}
+
+void KnownSafes::lookAnew() const
+{
+    const QStringList places = m_settings.recentList() + QStringList{m_looks.safesFolder()};
+    for (const QString &folder : places) {
+        m_facts.expect(folder);
+        m_looks.look(folder);
+    }
 }
 
 QVector<KnownSafes::Entry> KnownSafes::entries() const
+{
+    QStringList unknown = m_settings.recentList() + QStringList{m_looks.safesFolder()};
+    unknown.erase(std::remove_if(unknown.begin(), unknown.end(),
+                                 [this](const QString &folder) { return m_looks.at(folder); }),
+                  unknown.end());
+    lookAnew();
+    m_looks.await(unknown, m_environment.lookWaitMs);
+    return knownEntries();
+}
+
+void KnownSafes::tell()
+{
+    m_told = knownEntries();
+    Q_EMIT changed();
+}
+
+void KnownSafes::tellNews()
+{
+    if (knownEntries() != m_told)
+        tell();
+}
+
+/// For a folder that the user has just pointed to, or that was just made.
+SafeLook KnownSafes::lookNow(const QString &folder)
+{
+    const SafeLook look = lookAtSafe(*m_environment.files, folder);
+    m_facts.learn(folder, look.canonical);
+    m_looks.learn(folder, look);
+    return look;
+}
+
+QVector<KnownSafes::Entry> KnownSafes::knownEntries() const
 {
     QVector<Entry> list;
     const QStringList folders = listedFolders() + unlistedFolders();
     for (const QString &folder : folders) {
         if (isBeingDeleted(folder))
             continue;
-        const auto description = readDescription(*m_environment.files, folder);
-        Entry entry{folder, m_facts.of(folder).name, {}, description.has_value()};
-        if (description) {
-            entry.name = description->name;
-            entry.hint = description->hint;
+        Entry entry;
+        entry.folder = folder;
+        entry.name = m_facts.of(folder).name;
+        const SafeLook *look = m_looks.at(folder);
+        entry.looking = !look;
+        entry.onDrive = look && look->place == SafePlace::DriveGone;
+        if (look && look->description) {
+            entry.available = true;
+            entry.name = look->description->name;
+            entry.hint = look->description->hint;
         }
         if (entry.name.isEmpty())
             entry.name = QDir(folder).dirName();
@@ -53,7 +115,7 @@ QStringList KnownSafes::listedFolders() const
     QSet<QString> seen;
     const QStringList recent = m_settings.recentList();
     for (const QString &folder : recent) {
-        const QString key = folderKey(folder);
+        const QString key = m_facts.keys().key(folder);
         if (!seen.contains(key))
             folders.append(folder);
         seen.insert(key);
@@ -67,14 +129,9 @@ QStringList KnownSafes::unlistedFolders() const
     QSet<QString> known;
     const QStringList recent = m_settings.recentList();
     for (const QString &folder : recent)
-        known.insert(folderKey(folder));
-    const QDir standardPlace(m_safesFolder);
-    const QStringList names = standardPlace.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &name : names) {
-        const QString folder = m_safesFolder + QLatin1Char('/') + name;
-        if (!SafeImport::isUnfinished(name) && !SafeRemoval::isUnfinished(name) &&
-            !known.contains(folderKey(folder)) && !m_facts.of(folder).isHidden &&
-            SafeFolder(folder).holdsSafe())
+        known.insert(m_facts.keys().key(folder));
+    for (const QString &folder : m_looks.foundInPlace()) {
+        if (!known.contains(m_facts.keys().key(folder)) && !m_facts.of(folder).isHidden)
             folders.append(folder);
     }
     return folders;
@@ -84,7 +141,7 @@ QString KnownSafes::listed(const QString &folder) const
 {
     const QStringList folders = listedFolders() + unlistedFolders();
     const auto same = std::find_if(folders.begin(), folders.end(), [&](const QString &other) {
-        return isSameFolder(folder, other);
+        return m_facts.isSame(folder, other);
     });
     return same == folders.end() ? QString() : *same;
 }
@@ -112,7 +169,7 @@ std::shared_ptr<GPMSafe> KnownSafes::create(const QString &name, const QString &
     }
     const QString folder =
         ownFolder.isEmpty()
-            ? m_safesFolder + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::WithoutBraces)
+            ? safesFolder() + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::WithoutBraces)
             : QDir::cleanPath(ownFolder);
     const bool isNew = !QDir(folder).exists();
     if (!makeOwnerOnlyFolder(folder)) {
@@ -132,10 +189,9 @@ std::shared_ptr<GPMSafe> KnownSafes::create(const QString &name, const QString &
 
 KnownSafes::Found KnownSafes::add(const QString &folder)
 {
-    if (!QDir(folder).exists())
-        return Found::NotThere;
-    if (!readDescription(*m_environment.files, folder))
-        return Found::NoSafe;
+    const SafeLook look = lookNow(folder);
+    if (!look.isHere())
+        return look.place == SafePlace::NoSafe ? Found::NoSafe : Found::NotThere;
     const bool known = !listed(folder).isEmpty();
     remember(folder);
     return known ? Found::KnownAlready : Found::Taken;
@@ -143,14 +199,12 @@ KnownSafes::Found KnownSafes::add(const QString &folder)
 
 KnownSafes::Found KnownSafes::locate(const QString &goneFolder, const QString &folder)
 {
-    if (!QDir(folder).exists())
-        return Found::NotThere;
-    const auto description = readDescription(*m_environment.files, folder);
-    if (!description)
-        return Found::NoSafe;
+    const SafeLook look = lookNow(folder);
+    if (!look.isHere())
+        return look.place == SafePlace::NoSafe ? Found::NoSafe : Found::NotThere;
     const qint64 created = m_facts.of(goneFolder).created;
     // Of a safe that was not opened since times were noted nothing is known that could be compared.
-    if (created != 0 && created != description->created)
+    if (created != 0 && created != look.description->created)
         return Found::AnotherSafe;
     m_facts.move(goneFolder, folder);
     dropFromList(goneFolder);
@@ -175,14 +229,21 @@ bool KnownSafes::rename(const QString &folder, const QString &name, GPMSafe *cur
         return false;
     }
     m_facts.change(folder, [&name](SafeFact &fact) { fact.name = name; });
-    Q_EMIT changed();
+    if (const SafeLook *last = m_looks.at(folder); last && last->description) {
+        SafeLook now = *last;
+        now.description->name = name;
+        m_looks.learn(folder, now);
+    }
+    tell();
     return true;
 }
 
 void KnownSafes::remove(const QString &folder)
 {
-    const bool standard = isSameFolder(QFileInfo(folder).path(), m_safesFolder);
-    if (!standard || !QDir(folder).exists()) {
+    const SafeLook *look = m_looks.at(folder);
+    const bool gone =
+        look && (look->place == SafePlace::FolderGone || look->place == SafePlace::DriveGone);
+    if (!isInPlace(folder) || gone) {
         forget(folder);
         return;
     }
@@ -190,25 +251,34 @@ void KnownSafes::remove(const QString &folder)
     m_facts.change(folder, [](SafeFact &fact) { fact.isHidden = true; });
     dropFromList(folder);
     m_settings.storeSettings();
-    Q_EMIT changed();
+    tell();
+}
+
+bool KnownSafes::isInPlace(const QString &folder) const
+{
+    // By the paths alone: a drive that does not answer can be taken off the list, too.
+    const QStringList places{m_facts.keys().key(safesFolder()),
+                             keyOf(QDir::cleanPath(safesFolder()))};
+    return places.contains(keyOf(QFileInfo(QDir::cleanPath(folder)).path())) ||
+           places.contains(keyOf(QFileInfo(m_facts.keys().canonical(folder)).path()));
 }
 
 void KnownSafes::beginDeletion(const QString &folder)
 {
     m_beingDeleted.append(folder);
-    Q_EMIT changed();
+    tell();
 }
 
 void KnownSafes::endDeletion(const QString &folder)
 {
     m_beingDeleted.removeOne(folder);
-    Q_EMIT changed();
+    tell();
 }
 
 bool KnownSafes::isBeingDeleted(const QString &folder) const
 {
     return std::any_of(m_beingDeleted.begin(), m_beingDeleted.end(),
-                       [&](const QString &other) { return isSameFolder(folder, other); });
+                       [&](const QString &other) { return m_facts.isSame(folder, other); });
 }
 
 void KnownSafes::forget(const QString &folder)
@@ -216,14 +286,15 @@ void KnownSafes::forget(const QString &folder)
     dropFromList(folder);
     m_settings.storeSettings();
     m_facts.forget(folder);
-    Q_EMIT changed();
+    m_looks.forget(folder);
+    tell();
 }
 
 void KnownSafes::dropFromList(const QString &folder)
 {
     QStringList folders = m_settings.recentList();
     const auto gone = std::remove_if(folders.begin(), folders.end(), [&](const QString &other) {
-        return isSameFolder(other, folder);
+        return m_facts.isSame(other, folder);
     });
     folders.erase(gone, folders.end());
     m_settings.setRecentList(folders);
@@ -232,9 +303,9 @@ void KnownSafes::dropFromList(const QString &folder)
 std::unique_ptr<ArchiveTask> KnownSafes::importArchive(const QString &archivePath)
 {
     const SafeEnvironment environment = m_environment;
-    const QString safesFolder = m_safesFolder;
+    const QString place = safesFolder();
     auto task = std::make_unique<ArchiveTask>([=](WorkControl &control) {
-        return SafeImport(environment, safesFolder).run(archivePath, control);
+        return SafeImport(environment, place).run(archivePath, control);
     });
     connect(task.get(), &ArchiveTask::finished, this, [this, started = task.get()] {
         if (started->result().good())
@@ -260,25 +331,35 @@ QFuture<bool> KnownSafes::checkPassword(const QString &folder, const QString &pa
 
 std::shared_ptr<GPMSafe> KnownSafes::open(const QString &folder) const
 {
-    if (isBeingDeleted(folder))
+    if (folder.isEmpty() || isBeingDeleted(folder))
         return nullptr;
+    m_facts.expect(folder);
+    m_looks.lookFresh(folder);
+    if (!m_looks.await({folder}, m_environment.lookWaitMs))
+        return nullptr;
+    const SafeLook *look = m_looks.at(folder);
     auto safe = std::make_shared<GPMSafe>(m_environment);
-    return safe->open(folder) ? safe : nullptr;
+    return look && look->isHere() && safe->open(folder, *look->description) ? safe : nullptr;
 }
 
 void KnownSafes::remember(const QString &folder)
 {
+    // What is not known yet was just made or chosen.
+    const SafeLook *known = m_looks.at(folder);
+    const SafeLook look = known && known->isHere() ? *known : lookNow(folder);
     // By the name that it has in the list already, which others may have kept.
-    const QString known = listed(folder);
+    const QString former = listed(folder);
+    const QString name = former.isEmpty() ? QDir::cleanPath(folder) : former;
     dropFromList(folder);
-    m_settings.setRecentList(QStringList{known.isEmpty() ? QDir::cleanPath(folder) : known} +
-                             m_settings.recentList());
+    m_settings.setRecentList(QStringList{name} + m_settings.recentList());
     m_settings.storeSettings();
-    if (const auto description = readDescription(*m_environment.files, folder))
-        m_facts.change(folder, [&description](SafeFact &fact) {
-            fact.name = description->name;
-            fact.created = description->created;
+    m_facts.learn(name, look.canonical);
+    m_looks.learn(name, look);
+    if (look.description)
+        m_facts.change(folder, [&look](SafeFact &fact) {
+            fact.name = look.description->name;
+            fact.created = look.description->created;
             fact.isHidden = false;
         });
-    Q_EMIT changed();
+    tell();
 }

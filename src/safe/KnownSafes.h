@@ -4,10 +4,11 @@
 #include "GPMAppSettings.h"
 #include "GPMSafe.h"
 #include "SafeFacts.h"
-#include "SafePlace.h"
+#include "SafeLooks.h"
 
 #include <QFuture>
 #include <QObject>
+#include <QTimer>
 #include <QVector>
 
 #include <memory>
@@ -16,7 +17,8 @@
 /// The safes that this installation knows: the folders in the settings' `recentList`, most recently
 /// opened first, and behind them those in the standard place that the list has lost, as it does
 /// when the settings have to start anew. However often and in whichever way a folder is named, it
-/// stands in the list once.
+/// stands in the list once. The folders are looked at by SafeLooks: what is told of them is what
+/// was found last.
 class KnownSafes : public QObject
 {
     Q_OBJECT
@@ -28,14 +30,21 @@ public:
         QString name;
         QString hint;
         bool available = false; ///< its description could be read
+        bool looking = false;   ///< its folder has not answered yet; the rest is remembered
+        bool onDrive = false;   ///< not available, as its drive is not connected
+
+        bool operator==(const Entry &other) const;
     };
 
     /// @param safesFolder where new safes are made, each in a folder of its own
     KnownSafes(GPMAppSettings &settings, const QString &safesFolder,
                SafeEnvironment environment = {}, QObject *parent = nullptr);
 
+    /// The list as far as it is known. The folders are looked at anew behind that; changed() tells
+    /// of what is different. Folders that were never looked at get a moment to answer.
     QVector<Entry> entries() const;
-    const QString &safesFolder() const { return m_safesFolder; }
+    bool isLooking() const { return m_looks.isLooking(); }
+    const QString &safesFolder() const { return m_looks.safesFolder(); }
     const SafeEnvironment &environment() const { return m_environment; }
     /// What is remembered of each of them, in a file beside the settings.
     SafeFacts &facts() { return m_facts; }
@@ -91,25 +100,39 @@ public:
     /// Whether this is the master password of a safe; asked on a worker.
     QFuture<bool> checkPassword(const QString &folder, const QString &password) const;
 
-    /// The safe of a folder with its description read; null when there is none, or when it is
-    /// being deleted.
+    /// The safe of a folder with its description read; null when there is none, when it is being
+    /// deleted, or when the folder does not answer in a moment: answered() tells when it does.
     std::shared_ptr<GPMSafe> open(const QString &folder) const;
+
+    /// Its folder was asked, and is not known to be there or not yet; answered() tells.
+    bool isLate(const QString &folder) const { return m_looks.isLate({folder}); }
+    /// What was found in a folder last; null before the first answer.
+    const SafeLook *lookAt(const QString &folder) const { return m_looks.at(folder); }
 
     /// Puts a folder at the front of the list.
     void remember(const QString &folder);
 
 Q_SIGNALS:
     void changed();
+    void answered(const QString &folder);
 
 private:
+    QVector<Entry> knownEntries() const;
     QStringList listedFolders() const;
     QStringList unlistedFolders() const;
+    void lookAnew() const;
+    SafeLook lookNow(const QString &folder);
+    void tell();
+    void tellNews();
     void dropFromList(const QString &folder);
+    bool isInPlace(const QString &folder) const;
     bool isBeingDeleted(const QString &folder) const;
 
     GPMAppSettings &m_settings;
-    QString m_safesFolder;
     SafeEnvironment m_environment;
     SafeFacts m_facts;
+    mutable SafeLooks m_looks; ///< a memory: looking changes nothing
+    QVector<Entry> m_told;
+    QTimer m_telling;
     QStringList m_beingDeleted;
 };

@@ -1,56 +1,85 @@
 #include "SafeDetails.h"
 
-#include "SafeDescriptionFile.h"
 #include "SafeFiles.h"
 #include "SafeLayout.h"
+#include "SafeLooks.h"
 
-#include <QDir>
-#include <QHash>
+#include <utility>
 
 namespace {
 
-SafeDetails lookAt(const SafeEnvironment &environment, const QString &folder)
+SafeDetails detailsOf(FileLayer &files, const QString &folder)
 {
     SafeDetails details;
-    details.folder = folder;
-    if (!QDir(folder).exists()) {
-        details.place = whyGone(folder);
+    const SafeLook look = lookAtSafe(files, folder);
+    details.place = look.place;
+    if (!look.description)
         return details;
-    }
-    const auto description = readDescription(*environment.files, folder);
-    if (!description) {
-        details.place = SafePlace::NoSafe;
-        return details;
-    }
-    details.description = *description;
-    if (const auto files = SafeFiles::list(SafeFolder(folder)))
-        details.size = files->totalSize;
+    details.description = *look.description;
+    details.passId = files.read(SafeFolder(folder).path(SafeLayout::passId)).value_or(QByteArray());
+    if (const auto list = SafeFiles::list(SafeFolder(folder)))
+        details.size = list->totalSize;
     return details;
+}
+
+bool isCopy(const SafeDetails &one, const SafeDetails &other)
+{
+    return !one.passId.isEmpty() && one.passId == other.passId &&
+           one.description.created == other.description.created;
 }
 
 } // namespace
 
-QVector<SafeDetails> readSafeDetails(const SafeEnvironment &environment, const QStringList &folders,
-                                     const QString &backupFolder, const WorkControl &control)
+SafeDetailsReader::SafeDetailsReader(std::shared_ptr<FileLayer> files)
+    : m_files(std::move(files))
 {
-    const QVector<BackupEntry> backups = listBackups(*environment.files, backupFolder);
-    QHash<QByteArray, QString> origins; // by what two copies have in common
-    QVector<SafeDetails> all;
+}
+
+void SafeDetailsReader::start(const QStringList &folders, const QString &backupFolder)
+{
+    // Answers to a former question are not taken.
+    m_work = std::make_unique<LooseWork>();
+    m_folders = folders;
+    m_open = folders.size() + 1;
     for (const QString &folder : folders) {
-        if (control.isCancelled())
-            break;
-        SafeDetails details = lookAt(environment, folder);
-        if (details.place == SafePlace::Here) {
-            details.lastBackup = lastBackup(backups, folder, details.description);
-            const auto passId =
-                environment.files->read(SafeFolder(folder).path(SafeLayout::passId));
-            const QByteArray mark =
-                QByteArray::number(details.description.created) + passId.value_or(QByteArray());
-            details.copyOf = origins.value(mark);
-            if (passId && details.copyOf.isEmpty())
-                origins.insert(mark, folder);
-        }
-        all.append(details);
+        const auto found = std::make_shared<SafeDetails>();
+        m_work->run([files = m_files, found, folder] { *found = detailsOf(*files, folder); },
+                    [this, found, folder] {
+                        m_details.insert(folder, *found);
+                        takeOne();
+                    });
     }
-    return all;
+    const auto backups = std::make_shared<QVector<BackupEntry>>();
+    m_work->run(
+        [files = m_files, backups, backupFolder] { *backups = listBackups(*files, backupFolder); },
+        [this, backups] {
+            m_backups = *backups;
+            takeOne();
+        });
+}
+
+void SafeDetailsReader::takeOne()
+{
+    --m_open;
+    Q_EMIT changed();
+}
+
+std::optional<SafeDetails> SafeDetailsReader::of(const QString &folder) const
+{
+    const auto found = m_details.find(folder);
+    if (found == m_details.end())
+        return std::nullopt;
+    SafeDetails details = *found;
+    details.backupsKnown = m_backups.has_value();
+    if (m_backups && details.place == SafePlace::Here)
+        details.lastBackup = lastBackup(*m_backups, folder, details.description);
+    for (const QString &other : m_folders) {
+        if (other == folder)
+            break;
+        if (isCopy(m_details.value(other), details)) {
+            details.copyOf = other;
+            break;
+        }
+    }
+    return details;
 }

@@ -16,4 +16,5 @@ struct SafeEnvironment
     std::shared_ptr<FileLayer> files = std::make_shared<FileLayer>();
     int lockWaitMs = 10000; ///< how long to wait for the lock file of a safe
     QString draftsFolder;   ///< where edits that were not saved are kept; empty: nowhere
+    int lookWaitMs = 40;    ///< how long the event loop waits for a folder before it goes on
 };

@@ -1,7 +1,5 @@
 #include "SafeFacts.h"
 
-#include "FolderPath.h"
-
 #include <QDebug>
 #include <QFile>
 #include <QJsonDocument>
@@ -108,8 +106,10 @@ void SafeFacts::load()
         return;
     }
     const QJsonObject object = document.object();
-    for (auto it = object.begin(); it != object.end(); ++it)
-        m_rows.insert(folderKey(it.key()), {it.key(), toFact(it.value().toObject())});
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        m_keys.remember(it.key());
+        m_rows.insert(m_keys.key(it.key()), {it.key(), toFact(it.value().toObject())});
+    }
 }
 
 QByteArray SafeFacts::toJson() const
@@ -122,7 +122,19 @@ QByteArray SafeFacts::toJson() const
 
 SafeFact SafeFacts::of(const QString &folder) const
 {
-    return m_rows.value(folderKey(folder)).fact;
+    return m_rows.value(m_keys.key(folder)).fact;
+}
+
+void SafeFacts::learn(const QString &folder, const QString &canonical)
+{
+    const QString former = m_keys.key(folder);
+    m_keys.learn(folder, canonical);
+    const QString key = m_keys.key(folder);
+    if (key == former || m_rows.contains(key) || !m_rows.contains(former))
+        return;
+    m_rows.insert(key, {canonical, m_rows.take(former).fact});
+    m_storing.start();
+    Q_EMIT changed(canonical);
 }
 
 QStringList SafeFacts::folders() const
@@ -136,12 +148,12 @@ QStringList SafeFacts::folders() const
 
 void SafeFacts::change(const QString &folder, const Change &change)
 {
-    const QString key = folderKey(folder);
+    const QString key = m_keys.key(folder);
     SafeFact fact = m_rows.value(key).fact;
     change(fact);
     if (fact == m_rows.value(key).fact)
         return;
-    const QString canonical = canonicalFolder(folder);
+    const QString canonical = m_keys.canonical(folder);
     m_rows.insert(key, {canonical, fact});
     m_storing.start();
     Q_EMIT changed(canonical);
@@ -149,10 +161,10 @@ void SafeFacts::change(const QString &folder, const Change &change)
 
 void SafeFacts::forget(const QString &folder)
 {
-    if (m_rows.remove(folderKey(folder)) == 0)
+    if (m_rows.remove(m_keys.key(folder)) == 0)
         return;
     m_storing.start();
-    Q_EMIT changed(canonicalFolder(folder));
+    Q_EMIT changed(m_keys.canonical(folder));
 }
 
 void SafeFacts::move(const QString &from, const QString &to)

@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "FileLayer.h"
+#include "FolderKeys.h"
 
 #include <QDateTime>
 #include <QHash>
@@ -47,6 +48,17 @@ public:
 
     /// What is known of the safe of a folder; however its path is written.
     SafeFact of(const QString &folder) const;
+    /// Whether both paths lead to the same folder, as far as that is known.
+    bool isSame(const QString &one, const QString &other) const
+    {
+        return m_keys.isSame(one, other);
+    }
+    const FolderKeys &keys() const { return m_keys; }
+    /// A folder that may lie on a drive that does not answer: its canonical path is told by
+    /// learn().
+    void expect(const QString &folder) const { m_keys.remember(folder); }
+    /// What is known of the folder by the path that was taken so far holds for the canonical one.
+    void learn(const QString &folder, const QString &canonical);
     /// The folders of which something is known.
     QStringList folders() const;
 
@@ -76,7 +88,8 @@ private:
 
     QString m_filePath;
     std::shared_ptr<FileLayer> m_files;
-    QHash<QString, Row> m_rows; ///< by folderKey()
+    mutable FolderKeys m_keys;  ///< a memory
+    QHash<QString, Row> m_rows; ///< by their keys
     QTimer m_storing;
     QThreadPool m_writer; ///< one thread, so that writes keep their order
 };

@@ -61,6 +61,16 @@ inline void copySampleSafe(const QString &folder)
     writeFiles(folder, snapshot(QStringLiteral(TEST_DATA_DIR "/safe")));
 }
 
+/// Longer than any drive of a busy computer takes to answer.
+const int patientMs = 20000;
+
+inline SafeEnvironment patient()
+{
+    SafeEnvironment environment;
+    environment.lookWaitMs = patientMs;
+    return environment;
+}
+
 /// Real files, but the operation of the given number fails: a write as it does on a full disk.
 class FaultyFiles : public FileLayer
 {

@@ -4,6 +4,50 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+namespace {
+
+/// The list when all folders have answered anew.
+QVector<KnownSafes::Entry> entriesNow(const KnownSafes &known)
+{
+    known.entries();
+    if (!QTest::qWaitFor([&known] { return !known.isLooking(); }, patientMs))
+        return {};
+    return known.entries();
+}
+
+/// Files of which those below one folder do not come before released.
+class HangingFiles : public FileLayer
+{
+public:
+    explicit HangingFiles(const QString &folder)
+        : m_folder(folder)
+    {
+    }
+
+    std::optional<QByteArray> read(const QString &path) override
+    {
+        QMutexLocker locker(&m_mutex);
+        while (!m_released && path.startsWith(m_folder))
+            m_answers.wait(&m_mutex);
+        return FileLayer::read(path);
+    }
+
+    void release()
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_released = true;
+        m_answers.wakeAll();
+    }
+
+private:
+    QString m_folder;
+    bool m_released = false;
+    QMutex m_mutex;
+    QWaitCondition m_answers;
+};
+
+} // namespace
+
 class TestKnownSafes : public QObject
 {
     Q_OBJECT
@@ -17,14 +61,14 @@ private Q_SLOTS:
         QString first;
         {
             GPMAppSettings settings(config, home.path());
-            KnownSafes known(settings, safes);
+            KnownSafes known(settings, safes, patient());
             first = known.create(QStringLiteral("One"), QStringLiteral("p"), QStringLiteral("h"))
                         ->folder();
             known.create(QStringLiteral("Two"), QStringLiteral("p"), QStringLiteral("h"));
             known.remember(first);
         }
         GPMAppSettings settings(config, home.path());
-        KnownSafes known(settings, safes);
+        KnownSafes known(settings, safes, patient());
         QVector<KnownSafes::Entry> entries = known.entries();
         QCOMPARE(entries.size(), 2);
         QCOMPARE(entries.at(0).name, QStringLiteral("One"));
@@ -33,10 +77,58 @@ private Q_SLOTS:
 
         QVERIFY(QDir(first).removeRecursively());
         QVERIFY(!known.open(first));
-        entries = known.entries();
+        entries = entriesNow(known);
         QCOMPARE(entries.size(), 2);
         QVERIFY(!entries.at(0).available);
         QVERIFY(entries.at(1).available);
+    }
+
+    void aDriveThatDoesNotAnswerKeepsItsOwnRowAlone()
+    {
+        const QTemporaryDir home;
+        const QString far = home.filePath(QStringLiteral("far"));
+        const QString near = home.filePath(QStringLiteral("near"));
+        const auto files = std::make_shared<HangingFiles>(far);
+        GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
+        {
+            KnownSafes known(settings, home.filePath(QStringLiteral("safes")));
+            known.create(QStringLiteral("Near"), QStringLiteral("p"), {}, near);
+            known.create(QStringLiteral("Far"), QStringLiteral("p"), QStringLiteral("h"), far);
+        }
+        SafeEnvironment environment;
+        environment.files = files;
+        {
+            KnownSafes known(settings, home.filePath(QStringLiteral("safes")), environment);
+            QTRY_VERIFY(known.entries().size() == 2 && known.entries().at(1).available);
+            const KnownSafes::Entry waiting = known.entries().at(0);
+            QVERIFY(waiting.looking && !waiting.available);
+            QCOMPARE(waiting.name, QStringLiteral("Far")); // as it was remembered
+            QVERIFY(!known.open(far));
+            QVERIFY(known.isLate(far));
+            // What it says when it is taken off the list meanwhile comes too late.
+            known.remove(far);
+            files->release();
+            QTRY_VERIFY(!known.isLooking());
+            QCOMPARE(entriesNow(known).size(), 1);
+        }
+        settings.setRecentList({far, near});
+        const auto again = std::make_shared<HangingFiles>(far);
+        environment.files = again;
+        KnownSafes known(settings, home.filePath(QStringLiteral("safes")), environment);
+        QVERIFY(known.entries().at(0).looking);
+        QSignalSpy changed(&known, &KnownSafes::changed);
+        again->release();
+        QTRY_VERIFY(!changed.isEmpty() && known.entries().at(0).available);
+        QCOMPARE(known.entries().at(0).hint, QStringLiteral("h"));
+        {
+            // Nobody waits for it at the end.
+            environment.files = std::make_shared<HangingFiles>(far);
+            const KnownSafes ending(settings, home.filePath(QStringLiteral("safes")), environment);
+            QVERIFY(ending.entries().at(0).looking);
+        }
+        QVERIFY(!LooseWork::settle(0));
+        static_cast<HangingFiles &>(*environment.files).release();
+        QVERIFY(LooseWork::settle(patientMs));
     }
 
     void safesSurviveTheLossOfTheSettings()
@@ -46,14 +138,14 @@ private Q_SLOTS:
         QString folder;
         {
             GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
-            KnownSafes known(settings, safes);
+            KnownSafes known(settings, safes, patient());
             folder = known.create(QStringLiteral("One"), QStringLiteral("p"), QStringLiteral("h"))
                          ->folder();
             QCOMPARE(known.entries().size(), 1);
         }
         QVERIFY(QDir().mkpath(safes + QStringLiteral("/no safe")));
         GPMAppSettings settings(home.filePath(QStringLiteral("other config")), home.path());
-        const KnownSafes known(settings, safes);
+        const KnownSafes known(settings, safes, patient());
         QCOMPARE(known.entries().size(), 1);
         QCOMPARE(known.entries().at(0).name, QStringLiteral("One"));
         QCOMPARE(known.entries().at(0).folder, folder);
@@ -79,7 +171,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(home.filePath(QStringLiteral("hidden"))));
         writeFile(home.filePath(QStringLiteral("hidden/.x")), "x");
         GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
-        KnownSafes known(settings, home.filePath(QStringLiteral("safes")));
+        KnownSafes known(settings, home.filePath(QStringLiteral("safes")), patient());
         const QMap<QString, QByteArray> before = snapshot(home.filePath(QStringLiteral("hidden")));
         const auto safe = known.create(QStringLiteral("n"), QStringLiteral("p"),
                                        QStringLiteral("h"), home.filePath(folder));
@@ -100,7 +192,7 @@ private Q_SLOTS:
         GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
         settings.setRecentList(
             {safe, home.filePath(QStringLiteral("link/safe")), safe + QLatin1Char('/')});
-        KnownSafes known(settings, home.filePath(QStringLiteral("link")));
+        KnownSafes known(settings, home.filePath(QStringLiteral("link")), patient());
         QCOMPARE(known.entries().size(), 1);
         QCOMPARE(known.add(home.filePath(QStringLiteral("link/safe/"))),
                  KnownSafes::Found::KnownAlready);
@@ -118,7 +210,7 @@ private Q_SLOTS:
         copySampleSafe(elsewhere);
         {
             GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
-            KnownSafes known(settings, safes);
+            KnownSafes known(settings, safes, patient());
             QCOMPARE(known.add(elsewhere), KnownSafes::Found::Taken);
             QCOMPARE(known.entries().size(), 2);
             known.remove(safes + QStringLiteral("/one"));
@@ -126,7 +218,7 @@ private Q_SLOTS:
             QVERIFY(known.entries().isEmpty());
         }
         GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
-        KnownSafes known(settings, safes);
+        KnownSafes known(settings, safes, patient());
         QVERIFY(known.entries().isEmpty());
         QVERIFY(QFile::exists(elsewhere + QStringLiteral("/safe.passid")));
         QCOMPARE(known.add(safes + QStringLiteral("/one")), KnownSafes::Found::Taken);
@@ -142,13 +234,13 @@ private Q_SLOTS:
         const QString before = home.filePath(QStringLiteral("before"));
         const QString after = home.filePath(QStringLiteral("after"));
         GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
-        KnownSafes known(settings, home.filePath(QStringLiteral("safes")));
+        KnownSafes known(settings, home.filePath(QStringLiteral("safes")), patient());
         known.create(QStringLiteral("One"), QStringLiteral("p"), QStringLiteral("h"), before);
         known.facts().change(before, [](SafeFact &fact) { fact.itemCount = 7; });
         copySampleSafe(home.filePath(QStringLiteral("another")));
         QVERIFY(QDir().rename(before, after));
         QCOMPARE(known.entries().at(0).name, QStringLiteral("One"));
-        QVERIFY(!known.entries().at(0).available);
+        QVERIFY(!entriesNow(known).at(0).available);
 
         QCOMPARE(known.locate(before, home.filePath(QStringLiteral("another"))),
                  KnownSafes::Found::AnotherSafe);
@@ -200,7 +292,7 @@ private Q_SLOTS:
 
         // A file stands where the folder of the safes should be made.
         writeFile(home.filePath(QStringLiteral("blocked")), "x");
-        KnownSafes blocked(settings, home.filePath(QStringLiteral("blocked")));
+        KnownSafes blocked(settings, home.filePath(QStringLiteral("blocked")), patient());
         QVERIFY(!blocked.create(QStringLiteral("n"), QStringLiteral("p"), QStringLiteral("h")));
     }
 };

@@ -381,7 +381,7 @@ private Q_SLOTS:
 
         GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")),
                                 m_temporary->path());
-        KnownSafes known(settings, m_safes);
+        KnownSafes known(settings, m_safes, patient());
         QStringList folders;
         for (int i = 0; i < 2; ++i) {
             const std::unique_ptr<ArchiveTask> importing = known.importArchive(m_archive);

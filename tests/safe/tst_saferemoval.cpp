@@ -156,7 +156,7 @@ private Q_SLOTS:
         copySampleSafe(safes + QStringLiteral("/.deleted-1"));
         copySampleSafe(safes + QStringLiteral("/one"));
         GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
-        const KnownSafes known(settings, safes);
+        const KnownSafes known(settings, safes, patient());
         QCOMPARE(known.entries().size(), 1);
         SafeRemoval(known.environment()).clearUnfinished(safes);
         QCOMPARE(QDir(safes).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
@@ -222,22 +222,17 @@ private Q_SLOTS:
         copySampleSafe(other);
         writeFile(other + QStringLiteral("/safe.passid"), "another one");
         QVERIFY(QDir().mkpath(home.filePath(QStringLiteral("empty"))));
-        WorkControl control;
-        const QVector<SafeDetails> details =
-            readSafeDetails({},
-                            {one, copy, other, home.filePath(QStringLiteral("empty")),
-                             home.filePath(QStringLiteral("gone"))},
-                            home.path(), control);
-        QCOMPARE(details.size(), 5);
-        QVERIFY(details.at(0).size > 2000);
-        QVERIFY(details.at(0).copyOf.isEmpty());
-        QCOMPARE(details.at(1).copyOf, one);
-        QVERIFY(details.at(2).copyOf.isEmpty());
-        QCOMPARE(details.at(3).place, SafePlace::NoSafe);
-        QCOMPARE(details.at(4).place, SafePlace::FolderGone);
-
-        control.cancel();
-        QVERIFY(readSafeDetails({}, {one}, home.path(), control).isEmpty());
+        const QStringList folders{one, copy, other, home.filePath(QStringLiteral("empty")),
+                                  home.filePath(QStringLiteral("gone"))};
+        SafeDetailsReader reader(std::make_shared<FileLayer>());
+        reader.start(folders, home.path());
+        QTRY_VERIFY(!reader.isReading());
+        QVERIFY(reader.of(one)->size > 2000);
+        QVERIFY(reader.of(one)->copyOf.isEmpty());
+        QCOMPARE(reader.of(copy)->copyOf, one);
+        QVERIFY(reader.of(other)->copyOf.isEmpty());
+        QCOMPARE(reader.of(folders.at(3))->place, SafePlace::NoSafe);
+        QCOMPARE(reader.of(folders.at(4))->place, SafePlace::FolderGone);
     }
 
     void aDriveIsToldFromAFolder_data()

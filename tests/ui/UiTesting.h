@@ -33,6 +33,7 @@ struct TestCore
         places.dataFolder = folder + QStringLiteral("/data");
         places.hiddenFolder = folder + QStringLiteral("/hidden");
         places.cloudInfoFiles = QStringList{folder + QStringLiteral("/info.json")};
+        places.lookWaitMs = 20000; // longer than a busy computer takes
         BrowserPlaces browsers;
         browsers.root = folder;
         browsers.home = folder + QStringLiteral("/home");

@@ -117,8 +117,10 @@ private Q_SLOTS:
 
         SafeInfo safe;
         safe.name = QStringLiteral("Work");
-        QTest::newRow("nothing known") << safe << QStringList{QStringLiteral("Not opened yet")};
+        QTest::newRow("nothing known")
+            << safe << QStringList{QStringLiteral("looking…"), QStringLiteral("Not opened yet")};
         safe.isRead = true;
+        safe.details.backupsKnown = true;
         safe.details.size = 4300000;
         safe.fact.itemCount = 61;
         safe.fact.lastOpened = noon.addDays(-3);

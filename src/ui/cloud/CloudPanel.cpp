@@ -2,7 +2,6 @@
 
 #include "CloudSafeRow.h"
 #include "CloudTexts.h"
-#include "FolderPath.h"
 #include "dialogs/FileChooser.h"
 #include "style/Style.h"
 #include "style/Theme.h"
@@ -167,7 +166,8 @@ void CloudPanel::showStatus(const QString &safeFolder)
     const QString open = m_parts.openSafe();
     m_rows.value(safeFolder)
         ->setStatus(m_parts.sync.status(safeFolder),
-                    !open.isEmpty() && isSameFolder(open, safeFolder), m_parts.clock());
+                    !open.isEmpty() && m_parts.safes.facts().isSame(open, safeFolder),
+                    m_parts.clock());
 }
 
 void CloudPanel::showFault(const QString &fault)

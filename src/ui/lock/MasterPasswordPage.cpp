@@ -180,9 +180,12 @@ void MasterPasswordPage::connectFields()
 void MasterPasswordPage::fillSelector()
 {
     m_selector->clear();
-    for (const KnownSafes::Entry &safe : m_logic.safes())
-        m_selector->addItem(safe.available ? safe.name : tr("%1 (unavailable)").arg(safe.name),
-                            safe.folder);
+    for (const KnownSafes::Entry &safe : m_logic.safes()) {
+        const QString name = safe.looking     ? tr("%1 (looking…)")
+                             : safe.available ? QStringLiteral("%1")
+                                              : tr("%1 (unavailable)");
+        m_selector->addItem(name.arg(safe.name), safe.folder);
+    }
     m_selector->addItem(tr("Create new..."));
     showState();
 }

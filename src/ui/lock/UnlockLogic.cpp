@@ -12,6 +12,7 @@ UnlockLogic::UnlockLogic(GPMAppCore &core, QObject *parent)
     , m_core(core)
 {
     connect(&core.knownSafes(), &KnownSafes::changed, this, &UnlockLogic::reload);
+    connect(&core.knownSafes(), &KnownSafes::answered, this, &UnlockLogic::onAnswered);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &UnlockLogic::takeCurrentSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &UnlockLogic::changed);
     connect(&core, &GPMAppCore::unlockFinished, this, &UnlockLogic::onFinished);
@@ -35,6 +36,8 @@ UnlockLogic::State UnlockLogic::state() const
     const KnownSafes::Entry *entry = chosen();
     if (!entry)
         return State::NoneChosen;
+    if (entry->looking || m_awaited == m_folder)
+        return State::Looking;
     return entry->available ? State::Ready : State::Unavailable;
 }
 
@@ -50,20 +53,35 @@ QString UnlockLogic::invitation() const
     return reason.isEmpty() ? tr("Unlock your safe to go on") : reason;
 }
 
-void UnlockLogic::chooseFirst(const QString &preferredFolder)
+QString UnlockLogic::firstOf(const QString &preferredFolder) const
 {
-    reload();
     const auto find = [this](const auto &accept) {
         const auto entry = std::find_if(m_safes.cbegin(), m_safes.cend(), accept);
         return entry == m_safes.cend() ? QString() : entry->folder;
     };
     QString folder = find([&](const KnownSafes::Entry &entry) {
-        return entry.available && entry.folder == preferredFolder;
+        return (entry.available || entry.looking) && entry.folder == preferredFolder;
     });
     if (folder.isEmpty())
         folder = find([](const KnownSafes::Entry &entry) { return entry.available; });
-    if (!folder.isEmpty())
+    if (folder.isEmpty())
+        folder = find([](const KnownSafes::Entry &entry) { return entry.looking; });
+    return folder;
+}
+
+void UnlockLogic::chooseFirst(const QString &preferredFolder)
+{
+    reload();
+    const int most = m_safes.size();
+    for (int i = 0; i < most; ++i) {
+        const QString folder = firstOf(preferredFolder);
+        if (folder.isEmpty())
+            return;
         choose(folder);
+        // One that is not there any more is known to be so now.
+        if (m_core.currentSafe() || !m_awaited.isEmpty())
+            return;
+    }
 }
 
 void UnlockLogic::choose(const QString &folder)
@@ -71,19 +89,35 @@ void UnlockLogic::choose(const QString &folder)
     if (m_unlocking)
         return;
     m_folder = folder;
+    m_awaited.clear();
     m_message.clear();
     m_openElsewhere = false;
     if (!m_core.selectSafe(folder)) {
         // It stays chosen, so that the page can say what is wrong with it.
         m_folder = folder;
-        const bool drive = !QDir(folder).exists() && whyGone(folder) == SafePlace::DriveGone;
-        m_message = (drive ? tr("This safe is on a drive that is not connected. Connect it, then "
-                                "choose the safe again:\n%1")
-                           : tr("This safe is not available. Check that its folder is there:\n%1"))
-                        .arg(QDir::toNativeSeparators(folder));
+        if (m_core.knownSafes().isLate(folder))
+            m_awaited = folder;
+        m_message = whyNot(folder).arg(QDir::toNativeSeparators(folder));
     }
     reload();
     Q_EMIT changed();
+}
+
+QString UnlockLogic::whyNot(const QString &folder) const
+{
+    if (m_awaited == folder)
+        return tr("Looking for this safe. Its drive does not answer yet:\n%1");
+    const SafeLook *look = m_core.knownSafes().lookAt(folder);
+    return look && look->place == SafePlace::DriveGone
+               ? tr("This safe is on a drive that is not connected. Connect it, then choose the "
+                    "safe again:\n%1")
+               : tr("This safe is not available. Check that its folder is there:\n%1");
+}
+
+void UnlockLogic::onAnswered(const QString &folder)
+{
+    if (folder == m_awaited && folder == m_folder && !m_core.knownSafes().isLate(folder))
+        choose(folder);
 }
 
 void UnlockLogic::unlock(const QString &password)

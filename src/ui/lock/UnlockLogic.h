@@ -14,7 +14,7 @@ class UnlockLogic : public QObject
     Q_OBJECT
 
 public:
-    enum class State { NoSafes, NoneChosen, Unavailable, Ready, Unlocking };
+    enum class State { NoSafes, NoneChosen, Looking, Unavailable, Ready, Unlocking };
     Q_ENUM(State)
 
     explicit UnlockLogic(GPMAppCore &core, QObject *parent = nullptr);
@@ -47,9 +47,12 @@ Q_SIGNALS:
 
 private:
     const KnownSafes::Entry *chosen() const;
+    QString firstOf(const QString &preferredFolder) const;
     void reload();
     void takeCurrentSafe();
     bool warnOfOther();
+    void onAnswered(const QString &folder);
+    QString whyNot(const QString &folder) const;
     void onFinished(SafeUnlock::Outcome outcome);
     void setMessage(const QString &message);
 
@@ -57,6 +60,7 @@ private:
     QVector<KnownSafes::Entry> m_safes;
     QString m_folder;
     QString m_message;
+    QString m_awaited; ///< the chosen folder while it does not answer
     bool m_unlocking = false;
     bool m_openElsewhere = false;
     int m_done = 0;

@@ -24,6 +24,7 @@ SafeMenu::SafeMenu(GPMAppCore &core, const Theme &theme, QWidget *parent)
     setObjectName(QStringLiteral("safeMenu"));
     setToolTipsVisible(true);
     connect(this, &QMenu::aboutToShow, this, &SafeMenu::fill);
+    connect(&core.knownSafes(), &KnownSafes::changed, this, &SafeMenu::renewSafes);
 }
 
 QVector<SafeMenu::Row> SafeMenu::rows() const
@@ -63,18 +64,41 @@ void SafeMenu::addSafes()
         m_core.currentSafe() ? known.listed(m_core.currentSafe()->folder()) : QString();
     const QVector<KnownSafes::Entry> entries = known.entries();
     for (const KnownSafes::Entry &entry : entries) {
-        const QString name =
-            entry.available ? entry.name : tr("%1 (not available)").arg(entry.name);
-        QAction *action = addAction(menuText(name));
+        QAction *action = addAction(QString());
+        showEntry(*action, entry);
         action->setToolTip(QDir::toNativeSeparators(entry.folder));
         action->setCheckable(true);
+        action->setData(entry.folder);
         action->setChecked(entry.folder == current);
-        action->setEnabled(entry.available);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, current, folder = entry.folder] {
             if (folder != current)
                 Q_EMIT safeChosen(folder);
         });
+    }
+}
+
+void SafeMenu::showEntry(QAction &action, const KnownSafes::Entry &entry) const
+{
+    const QString name = entry.looking     ? tr("%1 (looking…)")
+                         : entry.available ? QStringLiteral("%1")
+                                           : tr("%1 (not available)");
+    action.setText(menuText(name.arg(entry.name)));
+    action.setEnabled(entry.available);
+}
+
+/// In their places: nothing moves below the pointer.
+void SafeMenu::renewSafes()
+{
+    if (!isVisible())
+        return;
+    const QVector<KnownSafes::Entry> entries = m_core.knownSafes().entries();
+    const QList<QAction *> all = actions();
+    for (const KnownSafes::Entry &entry : entries) {
+        for (QAction *action : all) {
+            if (action->data().toString() == entry.folder)
+                showEntry(*action, entry);
+        }
     }
 }
 

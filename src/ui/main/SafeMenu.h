@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KnownSafes.h"
+
 #include <QMenu>
 
 #include <functional>
@@ -42,6 +44,8 @@ private:
     QVector<Row> rows() const;
     void fill();
     void addSafes();
+    void showEntry(QAction &action, const KnownSafes::Entry &entry) const;
+    void renewSafes();
     void add(const Row &row);
 
     GPMAppCore &m_core;

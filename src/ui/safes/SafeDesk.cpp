@@ -2,7 +2,6 @@
 
 #include "ArchiveDesk.h"
 #include "DeleteSafeDialog.h"
-#include "FolderPath.h"
 #include "GPMAppCore.h"
 #include "attachments/RenameDialog.h"
 #include "dialogs/ProgressDialog.h"
@@ -13,9 +12,9 @@
 
 namespace {
 
-bool isCurrent(const GPMAppCore &core, const QString &folder)
+bool isCurrent(GPMAppCore &core, const QString &folder)
 {
-    return core.currentSafe() && isSameFolder(core.currentSafe()->folder(), folder);
+    return core.currentSafe() && core.safeFacts().isSame(core.currentSafe()->folder(), folder);
 }
 
 } // namespace

@@ -34,8 +34,7 @@ public:
         QStringList parts;
         if (safe.fact.itemCount >= 0)
             parts.append(itemCountText(safe.fact.itemCount));
-        if (safe.isRead)
-            parts.append(SizeText::of(safe.details.size));
+        parts.append(safe.isRead ? SizeText::of(safe.details.size) : tr("looking…"));
         if (!safe.fact.mirrorFolder.isEmpty())
             parts.append(tr("in the cloud folder"));
         if (!safe.copyOf.isEmpty())
@@ -54,7 +53,7 @@ public:
             parts.append(tr("Not opened yet"));
         if (safe.fact.lastSynchronised.isValid() && !safe.fact.mirrorFolder.isEmpty())
             parts.append(tr("synchronised %1").arg(relativeDate(safe.fact.lastSynchronised, now)));
-        if (safe.isRead)
+        if (safe.isRead && safe.details.backupsKnown)
             parts.append(
                 safe.details.lastBackup
                     ? tr("backed up %1").arg(BackupTexts::moment(*safe.details.lastBackup, now))

@@ -26,6 +26,7 @@ SafesDialog::SafesDialog(GPMAppCore &core, const CloudOffers &offers, const Them
     , m_clock(std::move(clock))
     , m_scroll(new QScrollArea(this))
     , m_cloud(makeButton({}, "plain", this))
+    , m_details(core.knownSafes().environment().files)
 {
     setObjectName(QStringLiteral("safesDialog"));
     FramedDialog::resize(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
@@ -36,6 +37,10 @@ SafesDialog::SafesDialog(GPMAppCore &core, const CloudOffers &offers, const Them
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SafesDialog::showRows);
     connect(&core.backups(), &Backups::finished, this, &SafesDialog::refresh);
     connect(&theme, &Theme::changed, this, &SafesDialog::showRows);
+    m_showing.setSingleShot(true);
+    m_showing.setInterval(0);
+    connect(&m_showing, &QTimer::timeout, this, &SafesDialog::showRows);
+    connect(&m_details, &SafeDetailsReader::changed, &m_showing, QOverload<>::of(&QTimer::start));
     if (core.currentSafe())
         m_selected = core.knownSafes().listed(core.currentSafe()->folder());
     connect(&core.cloudFolders(), &CloudFolders::changed, this, &SafesDialog::showOffers);
@@ -114,12 +119,9 @@ QVector<SafeInfo> SafesDialog::safes() const
         // What is open has changed since.
         if (safe.isOpen)
             safe.fact.itemCount = OpenSafeTrace::countItems(*current);
-        const auto details =
-            std::find_if(m_details.begin(), m_details.end(),
-                         [&](const SafeDetails &each) { return each.folder == entry.folder; });
-        safe.isRead = details != m_details.end();
-        if (safe.isRead)
-            safe.details = *details;
+        const auto details = m_details.of(entry.folder);
+        safe.isRead = details.has_value();
+        safe.details = details.value_or(SafeDetails());
         list.append(safe);
     }
     for (SafeInfo &safe : list)
@@ -200,17 +202,5 @@ void SafesDialog::startReading()
     const QVector<KnownSafes::Entry> entries = m_core.knownSafes().entries();
     for (const KnownSafes::Entry &entry : entries)
         folders.append(entry.folder);
-    const auto found = std::make_shared<QVector<SafeDetails>>();
-    m_reading = std::make_unique<WorkerTask>(
-        [found, folders, backups = m_core.backups().folder(),
-         environment = m_core.knownSafes().environment()](WorkControl &control) {
-            *found = readSafeDetails(environment, folders, backups, control);
-        });
-    connect(m_reading.get(), &WorkerTask::finished, this, [this, found] {
-        m_details = *found;
-        m_reading.release()->deleteLater(); // its own signal led here
-        showRows();
-        Q_EMIT read();
-    });
-    m_reading->start();
+    m_details.start(folders, m_core.backups().folder());
 }

@@ -2,11 +2,11 @@
 
 #include "Clock.h"
 #include "SafeRow.h"
-#include "WorkerTask.h"
 #include "widgets/FramedDialog.h"
 
+#include <QTimer>
+
 #include <functional>
-#include <memory>
 
 class GPMAppCore;
 class QPushButton;
@@ -19,8 +19,8 @@ struct CloudOffers
     std::function<void()> open; ///< shows them
 };
 
-/// The list of all safes, and what can be done with each of them. Sizes and backups are looked at
-/// on a worker, which stops when the window closes.
+/// The list of all safes, and what can be done with each of them. Sizes and backups come when the
+/// folders have answered.
 class SafesDialog : public FramedDialog
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
                 Clock clock = systemTime);
 
     /// The list is not complete before this is told.
-    bool isReading() const { return m_reading != nullptr; }
+    bool isReading() const { return m_details.isReading(); }
 
 public Q_SLOTS:
     /// Shows what is known by now and looks at the folders anew.
@@ -43,7 +43,6 @@ Q_SIGNALS:
     void createRequested();
     void importRequested();
     void openFolderRequested();
-    void read();
 
 private:
     void layOut();
@@ -61,6 +60,6 @@ private:
     QPushButton *m_cloud;
     QVector<SafeRow *> m_rows;
     QString m_selected; ///< folder
-    QVector<SafeDetails> m_details;
-    std::unique_ptr<WorkerTask> m_reading;
+    SafeDetailsReader m_details;
+    QTimer m_showing; ///< many answers, one picture
 };

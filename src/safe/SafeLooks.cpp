@@ -1,0 +1,171 @@
+#include "SafeLooks.h"
+
+#include "FolderPath.h"
+#include "SafeDescriptionFile.h"
+#include "SafeFolder.h"
+#include "SafeImport.h"
+#include "SafeRemoval.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const int longestEndMs = 500;
+
+using Looks = QVector<std::pair<QString, SafeLook>>;
+
+Looks lookThrough(FileLayer &files, const QString &safesFolder)
+{
+    Looks looks;
+    const QStringList names =
+        QDir(safesFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    for (const QString &name : names) {
+        const QString folder = safesFolder + QLatin1Char('/') + name;
+        if (!SafeImport::isUnfinished(name) && !SafeRemoval::isUnfinished(name) &&
+            SafeFolder(folder).holdsSafe())
+            looks.append({folder, lookAtSafe(files, folder)});
+    }
+    return looks;
+}
+
+} // namespace
+
+/// The answer of one look.
+struct SafeLooks::Found
+{
+    QString folder;
+    int number = 0;
+    QString canonical; ///< of the folder
+    Looks looks;       ///< at the folder alone, or at all that lie in the standard place
+};
+
+SafeLook lookAtSafe(FileLayer &files, const QString &folder)
+{
+    SafeLook look;
+    look.canonical = canonicalFolder(folder);
+    if (!QDir(folder).exists()) {
+        look.place = whyGone(folder);
+        return look;
+    }
+    look.description = readDescription(files, folder);
+    look.place = look.description ? SafePlace::Here : SafePlace::NoSafe;
+    return look;
+}
+
+SafeLooks::SafeLooks(std::shared_ptr<FileLayer> files, const QString &safesFolder)
+    : m_files(std::move(files))
+    , m_safesFolder(safesFolder)
+{
+}
+
+SafeLooks::~SafeLooks()
+{
+    disconnect(); // whoever listens is being taken down, too
+    QElapsedTimer spent;
+    spent.start();
+    for (Open &open : m_open)
+        open.again = false;
+    while (isLooking() && m_work.waitForOne(longestEndMs - int(spent.elapsed())))
+        m_work.takeEnded();
+}
+
+const SafeLook *SafeLooks::at(const QString &folder) const
+{
+    const auto look = m_looks.find(folder);
+    return look == m_looks.end() ? nullptr : &*look;
+}
+
+void SafeLooks::look(const QString &folder)
+{
+    const auto open = m_open.find(folder);
+    if (open != m_open.end()) {
+        open->again = true;
+        return;
+    }
+    const auto found = std::make_shared<Found>();
+    found->folder = folder;
+    found->number = ++m_lastNumber;
+    m_open.insert(folder, {found->number, false, false});
+    const bool isPlace = folder == m_safesFolder;
+    m_work.run(
+        [files = m_files, found, isPlace] {
+            found->canonical = canonicalFolder(found->folder);
+            if (isPlace)
+                found->looks = lookThrough(*files, found->folder);
+            else
+                found->looks = {{found->folder, lookAtSafe(*files, found->folder)}};
+        },
+        [this, found] { take(*found); });
+}
+
+void SafeLooks::lookFresh(const QString &folder)
+{
+    if (!isLate({folder}))
+        m_open.remove(folder);
+    look(folder);
+}
+
+bool SafeLooks::await(const QStringList &folders, int ms)
+{
+    QStringList awaited;
+    for (const QString &folder : folders) {
+        const auto open = m_open.find(folder);
+        if (open != m_open.end() && !std::exchange(open->wasAwaited, true))
+            awaited.append(folder);
+    }
+    QElapsedTimer spent;
+    spent.start();
+    while (isLate(awaited) && m_work.waitForOne(ms - int(spent.elapsed())))
+        m_work.takeEnded();
+    return !isLate(folders);
+}
+
+bool SafeLooks::isLate(const QStringList &folders) const
+{
+    // One that is looked at once more has answered.
+    return std::any_of(folders.begin(), folders.end(),
+                       [this](const QString &folder) { return m_open.value(folder).wasAwaited; });
+}
+
+void SafeLooks::learn(const QString &folder, const SafeLook &look)
+{
+    m_open.remove(folder);
+    m_looks.insert(folder, look);
+}
+
+void SafeLooks::forget(const QString &folder)
+{
+    m_open.remove(folder);
+    m_looks.remove(folder);
+    // A look through the standard place that is under way may have found it.
+    if (m_found.removeOne(folder) || m_open.remove(m_safesFolder) > 0)
+        look(m_safesFolder);
+}
+
+void SafeLooks::take(const Found &found)
+{
+    if (m_open.value(found.folder).number != found.number)
+        return;
+    const bool again = m_open.take(found.folder).again;
+    if (found.folder == m_safesFolder)
+        m_found.clear();
+    for (const auto &[folder, looked] : found.looks) {
+        // What is looked at by itself is known better than by a look at everything.
+        const bool isKnown = found.folder == m_safesFolder && m_looks.contains(folder);
+        if (!isKnown)
+            m_looks.insert(folder, looked);
+        if (found.folder == m_safesFolder)
+            m_found.append(folder);
+        Q_EMIT answered(folder, looked.canonical);
+    }
+    if (found.folder == m_safesFolder) {
+        m_looks.insert(m_safesFolder, {});
+        Q_EMIT answered(m_safesFolder, found.canonical);
+    }
+    if (again)
+        look(found.folder);
+}
