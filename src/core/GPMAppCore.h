@@ -207,6 +207,9 @@ public Q_SLOTS:
     /// Brings quick access up for the user, who is in another program.
     void openQuickAccess();
 
+    /// The user clicked the tray icon, or chose its first entry.
+    void onSystrayIconActivated() { Q_EMIT requestShowMainWindow({}); }
+
     void exitPasswordManager();
 
 Q_SIGNALS:

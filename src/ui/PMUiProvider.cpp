@@ -207,8 +207,8 @@ void PMUiProvider::connectSafeDesk(MainView &view)
 
 void PMUiProvider::makeTray()
 {
-    m_tray = std::make_unique<TrayIcon>();
-    connect(m_tray.get(), &TrayIcon::openRequested, this, &PMUiProvider::bringToFront);
+    m_tray = std::make_unique<TrayIcon>(this);
+    connect(m_tray.get(), &TrayIcon::openRequested, &m_core, &GPMAppCore::onSystrayIconActivated);
     connect(m_tray.get(), &TrayIcon::generatorRequested, m_sideWindows.get(),
             &SideWindows::openGenerator);
     connect(m_tray.get(), &TrayIcon::settingsRequested, m_sideWindows.get(),

@@ -1,6 +1,7 @@
 #include "PMUiProvider.h"
 #include "PasswordStrength.h"
 #include "SplashScreen.h"
+#include "TrayIcon.h"
 #include "UiTesting.h"
 #include "dialogs/ProgressDialog.h"
 #include "movein/MoveInDialog.h"
@@ -85,7 +86,10 @@ void TestPMUiProvider::startInTheTrayShowsNoWindow()
     Ui ui(test);
     ui.provider.openMainView(QString());
     QVERIFY(!ui.window().isVisible());
-    Q_EMIT test.core.requestShowMainWindow(QString());
+    auto *tray = ui.provider.findChild<TrayIcon *>();
+    Q_EMIT tray->activated(QSystemTrayIcon::Context);
+    QVERIFY(!ui.window().isVisible());
+    Q_EMIT tray->activated(QSystemTrayIcon::Trigger);
     QVERIFY(ui.window().isVisible());
 }
 
