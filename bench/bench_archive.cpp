@@ -3,6 +3,7 @@
 
 #include "ArchiveTask.h"
 #include "GPMSafe.h"
+#include "HoldWatch.h"
 #include "KnownSafes.h"
 #include "PMAttachment.h"
 #include "PMLogin.h"
@@ -16,7 +17,6 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTextStream>
-#include <QTimer>
 
 #include <algorithm>
 #include <functional>
@@ -74,24 +74,16 @@ double secondsOf(const QString &program, const QStringList &arguments, const QSt
 }
 
 /// Runs a task as the program does and watches how long the event loop was ever held.
-double secondsOf(ArchiveTask &task, double &longestHold)
+double secondsOf(ArchiveTask &task, HoldWatch &watch)
 {
     QEventLoop loop;
-    QElapsedTimer sinceTick;
-    QTimer ticks;
-    const auto tick = [&] {
-        longestHold = std::max(longestHold, static_cast<double>(sinceTick.nsecsElapsed()) / 1e6);
-        sinceTick.restart();
-    };
-    QObject::connect(&ticks, &QTimer::timeout, tick);
     QObject::connect(&task, &ArchiveTask::finished, &loop, &QEventLoop::quit);
-    sinceTick.start();
-    ticks.start(1);
+    watch.start();
     QElapsedTimer timer;
     timer.start();
     task.start();
     loop.exec();
-    tick(); // what the end of the task brings with it
+    watch.stop();
     if (!task.result().good())
         qFatal("export or import failed");
     return static_cast<double>(timer.nsecsElapsed()) / 1e9;
@@ -135,7 +127,7 @@ int main(int argc, char **argv)
     const QString theirs = home.filePath(QStringLiteral("theirs.zip"));
     const QString unpacked = home.filePath(QStringLiteral("unpacked"));
     QVector<double> exports, imports, zips, unzips;
-    double hold = 0;
+    HoldWatch hold;
     for (int i = 0; i < rounds; ++i) {
         QFile::remove(archive);
         QFile::remove(theirs);
@@ -155,6 +147,8 @@ int main(int argc, char **argv)
     compare("importing them", imports, unzips, "unzip");
     print(QStringLiteral("size of the archive"),
           static_cast<double>(QFileInfo(archive).size()) / 1e6, "MB");
-    print(QStringLiteral("longest hold of the event loop meanwhile"), hold, "ms");
+    print(QStringLiteral("longest hold of the event loop meanwhile"), hold.longestMs(), "ms");
+    print(QStringLiteral("... of which its thread was computing"), hold.computingThenMs(), "ms");
+    print(QStringLiteral("most computing in one turn"), hold.mostComputingMs(), "ms");
     return 0;
 }

@@ -2,6 +2,7 @@
 // each figure with its unit.
 
 #include "GPMSafe.h"
+#include "HoldWatch.h"
 #include "PMAttachment.h"
 #include "PMLogin.h"
 
@@ -12,7 +13,6 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTextStream>
-#include <QTimer>
 
 namespace {
 
@@ -59,13 +59,7 @@ void change(GPMSafe &safe, const QString &what, bool cancel)
     QEventLoop loop;
     QElapsedTimer whole;
     QElapsedTimer cancelled;
-    QElapsedTimer turn;
-    qint64 longest = 0;
-    QTimer ticks;
-    QObject::connect(&ticks, &QTimer::timeout, &loop, [&] {
-        longest = qMax(longest, turn.nsecsElapsed());
-        turn.start();
-    });
+    HoldWatch watch;
     QObject::connect(&safe, &GPMSafe::passwordChangeProgress, &loop, [&](int done, int total) {
         if (!cancel || done < total / 2 || cancelled.isValid())
             return;
@@ -74,18 +68,19 @@ void change(GPMSafe &safe, const QString &what, bool cancel)
     });
     QObject::connect(&safe, &GPMSafe::passwordChangeFinished, &loop, &QEventLoop::quit);
     whole.start();
-    turn.start();
-    ticks.start(0);
+    watch.start();
     if (!safe.changePasswordAsync(QStringLiteral("another one"), QStringLiteral("hint")))
         qFatal("the change does not begin");
     loop.exec();
-    longest = qMax(longest, turn.nsecsElapsed());
+    watch.stop();
     if (safe.isPassword(QStringLiteral("another one")) == cancel)
         qFatal("the change did not end as it was to");
     print(what, double(whole.elapsed()) / 1000, "s");
     if (cancel)
         print(QStringLiteral("... from the cancel to the end"), double(cancelled.elapsed()), "ms");
-    print(QStringLiteral("... longest hold of the event loop"), double(longest) / 1e6, "ms");
+    print(QStringLiteral("... longest hold of the event loop"), watch.longestMs(), "ms");
+    print(QStringLiteral("... of which its thread was computing"), watch.computingThenMs(), "ms");
+    print(QStringLiteral("... most computing in one turn"), watch.mostComputingMs(), "ms");
 }
 
 } // namespace
