@@ -53,6 +53,13 @@ export async function startDesktop() {
       const found = run('xdotool', ['search', '--onlyvisible', '--name', title], { env });
       return found.then(() => true, () => false);
     },
+    /** Whether a visible window with the title comes within a second. */
+    async comes(title) {
+      for (const end = Date.now() + 1000; Date.now() < end; await setTimeout(50)) {
+        if (await this.isVisible(title)) return true;
+      }
+      return false;
+    },
     /** A picture of a window, or of the whole screen, once nothing moves in it. */
     async picture(path, window) {
       const take = async () => {

@@ -124,8 +124,7 @@ stage.inEachBrowser((kind) => {
   async function clickIcon(place) {
     await stage.program.until(async () => {
       await page.mouse.click(...iconIn(place));
-      await setTimeout(300);
-      return isQuickOpen();
+      return stage.desktop.comes(QUICK);
     }, 'quick access');
     await quickHasKeys();
   }

@@ -76,8 +76,7 @@ export function tellOfToolbar(stage, kind, { path, crystal, masterPassword, pass
     await page.bringToFront();
     await stage.program.until(async () => {
       await page.mouse.click(...crystal);
-      await setTimeout(1000);
-      return isQuickOpen();
+      return stage.desktop.comes(QUICK);
     }, 'quick access');
     await stage.user.quickAccess();
   }
