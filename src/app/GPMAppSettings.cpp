@@ -178,6 +178,10 @@ void GPMAppSettings::read(const QJsonObject &object)
     readField(object, "check_updates", m_checkUpdates);
     readField(object, "plugin_hotkey", m_pluginHotkey);
     readField(object, "lock_hotkey", m_lockHotkey);
+    if (!m_lockHotkey.isEmpty() && !m_lockHotkey.compare(m_pluginHotkey, Qt::CaseInsensitive)) {
+        qWarning() << "GPMAppSettings: two commands have one hotkey:" << m_lockHotkey;
+        m_pluginHotkey.clear();
+    }
     readField(object, "backup_path", m_backupPath);
     if (!m_backupPath.isEmpty())
         makeOwnerOnlyFolder(m_backupPath);

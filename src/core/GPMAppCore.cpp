@@ -6,6 +6,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QGuiApplication>
+#include <QScopeGuard>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -212,8 +213,11 @@ void GPMAppCore::lockBecause(LockReason reason)
 {
     // At the end of the program nobody waits for an unlocking that still runs.
     cancelUnlock();
-    if (m_settings.clearClipboard())
-        m_clipboard.clear();
+    // Another program that hangs may hold the clipboard up: the safe does not wait for it.
+    const auto clearClipboard = qScopeGuard([this] {
+        if (m_settings.clearClipboard())
+            m_clipboard.clear();
+    });
     if (!m_safe || !m_safe->isUnlocked())
         return;
     m_lockReason = lockReasonText(reason, m_guard.inactivityLimit());

@@ -14,6 +14,9 @@ void GPMAppCore::startServer()
         std::make_unique<LinkState>(m_link->server(), m_pageLogins, [this] { return m_safe; });
     connect(this, &GPMAppCore::safeLockedChanged, m_linkState.get(), &LinkState::tell);
     connect(this, &GPMAppCore::currentSafeChanged, m_linkState.get(), &LinkState::tell);
+    // What waited in the socket while the computer slept finds the safe locked.
+    connect(&m_link->server(), &GPMWebSocketServer::incomingMessage, &m_guard,
+            &LockGuard::checkSleep);
     connect(&m_link->server(), &GPMWebSocketServer::hello, this, &GPMAppCore::onHello);
     connect(&m_link->server(), &GPMWebSocketServer::collectedDocumentInfo, this,
             &GPMAppCore::parsePluginReplay);

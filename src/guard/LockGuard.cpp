@@ -67,21 +67,19 @@ void LockGuard::checkSleep()
 void LockGuard::checkInactivity()
 {
     checkSleep();
-    if (!m_settings.autolockInactive())
-        return;
-
+    // Asked even while the user does not want it: the settings tell whether it can be done.
     // In this order: input between the two would seem to come from the future, that is, to be
     // seven weeks old.
     const std::optional<std::uint32_t> lastInput = m_activity->lastInputTick();
     if (!lastInput) {
         m_missedAnswers = std::min(m_missedAnswers + 1, toleratedMisses);
-        if (!seesInput() && !std::exchange(m_saidMissing, true))
+        if (m_settings.autolockInactive() && !seesInput() && !std::exchange(m_saidMissing, true))
             qWarning("LockGuard: the system does not tell when the last input was");
         return;
     }
     m_missedAnswers = 0;
     const std::uint32_t idleMs = m_activity->tickCount() - *lastInput;
-    if (idleMs > limitMs())
+    if (m_settings.autolockInactive() && idleMs > limitMs())
         lock(LockReason::Inactivity, "Locked due user inactivity");
 }
 

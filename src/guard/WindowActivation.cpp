@@ -4,22 +4,24 @@
 
 #include <QDebug>
 #include <QGuiApplication>
+#include <QTimer>
 #include <QWindow>
 
 #include <utility>
 
 namespace {
 
-bool askSystem(QWindow &window)
+bool canAskSystem()
 {
     const QString platform = QGuiApplication::platformName();
-    if (platform != QLatin1String("xcb") && platform != QLatin1String("windows"))
-        return false;
-    const auto handle = static_cast<std::uintptr_t>(window.winId());
-    // The system has to know that the window is shown before it is asked to put it in front. Other
-    // events come in between.
-    QGuiApplication::sync();
-    return putWindowInFront(handle);
+    return platform == QLatin1String("xcb") || platform == QLatin1String("windows");
+}
+
+void sayOnce(bool inFront)
+{
+    static bool said = false;
+    if (!inFront && !std::exchange(said, true))
+        qWarning("UI: the system alone decides which window is in front");
 }
 
 } // namespace
@@ -30,7 +32,15 @@ void putInFront(QWindow &window, const QString &name)
                               .arg(name)
                               .arg(window.winId(), 0, 16)
                        << window.parent();
-    static bool saidSo = false;
-    if (!askSystem(window) && !std::exchange(saidSo, true))
-        qWarning("UI: the system alone decides which window is in front");
+    if (!canAskSystem()) {
+        sayOnce(false);
+        return;
+    }
+    // The system has to know that the window is shown before it is asked to put it in front. Other
+    // events come in between, which must not happen in the middle of what the caller does.
+    const auto handle = static_cast<std::uintptr_t>(window.winId());
+    QTimer::singleShot(0, &window, [handle] {
+        QGuiApplication::sync();
+        sayOnce(putWindowInFront(handle));
+    });
 }

@@ -208,11 +208,10 @@ void GPMSafe::lock()
     if (!isUnlocked())
         return;
     settle();
+    SaveJob::Result result;
     if (!std::exchange(m_givesUp, false)) {
-        const SaveJob::Result result = m_saving.saveNow();
+        result = m_saving.saveNow();
         m_saving.keepUnsaved(m_drafts);
-        if (!result.good())
-            Q_EMIT saved(false, result.failedPaths);
     }
     m_drafts.close();
     m_state.password.reset();
@@ -223,6 +222,9 @@ void GPMSafe::lock()
     Q_EMIT itemsReset();
     items.clear();
     Q_EMIT lockedChanged(true);
+    // Who is told of it finds the safe locked.
+    if (!result.good())
+        Q_EMIT saved(false, result.failedPaths);
 }
 
 bool GPMSafe::saveChanges()

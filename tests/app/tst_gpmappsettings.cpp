@@ -58,6 +58,7 @@ private Q_SLOTS:
         QVERIFY(settings->firstStart());
         QCOMPARE(settings->backupCount(), 10);
         QCOMPARE(settings->inactivityInterval(), 3);
+        QCOMPARE(settings->pluginHotkey(), QString());
         QCOMPARE(settings->backupPath(),
                  QDir::toNativeSeparators(hidden() + QStringLiteral("/backup")));
         QCOMPARE(settings->backupCheck(), m_now);
@@ -136,6 +137,8 @@ private Q_SLOTS:
         QTest::newRow("unknown names")
             << json("{'login_mode':'Never','plugin_open_mode':'newtab','backup_interval':'Hourly'}")
             << 3;
+        QTest::newRow("one hotkey twice")
+            << json("{'lock_hotkey':'Ctrl+Alt+L','plugin_hotkey':'ctrl+alt+l'}") << 1;
         QTest::newRow("numbers that none can hold")
             << json("{'inactivity_interval':1e300,'backup_count':2.5,'backup_check':-1e300}") << 3;
     }

@@ -1,3 +1,4 @@
+#include "../guard/FakeActivity.h"
 #include "GPMAppCore.h"
 #include "PMItemFactory.h"
 #include "PMLogin.h"
@@ -111,6 +112,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<GPMAppCore> m_core;
     quint16 m_port = 0;
+    std::shared_ptr<FakeActivity::State> m_user = std::make_shared<FakeActivity::State>();
 
     PMLogin *addLogin(const char *title)
     {
@@ -134,9 +136,13 @@ private Q_SLOTS:
     {
         m_home = std::make_unique<QTemporaryDir>();
         m_port = freePort();
-        m_core = std::make_unique<GPMAppCore>(GPMAppCore::Places{
-            m_home->filePath(QStringLiteral("config")), m_home->filePath(QStringLiteral("data")),
-            m_home->filePath(QStringLiteral("hidden")), m_port});
+        m_core = std::make_unique<GPMAppCore>(
+            GPMAppCore::Places{m_home->filePath(QStringLiteral("config")),
+                               m_home->filePath(QStringLiteral("data")),
+                               m_home->filePath(QStringLiteral("hidden")),
+                               m_port,
+                               {},
+                               [user = m_user] { return std::make_unique<FakeActivity>(user); }});
         m_core->startServer();
     }
     void cleanup() { m_core.reset(); }
@@ -408,6 +414,32 @@ private Q_SLOTS:
         extension.send(QStringLiteral("showWindow"),
                        {{QStringLiteral("url"), QStringLiteral("x")}});
         QVERIFY(shown.wait());
+        for (const QJsonObject &frame : qAsConst(extension.received))
+            QVERIFY(frame.value(QStringLiteral("action")) != QStringLiteral("fillForm"));
+    }
+
+    void nothingIsFilledRightAfterALongSleep()
+    {
+        QVERIFY(
+            m_core->createSafe(QStringLiteral("Mine"), QStringLiteral("pw"), QStringLiteral("h")));
+        const QString id = addLogin("Shop")->id();
+        Extension extension(m_port);
+        QTRY_COMPARE(extension.received.size(), 1);
+        m_core->doItemDefaultAction(id, QString(), QString());
+        QTRY_COMPARE(extension.received.size(), 2);
+        const QJsonObject request =
+            extension.received.at(1).value(QStringLiteral("payload")).toObject();
+        m_core->checkInactivity();
+        m_user->tick += 4 * 60 * 1000;
+        extension.send(QStringLiteral("collectDocumentResults"),
+                       answerTo(request, "https://shop.example/"));
+        QTRY_VERIFY(!m_core->currentSafe()->isUnlocked());
+        extension.send(QStringLiteral("getState"), {{QStringLiteral("request_id"), 7}});
+        const auto isAnswer = [](const QJsonObject &frame) {
+            return frame.value(QStringLiteral("action")) == QStringLiteral("state") &&
+                   frame.value(QStringLiteral("payload"))[QLatin1String("request_id")] == 7;
+        };
+        QTRY_VERIFY(std::any_of(extension.received.begin(), extension.received.end(), isAnswer));
         for (const QJsonObject &frame : qAsConst(extension.received))
             QVERIFY(frame.value(QStringLiteral("action")) != QStringLiteral("fillForm"));
     }

@@ -34,6 +34,7 @@ class TestBusActivity : public QObject
 private Q_SLOTS:
     void tellsWhatTheCompositorSays();
     void oldAnswersDoNotCount();
+    void waitsForTheCompositor();
 
 private:
     void offer(IdleMonitor &monitor);
@@ -92,6 +93,24 @@ void TestBusActivity::oldAnswersDoNotCount()
     QVERIFY(session.activity.lastInputTick().has_value());
     session.state->tick += 1;
     QVERIFY(!session.activity.lastInputTick().has_value());
+}
+
+void TestBusActivity::waitsForTheCompositor()
+{
+    // A program that starts with the session may come first.
+    QDBusConnection bus = m_bus.connection("early");
+    m_bus.connection("compositor")
+        .unregisterService(QStringLiteral("org.gnome.Mutter.IdleMonitor"));
+    Session session(bus);
+    QDBusMessage probe =
+        QDBusMessage::createMethodCall(QStringLiteral("org.gnome.Mutter.IdleMonitor"),
+                                       QStringLiteral("/"), {}, QStringLiteral("Any"));
+    QCOMPARE(bus.call(probe, QDBus::BlockWithGui).type(), QDBusMessage::ErrorMessage);
+    QVERIFY(!session.activity.lastInputTick().has_value());
+    IdleMonitor monitor;
+    monitor.idleMs = 10;
+    offer(monitor);
+    QTRY_VERIFY(session.activity.lastInputTick().has_value());
 }
 
 QTEST_GUILESS_MAIN(TestBusActivity)

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void sessionEvents();
     void locksOnceAndSaysSoOnce();
     void failingQueriesAreSkippedAndSaidOnce();
+    void knowsWhatTheSystemTellsWhileSwitchedOff();
     void backupIsCheckedLast();
 };
 
@@ -265,6 +266,18 @@ void TestLockGuard::failingQueriesAreSkippedAndSaidOnce()
     for (int check = 0; check < 30; ++check)
         guarded.check();
     QCOMPARE(log.lines.size(), 2); // with that of the lock
+}
+
+void TestLockGuard::knowsWhatTheSystemTellsWhileSwitchedOff()
+{
+    Guarded guarded;
+    guarded.settings.setAutolockInactive(false);
+    guarded.state.tells = false;
+    LoggedLines log;
+    for (int check = 0; check < 30; ++check)
+        guarded.check();
+    QVERIFY(!guarded.guard.seesInput());
+    QCOMPARE(log.lines, QStringList());
 }
 
 void TestLockGuard::backupIsCheckedLast()

@@ -374,6 +374,23 @@ private Q_SLOTS:
         QVERIFY(!items[1]->isChanged());
     }
 
+    void whoHearsOfAFailedSaveAtALockFindsItLocked()
+    {
+        copySampleSafe(m_folder);
+        SafeEnvironment environment;
+        auto files = std::make_shared<FaultyFiles>();
+        environment.files = files;
+        GPMSafe safe(environment);
+        QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
+        safe.items().front()->setNote(QStringLiteral("changed"));
+        QVector<bool> unlockedThen;
+        connect(&safe, &GPMSafe::saved,
+                [&](bool good) { unlockedThen.append(good || safe.isUnlocked()); });
+        files->failAt = 1;
+        safe.lock();
+        QCOMPARE(unlockedThen, QVector<bool>{false});
+    }
+
     void savingInTheBackgroundKeepsLaterEdits()
     {
         copySampleSafe(m_folder);

@@ -308,6 +308,8 @@ void TestSettingsDialog::hotkeys_data()
     QTest::newRow("capital letter") << int(Qt::SHIFT | Qt::Key_P) << none << bare;
     QTest::newRow("space") << int(Qt::Key_Space) << none << bare;
     QTest::newRow("enter") << int(Qt::Key_Return) << none << bare;
+    QTest::newRow("key that no system takes")
+        << int(Qt::CTRL | Qt::Key_Enter) << none << QStringLiteral("This key");
     QTest::newRow("key of the program")
         << int(Qt::CTRL | Qt::Key_F) << none << QStringLiteral("Search");
     QTest::newRow("key of texts") << int(Qt::CTRL | Qt::Key_V) << none << QStringLiteral("paste");

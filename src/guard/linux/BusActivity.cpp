@@ -30,20 +30,20 @@ std::optional<std::uint32_t> BusActivity::lastInputTick()
 
 void BusActivity::ask()
 {
-    if (m_asking || m_refused || !m_session.isConnected())
+    if (m_asking || !m_session.isConnected())
         return;
     m_asking = true;
-    const QDBusMessage call = QDBusMessage::createMethodCall(
+    QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.gnome.Mutter.IdleMonitor"),
         QStringLiteral("/org/gnome/Mutter/IdleMonitor/Core"),
         QStringLiteral("org.gnome.Mutter.IdleMonitor"), QStringLiteral("GetIdletime"));
+    // Another desktop does not answer, and this one perhaps not yet.
+    call.setAutoStartService(false);
     auto *watcher = new QDBusPendingCallWatcher(m_session.asyncCall(call), &m_context);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &m_context, [this, watcher] {
         watcher->deleteLater();
         m_asking = false;
         const QDBusPendingReply<qulonglong> reply = *watcher;
-        // Another desktop: it will not learn to answer.
-        m_refused = reply.error().type() == QDBusError::ServiceUnknown;
         if (reply.isError())
             return;
         m_answered = tickCount();

@@ -26,7 +26,6 @@ private:
     QDBusConnection m_session;
     QObject m_context; ///< ends the calls that are under way
     bool m_asking = false;
-    bool m_refused = false;
     std::optional<std::uint32_t> m_lastInput;
     std::uint32_t m_answered = 0;
 };

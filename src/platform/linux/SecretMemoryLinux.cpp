@@ -1,5 +1,6 @@
 #include "SecretMemory.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <sys/mman.h>
@@ -40,7 +41,8 @@ void keepOutOfCrashDumps()
     rlimit limit = {};
     if (getrlimit(RLIMIT_CORE, &limit) != 0)
         return;
-    limit.rlim_cur = 0;
+    // At exactly 1 the kernel leaves a program that collects dumps alone, too, and writes no file.
+    limit.rlim_cur = std::min<rlim_t>(1, limit.rlim_max);
     (void)setrlimit(RLIMIT_CORE, &limit);
 }
 

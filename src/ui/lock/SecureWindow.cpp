@@ -175,6 +175,8 @@ void SecureWindow::followSafe()
         showLayers();
         m_pages->showUnlockPage();
         moveShutters();
+        // A computer that goes to sleep now shows first what was drawn last.
+        repaint();
     }
 }
 

@@ -1,5 +1,7 @@
 #include "HotkeyRules.h"
 
+#include "HotkeyText.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -24,6 +26,8 @@ QString hotkeyFault(int key, const QVector<TakenKeys> &taken)
     if (!modified && !isFunctionKey(plainKey))
         return text(QT_TRANSLATE_NOOP("HotkeyRules", "Use it together with Ctrl, Alt or Meta"));
     const QKeySequence keys(key);
+    if (!hotkeyCombination(keys.toString(QKeySequence::PortableText)))
+        return text(QT_TRANSLATE_NOOP("HotkeyRules", "This key can not be used"));
     for (const TakenKeys &other : taken) {
         if (!other.keys.isEmpty() && other.keys == keys)
             return text(QT_TRANSLATE_NOOP("HotkeyRules", "%1 is taken by: %2"))
