@@ -667,6 +667,10 @@ Sie können sich in den Einstellungen auf der Seite „Browser“ anders entsche
         <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
         <translation>Dieses neue Passwort wurde nicht übernommen: Eine andere Änderung des Passworts läuft noch. Warten Sie, bis sie fertig ist, und versuchen Sie es noch einmal.</translation>
     </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>Die Merkhilfe verrät das Passwort</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -1210,6 +1214,10 @@ anlegen?</translation>
     <message>
         <source>Hint can not be empty</source>
         <translation>Die Merkhilfe darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>Die Merkhilfe verrät das Passwort</translation>
     </message>
 </context>
 <context>
@@ -1930,6 +1938,10 @@ Frühere Sicherungen bleiben, wie sie sind, in:
     <message>
         <source>%1 is taken by: %2</source>
         <translation>%1 ist belegt durch: %2</translation>
+    </message>
+    <message>
+        <source>This key can not be used</source>
+        <translation>Diese Taste kann nicht verwendet werden</translation>
     </message>
 </context>
 <context>
@@ -2895,6 +2907,13 @@ Berichtigen Sie sie und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
+    <name>LoginSaving</name>
+    <message>
+        <source>%1 (former password, until %2)</source>
+        <translation>%1 (früheres Passwort, bis %2)</translation>
+    </message>
+</context>
+<context>
     <name>MainView</name>
     <message>
         <source>Moved to trash</source>
@@ -3003,6 +3022,10 @@ Einen anlegen?</translation>
     <message>
         <source>Unlock anyway</source>
         <translation>Trotzdem öffnen</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (wird gesucht …)</translation>
     </message>
 </context>
 <context>
@@ -3608,6 +3631,37 @@ Einen anlegen?</translation>
     <message>
         <source>“%1” is there. Unlock it with its master password after these steps.</source>
         <translation>„%1“ ist da. Öffnen Sie ihn nach diesen Schritten mit seinem Masterpasswort.</translation>
+    </message>
+</context>
+<context>
+    <name>NewVersionDialog</name>
+    <message>
+        <source>What is new</source>
+        <translation>Was neu ist</translation>
+    </message>
+    <message>
+        <source>New version</source>
+        <translation>Neue Version</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>Version %1 ist da</translation>
+    </message>
+    <message>
+        <source>You have version %1. Your safes and settings stay as they are when you install the new one.</source>
+        <translation>Sie haben Version %1. Ihre Tresore und Einstellungen bleiben, wie sie sind, wenn Sie die neue installieren.</translation>
+    </message>
+    <message>
+        <source>The page is on %1 and opens in your browser.</source>
+        <translation>Die Seite liegt auf %1 und öffnet sich in Ihrem Browser.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Open the download page</source>
+        <translation>Download-Seite öffnen</translation>
     </message>
 </context>
 <context>
@@ -4286,6 +4340,10 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
         <source>no backup yet</source>
         <translation>noch keine Sicherung</translation>
     </message>
+    <message>
+        <source>looking…</source>
+        <translation>wird gesucht …</translation>
+    </message>
 </context>
 <context>
     <name>SafeMenu</name>
@@ -4324,6 +4382,10 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     <message>
         <source>%1 (not available)</source>
         <translation>%1 (nicht verfügbar)</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (wird gesucht …)</translation>
     </message>
 </context>
 <context>
@@ -4495,6 +4557,10 @@ Die Schrift ist Inter (SIL Open Font License), die Symbole sind Tabler Icons (MI
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>You declined logins of this site before. If you do so now, it is not offered again until you lock the safe.</source>
+        <translation>Sie haben Logins dieser Website schon abgelehnt. Wenn Sie es jetzt wieder tun, wird nichts mehr angeboten, bis Sie den Tresor sperren.</translation>
     </message>
 </context>
 <context>
@@ -4736,10 +4802,6 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>Check for updates</source>
         <translation>Nach Updates suchen</translation>
-    </message>
-    <message>
-        <source>Looks from time to time whether there is a newer version.</source>
-        <translation>Sieht von Zeit zu Zeit nach, ob es eine neuere Version gibt.</translation>
     </message>
     <message>
         <source>new version download</source>
@@ -5073,6 +5135,38 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>The setting holds until the program ends, but it could not be stored.</source>
         <translation>Die Einstellung gilt, bis das Programm endet, konnte aber nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Asks once a day whether there is a newer version. Sent are your version and a number made for this computer, nothing else.</source>
+        <translation>Fragt einmal am Tag, ob es eine neuere Version gibt. Gesendet werden Ihre Version und eine für diesen Computer gebildete Nummer, sonst nichts.</translation>
+    </message>
+    <message>
+        <source>Newest version</source>
+        <translation>Neueste Version</translation>
+    </message>
+    <message>
+        <source>Which version there is, and when was last looked for it.</source>
+        <translation>Welche Version es gibt und wann zuletzt danach gesehen wurde.</translation>
+    </message>
+    <message>
+        <source>update check download</source>
+        <translation>Aktualisierung Update Suche Download</translation>
+    </message>
+    <message>
+        <source>Your desktop does not tell when you are away. The safe locks with the screen and when the computer sleeps.</source>
+        <translation>Ihr Desktop verrät nicht, wann Sie weg sind. Der Tresor wird mit dem Bildschirm gesperrt und wenn der Computer in den Ruhezustand geht.</translation>
+    </message>
+    <message>
+        <source>Hide the windows from screenshots</source>
+        <translation>Fenster in Bildschirmfotos verbergen</translation>
+    </message>
+    <message>
+        <source>What is in the safe appears in no recording and on no shared screen.</source>
+        <translation>Was im Tresor ist, erscheint in keiner Aufnahme und auf keinem geteilten Bildschirm.</translation>
+    </message>
+    <message>
+        <source>screen capture sharing meeting</source>
+        <translation>Bildschirm Aufnahme Bildschirmfoto teilen Besprechung</translation>
     </message>
 </context>
 <context>
@@ -5438,6 +5532,63 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
         <translation>Dieses Passwort wurde auf einem anderen Computer gesetzt. Öffnen Sie mit dem früheren; dann werden Sie nach diesem gefragt.</translation>
+    </message>
+    <message>
+        <source>Looking for this safe. Its drive does not answer yet:
+%1</source>
+        <translation>Dieser Tresor wird gesucht. Sein Laufwerk antwortet noch nicht:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatePanel</name>
+    <message>
+        <source>Show…</source>
+        <translation>Anzeigen …</translation>
+    </message>
+    <message>
+        <source>Check now</source>
+        <translation>Jetzt prüfen</translation>
+    </message>
+    <message>
+        <source>Show the new version</source>
+        <translation>Die neue Version anzeigen</translation>
+    </message>
+    <message>
+        <source>Check for a newer version now</source>
+        <translation>Jetzt nach einer neueren Version suchen</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>Version %1 ist da</translation>
+    </message>
+    <message>
+        <source>You have the newest version, %1</source>
+        <translation>Sie haben die neueste Version, %1</translation>
+    </message>
+    <message>
+        <source>You have version %1</source>
+        <translation>Sie haben Version %1</translation>
+    </message>
+    <message>
+        <source>This program was built without an address to ask for newer versions, so it never looks for them.</source>
+        <translation>Dieses Programm wurde ohne eine Adresse gebaut, unter der es nach neueren Versionen fragen könnte, und sieht daher nie danach.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Wird geprüft …</translation>
+    </message>
+    <message>
+        <source>There was no answer that could be used. Check the connection to the internet and try again.</source>
+        <translation>Es kam keine brauchbare Antwort. Prüfen Sie die Verbindung zum Internet und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Last checked: %1</source>
+        <translation>Zuletzt geprüft: %1</translation>
+    </message>
+    <message>
+        <source>Not checked yet</source>
+        <translation>Noch nicht geprüft</translation>
     </message>
 </context>
 <context>

@@ -667,6 +667,10 @@ Puede cambiar de opinión en los ajustes, en la página “Navegador”.</transl
         <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
         <translation>Esta contraseña nueva no se tomó: otro cambio de la contraseña sigue en curso. Espere a que termine e inténtelo de nuevo.</translation>
     </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>La pista delata la contraseña</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -1210,6 +1214,10 @@ otra?</translation>
     <message>
         <source>Hint can not be empty</source>
         <translation>La pista no puede estar vacía</translation>
+    </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>La pista delata la contraseña</translation>
     </message>
 </context>
 <context>
@@ -1930,6 +1938,10 @@ Las copias anteriores quedan como están, en:
     <message>
         <source>%1 is taken by: %2</source>
         <translation>%1 ya se usa para: %2</translation>
+    </message>
+    <message>
+        <source>This key can not be used</source>
+        <translation>Esta tecla no se puede usar</translation>
     </message>
 </context>
 <context>
@@ -2895,6 +2907,13 @@ Hay que corregirlos y volver a intentarlo.</translation>
     </message>
 </context>
 <context>
+    <name>LoginSaving</name>
+    <message>
+        <source>%1 (former password, until %2)</source>
+        <translation>%1 (contraseña anterior, hasta %2)</translation>
+    </message>
+</context>
+<context>
     <name>MainView</name>
     <message>
         <source>Moved to trash</source>
@@ -3003,6 +3022,10 @@ Create one?</source>
     <message>
         <source>Unlock anyway</source>
         <translation>Abrir de todos modos</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (buscando…)</translation>
     </message>
 </context>
 <context>
@@ -3608,6 +3631,37 @@ Create one?</source>
     <message>
         <source>“%1” is there. Unlock it with its master password after these steps.</source>
         <translation>“%1” ya está. Ábrala con su contraseña maestra después de estos pasos.</translation>
+    </message>
+</context>
+<context>
+    <name>NewVersionDialog</name>
+    <message>
+        <source>What is new</source>
+        <translation>Novedades</translation>
+    </message>
+    <message>
+        <source>New version</source>
+        <translation>Versión nueva</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>La versión %1 ya está aquí</translation>
+    </message>
+    <message>
+        <source>You have version %1. Your safes and settings stay as they are when you install the new one.</source>
+        <translation>Tiene la versión %1. Sus cajas fuertes y ajustes no cambian al instalar la nueva.</translation>
+    </message>
+    <message>
+        <source>The page is on %1 and opens in your browser.</source>
+        <translation>La página está en %1 y se abre en su navegador.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Open the download page</source>
+        <translation>Abrir la página de descarga</translation>
     </message>
 </context>
 <context>
@@ -4286,6 +4340,10 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
         <source>no backup yet</source>
         <translation>aún sin copia</translation>
     </message>
+    <message>
+        <source>looking…</source>
+        <translation>buscando…</translation>
+    </message>
 </context>
 <context>
     <name>SafeMenu</name>
@@ -4324,6 +4382,10 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     <message>
         <source>%1 (not available)</source>
         <translation>%1 (no disponible)</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (buscando…)</translation>
     </message>
 </context>
 <context>
@@ -4495,6 +4557,10 @@ El tipo de letra es Inter (SIL Open Font License); los iconos son de Tabler Icon
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>You declined logins of this site before. If you do so now, it is not offered again until you lock the safe.</source>
+        <translation>Ya rechazó accesos de este sitio. Si lo hace ahora, no se volverá a ofrecer hasta que bloquee la caja fuerte.</translation>
     </message>
 </context>
 <context>
@@ -4736,10 +4802,6 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>Check for updates</source>
         <translation>Buscar actualizaciones</translation>
-    </message>
-    <message>
-        <source>Looks from time to time whether there is a newer version.</source>
-        <translation>Comprueba de vez en cuando si hay una versión más reciente.</translation>
     </message>
     <message>
         <source>new version download</source>
@@ -5073,6 +5135,38 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>The setting holds until the program ends, but it could not be stored.</source>
         <translation>El ajuste vale hasta que termine el programa, pero no se pudo guardar.</translation>
+    </message>
+    <message>
+        <source>Asks once a day whether there is a newer version. Sent are your version and a number made for this computer, nothing else.</source>
+        <translation>Pregunta una vez al día si hay una versión más nueva. Se envían su versión y un número creado para este equipo, nada más.</translation>
+    </message>
+    <message>
+        <source>Newest version</source>
+        <translation>Versión más nueva</translation>
+    </message>
+    <message>
+        <source>Which version there is, and when was last looked for it.</source>
+        <translation>Qué versión hay y cuándo se buscó por última vez.</translation>
+    </message>
+    <message>
+        <source>update check download</source>
+        <translation>actualización comprobar descarga</translation>
+    </message>
+    <message>
+        <source>Your desktop does not tell when you are away. The safe locks with the screen and when the computer sleeps.</source>
+        <translation>Su escritorio no indica cuándo se ausenta. La caja fuerte se bloquea con la pantalla y cuando el equipo se suspende.</translation>
+    </message>
+    <message>
+        <source>Hide the windows from screenshots</source>
+        <translation>Ocultar las ventanas en las capturas de pantalla</translation>
+    </message>
+    <message>
+        <source>What is in the safe appears in no recording and on no shared screen.</source>
+        <translation>El contenido de la caja fuerte no aparece en ninguna grabación ni en ninguna pantalla compartida.</translation>
+    </message>
+    <message>
+        <source>screen capture sharing meeting</source>
+        <translation>captura pantalla compartir reunión grabación</translation>
     </message>
 </context>
 <context>
@@ -5438,6 +5532,63 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
         <translation>Esta contraseña se puso en otro equipo. Abra con la anterior; después se le pide esta.</translation>
+    </message>
+    <message>
+        <source>Looking for this safe. Its drive does not answer yet:
+%1</source>
+        <translation>Buscando esta caja fuerte. Su unidad aún no responde:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatePanel</name>
+    <message>
+        <source>Show…</source>
+        <translation>Mostrar…</translation>
+    </message>
+    <message>
+        <source>Check now</source>
+        <translation>Comprobar ahora</translation>
+    </message>
+    <message>
+        <source>Show the new version</source>
+        <translation>Mostrar la versión nueva</translation>
+    </message>
+    <message>
+        <source>Check for a newer version now</source>
+        <translation>Buscar ahora una versión más nueva</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>La versión %1 ya está aquí</translation>
+    </message>
+    <message>
+        <source>You have the newest version, %1</source>
+        <translation>Tiene la versión más nueva, %1</translation>
+    </message>
+    <message>
+        <source>You have version %1</source>
+        <translation>Tiene la versión %1</translation>
+    </message>
+    <message>
+        <source>This program was built without an address to ask for newer versions, so it never looks for them.</source>
+        <translation>Este programa se creó sin una dirección donde preguntar por versiones más nuevas, así que nunca las busca.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Comprobando…</translation>
+    </message>
+    <message>
+        <source>There was no answer that could be used. Check the connection to the internet and try again.</source>
+        <translation>No hubo una respuesta válida. Compruebe la conexión a internet e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Last checked: %1</source>
+        <translation>Última comprobación: %1</translation>
+    </message>
+    <message>
+        <source>Not checked yet</source>
+        <translation>Aún sin comprobar</translation>
     </message>
 </context>
 <context>

@@ -667,6 +667,10 @@ Vous pouvez changer d’avis dans les paramètres, à la page «&#x202f;Navigate
         <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
         <translation>Ce nouveau mot de passe n’a pas été pris : un autre changement de mot de passe est encore en cours. Attendez qu’il soit terminé, puis réessayez.</translation>
     </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>L’indice trahit le mot de passe</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -1210,6 +1214,10 @@ un autre&#x202f;?</translation>
     <message>
         <source>Hint can not be empty</source>
         <translation>L’indice ne peut pas être vide</translation>
+    </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>L’indice trahit le mot de passe</translation>
     </message>
 </context>
 <context>
@@ -1930,6 +1938,10 @@ Les sauvegardes précédentes restent telles quelles, dans :
     <message>
         <source>%1 is taken by: %2</source>
         <translation>%1 est déjà utilisé pour&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>This key can not be used</source>
+        <translation>Cette touche ne peut pas être utilisée</translation>
     </message>
 </context>
 <context>
@@ -2895,6 +2907,13 @@ Corrigez-les et réessayez.</translation>
     </message>
 </context>
 <context>
+    <name>LoginSaving</name>
+    <message>
+        <source>%1 (former password, until %2)</source>
+        <translation>%1 (ancien mot de passe, jusqu’au %2)</translation>
+    </message>
+</context>
+<context>
     <name>MainView</name>
     <message>
         <source>Moved to trash</source>
@@ -3003,6 +3022,10 @@ En créer un&#x202f;?</translation>
     <message>
         <source>Unlock anyway</source>
         <translation>Ouvrir quand même</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (recherche…)</translation>
     </message>
 </context>
 <context>
@@ -3608,6 +3631,37 @@ En créer un&#x202f;?</translation>
     <message>
         <source>“%1” is there. Unlock it with its master password after these steps.</source>
         <translation>«&#x202f;%1&#x202f;» est là. Déverrouillez-le avec son mot de passe maître après ces étapes.</translation>
+    </message>
+</context>
+<context>
+    <name>NewVersionDialog</name>
+    <message>
+        <source>What is new</source>
+        <translation>Nouveautés</translation>
+    </message>
+    <message>
+        <source>New version</source>
+        <translation>Nouvelle version</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>La version %1 est disponible</translation>
+    </message>
+    <message>
+        <source>You have version %1. Your safes and settings stay as they are when you install the new one.</source>
+        <translation>Vous avez la version %1. Vos coffres et vos paramètres restent tels quels lorsque vous installez la nouvelle.</translation>
+    </message>
+    <message>
+        <source>The page is on %1 and opens in your browser.</source>
+        <translation>La page se trouve sur %1 et s’ouvre dans votre navigateur.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Open the download page</source>
+        <translation>Ouvrir la page de téléchargement</translation>
     </message>
 </context>
 <context>
@@ -4286,6 +4340,10 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
         <source>no backup yet</source>
         <translation>aucune sauvegarde</translation>
     </message>
+    <message>
+        <source>looking…</source>
+        <translation>recherche…</translation>
+    </message>
 </context>
 <context>
     <name>SafeMenu</name>
@@ -4324,6 +4382,10 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     <message>
         <source>%1 (not available)</source>
         <translation>%1 (indisponible)</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (recherche…)</translation>
     </message>
 </context>
 <context>
@@ -4495,6 +4557,10 @@ La police est Inter (SIL Open Font License), les icônes sont celles de Tabler I
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>You declined logins of this site before. If you do so now, it is not offered again until you lock the safe.</source>
+        <translation>Vous avez déjà refusé des identifiants de ce site. Si vous refusez encore, rien ne sera plus proposé avant le verrouillage du coffre.</translation>
     </message>
 </context>
 <context>
@@ -4736,10 +4802,6 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>Check for updates</source>
         <translation>Rechercher des mises à jour</translation>
-    </message>
-    <message>
-        <source>Looks from time to time whether there is a newer version.</source>
-        <translation>Vérifie de temps à autre s’il existe une version plus récente.</translation>
     </message>
     <message>
         <source>new version download</source>
@@ -5073,6 +5135,38 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>The setting holds until the program ends, but it could not be stored.</source>
         <translation>Le paramètre reste valable jusqu’à la fermeture du programme, mais n’a pas pu être enregistré.</translation>
+    </message>
+    <message>
+        <source>Asks once a day whether there is a newer version. Sent are your version and a number made for this computer, nothing else.</source>
+        <translation>Demande une fois par jour s’il existe une version plus récente. Sont envoyés votre version et un numéro créé pour cet ordinateur, rien d’autre.</translation>
+    </message>
+    <message>
+        <source>Newest version</source>
+        <translation>Dernière version</translation>
+    </message>
+    <message>
+        <source>Which version there is, and when was last looked for it.</source>
+        <translation>Quelle version existe et quand elle a été recherchée pour la dernière fois.</translation>
+    </message>
+    <message>
+        <source>update check download</source>
+        <translation>mise à jour vérifier téléchargement</translation>
+    </message>
+    <message>
+        <source>Your desktop does not tell when you are away. The safe locks with the screen and when the computer sleeps.</source>
+        <translation>Votre bureau n’indique pas quand vous êtes absent. Le coffre se verrouille avec l’écran et lorsque l’ordinateur se met en veille.</translation>
+    </message>
+    <message>
+        <source>Hide the windows from screenshots</source>
+        <translation>Masquer les fenêtres dans les captures d’écran</translation>
+    </message>
+    <message>
+        <source>What is in the safe appears in no recording and on no shared screen.</source>
+        <translation>Le contenu du coffre n’apparaît dans aucun enregistrement ni sur aucun écran partagé.</translation>
+    </message>
+    <message>
+        <source>screen capture sharing meeting</source>
+        <translation>capture écran partage réunion enregistrement</translation>
     </message>
 </context>
 <context>
@@ -5438,6 +5532,63 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
         <translation>Ce mot de passe a été choisi sur un autre ordinateur. Déverrouillez avec l’ancien ; celui-ci vous sera demandé ensuite.</translation>
+    </message>
+    <message>
+        <source>Looking for this safe. Its drive does not answer yet:
+%1</source>
+        <translation>Recherche de ce coffre. Son disque ne répond pas encore&#xa0;:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatePanel</name>
+    <message>
+        <source>Show…</source>
+        <translation>Afficher…</translation>
+    </message>
+    <message>
+        <source>Check now</source>
+        <translation>Vérifier</translation>
+    </message>
+    <message>
+        <source>Show the new version</source>
+        <translation>Afficher la nouvelle version</translation>
+    </message>
+    <message>
+        <source>Check for a newer version now</source>
+        <translation>Rechercher maintenant une version plus récente</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>La version %1 est disponible</translation>
+    </message>
+    <message>
+        <source>You have the newest version, %1</source>
+        <translation>Vous avez la dernière version, %1</translation>
+    </message>
+    <message>
+        <source>You have version %1</source>
+        <translation>Vous avez la version %1</translation>
+    </message>
+    <message>
+        <source>This program was built without an address to ask for newer versions, so it never looks for them.</source>
+        <translation>Ce programme a été construit sans adresse où demander les versions plus récentes et ne les recherche donc jamais.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Vérification…</translation>
+    </message>
+    <message>
+        <source>There was no answer that could be used. Check the connection to the internet and try again.</source>
+        <translation>Aucune réponse utilisable n’est arrivée. Vérifiez la connexion à Internet et réessayez.</translation>
+    </message>
+    <message>
+        <source>Last checked: %1</source>
+        <translation>Dernière vérification&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not checked yet</source>
+        <translation>Pas encore vérifié</translation>
     </message>
 </context>
 <context>

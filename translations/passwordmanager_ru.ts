@@ -671,6 +671,10 @@ You can change your mind in the settings, on the page “Browser”.</source>
         <source>This new password was not taken: another change of the password is still under way. Wait until it is done, then try again.</source>
         <translation>Этот новый пароль не принят: другая смена пароля ещё идёт. Дождитесь её окончания и попробуйте снова.</translation>
     </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>Подсказка выдаёт пароль</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceInput</name>
@@ -1218,6 +1222,10 @@ another one?</source>
     <message>
         <source>Hint can not be empty</source>
         <translation>Введите подсказку</translation>
+    </message>
+    <message>
+        <source>The hint gives the password away</source>
+        <translation>Подсказка выдаёт пароль</translation>
     </message>
 </context>
 <context>
@@ -1944,6 +1952,10 @@ Earlier backups are left as they are, in:
     <message>
         <source>%1 is taken by: %2</source>
         <translation>%1 уже занято: %2</translation>
+    </message>
+    <message>
+        <source>This key can not be used</source>
+        <translation>Эту клавишу использовать нельзя</translation>
     </message>
 </context>
 <context>
@@ -2916,6 +2928,13 @@ Correct them and try again.</source>
     </message>
 </context>
 <context>
+    <name>LoginSaving</name>
+    <message>
+        <source>%1 (former password, until %2)</source>
+        <translation>%1 (прежний пароль, до %2)</translation>
+    </message>
+</context>
+<context>
     <name>MainView</name>
     <message>
         <source>Moved to trash</source>
@@ -3025,6 +3044,10 @@ Create one?</source>
     <message>
         <source>Unlock anyway</source>
         <translation>Всё равно открыть</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (поиск…)</translation>
     </message>
 </context>
 <context>
@@ -3641,6 +3664,37 @@ Create one?</source>
     <message>
         <source>“%1” is there. Unlock it with its master password after these steps.</source>
         <translation>Сейф «%1» на месте. Откройте его мастер-паролем после этих шагов.</translation>
+    </message>
+</context>
+<context>
+    <name>NewVersionDialog</name>
+    <message>
+        <source>What is new</source>
+        <translation>Что нового</translation>
+    </message>
+    <message>
+        <source>New version</source>
+        <translation>Новая версия</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>Вышла версия %1</translation>
+    </message>
+    <message>
+        <source>You have version %1. Your safes and settings stay as they are when you install the new one.</source>
+        <translation>У Вас версия %1. При установке новой Ваши сейфы и настройки останутся как есть.</translation>
+    </message>
+    <message>
+        <source>The page is on %1 and opens in your browser.</source>
+        <translation>Страница находится на %1 и откроется в Вашем браузере.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Позже</translation>
+    </message>
+    <message>
+        <source>Open the download page</source>
+        <translation>Открыть страницу загрузки</translation>
     </message>
 </context>
 <context>
@@ -4321,6 +4375,10 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
         <source>no backup yet</source>
         <translation>копии ещё нет</translation>
     </message>
+    <message>
+        <source>looking…</source>
+        <translation>поиск…</translation>
+    </message>
 </context>
 <context>
     <name>SafeMenu</name>
@@ -4359,6 +4417,10 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     <message>
         <source>%1 (not available)</source>
         <translation>%1 (недоступен)</translation>
+    </message>
+    <message>
+        <source>%1 (looking…)</source>
+        <translation>%1 (поиск…)</translation>
     </message>
 </context>
 <context>
@@ -4531,6 +4593,10 @@ Ctrl+Enter выполняет вход, Ctrl+L блокирует сейф, Ctrl
     <message>
         <source>Close</source>
         <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>You declined logins of this site before. If you do so now, it is not offered again until you lock the safe.</source>
+        <translation>Вы уже отклоняли логины этого сайта. Если отклоните и сейчас, предложений не будет, пока Вы не заблокируете сейф.</translation>
     </message>
 </context>
 <context>
@@ -4773,10 +4839,6 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>Check for updates</source>
         <translation>Проверять обновления</translation>
-    </message>
-    <message>
-        <source>Looks from time to time whether there is a newer version.</source>
-        <translation>Время от времени проверяет, нет ли новой версии.</translation>
     </message>
     <message>
         <source>new version download</source>
@@ -5110,6 +5172,38 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>The setting holds until the program ends, but it could not be stored.</source>
         <translation>Настройка действует до завершения программы, но её не удалось сохранить.</translation>
+    </message>
+    <message>
+        <source>Asks once a day whether there is a newer version. Sent are your version and a number made for this computer, nothing else.</source>
+        <translation>Раз в день спрашивает, есть ли более новая версия. Отправляются только Ваша версия и номер, созданный для этого компьютера.</translation>
+    </message>
+    <message>
+        <source>Newest version</source>
+        <translation>Новейшая версия</translation>
+    </message>
+    <message>
+        <source>Which version there is, and when was last looked for it.</source>
+        <translation>Какая версия есть и когда её искали в последний раз.</translation>
+    </message>
+    <message>
+        <source>update check download</source>
+        <translation>обновление проверка загрузка</translation>
+    </message>
+    <message>
+        <source>Your desktop does not tell when you are away. The safe locks with the screen and when the computer sleeps.</source>
+        <translation>Ваш рабочий стол не сообщает, когда Вы отошли. Сейф блокируется вместе с экраном и когда компьютер засыпает.</translation>
+    </message>
+    <message>
+        <source>Hide the windows from screenshots</source>
+        <translation>Скрывать окна на снимках экрана</translation>
+    </message>
+    <message>
+        <source>What is in the safe appears in no recording and on no shared screen.</source>
+        <translation>Содержимое сейфа не попадёт ни в запись, ни на показанный другим экран.</translation>
+    </message>
+    <message>
+        <source>screen capture sharing meeting</source>
+        <translation>снимок экран запись показ встреча</translation>
     </message>
 </context>
 <context>
@@ -5475,6 +5569,63 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>This password was set on another computer. Unlock with the former one; then you are asked for this one.</source>
         <translation>Этот пароль задан на другом компьютере. Откройте сейф прежним паролем, затем Вас попросят ввести этот.</translation>
+    </message>
+    <message>
+        <source>Looking for this safe. Its drive does not answer yet:
+%1</source>
+        <translation>Идёт поиск этого сейфа. Его диск пока не отвечает:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatePanel</name>
+    <message>
+        <source>Show…</source>
+        <translation>Показать…</translation>
+    </message>
+    <message>
+        <source>Check now</source>
+        <translation>Проверить</translation>
+    </message>
+    <message>
+        <source>Show the new version</source>
+        <translation>Показать новую версию</translation>
+    </message>
+    <message>
+        <source>Check for a newer version now</source>
+        <translation>Проверить сейчас, есть ли более новая версия</translation>
+    </message>
+    <message>
+        <source>Version %1 is here</source>
+        <translation>Вышла версия %1</translation>
+    </message>
+    <message>
+        <source>You have the newest version, %1</source>
+        <translation>У Вас новейшая версия, %1</translation>
+    </message>
+    <message>
+        <source>You have version %1</source>
+        <translation>У Вас версия %1</translation>
+    </message>
+    <message>
+        <source>This program was built without an address to ask for newer versions, so it never looks for them.</source>
+        <translation>Эта программа собрана без адреса, где спрашивать о новых версиях, поэтому она их никогда не ищет.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Проверка…</translation>
+    </message>
+    <message>
+        <source>There was no answer that could be used. Check the connection to the internet and try again.</source>
+        <translation>Пригодного ответа не было. Проверьте подключение к интернету и попробуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>Last checked: %1</source>
+        <translation>Последняя проверка: %1</translation>
+    </message>
+    <message>
+        <source>Not checked yet</source>
+        <translation>Ещё не проверялось</translation>
     </message>
 </context>
 <context>
