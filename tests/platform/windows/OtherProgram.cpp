@@ -7,6 +7,7 @@
 #include "UserActivity.h"
 
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
@@ -21,6 +22,14 @@ int stay()
     const HANDLE ready = OpenEventW(EVENT_MODIFY_STATE, FALSE, readyName);
     SetEvent(ready);
     return waitUntil([end] { return WaitForSingleObject(end, 0) == WAIT_OBJECT_0; }) ? 0 : 1;
+}
+
+/// The same, but takes no messages.
+int stayDeaf()
+{
+    const HANDLE end = OpenEventW(SYNCHRONIZE, FALSE, endName);
+    SetEvent(OpenEventW(EVENT_MODIFY_STATE, FALSE, readyName));
+    return WaitForSingleObject(end, patience) == WAIT_OBJECT_0 ? 0 : 1;
 }
 
 /// For the checks of the installer, which end it.
@@ -55,6 +64,27 @@ int holdClipboard()
     const int result = stay();
     CloseClipboard();
     return result;
+}
+
+HANDLE givenText()
+{
+    const wchar_t text[] = L"given";
+    const HGLOBAL data = GlobalAlloc(GMEM_MOVEABLE, sizeof(text));
+    std::memcpy(GlobalLock(data), text, sizeof(text));
+    GlobalUnlock(data);
+    return data;
+}
+
+/// Owns this text; for none promises one, and then does not answer.
+int ownClipboard(HANDLE text)
+{
+    const TestWindow window;
+    if (!OpenClipboard(window.handle()))
+        return 2;
+    EmptyClipboard();
+    SetClipboardData(CF_UNICODETEXT, text);
+    CloseClipboard();
+    return text ? stay() : stayDeaf();
 }
 
 /// As scanners of files do, for whom nobody may remove it.
@@ -151,6 +181,10 @@ int OtherProgram::act(const std::wstring &part)
         return holdForeground();
     if (part == L"clipboard")
         return holdClipboard();
+    if (part == L"text")
+        return ownClipboard(givenText());
+    if (part == L"promise")
+        return ownClipboard(nullptr);
     if (part == L"file")
         return holdFile();
     if (part.rfind(L"secrets", 0) == 0)

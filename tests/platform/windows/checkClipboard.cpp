@@ -88,8 +88,24 @@ void heldByAnother()
     CHECK_EQUAL(foreignClipboardText(40).value_or("nothing"), "text");
 }
 
+void ownedByAnother()
+{
+    {
+        const OtherProgram other(L"text");
+        CHECK(other.isReady());
+        CHECK_EQUAL(foreignClipboardText(5000).value_or("nothing"), "given");
+    }
+    // Text that a program promised that hangs is not waited for: the program is still there then.
+    // Wine itself holds up whoever opens such a clipboard for five seconds.
+    OtherProgram other(L"promise");
+    CHECK(other.isReady());
+    CHECK(!foreignClipboardText(40));
+    CHECK_EQUAL(other.end(), 0);
+}
+
 const Checks::Group groups[] = {{"clipboard marks", marks},
                                 {"clipboard of others", foreignText},
-                                {"clipboard held by another", heldByAnother}};
+                                {"clipboard held by another", heldByAnother},
+                                {"clipboard owned by another", ownedByAnother}};
 
 } // namespace
