@@ -15,6 +15,8 @@
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QToolButton>
 #include <QtTest>
 
@@ -83,8 +85,16 @@ bool isClipped(const QWidget &widget)
         return (placeholder > 0 && placeholder > room) ||
                line->fontMetrics().height() > line->contentsRect().height();
     }
-    if (const auto *box = qobject_cast<const QComboBox *>(&widget))
-        return box->fontMetrics().height() > box->contentsRect().height();
+    if (const auto *box = qobject_cast<const QComboBox *>(&widget)) {
+        QStyleOptionComboBox option;
+        option.initFrom(box);
+        const QRect field = box->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                         QStyle::SC_ComboBoxEditField, box);
+        // A path, say, that is shortened has all of it in its tool tip.
+        const bool isCut = box->toolTip() != box->currentText() &&
+                           box->fontMetrics().horizontalAdvance(box->currentText()) > field.width();
+        return isCut || box->fontMetrics().height() > box->contentsRect().height();
+    }
     return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -74,6 +75,9 @@ void TestEveryWindow::faultsAreSeen()
     trap->setGeometry(0, 100, 100, 40);
     auto *narrow = new QLabel(QStringLiteral("A text that is longer than its place"), &window);
     narrow->setGeometry(0, 40, 40, 20);
+    auto *choice = new QComboBox(&window);
+    choice->addItem(QStringLiteral("A choice that is cut"));
+    choice->setGeometry(200, 100, 60, 30);
     auto *outside = new QPushButton(QStringLiteral("Save"), &window);
     outside->setGeometry(280, 60, 100, 40);
     auto *pale = new QLabel(QStringLiteral("Pale"), &window);
@@ -87,6 +91,7 @@ void TestEveryWindow::faultsAreSeen()
     QVERIFY(tells(WindowChecks::nameFaults(window), "has no name"));
     QVERIFY(tells(WindowChecks::tabFaults(window), "Tab does not get out"));
     QVERIFY(tells(WindowChecks::clippingFaults(window), "longer than its place"));
+    QVERIFY(tells(WindowChecks::clippingFaults(window), "QComboBox"));
     QVERIFY(tells(WindowChecks::clippingFaults(window), "reaches out"));
     QVERIFY(tells(WindowChecks::contrastFaults(window), "Pale"));
 }

@@ -81,7 +81,9 @@ QWidget *SettingRow::makeChoice()
         new SelectBox(m_help.theme.icon(QStringLiteral("chevron-down"), Palette::Muted), this);
     for (const Setting::Option &option : qAsConst(m_setting.options))
         box->addItem(option.text, option.value);
-    box->setFixedWidth(Style::scaled(fieldWidth));
+    box->setMinimumWidth(Style::scaled(fieldWidth));
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_show = [box](const QVariant &value) {
         const QSignalBlocker quiet(box);
         box->setCurrentIndex(box->findData(value));
