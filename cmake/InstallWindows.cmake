@@ -21,6 +21,27 @@ else()
 endif()
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
 
+# The terms of others: what is where, the texts, and those of the libraries behind the libraries.
+set(windows_files ${PROJECT_SOURCE_DIR}/packaging/windows)
+install(FILES ${windows_files}/LICENSES.txt DESTINATION .)
+install(DIRECTORY ${windows_files}/licenses DESTINATION .)
+foreach(pair "icons;tabler-icons" "fonts;inter" "suffixes;MPL-2.0" "countries;Unicode-3.0")
+  list(GET pair 0 folder)
+  list(GET pair 1 name)
+  install(FILES ${PROJECT_SOURCE_DIR}/resources/${folder}/LICENSE
+    DESTINATION licenses RENAME ${name}.txt)
+endforeach()
+if(VCPKG_TARGET_TRIPLET)
+  file(GLOB texts ${VCPKG_INSTALLED_DIR}/${VCPKG_TARGET_TRIPLET}/share/*/copyright)
+  foreach(text IN LISTS texts)
+    get_filename_component(folder ${text} DIRECTORY)
+    get_filename_component(name ${folder} NAME)
+    install(FILES ${text} DESTINATION licenses RENAME ${name}.txt)
+  endforeach()
+elseif(MINGW_ROOT)
+  install(DIRECTORY ${MINGW_ROOT}/share/licenses DESTINATION . OPTIONAL)
+endif()
+
 # Built by scripts/build-extension, which needs Node.
 foreach(pair "chromium;extension" "firefox;extension-firefox")
   list(GET pair 0 built)
