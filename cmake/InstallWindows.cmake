@@ -9,13 +9,10 @@ else()
   find_program(WINDEPLOYQT windeployqt HINTS "${qt_programs}" REQUIRED)
   install(CODE "execute_process(COMMAND \"${WINDEPLOYQT}\" --release --no-translations
       --no-compiler-runtime \"\${CMAKE_INSTALL_PREFIX}/glaceron.exe\" COMMAND_ERROR_IS_FATAL ANY)")
-  install(CODE "file(GET_RUNTIME_DEPENDENCIES
-      EXECUTABLES \"$<TARGET_FILE:glaceron>\"
-      DIRECTORIES \"$<TARGET_FILE_DIR:Qt5::Core>\" \"$<TARGET_FILE_DIR:glaceron>\"
-      RESOLVED_DEPENDENCIES_VAR needed
-      PRE_EXCLUDE_REGEXES [[^api-ms-]] [[^ext-ms-]] [[^Qt5]]
-      POST_EXCLUDE_REGEXES [[.*[/\\\\]system32[/\\\\].*]])
-    file(INSTALL \${needed} DESTINATION \"\${CMAKE_INSTALL_PREFIX}\" FOLLOW_SYMLINK_CHAIN)")
+  install(CODE "set(PROGRAM \"$<TARGET_FILE:glaceron>\")
+    set(LIBRARIES \"$<TARGET_FILE_DIR:Qt5::Core>\" \"$<TARGET_FILE_DIR:glaceron>\")
+    set(FOLDER \"\${CMAKE_INSTALL_PREFIX}\")
+    include(\"${PROJECT_SOURCE_DIR}/cmake/CopyNeededLibraries.cmake\")")
   set(CMAKE_INSTALL_SYSTEM_RUNTIME_DESTINATION .)
   include(InstallRequiredSystemLibraries)
 endif()
