@@ -214,7 +214,10 @@ KnownSafes::Found KnownSafes::locate(const QString &goneFolder, const QString &f
 
 bool KnownSafes::rename(const QString &folder, const QString &name, GPMSafe *current)
 {
-    const std::shared_ptr<GPMSafe> closed = current ? nullptr : open(folder);
+    const std::shared_ptr<GPMSafe> closed = current ? nullptr : openAsFound(folder);
+    // What else the description says is kept as it is by now.
+    if (closed && !closed->readMetaFile())
+        return false;
     GPMSafe *safe = current ? current : closed.get();
     // Saving would stop a change of the password, which writes the description, too.
     if (!safe || safe->isChangingPassword())
@@ -334,10 +337,17 @@ std::shared_ptr<GPMSafe> KnownSafes::open(const QString &folder) const
     if (folder.isEmpty() || isBeingDeleted(folder))
         return nullptr;
     m_facts.expect(folder);
-    m_looks.lookFresh(folder);
-    if (!m_looks.await({folder}, m_environment.lookWaitMs))
-        return nullptr;
+    return make(folder, m_looks.fresh(folder, m_environment.lookWaitMs));
+}
+
+std::shared_ptr<GPMSafe> KnownSafes::openAsFound(const QString &folder) const
+{
     const SafeLook *look = m_looks.at(folder);
+    return look && look->isHere() && !isBeingDeleted(folder) ? make(folder, look) : open(folder);
+}
+
+std::shared_ptr<GPMSafe> KnownSafes::make(const QString &folder, const SafeLook *look) const
+{
     auto safe = std::make_shared<GPMSafe>(m_environment);
     return look && look->isHere() && safe->open(folder, *look->description) ? safe : nullptr;
 }

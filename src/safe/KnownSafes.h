@@ -103,6 +103,9 @@ public:
     /// The safe of a folder with its description read; null when there is none, when it is being
     /// deleted, or when the folder does not answer in a moment: answered() tells when it does.
     std::shared_ptr<GPMSafe> open(const QString &folder) const;
+    /// The same as it was found last, so that a slow folder serves, too: for what finds out by
+    /// itself that the folder has gone.
+    std::shared_ptr<GPMSafe> openAsFound(const QString &folder) const;
 
     /// Its folder was asked, and is not known to be there or not yet; answered() tells.
     bool isLate(const QString &folder) const { return m_looks.isLate({folder}); }
@@ -117,6 +120,7 @@ Q_SIGNALS:
     void answered(const QString &folder);
 
 private:
+    std::shared_ptr<GPMSafe> make(const QString &folder, const SafeLook *look) const;
     QVector<Entry> knownEntries() const;
     QStringList listedFolders() const;
     QStringList unlistedFolders() const;

@@ -102,11 +102,14 @@ void SafeLooks::look(const QString &folder)
         [this, found] { take(*found); });
 }
 
-void SafeLooks::lookFresh(const QString &folder)
+const SafeLook *SafeLooks::fresh(const QString &folder, int ms)
 {
+    if (folder == m_answering)
+        return at(folder);
     if (!isLate({folder}))
         m_open.remove(folder);
     look(folder);
+    return await({folder}, ms) ? at(folder) : nullptr;
 }
 
 bool SafeLooks::await(const QStringList &folders, int ms)
@@ -160,7 +163,9 @@ void SafeLooks::take(const Found &found)
             m_looks.insert(folder, looked);
         if (found.folder == m_safesFolder)
             m_found.append(folder);
+        const QString outer = std::exchange(m_answering, isKnown ? QString() : folder);
         Q_EMIT answered(folder, looked.canonical);
+        m_answering = outer;
     }
     if (found.folder == m_safesFolder) {
         m_looks.insert(m_safesFolder, {});

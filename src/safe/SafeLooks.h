@@ -51,8 +51,10 @@ public:
     /// Looks at a folder anew, or through the standard place. While that is under way, once more
     /// behind it.
     void look(const QString &folder);
-    /// Looks anew without regard to an answer that is under way, unless that is late.
-    void lookFresh(const QString &folder);
+    /// What a look anew finds, without regard to an answer that is under way, unless that is late.
+    /// The answer that is just being told of is fresh: one that always comes late would never do.
+    /// Null when none comes in a moment.
+    const SafeLook *fresh(const QString &folder, int ms);
     /// Gives looks that are under way a moment, each once: who did not answer is not waited for
     /// again. False when one has not answered.
     bool await(const QStringList &folders, int ms);
@@ -82,5 +84,6 @@ private:
     QHash<QString, SafeLook> m_looks;
     QHash<QString, Open> m_open;
     int m_lastNumber = 0;
+    QString m_answering; ///< the folder that answered() tells of
     LooseWork m_work;
 };

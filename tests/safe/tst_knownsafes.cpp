@@ -15,7 +15,7 @@ QVector<KnownSafes::Entry> entriesNow(const KnownSafes &known)
     return known.entries();
 }
 
-/// Files of which those below one folder do not come before released.
+/// Files of which those below one folder do not come before released, but to the GUI thread.
 class HangingFiles : public FileLayer
 {
 public:
@@ -27,7 +27,8 @@ public:
     std::optional<QByteArray> read(const QString &path) override
     {
         QMutexLocker locker(&m_mutex);
-        while (!m_released && path.startsWith(m_folder))
+        while (!m_released && path.startsWith(m_folder) &&
+               QThread::currentThread() != QCoreApplication::instance()->thread())
             m_answers.wait(&m_mutex);
         return FileLayer::read(path);
     }
@@ -37,6 +38,12 @@ public:
         const QMutexLocker locker(&m_mutex);
         m_released = true;
         m_answers.wakeAll();
+    }
+
+    void hangAgain()
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_released = false;
     }
 
 private:
@@ -129,6 +136,41 @@ private Q_SLOTS:
         QVERIFY(!LooseWork::settle(0));
         static_cast<HangingFiles &>(*environment.files).release();
         QVERIFY(LooseWork::settle(patientMs));
+    }
+
+    void aFolderThatIsAlwaysLateIsUsableAllTheSame()
+    {
+        const QTemporaryDir home;
+        const QString far = home.filePath(QStringLiteral("far"));
+        copySampleSafe(far);
+        GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
+        settings.setRecentList({far});
+        const auto files = std::make_shared<HangingFiles>(far);
+        SafeEnvironment environment;
+        environment.files = files;
+        environment.lookWaitMs = 0;
+        KnownSafes known(settings, home.filePath(QStringLiteral("safes")), environment);
+        QVERIFY(!known.open(far));
+        std::shared_ptr<GPMSafe> opened;
+        connect(&known, &KnownSafes::answered, &known, [&](const QString &folder) {
+            if (folder != far)
+                return;
+            files->hangAgain(); // the next look would be late, too
+            opened = known.open(far);
+        });
+        files->release();
+        QTRY_VERIFY(opened);
+        QCOMPARE(opened->folder(), far);
+
+        const QString meta = far + QStringLiteral("/safe.meta");
+        writeFile(meta, contentOf(meta).replace("the usual", "another"));
+        QVERIFY(known.openAsFound(far));
+        QVERIFY(known.rename(far, QStringLiteral("New name")));
+        QCOMPARE(known.entries().at(0).name, QStringLiteral("New name"));
+        QVERIFY(contentOf(meta).contains("another"));
+        known.beginDeletion(far);
+        QVERIFY(!known.openAsFound(far));
+        files->release();
     }
 
     void safesSurviveTheLossOfTheSettings()

@@ -40,7 +40,7 @@ void ArchiveDesk::exportSafe(const QString &folder, const QString &name, QWidget
         return;
     const std::shared_ptr<GPMSafe> &current = m_core.currentSafe();
     const std::shared_ptr<GPMSafe> safe =
-        current && current->folder() == folder ? current : m_core.knownSafes().open(folder);
+        current && current->folder() == folder ? current : m_core.knownSafes().openAsFound(folder);
     ProgressDialog *progress =
         showProgress(tr("Export safe"), tr("Exporting “%1”…").arg(name), parent);
     if (!safe) {
