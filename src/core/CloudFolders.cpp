@@ -17,6 +17,7 @@ struct Question
     QStringList infoFiles;
     QStringList shared; ///< besides the provider's folders
     QStringList safes;  ///< folders of the known safes
+    QSet<qint64> known; ///< when those were created that have not answered yet
 };
 
 bool isThere(const QString &folder, const QStringList &folders)
@@ -38,7 +39,7 @@ CloudFolders::Found search(FileLayer &files, const Question &question)
             found.others.append(folder);
         }
     }
-    QSet<qint64> known;
+    QSet<qint64> known = question.known;
     for (const QString &safe : question.safes) {
         if (const auto description = readDescription(files, safe))
             known.insert(description->created);
@@ -97,12 +98,16 @@ void CloudFolders::look()
         m_onceMore = true;
         return;
     }
-    Question question{m_infoFiles, sharedFolders(), {}};
+    Question question{m_infoFiles, sharedFolders(), {}, {}};
     const QVector<KnownSafes::Entry> entries = m_safes.entries();
     for (const KnownSafes::Entry &entry : entries) {
         if (entry.available)
             question.safes.append(entry.folder);
+        // The search would wait for its drive.
+        else if (entry.looking)
+            question.known.insert(m_safes.facts().of(entry.folder).created);
     }
+    question.known.remove(0); // not noted
     const QStringList folders = m_safes.facts().folders();
     for (const QString &folder : folders) {
         // One that was taken off the list is still there.

@@ -1,6 +1,9 @@
 #include "SafeFacts.h"
 
+#include "FolderPath.h"
+
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -130,7 +133,9 @@ void SafeFacts::learn(const QString &folder, const QString &canonical)
     const QString former = m_keys.key(folder);
     m_keys.learn(folder, canonical);
     const QString key = m_keys.key(folder);
-    if (key == former || m_rows.contains(key) || !m_rows.contains(former))
+    // What was known by a canonical path stays with that, when a link leads elsewhere now.
+    if (key == former || former != keyOf(QDir::cleanPath(folder)) || m_rows.contains(key) ||
+        !m_rows.contains(former))
         return;
     m_rows.insert(key, {canonical, m_rows.take(former).fact});
     m_storing.start();

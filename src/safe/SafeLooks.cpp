@@ -76,7 +76,7 @@ SafeLooks::~SafeLooks()
 const SafeLook *SafeLooks::at(const QString &folder) const
 {
     const auto look = m_looks.find(folder);
-    return look == m_looks.end() ? nullptr : &*look;
+    return look == m_looks.end() ? nullptr : &look->look;
 }
 
 void SafeLooks::look(const QString &folder)
@@ -137,7 +137,7 @@ bool SafeLooks::isLate(const QStringList &folders) const
 void SafeLooks::learn(const QString &folder, const SafeLook &look)
 {
     m_open.remove(folder);
-    m_looks.insert(folder, look);
+    m_looks.insert(folder, {look, m_lastNumber});
 }
 
 void SafeLooks::forget(const QString &folder)
@@ -145,7 +145,9 @@ void SafeLooks::forget(const QString &folder)
     m_open.remove(folder);
     m_looks.remove(folder);
     // A look through the standard place that is under way may have found it.
-    if (m_found.removeOne(folder) || m_open.remove(m_safesFolder) > 0)
+    const bool wasFound = m_found.removeOne(folder);
+    const bool mayBeFound = m_open.remove(m_safesFolder) > 0;
+    if (wasFound || mayBeFound)
         look(m_safesFolder);
 }
 
@@ -154,20 +156,22 @@ void SafeLooks::take(const Found &found)
     if (m_open.value(found.folder).number != found.number)
         return;
     const bool again = m_open.take(found.folder).again;
-    if (found.folder == m_safesFolder)
+    const bool isPlace = found.folder == m_safesFolder;
+    if (isPlace)
         m_found.clear();
     for (const auto &[folder, looked] : found.looks) {
-        // What is looked at by itself is known better than by a look at everything.
-        const bool isKnown = found.folder == m_safesFolder && m_looks.contains(folder);
+        // What became known of a folder by itself is newer than a look through the place that had
+        // begun before.
+        const bool isKnown = isPlace && found.number <= m_looks.value(folder).newest;
         if (!isKnown)
-            m_looks.insert(folder, looked);
-        if (found.folder == m_safesFolder)
+            m_looks.insert(folder, {looked, isPlace ? found.number : m_lastNumber});
+        if (isPlace)
             m_found.append(folder);
         const QString outer = std::exchange(m_answering, isKnown ? QString() : folder);
         Q_EMIT answered(folder, looked.canonical);
         m_answering = outer;
     }
-    if (found.folder == m_safesFolder) {
+    if (isPlace) {
         m_looks.insert(m_safesFolder, {});
         Q_EMIT answered(m_safesFolder, found.canonical);
     }

@@ -75,13 +75,18 @@ private:
         bool wasAwaited = false;
     };
     struct Found;
+    struct Known
+    {
+        SafeLook look;
+        int newest = 0; ///< the look that had begun last when this was known
+    };
 
     void take(const Found &found);
 
     std::shared_ptr<FileLayer> m_files;
     QString m_safesFolder;
     QStringList m_found;
-    QHash<QString, SafeLook> m_looks;
+    QHash<QString, Known> m_looks;
     QHash<QString, Open> m_open;
     int m_lastNumber = 0;
     QString m_answering; ///< the folder that answered() tells of

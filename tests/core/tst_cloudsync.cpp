@@ -406,6 +406,26 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!three.folders.isLooking() && changed.count() > 2, quickly);
         QVERIFY(three.folders.found().offers.isEmpty());
     }
+
+    void offersNoSafeThatHasNotAnsweredYet()
+    {
+        share();
+        const QString folder = m_one->safe->folder();
+        m_one.reset();
+        auto disk = std::make_shared<FullDisk>();
+        SafeEnvironment world{systemRandom, systemTime, disk, 1000, {}, 0};
+        disk->slowFile = folder + QStringLiteral("/safe.meta");
+        GPMAppSettings settings(path("one"), path("one"));
+        KnownSafes safes(settings, path("one/safes"), world);
+        QVERIFY(safes.entries().at(0).looking);
+        CloudFolders folders(safes, {});
+        folders.add(path("cloud"));
+        QSignalSpy changed(&folders, &CloudFolders::changed);
+        QVERIFY(changed.wait(quickly));
+        QVERIFY(safes.entries().at(0).looking);
+        QVERIFY(folders.found().offers.isEmpty());
+        disk->ready.release(1000);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestCloudSync)

@@ -27,6 +27,7 @@ public:
     std::optional<QByteArray> read(const QString &path) override
     {
         QMutexLocker locker(&m_mutex);
+        m_asked = m_asked || path.startsWith(m_folder);
         while (!m_released && path.startsWith(m_folder) &&
                QThread::currentThread() != QCoreApplication::instance()->thread())
             m_answers.wait(&m_mutex);
@@ -43,12 +44,19 @@ public:
     void hangAgain()
     {
         const QMutexLocker locker(&m_mutex);
-        m_released = false;
+        m_released = m_asked = false;
+    }
+
+    bool isAsked()
+    {
+        const QMutexLocker locker(&m_mutex);
+        return m_asked;
     }
 
 private:
     QString m_folder;
     bool m_released = false;
+    bool m_asked = false;
     QMutex m_mutex;
     QWaitCondition m_answers;
 };
@@ -187,10 +195,34 @@ private Q_SLOTS:
         }
         QVERIFY(QDir().mkpath(safes + QStringLiteral("/no safe")));
         GPMAppSettings settings(home.filePath(QStringLiteral("other config")), home.path());
-        const KnownSafes known(settings, safes, patient());
+        SafeEnvironment environment = patient();
+        const auto files = std::make_shared<HangingFiles>(folder);
+        files->release();
+        environment.files = files;
+        KnownSafes known(settings, safes, environment);
         QCOMPARE(known.entries().size(), 1);
         QCOMPARE(known.entries().at(0).name, QStringLiteral("One"));
         QCOMPARE(known.entries().at(0).folder, folder);
+
+        // What changes there is seen later, too.
+        const QString meta = folder + QStringLiteral("/safe.meta");
+        const QByteArray content = contentOf(meta);
+        writeFile(meta, "unreadable");
+        QVERIFY(!entriesNow(known).at(0).available);
+        writeFile(meta, content);
+        QVERIFY(entriesNow(known).at(0).available);
+
+        // A look that has begun before does not bring back what is no more.
+        files->hangAgain();
+        known.entries();
+        QTRY_VERIFY(files->isAsked());
+        QVERIFY(QDir(folder).removeRecursively());
+        known.forget(folder);
+        const QSignalSpy answered(&known, &KnownSafes::answered);
+        files->release();
+        QTRY_VERIFY(!known.isLooking());
+        for (const QList<QVariant> &answer : answered)
+            QCOMPARE(answer.at(0).toString(), safes);
     }
 
     void aSafeIsMadeOnlyWhereNothingElseLies_data()

@@ -71,6 +71,22 @@ private Q_SLOTS:
         QCOMPARE(SafeFacts(file).of(home.path()).itemCount, 3);
     }
 
+    void factsFollowAFolderButNoLinkToAnother()
+    {
+        const QTemporaryDir home;
+        const QString one = home.filePath(QStringLiteral("one"));
+        const QString other = home.filePath(QStringLiteral("other"));
+        const QString link = home.filePath(QStringLiteral("link"));
+        SafeFacts facts(home.filePath(QStringLiteral("safes.json")));
+        facts.expect(link);
+        facts.change(link, [](SafeFact &fact) { fact.itemCount = 7; });
+        facts.learn(link, one);
+        QCOMPARE(facts.of(one).itemCount, 7);
+        facts.learn(link, other);
+        QCOMPARE(facts.of(one).itemCount, 7);
+        QCOMPARE(facts.of(link).itemCount, -1);
+    }
+
     void onePathForOneFolder()
     {
         const QTemporaryDir home;
