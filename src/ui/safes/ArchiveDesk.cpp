@@ -127,7 +127,7 @@ void ArchiveDesk::tellImported(const ArchiveResult &result, const QString &fileN
                                  importMessage(result.outcome));
         return;
     }
-    const std::shared_ptr<GPMSafe> made = m_core.knownSafes().open(result.path);
+    const std::shared_ptr<GPMSafe> made = m_core.knownSafes().openAsFound(result.path);
     const QString text = tr("“%1” is now in the list of your safes. It opens with the master "
                             "password that it had when the file was made.")
                              .arg(made ? made->name() : fileName);
