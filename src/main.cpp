@@ -20,6 +20,8 @@
 #include <QThreadPool>
 #include <QUuid>
 
+#include <memory>
+
 #include <cstdlib>
 
 namespace {
@@ -103,13 +105,13 @@ int main(int argc, char *argv[])
     qDebug() << "main"
              << "Load translations...";
     GPMAppCore &core = GPMAppCore::instance();
-    PMUiProvider ui(core);
+    auto ui = std::make_unique<PMUiProvider>(core);
     GPMAppSettings &settings = core.settings();
-    translate(ui.translator(), settings);
+    translate(ui->translator(), settings);
 
     SplashScreen *splash = nullptr;
     if (!startsInTray(Application::arguments()))
-        splash = showSplash(ui, core.platform());
+        splash = showSplash(*ui, core.platform());
     Application::processEvents();
 
     qDebug() << "main"
@@ -120,9 +122,9 @@ int main(int argc, char *argv[])
     qDebug() << "main"
              << "Start socket server...";
     core.startServer();
-    ui.connectCore();
+    ui->connectCore();
     core.startWatching();
-    QObject::connect(&application, &QtSingleApplication::messageReceived, &ui,
+    QObject::connect(&application, &QtSingleApplication::messageReceived, ui.get(),
                      &PMUiProvider::bringToFront);
     QObject::connect(&core, &GPMAppCore::safeLockedChanged, [](bool locked) {
         if (!locked)
@@ -140,7 +142,7 @@ int main(int argc, char *argv[])
     if (settings.firstStart()) {
         qDebug() << "main"
                  << "Prepare first launch...";
-        ui.prepareFirstLaunch();
+        ui->prepareFirstLaunch();
         settings.setFirstStart(false);
         settings.storeSettings();
     }
@@ -148,24 +150,27 @@ int main(int argc, char *argv[])
     qDebug() << "main"
              << "Prepare fonts...";
     prepareFonts();
-    ui.createMainWindow();
+    ui->createMainWindow();
     qDebug() << "main"
              << "Prepare fonts...";
     PMFieldTypes::registerMetaTypes();
     PMCountryTable::instance();
 
     if (splash)
-        splash->finish(ui.mainWindow());
+        splash->finish(ui->mainWindow());
     qDebug() << "main"
              << "Splash finished...";
-    ui.openMainView(QString());
+    ui->openMainView(QString());
 
     qDebug() << "main"
              << "Run app...";
     const int result = Application::exec();
+    // The windows go first, with what they still write.
+    ui.reset();
     // Everything is stored by now. A drive that does not answer must not hold the end.
-    if (!LooseWork::settle(longestLookMs) ||
-        !QThreadPool::globalInstance()->waitForDone(longestWorkMs)) {
+    const bool hasLooked = LooseWork::settle(longestLookMs);
+    const bool hasWorked = QThreadPool::globalInstance()->waitForDone(longestWorkMs);
+    if (!hasLooked || !hasWorked) {
         qWarning() << "main"
                    << "A drive does not answer.";
         std::_Exit(result);

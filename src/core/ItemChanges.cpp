@@ -37,12 +37,22 @@ void ItemChanges::changed(const QString &itemId)
     changeEach({itemId}, [](PMListItem &) { return true; });
 }
 
+/// What was taken out of the trash is no copy of another item that goes when there are many.
+static void makeOwn(PMListItem &item)
+{
+    PMListItem::UnknownKeys keys = item.unknownKeys();
+    keys.publicFields.remove(formerOfKey);
+    item.setUnknownKeys(keys);
+}
+
 void ItemChanges::setDeleted(const QStringList &itemIds, bool deleted)
 {
     changeEach(itemIds, [deleted](PMListItem &item) {
         if (item.deleted() == deleted)
             return false;
         item.setDeleted(deleted);
+        if (!deleted)
+            makeOwn(item);
         return true;
     });
 }
@@ -169,15 +179,22 @@ void ItemChanges::keepFormer(const QString &itemId, const QString &title)
     PMItemDocument document = PMItemDocument::fromItem(*item);
     toTrashCopy(document, QUuid::createUuid().toString(QUuid::WithoutBraces), title);
     document.publicFields.insert(formerOfKey, itemId);
-    if (safe->addItem(document.toItem()))
-        dropOldFormer(*safe, itemId);
+    std::unique_ptr<PMListItem> copy = document.toItem();
+    if (!copy)
+        return;
+    // Attachments belong to the item itself, and go with it.
+    copy->setRefs({});
+    safe->addItem(std::move(copy));
 }
 
-void ItemChanges::dropOldFormer(GPMSafe &safe, const QString &itemId)
+void ItemChanges::dropOldFormer(const QString &itemId)
 {
+    const std::shared_ptr<GPMSafe> safe = m_safe();
+    // While the password is being changed nothing can be removed; the next time does.
+    if (!safe || safe->isChangingPassword())
+        return;
     std::vector<const PMListItem *> former;
-    for (const PMListItem *item : safe.items()) {
-        // One that was taken out of the trash is the user's own.
+    for (const PMListItem *item : safe->items()) {
         if (item->deleted() && item->unknownKeys().publicFields.value(formerOfKey) == itemId)
             former.push_back(item);
     }
@@ -187,9 +204,8 @@ void ItemChanges::dropOldFormer(GPMSafe &safe, const QString &itemId)
     QStringList old;
     for (std::size_t i = mostFormer; i < former.size(); ++i)
         old.append(former[i]->id());
-    // While the password is being changed nothing can be removed; the next time does.
-    if (!old.isEmpty() && !safe.isChangingPassword())
-        safe.removeItems(old);
+    if (!old.isEmpty())
+        safe->removeItems(old);
 }
 
 void ItemChanges::countUse(const QString &itemId)

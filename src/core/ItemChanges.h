@@ -28,10 +28,12 @@ public:
     void setFavorite(const QStringList &itemIds, bool favorite);
     /// Deletes items for good, with the attachments that go with them.
     void purge(const QStringList &itemIds);
-    /// Keeps what an item holds now as a copy in the trash, before it is overwritten: the latest
-    /// few, as they would fill the safe.
+    /// Keeps what an item holds now as a copy in the trash, before it is overwritten.
     /// @param title of the copy
     void keepFormer(const QString &itemId, const QString &title);
+    /// Deletes all but the latest of an item's copies in the trash, as they would fill the safe. A
+    /// synchronisation under way ends within, which may change or remove any item.
+    void dropOldFormer(const QString &itemId);
     static constexpr int mostFormer = 5;
     /// A browser was given the item.
     void countUse(const QString &itemId);
@@ -47,7 +49,6 @@ private:
     using Change = std::function<bool(PMListItem &item)>;
 
     void changeEach(const QStringList &itemIds, const Change &change);
-    void dropOldFormer(GPMSafe &safe, const QString &itemId);
     void dropReferences(GPMSafe &safe, const QStringList &ids);
 
     FindSafe m_safe;

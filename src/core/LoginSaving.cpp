@@ -247,6 +247,7 @@ void LoginSaving::onSafeSaved(bool good)
         return;
     }
     const SaveLoginRequest request = m_offers.first().request;
+    m_items.dropOldFormer(m_savedId);
     Q_EMIT saved();
     removeFirst();
     if (!request.faviconUrl.isEmpty())

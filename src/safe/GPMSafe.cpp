@@ -213,6 +213,7 @@ void GPMSafe::lock()
         result = m_saving.saveNow();
         m_saving.keepUnsaved(m_drafts);
     }
+    m_savedAtLock = result.good();
     m_drafts.close();
     m_state.password.reset();
     m_state.unreadableFiles.clear();

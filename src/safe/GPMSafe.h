@@ -114,6 +114,8 @@ public:
 
     bool isOpen() const { return !folder().isEmpty(); }
     bool isUnlocked() const { return m_state.isUnlocked(); }
+    /// Whether the last lock could save everything.
+    bool savedAtLock() const { return m_savedAtLock; }
 
     /// The items in order of their ids; owned by the safe, gone when it locks.
     std::vector<PMListItem *> items() const { return m_state.items.items(); }
@@ -205,6 +207,7 @@ private:
 
     SafeState m_state;
     bool m_givesUp = false;
+    bool m_savedAtLock = true;
     std::unique_ptr<SafeUnlock> m_unlock;
     SafeSaving m_saving;
     SafeAttachments m_attachments;

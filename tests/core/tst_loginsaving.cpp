@@ -218,6 +218,29 @@ private Q_SLOTS:
         QCOMPARE(m_saving->offer()->decision.action, SaveLoginOffer::Add);
     }
 
+    void aFormerPasswordTakenOutOfTheTrashIsTheUsersOwn()
+    {
+        const QString ana = addLogin("ana", "0");
+        m_safe->item(ana)->setRefs({QStringLiteral("attachment")});
+        QSignalSpy done(m_saving.get(), &LoginSaving::saved);
+        const auto update = [&](int password) {
+            const QByteArray text = QByteArray::number(password);
+            offer(shop, "ana", text);
+            return m_saving->save({ana, {}, {}, QString::fromLatin1(text)}) && done.wait();
+        };
+        QVERIFY(update(1));
+        const QStringList own = m_items->trashedIds();
+        QCOMPARE(own.size(), 1);
+        // Else deleting the login for good would leave its attachment behind.
+        QCOMPARE(m_safe->item(own.first())->refs(), QStringList());
+        m_items->setDeleted(own, false);
+        m_items->setDeleted(own, true);
+        for (int i = 2; i <= ItemChanges::mostFormer + 3; ++i)
+            QVERIFY(update(i));
+        QVERIFY(m_safe->item(own.first()));
+        QCOMPARE(m_items->trashedIds().size(), ItemChanges::mostFormer + 1);
+    }
+
     void formerPasswordsDoNotFillTheSafe()
     {
         const QString ana = addLogin("ana", "0");

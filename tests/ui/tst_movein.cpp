@@ -25,6 +25,7 @@ private Q_SLOTS:
     void fromFileToSafe();
     void cancelMidway();
     void lockMidway();
+    void lockThatCannotSave();
     void lockWhileChoosingAFile();
     void fullDisk();
     void cardsAndNotes();
@@ -219,6 +220,25 @@ void TestMoveIn::lockMidway()
     const int came = program.onDisk().size();
     QVERIFY(came > 0 && came < 90);
     QCOMPARE(told.first().first().toString(), QStringLiteral("%1 logins came in").arg(came));
+}
+
+void TestMoveIn::lockThatCannotSave()
+{
+    Program program;
+    QVERIFY(program.choose(Program::rows(90)));
+    program.press("addButton");
+    const auto *bar = find<QProgressBar>(program.dialog, "moveInBar");
+    QVERIFY(QTest::qWaitFor([bar] { return bar->value() > 0; }));
+    const QString content = program.test.core.currentSafe()->folder() + QStringLiteral("/content");
+    QVERIFY(QDir().rename(content, content + QStringLiteral(".away")));
+    QSignalSpy told(&program.test.core, &GPMAppCore::message);
+    program.test.core.lockCurrentSafe();
+    QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
+    const int came = program.onDisk().size();
+    const QString heading = QStringLiteral("%1 logins came in").arg(came);
+    QVERIFY(std::any_of(told.begin(), told.end(), [&heading](const QList<QVariant> &message) {
+        return message.first().toString() == heading;
+    }));
 }
 
 void TestMoveIn::lockWhileChoosingAFile()

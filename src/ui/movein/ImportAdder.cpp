@@ -109,7 +109,11 @@ void ImportAdder::onLocked(bool locked)
 {
     if (!locked || m_ended)
         return;
-    // A lock saves what there is before it drops it.
+    // A lock saves what there is before it drops it, if the disk lets it.
+    if (!m_written.isEmpty() && !m_safe->savedAtLock()) {
+        finish(NotSaved);
+        return;
+    }
     m_added += m_written.size();
     finish(Locked);
 }
