@@ -12,6 +12,7 @@ export function describeFrame() {
 export function announceFrame(id) {
   const around = location.ancestorOrigins ? [...location.ancestorOrigins] : self === top ? [] : ['null'];
   const place = { origin: self.origin, around };
-  (globalThis.browser ?? globalThis.chrome).runtime.sendMessage({ frame: { id, ...place } }).catch(() => {});
+  // Not "browser": the page may have an element or a frame with that name.
+  globalThis.chrome.runtime.sendMessage({ frame: { id, ...place } }).catch(() => {});
   return place;
 }

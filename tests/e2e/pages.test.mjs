@@ -70,7 +70,9 @@ const PAGES = {
   }).outputFiles[0].text,
   '/open': component('open'),
   '/closed': component('closed'),
-  '/frame': '<iframe src=/plain style="position:fixed;left:0;top:0;width:600px;height:400px;border:0"></iframe>',
+  // A form and a frame called like what holds the browser's functions.
+  '/named': FORM.replace('<form', '<form id=browser'),
+  '/frame': '<iframe name=browser src=/named style="position:fixed;left:0;top:0;width:600px;height:400px;border:0"></iframe>',
   '/modal': `<dialog style="position:fixed;inset:0;width:600px;height:400px;max-width:none;max-height:none;margin:0;border:0;padding:0">${FORM}</dialog>
     <script>setTimeout(() => document.querySelector('dialog').showModal(), 300)</script>`,
   '/steps': `<form method=post action=/second>${USER_FIELD}<button style="position:fixed;left:60px;top:230px">Next</button></form>`,

@@ -127,7 +127,8 @@ const FRAMES = {
       ['https://shop.example/user', 'https://other.example/', FRAMED],
     ],
   },
-  'https://id.shop.example/f': '<input name=inner type=password>',
+  // Called like what holds the browser's functions.
+  'https://id.shop.example/f': '<input name=inner type=password id=browser>',
 };
 
 test('frames of another site or without encryption are neither reported nor filled', async () => {

@@ -6,7 +6,8 @@ import { kindOf } from './kinds.js';
 import { watch } from './watch.js';
 
 // Runs in every page by itself, and so does next to nothing before there is a field to fill.
-const api = globalThis.browser ?? globalThis.chrome;
+// Every browser has "chrome"; where one has no "browser", that name finds a form or frame of the page that is called so.
+const api = globalThis.chrome;
 const STARTED = Symbol.for('glaceron.content');
 const RENEWED = 'glaceron-renewed';
 const MOVES = ['scroll', 'resize', 'focusin', 'transitionend', 'animationend', 'toggle'];
@@ -61,7 +62,7 @@ function start() {
   const logins = watchLogins({ connect: () => api.runtime.connect({ name: 'login' }) });
   for (const type of MOVES) addEventListener(type, refreshSoon, { capture: true, passive: true });
 
-  // A new version has come, or the page says so: only who is left behind goes.
+  // A new version has come (see injection.js), or the page says so: only who is left behind goes.
   function stopIfLeft() {
     if (!api.runtime?.id) stop();
   }
@@ -78,7 +79,6 @@ function start() {
 
 if (!globalThis[STARTED] && document instanceof HTMLDocument) {
   globalThis[STARTED] = true;
-  dispatchEvent(new Event(RENEWED));
   removeOrphans(document);
   start();
 }
