@@ -74,6 +74,7 @@ const PAGES = {
   '/named': FORM.replace('<form', '<form id=browser'),
   '/frame': '<iframe name=browser src=/named style="position:fixed;left:0;top:0;width:600px;height:400px;border:0"></iframe>',
   '/modal': `<dialog style="position:fixed;inset:0;width:600px;height:400px;max-width:none;max-height:none;margin:0;border:0;padding:0">${FORM}</dialog>
+    <iframe name=browser hidden></iframe>
     <script>setTimeout(() => document.querySelector('dialog').showModal(), 300)</script>`,
   '/steps': `<form method=post action=/second>${USER_FIELD}<button style="position:fixed;left:60px;top:230px">Next</button></form>`,
   '/second': `<form method=post action=/done>${PW_FIELD}<button style="position:fixed;left:60px;top:230px">Log in</button></form>`,
