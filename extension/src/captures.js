@@ -31,8 +31,8 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
     captures.delete(capture.tabId);
     timers.clearTimeout(capture.limit);
     timers.clearTimeout(capture.settling);
-    const { captureId } = capture;
-    if (accepted) send('saveLogin', { login: { captureId } });
+    const { captureId, place } = capture;
+    if (accepted) send('saveLogin', { login: { captureId, ...place } });
     else send('loginDropped', { captureId });
   }
 
@@ -41,10 +41,12 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
     return known && known.until > now() && known.site === siteOf(tab.url) ? known.name : undefined;
   }
 
-  // Not to be asked any more once it has closed.
+  // Not to be asked any more once it has closed. What a page says of its window's place depends on how large it is shown.
   async function noteWindow(capture, id) {
     const window = await api.windows.get(id).catch(() => undefined);
-    capture.isPopup = window?.type === 'popup';
+    if (!window) return;
+    const { type, left, top, width, height } = window;
+    Object.assign(capture, { isPopup: type === 'popup', place: { posx: left, posy: top, width, height } });
   }
 
   function report(port, { submitted, shape }) {

@@ -104,12 +104,6 @@ int lengthOf(const QJsonObject &data, const char *key)
     return static_cast<int>(std::isfinite(value) ? qBound(-farthest, value, farthest) : 0);
 }
 
-QRect placeOf(const QJsonObject &data)
-{
-    return {lengthOf(data, "posx"), lengthOf(data, "posy"), qMax(0, lengthOf(data, "width")),
-            qMax(0, lengthOf(data, "height"))};
-}
-
 /// E-mail addresses and user names mean the same in capitals.
 bool isSameUser(const QString &a, const QString &b)
 {
@@ -129,6 +123,12 @@ QMap<QString, QString> namesOf(const QVector<const PMLogin *> &logins)
 QString SaveLoginRequest::host() const
 {
     return hostOf(site);
+}
+
+QRect SaveLoginRequest::placeOf(const QJsonObject &data)
+{
+    return {lengthOf(data, "posx"), lengthOf(data, "posy"), qMax(0, lengthOf(data, "width")),
+            qMax(0, lengthOf(data, "height"))};
 }
 
 SaveLoginRequest SaveLoginRequest::fromData(const QJsonObject &data)

@@ -81,7 +81,8 @@ void LoginSaving::saveLogin(const QString &callerId, const QJsonObject &data)
     if (id.isEmpty()) {
         makeOffer(SaveLoginRequest::fromData(data),
                   m_clock().addMSecs(CapturedLogins::patience.count()));
-    } else if (const auto taken = m_captures.take(callerId, id)) {
+    } else if (auto taken = m_captures.take(callerId, id)) {
+        taken->first.place = SaveLoginRequest::placeOf(data);
         makeOffer(taken->first, taken->second);
     }
 }

@@ -113,8 +113,12 @@ private Q_SLOTS:
         QCOMPARE(offered(), QStringLiteral("none"));
         m_saving->saveLogin(QStringLiteral("{2}"), capture(1)); // not the one that reported it
         QCOMPARE(offered(), QStringLiteral("none"));
-        m_saving->saveLogin(caller, capture(1));
+        QJsonObject accepted = capture(1);
+        accepted.insert(QStringLiteral("posy"), 7);
+        accepted.insert(QStringLiteral("width"), 800);
+        m_saving->saveLogin(caller, accepted);
         QCOMPARE(offered(), QStringLiteral("decided shop.example one"));
+        QCOMPARE(m_saving->offer()->request.place, QRect(0, 7, 800, 0));
         m_saving->decline();
         m_saving->saveLogin(caller, capture(1));
         QCOMPARE(offered(), QStringLiteral("none"));

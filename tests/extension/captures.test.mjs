@@ -1,6 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { startBrowser } from './fake-browser.mjs';
+import { WINDOW, startBrowser } from './fake-browser.mjs';
 
 const LOGIN = '<form><input name=user><input name=pw type=password></form>';
 const CHANGE = '<form><input name=old type=password><input name=new type=password></form>';
@@ -54,7 +54,9 @@ for (const [url, action] of OUTCOMES) {
     await browser.go(1, url);
     await port.end();
     await browser.clock.advance(30000);
-    assert.deepEqual(told(browser), [[action, id]]);
+    const { left: posx, top: posy, width, height } = WINDOW;
+    const payload = action === 'saveLogin' ? { login: { captureId: id, posx, posy, width, height } } : { captureId: id };
+    assert.deepEqual(browser.received().map((frame) => [frame.action, frame.payload]), [[action, payload]]);
     await browser.clock.advance(60000);
     assert.deepEqual(told(browser), []);
   });

@@ -177,8 +177,7 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     if (current?.key === key && now - current.since < SAME_FOR) return;
     if (current) end('dropped');
     const shape = shapeOf(group, isSecret);
-    const { screenX: posx, screenY: posy, outerWidth: width, outerHeight: height } = view;
-    const submitted = { ...describe(group), login: nameOf(group), posx, posy, width, height };
+    const submitted = { ...describe(group), login: nameOf(group) };
     const port = connect();
     port.postMessage({ submitted, shape, around: describeFrame().around });
     const report = { port, shape, key, since: now, timer: view.setInterval(look, LOOK) };
