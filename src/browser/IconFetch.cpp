@@ -129,6 +129,7 @@ void IconFetch::connectTo(const QVector<QHostAddress> &addresses)
     url.setHost((version4 == addresses.end() ? addresses.first() : *version4).toString());
     QNetworkRequest get(url);
     get.setPeerVerifyName(host);
+    get.setSslConfiguration(m_network.tls);
     QString hostHeader = host.contains(QLatin1Char(':')) ? QStringLiteral("[%1]").arg(host) : host;
     if (m_url.port() >= 0)
         hostHeader += QStringLiteral(":%1").arg(m_url.port());

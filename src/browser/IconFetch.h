@@ -4,6 +4,7 @@
 
 #include <QNetworkReply>
 #include <QObject>
+#include <QSslConfiguration>
 #include <QTimer>
 #include <QUrl>
 #include <QVector>
@@ -26,6 +27,8 @@ struct IconNetwork
     std::function<QVector<QUrl>(const QString &domain)> fallbacks = &IconNetwork::usualPlaces;
     std::chrono::milliseconds limit =
         std::chrono::seconds(15); ///< of one address with its redirects
+    /// How sites prove who they are; what is trusted is what the system trusts.
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
 
     static void resolveBySystem(const QString &host, QObject *context, const Resolved &resolved);
     static QVector<QUrl> usualPlaces(const QString &domain);
