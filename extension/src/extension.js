@@ -61,7 +61,7 @@ export function startExtension({ api, WebSocket, timers, now }) {
     port.onMessage.addListener(async ({ url, open }) => (open ? opening.open(await tabs.active()) : status.watch(port, url)));
     port.onDisconnect.addListener(() => status.forget(port));
   });
-  injectIntoOpenPages({ api });
+  injectIntoOpenPages({ api, timers });
   listenToPages({ api, open: opening.open });
   listenToUser({ api, open: opening.open });
   listenToLogins({ api, documents, timers, now, send: link.send, makeId: () => crypto.randomUUID() });

@@ -64,7 +64,7 @@ export function buildExtension(kind = 'chromium') {
  * Starts a browser ("chromium", "firefox") with the extension. Without profileDir it gets a profile of its own, removed
  * by close(). hosts: names that lead to this machine; env: with DISPLAY where it is not headless; preferences: more of
  * Firefox's; extension: false leaves it out, until install().
- * Returns {kind, browser, extensionId, origin, install, openExtensionPage, pageAt, connected, close}.
+ * Returns {kind, browser, extensionId, origin, install, remove, openExtensionPage, pageAt, connected, close}.
  */
 export async function launchBrowser(kind, { profileDir, hosts = [], headless = true, args = [], preferences, env, extension = true } = {}) {
   const userDataDir = profileDir ?? (await mkdtemp(join(tmpdir(), `glaceron-${kind}-`)));
@@ -76,6 +76,7 @@ export async function launchBrowser(kind, { profileDir, hosts = [], headless = t
     extensionId = await browser.installExtension(buildExtension(kind));
   }
 
+  const remove = () => browser.uninstallExtension(extensionId);
   const origin = () => KINDS[kind].origin(extensionId);
 
   /** Opens a page of the extension in a tab. */
@@ -108,5 +109,5 @@ export async function launchBrowser(kind, { profileDir, hosts = [], headless = t
   }
 
   if (extension) await install();
-  return { kind, browser, extensionId, origin: origin(), install, openExtensionPage, pageAt, connected, close };
+  return { kind, browser, extensionId, origin: origin(), install, remove, openExtensionPage, pageAt, connected, close };
 }

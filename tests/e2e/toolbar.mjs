@@ -184,5 +184,19 @@ export function tellOfToolbar(stage, kind, { path, crystal, masterPassword, pass
       } else await shows('connected');
       rmSync(folder, { recursive: true });
     });
+
+    test('of an extension that is removed nothing stays in the pages', limit, async () => {
+      const isPage = () => page.evaluate((x, y) => document.elementFromPoint(x, y).name === 'pw', ...crystal);
+      await page.bringToFront();
+      await stage.program.until(async () => !(await isPage()), 'the crystal');
+      const faults = [];
+      page.on('pageerror', ({ message }) => faults.push(message));
+      await stage.browser.remove();
+      await stage.program.until(async () => {
+        await page.mouse.click(...crystal);
+        return isPage();
+      }, 'the crystal to go');
+      assert.deepEqual(faults, []);
+    });
   };
 }

@@ -32,7 +32,7 @@ async function open(html) {
   }
   Object.assign(window, { requestIdleCallback: turn, requestAnimationFrame: turn, setTimeout: turn, ResizeObserver: class extends Observer { observe() {} }, IntersectionObserver: Observer });
   const renew = () => {
-    window.chrome = { runtime: { id: 'own', sendMessage: async () => true, connect() {} }, i18n: { getMessage: (name) => name } };
+    window.chrome = { runtime: { id: 'own', getURL: () => 'chrome-extension://own/', sendMessage: async () => true, connect() {} }, i18n: { getMessage: (name) => name } };
     delete window[STARTED]; // each version has a world of its own
   };
   renew();
@@ -53,7 +53,7 @@ async function open(html) {
       let installed;
       const executeScript = async ({ func, files }) => (files ? window.eval(content) : window.eval(`(${func})()`));
       const api = { tabs: { query: async () => [{ id: 1 }] }, scripting: { executeScript }, runtime: { onInstalled: { addListener: (work) => { installed = work; } } }, permissions: { onAdded: { addListener() {} } } };
-      injectIntoOpenPages({ api });
+      injectIntoOpenPages({ api, timers: window });
       await installed();
       await flush();
       await idle();

@@ -24,6 +24,7 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
   const tabs = new Map();
   const looks = {};
   const injections = [];
+  const styles = [];
   let lastDocument = 0;
   const onUpdated = createEvent();
   const onRemoved = createEvent();
@@ -100,7 +101,7 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
       getURL: () => 'chrome-extension://id/', getManifest: () => ({ version: '1.1.32' }), getPlatformInfo: async () => ({}),
       id: 'own', onMessage, onConnect, onInstalled: createEvent(), onStartup: createEvent(),
     },
-    scripting: { executeScript },
+    scripting: { executeScript, insertCSS: async (style) => styles.push(style) },
     tabs: {
       onUpdated, onRemoved, get: getTab, getZoom: async () => 2,
       query: async () => [...tabs.values()].filter(({ active }) => active).map(view),
@@ -140,7 +141,7 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
   startExtension({ api: api(), WebSocket: Socket, timers: clock.timers, now: clock.now });
   await greet();
   return {
-    clock, looks, injections, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, greet, hangUp: () => program.onclose(),
+    clock, looks, injections, styles, arrive: (id) => arrive(tabs.get(id)), addTab, closeTab, greet, hangUp: () => program.onclose(),
     /** The user presses the keys of a command. */
     press(command, tab) { onCommand.fire(command, tab); return idle(); },
     /** A script in a page says something; what it is answered. */

@@ -393,4 +393,6 @@ test('an icon opens quick access for its field, in frames of the page\'s site al
     ['https://id.shop.example', [SHOP], true], ['https://other.example', [SHOP], false], ['http://shop.example', [SHOP], false],
     ['https://shop.example', ['https://other.example', SHOP], false], ['null', [SHOP], false],
   ]) assert.equal(await browser.hear({ belongs: around }, { tab, origin }), expected, origin);
+  for (const mark of ['g0123456789abcdef', 'g0123456789abcde*', '', undefined]) await browser.hear({ show: mark }, { tab, frameId: 3 });
+  assert.deepEqual(browser.styles.map(({ target, css }) => [target.frameIds, css.slice(0, 19)]), [[[3], '[g0123456789abcdef]']]);
 });

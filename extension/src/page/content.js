@@ -20,8 +20,18 @@ function fromClick({ left, top, width, height }, { screenX, screenY, clientX, cl
   return { field: { left: x, top: y, width: w, height: h }, click: { left: screenX, top: screenY } };
 }
 
+// Firefox ends the scripts of an extension that is removed without a word, but takes back its styles: there the icons show by
+// one, of a name that no page can know. Chromium leaves the scripts, which notice.
+function makeMark() {
+  if (!api.runtime.getURL('').startsWith('moz-')) return undefined;
+  return `g${[...crypto.getRandomValues(new Uint8Array(8))].map((byte) => byte.toString(16).padStart(2, '0')).join('')}`;
+}
+
 function start() {
+  const mark = makeMark();
+  let isStyled = !mark;
   const icons = createIcons({
+    mark,
     title: api.i18n.getMessage('iconTitle'),
     open: (kind, box, place) => say({ open: { kind, ...fromClick(box, place), around: describeFrame().around } }),
   });
@@ -43,28 +53,39 @@ function start() {
     isPlanned = true;
     requestAnimationFrame(() => {
       isPlanned = false;
-      icons.refresh();
+      if (!stopIfLeft()) icons.refresh();
     });
+  }
+
+  function add(field, kind) {
+    if (!isStyled) say({ show: mark });
+    isStyled = true;
+    icons.add(field, kind);
   }
 
   const waiting = [];
   async function take(field) {
     const kind = kindOf(field);
     if (!kind || belongs === false) return;
-    if (belongs) return icons.add(field, kind);
+    if (belongs) return add(field, kind);
     waiting.push([field, kind]);
     if (waiting.length > 1) return;
     belongs = Boolean(await say({ belongs: describeFrame().around }));
-    if (belongs) waiting.forEach(([each, of]) => icons.add(each, of));
+    if (belongs) waiting.forEach(([each, of]) => add(each, of));
   }
 
   const watcher = watch(document, { onField: take, onChange: refreshSoon });
-  const logins = watchLogins({ connect: () => api.runtime.connect({ name: 'login' }) });
+  const logins = watchLogins({
+    connect: () => api.runtime.connect({ name: 'login' }),
+    isTrusted: (event) => event.isTrusted && !stopIfLeft(),
+  });
   for (const type of MOVES) addEventListener(type, refreshSoon, { capture: true, passive: true });
 
-  // A new version has come (see injection.js), or the page says so: only who is left behind goes.
+  // A new version has come (see injection.js), the extension was removed, or the page says so: only who is left behind goes.
   function stopIfLeft() {
-    if (!api.runtime?.id) stop();
+    const isLeft = !api.runtime?.id;
+    if (isLeft) stop();
+    return isLeft;
   }
   addEventListener(RENEWED, stopIfLeft);
 

@@ -33,7 +33,13 @@ const tell = globalThis.chrome?.dom?.openOrClosedShadowRoot;
 
 /** The shadow tree of an element, closed ones included; null for none. */
 export function shadowRootOf(element) {
-  if (tell) return element instanceof HTMLElement ? tell(element) : null;
+  if (tell) {
+    try {
+      return element instanceof HTMLElement ? tell(element) : null;
+    } catch {
+      return null; // the extension was removed
+    }
+  }
   const root = element.openOrClosedShadowRoot ?? element.shadowRoot;
   return root instanceof ShadowRoot ? root : null;
 }

@@ -22,11 +22,18 @@ function dress(element, style) {
   for (const [name, value] of Object.entries(style)) element.style.setProperty(name, value, 'important');
 }
 
-/** An empty element with a closed shadow tree: {host, root}. */
-export function createHost() {
+/**
+ * An empty element with a closed shadow tree: {host, root}. mark: an attribute that a style shows it by, as long as there is
+ * one; without it the element shows by itself.
+ */
+export function createHost(mark) {
   const host = document.createElement('div');
   own.add(host);
   dress(host, HOST);
+  if (mark) {
+    host.setAttribute(mark, '');
+    dress(host, { 'content-visibility': 'hidden' });
+  }
   host.setAttribute('aria-hidden', 'true');
   return { host, root: host.attachShadow({ mode: 'closed' }) };
 }

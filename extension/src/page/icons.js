@@ -12,9 +12,9 @@ const LAYER = 'dialog, [popover]';
 
 /**
  * The crystals in the fields of a document. open(kind, box, place) is called for a real click on one; box is the field's
- * in the window, place where the click was.
+ * in the window, place where the click was. mark: as in createHost.
  */
-export function createIcons({ title, open }) {
+export function createIcons({ title, open, mark }) {
   const entries = new Map(); // field → {kind, icon, host}
   const hosts = new Map(); // element of a layer → {host, root}
   const boxes = new IntersectionObserver(place);
@@ -28,7 +28,7 @@ export function createIcons({ title, open }) {
 
   function hostFor(field) {
     const layer = layerOf(field);
-    if (!hosts.has(layer)) hosts.set(layer, createHost());
+    if (!hosts.has(layer)) hosts.set(layer, createHost(mark));
     const found = hosts.get(layer);
     if (found.host.parentNode !== layer) layer.append(found.host);
     return found;
