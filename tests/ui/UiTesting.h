@@ -1,17 +1,19 @@
 #pragma once
 
+#include "../Text.h"
 #include "../guard/FakeActivity.h"
 #include "GPMAppCore.h"
 #include "PMFieldTypes.h"
 #include "PMLogin.h"
 #include "dialogs/Question.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QWidget>
 #include <QtTest>
 
-const QString testPassword = QStringLiteral("master password 1");
+const QString testPassword = "master password 1"_s;
 
 /// A core whose files lie in a folder of its own.
 struct TestCore
@@ -59,9 +61,35 @@ struct TestCore
         return core.modelAddItem(std::move(login))->id();
     }
 
+    QString addLogin(const char *title, const char *userName = "ana")
+    {
+        return addLogin(QLatin1String(title), QLatin1String(userName));
+    }
+
     PMLogin *login(const QString &id)
     {
         return qobject_cast<PMLogin *>(core.currentSafe()->item(id));
+    }
+
+    QString path(const char *name) const { return folder.filePath(QLatin1String(name)); }
+    QString file(const char *name, const QByteArray &bytes = "content") const
+    {
+        QFile made(folder.filePath(QString::fromUtf8(name)));
+        if (!made.open(QIODevice::WriteOnly) || made.write(bytes) != bytes.size())
+            qFatal("No file to test with");
+        return made.fileName();
+    }
+
+    /// Acts while nothing can be saved: the folder of the items is away.
+    template <typename Act>
+    void withoutFolder(const Act &act)
+    {
+        const QString content = core.currentSafe()->folder() + "/content"_s;
+        if (!core.saveCurrentSafe() || !QDir().rename(content, content + "-away"_s))
+            qFatal("The folder is in use");
+        act();
+        if (!QDir().rename(content + "-away"_s, content))
+            qFatal("The folder does not come back");
     }
 
     QTemporaryDir folder;
@@ -69,9 +97,9 @@ struct TestCore
     GPMAppCore core;
 };
 
-/// Makes a safe and shows it in a view, which follows its locks.
+/// Lets a view follow the locks of the safe, as its window does.
 template <typename Content>
-void openWithSafe(Content &view, TestCore &test)
+void followLocks(Content &view, TestCore &test)
 {
     QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, &view,
                      [&view, &test](bool locked) {
@@ -80,6 +108,13 @@ void openWithSafe(Content &view, TestCore &test)
                          else
                              view.openSafe(test.core.currentSafe());
                      });
+}
+
+/// Makes a safe and shows it in a view.
+template <typename Content>
+void openWithSafe(Content &view, TestCore &test)
+{
+    followLocks(view, test);
     if (!test.createSafe())
         qFatal("No safe to test with");
 }

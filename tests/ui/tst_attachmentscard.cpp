@@ -1,41 +1,24 @@
+#include "MainDesk.h"
 #include "PMAttachment.h"
-#include "UiTesting.h"
 #include "attachments/AttachmentActions.h"
 #include "attachments/AttachmentPreview.h"
 #include "main/ItemPane.h"
-#include "main/MainView.h"
-#include "style/Theme.h"
 
 #include <QBuffer>
 #include <QClipboard>
-#include <QDir>
 #include <QDropEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QToolButton>
 
 namespace {
 
 /// A user before a main view that shows a login, with files of their own.
-struct Desk
+struct Desk : MainDesk
 {
     Desk()
-        : view(test.core, theme, asker.asker())
+        : loginId(addAndChoose("Cloudmail"))
     {
-        openWithSafe(view, test);
-        loginId = test.addLogin(QStringLiteral("Cloudmail"));
-        view.resize(1000, 680);
-        view.show();
-        view.activateWindow();
-        if (!QTest::qWaitForWindowActive(&view))
-            qFatal("The view got no keyboard");
-        choose(QStringLiteral("Cloudmail"));
-
         AttachmentChoosers choosers;
         choosers.filesToAttach = [this] { return chosen; };
         choosers.placeToSave = [this](const QString &name) {
@@ -47,32 +30,18 @@ struct Desk
             opened = path;
             return true;
         };
-        view.findChild<AttachmentActions *>()->setChoosers(choosers);
+        view->findChild<AttachmentActions *>()->setChoosers(choosers);
     }
 
-    void choose(const QString &title)
+    QString file(const char *name, const QByteArray &content = "content") const
     {
-        auto *list = find<QListView>(view, "itemList");
-        for (int row = 0; row < list->model()->rowCount(); ++row) {
-            const QModelIndex index = list->model()->index(row, 0);
-            if (index.data().toString() == title)
-                list->setCurrentIndex(index);
-        }
+        return test.file(name, content);
     }
-
-    QString file(const QString &name, const QByteArray &content = "content")
-    {
-        QFile made(test.folder.filePath(name));
-        if (!made.open(QIODevice::WriteOnly) || made.write(content) != content.size())
-            qFatal("No file to test with");
-        return made.fileName();
-    }
-
     QStringList rows() const
     {
         QStringList names;
-        for (const QLabel *label : view.findChildren<QLabel *>(QStringLiteral("attachmentName"))) {
-            if (label->isVisibleTo(&view))
+        for (const QLabel *label : view->findChildren<QLabel *>("attachmentName"_s)) {
+            if (label->isVisibleTo(view.get()))
                 names.append(label->text());
         }
         return names;
@@ -82,14 +51,13 @@ struct Desk
     {
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
-        return test.core.currentSafe()->readAttachment(id, buffer) ? buffer.data()
-                                                                   : QByteArray("unreadable");
+        return safe().readAttachment(id, buffer) ? buffer.data() : QByteArray("unreadable");
     }
 
     /// Attaches by the button and waits until it is done.
     QString attach(const QString &path)
     {
-        QSignalSpy done(test.core.currentSafe().get(), &GPMSafe::attachmentDone);
+        QSignalSpy done(&safe(), &GPMSafe::attachmentDone);
         chosen = QStringList{path};
         click("attachButton");
         if (done.isEmpty() && !done.wait())
@@ -103,15 +71,14 @@ struct Desk
     QWidget *rowOf(const QString &id)
     {
         const int index = refs().indexOf(id);
-        const auto list = view.findChildren<QWidget *>(QStringLiteral("attachmentRow"));
+        const auto list = view->findChildren<QWidget *>("attachmentRow"_s);
         const bool busy = index >= 0 && index < list.size() &&
                           !find<QAbstractButton>(*list.at(index), "previewButton")->isEnabled();
         return index >= 0 && index < list.size() && !busy ? list.at(index) : nullptr;
     }
-    void click(const char *name) { find<QAbstractButton>(view, name)->click(); }
-    void menu(const char *text)
+    void chooseFromMenu(const char *text)
     {
-        QWidget *row = find<QWidget>(view, "attachmentRow");
+        QWidget *row = field<QWidget>("attachmentRow");
         QContextMenuEvent event(QContextMenuEvent::Keyboard, {});
         QCoreApplication::sendEvent(row, &event);
         for (QAction *action : find<QMenu>(*row, "attachmentMenu")->actions()) {
@@ -121,7 +88,7 @@ struct Desk
     }
     bool drop(const QMimeData &data, Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction)
     {
-        QWidget *page = find<QWidget>(view, "itemPage");
+        QWidget *page = field<QWidget>("itemPage");
         QDragEnterEvent enter({50, 50}, offered, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(page, &enter);
         if (!enter.isAccepted())
@@ -136,21 +103,17 @@ struct Desk
         click("previewButton");
         AttachmentPreview *dialog = nullptr;
         const bool came = QTest::qWaitFor([&] {
-            dialog = view.findChild<AttachmentPreview *>();
+            dialog = view->findChild<AttachmentPreview *>();
             return dialog != nullptr;
         });
         return came ? dialog : nullptr;
     }
     QString copiesTold() const
     {
-        const auto *banner = find<QWidget>(view, "copiesBanner");
+        const auto *banner = field<QWidget>("copiesBanner");
         return banner->isVisible() ? find<QLabel>(*banner, "noticeHeading")->text() : QString();
     }
 
-    TestCore test;
-    Theme theme;
-    TestAsker asker;
-    MainView view;
     QString loginId;
     QStringList chosen;
     QString place;
@@ -163,17 +126,6 @@ QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-}
-
-QByteArray pictureBytes(const QSize &size, const char *format = "PNG")
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return bytes;
 }
 
 } // namespace
@@ -189,20 +141,17 @@ private Q_SLOTS:
     {
         Desk desk;
         QVERIFY(desk.rows().isEmpty());
-        const QString id =
-            desk.attach(desk.file(QStringLiteral("codes.txt"), QByteArray(4096, 'x')));
+        const QString id = desk.attach(desk.file("codes.txt", QByteArray(4096, 'x')));
         QCOMPARE(desk.refs(), QStringList{id});
-        QCOMPARE(desk.rows(), QStringList{QStringLiteral("codes.txt")});
-        QCOMPARE(find<QLabel>(desk.view, "attachmentDetail")->text(),
-                 QStringLiteral("4 KB · encrypted"));
+        QCOMPARE(desk.rows(), QStringList{"codes.txt"_s});
+        QCOMPARE(desk.field<QLabel>("attachmentDetail")->text(), "4 KB · encrypted"_s);
         QCOMPARE(desk.bytesOf(id).size(), 4096);
         // The category has it as well.
-        QCOMPARE(desk.test.core.currentSafe()->item(id)->type(), PMListItem::Attachment);
+        QCOMPARE(desk.safe().item(id)->type(), PMListItem::Attachment);
 
         desk.chosen.clear();
         desk.click("attachButton");
-        QCOMPARE(find<QLabel>(desk.view, "attachMessage")->text(),
-                 QStringLiteral("Please choose a file"));
+        QCOMPARE(desk.field<QLabel>("attachMessage")->text(), "Please choose a file"_s);
         QVERIFY(desk.asker.asked.isEmpty());
     }
 
@@ -212,24 +161,23 @@ private Q_SLOTS:
         QTest::newRow("during a drop") << false;
         QTest::newRow("while the safe locks") << true;
     }
-
     void faultsAreToldWhenNothingWaitsForIt()
     {
         QFETCH(bool, locks);
         Desk desk;
         QVERIFY(desk.test.core.saveCurrentSafe());
         QMimeData data;
-        const QString path = desk.file(QStringLiteral("a.txt"));
-        data.setUrls({QUrl::fromLocalFile(locks ? path : path + QStringLiteral(".gone"))});
-        const QString place = desk.test.core.currentSafe()->folder();
-        QVERIFY(QDir(place + QStringLiteral("/attachment")).removeRecursively());
+        const QString path = desk.file("a.txt");
+        data.setUrls({QUrl::fromLocalFile(locks ? path : path + ".gone"_s)});
+        const QString place = desk.safe().folder();
+        QVERIFY(QDir(place + "/attachment"_s).removeRecursively());
         QVERIFY(desk.drop(data));
         if (locks)
-            desk.test.core.lockCurrentSafe();
+            desk.lock();
         // A question would hold up the other program's drag, or leave the safe open.
         QVERIFY(desk.asker.asked.isEmpty());
         QTRY_COMPARE(desk.asker.asked.size(), 1);
-        QCOMPARE(desk.test.core.currentSafe()->isUnlocked(), !locks);
+        QCOMPARE(desk.safe().isUnlocked(), !locks);
     }
 
     void dropsKeepTheirOrder()
@@ -240,10 +188,10 @@ private Q_SLOTS:
             QMimeData data;
             QList<QUrl> urls;
             for (int i = 0; i < 3; ++i) {
-                names.append(QStringLiteral("file %1-%2.bin").arg(drop).arg(i));
+                names.append("file %1-%2.bin"_s.arg(drop).arg(i));
                 // The first are the largest, so that they would be overtaken.
-                urls.append(QUrl::fromLocalFile(
-                    desk.file(names.last(), QByteArray(900000 / (1 + drop * 3 + i), 'x'))));
+                urls.append(QUrl::fromLocalFile(desk.file(
+                    qPrintable(names.last()), QByteArray(900000 / (1 + drop * 3 + i), 'x'))));
             }
             data.setUrls(urls);
             QVERIFY(desk.drop(data));
@@ -258,10 +206,10 @@ private Q_SLOTS:
     {
         Desk desk;
         QMimeData text;
-        text.setText(QStringLiteral("text"));
+        text.setText("text"_s);
         QVERIFY(!desk.drop(text));
         QMimeData remote;
-        remote.setUrls({QUrl(QStringLiteral("https://site.example/picture.png"))});
+        remote.setUrls({QUrl("https://site.example/picture.png"_s)});
         QVERIFY(!desk.drop(remote));
         // As a browser drags a picture.
         remote.setImageData(QImage(20, 10, QImage::Format_RGB32));
@@ -276,36 +224,36 @@ private Q_SLOTS:
     {
         Desk desk;
         auto *files = new QMimeData;
-        files->setUrls({QUrl::fromLocalFile(desk.file(QStringLiteral("a.txt"))),
-                        QUrl::fromLocalFile(desk.file(QStringLiteral("b.txt")))});
+        files->setUrls(
+            {QUrl::fromLocalFile(desk.file("a.txt")), QUrl::fromLocalFile(desk.file("b.txt"))});
         files->setImageData(QImage(20, 10, QImage::Format_RGB32));
         QApplication::clipboard()->setMimeData(files);
-        find<QListView>(desk.view, "itemList")->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
-        QTRY_COMPARE(desk.rows(), QStringList({QStringLiteral("a.txt"), QStringLiteral("b.txt")}));
+        desk.field<QListView>("itemList")->setFocus();
+        desk.press(Qt::Key_V, Qt::ControlModifier);
+        QTRY_COMPARE(desk.rows(), QStringList({"a.txt"_s, "b.txt"_s}));
         QImage picture(20, 10, QImage::Format_RGB32);
         picture.fill(Qt::green);
         QApplication::clipboard()->setImage(picture);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
+        desk.press(Qt::Key_V, Qt::ControlModifier);
         QTRY_COMPARE(desk.refs().size(), 3);
         QCOMPARE(QImage::fromData(desk.bytesOf(desk.refs().last()))
                      .convertToFormat(QImage::Format_RGB32),
                  picture);
         // Where text is typed, text is pasted.
-        QApplication::clipboard()->setText(QStringLiteral("words"));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
-        QTest::keyClick(&desk.view, Qt::Key_F, Qt::ControlModifier);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(find<QLineEdit>(desk.view, "searchField")->text(), QStringLiteral("words"));
+        QApplication::clipboard()->setText("words"_s);
+        desk.press(Qt::Key_V, Qt::ControlModifier);
+        desk.press(Qt::Key_F, Qt::ControlModifier);
+        desk.press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(desk.typed("searchField"), "words"_s);
         QCOMPARE(desk.refs().size(), 3);
     }
 
     void tellsWhatIsNotTaken()
     {
         Desk desk;
-        const QString limit = desk.file(QStringLiteral("limit.bin"));
+        const QString limit = desk.file("limit.bin");
         QVERIFY(QFile::resize(limit, 10485760));
-        const QString large = desk.file(QStringLiteral("large.bin"));
+        const QString large = desk.file("large.bin");
         QVERIFY(QFile::resize(large, 10485761));
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(large), QUrl::fromLocalFile(desk.test.folder.path()),
@@ -314,43 +262,41 @@ private Q_SLOTS:
         QTRY_COMPARE(desk.asker.asked.size(), 1);
         const QStringList lines = desk.asker.asked.first().text.split(QLatin1Char('\n'));
         QCOMPARE(lines.size(), 2);
-        QCOMPARE(lines.first(),
-                 QStringLiteral("large.bin: Maximum attachment file size is 10 megabytes"));
-        QTRY_COMPARE(desk.rows(), QStringList{QStringLiteral("limit.bin")});
+        QCOMPARE(lines.first(), "large.bin: Maximum attachment file size is 10 megabytes"_s);
+        QTRY_COMPARE(desk.rows(), QStringList{"limit.bin"_s});
     }
 
     void hostileNamesAreShownPlain()
     {
         Desk desk;
-        desk.attach(desk.file(QString::fromUtf8("invoice\u202Efdp.txt\u200b")));
-        QCOMPARE(desk.rows(), QStringList{QStringLiteral("invoicefdp.txt")});
+        desk.attach(desk.file("invoice\u202Efdp.txt\u200b"));
+        QCOMPARE(desk.rows(), QStringList{"invoicefdp.txt"_s});
         // A safe that came from elsewhere may hold any name.
-        desk.test.core.currentSafe()
-            ->item(desk.refs().first())
-            ->setProperty("filename", QStringLiteral("../../.config/autostart/x.desktop"));
-        QTRY_COMPARE(desk.rows(), QStringList{QStringLiteral("x.desktop")});
+        desk.safe()
+            .item(desk.refs().first())
+            ->setProperty("filename", "../../.config/autostart/x.desktop"_s);
+        QTRY_COMPARE(desk.rows(), QStringList{"x.desktop"_s});
         desk.place.clear();
         desk.click("saveAttachmentButton");
-        QCOMPARE(desk.suggested, QStringLiteral("x.desktop"));
+        QCOMPARE(desk.suggested, "x.desktop"_s);
         desk.asker.answer = 1;
-        desk.menu("Open in another program");
+        desk.chooseFromMenu("Open in another program");
         QCOMPARE(desk.asker.asked.size(), 1);
-        QCOMPARE(desk.asker.asked.first().buttons.first(), QStringLiteral("Save as…"));
+        QCOMPARE(desk.asker.asked.first().buttons.first(), "Save as…"_s);
         QVERIFY(desk.opened.isEmpty());
     }
 
     void savesAs()
     {
         Desk desk;
-        desk.attach(desk.file(QStringLiteral("codes.txt"), "secret"));
-        desk.place = desk.test.folder.filePath(QStringLiteral("saved.txt"));
+        desk.attach(desk.file("codes.txt", "secret"));
+        desk.place = desk.test.path("saved.txt");
         desk.click("saveAttachmentButton");
         QTRY_COMPARE(contentOf(desk.place), QByteArray("secret"));
         QCOMPARE(QFile::permissions(desk.place) & (QFile::ReadGroup | QFile::ReadOther),
                  QFile::Permissions());
         // What cannot be decrypted leaves what was there.
-        QFile bytes(desk.test.core.currentSafe()->folder() + QStringLiteral("/attachment/") +
-                    desk.refs().first());
+        QFile bytes(desk.safe().folder() + "/attachment/"_s + desk.refs().first());
         QVERIFY(bytes.resize(100));
         desk.click("saveAttachmentButton");
         QTRY_COMPARE(desk.asker.asked.size(), 1);
@@ -360,68 +306,68 @@ private Q_SLOTS:
     void renamesRemovesAndRestores()
     {
         Desk desk;
-        const QString id = desk.attach(desk.file(QStringLiteral("codes.txt")));
-        desk.newName = QStringLiteral("a/b/new name.txt");
-        find<QWidget>(desk.view, "previewButton")->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F2);
-        QTRY_COMPARE(desk.rows(), QStringList{QStringLiteral("new name.txt")});
-        QCOMPARE(desk.test.core.currentSafe()->item(id)->title(), QStringLiteral("new name.txt"));
+        const QString id = desk.attach(desk.file("codes.txt"));
+        desk.newName = "a/b/new name.txt"_s;
+        desk.field<QWidget>("previewButton")->setFocus();
+        desk.press(Qt::Key_F2);
+        QTRY_COMPARE(desk.rows(), QStringList{"new name.txt"_s});
+        QCOMPARE(desk.safe().item(id)->title(), "new name.txt"_s);
 
         desk.click("removeAttachmentButton");
         QTRY_VERIFY(desk.rows().isEmpty());
-        QVERIFY(desk.test.core.currentSafe()->item(id)->deleted());
+        QVERIFY(desk.safe().item(id)->deleted());
         QCOMPARE(desk.refs(), QStringList{id});
         desk.test.core.modelItemRestored(id);
-        QTRY_COMPARE(desk.rows(), QStringList{QStringLiteral("new name.txt")});
+        QTRY_COMPARE(desk.rows(), QStringList{"new name.txt"_s});
     }
 
     void anAttachmentOfItsOwn()
     {
         Desk desk;
-        auto *pane = desk.view.findChild<ItemPane *>();
-        desk.chosen = QStringList{desk.file(QStringLiteral("plan.pdf"))};
+        auto *pane = desk.view->findChild<ItemPane *>();
+        desk.chosen = QStringList{desk.file("plan.pdf")};
         pane->startNew(PMListItem::Attachment);
-        QTRY_COMPARE(desk.rows(), QStringList{QStringLiteral("plan.pdf")});
+        QTRY_COMPARE(desk.rows(), QStringList{"plan.pdf"_s});
         QVERIFY(desk.refs().isEmpty());
         QVERIFY(pane->shownId() != desk.loginId);
-        QVERIFY(!find<QWidget>(desk.view, "attachButton")->isVisible());
+        QVERIFY(!desk.field<QWidget>("attachButton")->isVisible());
         desk.chosen.clear();
         pane->startNew(PMListItem::Attachment);
-        QCOMPARE(desk.asker.asked.last().text, QStringLiteral("Please choose a file"));
+        QCOMPARE(desk.asker.asked.last().text, "Please choose a file"_s);
     }
 
     void previewsTextAndPictures()
     {
         Desk desk;
-        desk.attach(desk.file(QStringLiteral("note.txt"), "one\r\ntwo"));
+        desk.attach(desk.file("note.txt", "one\r\ntwo"));
         AttachmentPreview *dialog = desk.preview();
         QVERIFY(dialog);
         auto *text = find<QPlainTextEdit>(*dialog, "previewText");
-        QCOMPARE(text->toPlainText(), QStringLiteral("one\ntwo"));
+        QCOMPARE(text->toPlainText(), "one\ntwo"_s);
         QVERIFY(text->isReadOnly());
         // A lock closes it and what it showed.
         const QPointer<QWidget> shown(dialog);
-        desk.test.core.lockCurrentSafe();
+        desk.lock();
         QTRY_VERIFY(!shown);
     }
 
     void opensElsewhereThroughAPrivateFile()
     {
         Desk desk;
-        desk.attach(desk.file(QStringLiteral("codes.txt"), "secret"));
-        desk.menu("Open in another program");
+        desk.attach(desk.file("codes.txt", "secret"));
+        desk.chooseFromMenu("Open in another program");
         QTRY_VERIFY(!desk.opened.isEmpty());
-        QCOMPARE(QFileInfo(desk.opened).fileName(), QStringLiteral("codes.txt"));
+        QCOMPARE(QFileInfo(desk.opened).fileName(), "codes.txt"_s);
         QCOMPARE(contentOf(desk.opened), QByteArray("secret"));
-        QCOMPARE(desk.copiesTold(), QStringLiteral("“codes.txt” is open in another program."));
+        QCOMPARE(desk.copiesTold(), "“codes.txt” is open in another program."_s);
         desk.click("removeCopiesButton");
         QVERIFY(!QFile::exists(desk.opened));
         QCOMPARE(desk.copiesTold(), QString());
 
         desk.opened.clear();
-        desk.menu("Open in another program");
+        desk.chooseFromMenu("Open in another program");
         QTRY_VERIFY(!desk.opened.isEmpty());
-        desk.test.core.lockCurrentSafe();
+        desk.lock();
         QVERIFY(!QFile::exists(desk.opened));
         QCOMPARE(desk.copiesTold(), QString());
     }
@@ -429,70 +375,13 @@ private Q_SLOTS:
     void aLockWhileACopyIsMadeLeavesNone()
     {
         Desk desk;
-        desk.attach(desk.file(QStringLiteral("big.txt"), QByteArray(5000000, 'x')));
-        desk.menu("Open in another program");
-        desk.test.core.lockCurrentSafe();
-        delete desk.view.findChild<AttachmentActions *>(); // waits for its workers
+        desk.attach(desk.file("big.txt", QByteArray(5000000, 'x')));
+        desk.chooseFromMenu("Open in another program");
+        desk.lock();
+        delete desk.view->findChild<AttachmentActions *>(); // waits for its workers
         QVERIFY(desk.opened.isEmpty());
-        const QDir copies(desk.test.folder.filePath(QStringLiteral("data/private")));
+        const QDir copies(desk.test.path("data/private"));
         QVERIFY(copies.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
-    }
-
-    void contents_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const QByteArray &bytes, int kind,
-                            const QString &text = {}) {
-            QTest::newRow(name) << bytes << kind << text;
-        };
-        const QString word = QString::fromUtf8("Grüße €");
-        row("empty", {}, PreviewContent::Text);
-        row("UTF-8", word.toUtf8(), PreviewContent::Text, word);
-        row("UTF-8 with mark", "\xef\xbb\xbf" + word.toUtf8(), PreviewContent::Text, word);
-        row("UTF-16 LE", QByteArray("\xff\xfeG\0\xfc\0", 6), PreviewContent::Text,
-            QString::fromUtf8("Gü"));
-        row("UTF-16 BE", QByteArray("\xfe\xff\0G\0\xfc", 6), PreviewContent::Text,
-            QString::fromUtf8("Gü"));
-        row("Latin-1",
-            "Gr\xfc\xdf"
-            "e",
-            PreviewContent::Text, QString::fromUtf8("Grüße"));
-        row("binary", QByteArray("MZ\0\1\2", 5), PreviewContent::None);
-        row("drawing", "<svg xmlns='http://www.w3.org/2000/svg'/>", PreviewContent::Text,
-            QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg'/>"));
-        row("picture", pictureBytes({30, 20}), PreviewContent::Picture);
-        row("jpeg", pictureBytes({30, 20}, "JPG"), PreviewContent::Picture);
-        row("cut picture", pictureBytes({300, 200}).left(60), PreviewContent::None);
-        QByteArray huge = pictureBytes({30, 20});
-        // The size in the file's head: 60,000 by 60,000.
-        huge.replace(16, 8, QByteArray("\0\0\xea\x60\0\0\xea\x60", 8));
-        row("picture of gigabytes", huge, PreviewContent::None);
-    }
-
-    void contents()
-    {
-        QFETCH(QByteArray, bytes);
-        const PreviewContent content = PreviewContent::of(bytes);
-        QTEST(int(content.kind), "kind");
-        QTEST(content.text, "text");
-        QCOMPARE(content.kind == PreviewContent::Picture, !content.picture.isNull());
-    }
-
-    void contentsAreBounded()
-    {
-        const PreviewContent text = PreviewContent::of(QByteArray(5000000, 'x'));
-        QVERIFY(text.cut);
-        QVERIFY(text.text.size() < 300000);
-        for (const QString &line : text.text.split(QLatin1Char('\n')))
-            QVERIFY(line.size() <= 2000);
-        const PreviewContent lines = PreviewContent::of(QByteArray("a\n").repeated(9000));
-        QVERIFY(lines.cut);
-        QCOMPARE(lines.text.count(QLatin1Char('\n')), 4999);
-        const PreviewContent wide = PreviewContent::of(pictureBytes({9000, 30}));
-        QCOMPARE(wide.pictureSize, QSize(9000, 30));
-        QCOMPARE(wide.picture.width(), 4096);
     }
 };
 

@@ -1,148 +1,64 @@
-#include "PMItemFactory.h"
-#include "UiTesting.h"
-#include "drafts/DraftDocument.h"
-#include "main/ItemPane.h"
-#include "main/MainView.h"
-#include "style/Theme.h"
+#include "MainDesk.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
 namespace {
 
-/// A user before a main view that follows the safe as its window does.
-struct Desk
+/// A user whose typing is kept.
+struct Desk : MainDesk
 {
-    Desk()
+    Desk() { keepAtOnce(); }
+
+    void keepAtOnce() const { field<QTimer>("draftTimer")->setInterval(0); }
+    void startAgain()
     {
-        if (!test.createSafe())
-            qFatal("No safe to test with");
         start();
-    }
-
-    void start()
-    {
-        view = std::make_unique<MainView>(test.core, theme, asker.asker());
-        QObject::connect(&test.core, &GPMAppCore::safeLockedChanged, view.get(),
-                         [this](bool locked) {
-                             if (locked)
-                                 view->closeSafe();
-                             else
-                                 view->openSafe(test.core.currentSafe());
-                         });
-        view->openSafe(test.core.currentSafe());
-        view->resize(1000, 680);
-        view->show();
-        view->activateWindow();
-        if (!QTest::qWaitForWindowActive(view.get()))
-            qFatal("The view got no keyboard");
-        find<QTimer>("draftTimer")->setInterval(0);
-    }
-
-    template <typename Object>
-    Object *find(const char *name) const
-    {
-        return view->findChild<Object *>(QLatin1String(name));
-    }
-    void click(const char *name) const { find<QAbstractButton>(name)->click(); }
-    void type(const char *field, const QString &text) const
-    {
-        auto *line = find<QLineEdit>(field);
-        if (!line)
-            qFatal("Nothing is edited");
-        line->setText(text);
-    }
-    QString typed(const char *field) const
-    {
-        const auto *line = find<QLineEdit>(field);
-        return line ? line->text() : QStringLiteral("no editor");
+        keepAtOnce();
     }
     QString offer() const
     {
-        const auto *banner = find<QWidget>("draftBanner");
-        return banner->isVisible()
-                   ? banner->findChild<QLabel *>(QStringLiteral("noticeHeading"))->text()
-                   : QString();
+        const auto *banner = field<QWidget>("draftBanner");
+        return banner->isVisible() ? find<QLabel>(*banner, "noticeHeading")->text() : QString();
     }
     QString offerText() const
     {
-        return find<QWidget>("draftBanner")
-            ->findChild<QLabel *>(QStringLiteral("noticeText"))
-            ->text();
+        return find<QLabel>(*field<QWidget>("draftBanner"), "noticeText")->text();
     }
+    void lockAndUnlock()
+    {
+        lock();
+        unlock();
+    }
+    void goOn() const { click("continueDraftButton"); }
 
     QStringList files() const
     {
         QStringList paths;
-        QDirIterator each(test.folder.filePath(QStringLiteral("data/drafts")), QDir::Files,
-                          QDirIterator::Subdirectories);
+        QDirIterator each(test.path("data/drafts"), QDir::Files, QDirIterator::Subdirectories);
         while (each.hasNext())
             paths.append(each.next());
         return paths;
     }
-
-    void lock() { test.core.lockCurrentSafe(); }
-    void unlock()
-    {
-        QSignalSpy open(&test.core, &GPMAppCore::safeLockedChanged);
-        bool loaded = false;
-        QObject receiver;
-        QObject::connect(&test.core.currentSafe()->drafts(), &DraftStore::loaded, &receiver,
-                         [&loaded] { loaded = true; });
-        test.core.unlockCurrentSafe(testPassword);
-        if (!open.wait() || !QTest::qWaitFor([&loaded] { return loaded; }))
-            qFatal("The safe does not open");
-    }
-
     /// Waits for what the drafts' worker has to do, and for what follows from that.
     void settle() const
     {
-        DraftStore &drafts = test.core.currentSafe()->drafts();
+        DraftStore &drafts = safe().drafts();
         QSignalSpy loaded(&drafts, &DraftStore::loaded);
         drafts.loadAsync();
         if (!loaded.wait())
             qFatal("The drafts are not read");
     }
-
-    /// While the folder is away nothing can be saved.
-    void takeAway(const std::function<void()> &act)
-    {
-        const std::shared_ptr<GPMSafe> safe = test.core.currentSafe();
-        const QString content = safe->folder() + QStringLiteral("/content");
-        if (!safe->saveChanges() || !QDir().rename(content, content + QStringLiteral("-away")))
-            qFatal("The folder is in use");
-        act();
-        QDir().rename(content + QStringLiteral("-away"), content);
-    }
     void saveInVain()
     {
-        QSignalSpy saved(test.core.currentSafe().get(), &GPMSafe::saved);
+        QSignalSpy saved(&safe(), &GPMSafe::saved);
         click("saveButton");
         // The report of an earlier save may still come.
         if (!QTest::qWaitFor(
                 [&saved] { return !saved.isEmpty() && !saved.last().first().toBool(); }))
             qFatal("Saving should fail");
     }
-
-    QString addAndEdit(const QString &title, const QString &userName)
-    {
-        const QString id = test.addLogin(title);
-        find<QListView>("itemList")
-            ->setCurrentIndex(find<QListView>("itemList")->model()->index(0, 0));
-        click("editButton");
-        type("loginField", userName);
-        return id;
-    }
-
-    TestCore test;
-    Theme theme;
-    TestAsker asker;
-    std::unique_ptr<MainView> view;
 };
 
 } // namespace
@@ -160,7 +76,6 @@ private Q_SLOTS:
         QTest::newRow("new, lock") << true << false;
         QTest::newRow("edit, exit") << false << true;
     }
-
     void lockKeepsAnEditAndOffersIt()
     {
         QFETCH(bool, isNew);
@@ -168,15 +83,15 @@ private Q_SLOTS:
         Desk desk;
         QString id;
         if (isNew) {
-            QTest::keyClick(desk.view.get(), Qt::Key_N, Qt::ControlModifier);
-            desk.type("titleField", QStringLiteral("Cloudmail"));
-            desk.type("loginField", QStringLiteral("bea"));
+            desk.press(Qt::Key_N, Qt::ControlModifier);
+            desk.type("titleField", "Cloudmail");
+            desk.type("loginField", "bea");
         } else {
-            id = desk.addAndEdit(QStringLiteral("Cloudmail"), QStringLiteral("bea"));
+            id = desk.addAndEdit("Cloudmail", "bea");
         }
-        desk.type("passwordField", QStringLiteral("typed"));
-        desk.type("urlField", QStringLiteral("half an addr"));
-        desk.find<QPlainTextEdit>("noteField")->setPlainText(QStringLiteral("two\nlines"));
+        desk.type("passwordField", "typed");
+        desk.type("urlField", "half an addr");
+        desk.field<QPlainTextEdit>("noteField")->setPlainText("two\nlines"_s);
         if (exits)
             desk.test.core.exitPasswordManager();
         else
@@ -185,41 +100,38 @@ private Q_SLOTS:
         QCOMPARE(desk.files().size(), 1);
         QCOMPARE(desk.offer(), QString());
         if (exits)
-            desk.start();
+            desk.startAgain();
         desk.unlock();
-        QCOMPARE(desk.offer(),
-                 isNew ? QStringLiteral("You were adding “Cloudmail” when the safe locked.")
-                       : QStringLiteral("You were editing “Cloudmail” when the safe locked."));
+        QCOMPARE(desk.offer(), isNew ? "You were adding “Cloudmail” when the safe locked."_s
+                                     : "You were editing “Cloudmail” when the safe locked."_s);
         if (!isNew)
-            QCOMPARE(desk.test.login(id)->login(), QStringLiteral("ana"));
+            QCOMPARE(desk.test.login(id)->login(), "ana"_s);
 
-        desk.click("continueDraftButton");
+        desk.goOn();
         QCOMPARE(desk.offer(), QString());
-        QCOMPARE(desk.typed("titleField"), QStringLiteral("Cloudmail"));
-        QCOMPARE(desk.typed("loginField"), QStringLiteral("bea"));
-        QCOMPARE(desk.typed("passwordField"), QStringLiteral("typed"));
-        QCOMPARE(desk.typed("urlField"), QStringLiteral("half an addr"));
+        QCOMPARE(desk.typed("titleField"), "Cloudmail"_s);
+        QCOMPARE(desk.typed("loginField"), "bea"_s);
+        QCOMPARE(desk.typed("passwordField"), "typed"_s);
+        QCOMPARE(desk.typed("urlField"), "half an addr"_s);
         // Another lock, before anything else was typed, does not lose it either.
-        desk.lock();
-        desk.unlock();
-        desk.click("continueDraftButton");
-        QCOMPARE(desk.typed("passwordField"), QStringLiteral("typed"));
-        desk.type("urlField", QStringLiteral("mail.example"));
+        desk.lockAndUnlock();
+        desk.goOn();
+        QCOMPARE(desk.typed("passwordField"), "typed"_s);
+        desk.type("urlField", "mail.example");
         desk.click("saveButton");
         QTRY_COMPARE(desk.files(), QStringList());
-        QCOMPARE(desk.test.core.currentSafe()->itemCount(), 1);
-        const PMListItem *item = desk.test.core.currentSafe()->items().front();
-        QCOMPARE(item->property("password").toString(), QStringLiteral("typed"));
-        QCOMPARE(item->note(), QStringLiteral("two\nlines"));
-        desk.lock();
-        desk.unlock();
+        QCOMPARE(desk.safe().itemCount(), 1);
+        const PMListItem *item = desk.safe().items().front();
+        QCOMPARE(item->property("password").toString(), "typed"_s);
+        QCOMPARE(item->note(), "two\nlines"_s);
+        desk.lockAndUnlock();
         QCOMPARE(desk.offer(), QString());
     }
 
     void keepsWhileTypingForACrash()
     {
         Desk desk;
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        desk.addAndEdit("Shop", "bea");
         QTRY_COMPARE(desk.files().size(), 1);
         const QString path = desk.files().first();
         const auto bytes = [&path] {
@@ -227,13 +139,13 @@ private Q_SLOTS:
             return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         };
         const QByteArray before = bytes();
-        desk.type("loginField", QStringLiteral("cleo"));
+        desk.type("loginField", "cleo");
         QTRY_VERIFY(bytes() != before);
         QCOMPARE(desk.files().size(), 1);
         // What was taken back needs no keeping.
-        desk.type("loginField", QStringLiteral("ana"));
+        desk.type("loginField", "ana");
         QTRY_COMPARE(desk.files().size(), 0);
-        desk.type("loginField", QStringLiteral("dora"));
+        desk.type("loginField", "dora");
         QTRY_COMPARE(desk.files().size(), 1);
         desk.click("discardButton");
         QTRY_COMPARE(desk.files().size(), 0);
@@ -242,9 +154,8 @@ private Q_SLOTS:
     void anOfferCanBeDiscarded()
     {
         Desk desk;
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
-        desk.lock();
-        desk.unlock();
+        desk.addAndEdit("Shop", "bea");
+        desk.lockAndUnlock();
         desk.asker.answer = 1;
         desk.click("discardDraftButton");
         QVERIFY(!desk.offer().isEmpty());
@@ -257,25 +168,23 @@ private Q_SLOTS:
     void severalOffersComeOneAfterTheOther()
     {
         Desk desk;
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
-        desk.lock();
-        desk.unlock();
-        QTest::keyClick(desk.view.get(), Qt::Key_N, Qt::ControlModifier);
-        desk.type("titleField", QStringLiteral("Second"));
+        desk.addAndEdit("Shop", "bea");
+        desk.lockAndUnlock();
+        desk.press(Qt::Key_N, Qt::ControlModifier);
+        desk.type("titleField", "Second");
         desk.lock();
         QCOMPARE(desk.files().size(), 2);
         desk.unlock();
         QStringList offers{desk.offer()};
-        desk.click("continueDraftButton");
+        desk.goOn();
         offers.append(desk.offer());
         // What is continued is not left without a word.
         desk.asker.answer = 2;
-        desk.click("continueDraftButton");
+        desk.goOn();
         QCOMPARE(desk.asker.asked.size(), 1);
         offers.sort();
-        QCOMPARE(offers,
-                 QStringList({QStringLiteral("You were adding “Second” when the safe locked."),
-                              QStringLiteral("You were editing “Shop” when the safe locked.")}));
+        QCOMPARE(offers, QStringList({"You were adding “Second” when the safe locked."_s,
+                                      "You were editing “Shop” when the safe locked."_s}));
     }
 
     void whatBecameOfTheItemIsTold_data()
@@ -285,52 +194,50 @@ private Q_SLOTS:
         QTest::addColumn<int>("answer");
         QTest::addColumn<int>("items");
         QTest::addColumn<QString>("userName");
-        const QString changed = QStringLiteral("changed");
-        QTest::newRow("replaced") << changed << changed << 0 << 1 << QStringLiteral("bea");
-        QTest::newRow("both") << changed << changed << 1 << 2 << QStringLiteral("other device");
-        QTest::newRow("cancelled")
-            << changed << changed << 2 << 1 << QStringLiteral("other device");
-        QTest::newRow("trashed") << QStringLiteral("trashed") << QStringLiteral("in the trash") << 0
-                                 << 2 << QStringLiteral("ana");
-        QTest::newRow("deleted") << QStringLiteral("deleted") << QStringLiteral("deleted") << -1
-                                 << 1 << QString();
+        const QString changed = "changed"_s;
+        QTest::newRow("replaced") << changed << changed << 0 << 1 << "bea"_s;
+        QTest::newRow("both") << changed << changed << 1 << 2 << "other device"_s;
+        QTest::newRow("cancelled") << changed << changed << 2 << 1 << "other device"_s;
+        QTest::newRow("trashed") << "trashed"_s
+                                 << "in the trash"_s << 0 << 2 << "ana"_s;
+        QTest::newRow("deleted") << "deleted"_s
+                                 << "deleted"_s << -1 << 1 << QString();
     }
-
     void whatBecameOfTheItemIsTold()
     {
         QFETCH(QString, fate);
         QFETCH(QString, told);
         QFETCH(int, answer);
         Desk desk;
-        const QString id = desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        const QString id = desk.addAndEdit("Shop", "bea");
         desk.lock();
         {
             GPMSafe other;
-            QVERIFY(other.open(desk.test.core.currentSafe()->folder()));
+            QVERIFY(other.open(desk.safe().folder()));
             QVERIFY(other.unlock(testPassword));
             PMListItem *item = other.item(id);
-            if (fate == QStringLiteral("deleted"))
+            if (fate == "deleted"_s)
                 QVERIFY(other.removeItems({id}));
-            else if (fate == QStringLiteral("trashed"))
+            else if (fate == "trashed"_s)
                 item->setDeleted(true);
             else
-                item->setProperty("login", QStringLiteral("other device"));
-            if (fate != QStringLiteral("deleted"))
+                item->setProperty("login", "other device"_s);
+            if (fate != "deleted"_s)
                 other.touchItem(*item);
         }
         desk.unlock();
         QVERIFY2(desk.offerText().contains(told), qPrintable(desk.offerText()));
         desk.asker.answer = answer;
-        desk.click("continueDraftButton");
+        desk.goOn();
         QCOMPARE(desk.asker.asked.size(), answer < 0 ? 0 : 1);
-        if (fate == QStringLiteral("changed") && answer == 2) {
+        if (fate == "changed"_s && answer == 2) {
             QVERIFY(!desk.offer().isEmpty());
-            QCOMPARE(desk.typed("loginField"), QStringLiteral("no editor"));
+            QCOMPARE(desk.typed("loginField"), "no editor"_s);
         } else {
-            QCOMPARE(desk.typed("loginField"), QStringLiteral("bea"));
+            QCOMPARE(desk.typed("loginField"), "bea"_s);
             desk.click("saveButton");
         }
-        QTEST(desk.test.core.currentSafe()->itemCount(), "items");
+        QTEST(desk.safe().itemCount(), "items");
         QFETCH(QString, userName);
         if (!userName.isEmpty())
             QCOMPARE(desk.test.login(id)->login(), userName);
@@ -339,31 +246,27 @@ private Q_SLOTS:
     void whatWasTypedOutlivesItsItem()
     {
         Desk desk;
-        const QString id = desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
-        QVERIFY(desk.test.core.currentSafe()->removeItems({id}));
-        QCOMPARE(desk.typed("loginField"), QStringLiteral("bea"));
+        const QString id = desk.addAndEdit("Shop", "bea");
+        QVERIFY(desk.safe().removeItems({id}));
+        QCOMPARE(desk.typed("loginField"), "bea"_s);
         // Also a lock: it is kept as the draft of a new item.
-        desk.lock();
-        desk.unlock();
+        desk.lockAndUnlock();
         QVERIFY(!desk.offer().isEmpty());
-        desk.click("continueDraftButton");
-        QCOMPARE(desk.typed("loginField"), QStringLiteral("bea"));
+        desk.goOn();
+        QCOMPARE(desk.typed("loginField"), "bea"_s);
         desk.click("saveButton");
-        QCOMPARE(desk.test.core.currentSafe()->itemCount(), 1);
+        QCOMPARE(desk.safe().itemCount(), 1);
     }
 
     void unreadableFilesAreToldOf()
     {
         Desk desk;
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        desk.addAndEdit("Shop", "bea");
         desk.lock();
-        QFile file(desk.files().first());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("nothing of this safe");
-        file.close();
+        QVERIFY(FileLayer().writeBytes(desk.files().first(), "nothing of this safe"));
         desk.unlock();
-        QCOMPARE(desk.offer(), QStringLiteral("An edit that was kept could not be read."));
-        QVERIFY(!desk.find<QPushButton>("continueDraftButton")->isVisible());
+        QCOMPARE(desk.offer(), "An edit that was kept could not be read."_s);
+        QVERIFY(!desk.field<QPushButton>("continueDraftButton")->isVisible());
         desk.click("discardDraftButton");
         QCOMPARE(desk.offer(), QString());
         QVERIFY(desk.files().isEmpty());
@@ -372,86 +275,76 @@ private Q_SLOTS:
     void aFolderThatCannotBeWrittenDoesNotStopALock()
     {
         Desk desk;
-        QFile inTheWay(desk.test.folder.filePath(QStringLiteral("data/drafts")));
-        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        desk.test.file("data/drafts");
+        desk.addAndEdit("Shop", "bea");
         QSignalSpy told(&desk.test.core, &GPMAppCore::message);
         desk.lock();
-        QVERIFY(!desk.test.core.currentSafe()->isUnlocked());
+        QVERIFY(!desk.safe().isUnlocked());
         QCOMPARE(told.size(), 1);
-        QCOMPARE(told.first().first().toString(), QStringLiteral("Can't keep the edit."));
+        QCOMPARE(told.first().first().toString(), "Can't keep the edit."_s);
     }
 
     void aFailedSaveDoesNotCostTheDraft()
     {
         Desk desk;
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        desk.addAndEdit("Shop", "bea");
         QTRY_COMPARE(desk.files().size(), 1);
-        const std::shared_ptr<GPMSafe> safe = desk.test.core.currentSafe();
-        QVERIFY(safe->saveChanges());
-        const QString content = safe->folder() + QStringLiteral("/content");
-        QVERIFY(QDir().rename(content, content + QStringLiteral("-away")));
-        QSignalSpy saved(safe.get(), &GPMSafe::saved);
-        desk.click("saveButton");
-        QVERIFY(saved.wait());
-        QCOMPARE(saved.last().first().toBool(), false);
-        QVERIFY(QDir().rename(content + QStringLiteral("-away"), content));
+        desk.test.withoutFolder([&desk] { desk.saveInVain(); });
         QCOMPARE(desk.files().size(), 1);
-        QTest::keyClick(desk.view.get(), Qt::Key_S, Qt::ControlModifier);
+        desk.press(Qt::Key_S, Qt::ControlModifier);
         QTRY_COMPARE(desk.files().size(), 0);
     }
 
     void whatCouldNotBeSavedIsKeptByTheLock()
     {
         Desk desk;
-        const QString id = desk.test.addLogin(QStringLiteral("Shop"));
-        desk.takeAway([&] {
-            desk.test.login(id)->setLogin(QStringLiteral("bea"));
-            desk.test.addLogin(QStringLiteral("New"));
+        const QString id = desk.test.addLogin("Shop");
+        desk.test.withoutFolder([&] {
+            desk.test.login(id)->setLogin("bea"_s);
+            desk.test.addLogin("New");
             desk.lock();
         });
         QCOMPARE(desk.files().size(), 2);
         desk.unlock();
         for (int i = 0; i < 2; ++i) {
-            desk.click("continueDraftButton");
+            desk.goOn();
             desk.click("saveButton");
         }
         // The item had not changed meanwhile, about which would have been asked.
         QVERIFY(desk.asker.asked.isEmpty());
         QTRY_COMPARE(desk.files(), QStringList());
-        QCOMPARE(desk.test.core.currentSafe()->itemCount(), 2);
-        QCOMPARE(desk.test.login(id)->login(), QStringLiteral("bea"));
+        QCOMPARE(desk.safe().itemCount(), 2);
+        QCOMPARE(desk.test.login(id)->login(), "bea"_s);
     }
 
     void whatTheUserGaveUpIsNotKept()
     {
         Desk desk;
-        const QString other = desk.test.addLogin(QStringLiteral("Other"));
-        const QString id = desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        const QString other = desk.test.addLogin("Other");
+        const QString id = desk.addAndEdit("Shop", "bea");
         QTRY_COMPARE(desk.files().size(), 1);
-        desk.takeAway([&] {
+        desk.test.withoutFolder([&] {
             desk.saveInVain();
-            desk.test.login(other)->setNote(QStringLiteral("changed"));
+            desk.test.login(other)->setNote("changed"_s);
             desk.test.core.giveUpChanges();
             desk.lock();
         });
         QCOMPARE(desk.files(), QStringList());
         desk.unlock();
         QCOMPARE(desk.offer(), QString());
-        QVERIFY(desk.test.login(id)->login() != QStringLiteral("bea"));
+        QVERIFY(desk.test.login(id)->login() != "bea"_s);
         // It was about that one lock.
-        desk.test.login(other)->setNote(QStringLiteral("changed again"));
-        desk.lock();
-        desk.unlock();
-        QCOMPARE(desk.test.login(other)->note(), QStringLiteral("changed again"));
+        desk.test.login(other)->setNote("changed again"_s);
+        desk.lockAndUnlock();
+        QCOMPARE(desk.test.login(other)->note(), "changed again"_s);
     }
 
     void aDraftOutlivesALockWithoutASave()
     {
         Desk desk;
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        desk.addAndEdit("Shop", "bea");
         QTRY_COMPARE(desk.files().size(), 1);
-        desk.takeAway([&] {
+        desk.test.withoutFolder([&] {
             desk.saveInVain();
             desk.lock();
         });
@@ -461,8 +354,8 @@ private Q_SLOTS:
         desk.settle();
         QCOMPARE(desk.files().size(), 1);
         // A save of something else does not end what nobody has decided about.
-        QSignalSpy saved(desk.test.core.currentSafe().get(), &GPMSafe::saved);
-        desk.test.addLogin(QStringLiteral("Other"));
+        QSignalSpy saved(&desk.safe(), &GPMSafe::saved);
+        desk.test.addLogin("Other");
         QVERIFY(saved.wait());
         desk.settle();
         QCOMPARE(desk.files().size(), 1);
@@ -471,11 +364,11 @@ private Q_SLOTS:
     void aDraftOutlivesNewWindowsWithoutASave()
     {
         Desk desk;
-        desk.addAndEdit(QStringLiteral("Shop"), QStringLiteral("bea"));
+        desk.addAndEdit("Shop", "bea");
         QTRY_COMPARE(desk.files().size(), 1);
-        desk.takeAway([&] {
+        desk.test.withoutFolder([&] {
             desk.saveInVain();
-            desk.start();
+            desk.startAgain();
             desk.settle();
             desk.settle();
             QCOMPARE(desk.files().size(), 1);
@@ -486,72 +379,18 @@ private Q_SLOTS:
     {
         Desk desk;
         desk.view->createItem(PMListItem::CreditCard);
-        desk.type("titleField", QStringLiteral("Card"));
-        desk.type("expireField", QStringLiteral("1"));
-        desk.lock();
-        desk.unlock();
-        desk.click("continueDraftButton");
-        QCOMPARE(desk.typed("expireField"), QStringLiteral("1"));
-        desk.type("expireField", QStringLiteral("03 / 2031"));
-        desk.lock();
-        desk.unlock();
-        desk.click("continueDraftButton");
-        QCOMPARE(desk.typed("expireField"), QStringLiteral("03 / 2031"));
+        desk.type("titleField", "Card");
+        desk.type("expireField", "1");
+        desk.lockAndUnlock();
+        desk.goOn();
+        QCOMPARE(desk.typed("expireField"), "1"_s);
+        desk.type("expireField", "03 / 2031");
+        desk.lockAndUnlock();
+        desk.goOn();
+        QCOMPARE(desk.typed("expireField"), "03 / 2031"_s);
         desk.click("saveButton");
-        const PMListItem *item = desk.test.core.currentSafe()->items().front();
+        const PMListItem *item = desk.safe().items().front();
         QVERIFY(item->unknownKeys().document.isEmpty());
-    }
-
-    void everyKindGoesThroughTheEditorsDraft_data()
-    {
-        QTest::addColumn<int>("type");
-        for (int type = PMListItem::Login; type < PMListItem::UndefinedItem; ++type)
-            QTest::addRow("kind %d", type) << type;
-    }
-
-    void everyKindGoesThroughTheEditorsDraft()
-    {
-        QFETCH(int, type);
-        PMFieldTypes::registerMetaTypes();
-        const auto kind = static_cast<PMListItem::Type>(type);
-        const auto item = makeItem(kind);
-        ItemDraft edited(*item, itemFields(kind), true);
-        int unfinished = 0;
-        for (const ItemField &field : edited.fields()) {
-            QVariant value = edited.value(field.property);
-            if (value.type() == QVariant::String)
-                value = QStringLiteral("typed in %1").arg(QLatin1String(field.property));
-            else if (value.type() == QVariant::Int)
-                value = 2;
-            else if (value.userType() == qMetaTypeId<PMFieldTypes::Phone>())
-                value = QVariant::fromValue(
-                    PMFieldTypes::Phone{QStringLiteral("49"), QStringLiteral("30")});
-            else if (value.userType() == qMetaTypeId<PMFieldTypes::Date>())
-                // Of two dates one is not finished.
-                value = ++unfinished % 2 == 1 ? QVariant(QStringLiteral("29.0"))
-                                              : QVariant::fromValue(PMFieldTypes::Date{2030, 2, 3});
-            edited.setValue(field.property, value);
-        }
-        const KeptDraft kept = keptDraft(*item, edited);
-        QVERIFY(kept.isNew);
-        QVERIFY(!holdsDraft(*item, kept));
-        // Through the text of the file.
-        const auto json = kept.document.toJson({});
-        KeptDraft read;
-        read.document = *PMItemDocument::fromJson(*json, {});
-        ItemDraft restored(*makeItem(kind), itemFields(kind), true);
-        restoreDraft(restored, read);
-        for (const ItemField &field : edited.fields()) {
-            const QVariant before = edited.value(field.property);
-            const QVariant after = restored.value(field.property);
-            const bool same = before.userType() == after.userType() &&
-                              (before == after || before.value<PMFieldTypes::Date>() ==
-                                                      after.value<PMFieldTypes::Date>());
-            if (before.userType() == qMetaTypeId<PMFieldTypes::Phone>())
-                QCOMPARE(after.value<PMFieldTypes::Phone>(), before.value<PMFieldTypes::Phone>());
-            else
-                QVERIFY2(same, field.property);
-        }
     }
 };
 
