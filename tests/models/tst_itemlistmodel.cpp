@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "ItemListModel.h"
 #include "PMItemFactory.h"
 
@@ -35,8 +36,7 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_safe = std::make_shared<GPMSafe>();
-        QVERIFY(m_safe->init(m_folder->path(), QStringLiteral("p"), QStringLiteral("n"),
-                             QStringLiteral("h")));
+        QVERIFY(m_safe->init(m_folder->path(), "p"_s, "n"_s, "h"_s));
     }
 
     void followsTheSafe()
@@ -54,15 +54,15 @@ private Q_SLOTS:
         QVERIFY(content.wait());
         QCOMPARE(content.count(), 2); // one for both
         QSignalSpy data(&model, &ItemListModel::dataChanged);
-        item->setTitle(QStringLiteral("renamed"));
+        item->setTitle("renamed"_s);
         QCOMPARE(data.count(), 1);
-        QCOMPARE(model.indexOf(item->id()).data().toString(), QStringLiteral("renamed"));
+        QCOMPARE(model.indexOf(item->id()).data().toString(), "renamed"_s);
         QVERIFY(m_safe->removeItems({item->id()}));
-        QVERIFY(!titles(model).contains(QStringLiteral("renamed")));
+        QVERIFY(!titles(model).contains("renamed"_s));
         QCOMPARE(model.rowCount(), 2);
         m_safe->lock();
         QCOMPARE(model.rowCount(), 0);
-        QVERIFY(m_safe->unlock(QStringLiteral("p")));
+        QVERIFY(m_safe->unlock("p"_s));
         QCOMPARE(model.rowCount(), 2);
         m_safe.reset();
         model.setSafe(nullptr); // the model held the last reference

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "PMItemFactory.h"
 #include "PMLogin.h"
 #include "QuickItems.h"
@@ -24,7 +25,7 @@ private:
         item->setTitle(QString::fromUtf8(title));
         item->setUseCount(uses);
         item->setDeleted(deleted);
-        item->setSecondaryText(QStringLiteral("of ana"));
+        item->setSecondaryText("of ana"_s);
         PMListItem *added = m_safe->addItem(std::move(item));
         m_ids.insert(added->title(), added->id());
         return added;
@@ -49,7 +50,7 @@ private:
                 continue;
             }
             const auto group = QMetaEnum::fromType<QuickItems::Group>();
-            words << QStringLiteral("%1/%2[%3]")
+            words << "%1/%2[%3]"_s
                          .arg(QLatin1String(
                              group.valueToKey(index.data(QuickItems::GroupRole).toInt())))
                          .arg(index.data(ItemListModel::TypeRole).toInt())
@@ -62,8 +63,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         m_safe = std::make_shared<GPMSafe>();
-        QVERIFY(m_safe->init(m_folder.path(), QStringLiteral("p"), QStringLiteral("n"),
-                             QStringLiteral("h")));
+        QVERIFY(m_safe->init(m_folder.path(), "p"_s, "n"_s, "h"_s));
     }
     void cleanup()
     {
@@ -135,9 +135,9 @@ private Q_SLOTS:
         items.setSafe(m_safe);
         QuickItems list(items);
         list.setActive(true);
-        QVERIFY2(shown(list).startsWith(
-                     QStringLiteral("MostUsed/0[8] 119 118 117 116 115 114 113 112 All/0[12] 100")),
-                 qPrintable(shown(list)));
+        QVERIFY2(
+            shown(list).startsWith("MostUsed/0[8] 119 118 117 116 115 114 113 112 All/0[12] 100"_s),
+            qPrintable(shown(list)));
     }
 
     void givesViewsABatchAtATime()
@@ -149,12 +149,11 @@ private Q_SLOTS:
         QuickItems list(items);
         list.setActive(true);
         QVERIFY(list.rowCount() < 100);
-        QCOMPARE(list.itemAt(list.rowOf(m_ids.value(QStringLiteral("1150"))))->title(),
-                 QStringLiteral("1150"));
+        QCOMPARE(list.itemAt(list.rowOf(m_ids.value("1150"_s)))->title(), "1150"_s);
         while (list.canFetchMore({}))
             list.fetchMore({});
         QCOMPARE(list.rowCount(), 201);
-        QCOMPARE(list.rowOf(QStringLiteral("none")), -1);
+        QCOMPARE(list.rowOf("none"_s), -1);
     }
 
     void stepsFromItemToItem()
@@ -233,7 +232,7 @@ private Q_SLOTS:
         }
         m_safe->lock();
         QCOMPARE(list.rowCount(), 0);
-        QVERIFY(m_safe->unlock(QStringLiteral("p")));
+        QVERIFY(m_safe->unlock("p"_s));
     }
 };
 

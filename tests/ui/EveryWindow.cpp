@@ -45,10 +45,10 @@
 
 namespace {
 
-const QString safeFolder = QStringLiteral("/home/ana/safes/personal");
-const QString newVersionText = QStringLiteral("Opening a large safe takes half the time.\n"
-                                              "Cards are filled into forms in parts.");
-const QString extensionFolder = QStringLiteral("/opt/glaceron/extension");
+const QString safeFolder = "/home/ana/safes/personal"_s;
+const QString newVersionText = "Opening a large safe takes half the time.\n"
+                               "Cards are filled into forms in parts."_s;
+const QString extensionFolder = "/opt/glaceron/extension"_s;
 
 using ItemValues = std::initializer_list<std::pair<const char *, QVariant>>;
 
@@ -157,8 +157,8 @@ QWidget *changePassword(Stage &stage)
 QWidget *changePasswordFaults(Stage &stage)
 {
     QWidget *window = changePassword(stage);
-    QTest::keyClicks(find<QLineEdit>(*window, "oldPassword"), QStringLiteral("not it"));
-    QTest::keyClicks(find<QLineEdit>(*window, "newPassword"), QStringLiteral("walnut 7 harbour"));
+    QTest::keyClicks(find<QLineEdit>(*window, "oldPassword"), "not it"_s);
+    QTest::keyClicks(find<QLineEdit>(*window, "newPassword"), "walnut 7 harbour"_s);
     find<QAbstractButton>(*window, "changeButton")->click();
     return window;
 }
@@ -187,9 +187,8 @@ QWidget *passwordChangeInterrupted(Stage &stage)
     const std::shared_ptr<GPMSafe> safe = core.currentSafe();
     core.lockCurrentSafe();
     const QDir folder(safe->folder());
-    const QString left[] = {
-        folder.filePath(QStringLiteral("safe.passid.bak")),
-        folder.filePath(QStringLiteral("content/00000000-0000-0001-0000-000000001234"))};
+    const QString left[] = {folder.filePath("safe.passid.bak"_s),
+                            folder.filePath("content/00000000-0000-0001-0000-000000001234"_s)};
     for (const QString &path : left) {
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write("of another password") < 0)
@@ -222,8 +221,8 @@ QWidget *restoreList(Stage &stage)
 {
     dropRestored(stage);
     const QDir folder(stage.test.core.backups().folder());
-    folder.mkpath(QStringLiteral("."));
-    QFile damaged(folder.filePath(QStringLiteral("work_20260304_19b0a.gpm")));
+    folder.mkpath("."_s);
+    QFile damaged(folder.filePath("work_20260304_19b0a.gpm"_s));
     if (!damaged.open(QIODevice::WriteOnly) || damaged.write("PK\3\4 and no more") < 0)
         return nullptr;
     damaged.close();
@@ -283,9 +282,9 @@ QWidget *recentPasswords(Stage &stage)
 /// The window of a safe that was locked while an item was edited.
 QWidget *offeredDraft(Stage &stage)
 {
-    stage.choose(QStringLiteral("Cloudmail"));
+    stage.choose("Cloudmail"_s);
     stage.press("editButton");
-    find<QLineEdit>(*stage.main, "loginField")->setText(QStringLiteral("ana.m"));
+    find<QLineEdit>(*stage.main, "loginField")->setText("ana.m"_s);
     stage.test.core.lockCurrentSafe();
     bool loaded = false;
     const std::shared_ptr<GPMSafe> safe = stage.test.core.currentSafe();
@@ -349,14 +348,13 @@ QWidget *picturePreview(Stage &stage)
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    QImage(QStringLiteral(":/splash.png")).save(&buffer, "PNG");
+    QImage(":/splash.png"_s).save(&buffer, "PNG");
     return preview(stage, "passport.png", bytes);
 }
 
 QWidget *renameDialog(Stage &stage)
 {
-    return shownBeside(
-        stage, new RenameDialog(QStringLiteral("recovery-codes.txt"), stage.theme, stage.main));
+    return shownBeside(stage, new RenameDialog("recovery-codes.txt"_s, stage.theme, stage.main));
 }
 
 /// What is offered after something was typed into a page.
@@ -365,11 +363,10 @@ Show savedLogin(const char *url, const char *title, const char *userName)
     return [=](Stage &stage) -> QWidget * {
         // What an earlier case left.
         stage.test.core.loginSaving().clear();
-        stage.test.core.saveLogin({},
-                                  {{QStringLiteral("title"), QLatin1String(title)},
-                                   {QStringLiteral("url"), QLatin1String(url)},
-                                   {QStringLiteral("login"), QLatin1String(userName)},
-                                   {QStringLiteral("password"), QStringLiteral("harbour-7-tin")}});
+        stage.test.core.saveLogin({}, {{"title"_s, QLatin1String(title)},
+                                       {"url"_s, QLatin1String(url)},
+                                       {"login"_s, QLatin1String(userName)},
+                                       {"password"_s, "harbour-7-tin"_s}});
         return stage.window("saveLoginDialog");
     };
 }
@@ -378,18 +375,18 @@ Show savedLogin(const char *url, const char *title, const char *userName)
 QWidget *safeList(Stage &stage)
 {
     KnownSafes &known = stage.test.core.knownSafes();
-    const QString work = stage.test.folder.filePath(QStringLiteral("work"));
-    const QString family = QStringLiteral("/media/ana/stick/family");
+    const QString work = stage.test.folder.filePath("work"_s);
+    const QString family = "/media/ana/stick/family"_s;
     const QString personal = stage.test.core.currentSafe()->folder();
     if (known.listed(work).isEmpty()) {
-        known.create(QStringLiteral("Work"), testPassword, QStringLiteral("w"), work);
+        known.create("Work"_s, testPassword, "w"_s, work);
         known.facts().change(work, [](SafeFact &fact) {
             fact.itemCount = 61;
             fact.lastOpened = QDateTime::currentDateTimeUtc().addDays(-3);
-            fact.mirrorFolder = QStringLiteral("/cloud/work");
+            fact.mirrorFolder = "/cloud/work"_s;
             fact.lastSynchronised = QDateTime::currentDateTimeUtc().addDays(-1);
         });
-        known.facts().change(family, [](SafeFact &fact) { fact.name = QStringLiteral("Family"); });
+        known.facts().change(family, [](SafeFact &fact) { fact.name = "Family"_s; });
     }
     stage.test.core.settings().setRecentList({personal, work, family});
     // What an earlier case restored is none of them.
@@ -439,7 +436,7 @@ Show moveInFile(const QByteArray &bytes, const char *control)
 {
     return [bytes, control](Stage &stage) {
         MoveInDialog *dialog = moveIn(stage);
-        QFile file(stage.test.folder.filePath(QStringLiteral("passwords.csv")));
+        QFile file(stage.test.folder.filePath("passwords.csv"_s));
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("Can't write a file");
         file.close();
@@ -503,7 +500,7 @@ QWidget *question(Stage &stage)
 
 Stage::Stage(Safe safe)
 {
-    const int font = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/SG-R.TTF"));
+    const int font = QFontDatabase::addApplicationFont(":/fonts/SG-R.TTF"_s);
     QApplication::setFont(
         {QFontDatabase::applicationFontFamilies(font).value(0), Style::basePointSize()});
     test.createSafe();
@@ -519,14 +516,13 @@ Stage::~Stage() = default;
 
 void Stage::shareSafe()
 {
-    const QString cloud = test.folder.path() + QStringLiteral("/cloud");
-    const QString others = cloud + QStringLiteral("/family");
-    const QJsonObject account{{QStringLiteral("path"), cloud}};
-    FileLayer().writeBytes(
-        test.folder.path() + QStringLiteral("/info.json"),
-        QJsonDocument(QJsonObject{{QStringLiteral("personal"), account}}).toJson());
+    const QString cloud = test.folder.path() + "/cloud"_s;
+    const QString others = cloud + "/family"_s;
+    const QJsonObject account{{"path"_s, cloud}};
+    FileLayer().writeBytes(test.folder.path() + "/info.json"_s,
+                           QJsonDocument(QJsonObject{{"personal"_s, account}}).toJson());
     QDir().mkpath(others);
-    GPMSafe().init(others, testPassword, QStringLiteral("Family"), {});
+    GPMSafe().init(others, testPassword, "Family"_s, {});
     CloudSync &sync = test.core.cloud();
     sync.turnOn(test.core.currentSafe()->folder(), cloud);
     test.core.cloudFolders().look();
@@ -542,13 +538,13 @@ void Stage::attachRecoveryCodes()
 {
     const std::shared_ptr<GPMSafe> &safe = test.core.currentSafe();
     std::unique_ptr<PMListItem> codes = makeItem(PMListItem::Attachment);
-    codes->setTitle(QStringLiteral("recovery-codes.txt"));
+    codes->setTitle("recovery-codes.txt"_s);
     codes->setProperty("filename", codes->title());
     QBuffer bytes;
     bytes.setData(QByteArray(4000, 'x'));
     bytes.open(QIODevice::ReadOnly);
     const PMListItem *added = safe->addAttachment(std::move(codes), bytes);
-    safe->item(id(QStringLiteral("Cloudmail")))->setRefs({added->id()});
+    safe->item(id("Cloudmail"_s))->setRefs({added->id()});
 }
 
 QString Stage::id(const QString &title) const
@@ -586,16 +582,15 @@ void Stage::start(const Look &look)
     // What moves would be met half way.
     settings.setMotionOff(true);
     settings.store();
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.1.32"));
+    QCoreApplication::setApplicationVersion("1.1.32"_s);
     m_ui = std::make_unique<PMUiProvider>(test.core, [] { return true; });
     m_ui->connectCore();
-    m_ui->translator().translate(look.language.isEmpty() ? QStringLiteral("en") : look.language,
-                                 false);
+    m_ui->translator().translate(look.language.isEmpty() ? "en"_s : look.language, false);
     m_ui->createMainWindow();
     m_ui->openMainView({});
     m_ui->bringToFront();
     m_ui->sideWindows().updates().checker().setEndpoint(
-        QUrl(QStringLiteral("https://updates.glaceron.example/check")));
+        QUrl("https://updates.glaceron.example/check"_s));
     main = m_ui->mainWindow();
 }
 
@@ -648,9 +643,9 @@ void Stage::findBrowsers()
     for (const char *folder : {"/usr/bin", "/home/.config/chromium/Default"})
         QDir().mkpath(path + QLatin1String(folder));
     FileLayer files;
-    files.writeBytes(path + QStringLiteral("/usr/bin/chromium"), "x");
-    files.writeBytes(path + QStringLiteral("/usr/bin/firefox"), "x");
-    files.writeBytes(path + QStringLiteral("/home/.config/chromium/Default/Preferences"), entry);
+    files.writeBytes(path + "/usr/bin/chromium"_s, "x");
+    files.writeBytes(path + "/usr/bin/firefox"_s, "x");
+    files.writeBytes(path + "/home/.config/chromium/Default/Preferences"_s, entry);
     BrowserWatch &watch = test.core.browsers();
     const auto found = [&watch] { return watch.browsers().size() == 2; };
     // A search that runs already may not have seen them.
@@ -677,88 +672,85 @@ void Stage::fillSafe()
              {"password", password},
              {"strength", QVariant::fromValue(static_cast<PMFieldTypes::PasswordStrength>(
                               passwordStrengthLevel(password)))},
-             {"url", QStringLiteral("https://www.%1.example/login").arg(host)},
+             {"url", "https://www.%1.example/login"_s.arg(host)},
              {"useCount", login.uses},
              {"favorite", login.favorite},
              {"note", QLatin1String(login.note)}});
     }
     attachRecoveryCodes();
     add(core, PMListItem::CreditCard,
-        {{"title", QStringLiteral("Travel card")},
-         {"bank", QStringLiteral("Bank of the North")},
-         {"secondaryText", QStringLiteral("Bank of the North")},
-         {"number", QStringLiteral("5555 5555 5555 4444")},
-         {"cardholder", QStringLiteral("ANA MARTIN")},
+        {{"title", "Travel card"_s},
+         {"bank", "Bank of the North"_s},
+         {"secondaryText", "Bank of the North"_s},
+         {"number", "5555 5555 5555 4444"_s},
+         {"cardholder", "ANA MARTIN"_s},
          {"cardType", PMCreditCard::MasterCard},
-         {"code", QStringLiteral("123")},
+         {"code", "123"_s},
          {"expire", QVariant::fromValue(date(today.addDays(40)))},
-         {"bankPhone", QVariant::fromValue(PMFieldTypes::Phone{QStringLiteral("44"),
-                                                               QStringLiteral("2079 460000")})},
+         {"bankPhone", QVariant::fromValue(PMFieldTypes::Phone{"44"_s, "2079 460000"_s})},
          {"useCount", 8}});
     add(core, PMListItem::BankAccount,
-        {{"title", QStringLiteral("Household")},
-         {"bankName", QStringLiteral("Bank of the North")},
-         {"secondaryText", QStringLiteral("Bank of the North")},
-         {"name", QStringLiteral("Ana Martin")},
-         {"iban", QStringLiteral("GB33 BUKB 2020 1555 5555 55")},
-         {"pin", QStringLiteral("4711")}});
+        {{"title", "Household"_s},
+         {"bankName", "Bank of the North"_s},
+         {"secondaryText", "Bank of the North"_s},
+         {"name", "Ana Martin"_s},
+         {"iban", "GB33 BUKB 2020 1555 5555 55"_s},
+         {"pin", "4711"_s}});
     add(core, PMListItem::Identity,
-        {{"title", QStringLiteral("Ana at home")},
-         {"secondaryText", QStringLiteral("ana.martin@example.org")},
-         {"firstName", QStringLiteral("Ana")},
-         {"lastName", QStringLiteral("Martin")},
+        {{"title", "Ana at home"_s},
+         {"secondaryText", "ana.martin@example.org"_s},
+         {"firstName", "Ana"_s},
+         {"lastName", "Martin"_s},
          {"birthDate", QVariant::fromValue(PMFieldTypes::Date{1984, 2, 29})},
          {"gender", QVariant::fromValue(PMFieldTypes::Gender::Female)},
-         {"email", QStringLiteral("ana.martin@example.org")},
-         {"phone", QVariant::fromValue(
-                       PMFieldTypes::Phone{QStringLiteral("44"), QStringLiteral("7700 900123")})},
-         {"addressLine1", QStringLiteral("12 Harbour Street")},
-         {"city", QStringLiteral("Bristol")},
-         {"zipCode", QStringLiteral("BS1 4DJ")},
-         {"country", QStringLiteral("United Kingdom")}});
+         {"email", "ana.martin@example.org"_s},
+         {"phone", QVariant::fromValue(PMFieldTypes::Phone{"44"_s, "7700 900123"_s})},
+         {"addressLine1", "12 Harbour Street"_s},
+         {"city", "Bristol"_s},
+         {"zipCode", "BS1 4DJ"_s},
+         {"country", "United Kingdom"_s}});
     add(core, PMListItem::Passport,
-        {{"title", QStringLiteral("Ana's passport")},
-         {"fullName", QStringLiteral("Ana Martin")},
-         {"number", QStringLiteral("533401372")},
+        {{"title", "Ana's passport"_s},
+         {"fullName", "Ana Martin"_s},
+         {"number", "533401372"_s},
          {"expireDate", QVariant::fromValue(date(today.addYears(4)))}});
     add(core, PMListItem::SSN,
-        {{"title", QStringLiteral("National insurance")},
-         {"name", QStringLiteral("Ana Martin")},
-         {"number", QStringLiteral("QQ 12 34 56 C")}});
+        {{"title", "National insurance"_s},
+         {"name", "Ana Martin"_s},
+         {"number", "QQ 12 34 56 C"_s}});
     add(core, PMListItem::DriverLicense,
-        {{"title", QStringLiteral("Driving licence")},
-         {"fullName", QStringLiteral("Ana Martin")},
-         {"number", QStringLiteral("MARTI 852298 A99HB")},
+        {{"title", "Driving licence"_s},
+         {"fullName", "Ana Martin"_s},
+         {"number", "MARTI 852298 A99HB"_s},
          {"height", 171},
          {"expireDate", QVariant::fromValue(date(today.addDays(-20)))}});
     add(core, PMListItem::SecureNote,
-        {{"title", QStringLiteral("Alarm code")},
-         {"text", QStringLiteral("Front door: the year we moved in.\nShed: none.")}});
+        {{"title", "Alarm code"_s}, {"text", "Front door: the year we moved in.\nShed: none."_s}});
     add(core, PMListItem::FtpAccount,
-        {{"title", QStringLiteral("Photo archive")},
-         {"server", QStringLiteral("ftp.photos.example")},
-         {"username", QStringLiteral("ana")},
-         {"password", QStringLiteral("Wm3!xQ7:pLs2")}});
+        {{"title", "Photo archive"_s},
+         {"server", "ftp.photos.example"_s},
+         {"username", "ana"_s},
+         {"password", "Wm3!xQ7:pLs2"_s}});
     add(core, PMListItem::SoftwareLicense,
-        {{"title", QStringLiteral("Page layout")},
-         {"version", QStringLiteral("7.2")},
-         {"licenseKey", QStringLiteral("AB12-CD34-EF56-GH78")}});
+        {{"title", "Page layout"_s},
+         {"version", "7.2"_s},
+         {"licenseKey", "AB12-CD34-EF56-GH78"_s}});
 }
 
 QSet<QString> Stage::ownWords() const
 {
     QStringList texts{test.core.currentSafe()->name(),
                       test.core.currentSafe()->hint(),
-                      test.folder.path() + QStringLiteral("/hidden/backup passport.png"),
-                      QStringLiteral("work gpm"),
+                      test.folder.path() + "/hidden/backup passport.png"_s,
+                      "work gpm"_s,
                       extensionFolder,
-                      QStringLiteral("about:debugging#/runtime/this-firefox manifest.json"),
-                      test.folder.path() + QStringLiteral("/cloud Family"),
+                      "about:debugging#/runtime/this-firefox manifest.json"_s,
+                      test.folder.path() + "/cloud Family"_s,
                       QString::fromUtf8(browserExport),
                       QString::fromUtf8(unknownExport),
-                      QStringLiteral("passwords.csv safe.passid.bak"),
-                      QStringLiteral("Work Family family"),
-                      QStringLiteral("studio.example gitforge.example glaceron.example"),
+                      "passwords.csv safe.passid.bak"_s,
+                      "Work Family family"_s,
+                      "studio.example gitforge.example glaceron.example"_s,
                       newVersionText,
                       safeFolder};
     for (const PMListItem *item : test.core.currentSafe()->items()) {
@@ -782,7 +774,7 @@ QWidget *cloudImport(Stage &stage)
 /// The question whether an extension may connect.
 QWidget *approval(Stage &stage)
 {
-    const QString origin = QStringLiteral("moz-extension://0c4e5b2e-1f0c-4a3f-9a53-33d8b7a5d6c1");
+    const QString origin = "moz-extension://0c4e5b2e-1f0c-4a3f-9a53-33d8b7a5d6c1"_s;
     OriginApprovals &approvals = stage.test.core.approvals();
     // As if no earlier case had asked.
     approvals.approve(origin);
@@ -814,11 +806,8 @@ Show installSteps(const char *kind, const char *name)
 
 QWidget *newVersion(Stage &stage)
 {
-    const UpdateNews news{QStringLiteral("1.2.0"),
-                          QUrl(QStringLiteral("https://glaceron.example/download")),
-                          newVersionText};
-    return shownBeside(
-        stage, new NewVersionDialog(news, QStringLiteral("1.1.32"), stage.theme, stage.main));
+    const UpdateNews news{"1.2.0"_s, QUrl("https://glaceron.example/download"_s), newVersionText};
+    return shownBeside(stage, new NewVersionDialog(news, "1.1.32"_s, stage.theme, stage.main));
 }
 
 QWidget *cloudPassword(Stage &stage)
@@ -837,7 +826,7 @@ Show quickAccess(QuickAccessWish::Section section)
     return [section](Stage &stage) {
         QuickAccessWish wish;
         wish.section = section;
-        wish.url = QStringLiteral("https://mail.cloudmail.example/");
+        wish.url = "https://mail.cloudmail.example/"_s;
         Q_EMIT stage.test.core.requestQuickAccess(wish);
         return stage.window("quickAccess");
     };

@@ -1,4 +1,5 @@
 #include "WindowChecks.h"
+#include "../Text.h"
 
 #include "Contrast.h"
 #include "widgets/ElidedLabel.h"
@@ -24,9 +25,9 @@ namespace {
 
 QString describe(const QWidget &widget, const QString &fault)
 {
-    return QStringLiteral("%1 %2 “%3”: %4")
-        .arg(QLatin1String(widget.metaObject()->className()), widget.objectName(),
-             widget.property("text").toString().left(40), fault);
+    return "%1 %2 “%3”: %4"_s.arg(QLatin1String(widget.metaObject()->className()),
+                                  widget.objectName(), widget.property("text").toString().left(40),
+                                  fault);
 }
 
 /// The controls of a window that are in sight, or would be after scrolling.
@@ -149,11 +150,11 @@ QStringList WindowChecks::nameFaults(QWidget &window)
             continue;
         QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
         if (!interface)
-            faults << describe(*widget, QStringLiteral("assistive tools do not see it"));
+            faults << describe(*widget, "assistive tools do not see it"_s);
         else if (interface->text(QAccessible::Name).trimmed().isEmpty())
-            faults << describe(*widget, QStringLiteral("has no name"));
+            faults << describe(*widget, "has no name"_s);
         else if (interface->role() == QAccessible::NoRole)
-            faults << describe(*widget, QStringLiteral("has no role"));
+            faults << describe(*widget, "has no role"_s);
     }
     return faults;
 }
@@ -178,11 +179,11 @@ QStringList WindowChecks::tabFaults(QWidget &window)
         way.append(at);
         QTest::keyClick(at, Qt::Key_Tab);
         if (window.focusWidget() == at && open.size() > 1)
-            faults << describe(*at, QStringLiteral("Tab does not get out of it"));
+            faults << describe(*at, "Tab does not get out of it"_s);
     }
     for (QWidget *widget : open) {
         if (!way.contains(widget) && !widget->isAncestorOf(way.last()))
-            faults << describe(*widget, QStringLiteral("Tab does not reach it"));
+            faults << describe(*widget, "Tab does not reach it"_s);
     }
     int rises = 0;
     for (int i = 1; i < way.size(); ++i) {
@@ -191,8 +192,8 @@ QStringList WindowChecks::tabFaults(QWidget &window)
         const bool sameColumn = next.left() < before.right() && before.left() < next.right();
         // The way round from the last to the first goes up once.
         if (sameColumn && next.bottom() < before.top() && ++rises > 1)
-            faults << describe(*way.at(i), QStringLiteral("Tab goes up to it from ") +
-                                               way.at(i - 1)->objectName());
+            faults << describe(*way.at(i),
+                               "Tab goes up to it from "_s + way.at(i - 1)->objectName());
     }
     return faults;
 }
@@ -207,13 +208,12 @@ QStringList WindowChecks::clippingFaults(QWidget &window)
         if (qobject_cast<ElidedLabel *>(widget))
             continue;
         if (isClipped(*widget))
-            faults << describe(*widget, QStringLiteral("has %1×%2, needs %3×%4")
-                                            .arg(widget->width())
+            faults << describe(*widget, "has %1×%2, needs %3×%4"_s.arg(widget->width())
                                             .arg(widget->height())
                                             .arg(widget->sizeHint().width())
                                             .arg(widget->sizeHint().height()));
         else if (isCutOff(*widget))
-            faults << describe(*widget, QStringLiteral("reaches out of its parent"));
+            faults << describe(*widget, "reaches out of its parent"_s);
     }
     return faults;
 }
@@ -237,14 +237,14 @@ QStringList WindowChecks::contrastFaults(QWidget &window)
         const qreal found =
             paintedContrast(image.copy(QRect(area.topLeft() * scale, area.size() * scale)));
         if (found < readableContrast)
-            faults << describe(*widget, QStringLiteral("contrast %1").arg(found, 0, 'f', 2));
+            faults << describe(*widget, "contrast %1"_s.arg(found, 0, 'f', 2));
     }
     return faults;
 }
 
 QStringList WindowChecks::latinWords(const QString &text)
 {
-    static const QRegularExpression word(QStringLiteral("[A-Za-z]{2,}"));
+    static const QRegularExpression word("[A-Za-z]{2,}"_s);
     QStringList words;
     for (auto match = word.globalMatch(text); match.hasNext();)
         words << match.next().captured();
@@ -254,14 +254,13 @@ QStringList WindowChecks::latinWords(const QString &text)
 QStringList WindowChecks::latinTexts(QWidget &window, const QSet<QString> &knownWords)
 {
     static const QSet<QString> names = [] {
-        QStringList all = QStringLiteral("Alt Backspace Bitwarden CAPS Ctrl CSV Del Down Enter Esc "
-                                         "Firefox JSON KeePassXC Mac Meta Return Safari SSD SSDs "
-                                         "Shift Up Chrome Chromium Edge Wayland FTP IBAN PIN SWIFT "
-                                         "Skype MasterCard Visa Glaceron Password Manager http "
-                                         "https chrome password manager settings about logins edge "
-                                         "passwords extensions MM English Deutsch Espa ol Fran "
-                                         "ais")
-                              .split(QLatin1Char(' '));
+        QStringList all = "Alt Backspace Bitwarden CAPS Ctrl CSV Del Down Enter Esc "
+                          "Firefox JSON KeePassXC Mac Meta Return Safari SSD SSDs "
+                          "Shift Up Chrome Chromium Edge Wayland FTP IBAN PIN SWIFT "
+                          "Skype MasterCard Visa Glaceron Password Manager http "
+                          "https chrome password manager settings about logins edge "
+                          "passwords extensions MM English Deutsch Espa ol Fran "
+                          "ais"_s.split(QLatin1Char(' '));
         // Dates are written as the system does.
         for (int month = 1; month <= 12; ++month)
             all << QLocale::c().monthName(month)
@@ -276,8 +275,7 @@ QStringList WindowChecks::latinTexts(QWidget &window, const QSet<QString> &known
                 std::any_of(knownWords.begin(), knownWords.end(),
                             [&](const QString &own) { return own.startsWith(word); });
             if (!names.contains(word) && !known) {
-                faults << describe(
-                    widget, QStringLiteral("“%1” not translated: %2").arg(word, text.left(80)));
+                faults << describe(widget, "“%1” not translated: %2"_s.arg(word, text.left(80)));
                 return;
             }
         }

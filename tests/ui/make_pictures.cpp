@@ -25,9 +25,8 @@ int main(int argc, char *argv[])
                 window->resize(1080, 680);
             for (int turn = 0; window && turn < 5; ++turn)
                 QApplication::processEvents();
-            const QString file = QStringLiteral("%1/%2-%3.png")
-                                     .arg(folder, QLatin1String(shown.name),
-                                          dark ? QStringLiteral("dark") : QStringLiteral("light"));
+            const QString file = "%1/%2-%3.png"_s.arg(folder, QLatin1String(shown.name),
+                                                      dark ? "dark"_s : "light"_s);
             if (!window || !window->grab().save(file, "PNG", 0)) {
                 qWarning() << "No picture of" << shown.name;
                 return 1;

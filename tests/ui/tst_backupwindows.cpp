@@ -65,7 +65,7 @@ struct Program
 BackupJob::Result result(const char *name, State state,
                          ArchiveResult::Outcome outcome = ArchiveResult::Outcome::Done)
 {
-    return {QStringLiteral("/safes/x"), QLatin1String(name), state, outcome};
+    return {"/safes/x"_s, QLatin1String(name), state, outcome};
 }
 
 QByteArray contentOf(const QString &path)
@@ -148,21 +148,19 @@ private Q_SLOTS:
     {
         Program program;
         // The settings say when the program first ran; that is no backup.
-        QTRY_COMPARE(program.text("backupHeadline"), QStringLiteral("No backup yet"));
-        QVERIFY(program.text("backupNext").startsWith(QStringLiteral("Next backup: tomorrow")));
+        QTRY_COMPARE(program.text("backupHeadline"), "No backup yet"_s);
+        QVERIFY(program.text("backupNext").startsWith("Next backup: tomorrow"_s));
         program.backUp();
-        QVERIFY(program.text("backupReport").contains(QStringLiteral("checked: “Personal”")));
-        QTRY_VERIFY(
-            program.text("backupHeadline").startsWith(QStringLiteral("Last backup: today at")));
+        QVERIFY(program.text("backupReport").contains("checked: “Personal”"_s));
+        QTRY_VERIFY(program.text("backupHeadline").startsWith("Last backup: today at"_s));
         program.backUp();
-        QVERIFY(program.text("backupReport").startsWith(QStringLiteral("Unchanged")));
+        QVERIFY(program.text("backupReport").startsWith("Unchanged"_s));
         // One of two safes is changed since.
-        program.test.addLogin(QStringLiteral("Shop"));
-        QVERIFY(program.test.core.createSafe(QStringLiteral("Work"), testPassword, {}));
+        program.test.addLogin("Shop"_s);
+        QVERIFY(program.test.core.createSafe("Work"_s, testPassword, {}));
         QTRY_COMPARE(program.text("backupSafes").count(QLatin1Char('\n')), 1);
-        QTRY_VERIFY(
-            program.text("backupSafes").contains(QStringLiteral("Work: not backed up yet")));
-        QVERIFY(program.text("backupSafes").contains(QStringLiteral("changed since")));
+        QTRY_VERIFY(program.text("backupSafes").contains("Work: not backed up yet"_s));
+        QVERIFY(program.text("backupSafes").contains("changed since"_s));
 
         // A run that the timer starts, and that the user stops.
         const auto connection = connect(&program.backups(), &Backups::started, this, [&program] {
@@ -174,11 +172,11 @@ private Q_SLOTS:
         program.backups().check();
         QVERIFY(finished.wait());
         disconnect(connection);
-        QVERIFY(program.text("backupReport").startsWith(QStringLiteral("Cancelled")));
+        QVERIFY(program.text("backupReport").startsWith("Cancelled"_s));
         QVERIFY(!find<QWidget>(*program.settings, "backupProgress")->isVisible());
 
         program.test.core.settings().setEnableBackup(false);
-        QCOMPARE(program.text("backupNext"), QStringLiteral("Automatic backups are off."));
+        QCOMPARE(program.text("backupNext"), "Automatic backups are off."_s);
     }
 
     /// Told where the user looks, once.
@@ -186,14 +184,13 @@ private Q_SLOTS:
     {
         Program program;
         QSignalSpy told(&program.test.core, &GPMAppCore::message);
-        const QString folder =
-            program.test.core.currentSafe()->folder() + QStringLiteral("/safe.meta/backup");
+        const QString folder = program.test.core.currentSafe()->folder() + "/safe.meta/backup"_s;
         program.test.core.settings().setBackupPath(folder);
-        QTRY_VERIFY(program.text("backupPlaceFault").contains(QStringLiteral("is not there")));
+        QTRY_VERIFY(program.text("backupPlaceFault").contains("is not there"_s));
         program.backUp();
-        QVERIFY(program.text("backupReport").contains(QStringLiteral("can't be written")));
+        QVERIFY(program.text("backupReport").contains("can't be written"_s));
         QVERIFY(told.isEmpty());
-        QVERIFY(program.text("backupNext").startsWith(QStringLiteral("Next backup: to")));
+        QVERIFY(program.text("backupNext").startsWith("Next backup: to"_s));
         program.settings->close();
         QTRY_VERIFY(!program.window<SettingsDialog>());
         QSignalSpy finished(&program.backups(), &Backups::finished);
@@ -209,7 +206,7 @@ private Q_SLOTS:
         test.createSafe();
         QSignalSpy finished(&test.core.backups(), &Backups::finished);
         RestoreDialog::Parts parts{test.core.backups(), test.core.settings()};
-        QString other = test.folder.filePath(QStringLiteral("other"));
+        QString other = test.folder.filePath("other"_s);
         parts.chooseFolder = [&other](QWidget *, const QString &) { return other; };
         RestoreDialog dialog(parts, theme, nullptr);
         dialog.setAttribute(Qt::WA_DeleteOnClose, false);
@@ -223,31 +220,28 @@ private Q_SLOTS:
         QTRY_COMPARE(list->count(), 1);
         QVERIFY(restore->isEnabled());
         const QDir folder(test.core.backups().folder());
-        const QString good = folder.filePath(folder.entryList({QStringLiteral("*.gpm")}).first());
+        const QString good = folder.filePath(folder.entryList({"*.gpm"_s}).first());
         QVERIFY(QDir().mkpath(other));
-        const QString damaged = other + QStringLiteral("/work_20200304_ff.gpm");
+        const QString damaged = other + "/work_20200304_ff.gpm"_s;
         QVERIFY(QFile::copy(good, damaged) && QFile(damaged).resize(300));
-        QVERIFY(QFile::copy(good, other + QStringLiteral("/work_20190304_ff.gpm")));
+        QVERIFY(QFile::copy(good, other + "/work_20190304_ff.gpm"_s));
 
         find<QAbstractButton>(dialog, "otherFolderButton")->click();
         QTRY_COMPARE(list->count(), 2);
-        QCOMPARE(list->item(0)->text(), QStringLiteral("work_20200304_ff.gpm"));
-        QVERIFY(list->item(0)
-                    ->data(Qt::AccessibleTextRole)
-                    .toString()
-                    .contains(QStringLiteral("Damaged")));
+        QCOMPARE(list->item(0)->text(), "work_20200304_ff.gpm"_s);
+        QVERIFY(list->item(0)->data(Qt::AccessibleTextRole).toString().contains("Damaged"_s));
         QVERIFY(!restore->isEnabled());
-        QVERIFY(find<QLabel>(dialog, "restoreWord")->text().contains(QStringLiteral("damaged")));
+        QVERIFY(find<QLabel>(dialog, "restoreWord")->text().contains("damaged"_s));
         QSignalSpy chosen(&dialog, &RestoreDialog::chosen);
         QTest::keyClick(list, Qt::Key_Return);
         QVERIFY(chosen.isEmpty());
         QTest::keyClick(list, Qt::Key_Down);
-        QCOMPARE(list->currentItem()->text(), QStringLiteral("Personal"));
+        QCOMPARE(list->currentItem()->text(), "Personal"_s);
         // The day alone: the time of the copy says nothing.
         QVERIFY(list->currentItem()
                     ->data(Qt::AccessibleTextRole)
                     .toString()
-                    .startsWith(QStringLiteral("Personal, 04/03/2019 · ")));
+                    .startsWith("Personal, 04/03/2019 · "_s));
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(chosen.count(), 1);
         QVERIFY(!dialog.isVisible());
@@ -261,8 +255,7 @@ private Q_SLOTS:
         auto *dialog = program.window<RestoreDialog>();
         auto *list = find<QListWidget>(*dialog, "backupList");
         QTRY_COMPARE(list->count(), 1);
-        program.test.core.settings().setBackupPath(
-            program.test.folder.filePath(QStringLiteral("new")));
+        program.test.core.settings().setBackupPath(program.test.folder.filePath("new"_s));
         QTRY_COMPARE(list->count(), 0);
         QVERIFY(!find<QWidget>(*dialog, "restoreButton")->isEnabled());
     }
@@ -270,13 +263,13 @@ private Q_SLOTS:
     void aBackupBecomesASafeAgain()
     {
         Program program;
-        const QString id = program.test.addLogin(QStringLiteral("Shop"));
+        const QString id = program.test.addLogin("Shop"_s);
         const QString before = program.test.core.currentSafe()->folder();
         QVERIFY(program.test.core.saveCurrentSafe());
         program.backUp();
         program.test.core.modelItemPurged(id);
         QVERIFY(program.test.core.saveCurrentSafe());
-        const QByteArray description = contentOf(before + QStringLiteral("/safe.meta"));
+        const QByteArray description = contentOf(before + "/safe.meta"_s);
 
         program.press("restoreFromButton");
         auto *dialog = program.window<RestoreDialog>();
@@ -285,9 +278,7 @@ private Q_SLOTS:
         QWidget *progress = find<QWidget>(*program.ui.mainWindow(), "progressDialog");
         auto *way = find<QAbstractButton>(*progress, "wayButton");
         QTRY_VERIFY(way->isVisible());
-        QVERIFY(find<QLabel>(*progress, "progressText")
-                    ->text()
-                    .startsWith(QStringLiteral("“Personal [")));
+        QVERIFY(find<QLabel>(*progress, "progressText")->text().startsWith("“Personal ["_s));
         way->click();
 
         GPMAppCore &core = program.test.core;
@@ -297,7 +288,7 @@ private Q_SLOTS:
                  after);
         QVERIFY(core.selectSafe(after) && core.currentSafe()->unlock(testPassword));
         QVERIFY(core.currentSafe()->item(id));
-        QCOMPARE(contentOf(before + QStringLiteral("/safe.meta")), description);
+        QCOMPARE(contentOf(before + "/safe.meta"_s), description);
     }
 
     /// Whoever has no safe, or none that opens, gets there too.

@@ -23,7 +23,7 @@
 namespace {
 
 using State = CloudStatus::State;
-const QString newPassword = QStringLiteral("another password 2");
+const QString newPassword = "another password 2"_s;
 const int quickly = 20000; // how long to wait for what comes at once
 
 /// One computer with its windows, which shares a cloud folder with others.
@@ -55,7 +55,7 @@ struct Computer
     {
         auto login = std::make_unique<PMLogin>();
         login->setTitle(title);
-        login->setLogin(QStringLiteral("ana"));
+        login->setLogin("ana"_s);
         return core.modelAddItem(std::move(login))->id();
     }
     /// Nothing when no answer comes.
@@ -106,8 +106,8 @@ private:
     std::unique_ptr<Computer> m_one;
     std::unique_ptr<Computer> m_two;
 
-    QString cloud() const { return m_shared->filePath(QStringLiteral("cloud")); }
-    QString infoFile() const { return m_shared->filePath(QStringLiteral("info.json")); }
+    QString cloud() const { return m_shared->filePath("cloud"_s); }
+    QString infoFile() const { return m_shared->filePath("info.json"_s); }
 
     QWidget *panelOf(Computer &computer)
     {
@@ -120,7 +120,7 @@ private:
     /// Both have the safe, by the ways that a user goes.
     void share()
     {
-        QVERIFY(m_one->core.createSafe(QStringLiteral("Work"), testPassword, {}));
+        QVERIFY(m_one->core.createSafe("Work"_s, testPassword, {}));
         QWidget *panel = panelOf(*m_one);
         QVERIFY(panel);
         QTRY_VERIFY_WITH_TIMEOUT(find<QComboBox>(*panel, "cloudPlace")->count() == 1, quickly);
@@ -151,8 +151,8 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(cloud()));
         QFile info(infoFile());
         QVERIFY(info.open(QIODevice::WriteOnly));
-        const QJsonObject account{{QStringLiteral("path"), cloud()}};
-        info.write(QJsonDocument(QJsonObject{{QStringLiteral("personal"), account}}).toJson());
+        const QJsonObject account{{"path"_s, cloud()}};
+        info.write(QJsonDocument(QJsonObject{{"personal"_s, account}}).toJson());
         info.close();
         m_one = std::make_unique<Computer>(infoFile());
         m_two = std::make_unique<Computer>(infoFile());
@@ -169,13 +169,13 @@ private Q_SLOTS:
         if (QTest::currentTestFailed())
             return;
         auto *list = find<QAbstractItemView>(m_two->window(), "itemList");
-        const QString first = m_one->add(QStringLiteral("First"));
+        const QString first = m_one->add("First"_s);
         QTRY_COMPARE_WITH_TIMEOUT(list->model()->rowCount(), 1, quickly);
         // The round goes on after the item came in.
         QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>(m_two->window(), "snackText")->text(),
-                                  QStringLiteral("One item came from the cloud folder"), quickly);
+                                  "One item came from the cloud folder"_s, quickly);
         QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>(m_two->window(), "safeState")->text(),
-                                  QStringLiteral("Synchronised"), quickly);
+                                  "Synchronised"_s, quickly);
         m_one->core.modelItemDeleted(first);
         QTRY_COMPARE_WITH_TIMEOUT(list->model()->rowCount(), 0, quickly);
     }
@@ -187,24 +187,22 @@ private Q_SLOTS:
         for (const char *what : {"changed", "trashed", "deleted"})
             QTest::newRow(what) << QString::fromLatin1(what);
     }
-
     void whatIsEditedIsNotOverwritten()
     {
         share();
         if (QTest::currentTestFailed())
             return;
         QFETCH(QString, what);
-        const QString id = m_one->add(QStringLiteral("Shop"));
+        const QString id = m_one->add("Shop"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->item(id), quickly);
-        m_two->choose(QStringLiteral("Shop"));
+        m_two->choose("Shop"_s);
         m_two->press("editButton");
         auto *field = find<QLineEdit>(m_two->window(), "loginField");
-        field->setText(QStringLiteral("typed"));
+        field->setText("typed"_s);
         if (what == QLatin1String("changed")) {
-            m_one->item(id)->setTitle(QStringLiteral("Their title"));
+            m_one->item(id)->setTitle("Their title"_s);
             m_one->core.modelItemChanged(id);
-            QTRY_COMPARE_WITH_TIMEOUT(m_two->item(id)->title(), QStringLiteral("Their title"),
-                                      quickly);
+            QTRY_COMPARE_WITH_TIMEOUT(m_two->item(id)->title(), "Their title"_s, quickly);
         } else if (what == QLatin1String("trashed")) {
             m_one->core.modelItemDeleted(id);
             QTRY_VERIFY_WITH_TIMEOUT(m_two->item(id)->deleted(), quickly);
@@ -213,7 +211,7 @@ private Q_SLOTS:
             QTRY_VERIFY_WITH_TIMEOUT(!m_two->item(id), quickly);
         }
         QCOMPARE(m_two->beside("goneNotice") != nullptr, what == QLatin1String("deleted"));
-        QCOMPARE(find<QLineEdit>(m_two->window(), "loginField")->text(), QStringLiteral("typed"));
+        QCOMPARE(find<QLineEdit>(m_two->window(), "loginField")->text(), "typed"_s);
         m_two->press("saveButton");
         QVERIFY(!m_two->beside("goneNotice"));
         const auto arrived = [&]() -> const PMLogin * {
@@ -226,9 +224,7 @@ private Q_SLOTS:
         };
         QTRY_VERIFY_WITH_TIMEOUT(arrived(), quickly);
         QCOMPARE(m_one->core.currentSafe()->itemCount(), 1);
-        QCOMPARE(arrived()->title(), what == QLatin1String("changed")
-                                         ? QStringLiteral("Their title")
-                                         : QStringLiteral("Shop"));
+        QCOMPARE(arrived()->title(), what == QLatin1String("changed") ? "Their title"_s : "Shop"_s);
     }
 
     void anEditThatChangesNothingGoesWithItsItem()
@@ -236,9 +232,9 @@ private Q_SLOTS:
         share();
         if (QTest::currentTestFailed())
             return;
-        const QString id = m_one->add(QStringLiteral("Shop"));
+        const QString id = m_one->add("Shop"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->item(id), quickly);
-        m_two->choose(QStringLiteral("Shop"));
+        m_two->choose("Shop"_s);
         m_two->press("editButton");
         m_one->core.modelItemPurged(id);
         QTRY_VERIFY_WITH_TIMEOUT(!m_two->item(id), quickly);
@@ -250,7 +246,7 @@ private Q_SLOTS:
         share();
         if (QTest::currentTestFailed())
             return;
-        const QString id = m_one->add(QStringLiteral("Shop"));
+        const QString id = m_one->add("Shop"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->item(id), quickly);
         QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
         QVERIFY(m_one->core.currentSafe()->changePassword(newPassword));
@@ -261,7 +257,7 @@ private Q_SLOTS:
             find<QLineEdit>(*dialog, "cloudPasswordField")->setText(password);
             QTest::keyClick(find<QLineEdit>(*dialog, "cloudPasswordField"), Qt::Key_Return);
         };
-        answer(QStringLiteral("wrong"));
+        answer("wrong"_s);
         QTRY_VERIFY_WITH_TIMEOUT(Computer::shown(m_two->window(), "cloudPasswordMessage"), quickly);
         find<QAbstractButton>(*m_two->beside("cloudPasswordDialog"), "notNowButton")->click();
         QVERIFY(!m_two->beside("cloudPasswordDialog"));
@@ -270,16 +266,15 @@ private Q_SLOTS:
         m_two->core.lockCurrentSafe();
         using Outcome = SafeUnlock::Outcome;
         QCOMPARE(m_two->unlock(newPassword), std::optional(Outcome::MirrorPassword));
-        QCOMPARE(m_two->unlock(QStringLiteral("wrong")), std::optional(Outcome::WrongPassword));
+        QCOMPARE(m_two->unlock("wrong"_s), std::optional(Outcome::WrongPassword));
         QCOMPARE(m_two->unlock(testPassword), std::optional(Outcome::Unlocked));
         QTRY_VERIFY_WITH_TIMEOUT(m_two->core.cloud().needsPassword(), quickly);
-        QCOMPARE(find<QLabel>(m_two->window(), "safeState")->text(),
-                 QStringLiteral("New password"));
+        QCOMPARE(find<QLabel>(m_two->window(), "safeState")->text(), "New password"_s);
 
         // Later, from the menu of the safe.
-        auto *menu = m_two->window().findChild<QMenu *>(QStringLiteral("safeMenu"));
+        auto *menu = m_two->window().findChild<QMenu *>("safeMenu"_s);
         menu->popup({});
-        menu->findChild<QAction *>(QStringLiteral("synchronizeAction"))->trigger();
+        menu->findChild<QAction *>("synchronizeAction"_s)->trigger();
         menu->close();
         QVERIFY(m_two->beside("cloudPasswordDialog"));
         answer(newPassword);
@@ -312,11 +307,10 @@ private Q_SLOTS:
         QTest::newRow("remove") << 1 << false << false;
         QTest::newRow("cancel") << 2 << true << true;
     }
-
     void turningOffAsksWhatBecomesOfTheCopy()
     {
         QFETCH(int, answer);
-        QVERIFY(m_one->core.createSafe(QStringLiteral("Work"), testPassword, {}));
+        QVERIFY(m_one->core.createSafe("Work"_s, testPassword, {}));
         Theme theme;
         QWidget host;
         QStringList asked;
@@ -338,8 +332,7 @@ private Q_SLOTS:
         auto *toggle = find<QAbstractButton>(panel, "cloudToggle");
         toggle->click();
         QTRY_VERIFY_WITH_TIMEOUT(
-            find<QLabel>(panel, "cloudFault")->text().contains(QStringLiteral("part of the safe")),
-            quickly);
+            find<QLabel>(panel, "cloudFault")->text().contains("part of the safe"_s), quickly);
         QVERIFY(!toggle->isChecked());
 
         place->setCurrentIndex(place->findData(cloud()));
@@ -348,7 +341,7 @@ private Q_SLOTS:
         QVERIFY(find<QLabel>(panel, "cloudFault")->text().isEmpty());
         const QString mirror = m_one->core.cloud().status().mirrorFolder;
         toggle->click();
-        QCOMPARE(asked, QStringList{QStringLiteral("Stop synchronising “Work”?")});
+        QCOMPARE(asked, QStringList{"Stop synchronising “Work”?"_s});
         QTEST(m_one->core.cloud().status().isOn(), "isOn");
         QTEST(toggle->isChecked(), "isOn");
         QFETCH(bool, isThere);

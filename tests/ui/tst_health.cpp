@@ -10,20 +10,6 @@
 #include <QPushButton>
 #include <QToolButton>
 
-class TestHealth : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void ignoredFindingsCanBeBroughtBack();
-    void changeOpensTheEditor();
-    void lockClosesTheWindow();
-    void lockDuringTheQuestionOfARow();
-    void weakOnesAreFoundBySearch();
-    void changePasswordPages_data();
-    void changePasswordPages();
-};
-
 namespace {
 
 struct Program
@@ -34,7 +20,7 @@ struct Program
         openWithSafe(view, test);
         for (const char *title : {"Alpha", "Beta", "Gamma"}) {
             const QString id = test.addLogin(QLatin1String(title));
-            test.login(id)->setPassword(QLatin1String(title) + QStringLiteral("1"));
+            test.login(id)->setPassword(QLatin1String(title) + "1"_s);
         }
         view.show();
     }
@@ -60,110 +46,115 @@ struct Program
 
 } // namespace
 
-void TestHealth::ignoredFindingsCanBeBroughtBack()
+class TestHealth : public QObject
 {
-    Program program;
-    const std::shared_ptr<GPMSafe> safe = program.test.core.currentSafe();
-    HealthDialog *dialog = program.open();
-    const auto tile = [dialog] {
-        return find<QPushButton>(*dialog, "healthTile0")->accessibleName();
-    };
-    auto *ignored = find<QPushButton>(*dialog, "ignoredButton");
-    QCOMPARE(tile(), QStringLiteral("Weak: 3"));
-    QVERIFY(!ignored->isVisible());
+    Q_OBJECT
 
-    // By keyboard, which stays at that place.
-    QSignalSpy saved(safe.get(), &GPMSafe::saved);
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
-    Program::rows(*dialog).at(1)->ignoreButton()->setFocus();
-    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
-    QTRY_COMPARE(tile(), QStringLiteral("Weak: 2"));
-    QCOMPARE(Program::rows(*dialog).size(), 2);
-    QCOMPARE(dialog->focusWidget(), Program::rows(*dialog).at(1)->ignoreButton());
-    QCOMPARE(ignored->text(), QStringLiteral("Ignored (1)"));
-    QTRY_VERIFY(!program.test.core.hasUnsavedChanges());
+private Q_SLOTS:
+    void ignoredFindingsCanBeBroughtBack()
+    {
+        Program program;
+        const std::shared_ptr<GPMSafe> safe = program.test.core.currentSafe();
+        HealthDialog *dialog = program.open();
+        const auto tile = [dialog] {
+            return find<QPushButton>(*dialog, "healthTile0")->accessibleName();
+        };
+        auto *ignored = find<QPushButton>(*dialog, "ignoredButton");
+        QCOMPARE(tile(), "Weak: 3"_s);
+        QVERIFY(!ignored->isVisible());
 
-    ignored->click();
-    QCOMPARE(Program::rows(*dialog).size(), 1);
-    Program::rows(*dialog).first()->ignoreButton()->click();
-    QTRY_COMPARE(tile(), QStringLiteral("Weak: 3"));
-    QCOMPARE(Program::rows(*dialog).size(), 3);
-}
+        // By keyboard, which stays at that place.
+        QSignalSpy saved(safe.get(), &GPMSafe::saved);
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        Program::rows(*dialog).at(1)->ignoreButton()->setFocus();
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+        QTRY_COMPARE(tile(), "Weak: 2"_s);
+        QCOMPARE(Program::rows(*dialog).size(), 2);
+        QCOMPARE(dialog->focusWidget(), Program::rows(*dialog).at(1)->ignoreButton());
+        QCOMPARE(ignored->text(), "Ignored (1)"_s);
+        QTRY_VERIFY(!program.test.core.hasUnsavedChanges());
 
-void TestHealth::changeOpensTheEditor()
-{
-    Program program;
-    HealthDialog *dialog = program.open();
-    // Whatever the list shows just now.
-    find<QLineEdit>(program.view, "searchField")->setText(QStringLiteral("Alpha"));
-    find<QPushButton>(*Program::rows(*dialog).at(2), "changeButton")->click();
-    auto *title = find<QLineEdit>(program.view, "titleField");
-    QVERIFY(title);
-    QCOMPARE(title->text(), QStringLiteral("Gamma"));
+        ignored->click();
+        QCOMPARE(Program::rows(*dialog).size(), 1);
+        Program::rows(*dialog).first()->ignoreButton()->click();
+        QTRY_COMPARE(tile(), "Weak: 3"_s);
+        QCOMPARE(Program::rows(*dialog).size(), 3);
+    }
 
-    QSignalSpy opened(&program.test.core, &GPMAppCore::openAddress);
-    find<QToolButton>(*Program::rows(*dialog).first(), "changePageButton")->click();
-    QCOMPARE(opened.first().first().toUrl(),
-             QUrl(QStringLiteral("https://shop.example/.well-known/change-password")));
+    void changeOpensTheEditor()
+    {
+        Program program;
+        HealthDialog *dialog = program.open();
+        // Whatever the list shows just now.
+        find<QLineEdit>(program.view, "searchField")->setText("Alpha"_s);
+        find<QPushButton>(*Program::rows(*dialog).at(2), "changeButton")->click();
+        auto *title = find<QLineEdit>(program.view, "titleField");
+        QVERIFY(title);
+        QCOMPARE(title->text(), "Gamma"_s);
 
-    // What was changed is no longer listed.
-    find<QLineEdit>(program.view, "passwordField")->setText(QStringLiteral("q7V<m2X,8Rz!Kd"));
-    find<QPushButton>(program.view, "saveButton")->click();
-    QTRY_COMPARE(Program::rows(*dialog).size(), 2);
-}
+        QSignalSpy opened(&program.test.core, &GPMAppCore::openAddress);
+        find<QToolButton>(*Program::rows(*dialog).first(), "changePageButton")->click();
+        QCOMPARE(opened.first().first().toUrl(),
+                 QUrl("https://shop.example/.well-known/change-password"_s));
 
-void TestHealth::lockClosesTheWindow()
-{
-    Program program;
-    const QPointer<HealthDialog> dialog = program.open();
-    program.test.core.lockCurrentSafe();
-    QVERIFY(!dialog);
-}
+        // What was changed is no longer listed.
+        find<QLineEdit>(program.view, "passwordField")->setText("q7V<m2X,8Rz!Kd"_s);
+        find<QPushButton>(program.view, "saveButton")->click();
+        QTRY_COMPARE(Program::rows(*dialog).size(), 2);
+    }
 
-void TestHealth::lockDuringTheQuestionOfARow()
-{
-    Program program;
-    const QPointer<HealthDialog> dialog = program.open();
-    program.view.createItem(PMListItem::Login);
-    find<QLineEdit>(program.view, "titleField")->setText(QStringLiteral("typed"));
-    program.asker.meanwhile = [&] { program.test.core.lockCurrentSafe(); };
-    auto *change = find<QPushButton>(*Program::rows(*dialog).first(), "changeButton");
-    QTest::mouseClick(change, Qt::LeftButton);
-    QCOMPARE(program.asker.asked.size(), 1);
-    QVERIFY(!dialog);
-}
+    void lockClosesTheWindow()
+    {
+        Program program;
+        const QPointer<HealthDialog> dialog = program.open();
+        program.test.core.lockCurrentSafe();
+        QVERIFY(!dialog);
+    }
 
-void TestHealth::weakOnesAreFoundBySearch()
-{
-    Program program;
-    const QString id = program.test.addLogin(QStringLiteral("Delta"));
-    program.test.login(id)->setPassword(QStringLiteral("q7V<m2X,8Rz!Kd"));
-    const auto *list = find<QListView>(program.view, "itemList");
-    find<QLineEdit>(program.view, "searchField")->setText(QStringLiteral("is:weak"));
-    QTRY_COMPARE(list->model()->rowCount(), 3);
-    program.test.login(id)->setPassword(QStringLiteral("delta1"));
-    QTRY_COMPARE(list->model()->rowCount(), 4);
-}
+    void lockDuringTheQuestionOfARow()
+    {
+        Program program;
+        const QPointer<HealthDialog> dialog = program.open();
+        program.view.createItem(PMListItem::Login);
+        find<QLineEdit>(program.view, "titleField")->setText("typed"_s);
+        program.asker.meanwhile = [&] { program.test.core.lockCurrentSafe(); };
+        auto *change = find<QPushButton>(*Program::rows(*dialog).first(), "changeButton");
+        QTest::mouseClick(change, Qt::LeftButton);
+        QCOMPARE(program.asker.asked.size(), 1);
+        QVERIFY(!dialog);
+    }
 
-void TestHealth::changePasswordPages_data()
-{
-    QTest::addColumn<QString>("page");
-    const auto row = [](const char *address, const char *page) {
-        QTest::newRow(address) << QString::fromLatin1(page);
-    };
-    row("https://a:b@shop.example:8443/login?x=1#y",
-        "https://shop.example:8443/.well-known/change-password");
-    row("http://shop.example", "http://shop.example/.well-known/change-password");
-    row("shop.example", "");
-    row("file:///etc/passwd", "");
-    row("javascript:alert(1)", "");
-}
+    void weakOnesAreFoundBySearch()
+    {
+        Program program;
+        const QString id = program.test.addLogin("Delta"_s);
+        program.test.login(id)->setPassword("q7V<m2X,8Rz!Kd"_s);
+        const auto *list = find<QListView>(program.view, "itemList");
+        find<QLineEdit>(program.view, "searchField")->setText("is:weak"_s);
+        QTRY_COMPARE(list->model()->rowCount(), 3);
+        program.test.login(id)->setPassword("delta1"_s);
+        QTRY_COMPARE(list->model()->rowCount(), 4);
+    }
 
-void TestHealth::changePasswordPages()
-{
-    QFETCH(QString, page);
-    QCOMPARE(changePasswordPage(QLatin1String(QTest::currentDataTag())).toString(), page);
-}
+    void changePasswordPages_data()
+    {
+        QTest::addColumn<QString>("page");
+        const auto row = [](const char *address, const char *page) {
+            QTest::newRow(address) << QString::fromLatin1(page);
+        };
+        row("https://a:b@shop.example:8443/login?x=1#y",
+            "https://shop.example:8443/.well-known/change-password");
+        row("http://shop.example", "http://shop.example/.well-known/change-password");
+        row("shop.example", "");
+        row("file:///etc/passwd", "");
+        row("javascript:alert(1)", "");
+    }
+    void changePasswordPages()
+    {
+        QFETCH(QString, page);
+        QCOMPARE(changePasswordPage(QLatin1String(QTest::currentDataTag())).toString(), page);
+    }
+};
 
 QTEST_MAIN(TestHealth)
 #include "tst_health.moc"

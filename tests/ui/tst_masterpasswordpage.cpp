@@ -9,21 +9,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-class TestMasterPasswordPage : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void noSafeYet();
-    void nothingChosen();
-    void wrongPasswordThenRight();
-    void emptyPasswordIsWrong();
-    void doubleEnterDoesNotCancel();
-    void missingFolderIsUnavailable();
-    void lastUsedSafeComesFirst();
-    void cancelledUnlockLeavesItLocked();
-};
-
 namespace {
 
 struct Page
@@ -49,163 +34,171 @@ using State = UnlockLogic::State;
 
 } // namespace
 
-void TestMasterPasswordPage::noSafeYet()
+class TestMasterPasswordPage : public QObject
 {
-    TestCore test;
-    Page page(test);
-    QCOMPARE(page.logic.state(), State::NoSafes);
-    QCOMPARE(find<QLabel>(page.page, "unlockSubtitle")->text(),
-             QStringLiteral("You have not Safe yet\nCreate one?"));
-    QSignalSpy wanted(&page.page, &MasterPasswordPage::createRequested);
-    page.page.takeFocus();
-    QVERIFY(QTest::qWaitForWindowActive(&page.page));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    QCOMPARE(wanted.count(), 1);
-}
+    Q_OBJECT
 
-void TestMasterPasswordPage::nothingChosen()
-{
-    TestCore first;
-    QVERIFY(first.createSafe());
-    first.core.lockCurrentSafe();
-    GPMAppCore core(TestCore::places(first.folder.path()));
-    UnlockLogic logic(core);
-    QCOMPARE(logic.state(), State::NoneChosen);
-    logic.unlock(testPassword);
-    QCOMPARE(logic.message(), QStringLiteral("No any safe is selected"));
-    QCOMPARE(logic.state(), State::NoneChosen);
-}
-
-void TestMasterPasswordPage::wrongPasswordThenRight()
-{
-    TestCore test;
-    QVERIFY(test.createSafe());
-    test.core.lockCurrentSafe();
-    Page page(test);
-    page.logic.chooseFirst({});
-    QCOMPARE(find<QLabel>(page.page, "safeHint")->text(), QStringLiteral("Hint: the usual"));
-    QVERIFY(QTest::qWaitForWindowActive(&page.page));
-    page.page.takeFocus();
-
-    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
-    QTest::keyClicks(page.password(), QStringLiteral("Master password 1"));
-    QTest::keyClick(page.password(), Qt::Key_Return);
-    QCOMPARE(page.logic.state(), State::Unlocking);
-    QCOMPARE(page.password()->text(), QString());
-    QVERIFY(finished.wait());
-    QCOMPARE(page.message(), QStringLiteral("Wrong Password! Try again"));
-    QCOMPARE(QApplication::focusWidget(), page.password());
-    QVERIFY(!test.core.currentSafe()->isUnlocked());
-
-    QTest::keyClicks(page.password(), testPassword);
-    QTest::keyClick(page.password(), Qt::Key_Return);
-    QCOMPARE(page.message(), QString());
-    QVERIFY(finished.wait());
-    QVERIFY(test.core.currentSafe()->isUnlocked());
-    QCOMPARE(page.message(), QString());
-}
-
-void TestMasterPasswordPage::emptyPasswordIsWrong()
-{
-    TestCore test;
-    QVERIFY(test.createSafe());
-    test.core.lockCurrentSafe();
-    Page page(test);
-    page.logic.chooseFirst({});
-    QVERIFY(QTest::qWaitForWindowActive(&page.page));
-    page.page.takeFocus();
-    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
-    for (QWidget *pressed :
-         {static_cast<QWidget *>(page.password()), static_cast<QWidget *>(page.unlock())}) {
-        pressed->setFocus();
-        QTest::keyClick(pressed, Qt::Key_Return);
-        QCOMPARE(page.message(), QStringLiteral("Wrong Password! Try again"));
-        QCOMPARE(page.logic.state(), State::Ready);
-        QCOMPARE(QApplication::focusWidget(), page.password());
-    }
-    QCOMPARE(finished.count(), 0);
-}
-
-void TestMasterPasswordPage::doubleEnterDoesNotCancel()
-{
-    TestCore test;
-    QVERIFY(test.createSafe());
-    test.core.lockCurrentSafe();
-    Page page(test);
-    page.logic.chooseFirst({});
-    QVERIFY(QTest::qWaitForWindowActive(&page.page));
-    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
-    for (QWidget *pressed :
-         {static_cast<QWidget *>(page.password()), static_cast<QWidget *>(page.unlock())}) {
-        page.password()->setText(testPassword);
-        pressed->setFocus();
-        QTest::keyClick(pressed, Qt::Key_Return);
-        QCOMPARE(page.logic.state(), State::Unlocking);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QVERIFY(finished.wait());
-        QCOMPARE(finished.last().first().value<SafeUnlock::Outcome>(),
-                 SafeUnlock::Outcome::Unlocked);
-        test.core.lockCurrentSafe();
+private Q_SLOTS:
+    void noSafeYet()
+    {
+        TestCore test;
+        Page page(test);
+        QCOMPARE(page.logic.state(), State::NoSafes);
+        QCOMPARE(find<QLabel>(page.page, "unlockSubtitle")->text(),
+                 "You have not Safe yet\nCreate one?"_s);
+        QSignalSpy wanted(&page.page, &MasterPasswordPage::createRequested);
         page.page.takeFocus();
+        QVERIFY(QTest::qWaitForWindowActive(&page.page));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(wanted.count(), 1);
     }
-}
 
-void TestMasterPasswordPage::missingFolderIsUnavailable()
-{
-    TestCore test;
-    QVERIFY(test.createSafe(QStringLiteral("Gone")));
-    const QString gone = test.core.currentSafe()->folder();
-    QVERIFY(test.createSafe(QStringLiteral("Here")));
-    const QString here = test.core.currentSafe()->folder();
-    test.core.lockCurrentSafe();
-    QVERIFY(QDir(gone).removeRecursively());
+    void nothingChosen()
+    {
+        TestCore first;
+        QVERIFY(first.createSafe());
+        first.core.lockCurrentSafe();
+        GPMAppCore core(TestCore::places(first.folder.path()));
+        UnlockLogic logic(core);
+        QCOMPARE(logic.state(), State::NoneChosen);
+        logic.unlock(testPassword);
+        QCOMPARE(logic.message(), "No any safe is selected"_s);
+        QCOMPARE(logic.state(), State::NoneChosen);
+    }
 
-    Page page(test);
-    page.logic.chooseFirst(gone);
-    QCOMPARE(page.logic.chosenFolder(), here);
-    const auto *selector = find<QComboBox>(page.page, "safeSelector");
-    QVERIFY(selector->itemText(selector->findData(gone)).endsWith(QLatin1String("(unavailable)")));
+    void wrongPasswordThenRight()
+    {
+        TestCore test;
+        QVERIFY(test.createSafe());
+        test.core.lockCurrentSafe();
+        Page page(test);
+        page.logic.chooseFirst({});
+        QCOMPARE(find<QLabel>(page.page, "safeHint")->text(), "Hint: the usual"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&page.page));
+        page.page.takeFocus();
 
-    page.logic.choose(gone);
-    QCOMPARE(page.logic.state(), State::Unavailable);
-    QVERIFY(page.message().contains(QDir::toNativeSeparators(gone)));
-    QVERIFY(!page.password()->isEnabled());
-    page.logic.choose(here);
-    QCOMPARE(page.logic.state(), State::Ready);
-    QCOMPARE(page.message(), QString());
-}
+        QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+        QTest::keyClicks(page.password(), "Master password 1"_s);
+        QTest::keyClick(page.password(), Qt::Key_Return);
+        QCOMPARE(page.logic.state(), State::Unlocking);
+        QCOMPARE(page.password()->text(), QString());
+        QVERIFY(finished.wait());
+        QCOMPARE(page.message(), "Wrong Password! Try again"_s);
+        QCOMPARE(QApplication::focusWidget(), page.password());
+        QVERIFY(!test.core.currentSafe()->isUnlocked());
 
-void TestMasterPasswordPage::lastUsedSafeComesFirst()
-{
-    TestCore test;
-    QVERIFY(test.createSafe(QStringLiteral("Old")));
-    const QString old = test.core.currentSafe()->folder();
-    QVERIFY(test.createSafe(QStringLiteral("New")));
-    test.core.lockCurrentSafe();
-    UnlockLogic logic(test.core);
-    logic.chooseFirst(old);
-    QCOMPARE(logic.chosenFolder(), old);
-    QCOMPARE(test.core.currentSafe()->name(), QStringLiteral("Old"));
-}
+        QTest::keyClicks(page.password(), testPassword);
+        QTest::keyClick(page.password(), Qt::Key_Return);
+        QCOMPARE(page.message(), QString());
+        QVERIFY(finished.wait());
+        QVERIFY(test.core.currentSafe()->isUnlocked());
+        QCOMPARE(page.message(), QString());
+    }
 
-void TestMasterPasswordPage::cancelledUnlockLeavesItLocked()
-{
-    TestCore test;
-    QVERIFY(test.createSafe());
-    for (int i = 0; i < 30; ++i)
-        test.addLogin(QString::number(i));
-    test.core.lockCurrentSafe();
-    Page page(test);
-    page.logic.chooseFirst({});
-    QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
-    page.logic.unlock(testPassword);
-    QTest::keyClick(&page.page, Qt::Key_Escape);
-    QVERIFY(finished.wait());
-    QCOMPARE(finished.first().first().value<SafeUnlock::Outcome>(), SafeUnlock::Outcome::Cancelled);
-    QCOMPARE(page.logic.state(), State::Ready);
-    QVERIFY(!test.core.currentSafe()->isUnlocked());
-    QVERIFY(page.password()->isEnabled());
-}
+    void emptyPasswordIsWrong()
+    {
+        TestCore test;
+        QVERIFY(test.createSafe());
+        test.core.lockCurrentSafe();
+        Page page(test);
+        page.logic.chooseFirst({});
+        QVERIFY(QTest::qWaitForWindowActive(&page.page));
+        page.page.takeFocus();
+        QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+        for (QWidget *pressed :
+             {static_cast<QWidget *>(page.password()), static_cast<QWidget *>(page.unlock())}) {
+            pressed->setFocus();
+            QTest::keyClick(pressed, Qt::Key_Return);
+            QCOMPARE(page.message(), "Wrong Password! Try again"_s);
+            QCOMPARE(page.logic.state(), State::Ready);
+            QCOMPARE(QApplication::focusWidget(), page.password());
+        }
+        QCOMPARE(finished.count(), 0);
+    }
+
+    void doubleEnterDoesNotCancel()
+    {
+        TestCore test;
+        QVERIFY(test.createSafe());
+        test.core.lockCurrentSafe();
+        Page page(test);
+        page.logic.chooseFirst({});
+        QVERIFY(QTest::qWaitForWindowActive(&page.page));
+        QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+        for (QWidget *pressed :
+             {static_cast<QWidget *>(page.password()), static_cast<QWidget *>(page.unlock())}) {
+            page.password()->setText(testPassword);
+            pressed->setFocus();
+            QTest::keyClick(pressed, Qt::Key_Return);
+            QCOMPARE(page.logic.state(), State::Unlocking);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QVERIFY(finished.wait());
+            QCOMPARE(finished.last().first().value<SafeUnlock::Outcome>(),
+                     SafeUnlock::Outcome::Unlocked);
+            test.core.lockCurrentSafe();
+            page.page.takeFocus();
+        }
+    }
+
+    void missingFolderIsUnavailable()
+    {
+        TestCore test;
+        QVERIFY(test.createSafe("Gone"_s));
+        const QString gone = test.core.currentSafe()->folder();
+        QVERIFY(test.createSafe("Here"_s));
+        const QString here = test.core.currentSafe()->folder();
+        test.core.lockCurrentSafe();
+        QVERIFY(QDir(gone).removeRecursively());
+
+        Page page(test);
+        page.logic.chooseFirst(gone);
+        QCOMPARE(page.logic.chosenFolder(), here);
+        const auto *selector = find<QComboBox>(page.page, "safeSelector");
+        QVERIFY(
+            selector->itemText(selector->findData(gone)).endsWith(QLatin1String("(unavailable)")));
+
+        page.logic.choose(gone);
+        QCOMPARE(page.logic.state(), State::Unavailable);
+        QVERIFY(page.message().contains(QDir::toNativeSeparators(gone)));
+        QVERIFY(!page.password()->isEnabled());
+        page.logic.choose(here);
+        QCOMPARE(page.logic.state(), State::Ready);
+        QCOMPARE(page.message(), QString());
+    }
+
+    void lastUsedSafeComesFirst()
+    {
+        TestCore test;
+        QVERIFY(test.createSafe("Old"_s));
+        const QString old = test.core.currentSafe()->folder();
+        QVERIFY(test.createSafe("New"_s));
+        test.core.lockCurrentSafe();
+        UnlockLogic logic(test.core);
+        logic.chooseFirst(old);
+        QCOMPARE(logic.chosenFolder(), old);
+        QCOMPARE(test.core.currentSafe()->name(), "Old"_s);
+    }
+
+    void cancelledUnlockLeavesItLocked()
+    {
+        TestCore test;
+        QVERIFY(test.createSafe());
+        for (int i = 0; i < 30; ++i)
+            test.addLogin(QString::number(i));
+        test.core.lockCurrentSafe();
+        Page page(test);
+        page.logic.chooseFirst({});
+        QSignalSpy finished(&test.core, &GPMAppCore::unlockFinished);
+        page.logic.unlock(testPassword);
+        QTest::keyClick(&page.page, Qt::Key_Escape);
+        QVERIFY(finished.wait());
+        QCOMPARE(finished.first().first().value<SafeUnlock::Outcome>(),
+                 SafeUnlock::Outcome::Cancelled);
+        QCOMPARE(page.logic.state(), State::Ready);
+        QVERIFY(!test.core.currentSafe()->isUnlocked());
+        QVERIFY(page.password()->isEnabled());
+    }
+};
 
 QTEST_MAIN(TestMasterPasswordPage)
 #include "tst_masterpasswordpage.moc"

@@ -117,10 +117,10 @@ private Q_SLOTS:
         QTest::keyClick(dialog.get(), Qt::Key_Escape);
         QVERIFY(!dialog->isVisible());
         dialog.reset();
-        const QSettings store(fixture.test.folder.filePath(QStringLiteral("uisettings.ini")),
+        const QSettings store(fixture.test.folder.filePath("uisettings.ini"_s),
                               QSettings::IniFormat);
-        QCOMPARE(store.value(QStringLiteral("PasswordGenerator_Length")).toInt(), 14);
-        QCOMPARE(store.value(QStringLiteral("PasswordGenerator_SpecialCharsCount")).toInt(), 3);
+        QCOMPARE(store.value("PasswordGenerator_Length"_s).toInt(), 14);
+        QCOMPARE(store.value("PasswordGenerator_SpecialCharsCount"_s).toInt(), 3);
         dialog = fixture.open();
         QCOMPARE(shown(*dialog).size(), 14);
         QCOMPARE(find<QSpinBox>(*dialog, "specialCount")->value(), 3);
@@ -139,7 +139,7 @@ private Q_SLOTS:
                            [&obstacle] { return obstacle; }});
         QVERIFY(button->isEnabled());
         // The browser left behind the window's back: nothing is handed over and it says why.
-        obstacle = QStringLiteral("gone");
+        obstacle = "gone"_s;
         button->click();
         QCOMPARE(placed, QString());
         QVERIFY(dialog->isVisible());
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.recent.password(9), used);
 
         QTest::keyClick(find<QPushButton>(*dialog, "recentButton"), Qt::Key_Space);
-        QCOMPARE(recentTexts(*dialog).count(QStringLiteral("used")), 1);
+        QCOMPARE(recentTexts(*dialog).count("used"_s), 1);
         for (const QString &text : recentTexts(*dialog))
             QVERIFY(!made.contains(text) && text != used);
         const auto buttons =
@@ -195,9 +195,9 @@ private Q_SLOTS:
             recent.markUsed(QString::number(i));
         }
         // All are in use: the oldest goes, not the one that came.
-        recent.add(QStringLiteral("new"));
-        QCOMPARE(recent.password(0), QStringLiteral("new"));
-        QCOMPARE(recent.password(9), QStringLiteral("1"));
+        recent.add("new"_s);
+        QCOMPARE(recent.password(0), "new"_s);
+        QCOMPARE(recent.password(9), "1"_s);
     }
 
     void lockingClosesTheWindow()

@@ -22,7 +22,7 @@
 
 namespace {
 
-const QString page = QStringLiteral("https://www.shop.example/cart");
+const QString page = "https://www.shop.example/cart"_s;
 
 GPMAppCore::Places withPort(const QTemporaryDir &folder)
 {
@@ -49,10 +49,7 @@ struct Quick
         provider.openMainView({});
     }
 
-    bool createSafe()
-    {
-        return core.createSafe(QStringLiteral("Mine"), testPassword, QStringLiteral("the usual"));
-    }
+    bool createSafe() { return core.createSafe("Mine"_s, testPassword, "the usual"_s); }
 
     template <typename Item = PMLogin>
     Item *add(const QString &title, const QString &url = {})
@@ -60,19 +57,19 @@ struct Quick
         auto item = std::make_unique<Item>();
         item->setTitle(title);
         item->setUrl(url);
-        item->setSecondaryText(QStringLiteral("ana of ") + title);
+        item->setSecondaryText("ana of "_s + title);
         return qobject_cast<Item *>(core.modelAddItem(std::move(item)));
     }
     PMLogin *addLogin(const QString &title, const QString &url = {})
     {
         PMLogin *login = add(title, url);
-        login->setLogin(QStringLiteral("ana at ") + title);
-        login->setPassword(QStringLiteral("secret of ") + title);
+        login->setLogin("ana at "_s + title);
+        login->setPassword("secret of "_s + title);
         return login;
     }
 
     /// Opens it as the browser would.
-    void open(const QJsonObject &wish = {{QStringLiteral("url"), page}})
+    void open(const QJsonObject &wish = {{"url"_s, page}})
     {
         Q_EMIT core.requestQuickAccess(QuickAccessWish::fromExtension(caller, wish));
     }
@@ -181,35 +178,33 @@ private Q_SLOTS:
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Archive"), QStringLiteral("https://archive.example"));
-        const QString shop =
-            quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"))->id();
+        quick.addLogin("Archive"_s, "https://archive.example"_s);
+        const QString shop = quick.addLogin("Shop"_s, "https://shop.example"_s)->id();
         Browser browser(quick);
         quick.open();
         QVERIFY(quick.isShown());
-        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
-        QCOMPARE(quick.chosen(), QStringLiteral("Shop"));
+        QCOMPARE(quick.focus(), "quickSearch"_s);
+        QCOMPARE(quick.chosen(), "Shop"_s);
         quick.press(Qt::Key_Return);
         QVERIFY(!quick.isShown());
         QTRY_COMPARE(textOf(browser.request(), "itemid"), shop);
-        QCOMPARE(textOf(browser.request(), "openmode"), QStringLiteral("currentNoReload"));
+        QCOMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
     }
 
     void enterOpensThePageOfAnotherLogin()
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"));
-        const QString other =
-            quick.addLogin(QStringLiteral("Other"), QStringLiteral("https://other.example"))->id();
+        quick.addLogin("Shop"_s, "https://shop.example"_s);
+        const QString other = quick.addLogin("Other"_s, "https://other.example"_s)->id();
         quick.core.settings().setPluginOpenMode(GPMAppSettings::NewTab);
         Browser browser(quick);
         quick.open();
         quick.press(Qt::Key_Down);
-        QCOMPARE(quick.chosen(), QStringLiteral("Other"));
+        QCOMPARE(quick.chosen(), "Other"_s);
         quick.press(Qt::Key_Enter, Qt::KeypadModifier);
         QTRY_COMPARE(textOf(browser.request(), "itemid"), other);
-        QCOMPARE(textOf(browser.request(), "openmode"), QStringLiteral("newtab"));
+        QCOMPARE(textOf(browser.request(), "openmode"), "newtab"_s);
     }
 
     void arrowsAndLettersFind()
@@ -218,20 +213,20 @@ private Q_SLOTS:
         QVERIFY(quick.createSafe());
         for (const char *title : {"Alpha", "Beta", "Gamma", "Shop"})
             quick.addLogin(QLatin1String(title));
-        quick.add<PMCreditCard>(QStringLiteral("Betacard"));
+        quick.add<PMCreditCard>("Betacard"_s);
         quick.provider.bringToFront();
         quick.open();
         QVERIFY(QTest::qWaitForWindowActive(quick.window()));
-        QCOMPARE(quick.chosen(), QStringLiteral("Alpha"));
+        QCOMPARE(quick.chosen(), "Alpha"_s);
         quick.press(Qt::Key_Up);
-        QCOMPARE(quick.chosen(), QStringLiteral("Alpha"));
+        QCOMPARE(quick.chosen(), "Alpha"_s);
         quick.press(Qt::Key_PageDown);
-        QCOMPARE(quick.chosen(), QStringLiteral("Shop"));
-        quick.type(QStringLiteral("bet"));
-        QCOMPARE(quick.chosen(), QStringLiteral("Beta"));
+        QCOMPARE(quick.chosen(), "Shop"_s);
+        quick.type("bet"_s);
+        QCOMPARE(quick.chosen(), "Beta"_s);
         quick.press(Qt::Key_Down);
-        QCOMPARE(quick.chosen(), QStringLiteral("Betacard"));
-        quick.type(QStringLiteral("zz"));
+        QCOMPARE(quick.chosen(), "Betacard"_s);
+        quick.type("zz"_s);
         QCOMPARE(quick.chosen(), QString());
         QVERIFY(find<QWidget>(*quick.window(), "quickEmpty")->isVisible());
         quick.press(Qt::Key_Return);
@@ -239,15 +234,15 @@ private Q_SLOTS:
         quick.press(Qt::Key_Escape);
         QVERIFY(!quick.isShown());
         // The next time nothing is left of it.
-        quick.open({{QStringLiteral("kind"), QStringLiteral("creditcard")}});
+        quick.open({{"kind"_s, "creditcard"_s}});
         QVERIFY(QTest::qWaitForWindowActive(quick.window()));
-        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
-        QCOMPARE(quick.chosen(), QStringLiteral("Betacard"));
+        QCOMPARE(quick.focus(), "quickSearch"_s);
+        QCOMPARE(quick.chosen(), "Betacard"_s);
         quick.window()->close();
         quick.open();
         QVERIFY(QTest::qWaitForWindowActive(quick.window()));
-        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
-        QCOMPARE(quick.chosen(), QStringLiteral("Alpha"));
+        QCOMPARE(quick.focus(), "quickSearch"_s);
+        QCOMPARE(quick.chosen(), "Alpha"_s);
         QCOMPARE(find<QLineEdit>(*quick.window(), "quickSearch")->text(), QString());
     }
 
@@ -255,16 +250,16 @@ private Q_SLOTS:
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Beta"));
-        PMLogin *gamma = quick.addLogin(QStringLiteral("Gamma"));
+        quick.addLogin("Beta"_s);
+        PMLogin *gamma = quick.addLogin("Gamma"_s);
         quick.open();
         quick.press(Qt::Key_Down);
-        quick.addLogin(QStringLiteral("Alpha"));
+        quick.addLogin("Alpha"_s);
         auto *list = find<QListView>(*quick.window(), "quickList");
         QTRY_COMPARE(list->model()->rowCount(), 4);
-        QCOMPARE(quick.chosen(), QStringLiteral("Gamma"));
+        QCOMPARE(quick.chosen(), "Gamma"_s);
         quick.core.modelItemDeleted(gamma->id());
-        QTRY_COMPARE(quick.chosen(), QStringLiteral("Alpha"));
+        QTRY_COMPARE(quick.chosen(), "Alpha"_s);
     }
 
     void copies_data()
@@ -283,19 +278,19 @@ private Q_SLOTS:
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Shop"));
-        auto *card = quick.add<PMCreditCard>(QStringLiteral("Visa"));
-        card->setNumber(QStringLiteral("4111"));
-        card->setCardholder(QStringLiteral("ANA M"));
-        auto *person = quick.add<PMIdentity>(QStringLiteral("Ana"));
-        person->setEmail(QStringLiteral("ana@example.org"));
-        person->setFirstName(QStringLiteral("Ana"));
-        person->setLastName(QStringLiteral("Martin"));
+        quick.addLogin("Shop"_s);
+        auto *card = quick.add<PMCreditCard>("Visa"_s);
+        card->setNumber("4111"_s);
+        card->setCardholder("ANA M"_s);
+        auto *person = quick.add<PMIdentity>("Ana"_s);
+        person->setEmail("ana@example.org"_s);
+        person->setFirstName("Ana"_s);
+        person->setLastName("Martin"_s);
         QFETCH(int, section);
         quick.open();
         QVERIFY(QTest::qWaitForWindowActive(quick.window()));
         quick.press(Qt::Key(Qt::Key_0 + section), Qt::ControlModifier);
-        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
+        QCOMPARE(quick.focus(), "quickSearch"_s);
         quick.press(Qt::Key_C, Qt::ControlModifier);
         QTEST(QGuiApplication::clipboard()->text(), "secret");
         QVERIFY(find<QWidget>(*quick.window(), "copyNotice")->isVisible());
@@ -307,40 +302,39 @@ private Q_SLOTS:
             uses += item->useCount();
         QCOMPARE(uses, 2);
         // What is marked in the field is copied as everywhere.
-        quick.type(QStringLiteral("s"));
+        quick.type("s"_s);
         quick.press(Qt::Key_A, Qt::ControlModifier);
         quick.press(Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("s"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), "s"_s);
     }
 
     void tabGoesThroughTheSections()
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Shop"));
-        quick.add<PMCreditCard>(QStringLiteral("Visa"));
+        quick.addLogin("Shop"_s);
+        quick.add<PMCreditCard>("Visa"_s);
         quick.open();
         quick.press(Qt::Key_Tab);
         quick.press(Qt::Key_Tab);
-        QCOMPARE(quick.focus(), QStringLiteral("section1"));
+        QCOMPARE(quick.focus(), "section1"_s);
         quick.press(Qt::Key_Space);
-        QCOMPARE(quick.chosen(), QStringLiteral("Visa"));
-        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
+        QCOMPARE(quick.chosen(), "Visa"_s);
+        QCOMPARE(quick.focus(), "quickSearch"_s);
         QVERIFY(find<QToolButton>(*quick.window(), "section1")->isChecked());
         QVERIFY(!find<QToolButton>(*quick.window(), "section0")->isChecked());
         quick.press(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(quick.focus(), QStringLiteral("section3"));
+        QCOMPARE(quick.focus(), "section3"_s);
         quick.press(Qt::Key_Space);
-        QCOMPARE(quick.focus(), QStringLiteral("length"));
+        QCOMPARE(quick.focus(), "length"_s);
         // From there on it goes from control to control, and back to the sections.
         QStringList seen;
-        for (int i = 0; i < 12 && !seen.contains(QStringLiteral("section3")); ++i) {
+        for (int i = 0; i < 12 && !seen.contains("section3"_s); ++i) {
             quick.press(Qt::Key_Tab);
             seen.append(quick.focus());
         }
-        QVERIFY2(seen.contains(QStringLiteral("specialCount")) &&
-                     seen.contains(QStringLiteral("copyButton")) &&
-                     seen.contains(QStringLiteral("section3")),
+        QVERIFY2(seen.contains("specialCount"_s) && seen.contains("copyButton"_s) &&
+                     seen.contains("section3"_s),
                  qPrintable(seen.join(QLatin1Char(' '))));
     }
 
@@ -355,19 +349,19 @@ private Q_SLOTS:
         QFETCH(bool, fill);
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Archive"), QStringLiteral("https://archive.example"));
-        quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"));
+        quick.addLogin("Archive"_s, "https://archive.example"_s);
+        quick.addLogin("Shop"_s, "https://shop.example"_s);
         Browser browser(quick);
         quick.core.lockCurrentSafe();
-        quick.open({{QStringLiteral("url"), page}, {QStringLiteral("fill"), fill}});
+        quick.open({{"url"_s, page}, {"fill"_s, fill}});
         QVERIFY(quick.isShown());
-        QCOMPARE(quick.focus(), QStringLiteral("masterPassword"));
+        QCOMPARE(quick.focus(), "masterPassword"_s);
         QSignalSpy finished(&quick.core, &GPMAppCore::unlockFinished);
-        quick.type(QStringLiteral("wrong"));
+        quick.type("wrong"_s);
         quick.press(Qt::Key_Return);
         QVERIFY(finished.wait());
         QVERIFY(quick.isShown());
-        QCOMPARE(quick.focus(), QStringLiteral("masterPassword"));
+        QCOMPARE(quick.focus(), "masterPassword"_s);
         QCOMPARE(find<QLineEdit>(*quick.window(), "masterPassword")->text(), QString());
         quick.type(testPassword);
         quick.press(Qt::Key_Return);
@@ -375,14 +369,14 @@ private Q_SLOTS:
         QCOMPARE(quick.isShown(), !fill);
         QVERIFY(!quick.provider.mainWindow()->isVisible());
         if (fill) {
-            QTRY_COMPARE(textOf(browser.request(), "openmode"), QStringLiteral("currentNoReload"));
+            QTRY_COMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
             return;
         }
-        QCOMPARE(quick.focus(), QStringLiteral("quickSearch"));
-        QCOMPARE(quick.chosen(), QStringLiteral("Shop"));
+        QCOMPARE(quick.focus(), "quickSearch"_s);
+        QCOMPARE(quick.chosen(), "Shop"_s);
         // Locked again, nothing of it is left.
         quick.core.lockCurrentSafe();
-        QCOMPARE(quick.focus(), QStringLiteral("masterPassword"));
+        QCOMPARE(quick.focus(), "masterPassword"_s);
         QCOMPARE(find<QListView>(*quick.window(), "quickList")->model()->rowCount(), 0);
     }
 
@@ -391,24 +385,24 @@ private Q_SLOTS:
         QTest::addColumn<QString>("url");
         QTest::addColumn<bool>("opens");
         QTest::newRow("one login") << page << false;
-        QTest::newRow("two") << QStringLiteral("https://mail.example/") << true;
-        QTest::newRow("none") << QStringLiteral("https://else.example/") << true;
-        QTest::newRow("not encrypted") << QStringLiteral("http://shop.example/") << true;
+        QTest::newRow("two") << "https://mail.example/"_s << true;
+        QTest::newRow("none") << "https://else.example/"_s << true;
+        QTest::newRow("not encrypted") << "http://shop.example/"_s << true;
     }
     void fillsAtOnceOnlyWhatIsPlain()
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"));
-        quick.addLogin(QStringLiteral("Mail"), QStringLiteral("https://mail.example"));
-        quick.addLogin(QStringLiteral("Mail 2"), QStringLiteral("https://www.mail.example"));
+        quick.addLogin("Shop"_s, "https://shop.example"_s);
+        quick.addLogin("Mail"_s, "https://mail.example"_s);
+        quick.addLogin("Mail 2"_s, "https://www.mail.example"_s);
         Browser browser(quick);
         QFETCH(QString, url);
         QFETCH(bool, opens);
-        quick.open({{QStringLiteral("url"), url}, {QStringLiteral("fill"), true}});
+        quick.open({{"url"_s, url}, {"fill"_s, true}});
         QCOMPARE(quick.isShown(), opens);
         if (!opens)
-            QTRY_COMPARE(textOf(browser.request(), "openmode"), QStringLiteral("currentNoReload"));
+            QTRY_COMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
     }
 
     void withoutASafeItLeadsToTheMainWindow()
@@ -426,11 +420,10 @@ private Q_SLOTS:
         Quick quick;
         QVERIFY(quick.createSafe());
         Browser browser(quick);
-        quick.open(
-            {{QStringLiteral("url"), page}, {QStringLiteral("kind"), QStringLiteral("generate")}});
+        quick.open({{"url"_s, page}, {"kind"_s, "generate"_s}});
         auto *length = find<QSpinBox>(*quick.window(), "length");
         auto *made = find<QLineEdit>(*quick.window(), "generatedPassword");
-        QCOMPARE(quick.focus(), QStringLiteral("length"));
+        QCOMPARE(quick.focus(), "length"_s);
         QCOMPARE(length->minimum(), 4);
         QCOMPARE(length->maximum(), 16);
         length->setValue(15);
@@ -438,9 +431,9 @@ private Q_SLOTS:
         QTest::keyClick(length, Qt::Key_Return);
         QVERIFY(!quick.isShown());
         QCOMPARE(made->text(), QString());
-        QTRY_COMPARE(textOf(browser.request(), "reason"), QStringLiteral("placepwd"));
+        QTRY_COMPARE(textOf(browser.request(), "reason"), "placepwd"_s);
         // The length is that of the next one.
-        quick.open({{QStringLiteral("kind"), QStringLiteral("generate")}});
+        quick.open({{"kind"_s, "generate"_s}});
         QCOMPARE(made->text().size(), 15);
         // Nobody is there any more.
         quick.core.lockCurrentSafe();
@@ -458,7 +451,7 @@ private Q_SLOTS:
             opens = quick.isShown();
             QApplication::activeModalWidget()->close();
         });
-        dialogAsker(quick.provider.mainWindow())({{}, {}, {QStringLiteral("OK")}});
+        dialogAsker(quick.provider.mainWindow())({{}, {}, {"OK"_s}});
         QVERIFY(opens);
         quick.window()->hide();
         quick.provider.mainWindow()->hide();
@@ -475,31 +468,30 @@ private Q_SLOTS:
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Shop A"), QStringLiteral("https://archive.example"));
-        quick.addLogin(QStringLiteral("Shop B"), QStringLiteral("https://shop.example"));
+        quick.addLogin("Shop A"_s, "https://archive.example"_s);
+        quick.addLogin("Shop B"_s, "https://shop.example"_s);
         quick.core.openQuickAccess();
-        quick.type(QStringLiteral("shop"));
-        QCOMPARE(quick.chosen(), QStringLiteral("Shop A"));
+        quick.type("shop"_s);
+        QCOMPARE(quick.chosen(), "Shop A"_s);
         Q_EMIT quick.core.quickAccessPageFound(page);
         // It is above now, below a heading.
         QCOMPARE(find<QListView>(*quick.window(), "quickList")->model()->index(1, 0).data(),
-                 QVariant(QStringLiteral("Shop B")));
-        QCOMPARE(quick.chosen(), QStringLiteral("Shop A"));
+                 QVariant("Shop B"_s));
+        QCOMPARE(quick.chosen(), "Shop A"_s);
     }
 
     void aKeyMeantForTheRowBeforeDoesNothingWithTheNewOne()
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Archive"), QStringLiteral("https://archive.example"));
-        PMLogin *shop =
-            quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"));
+        quick.addLogin("Archive"_s, "https://archive.example"_s);
+        PMLogin *shop = quick.addLogin("Shop"_s, "https://shop.example"_s);
         Browser browser(quick);
         QApplication::clipboard()->clear();
         quick.core.openQuickAccess();
-        QCOMPARE(quick.chosen(), QStringLiteral("Archive"));
+        QCOMPARE(quick.chosen(), "Archive"_s);
         Q_EMIT quick.core.quickAccessPageFound(page);
-        QCOMPARE(quick.chosen(), QStringLiteral("Shop"));
+        QCOMPARE(quick.chosen(), "Shop"_s);
         quick.press(Qt::Key_C, Qt::ControlModifier);
         quick.press(Qt::Key_Return);
         QVERIFY(quick.isShown());
@@ -518,27 +510,27 @@ private Q_SLOTS:
     {
         Quick quick;
         QVERIFY(quick.createSafe());
-        quick.addLogin(QStringLiteral("Archive"), QStringLiteral("https://archive.example"));
-        quick.addLogin(QStringLiteral("Shop"), QStringLiteral("https://shop.example"));
+        quick.addLogin("Archive"_s, "https://archive.example"_s);
+        quick.addLogin("Shop"_s, "https://shop.example"_s);
         Browser browser(quick);
         const auto answer = [&browser](QJsonObject reply, const QString &url) {
-            reply.insert(QStringLiteral("tabUrl"), url);
-            reply.insert(QStringLiteral("result"), QJsonObject{});
-            browser.sendFrame(QStringLiteral("collectDocumentResults"), reply);
+            reply.insert("tabUrl"_s, url);
+            reply.insert("result"_s, QJsonObject{});
+            browser.sendFrame("collectDocumentResults"_s, reply);
         };
         quick.core.openQuickAccess();
-        QCOMPARE(quick.chosen(), QStringLiteral("Archive"));
+        QCOMPARE(quick.chosen(), "Archive"_s);
         QTRY_VERIFY(!browser.request().isEmpty());
         // What was not asked for is no answer.
         QJsonObject other = browser.request();
-        other.insert(QStringLiteral("timestamp"), QStringLiteral("1"));
-        answer(other, QStringLiteral("https://archive.example/"));
+        other.insert("timestamp"_s, "1"_s);
+        answer(other, "https://archive.example/"_s);
         answer(browser.request(), page);
-        QTRY_COMPARE(quick.chosen(), QStringLiteral("Shop"));
+        QTRY_COMPARE(quick.chosen(), "Shop"_s);
         QTRY_VERIFY(!quick.window()->findChild<QuickList *>()->isSettling());
         quick.press(Qt::Key_Return);
-        QTRY_COMPARE(textOf(browser.request(), "openmode"), QStringLiteral("currentNoReload"));
-        QTRY_COMPARE(textOf(browser.request(), "reason"), QStringLiteral("login"));
+        QTRY_COMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
+        QTRY_COMPARE(textOf(browser.request(), "reason"), "login"_s);
     }
 
     void goesWhenTheUserTurnsToSomethingElse()

@@ -48,8 +48,7 @@ struct Desk
 
     bool makeSafe(const char *name)
     {
-        return test.core.createSafe(QLatin1String(name), testPassword, QStringLiteral("h"),
-                                    path(name));
+        return test.core.createSafe(QLatin1String(name), testPassword, "h"_s, path(name));
     }
 
     SafesDialog *openList()
@@ -116,33 +115,29 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("lines");
 
         SafeInfo safe;
-        safe.name = QStringLiteral("Work");
-        QTest::newRow("nothing known")
-            << safe << QStringList{QStringLiteral("looking…"), QStringLiteral("Not opened yet")};
+        safe.name = "Work"_s;
+        QTest::newRow("nothing known") << safe << QStringList{"looking…"_s, "Not opened yet"_s};
         safe.isRead = true;
         safe.details.backupsKnown = true;
         safe.details.size = 4300000;
         safe.fact.itemCount = 61;
         safe.fact.lastOpened = noon.addDays(-3);
         QTest::newRow("locked") << safe
-                                << QStringList{
-                                       QStringLiteral("61 items · 4.1 MB"),
-                                       QStringLiteral("Last opened 3 days ago · no backup yet")};
+                                << QStringList{"61 items · 4.1 MB"_s,
+                                               "Last opened 3 days ago · no backup yet"_s};
         safe.isOpen = true;
-        safe.fact.mirrorFolder = QStringLiteral("/cloud/x");
+        safe.fact.mirrorFolder = "/cloud/x"_s;
         safe.fact.lastSynchronised = noon.addDays(-1);
-        safe.copyOf = QStringLiteral("Old");
+        safe.copyOf = "Old"_s;
         QTest::newRow("open, in the cloud, a copy")
             << safe
-            << QStringList{
-                   QStringLiteral("61 items · 4.1 MB · in the cloud folder · a copy of “Old”"),
-                   QStringLiteral("Open · synchronised yesterday · no backup yet")};
+            << QStringList{"61 items · 4.1 MB · in the cloud folder · a copy of “Old”"_s,
+                           "Open · synchronised yesterday · no backup yet"_s};
         safe.details.place = SafePlace::DriveGone;
         QTest::newRow("drive") << safe
                                << QStringList{QStringLiteral(
                                       "Folder not found: it was on a drive that is not connected")};
     }
-
     void linesTellHowItStandsWithASafe()
     {
         QFETCH(SafeInfo, safe);
@@ -159,20 +154,20 @@ private Q_SLOTS:
         QVERIFY(list);
         QTRY_VERIFY(list->focusWidget() &&
                     list->focusWidget()->objectName() == QLatin1String("safeRow"));
-        QCOMPARE(list->focusWidget()->accessibleName(), QStringLiteral("Two"));
+        QCOMPARE(list->focusWidget()->accessibleName(), "Two"_s);
         QTest::keyClick(list->focusWidget(), Qt::Key_Down);
-        QCOMPARE(list->focusWidget()->accessibleName(), QStringLiteral("One"));
+        QCOMPARE(list->focusWidget()->accessibleName(), "One"_s);
         QTest::keyClick(list->focusWidget(), Qt::Key_Down);
-        QCOMPARE(list->focusWidget()->accessibleName(), QStringLiteral("One"));
+        QCOMPARE(list->focusWidget()->accessibleName(), "One"_s);
 
         QTest::keyClick(list->focusWidget(), Qt::Key_F2);
-        QTRY_VERIFY(list->findChild<QDialog *>(QStringLiteral("renameDialog")));
-        auto *rename = list->findChild<QDialog *>(QStringLiteral("renameDialog"));
-        find<QLineEdit>(*rename, "nameField")->setText(QStringLiteral("Uno"));
+        QTRY_VERIFY(list->findChild<QDialog *>("renameDialog"_s));
+        auto *rename = list->findChild<QDialog *>("renameDialog"_s);
+        find<QLineEdit>(*rename, "nameField")->setText("Uno"_s);
         QTest::keyClick(rename, Qt::Key_Return);
-        QTRY_COMPARE(desk.listed(), (QStringList{QStringLiteral("Two"), QStringLiteral("Uno")}));
+        QTRY_COMPARE(desk.listed(), (QStringList{"Two"_s, "Uno"_s}));
         QTRY_VERIFY(!list->isReading());
-        QCOMPARE(list->focusWidget()->accessibleName(), QStringLiteral("Uno"));
+        QCOMPARE(list->focusWidget()->accessibleName(), "Uno"_s);
 
         // Opens the other one, which locks this one.
         QTest::keyClick(list->focusWidget(), Qt::Key_Return);
@@ -187,16 +182,16 @@ private Q_SLOTS:
         QVERIFY(desk.makeSafe("One"));
         SafesDialog *list = desk.openList();
         desk.choose(*list, "One", "renameAction");
-        QTRY_VERIFY(list->findChild<QDialog *>(QStringLiteral("renameDialog")));
-        auto *rename = list->findChild<QDialog *>(QStringLiteral("renameDialog"));
-        find<QLineEdit>(*rename, "nameField")->setText(QStringLiteral("Home"));
+        QTRY_VERIFY(list->findChild<QDialog *>("renameDialog"_s));
+        auto *rename = list->findChild<QDialog *>("renameDialog"_s);
+        find<QLineEdit>(*rename, "nameField")->setText("Home"_s);
         rename->accept();
-        QVERIFY(desk.window->windowTitle().startsWith(QStringLiteral("Home")));
-        desk.test.addLogin(QStringLiteral("Shop"));
+        QVERIFY(desk.window->windowTitle().startsWith("Home"_s));
+        desk.test.addLogin("Shop"_s);
         QVERIFY(desk.test.core.saveCurrentSafe());
         GPMSafe again;
         QVERIFY(again.open(desk.path("One")));
-        QCOMPARE(again.name(), QStringLiteral("Home"));
+        QCOMPARE(again.name(), "Home"_s);
     }
 
     void deletingAsksForThePasswordAndClosesTheSafeFirst()
@@ -209,7 +204,7 @@ private Q_SLOTS:
         QTRY_VERIFY(list->findChild<DeleteSafeDialog *>());
         auto *question = list->findChild<DeleteSafeDialog *>();
         auto *password = find<QLineEdit>(*question, "deletePassword");
-        QTest::keyClicks(password, QStringLiteral("wrong"));
+        QTest::keyClicks(password, "wrong"_s);
         QTest::keyClick(password, Qt::Key_Return);
         QTRY_VERIFY(!find<QLabel>(*question, "deleteMessage")->text().isEmpty());
         QVERIFY(desk.test.core.currentSafe()->isUnlocked());
@@ -217,7 +212,7 @@ private Q_SLOTS:
 
         QTest::keyClicks(password, testPassword);
         QTest::keyClick(password, Qt::Key_Return);
-        QTRY_COMPARE(desk.listed(), QStringList{QStringLiteral("One")});
+        QTRY_COMPARE(desk.listed(), QStringList{"One"_s});
         QTRY_VERIFY(!QDir(desk.path("Two")).exists());
         QVERIFY(!desk.test.core.currentSafe());
         QVERIFY(QFile::exists(desk.path("One/safe.meta")));
@@ -258,21 +253,20 @@ private Q_SLOTS:
         QLockFile lock(desk.path("One/.sourcelock"));
         QVERIFY(lock.tryLock(0));
         QSignalSpy changed(safe.get(), &GPMSafe::passwordChangeFinished);
-        QVERIFY(desk.test.core.changePassword(QStringLiteral("next"), QStringLiteral("new hint")));
+        QVERIFY(desk.test.core.changePassword("next"_s, "new hint"_s));
         SafesDialog *list = desk.openList();
         desk.choose(*list, "One", "renameAction");
-        QTRY_VERIFY(list->findChild<QDialog *>(QStringLiteral("renameDialog")));
-        auto *rename = list->findChild<QDialog *>(QStringLiteral("renameDialog"));
-        find<QLineEdit>(*rename, "nameField")->setText(QStringLiteral("Home"));
+        QTRY_VERIFY(list->findChild<QDialog *>("renameDialog"_s));
+        auto *rename = list->findChild<QDialog *>("renameDialog"_s);
+        find<QLineEdit>(*rename, "nameField")->setText("Home"_s);
         rename->accept();
         QCOMPARE(desk.asker.asked.size(), 1);
-        QVERIFY(desk.asker.asked.first().text.contains(QStringLiteral("password")));
-        QVERIFY(!desk.test.core.knownSafes().rename(safe->folder(), QStringLiteral("Home"),
-                                                    safe.get()));
+        QVERIFY(desk.asker.asked.first().text.contains("password"_s));
+        QVERIFY(!desk.test.core.knownSafes().rename(safe->folder(), "Home"_s, safe.get()));
         lock.unlock();
         QTRY_COMPARE(changed.size(), 1);
-        QVERIFY(safe->isPassword(QStringLiteral("next")));
-        QCOMPARE(safe->name(), QStringLiteral("One"));
+        QVERIFY(safe->isPassword("next"_s));
+        QCOMPARE(safe->name(), "One"_s);
     }
 
     void aSafeThatIsOpenElsewhereIsNotDeletedAndToldOf()
@@ -292,17 +286,15 @@ private Q_SLOTS:
         auto *progress = desk.dialog<ProgressDialog>();
         QVERIFY(progress);
         QTRY_VERIFY(!progress->isRunning());
-        QVERIFY(find<QLabel>(*progress, "progressText")
-                    ->text()
-                    .contains(QStringLiteral("another program")));
-        QCOMPARE(desk.listed(), QStringList{QStringLiteral("One")});
+        QVERIFY(find<QLabel>(*progress, "progressText")->text().contains("another program"_s));
+        QCOMPARE(desk.listed(), QStringList{"One"_s});
 
         // Unlocking tells first, and goes on when the user wants it again.
         UnlockLogic &logic = desk.window->pages().unlockLogic();
         desk.window->switchSafe(desk.path("One"));
         logic.unlock(testPassword);
         QVERIFY(logic.isOpenElsewhere());
-        QVERIFY(logic.message().contains(QStringLiteral("attic")));
+        QVERIFY(logic.message().contains("attic"_s));
         logic.unlock(testPassword);
         QTRY_VERIFY(desk.test.core.currentSafe()->isUnlocked());
         QVERIFY(mark.open(QIODevice::ReadOnly) && !mark.readAll().contains("attic"));
@@ -320,7 +312,7 @@ private Q_SLOTS:
         desk.chosen = desk.path("Two");
         locate->click();
         QTRY_COMPARE(desk.asker.asked.size(), 1);
-        QCOMPARE(desk.asker.asked.first().title, QStringLiteral("Another safe"));
+        QCOMPARE(desk.asker.asked.first().title, "Another safe"_s);
         desk.chosen = desk.path("moved");
         find<QPushButton>(*list, "locateButton")->click();
         QTRY_VERIFY(!desk.test.core.knownSafes().listed(desk.path("moved")).isEmpty());
@@ -329,17 +321,17 @@ private Q_SLOTS:
         QCOMPARE(desk.listed().size(), 2);
 
         UnlockLogic &logic = desk.window->pages().unlockLogic();
-        logic.choose(QStringLiteral("/media/ana/no such stick/safe"));
-        QVERIFY(logic.message().contains(QStringLiteral("drive")));
+        logic.choose("/media/ana/no such stick/safe"_s);
+        QVERIFY(logic.message().contains("drive"_s));
         logic.choose(desk.path("no such folder"));
-        QVERIFY(!logic.message().contains(QStringLiteral("drive")));
+        QVERIFY(!logic.message().contains("drive"_s));
     }
 
     void anArchiveGoesOutAndComesBack()
     {
         Desk desk;
         QVERIFY(desk.makeSafe("One"));
-        desk.test.addLogin(QStringLiteral("Shop"));
+        desk.test.addLogin("Shop"_s);
         desk.chosen = desk.path("out.gpm");
         desk.desk.exportCurrent();
         auto *progress = desk.dialog<ProgressDialog>();
@@ -364,7 +356,7 @@ private Q_SLOTS:
     void aFileIsNotReplacedUnasked()
     {
         QTemporaryDir folder;
-        QFile taken(folder.filePath(QStringLiteral("Work.gpm")));
+        QFile taken(folder.filePath("Work.gpm"_s));
         QVERIFY(taken.open(QIODevice::WriteOnly));
         taken.close();
         QWidget window;
@@ -378,23 +370,23 @@ private Q_SLOTS:
                     question->reject();
                 dialog->reject();
             });
-            find<QLineEdit>(*dialog, "fileNameEdit")->setText(QStringLiteral("Work"));
+            find<QLineEdit>(*dialog, "fileNameEdit")->setText("Work"_s);
             QMetaObject::invokeMethod(dialog, "accept");
         });
-        QCOMPARE(askForTarget(&window, {}, folder.filePath(QStringLiteral("Home.gpm"))), QString());
+        QCOMPARE(askForTarget(&window, {}, folder.filePath("Home.gpm"_s)), QString());
         QVERIFY(asked);
 
         // A dialog that leaves the suffix away is shown again with the name that is taken.
         QStringList proposed;
         const auto ask = [&](const QString &path) {
             proposed << QFileInfo(path).fileName();
-            return proposed.size() > 1 ? path : folder.filePath(QStringLiteral("Work"));
+            return proposed.size() > 1 ? path : folder.filePath("Work"_s);
         };
-        QCOMPARE(targetWithSuffix(ask, QStringLiteral("Home.gpm")), taken.fileName());
-        QCOMPARE(proposed, QStringList({QStringLiteral("Home.gpm"), QStringLiteral("Work.gpm")}));
+        QCOMPARE(targetWithSuffix(ask, "Home.gpm"_s), taken.fileName());
+        QCOMPARE(proposed, QStringList({"Home.gpm"_s, "Work.gpm"_s}));
         QVERIFY(taken.remove());
         proposed.clear();
-        QCOMPARE(targetWithSuffix(ask, QStringLiteral("Home.gpm")), taken.fileName());
+        QCOMPARE(targetWithSuffix(ask, "Home.gpm"_s), taken.fileName());
         QCOMPARE(proposed.size(), 1);
     }
 
@@ -412,7 +404,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!progress->isRunning());
         const QStringList lines =
             find<QLabel>(*progress, "progressText")->text().split(QLatin1Char('\n'));
-        QCOMPARE(lines.first(), QStringLiteral("Import from \"no.gpm\" failed!"));
+        QCOMPARE(lines.first(), "Import from \"no.gpm\" failed!"_s);
         QVERIFY(lines.value(1).size() > 20);
         QCOMPARE(desk.listed().size(), 1);
     }
@@ -425,18 +417,17 @@ private Q_SLOTS:
         desk.window->createSafe();
         auto *page = desk.window->findChild<CreateSafePage *>();
         find<QPushButton>(*page, "chooseFolderButton")->click();
-        const std::pair<const char *, QString> fields[] = {
-            {"newSafeName", QStringLiteral("Club: 1/2")},
-            {"newSafePassword", testPassword},
-            {"newSafeConfirm", testPassword},
-            {"newSafeHint", QStringLiteral("h")}};
+        const std::pair<const char *, QString> fields[] = {{"newSafeName", "Club: 1/2"_s},
+                                                           {"newSafePassword", testPassword},
+                                                           {"newSafeConfirm", testPassword},
+                                                           {"newSafeHint", "h"_s}};
         for (const auto &field : fields)
             QTest::keyClicks(find<QLineEdit>(*page, field.first), field.second);
         find<QPushButton>(*page, "createButton")->click();
         QVERIFY(desk.test.core.currentSafe());
         const QString folder = desk.test.core.currentSafe()->folder();
         QCOMPARE(QFileInfo(folder).path(), desk.path("documents"));
-        QVERIFY(QFile::exists(folder + QStringLiteral("/safe.meta")));
+        QVERIFY(QFile::exists(folder + "/safe.meta"_s));
         QVERIFY(QDir(desk.path("documents/letters")).exists());
     }
 
@@ -453,7 +444,7 @@ private Q_SLOTS:
         find<QPushButton>(page, "openFolderLink")->click();
         QVERIFY(page.canGoOn());
         QVERIFY(page.goOn());
-        QVERIFY(find<QLabel>(page, "safeMade")->text().contains(QStringLiteral("Old")));
+        QVERIFY(find<QLabel>(page, "safeMade")->text().contains("Old"_s));
         QCOMPARE(desk.window->pages().unlockLogic().chosenFolder(), desk.path("Old"));
         QVERIFY(!desk.test.core.currentSafe()->isUnlocked());
     }
@@ -461,10 +452,9 @@ private Q_SLOTS:
     void theNameOfAnArchiveIsOneThatFilesMayHave()
     {
         const QDateTime moment(QDate(2026, 11, 21), QTime(9, 5));
-        QCOMPARE(ArchiveDesk::archiveName(QStringLiteral("Home"), moment),
-                 QStringLiteral("Home_2026-11-21_09-05.gpm"));
-        QVERIFY(!ArchiveDesk::archiveName(QStringLiteral("a/b\\c"), moment)
-                     .contains(QRegularExpression(QStringLiteral("[/\\\\]"))));
+        QCOMPARE(ArchiveDesk::archiveName("Home"_s, moment), "Home_2026-11-21_09-05.gpm"_s);
+        QVERIFY(!ArchiveDesk::archiveName("a/b\\c"_s, moment)
+                     .contains(QRegularExpression("[/\\\\]"_s)));
     }
 };
 

@@ -46,12 +46,12 @@ private:
     }
     bool offer(const char *user, const char *password, const char *site = "https://shop.example/in")
     {
-        m_test->core.saveLogin({}, {{QStringLiteral("title"), QStringLiteral("Every Shop")},
-                                    {QStringLiteral("url"), QLatin1String(site)},
-                                    {QStringLiteral("posx"), 1e9},
-                                    {QStringLiteral("posy"), -1e9},
-                                    {QStringLiteral("login"), QLatin1String(user)},
-                                    {QStringLiteral("password"), QLatin1String(password)}});
+        m_test->core.saveLogin({}, {{"title"_s, "Every Shop"_s},
+                                    {"url"_s, QLatin1String(site)},
+                                    {"posx"_s, 1e9},
+                                    {"posy"_s, -1e9},
+                                    {"login"_s, QLatin1String(user)},
+                                    {"password"_s, QLatin1String(password)}});
         return dialog() != nullptr;
     }
     bool isGone() const
@@ -92,14 +92,14 @@ private Q_SLOTS:
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         QVERIFY(screen.contains(dialog()->frameGeometry()));
         QVERIFY(dialog()->testAttribute(Qt::WA_ShowWithoutActivating));
-        QCOMPARE(text("saveLoginHeadline"), QStringLiteral("Save this login?"));
-        QCOMPARE(text("saveLoginHost"), QStringLiteral("shop.example"));
+        QCOMPARE(text("saveLoginHeadline"), "Save this login?"_s);
+        QCOMPARE(text("saveLoginHost"), "shop.example"_s);
         QVERIFY(!isShown("saveInto"));
         QCOMPARE(part<QLineEdit>("savePassword")->displayText(), QString(6, QChar(0x2022)));
-        type("saveTitle", QStringLiteral("My shop"));
+        type("saveTitle", "My shop"_s);
         QTest::keyClick(part<QLineEdit>("saveTitle"), Qt::Key_Return);
         QVERIFY(isGone());
-        QCOMPARE(logins(), QStringList{QStringLiteral("My shop|ana|s3cret")});
+        QCOMPARE(logins(), QStringList{"My shop|ana|s3cret"_s});
     }
 
     void escapeIsNotNow()
@@ -111,34 +111,33 @@ private Q_SLOTS:
         QVERIFY(!offer("ana", "one"));
         QVERIFY(offer("ana", "two"));
         QVERIFY(offer("bob", "x", "https://bank.example")); // waits
-        QCOMPARE(text("saveLoginHost"), QStringLiteral("shop.example"));
+        QCOMPARE(text("saveLoginHost"), "shop.example"_s);
         part<QLineEdit>("savePassword")->actions().last()->trigger();
-        QCOMPARE(part<QLineEdit>("savePassword")->displayText(), QStringLiteral("two"));
+        QCOMPARE(part<QLineEdit>("savePassword")->displayText(), "two"_s);
         dialog()->close();
-        QCOMPARE(text("saveLoginHost"), QStringLiteral("bank.example"));
+        QCOMPARE(text("saveLoginHost"), "bank.example"_s);
         QCOMPARE(part<QLineEdit>("savePassword")->displayText(), QString(QChar(0x2022)));
     }
 
     void anotherLoginIsChosenForTheUpdate()
     {
-        m_test->addLogin(QStringLiteral("First"), QStringLiteral("ana"));
-        m_test->addLogin(QStringLiteral("Second"), QStringLiteral("bob"));
+        m_test->addLogin("First"_s, "ana"_s);
+        m_test->addLogin("Second"_s, "bob"_s);
         QVERIFY(offer("ana", "new"));
-        QCOMPARE(text("saveLoginHeadline"), QStringLiteral("Update this login?"));
+        QCOMPARE(text("saveLoginHeadline"), "Update this login?"_s);
         auto *into = part<QComboBox>("saveInto");
-        QCOMPARE(into->currentText(), QStringLiteral("First (ana)"));
+        QCOMPARE(into->currentText(), "First (ana)"_s);
         QVERIFY(!isShown("saveTitle") && !isShown("formerUserName"));
-        QTest::keyClicks(into, QStringLiteral("Sec"));
-        QCOMPARE(into->currentText(), QStringLiteral("Second (bob)"));
-        QCOMPARE(text("formerUserName"), QStringLiteral("Until now: bob"));
+        QTest::keyClicks(into, "Sec"_s);
+        QCOMPARE(into->currentText(), "Second (bob)"_s);
+        QCOMPARE(text("formerUserName"), "Until now: bob"_s);
         QTest::keyClick(into, Qt::Key_End);
-        QCOMPARE(text("saveLoginHeadline"), QStringLiteral("Save this login?"));
+        QCOMPARE(text("saveLoginHeadline"), "Save this login?"_s);
         QVERIFY(isShown("saveTitle"));
         QTest::keyClick(into, Qt::Key_Up);
         QTest::keyClick(part<QLineEdit>("saveUserName"), Qt::Key_Return);
         QVERIFY(isGone());
-        QCOMPARE(logins(), (QStringList{QStringLiteral("First|ana|secret of First"),
-                                        QStringLiteral("Second|ana|new")}));
+        QCOMPARE(logins(), (QStringList{"First|ana|secret of First"_s, "Second|ana|new"_s}));
     }
 
     void neverUntilTheSettingsSayOtherwise()
@@ -150,7 +149,7 @@ private Q_SLOTS:
         QVERIFY(isGone());
         QVERIFY(!offer("bob", "two"));
         const auto *list = find<QListWidget>(panel, "excludedSites");
-        QCOMPARE(list->item(0)->text(), QStringLiteral("shop.example"));
+        QCOMPARE(list->item(0)->text(), "shop.example"_s);
         QTest::mouseClick(find<QAbstractButton>(panel, "askAgainButton"), Qt::LeftButton);
         QCOMPARE(list->count(), 0);
         QVERIFY(offer("bob", "two"));
@@ -158,34 +157,34 @@ private Q_SLOTS:
 
     void aLockedSafeIsUnlockedInPlace()
     {
-        m_test->addLogin(QStringLiteral("First"), QStringLiteral("ana"));
+        m_test->addLogin("First"_s, "ana"_s);
         m_test->core.lockCurrentSafe();
         QVERIFY(offer("ana", "new"));
         QVERIFY(!isShown("saveTitle"));
-        QVERIFY(text("timeLeft").contains(QStringLiteral("60")));
-        type("masterPassword", QStringLiteral("wrong"));
+        QVERIFY(text("timeLeft").contains("60"_s));
+        type("masterPassword", "wrong"_s);
         QTest::keyClick(part<QLineEdit>("masterPassword"), Qt::Key_Return);
         QTRY_VERIFY(isShown("saveLoginMessage"));
         type("masterPassword", testPassword);
         QTest::keyClick(part<QLineEdit>("masterPassword"), Qt::Key_Return);
-        QTRY_COMPARE(text("saveLoginHeadline"), QStringLiteral("Update this login?"));
+        QTRY_COMPARE(text("saveLoginHeadline"), "Update this login?"_s);
         QTRY_COMPARE(dialog()->focusWidget(), part<QWidget>("saveButton"));
         QTest::keyClick(dialog()->focusWidget(), Qt::Key_Return);
         QVERIFY(isGone());
-        QCOMPARE(logins(), QStringList{QStringLiteral("First|ana|new")});
+        QCOMPARE(logins(), QStringList{"First|ana|new"_s});
 
         m_test->core.lockCurrentSafe();
         QVERIFY(offer("ana", "new"));
         type("masterPassword", testPassword);
         press("saveButton");
-        QTRY_COMPARE(text("saveLoginHeadline"), QStringLiteral("Already saved"));
+        QTRY_COMPARE(text("saveLoginHeadline"), "Already saved"_s);
         press("saveButton");
         QVERIFY(isGone());
     }
 
     void longNamesMakeItNoWider()
     {
-        m_test->addLogin(QStringLiteral("Short"), QStringLiteral("ana"));
+        m_test->addLogin("Short"_s, "ana"_s);
         QVERIFY(offer("ana", "one"));
         const int usual = dialog()->minimumSizeHint().width();
         m_test->core.loginSaving().decline();
@@ -208,20 +207,20 @@ private Q_SLOTS:
     void aSaveThatFailsLosesNothing()
     {
         QVERIFY(offer("ana", "one"));
-        const QString content = m_test->core.currentSafe()->folder() + QStringLiteral("/content");
-        QVERIFY(QDir().rename(content, content + QStringLiteral(".away")));
+        const QString content = m_test->core.currentSafe()->folder() + "/content"_s;
+        QVERIFY(QDir().rename(content, content + ".away"_s));
         QFile inTheWay(content);
         QVERIFY(inTheWay.open(QIODevice::WriteOnly));
         press("saveButton");
         QTRY_VERIFY(isShown("saveLoginMessage"));
-        QCOMPARE(part<QLineEdit>("savePassword")->text(), QStringLiteral("one"));
-        QCOMPARE(part<QAbstractButton>("notNowButton")->text(), QStringLiteral("Close"));
+        QCOMPARE(part<QLineEdit>("savePassword")->text(), "one"_s);
+        QCOMPARE(part<QAbstractButton>("notNowButton")->text(), "Close"_s);
         QVERIFY(inTheWay.remove());
-        QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
+        QVERIFY(QDir().rename(content + ".away"_s, content));
         QCOMPARE(dialog()->focusWidget(), part<QWidget>("saveButton"));
         press("saveButton");
         QVERIFY(isGone());
-        QCOMPARE(logins(), QStringList{QStringLiteral("Every Shop|ana|one")});
+        QCOMPARE(logins(), QStringList{"Every Shop|ana|one"_s});
     }
 
     // Where the browser's window is said to be, and where the window of 300 x 200 goes.

@@ -21,7 +21,7 @@ namespace {
 
 QVariant configValue(const TestCore &test, const char *key)
 {
-    QFile file(test.folder.filePath(QStringLiteral("config/config.json")));
+    QFile file(test.folder.filePath("config/config.json"_s));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QJsonDocument::fromJson(file.readAll()).object().value(QLatin1String(key)).toVariant();
@@ -29,8 +29,7 @@ QVariant configValue(const TestCore &test, const char *key)
 
 QVariant uiValue(const TestCore &test, const char *key)
 {
-    const QSettings store(test.folder.filePath(QStringLiteral("config/uisettings.ini")),
-                          QSettings::IniFormat);
+    const QSettings store(test.folder.filePath("config/uisettings.ini"_s), QSettings::IniFormat);
     return store.value(QLatin1String(key));
 }
 
@@ -38,20 +37,16 @@ QVariant uiValue(const TestCore &test, const char *key)
 void makeLanguage(const QString &folder, const char *code, const char *context,
                   const QMap<QString, QString> &texts)
 {
-    QFile source(folder + QStringLiteral("/passwordmanager_") + QLatin1String(code) +
-                 QStringLiteral(".ts"));
+    QFile source(folder + "/passwordmanager_"_s + QLatin1String(code) + ".ts"_s);
     QVERIFY(source.open(QIODevice::WriteOnly));
-    QString ts = QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS>"
-                                "<TS version=\"2.1\"><context><name>%1</name>")
-                     .arg(QLatin1String(context));
+    QString ts = "<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS>"
+                 "<TS version=\"2.1\"><context><name>%1</name>"_s.arg(QLatin1String(context));
     for (auto it = texts.cbegin(); it != texts.cend(); ++it)
-        ts += QStringLiteral("<message><source>%1</source><translation>%2</translation></message>")
-                  .arg(it.key(), it.value());
-    source.write((ts + QStringLiteral("</context></TS>")).toUtf8());
+        ts += "<message><source>%1</source><translation>%2</translation></message>"_s.arg(
+            it.key(), it.value());
+    source.write((ts + "</context></TS>"_s).toUtf8());
     source.close();
-    QCOMPARE(
-        QProcess::execute(QStringLiteral(LRELEASE), {QStringLiteral("-silent"), source.fileName()}),
-        0);
+    QCOMPARE(QProcess::execute(QStringLiteral(LRELEASE), {"-silent"_s, source.fileName()}), 0);
 }
 
 /// The program's windows over a safe with two logins.
@@ -66,7 +61,7 @@ struct Program
         ui.openMainView({});
         ui.bringToFront();
         ui.sideWindows().updates().checker().setEndpoint(
-            QUrl(QStringLiteral("https://updates.glaceron.example/check")));
+            QUrl("https://updates.glaceron.example/check"_s));
         test.createSafe();
     }
 
@@ -100,410 +95,387 @@ class TestSettingsDialog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everySetting_data();
-    void everySetting();
-    void everySettingIsTested();
-    void folder();
-    void switchesEnableWhatTheyRule();
-    void failureToStoreIsTold();
-    void search();
-    void pageIsKept();
-    void hotkeys_data();
-    void hotkeys();
-    void ownShortcutsAreTaken();
-    void lockHotkeyLocks();
-    void openFromTheLockPage();
-    void tellsWhereNobodySeemsAway();
-    void look();
-    void languageWithoutRestart();
-    void unsavedEditIsAskedFor();
-};
-
-void TestSettingsDialog::everySetting_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QVector<int>>("keys");
-    QTest::addColumn<QVariant>("stored");
-    const auto row = [](const char *id, Setting::Page page, const QVector<int> &keys,
-                        const QVariant &stored) {
-        QTest::newRow(id) << int(page) << keys << stored;
-    };
-    const int space = Qt::Key_Space;
-    const int down = Qt::Key_Down;
-    row("check_updates", Setting::General, {space}, false);
-    row("autolock_inactive", Setting::Security, {space}, false);
-    row("inactivity_interval", Setting::Security, {Qt::Key_Up, Qt::Key_Up}, 5);
-    row("autolock_screensaver", Setting::Security, {space}, false);
-    row("clear_clipboard", Setting::Security, {space}, false);
-    row("login_mode", Setting::Browser, {Qt::Key_Up}, QStringLiteral("Fill"));
-    row("plugin_login_mode", Setting::Browser, {down}, QStringLiteral("PluginFillAndSubmit"));
-    row("plugin_open_mode", Setting::Browser, {down, down}, QStringLiteral("NewWindow"));
-    row("enable_backup", Setting::Backup, {space}, false);
-    row("backup_interval", Setting::Backup, {down}, QStringLiteral("Week"));
-    row("backup_count", Setting::Backup, {down}, 9);
-    row("lock_hotkey", Setting::Hotkeys, {Qt::CTRL | Qt::ALT | Qt::Key_L},
-        QStringLiteral("Ctrl+Alt+L"));
-    row("plugin_hotkey", Setting::Hotkeys, {Qt::Key_F8}, QStringLiteral("F8"));
-}
-
-void TestSettingsDialog::everySetting()
-{
-    QFETCH(int, page);
-    QFETCH(QVector<int>, keys);
-    const char *id = QTest::currentDataTag();
-    Program program;
-    QWidget *editor = reach(program.settings(), static_cast<Setting::Page>(page), id);
-    QVERIFY(editor);
-    QVERIFY(!editor->accessibleName().isEmpty());
-    for (const int key : keys)
-        QTest::keyClick(editor, static_cast<Qt::Key>(key & ~int(Qt::KeyboardModifierMask)),
-                        Qt::KeyboardModifiers(key & int(Qt::KeyboardModifierMask)));
-    QTEST(configValue(program.test, id), "stored");
-
-    // A core that starts later has it, and its window shows it.
-    GPMAppCore later(TestCore::places(program.test.folder.path()));
-    for (int i = 0; i < GPMAppSettings::staticMetaObject.propertyCount(); ++i) {
-        const char *name = GPMAppSettings::staticMetaObject.property(i).name();
-        QCOMPARE(later.settings().property(name), program.test.core.settings().property(name));
+    void everySetting_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QVector<int>>("keys");
+        QTest::addColumn<QVariant>("stored");
+        const auto row = [](const char *id, Setting::Page page, const QVector<int> &keys,
+                            const QVariant &stored) {
+            QTest::newRow(id) << int(page) << keys << stored;
+        };
+        const int space = Qt::Key_Space;
+        const int down = Qt::Key_Down;
+        row("check_updates", Setting::General, {space}, false);
+        row("autolock_inactive", Setting::Security, {space}, false);
+        row("inactivity_interval", Setting::Security, {Qt::Key_Up, Qt::Key_Up}, 5);
+        row("autolock_screensaver", Setting::Security, {space}, false);
+        row("clear_clipboard", Setting::Security, {space}, false);
+        row("login_mode", Setting::Browser, {Qt::Key_Up}, "Fill"_s);
+        row("plugin_login_mode", Setting::Browser, {down}, "PluginFillAndSubmit"_s);
+        row("plugin_open_mode", Setting::Browser, {down, down}, "NewWindow"_s);
+        row("enable_backup", Setting::Backup, {space}, false);
+        row("backup_interval", Setting::Backup, {down}, "Week"_s);
+        row("backup_count", Setting::Backup, {down}, 9);
+        row("lock_hotkey", Setting::Hotkeys, {Qt::CTRL | Qt::ALT | Qt::Key_L}, "Ctrl+Alt+L"_s);
+        row("plugin_hotkey", Setting::Hotkeys, {Qt::Key_F8}, "F8"_s);
     }
-}
+    void everySetting()
+    {
+        QFETCH(int, page);
+        QFETCH(QVector<int>, keys);
+        const char *id = QTest::currentDataTag();
+        Program program;
+        QWidget *editor = reach(program.settings(), static_cast<Setting::Page>(page), id);
+        QVERIFY(editor);
+        QVERIFY(!editor->accessibleName().isEmpty());
+        for (const int key : keys)
+            QTest::keyClick(editor, static_cast<Qt::Key>(key & ~int(Qt::KeyboardModifierMask)),
+                            Qt::KeyboardModifiers(key & int(Qt::KeyboardModifierMask)));
+        QTEST(configValue(program.test, id), "stored");
 
-void TestSettingsDialog::everySettingIsTested()
-{
-    QStringList tested = {QStringLiteral("language_file"), QStringLiteral("backup_path"),
-                          QStringLiteral("theme"),         QStringLiteral("text_size"),
-                          QStringLiteral("motion_off"),    QStringLiteral("check_updates")};
-    for (const char *id :
-         {"autolock_inactive", "inactivity_interval", "autolock_screensaver", "clear_clipboard",
-          "login_mode", "plugin_login_mode", "plugin_open_mode", "enable_backup", "backup_interval",
-          "backup_state", "backup_count", "cloud_state", "lock_hotkey", "plugin_hotkey",
-          "master_password", "browsers", "excluded_sites", "site_icons", "updates"})
-        tested.append(QLatin1String(id));
-    Program program;
-    QStringList shown;
-    for (const SettingRow *row : program.settings().findChildren<SettingRow *>()) {
-        shown.append(QLatin1String(row->setting().id));
-        QVERIFY(!row->setting().explanation.isEmpty());
-    }
-    tested.sort();
-    shown.sort();
-    QCOMPARE(shown, tested);
-}
-
-void TestSettingsDialog::folder()
-{
-    TestCore test;
-    Theme theme;
-    UiSettings ui(test.folder.path());
-    const PMTranslator translator(test.folder.path());
-    const QVector<Setting> settings =
-        SettingsTable({test.core.settings(), ui, theme, translator, {}, {}, {}}).settings();
-    QString chosen = test.folder.filePath(QStringLiteral("copies/here"));
-    SettingsDialog dialog(settings, ui, theme, nullptr,
-                          [&chosen](QWidget *, const QString &) { return chosen; });
-    dialog.show();
-    QWidget *button = reach(dialog, Setting::Backup, "backup_path");
-    QTest::keyClick(button, Qt::Key_Space);
-    QCOMPARE(configValue(test, "backup_path").toString(), QDir::toNativeSeparators(chosen));
-    QVERIFY(QFileInfo(chosen).isDir());
-
-    // A folder that cannot be made leaves the former one and says so.
-    const QString good = chosen;
-    QFile(test.folder.filePath(QStringLiteral("file"))).open(QIODevice::WriteOnly);
-    chosen = test.folder.filePath(QStringLiteral("file/below"));
-    QTest::keyClick(button, Qt::Key_Space);
-    QCOMPARE(configValue(test, "backup_path").toString(), QDir::toNativeSeparators(good));
-    QVERIFY(find<QLabel>(dialog, "backup_pathFault")->isVisible());
-    // None chosen: nothing happens.
-    chosen.clear();
-    QTest::keyClick(button, Qt::Key_Space);
-    QCOMPARE(test.core.settings().backupPath(), QDir::toNativeSeparators(good));
-}
-
-void TestSettingsDialog::switchesEnableWhatTheyRule()
-{
-    Program program;
-    SettingsDialog &dialog = program.settings();
-    QWidget *minutes = find<QWidget>(dialog, "inactivity_interval");
-    QVERIFY(minutes->isEnabled());
-    QTest::keyClick(reach(dialog, Setting::Security, "autolock_inactive"), Qt::Key_Space);
-    QVERIFY(!minutes->isEnabled());
-    QVERIFY(find<QWidget>(dialog, "backup_count")->isEnabled());
-}
-
-void TestSettingsDialog::failureToStoreIsTold()
-{
-    Program program;
-    SettingsDialog &dialog = program.settings();
-    // A folder in its place fails every write, even one by an administrator.
-    const QString file = program.test.core.settings().filePath();
-    QFile::remove(file);
-    QVERIFY(QDir().mkpath(file + QStringLiteral("/in the way")));
-    QTest::keyClick(reach(dialog, Setting::General, "check_updates"), Qt::Key_Space);
-    const auto *fault = find<QLabel>(dialog, "check_updatesFault");
-    QVERIFY(fault->isVisible());
-    QVERIFY(fault->text().contains(QDir::toNativeSeparators(file)));
-    QVERIFY(!program.test.core.settings().checkUpdates());
-}
-
-void TestSettingsDialog::search()
-{
-    Program program;
-    SettingsDialog &dialog = program.settings();
-    auto *field = find<QLineEdit>(dialog, "settingsSearch");
-    const auto shown = [&dialog] {
-        QStringList ids;
-        for (const SettingRow *row : dialog.findChildren<SettingRow *>()) {
-            if (row->isVisible())
-                ids.append(QLatin1String(row->setting().id));
+        // A core that starts later has it, and its window shows it.
+        GPMAppCore later(TestCore::places(program.test.folder.path()));
+        for (int i = 0; i < GPMAppSettings::staticMetaObject.propertyCount(); ++i) {
+            const char *name = GPMAppSettings::staticMetaObject.property(i).name();
+            QCOMPARE(later.settings().property(name), program.test.core.settings().property(name));
         }
-        return ids.join(QLatin1Char(' '));
-    };
-    const QString first = shown();
-    QTest::keyClick(&dialog, Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(field, QStringLiteral("COPY clip"));
-    QCOMPARE(shown(), QStringLiteral("clear_clipboard"));
-    field->setText(QStringLiteral("idle"));
-    QCOMPARE(shown(), QStringLiteral("autolock_inactive inactivity_interval"));
-    // Whoever cannot read the language that is shown finds the way out of it.
-    field->setText(QString::fromUtf8("язык"));
-    QCOMPARE(shown(), QStringLiteral("language_file"));
-    field->setText(QStringLiteral("no such thing"));
-    QCOMPARE(shown(), QString());
-    QTest::keyClick(field, Qt::Key_Escape);
-    QCOMPARE(shown(), first);
-    QVERIFY(dialog.isVisible());
-    // To go to a page leaves the search.
-    field->setText(QStringLiteral("idle"));
-    QTest::keyClick(find<QListWidget>(dialog, "settingsPages"), Qt::Key_End);
-    QCOMPARE(shown(), QStringLiteral("theme text_size motion_off"));
-}
-
-void TestSettingsDialog::pageIsKept()
-{
-    Program program;
-    QPointer<SettingsDialog> dialog = &program.settings();
-    QTest::keyClick(find<QListWidget>(*dialog, "settingsPages"), Qt::Key_End);
-    QTest::keyClick(dialog.data(), Qt::Key_Escape);
-    QTRY_VERIFY(!dialog);
-    QCOMPARE(uiValue(program.test, "SettingsDialog_TabIndex").toInt(), int(Setting::Appearance));
-    QVERIFY(uiValue(program.test, "SettingsDialog_Geometry").isValid());
-    QCOMPARE(find<QListWidget>(program.settings(), "settingsPages")->currentRow(),
-             int(Setting::Appearance));
-}
-
-void TestSettingsDialog::hotkeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("hotkey");
-    QTest::addColumn<QString>("fault");
-    const QString none;
-    const QString bare = QStringLiteral("together with");
-    QTest::newRow("modified") << int(Qt::CTRL | Qt::SHIFT | Qt::Key_P)
-                              << QStringLiteral("Ctrl+Shift+P") << none;
-    QTest::newRow("function key") << int(Qt::Key_F12) << QStringLiteral("F12") << none;
-    QTest::newRow("with Meta") << int(Qt::META | Qt::Key_Delete) << QStringLiteral("Meta+Del")
-                               << none;
-    QTest::newRow("letter") << int(Qt::Key_P) << none << bare;
-    QTest::newRow("capital letter") << int(Qt::SHIFT | Qt::Key_P) << none << bare;
-    QTest::newRow("space") << int(Qt::Key_Space) << none << bare;
-    QTest::newRow("enter") << int(Qt::Key_Return) << none << bare;
-    QTest::newRow("key that no system takes")
-        << int(Qt::CTRL | Qt::Key_Enter) << none << QStringLiteral("This key");
-    QTest::newRow("key of the program")
-        << int(Qt::CTRL | Qt::Key_F) << none << QStringLiteral("Search");
-    QTest::newRow("key of texts") << int(Qt::CTRL | Qt::Key_V) << none << QStringLiteral("paste");
-    QTest::newRow("other hotkey") << int(Qt::CTRL | Qt::ALT | Qt::Key_B) << none
-                                  << QStringLiteral("Browser plugin hotkey");
-}
-
-void TestSettingsDialog::hotkeys()
-{
-    QFETCH(int, key);
-    QFETCH(QString, hotkey);
-    QFETCH(QString, fault);
-    Program program;
-    GPMAppSettings &settings = program.test.core.settings();
-    settings.setPluginHotkey(QStringLiteral("Ctrl+Alt+B"));
-    SettingsDialog &dialog = program.settings();
-    QWidget *editor = reach(dialog, Setting::Hotkeys, "lock_hotkey");
-    const auto press = [editor](int keys) {
-        QTest::keyClick(editor, static_cast<Qt::Key>(keys & ~int(Qt::KeyboardModifierMask)),
-                        Qt::KeyboardModifiers(keys & int(Qt::KeyboardModifierMask)));
-    };
-    press(key);
-    QCOMPARE(settings.lockHotkey(), hotkey);
-    const auto *told = find<QLabel>(dialog, "lock_hotkeyFault");
-    QCOMPARE(told->isVisible(), !fault.isEmpty());
-    QVERIFY2(told->text().contains(fault), qPrintable(told->text()));
-    press(Qt::CTRL | Qt::ALT | Qt::Key_X);
-    QCOMPARE(settings.lockHotkey(), QStringLiteral("Ctrl+Alt+X"));
-    QVERIFY(!told->isVisible());
-    press(Qt::Key_Backspace);
-    QCOMPARE(settings.lockHotkey(), QString());
-    press(Qt::Key_Tab);
-    QVERIFY(!editor->hasFocus());
-}
-
-void TestSettingsDialog::ownShortcutsAreTaken()
-{
-    Program program;
-    auto *editor =
-        qobject_cast<HotkeyLineEdit *>(reach(program.settings(), Setting::Hotkeys, "lock_hotkey"));
-    QSignalSpy refused(editor, &HotkeyLineEdit::refused);
-    int pressed = 0;
-    for (const QShortcut *shortcut : program.ui.mainWindow()->findChildren<QShortcut *>()) {
-        const int key = shortcut->key()[0];
-        if (key == Qt::Key_Escape || key == 0)
-            continue;
-        QTest::keyClick(editor, static_cast<Qt::Key>(key & ~int(Qt::KeyboardModifierMask)),
-                        Qt::KeyboardModifiers(key & int(Qt::KeyboardModifierMask)));
-        QCOMPARE(refused.count(), ++pressed);
     }
-    QVERIFY(pressed > 5);
-}
 
-void TestSettingsDialog::lockHotkeyLocks()
-{
-    Program program;
-    SettingsDialog &dialog = program.settings();
-    QTest::keyClick(reach(dialog, Setting::Hotkeys, "lock_hotkey"), Qt::Key_K,
-                    Qt::ControlModifier | Qt::AltModifier);
-    QVERIFY(program.test.core.currentSafe()->isUnlocked());
-    find<QWidget>(dialog, "settingsSearch")->setFocus();
-    QTest::keyClick(&dialog, Qt::Key_K, Qt::ControlModifier | Qt::AltModifier);
-    QVERIFY(!program.test.core.currentSafe()->isUnlocked());
-}
+    void everySettingIsTested()
+    {
+        QStringList tested = {"language_file"_s, "backup_path"_s, "theme"_s,
+                              "text_size"_s,     "motion_off"_s,  "check_updates"_s};
+        for (const char *id :
+             {"autolock_inactive", "inactivity_interval", "autolock_screensaver", "clear_clipboard",
+              "login_mode", "plugin_login_mode", "plugin_open_mode", "enable_backup",
+              "backup_interval", "backup_state", "backup_count", "cloud_state", "lock_hotkey",
+              "plugin_hotkey", "master_password", "browsers", "excluded_sites", "site_icons",
+              "updates"})
+            tested.append(QLatin1String(id));
+        Program program;
+        QStringList shown;
+        for (const SettingRow *row : program.settings().findChildren<SettingRow *>()) {
+            shown.append(QLatin1String(row->setting().id));
+            QVERIFY(!row->setting().explanation.isEmpty());
+        }
+        tested.sort();
+        shown.sort();
+        QCOMPARE(shown, tested);
+    }
 
-void TestSettingsDialog::openFromTheLockPage()
-{
-    Program program;
-    program.test.core.lockCurrentSafe();
-    QApplication::setActiveWindow(program.ui.mainWindow());
-    QTest::keyClick(program.ui.mainWindow()->focusWidget(), Qt::Key_Comma, Qt::ControlModifier);
-    QVERIFY(program.ui.mainWindow()->findChild<SettingsDialog *>());
-}
+    void folder()
+    {
+        TestCore test;
+        Theme theme;
+        UiSettings ui(test.folder.path());
+        const PMTranslator translator(test.folder.path());
+        const QVector<Setting> settings =
+            SettingsTable({test.core.settings(), ui, theme, translator, {}, {}, {}}).settings();
+        QString chosen = test.folder.filePath("copies/here"_s);
+        SettingsDialog dialog(settings, ui, theme, nullptr,
+                              [&chosen](QWidget *, const QString &) { return chosen; });
+        dialog.show();
+        QWidget *button = reach(dialog, Setting::Backup, "backup_path");
+        QTest::keyClick(button, Qt::Key_Space);
+        QCOMPARE(configValue(test, "backup_path").toString(), QDir::toNativeSeparators(chosen));
+        QVERIFY(QFileInfo(chosen).isDir());
 
-void TestSettingsDialog::tellsWhereNobodySeemsAway()
-{
-    Program program;
-    const auto explanation = [&program] {
-        const QWidget *lock = reach(program.settings(), Setting::Security, "autolock_inactive");
-        return lock->accessibleDescription();
-    };
-    QCOMPARE(explanation(), QStringLiteral("The safe locks when you leave the computer alone."));
-    delete program.ui.mainWindow()->findChild<SettingsDialog *>();
-    program.test.user->tells = false;
-    for (int second = 0; second < 10; ++second)
-        program.test.core.checkInactivity();
-    QVERIFY(
-        explanation().startsWith(QStringLiteral("Your desktop does not tell when you are away.")));
-}
+        // A folder that cannot be made leaves the former one and says so.
+        const QString good = chosen;
+        QFile(test.folder.filePath("file"_s)).open(QIODevice::WriteOnly);
+        chosen = test.folder.filePath("file/below"_s);
+        QTest::keyClick(button, Qt::Key_Space);
+        QCOMPARE(configValue(test, "backup_path").toString(), QDir::toNativeSeparators(good));
+        QVERIFY(find<QLabel>(dialog, "backup_pathFault")->isVisible());
+        // None chosen: nothing happens.
+        chosen.clear();
+        QTest::keyClick(button, Qt::Key_Space);
+        QCOMPARE(test.core.settings().backupPath(), QDir::toNativeSeparators(good));
+    }
 
-void TestSettingsDialog::look()
-{
-    Program program;
-    QTest::keyClick(reach(program.settings(), Setting::Appearance, "theme"), Qt::Key_End);
-    QCOMPARE(uiValue(program.test, "Theme").toString(), QStringLiteral("Dark"));
-    const auto ground = [&program] {
-        return program.ui.mainWindow()
-            ->findChild<QWidget *>(QStringLiteral("searchField"))
-            ->palette()
-            .color(QPalette::Base)
-            .lightness();
-    };
-    QVERIFY(ground() < 100);
-    QTest::keyClick(reach(program.settings(), Setting::Appearance, "theme"), Qt::Key_Up);
-    QVERIFY(ground() > 200);
-    QTest::keyClick(reach(program.settings(), Setting::Appearance, "motion_off"), Qt::Key_Space);
-    QCOMPARE(uiValue(program.test, "MotionOff").toBool(), true);
+    void switchesEnableWhatTheyRule()
+    {
+        Program program;
+        SettingsDialog &dialog = program.settings();
+        QWidget *minutes = find<QWidget>(dialog, "inactivity_interval");
+        QVERIFY(minutes->isEnabled());
+        QTest::keyClick(reach(dialog, Setting::Security, "autolock_inactive"), Qt::Key_Space);
+        QVERIFY(!minutes->isEnabled());
+        QVERIFY(find<QWidget>(dialog, "backup_count")->isEnabled());
+    }
 
-    const int rowBefore =
-        find<QListView>(*program.ui.mainWindow(), "categoryList")->sizeHintForRow(0);
-    QTest::keyClick(reach(program.settings(), Setting::Appearance, "text_size"), Qt::Key_End);
-    QCOMPARE(uiValue(program.test, "TextSize").toInt(), 150);
-    const auto *former = program.ui.mainWindow();
-    QTRY_VERIFY(program.ui.mainWindow() != former);
-    QVERIFY(program.ui.mainWindow()->isVisible());
-    QCOMPARE(find<QListView>(*program.ui.mainWindow(), "categoryList")->sizeHintForRow(0),
-             rowBefore * 3 / 2);
-    // The settings are still open where they were, and a later start has the same size.
-    auto *dialog = program.ui.mainWindow()->findChild<SettingsDialog *>();
-    QVERIFY(dialog && find<QWidget>(*dialog, "text_size")->isVisible());
-    QCOMPARE(dialog->fontInfo().pixelSize(), 20);
-    Style::setTextPercent(100);
-    const PMUiProvider later(program.test.core, [] { return true; });
-    QCOMPARE(Style::textPercent(), 150);
-    Theme().setTextPercent(100);
-    qApp->setStyleSheet({});
-}
+    void failureToStoreIsTold()
+    {
+        Program program;
+        SettingsDialog &dialog = program.settings();
+        // A folder in its place fails every write, even one by an administrator.
+        const QString file = program.test.core.settings().filePath();
+        QFile::remove(file);
+        QVERIFY(QDir().mkpath(file + "/in the way"_s));
+        QTest::keyClick(reach(dialog, Setting::General, "check_updates"), Qt::Key_Space);
+        const auto *fault = find<QLabel>(dialog, "check_updatesFault");
+        QVERIFY(fault->isVisible());
+        QVERIFY(fault->text().contains(QDir::toNativeSeparators(file)));
+        QVERIFY(!program.test.core.settings().checkUpdates());
+    }
 
-void TestSettingsDialog::languageWithoutRestart()
-{
-    Program program;
-    makeLanguage(program.test.folder.path(), "xx", "Sidebar",
-                 {{QStringLiteral("Lock"), QStringLiteral("Verrou")}});
-    const QString id = program.test.addLogin(QStringLiteral("Shop"));
-    program.test.addLogin(QStringLiteral("Bank"));
-    auto *categories = find<QListView>(*program.ui.mainWindow(), "categoryList");
-    QTest::keyClick(categories, Qt::Key_Down);
-    QTest::keyClick(categories, Qt::Key_Down);
-    QTest::keyClick(categories, Qt::Key_Down);
-    const int row = categories->currentIndex().row();
-    auto *items = find<QListView>(*program.ui.mainWindow(), "itemList");
-    QTest::keyClick(items, Qt::Key_End);
-    const auto shownTitle = [&program] {
-        return find<QLabel>(*program.ui.mainWindow(), "itemTitle")->accessibleName();
-    };
-    QCOMPARE(shownTitle(), QStringLiteral("Shop"));
+    void search()
+    {
+        Program program;
+        SettingsDialog &dialog = program.settings();
+        auto *field = find<QLineEdit>(dialog, "settingsSearch");
+        const auto shown = [&dialog] {
+            QStringList ids;
+            for (const SettingRow *row : dialog.findChildren<SettingRow *>()) {
+                if (row->isVisible())
+                    ids.append(QLatin1String(row->setting().id));
+            }
+            return ids.join(QLatin1Char(' '));
+        };
+        const QString first = shown();
+        QTest::keyClick(&dialog, Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(field, "COPY clip"_s);
+        QCOMPARE(shown(), "clear_clipboard"_s);
+        field->setText("idle"_s);
+        QCOMPARE(shown(), "autolock_inactive inactivity_interval"_s);
+        // Whoever cannot read the language that is shown finds the way out of it.
+        field->setText("язык"_s);
+        QCOMPARE(shown(), "language_file"_s);
+        field->setText("no such thing"_s);
+        QCOMPARE(shown(), QString());
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(shown(), first);
+        QVERIFY(dialog.isVisible());
+        // To go to a page leaves the search.
+        field->setText("idle"_s);
+        QTest::keyClick(find<QListWidget>(dialog, "settingsPages"), Qt::Key_End);
+        QCOMPARE(shown(), "theme text_size motion_off"_s);
+    }
 
-    QTest::keyClick(reach(program.settings(), Setting::General, "language_file"), Qt::Key_End);
-    QCOMPARE(configValue(program.test, "language_file").toString(),
-             QStringLiteral("passwordmanager_xx"));
-    const auto lockName = [&program] {
-        return find<QAbstractButton>(*program.ui.mainWindow(), "lockButton")->accessibleName();
-    };
-    QTRY_COMPARE(lockName(), QStringLiteral("Verrou"));
-    QVERIFY(program.ui.mainWindow()->isVisible());
-    QVERIFY(program.test.core.currentSafe()->isUnlocked());
-    QCOMPARE(find<QListView>(*program.ui.mainWindow(), "categoryList")->currentIndex().row(), row);
-    QCOMPARE(shownTitle(), QStringLiteral("Shop"));
+    void pageIsKept()
+    {
+        Program program;
+        QPointer<SettingsDialog> dialog = &program.settings();
+        QTest::keyClick(find<QListWidget>(*dialog, "settingsPages"), Qt::Key_End);
+        QTest::keyClick(dialog.data(), Qt::Key_Escape);
+        QTRY_VERIFY(!dialog);
+        QCOMPARE(uiValue(program.test, "SettingsDialog_TabIndex").toInt(),
+                 int(Setting::Appearance));
+        QVERIFY(uiValue(program.test, "SettingsDialog_Geometry").isValid());
+        QCOMPARE(find<QListWidget>(program.settings(), "settingsPages")->currentRow(),
+                 int(Setting::Appearance));
+    }
 
-    // The windows of before are gone: what happens to the safe happens once.
-    program.test.core.lockCurrentSafe();
-    QTRY_VERIFY(find<QLineEdit>(*program.ui.mainWindow(), "masterPassword")->isVisible());
-    QVERIFY(program.ui.setLanguage(QStringLiteral("passwordmanager_en")));
-    QTRY_COMPARE(lockName(), QStringLiteral("Lock"));
-    QVERIFY(find<QLineEdit>(*program.ui.mainWindow(), "masterPassword")->isVisible());
-    QCOMPARE(find<QComboBox>(*program.ui.mainWindow(), "safeSelector")->currentText(),
-             program.test.core.currentSafe()->name());
-    QVERIFY(!program.ui.setLanguage(QStringLiteral("passwordmanager_nowhere")));
-}
+    void hotkeys_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("hotkey");
+        QTest::addColumn<QString>("fault");
+        const QString none;
+        const QString bare = "together with"_s;
+        QTest::newRow("modified") << int(Qt::CTRL | Qt::SHIFT | Qt::Key_P) << "Ctrl+Shift+P"_s
+                                  << none;
+        QTest::newRow("function key") << int(Qt::Key_F12) << "F12"_s << none;
+        QTest::newRow("with Meta") << int(Qt::META | Qt::Key_Delete) << "Meta+Del"_s << none;
+        QTest::newRow("letter") << int(Qt::Key_P) << none << bare;
+        QTest::newRow("capital letter") << int(Qt::SHIFT | Qt::Key_P) << none << bare;
+        QTest::newRow("space") << int(Qt::Key_Space) << none << bare;
+        QTest::newRow("enter") << int(Qt::Key_Return) << none << bare;
+        QTest::newRow("key that no system takes")
+            << int(Qt::CTRL | Qt::Key_Enter) << none << "This key"_s;
+        QTest::newRow("key of the program") << int(Qt::CTRL | Qt::Key_F) << none << "Search"_s;
+        QTest::newRow("key of texts") << int(Qt::CTRL | Qt::Key_V) << none << "paste"_s;
+        QTest::newRow("other hotkey")
+            << int(Qt::CTRL | Qt::ALT | Qt::Key_B) << none << "Browser plugin hotkey"_s;
+    }
+    void hotkeys()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, hotkey);
+        QFETCH(QString, fault);
+        Program program;
+        GPMAppSettings &settings = program.test.core.settings();
+        settings.setPluginHotkey("Ctrl+Alt+B"_s);
+        SettingsDialog &dialog = program.settings();
+        QWidget *editor = reach(dialog, Setting::Hotkeys, "lock_hotkey");
+        const auto press = [editor](int keys) {
+            QTest::keyClick(editor, static_cast<Qt::Key>(keys & ~int(Qt::KeyboardModifierMask)),
+                            Qt::KeyboardModifiers(keys & int(Qt::KeyboardModifierMask)));
+        };
+        press(key);
+        QCOMPARE(settings.lockHotkey(), hotkey);
+        const auto *told = find<QLabel>(dialog, "lock_hotkeyFault");
+        QCOMPARE(told->isVisible(), !fault.isEmpty());
+        QVERIFY2(told->text().contains(fault), qPrintable(told->text()));
+        press(Qt::CTRL | Qt::ALT | Qt::Key_X);
+        QCOMPARE(settings.lockHotkey(), "Ctrl+Alt+X"_s);
+        QVERIFY(!told->isVisible());
+        press(Qt::Key_Backspace);
+        QCOMPARE(settings.lockHotkey(), QString());
+        press(Qt::Key_Tab);
+        QVERIFY(!editor->hasFocus());
+    }
 
-void TestSettingsDialog::unsavedEditIsAskedFor()
-{
-    Program program;
-    program.test.addLogin(QStringLiteral("Shop"));
-    QTest::keyClick(find<QListView>(*program.ui.mainWindow(), "itemList"), Qt::Key_Home);
-    QApplication::setActiveWindow(program.ui.mainWindow());
-    QTest::keyClick(program.ui.mainWindow(), Qt::Key_E, Qt::ControlModifier);
-    auto *title = find<QLineEdit>(*program.ui.mainWindow(), "titleField");
-    QVERIFY(title);
-    QTest::keyClicks(title, QStringLiteral("More"));
-    const QString text = title->text();
-    // To leave the question is to go on editing.
-    bool asked = false;
-    QTimer::singleShot(0, qApp, [&program, &asked] {
-        auto *question = program.ui.mainWindow()->findChild<QuestionDialog *>();
-        asked = question;
-        if (question)
-            question->reject();
-    });
-    QVERIFY(!program.ui.setTextPercent(130));
-    QVERIFY(asked);
-    QCOMPARE(Style::textPercent(), 100);
-    QCOMPARE(find<QLineEdit>(*program.ui.mainWindow(), "titleField")->text(), text);
-}
+    void ownShortcutsAreTaken()
+    {
+        Program program;
+        auto *editor = qobject_cast<HotkeyLineEdit *>(
+            reach(program.settings(), Setting::Hotkeys, "lock_hotkey"));
+        QSignalSpy refused(editor, &HotkeyLineEdit::refused);
+        int pressed = 0;
+        for (const QShortcut *shortcut : program.ui.mainWindow()->findChildren<QShortcut *>()) {
+            const int key = shortcut->key()[0];
+            if (key == Qt::Key_Escape || key == 0)
+                continue;
+            QTest::keyClick(editor, static_cast<Qt::Key>(key & ~int(Qt::KeyboardModifierMask)),
+                            Qt::KeyboardModifiers(key & int(Qt::KeyboardModifierMask)));
+            QCOMPARE(refused.count(), ++pressed);
+        }
+        QVERIFY(pressed > 5);
+    }
+
+    void lockHotkeyLocks()
+    {
+        Program program;
+        SettingsDialog &dialog = program.settings();
+        QTest::keyClick(reach(dialog, Setting::Hotkeys, "lock_hotkey"), Qt::Key_K,
+                        Qt::ControlModifier | Qt::AltModifier);
+        QVERIFY(program.test.core.currentSafe()->isUnlocked());
+        find<QWidget>(dialog, "settingsSearch")->setFocus();
+        QTest::keyClick(&dialog, Qt::Key_K, Qt::ControlModifier | Qt::AltModifier);
+        QVERIFY(!program.test.core.currentSafe()->isUnlocked());
+    }
+
+    void openFromTheLockPage()
+    {
+        Program program;
+        program.test.core.lockCurrentSafe();
+        QApplication::setActiveWindow(program.ui.mainWindow());
+        QTest::keyClick(program.ui.mainWindow()->focusWidget(), Qt::Key_Comma, Qt::ControlModifier);
+        QVERIFY(program.ui.mainWindow()->findChild<SettingsDialog *>());
+    }
+
+    void tellsWhereNobodySeemsAway()
+    {
+        Program program;
+        const auto explanation = [&program] {
+            const QWidget *lock = reach(program.settings(), Setting::Security, "autolock_inactive");
+            return lock->accessibleDescription();
+        };
+        QCOMPARE(explanation(), "The safe locks when you leave the computer alone."_s);
+        delete program.ui.mainWindow()->findChild<SettingsDialog *>();
+        program.test.user->tells = false;
+        for (int second = 0; second < 10; ++second)
+            program.test.core.checkInactivity();
+        QVERIFY(explanation().startsWith("Your desktop does not tell when you are away."_s));
+    }
+
+    void look()
+    {
+        Program program;
+        QTest::keyClick(reach(program.settings(), Setting::Appearance, "theme"), Qt::Key_End);
+        QCOMPARE(uiValue(program.test, "Theme").toString(), "Dark"_s);
+        const auto ground = [&program] {
+            return program.ui.mainWindow()
+                ->findChild<QWidget *>("searchField"_s)
+                ->palette()
+                .color(QPalette::Base)
+                .lightness();
+        };
+        QVERIFY(ground() < 100);
+        QTest::keyClick(reach(program.settings(), Setting::Appearance, "theme"), Qt::Key_Up);
+        QVERIFY(ground() > 200);
+        QTest::keyClick(reach(program.settings(), Setting::Appearance, "motion_off"),
+                        Qt::Key_Space);
+        QCOMPARE(uiValue(program.test, "MotionOff").toBool(), true);
+
+        const int rowBefore =
+            find<QListView>(*program.ui.mainWindow(), "categoryList")->sizeHintForRow(0);
+        QTest::keyClick(reach(program.settings(), Setting::Appearance, "text_size"), Qt::Key_End);
+        QCOMPARE(uiValue(program.test, "TextSize").toInt(), 150);
+        const auto *former = program.ui.mainWindow();
+        QTRY_VERIFY(program.ui.mainWindow() != former);
+        QVERIFY(program.ui.mainWindow()->isVisible());
+        QCOMPARE(find<QListView>(*program.ui.mainWindow(), "categoryList")->sizeHintForRow(0),
+                 rowBefore * 3 / 2);
+        // The settings are still open where they were, and a later start has the same size.
+        auto *dialog = program.ui.mainWindow()->findChild<SettingsDialog *>();
+        QVERIFY(dialog && find<QWidget>(*dialog, "text_size")->isVisible());
+        QCOMPARE(dialog->fontInfo().pixelSize(), 20);
+        Style::setTextPercent(100);
+        const PMUiProvider later(program.test.core, [] { return true; });
+        QCOMPARE(Style::textPercent(), 150);
+        Theme().setTextPercent(100);
+        qApp->setStyleSheet({});
+    }
+
+    void languageWithoutRestart()
+    {
+        Program program;
+        makeLanguage(program.test.folder.path(), "xx", "Sidebar", {{"Lock"_s, "Verrou"_s}});
+        const QString id = program.test.addLogin("Shop"_s);
+        program.test.addLogin("Bank"_s);
+        auto *categories = find<QListView>(*program.ui.mainWindow(), "categoryList");
+        QTest::keyClick(categories, Qt::Key_Down);
+        QTest::keyClick(categories, Qt::Key_Down);
+        QTest::keyClick(categories, Qt::Key_Down);
+        const int row = categories->currentIndex().row();
+        auto *items = find<QListView>(*program.ui.mainWindow(), "itemList");
+        QTest::keyClick(items, Qt::Key_End);
+        const auto shownTitle = [&program] {
+            return find<QLabel>(*program.ui.mainWindow(), "itemTitle")->accessibleName();
+        };
+        QCOMPARE(shownTitle(), "Shop"_s);
+
+        QTest::keyClick(reach(program.settings(), Setting::General, "language_file"), Qt::Key_End);
+        QCOMPARE(configValue(program.test, "language_file").toString(), "passwordmanager_xx"_s);
+        const auto lockName = [&program] {
+            return find<QAbstractButton>(*program.ui.mainWindow(), "lockButton")->accessibleName();
+        };
+        QTRY_COMPARE(lockName(), "Verrou"_s);
+        QVERIFY(program.ui.mainWindow()->isVisible());
+        QVERIFY(program.test.core.currentSafe()->isUnlocked());
+        QCOMPARE(find<QListView>(*program.ui.mainWindow(), "categoryList")->currentIndex().row(),
+                 row);
+        QCOMPARE(shownTitle(), "Shop"_s);
+
+        // The windows of before are gone: what happens to the safe happens once.
+        program.test.core.lockCurrentSafe();
+        QTRY_VERIFY(find<QLineEdit>(*program.ui.mainWindow(), "masterPassword")->isVisible());
+        QVERIFY(program.ui.setLanguage("passwordmanager_en"_s));
+        QTRY_COMPARE(lockName(), "Lock"_s);
+        QVERIFY(find<QLineEdit>(*program.ui.mainWindow(), "masterPassword")->isVisible());
+        QCOMPARE(find<QComboBox>(*program.ui.mainWindow(), "safeSelector")->currentText(),
+                 program.test.core.currentSafe()->name());
+        QVERIFY(!program.ui.setLanguage("passwordmanager_nowhere"_s));
+    }
+
+    void unsavedEditIsAskedFor()
+    {
+        Program program;
+        program.test.addLogin("Shop"_s);
+        QTest::keyClick(find<QListView>(*program.ui.mainWindow(), "itemList"), Qt::Key_Home);
+        QApplication::setActiveWindow(program.ui.mainWindow());
+        QTest::keyClick(program.ui.mainWindow(), Qt::Key_E, Qt::ControlModifier);
+        auto *title = find<QLineEdit>(*program.ui.mainWindow(), "titleField");
+        QVERIFY(title);
+        QTest::keyClicks(title, "More"_s);
+        const QString text = title->text();
+        // To leave the question is to go on editing.
+        bool asked = false;
+        QTimer::singleShot(0, qApp, [&program, &asked] {
+            auto *question = program.ui.mainWindow()->findChild<QuestionDialog *>();
+            asked = question;
+            if (question)
+                question->reject();
+        });
+        QVERIFY(!program.ui.setTextPercent(130));
+        QVERIFY(asked);
+        QCOMPARE(Style::textPercent(), 100);
+        QCOMPARE(find<QLineEdit>(*program.ui.mainWindow(), "titleField")->text(), text);
+    }
+};
 
 QTEST_MAIN(TestSettingsDialog)
 #include "tst_settingsdialog.moc"

@@ -9,17 +9,6 @@
 #include <QListWidget>
 #include <QPushButton>
 
-class TestSetupWizard : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void everyStepDone();
-    void everyStepSkipped();
-    void leftInTheMiddle();
-    void onlyStepsThatExist();
-};
-
 namespace {
 
 struct Start
@@ -59,11 +48,11 @@ public:
     }
     bool goOn() override
     {
-        m_log.append(QStringLiteral("go on"));
+        m_log.append("go on"_s);
         return m_works;
     }
     bool canSkip() const override { return true; }
-    void clearSecrets() override { m_log.append(QStringLiteral("clear")); }
+    void clearSecrets() override { m_log.append("clear"_s); }
 
 private:
     bool m_works;
@@ -72,103 +61,110 @@ private:
 
 } // namespace
 
-void TestSetupWizard::everyStepDone()
+class TestSetupWizard : public QObject
 {
-    Start start;
-    const QPointer<SetupWizard> wizard = start.wizard();
-    QVERIFY(wizard && wizard->isVisible());
-    QCOMPARE(wizard->step(), QStringLiteral("safe"));
-    QVERIFY(!start.button("wizardOnward")->isEnabled());
-    start.enter("newSafeName", QStringLiteral("Home"));
-    start.enter("newSafePassword", testPassword);
-    QVERIFY(!find<QLabel>(*wizard, "newSafePasswordMessage")->text().isEmpty());
-    start.enter("newSafeConfirm", testPassword);
-    start.enter("newSafeHint", QStringLiteral("the usual"));
-    QTest::keyClick(find<QLineEdit>(*wizard, "newSafeHint"), Qt::Key_Return);
-    QVERIFY(wizard && wizard->isVisible());
-    QCOMPARE(start.test.core.currentSafe()->name(), QStringLiteral("Home"));
-    QVERIFY(start.test.core.currentSafe()->isUnlocked());
-    QVERIFY(start.menuEntry()->isVisible());
+    Q_OBJECT
 
-    // Back shows what was made, not the fields once more.
-    start.button("wizardBack")->click();
-    QVERIFY(find<QLabel>(*wizard, "safeMade")->text().contains(QStringLiteral("Home")));
-    QVERIFY(!find<QLineEdit>(*wizard, "newSafePassword")->isVisible());
-    QCOMPARE(find<QLineEdit>(*wizard, "newSafePassword")->text(), QString());
-    while (wizard->step() != QLatin1String("ready"))
+private Q_SLOTS:
+    void everyStepDone()
+    {
+        Start start;
+        const QPointer<SetupWizard> wizard = start.wizard();
+        QVERIFY(wizard && wizard->isVisible());
+        QCOMPARE(wizard->step(), "safe"_s);
+        QVERIFY(!start.button("wizardOnward")->isEnabled());
+        start.enter("newSafeName", "Home"_s);
+        start.enter("newSafePassword", testPassword);
+        QVERIFY(!find<QLabel>(*wizard, "newSafePasswordMessage")->text().isEmpty());
+        start.enter("newSafeConfirm", testPassword);
+        start.enter("newSafeHint", "the usual"_s);
+        QTest::keyClick(find<QLineEdit>(*wizard, "newSafeHint"), Qt::Key_Return);
+        QVERIFY(wizard && wizard->isVisible());
+        QCOMPARE(start.test.core.currentSafe()->name(), "Home"_s);
+        QVERIFY(start.test.core.currentSafe()->isUnlocked());
+        QVERIFY(start.menuEntry()->isVisible());
+
+        // Back shows what was made, not the fields once more.
+        start.button("wizardBack")->click();
+        QVERIFY(find<QLabel>(*wizard, "safeMade")->text().contains("Home"_s));
+        QVERIFY(!find<QLineEdit>(*wizard, "newSafePassword")->isVisible());
+        QCOMPARE(find<QLineEdit>(*wizard, "newSafePassword")->text(), QString());
+        while (wizard->step() != QLatin1String("ready"))
+            start.button("wizardOnward")->click();
         start.button("wizardOnward")->click();
-    start.button("wizardOnward")->click();
-    QVERIFY(!wizard->isVisible());
-    QVERIFY(!start.menuEntry()->isVisible());
-}
+        QVERIFY(!wizard->isVisible());
+        QVERIFY(!start.menuEntry()->isVisible());
+    }
 
-void TestSetupWizard::everyStepSkipped()
-{
-    Start start;
-    const QPointer<SetupWizard> wizard = start.wizard();
-    start.enter("newSafePassword", testPassword);
-    while (wizard->step() != QLatin1String("ready"))
-        start.button("wizardSkip")->click();
-    QCOMPARE(find<QLineEdit>(*wizard, "newSafePassword")->text(), QString());
-    start.button("wizardOnward")->click();
-    QVERIFY(!start.test.core.currentSafe());
-    QVERIFY(find<QLineEdit>(*start.provider.mainWindow(), "newSafeName")->isVisible());
-}
+    void everyStepSkipped()
+    {
+        Start start;
+        const QPointer<SetupWizard> wizard = start.wizard();
+        start.enter("newSafePassword", testPassword);
+        while (wizard->step() != QLatin1String("ready"))
+            start.button("wizardSkip")->click();
+        QCOMPARE(find<QLineEdit>(*wizard, "newSafePassword")->text(), QString());
+        start.button("wizardOnward")->click();
+        QVERIFY(!start.test.core.currentSafe());
+        QVERIFY(find<QLineEdit>(*start.provider.mainWindow(), "newSafeName")->isVisible());
+    }
 
-void TestSetupWizard::leftInTheMiddle()
-{
-    Start start;
-    const QPointer<SetupWizard> wizard = start.wizard();
-    start.enter("newSafePassword", testPassword);
-    QTest::keyClick(wizard, Qt::Key_Escape);
-    QTRY_VERIFY(!wizard);
-    // It does not come by itself again, but is found again without the safe, which is there now.
-    QVERIFY(start.test.createSafe());
-    start.provider.bringToFront();
-    QVERIFY(!start.wizard());
-    QVERIFY(start.menuEntry()->isVisible());
-    start.menuEntry()->trigger();
-    QVERIFY(start.wizard()->step() != QLatin1String("safe"));
-    // A lock puts it away like every question.
-    start.test.core.lockCurrentSafe();
-    QTRY_VERIFY(!start.wizard());
-}
+    void leftInTheMiddle()
+    {
+        Start start;
+        const QPointer<SetupWizard> wizard = start.wizard();
+        start.enter("newSafePassword", testPassword);
+        QTest::keyClick(wizard, Qt::Key_Escape);
+        QTRY_VERIFY(!wizard);
+        // It does not come by itself again, but is found again without the safe, which is there
+        // now.
+        QVERIFY(start.test.createSafe());
+        start.provider.bringToFront();
+        QVERIFY(!start.wizard());
+        QVERIFY(start.menuEntry()->isVisible());
+        start.menuEntry()->trigger();
+        QVERIFY(start.wizard()->step() != QLatin1String("safe"));
+        // A lock puts it away like every question.
+        start.test.core.lockCurrentSafe();
+        QTRY_VERIFY(!start.wizard());
+    }
 
-void TestSetupWizard::onlyStepsThatExist()
-{
-    Theme theme;
-    QVector<QString> log;
-    const auto step = [&log](const char *id, bool exists, bool works) {
-        return WizardStep{
-            id,
-            QString::fromLatin1(id),
-            {},
-            [exists] { return exists; },
-            [&log, works](QWidget *parent) { return new CountingPage(works, log, parent); }};
-    };
-    SetupWizard wizard({step("one", true, true), step("missing", false, true),
-                        step("fails", true, false), step("last", true, true)},
-                       theme, nullptr);
-    wizard.show();
-    QSignalSpy completed(&wizard, &SetupWizard::completed);
-    auto *onward = find<QPushButton>(wizard, "wizardOnward");
-    QVERIFY(!find<QPushButton>(wizard, "wizardBack")->isVisible());
-    onward->click();
-    QCOMPARE(wizard.step(), QStringLiteral("fails"));
-    log.clear();
-    onward->click();
-    QCOMPARE(wizard.step(), QStringLiteral("fails"));
-    QCOMPARE(log, QVector<QString>{QStringLiteral("go on")});
-    find<QPushButton>(wizard, "wizardSkip")->click();
-    QCOMPARE(wizard.step(), QStringLiteral("last"));
-    QVERIFY(log.contains(QStringLiteral("clear")));
-    QVERIFY(!find<QPushButton>(wizard, "wizardSkip")->isVisible());
-    QCOMPARE(onward->text(), QStringLiteral("Done"));
-    wizard.goTo(QStringLiteral("missing"));
-    QCOMPARE(wizard.step(), QStringLiteral("last"));
-    onward->click();
-    QCOMPARE(completed.count(), 1);
-}
+    void onlyStepsThatExist()
+    {
+        Theme theme;
+        QVector<QString> log;
+        const auto step = [&log](const char *id, bool exists, bool works) {
+            return WizardStep{
+                id,
+                QString::fromLatin1(id),
+                {},
+                [exists] { return exists; },
+                [&log, works](QWidget *parent) { return new CountingPage(works, log, parent); }};
+        };
+        SetupWizard wizard({step("one", true, true), step("missing", false, true),
+                            step("fails", true, false), step("last", true, true)},
+                           theme, nullptr);
+        wizard.show();
+        QSignalSpy completed(&wizard, &SetupWizard::completed);
+        auto *onward = find<QPushButton>(wizard, "wizardOnward");
+        QVERIFY(!find<QPushButton>(wizard, "wizardBack")->isVisible());
+        onward->click();
+        QCOMPARE(wizard.step(), "fails"_s);
+        log.clear();
+        onward->click();
+        QCOMPARE(wizard.step(), "fails"_s);
+        QCOMPARE(log, QVector<QString>{"go on"_s});
+        find<QPushButton>(wizard, "wizardSkip")->click();
+        QCOMPARE(wizard.step(), "last"_s);
+        QVERIFY(log.contains("clear"_s));
+        QVERIFY(!find<QPushButton>(wizard, "wizardSkip")->isVisible());
+        QCOMPARE(onward->text(), "Done"_s);
+        wizard.goTo("missing"_s);
+        QCOMPARE(wizard.step(), "last"_s);
+        onward->click();
+        QCOMPARE(completed.count(), 1);
+    }
+};
 
 QTEST_MAIN(TestSetupWizard)
 #include "tst_setupwizard.moc"

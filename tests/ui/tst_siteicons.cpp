@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "main/SiteIcons.h"
 
 #include <QBuffer>
@@ -49,6 +50,7 @@ QByteArray endlessGif(int pictures)
 
 /// The icons come from web sites: whatever their bytes are, a window shows a small picture of them
 /// or none.
+
 class TestSiteIcons : public QObject
 {
     Q_OBJECT
@@ -74,18 +76,17 @@ private Q_SLOTS:
             << false;
         QTest::newRow("an animation without end") << endlessGif(2000) << true;
     }
-
     void bytesOfAnySite()
     {
         QFETCH(QByteArray, bytes);
         const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("icon.png")));
+        QFile file(folder.filePath("icon.png"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(bytes);
         file.close();
         SiteIcons icons;
         icons.setFolder(folder.path());
-        const QPixmap icon = icons.icon(QStringLiteral("icon.png"), 32);
+        const QPixmap icon = icons.icon("icon.png"_s, 32);
         QTEST(!icon.isNull(), "shown");
         QVERIFY(icon.width() <= 32 && icon.height() <= 32);
     }
@@ -93,7 +94,7 @@ private Q_SLOTS:
     void iconOfADomainAppearsWhenItIsThere()
     {
         const QTemporaryDir folder;
-        const QString domain = QStringLiteral("shop.example");
+        const QString domain = "shop.example"_s;
         SiteIcons icons;
         icons.setFolder(folder.path());
         QVERIFY(icons.icon({}, 32, domain).isNull());
@@ -101,10 +102,10 @@ private Q_SLOTS:
         QSignalSpy changed(&icons, &SiteIcons::changed);
         icons.onUpdateFavicons(domain);
         QCOMPARE(changed.size(), 1);
-        QVERIFY(!icons.icon({}, 32, QStringLiteral("www.shop.example")).isNull());
+        QVERIFY(!icons.icon({}, 32, "www.shop.example"_s).isNull());
         // The icon that comes with a kind of item gives way, one that the item names does not.
-        QVERIFY(!icons.icon(QStringLiteral(":/icons/login.svg"), 32, domain).isNull());
-        QVERIFY(icons.icon(QStringLiteral("own.png"), 32, domain).isNull());
+        QVERIFY(!icons.icon(":/icons/login.svg"_s, 32, domain).isNull());
+        QVERIFY(icons.icon("own.png"_s, 32, domain).isNull());
         icons.setFolder({});
         QVERIFY(icons.icon({}, 32, domain).isNull());
     }
@@ -112,15 +113,15 @@ private Q_SLOTS:
     void nothingOutsideTheFolder()
     {
         const QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("icons")));
-        QFile outside(folder.filePath(QStringLiteral("outside.png")));
+        QVERIFY(QDir(folder.path()).mkdir("icons"_s));
+        QFile outside(folder.filePath("outside.png"_s));
         QVERIFY(outside.open(QIODevice::WriteOnly));
         outside.write(picture({8, 8}, "PNG"));
         outside.close();
         SiteIcons icons;
-        icons.setFolder(folder.filePath(QStringLiteral("icons")));
-        for (const QString &name : {QStringLiteral("../outside.png"), QStringLiteral(".."),
-                                    outside.fileName(), QStringLiteral("..\\outside.png")})
+        icons.setFolder(folder.filePath("icons"_s));
+        for (const QString &name :
+             {"../outside.png"_s, ".."_s, outside.fileName(), "..\\outside.png"_s})
             QVERIFY(icons.icon(name, 32).isNull());
     }
 };

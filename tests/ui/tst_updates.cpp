@@ -12,8 +12,7 @@ namespace {
 
 UpdateNews newsOf(const char *version)
 {
-    return {QLatin1String(version), QUrl(QStringLiteral("https://glaceron.example/get")),
-            QStringLiteral("<b>Better</b>")};
+    return {QLatin1String(version), QUrl("https://glaceron.example/get"_s), "<b>Better</b>"_s};
 }
 
 /// The program's main window, and what it tells of newer versions.
@@ -22,7 +21,7 @@ struct Program
     explicit Program(const QString &shownBefore = {})
         : ui((remember(shownBefore), test.core), [] { return true; })
     {
-        QCoreApplication::setApplicationVersion(QStringLiteral("1.1.32"));
+        QCoreApplication::setApplicationVersion("1.1.32"_s);
         start(ui);
     }
 
@@ -58,7 +57,7 @@ struct Program
     bool tells(const char *version) const
     {
         const NewVersionDialog *shown = dialog();
-        const QString text = QStringLiteral("Version %1 is here").arg(QLatin1String(version));
+        const QString text = "Version %1 is here"_s.arg(QLatin1String(version));
         if (!shown || !shown->isVisible())
             return false;
         const QList<QLabel *> labels = shown->findChildren<QLabel *>();
@@ -89,7 +88,7 @@ private Q_SLOTS:
 
         // Nor after the next start.
         const UiSettings kept(QFileInfo(program.test.core.settings().filePath()).path());
-        QCOMPARE(kept.lastUpdateVersionShow(), QStringLiteral("1.2.0"));
+        QCOMPARE(kept.lastUpdateVersionShow(), "1.2.0"_s);
         program.learns("1.1.99");
         QVERIFY(!program.dialog());
         program.learns("1.10.0");
@@ -102,7 +101,7 @@ private Q_SLOTS:
 
     void aSenselessSettingSilencesNothing()
     {
-        Program program(QStringLiteral("newest"));
+        Program program("newest"_s);
         program.learns("1.2.0");
         QVERIFY(program.tells("1.2.0"));
     }
@@ -162,18 +161,18 @@ private Q_SLOTS:
         QVERIFY(find<QLabel>(*panel, "updateDetail")->text().contains(QLatin1String("never")));
 
         // Nobody listens there.
-        program.desk().checker().setEndpoint(QUrl(QStringLiteral("http://127.0.0.1:1/")));
+        program.desk().checker().setEndpoint(QUrl("http://127.0.0.1:1/"_s));
         panel.reset(program.desk().makePanel(&owner));
         auto *check = find<QAbstractButton>(*panel, "checkNowButton");
         const auto *detail = find<QLabel>(*panel, "updateDetail");
         QVERIFY(!check->isHidden());
-        QCOMPARE(detail->text(), QStringLiteral("Not checked yet"));
+        QCOMPARE(detail->text(), "Not checked yet"_s);
         check->click();
-        QCOMPARE(detail->text(), QStringLiteral("Checking…"));
+        QCOMPARE(detail->text(), "Checking…"_s);
         QTRY_COMPARE_WITH_TIMEOUT(program.desk().checker().state(), GPMUpdateChecker::Failed,
                                   20000);
         QVERIFY(detail->text().contains(QLatin1String("no answer")));
-        QCOMPARE(detail->property("tone").toString(), QStringLiteral("error"));
+        QCOMPARE(detail->property("tone").toString(), "error"_s);
     }
 };
 
