@@ -1,4 +1,5 @@
 import { isStillAsked } from './shapes.js';
+import { siteNameIn } from './page/words.js';
 import { belongsTo, siteOf } from './site.js';
 
 // A page that has arrived may still be drawing its form.
@@ -50,13 +51,15 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
   }
 
   function report(port, { submitted, shape }) {
-    const { tab } = port.sender;
+    const { tab, frameId } = port.sender;
     const former = captures.get(tab.id);
     if (former) decide(former, false);
     const capture = { captureId: makeId(), tabId: tab.id, site: siteOf(tab.url), shape, looks: 0, since: now() };
     const icon = tab.favIconUrl;
     const login = {
       ...submitted,
+      // A frame's own title is seen by nobody.
+      ...(frameId > 0 && { siteName: siteNameIn(tab.title ?? '') }),
       login: submitted.login || nameFor(tab),
       url: tab.url,
       domain: new URL(tab.url).hostname,

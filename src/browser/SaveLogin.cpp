@@ -134,8 +134,9 @@ QRect SaveLoginRequest::placeOf(const QJsonObject &data)
 SaveLoginRequest SaveLoginRequest::fromData(const QJsonObject &data)
 {
     SaveLoginRequest request;
-    const QString siteName = plainLine(textOf(data, "siteName"), longestTitle);
-    request.title = siteName.isEmpty() ? plainLine(textOf(data, "title"), longestTitle) : siteName;
+    // A title that says only what the page is for names no site.
+    const bool isNamed = data.contains(QLatin1String("siteName"));
+    request.title = plainLine(textOf(data, isNamed ? "siteName" : "title"), longestTitle);
     const QString url = textOf(data, "url");
     request.site = SiteAddress::parse(url) ? url : textOf(data, "domain");
     bool isWholePage = true;

@@ -204,6 +204,8 @@ void TestSaveLogin::request_data()
             "fields":[{"type":"password","visible":true,"name":"pass","value":"p"}]})",
         "|https://u:p@shop.example:8443/in/%41?token=1#x|ana|p|https://shop.example/favicon.ico|"
         "https://shop.example:8443/|-100000,0 5x0");
+    row(R"({"title":"Change password","siteName":"","domain":"shop.example"})",
+        "|shop.example|||https://shop.example/favicon.ico|shop.example|0,0 0x0");
     row(R"({"domain":"a.example","url":"https://b.example/x","faviconUrl":"https://c.example/i.png",
             "fields":[{"type":"text","visible":true,"name":"login","value":"bob"}]})",
         "|https://b.example/x|bob||https://c.example/i.png|https://b.example/x|0,0 0x0");

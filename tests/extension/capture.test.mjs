@@ -77,6 +77,28 @@ for (const [what, html, send] of SENT) {
   });
 }
 
+test('what a site is called', () => {
+  for (const [title, expected] of [
+    ['Sign in to Shop · Shop', 'Shop'], ['Create your account - Shop', 'Shop'], ['Shop: account', 'Shop: account'], ['Change password', ''], ['Router login', 'Router login'],
+    ['Save the Sea | Log in', 'Save the Sea'], ['', ''],
+  ]) {
+    const page = open(LOGIN, { title });
+    page.type('[name=pw]', 'secret');
+    page.submit();
+    assert.equal(page.said()[0].submitted.siteName, expected, title);
+  }
+});
+
+test('a button that changes a password is none that logs in', () => {
+  const fields = '<input name=old type=password><input name=new type=password>';
+  for (const [html, expected] of [[fields, 1], [fields.replace('<input name=new', '<input hidden name=new'), 0]]) {
+    const page = open(`<div>${html}<button type=button>Reset password</button></div>`);
+    page.type('[name=old]', 'secret');
+    page.click('button');
+    assert.equal(page.said().length, expected, html);
+  }
+});
+
 const NOT_SENT = [
   ['what nobody typed', (page) => { page.find('[name=pw]').value = 'filled'; page.submit(); }],
   ['what a script typed', (page) => { page.type('[name=pw]', 'x', { forged: true }); page.submit(); }],

@@ -106,6 +106,12 @@ test('what the page itself says of its login', async () => {
   assert.deepEqual(told(browser).map(([action]) => action), ['loginDropped']);
 });
 
+test('a login in a frame is called as its page is', async () => {
+  const browser = await opened();
+  await browser.openLoginPort(1, 'https://shop.example', 3).say(submitted({ siteName: 'Inner' }));
+  assert.equal(browser.received()[0].payload.login.siteName, 'The shop');
+});
+
 test('frames of another site report nothing', async () => {
   const browser = await opened();
   await browser.openLoginPort(1, 'https://bank.example').say(submitted());

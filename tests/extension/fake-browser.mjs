@@ -158,9 +158,9 @@ export async function startBrowser(web, { manual = false, documentIds = true, wi
       return { shown: port.shown, close: () => port.onDisconnect.fire(), say: (message) => { port.onMessage.fire(message); return idle(); } };
     },
     /** A document of a tab speaks of logins: {say, end}. */
-    openLoginPort(tabId, origin) {
-      const tab = { ...view(tabs.get(tabId)), favIconUrl: 'https://shop.example/i.png' };
-      const port = { name: 'login', onMessage: createEvent(), onDisconnect: createEvent(), sender: { tab, url: origin ?? tab.url, origin: origin ?? new URL(tab.url).origin } };
+    openLoginPort(tabId, origin, frameId = 0) {
+      const tab = { ...view(tabs.get(tabId)), title: 'Sign in | The shop', favIconUrl: 'https://shop.example/i.png' };
+      const port = { name: 'login', onMessage: createEvent(), onDisconnect: createEvent(), sender: { tab, frameId, url: origin ?? tab.url, origin: origin ?? new URL(tab.url).origin } };
       onConnect.fire(port);
       return { say: (message) => { port.onMessage.fire(message); return idle(); }, end: () => { port.onDisconnect.fire(); return idle(); } };
     },

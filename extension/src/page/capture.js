@@ -8,7 +8,7 @@ import { groupAround, isName, isPassword, passwordForms, shapeOf } from './shape
 import { labelText } from './surroundings.js';
 import { clean } from './text.js';
 import { isVisible } from './visible.js';
-import { CLOSE, GO_ON, SIGN_IN, SIGN_UP, USER_NAME, findPhrase, isPhrase, leadsElsewhere } from './words.js';
+import { CHANGE, CLOSE, GO_ON, SIGN_IN, SIGN_UP, USER_NAME, findPhrase, isPhrase, leadsElsewhere, siteNameIn } from './words.js';
 
 const LOOK = 300;
 const GONE_FOR = 1500;
@@ -44,8 +44,11 @@ function deepTarget(event) {
   return target;
 }
 
+const isPasswordShown = (field) => isPassword(field) && isVisible(field);
+
 function sends(button) {
   const caption = captionOf(button);
+  if (isButton(button) && findPhrase(caption, CHANGE) >= 0 && groupAround(button).filter(isPasswordShown).length > 1) return true;
   if (leadsElsewhere(caption) && findPhrase(caption, SIGN_UP) < 0) return false;
   if (isSubmitButton(button)) return true;
   const words = [...SIGN_IN, ...SIGN_UP, ...GO_ON];
@@ -75,9 +78,7 @@ function givesUp(target) {
 function siteTitle(doc) {
   const named = findAll(doc, 'meta[property="og:site_name"], meta[name="application-name"]')[0];
   const name = named && clean(attr(named, 'content'));
-  if (name) return name;
-  const parts = titleOf(doc).split(/\s+[|·•–—:-]\s+/).map(clean).filter(Boolean);
-  return parts.find((part) => !isPhrase(part, [...SIGN_IN, ...SIGN_UP])) ?? '';
+  return name || siteNameIn(clean(titleOf(doc)));
 }
 
 /**

@@ -18,10 +18,20 @@ export const SIGN_OUT = [
 ];
 
 export const SIGN_UP = [
-  'sign up', 'signup', 'register', 'registration', 'create account', 'create an account', 'join', 'join now',
+  'sign up', 'signup', 'register', 'registration', 'create account', 'create an account', 'create your account', 'join', 'join now',
   'registrieren', 'registrierung', 'konto erstellen', 'регистрация', 'зарегистрироваться', 'создать аккаунт',
   "s'inscrire", 'inscription', 'créer un compte', 'registrarse', 'regístrate', 'crear cuenta', 'registrati',
   'cadastre se', 'criar conta', 'zarejestruj', 'zarejestruj się', 'rejestracja', 'registreren',
+];
+
+// On the button of a form that takes a new password for the old one.
+export const CHANGE = [
+  'save', 'save changes', 'update', 'update password', 'change', 'change password', 'set', 'set password', 'reset', 'reset password',
+  'apply', 'speichern', 'ändern', 'passwort ändern', 'aktualisieren', 'übernehmen', 'zurücksetzen', 'enregistrer', 'modifier', 'changer',
+  'mettre à jour', 'réinitialiser', 'guardar', 'cambiar', 'actualizar', 'restablecer', 'сохранить', 'изменить', 'сменить', 'обновить',
+  'сбросить', 'зберегти', 'змінити', 'salva', 'modifica', 'cambia', 'aggiorna', 'salvar', 'alterar', 'atualizar', 'redefinir', 'zapisz',
+  'zmień', 'zaktualizuj', 'opslaan', 'wijzigen', 'uložit', 'změnit', 'spara', 'ändra', 'kaydet', 'değiştir', '保存', '変更', '更新', '更改',
+  '저장', '변경',
 ];
 
 const PROVIDERS = ['google', 'facebook', 'apple', 'microsoft', 'github', 'twitter', 'linkedin', 'amazon'];
@@ -63,6 +73,13 @@ export function findPhrase(text, phrases) {
 export function isPhrase(text, phrases) {
   const folded = fold(text);
   return phrases.some((phrase) => fold(phrase) === folded);
+}
+
+/** What a page's title calls its site, without what the page is for; empty when it says only that. */
+export function siteNameIn(title) {
+  const parts = title.split(/\s+[|·•–—:-]\s+/).map((part) => part.trim()).filter(Boolean);
+  const words = [...SIGN_IN, ...SIGN_UP, ...CHANGE];
+  return parts.find((part) => findPhrase(part, words) < 0) ?? parts.find((part) => !isPhrase(part, words)) ?? '';
 }
 
 /** Whether a button leads away from logging in here: out, to a new account, to somebody else's, to help. */
