@@ -19,6 +19,8 @@ const FIELDS = [
   ['creditcard', PLAIN, '<input autocomplete="billing cc-number">'],
   ['creditcard', PLAIN, '<input name=cardNumber>'],
   ['creditcard', PLAIN, '<label>Срок действия <input></label>'],
+  ['creditcard', PLAIN, '<input placeholder="MM / YY">'],
+  ['creditcard', PLAIN, '<input name=cc_exp>'],
   ['creditcard', PLAIN, '<input name=cvv type=password maxlength=4>'],
   ['identity', PLAIN, '<input autocomplete="shipping postal-code">'],
   ['identity', PLAIN, '<input autocomplete=email>'],
@@ -35,6 +37,7 @@ const FIELDS = [
   [undefined, PLAIN, '<input type=email>'],
   [undefined, PLAIN, '<input name=promo_card_number>'],
   [undefined, PLAIN, '<input name=comment>'],
+  [undefined, PLAIN, '<input placeholder="DD/MM/YYYY">'],
   [undefined, PLAIN, '<input type=password name=sms_code maxlength=6>'],
 ];
 

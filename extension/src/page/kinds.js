@@ -12,7 +12,7 @@ const TOKENS = [
   [/^(name|honorific|given-name|additional-name|family-name|nickname|organization|street-address|address-|country|postal-code|bday|sex|tel|email)/, 'identity'],
 ];
 const NEVER = /captcha|one.?time|\botp\b|totp|2fa|mfa|verif|pin.?code|sms|search|query|such|поиск|recherche|buscar|coupon|voucher|promo|gift|newsletter|subscri|abonn/i;
-const CARD = /card.?(number|no|num|holder|name)|cc.?(number|num|name|exp|csc|cvc)|credit.?card|kartennummer|karteninhaber|numéro de (la )?carte|n[úu]mero de (la )?tarjeta|номер карты|\bcv[vc]2?\b|\bcsc\b|security.?code|prüfziffer|expir|ablaufdatum|gültig bis|срок действия|caduc/i;
+const CARD = /card.?(number|no|num|holder|name)|cc.?(number|num|name|exp|csc|cvc)|credit.?card|kartennummer|karteninhaber|numéro de (la )?carte|n[úu]mero de (la )?tarjeta|номер карты|\bcv[vc]2?\b|\bcsc\b|security.?code|prüfziffer|expir|\bexp\b|(?<![/.-] ?)\b(mm|мм) ?[/-] ?(yy|jj|aa|гг)|ablaufdatum|gültig bis|срок действия|caduc/i;
 const PERSON = /(first|last|given|family|middle|full|sur|fore).?name|vorname|nachname|prénom|\bnom\b|nombre|apellido|имя|фамилия|отчество|street|address|straße|strasse|adresse|direcci[óo]n|адрес|улица|\bcity\b|\bstadt\b|\bort\b|ville|ciudad|город|zip|postal|postcode|\bplz\b|индекс|phone|mobile|telefon|téléphone|tel[ée]fono|телефон|birth|geburt|naissance|nacimiento|рожден|company|firma|société|empresa|компания/i;
 
 const TOLD = ['name', 'id', 'placeholder', 'aria-label', 'title'];
