@@ -97,3 +97,11 @@ void leaveExtraStreets(QVector<FieldKind> &kinds)
             kind = FieldKind::Other;
     }
 }
+
+int addressesIn(const QVector<FieldKind> &kinds)
+{
+    int most = 1;
+    for (const FieldKind kind : {FieldKind::AddressLine1, FieldKind::City, FieldKind::PostalCode})
+        most = qMax(most, kinds.count(kind));
+    return most;
+}

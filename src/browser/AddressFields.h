@@ -11,5 +11,8 @@
 void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                    QVector<FieldKind> &kinds);
 
+/// How many addresses are asked for, one at least.
+int addressesIn(const QVector<FieldKind> &kinds);
+
 /// Leaves what belongs to an address that is not there: a second street without a second city.
 void leaveExtraStreets(QVector<FieldKind> &kinds);

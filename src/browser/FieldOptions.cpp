@@ -12,6 +12,8 @@ constexpr int firstYear = 1900;
 constexpr int lastYear = 2100;
 /// The page writes the choices; what is longer is none.
 constexpr int longestChoice = 200;
+/// With all titles of a person.
+constexpr int mostSexes = 12;
 
 QHash<QString, int> monthNames()
 {
@@ -37,8 +39,6 @@ struct Tally
     int months = 0;
     int years = 0;
     int dialCodes = 0;
-    int men = 0;
-    int women = 0;
     int cards = 0;
     int largest = 0;
     int smallest = lastYear;
@@ -76,9 +76,6 @@ void count(Tally &tally, const QString &text)
     tally.months += monthOfName(words.value(0)) > 0 || monthOfName(words.value(1)) > 0 ? 1 : 0;
     tally.dialCodes += hasDialCode(text) ? 1 : 0;
     tally.cards += isCardName(text) ? 1 : 0;
-    const Sex sex = sexOfChoice(text);
-    tally.men += sex == Sex::Male ? 1 : 0;
-    tally.women += sex == Sex::Female ? 1 : 0;
 }
 
 } // namespace
@@ -110,20 +107,40 @@ Sex sexOfChoice(const QString &text)
     return women.contains(plain) ? Sex::Female : Sex::Unknown;
 }
 
+bool areSexes(const QStringList &choices)
+{
+    // "Diverse", "other", "not told".
+    static const QString further = QString::fromUtf8("xduonахд");
+    bool hasMen = false;
+    bool hasWomen = false;
+    for (const QString &choice : choices) {
+        const Sex sex = sexOfChoice(choice);
+        hasMen = hasMen || sex == Sex::Male;
+        hasWomen = hasWomen || sex == Sex::Female;
+        const QString letter = choice.trimmed();
+        if (sex == Sex::Unknown && letter.size() == 1 && letter.at(0).isLetter() &&
+            !further.contains(letter, Qt::CaseInsensitive))
+            return false;
+    }
+    return hasMen && hasWomen && choices.size() <= mostSexes;
+}
+
 FieldKind kindOfOptions(const QVector<FormField::Option> &options)
 {
     Tally tally;
+    QStringList choices;
     for (const FormField::Option &option : options) {
         // The first is often an invitation to choose.
-        if (!option.value.isEmpty() && option.value != QLatin1String("0"))
-            count(
-                tally,
-                (option.text.trimmed().isEmpty() ? option.value : option.text).left(longestChoice));
+        if (option.value.isEmpty() || option.value == QLatin1String("0"))
+            continue;
+        choices.append(
+            (option.text.trimmed().isEmpty() ? option.value : option.text).left(longestChoice));
+        count(tally, choices.last());
     }
     if (tally.all < 2)
         return FieldKind::Unknown;
     const auto most = [&](int number) { return number * 3 >= tally.all * 2; };
-    if (tally.men > 0 && tally.women > 0 && tally.all <= 12)
+    if (areSexes(choices))
         return FieldKind::Gender;
     if (most(tally.dialCodes))
         return FieldKind::PhoneCode;

@@ -12,5 +12,8 @@ enum class Sex { Unknown, Male, Female };
 /// What one choice says: "Herr", "Mrs", "male", "F".
 Sex sexOfChoice(const QString &text);
 
+/// Whether one chooses between a man and a woman there, as in "F, M, X" and not as in "S, M, L".
+bool areSexes(const QStringList &choices);
+
 /// The month (1 to 12) that a text names in one of the program's languages, 0 for none.
 int monthOfName(const QString &text);

@@ -108,17 +108,27 @@ public:
         Kind kind;
         int letters;
         bool isWhole;
+        QStringList languages;
+
+        bool isIn(const QString &language) const
+        {
+            return languages.isEmpty() || language.isEmpty() || languages.contains(language) ||
+                   languages.contains(language.section(QLatin1Char('-'), 0, 0));
+        }
     };
 
     explicit PhraseBook(const QVector<WordRow<Kind>> &rows)
     {
         for (const WordRow<Kind> &row : rows) {
+            const QStringList languages =
+                QString::fromLatin1(row.languages).split(QLatin1Char(' '), Qt::SkipEmptyParts);
             const QStringList phrases = QString::fromUtf8(row.phrases).split(QLatin1Char('|'));
             for (const QString &text : phrases) {
                 const QStringList words = wordsOf(text);
                 const bool isWhole = text.startsWith(QLatin1Char('='));
                 if (!words.isEmpty())
-                    m_phrases[words.first()].append({words, row.kind, text.size(), isWhole});
+                    m_phrases[words.first()].append(
+                        {words, row.kind, text.size(), isWhole, languages});
             }
         }
         for (auto phrases = m_phrases.begin(); phrases != m_phrases.end(); ++phrases) {
@@ -130,7 +140,7 @@ public:
     }
 
     /// The longest phrase that begins at the position; null when none does.
-    const Phrase *find(const Words &words, int position) const
+    const Phrase *find(const Words &words, int position, const QString &language) const
     {
         const auto found = m_byWord.constFind(words.at(position));
         if (found == m_byWord.constEnd())
@@ -138,7 +148,7 @@ public:
         for (const Phrase &phrase : **found) {
             if (phrase.isWhole && phrase.words.size() != words.size())
                 continue;
-            if (matches(phrase, words, position))
+            if (matches(phrase, words, position) && phrase.isIn(language))
                 return &phrase;
         }
         return nullptr;
@@ -197,7 +207,7 @@ bool isStrange(const Words &words, int i)
 {
     if (i < 0 || i >= words.size() || words.at(i).size() < 2 || words.at(i).at(0).isDigit())
         return false;
-    return !isIn(harmlessWords(), words, i) && !fieldBook().find(words, i);
+    return !isIn(harmlessWords(), words, i) && !fieldBook().find(words, i, {});
 }
 
 bool isRussianGenitive(QStringView word)
@@ -238,11 +248,35 @@ bool isOfStrangerBehind(const Words &words, int from, int count)
     return isStrange(words, behind);
 }
 
+bool isEnglish(const Words &words, int i)
+{
+    return isIn(englishHeads(), words, i);
+}
+
+/// "Country type", "type d'adresse", "тип адреса".
+bool isTurned(const Words &words, int from, int count)
+{
+    if (words.isBesideNext(from + count - 1) && isIn(turningWords(), words, from + count))
+        return true;
+    int before = from - 1;
+    while (words.isBesideNext(before) && isIn(genitiveWords(), words, before))
+        --before;
+    // In English "type" is also what one shall do.
+    const bool isGenitive = before < from - 1 || !isEnglish(words, from);
+    return isGenitive && words.isBesideNext(before) && isIn(turningWords(), words, before);
+}
+
+/// In code only the last word turns what stands before: "countryType".
+bool isTurnedInCode(const Words &words, int from, int count)
+{
+    return from + count == words.size() - 1 && isIn(turningWords(), words, from + count);
+}
+
 bool isOfStranger(const Words &words, int from, const PhraseBook<FieldKind>::Phrase &phrase,
                   int known)
 {
     const int count = phrase.words.size();
-    if (isOfStrangerBefore(words, from, count, known))
+    if (isOfStrangerBefore(words, from, count, known) || isTurned(words, from, count))
         return true;
     // An example names a street: "rue des Lilas".
     return phrase.kind != FieldKind::AddressLine1 && isOfStrangerBehind(words, from, count);
@@ -250,25 +284,36 @@ bool isOfStranger(const Words &words, int from, const PhraseBook<FieldKind>::Phr
 
 } // namespace
 
-TextMeaning meaningOf(const QString &text, TextSort sort)
+TextMeaning meaningOf(const QString &text, TextSort sort, const QString &language)
 {
     TextMeaning meaning;
     const Words words(text);
     const bool isProse = sort == TextSort::Prose;
     int known = 0;
     for (int i = 0; i < words.size();) {
-        const auto *phrase = fieldBook().find(words, i);
+        const auto *phrase = fieldBook().find(words, i, language);
         const int count = phrase ? phrase->words.size() : 1;
         for (int at = i; isProse && at < i + count; ++at)
             meaning.isOfRecipient = meaning.isOfRecipient || isIn(recipientWords(), words, at);
         if (phrase) {
-            const bool isOfOther = isProse && isOfStranger(words, i, *phrase, known);
+            const bool isOfOther =
+                isProse ? isOfStranger(words, i, *phrase, known) : isTurnedInCode(words, i, count);
             meaning.parts.append({phrase->kind, i, count, phrase->letters, isOfOther});
             known = i + count;
         }
         i += count;
     }
     return meaning;
+}
+
+bool hasStrangeWords(const QString &text)
+{
+    const Words words(text);
+    for (int i = 0; i < words.size(); ++i) {
+        if (isStrange(words, i))
+            return true;
+    }
+    return false;
 }
 
 CaptionKind captionKindOf(const QString &text)
@@ -278,7 +323,7 @@ CaptionKind captionKindOf(const QString &text)
     CaptionKind kind = CaptionKind::None;
     int longest = 0;
     for (int i = 0; i < words.size(); ++i) {
-        const auto *phrase = book.find(words, i);
+        const auto *phrase = book.find(words, i, {});
         if (phrase && phrase->words.size() > longest) {
             kind = phrase->kind;
             longest = phrase->words.size();

@@ -19,7 +19,7 @@ struct TextMeaning
         int words = 0;
         int letters = 0;
         /// Whether in prose a word beside it says that it is of something the program knows nothing
-        /// of: the name "of the project", the "agent's" phone.
+        /// of: the name "of the project", the "agent's" phone. In code, whether the last word does.
         bool isOfOther = false;
     };
     QVector<Part> parts;
@@ -32,9 +32,12 @@ struct TextMeaning
 /// Where a text comes from: names in code say nothing of whose a thing is.
 enum class TextSort { Code, Prose };
 
-/// Reads a text in any of the languages that the program speaks. Longer phrases swallow shorter
-/// ones inside them: a "gift card number" is no card number.
-TextMeaning meaningOf(const QString &text, TextSort sort = TextSort::Code);
+/// Reads a text on a page in the language, a tag in lower case, or in any when that is empty.
+/// Longer phrases swallow shorter ones inside them: a "gift card number" is no card number.
+TextMeaning meaningOf(const QString &text, TextSort sort, const QString &language);
+
+/// Whether prose has words of which nothing is known.
+bool hasStrangeWords(const QString &text);
 
 /// Which part of a form a caption names: signing in, signing up, a newsletter, a search.
 enum class CaptionKind {

@@ -12,6 +12,9 @@ namespace {
 
 /// So many choices of a list tell what it is.
 constexpr int mostTellingOptions = 60;
+/// No field asks for more than the parts of an address.
+constexpr int mostKinds = 5;
+constexpr int longestCaption = 60;
 
 /// Whose order decides between phrases of one length: what people read has its main word first, a
 /// name in code has it last.
@@ -62,16 +65,18 @@ bool isWeakerThan(FieldKind kind, FieldKind other)
            (isPerhapsKind(kind) && isIdentityKind(other));
 }
 
-/// In "company website" the site is meant, in "recipient address" the address.
+/// In "company website" the site is meant, in "recipient address" the address, in "credit card
+/// expiry month" the month.
 const TextMeaning::Part *withoutOwner(const TextMeaning &meaning, const TextMeaning::Part *main)
 {
-    const bool isOwner = main->kind == FieldKind::Company ||
+    const bool isCard = main->kind == FieldKind::CardNumber;
+    const bool isOwner = main->kind == FieldKind::Company || isCard ||
                          (main->kind == FieldKind::FullName && meaning.isOfRecipient);
     if (!isOwner)
         return main;
     for (const TextMeaning::Part &part : meaning.parts) {
         if (part.position == main->position + main->words && !isVagueKind(part.kind) &&
-            part.words <= main->words)
+            (isCard ? isCardKind(part.kind) : part.words <= main->words))
             return &part;
     }
     return main;
@@ -112,6 +117,10 @@ bool isOfOther(const TextMeaning &meaning, FieldKind kind)
     if (!isIdentityKind(kind) && kind != FieldKind::SomeName && kind != FieldKind::CardNumber &&
         kind != FieldKind::CardExpiry && kind != FieldKind::SomeNumber && !isPerhapsKind(kind))
         return false;
+    // "Place, date" is signed.
+    const bool isPlace = kind == FieldKind::City || kind == FieldKind::AddressLine1;
+    if (isPlace && (meaning.names(FieldKind::SomeDate) || meaning.names(FieldKind::BirthDate)))
+        return true;
     return std::any_of(meaning.parts.begin(), meaning.parts.end(),
                        [](const TextMeaning::Part &part) { return part.isOfOther; });
 }
@@ -126,28 +135,30 @@ QVector<FieldKind> kindsIn(const TextMeaning &meaning)
     return kinds;
 }
 
-void take(FieldReading &reading, const QString &text, MainWord mainWord)
+void take(FieldReading &reading, const QString &text, MainWord mainWord, const QString &language)
 {
     if (text.isEmpty())
         return;
     const TextSort sort = mainWord == MainWord::First ? TextSort::Prose : TextSort::Code;
-    TextMeaning meaning = meaningOf(sort == TextSort::Prose ? withoutAsides(text) : text, sort);
+    TextMeaning meaning =
+        meaningOf(sort == TextSort::Prose ? withoutAsides(text) : text, sort, language);
     // In "location (city)" only the aside is known.
     if (meaning.parts.isEmpty() && sort == TextSort::Prose && text.contains(QLatin1Char('(')))
-        meaning = meaningOf(text, sort);
+        meaning = meaningOf(text, sort, language);
     FieldKind kind = mainKind(meaning, mainWord);
     if (mainWord == MainWord::First && isSum(text))
         kind = FieldKind::Never;
     if (kind == FieldKind::Unknown)
         return;
-    if (mainWord == MainWord::First) {
-        reading.isOfRecipient = reading.isOfRecipient || meaning.isOfRecipient;
-        if (reading.kind == FieldKind::Unknown && isOfOther(meaning, kind)) {
-            reading.isOfOther = kind != FieldKind::SomeNumber;
-            reading.kind = FieldKind::Other;
-            reading.also.append(kind);
-            return;
-        }
+    reading.isOfRecipient = reading.isOfRecipient || meaning.isOfRecipient;
+    // Many things have an address in the web.
+    const bool isOfThing = kind == FieldKind::Website && mainWord == MainWord::First &&
+                           hasStrangeWords(withoutAsides(text));
+    if (reading.kind == FieldKind::Unknown && (isOfThing || isOfOther(meaning, kind))) {
+        reading.isOfOther = kind != FieldKind::SomeNumber;
+        reading.kind = FieldKind::Other;
+        reading.also.append(kind);
+        return;
     }
     // "user[name]" is a name in the code of a user.
     const bool isOfUser = reading.kind == FieldKind::SomeName && kind == FieldKind::UserName;
@@ -160,6 +171,24 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord)
         return;
     }
     reading.also += kindsIn(meaning);
+}
+
+/// In "CreditCardInformation.ExpirationYears" the whole is only where it belongs.
+void takeLastPart(FieldReading &reading, const QString &code, const QString &language)
+{
+    const auto isBorder = [&](int i) { return QStringView(u".$:/[]").contains(code.at(i)); };
+    int end = code.size();
+    while (end > 0 && isBorder(end - 1))
+        --end;
+    int start = end;
+    while (start > 0 && !isBorder(start - 1))
+        --start;
+    if (start == 0)
+        return;
+    const QString last = code.mid(start, end - start);
+    const FieldKind kind = mainKind(meaningOf(last, TextSort::Code, language), MainWord::Last);
+    if (!isVagueKind(kind) && kind != FieldKind::Unknown)
+        take(reading, last, MainWord::Last, language);
 }
 
 FieldKind kindOfType(const QString &inputType)
@@ -199,8 +228,6 @@ FieldKind kindInPassword(const FieldReading &reading)
 {
     switch (reading.kind) {
     case FieldKind::Never:
-    // A social security number is hidden too.
-    case FieldKind::Other:
     case FieldKind::NewPassword:
     case FieldKind::CurrentPassword:
     case FieldKind::RepeatedPassword:
@@ -209,8 +236,10 @@ FieldKind kindInPassword(const FieldReading &reading)
     case FieldKind::Password:
         return FieldKind::Password;
     default:
-        // "Last 4 digits of your SSN" are no name.
-        return reading.says(FieldKind::Other) ? FieldKind::Other : FieldKind::Password;
+        // A social security number is hidden too, and "last 4 digits of your SSN" are no name.
+        return reading.named.contains(FieldKind::Other) || reading.also.contains(FieldKind::Other)
+                   ? FieldKind::Other
+                   : FieldKind::Password;
     }
 }
 
@@ -234,7 +263,24 @@ bool hasWord(const QString &text)
                        [](QChar letter) { return letter.isLetterOrNumber(); });
 }
 
-FieldReading readTextsOf(const FormField &field)
+/// Captions in a column of their own are not this field's.
+bool isForMany(const QString &text)
+{
+    return text.size() > longestCaption &&
+           kindsIn(meaningOf(text, TextSort::Prose, QString())).size() > mostKinds;
+}
+
+/// In the languages that the program speaks a text of which it knows no word means something else,
+/// whatever the page's code calls the field. In others the code is all there is.
+bool isForeign(const QString &language)
+{
+    static const QStringList spoken = {QStringLiteral("en"), QStringLiteral("de"),
+                                       QStringLiteral("es"), QStringLiteral("fr"),
+                                       QStringLiteral("ru")};
+    return !language.isEmpty() && !spoken.contains(language.section(QLatin1Char('-'), 0, 0));
+}
+
+FieldReading readTextsOf(const FormField &field, const QString &next, const QString &language)
 {
     FieldReading reading;
     const QStringList texts = field.readTexts();
@@ -243,7 +289,7 @@ FieldReading readTextsOf(const FormField &field)
     for (int i = 0; i < texts.size(); ++i) {
         const QString &text = texts.at(i);
         // The label is often also the text before the field.
-        if (texts.indexOf(text) < i)
+        if (texts.indexOf(text) < i || isForMany(text))
             continue;
         if (isExample(text)) {
             hasExample = true;
@@ -252,19 +298,32 @@ FieldReading readTextsOf(const FormField &field)
         hasSign = hasSign || !text.isEmpty();
         const bool isFirst = !reading.hasText;
         reading.hasText = reading.hasText || hasWord(text);
-        take(reading, text, MainWord::First);
+        take(reading, text, MainWord::First, language);
         if (isFirst && reading.hasText)
             reading.isStrange = reading.kind == FieldKind::Unknown;
     }
-    if (!hasSign)
-        take(reading, field.textAfter(), MainWord::First);
+    if (!hasSign && field.textAfter() != next)
+        take(reading, field.textAfter(), MainWord::First, language);
     const FieldKind behind = hasSign ? FieldKind::Unknown : reading.kind;
+    const bool isOther =
+        reading.isStrange && reading.kind == FieldKind::Unknown && !isForeign(language);
     const QString &name = field.name();
     const QString &id = field.id();
-    take(reading, name, MainWord::Last);
-    if (id != name)
-        take(reading, id, MainWord::Last);
+    for (const QString &code : {name, id != name ? id : QString()}) {
+        if (reading.kind == FieldKind::Unknown || isVagueKind(reading.kind))
+            takeLastPart(reading, code, language);
+        take(reading, code, MainWord::Last, language);
+    }
+    if (isOther && isIdentityKind(reading.kind))
+        reading.kind = FieldKind::Other;
     reading.isFromBehind = behind != FieldKind::Unknown && reading.kind == behind;
+    // What stands before the "@" is no whole address.
+    if (reading.kind == FieldKind::Email && field.textAfter().startsWith(QLatin1Char('@')))
+        reading.kind = FieldKind::Other;
+    // "+49" stands there already.
+    static const QRegularExpression dialCode(QStringLiteral("^\\(?\\+\\d{1,3}\\)?$"));
+    if (reading.kind == FieldKind::Phone && dialCode.match(field.textBefore()).hasMatch())
+        reading.kind = FieldKind::PhoneNumber;
     if (reading.kind == FieldKind::Unknown && hasExample)
         reading.kind = FieldKind::Email;
     if (field.isInSearch())
@@ -288,9 +347,9 @@ FieldReading readTextsOf(const FormField &field)
 
 } // namespace
 
-FieldReading readField(const FormField &field)
+FieldReading readField(const FormField &field, const QString &next, const QString &language)
 {
-    FieldReading reading = readTextsOf(field);
+    FieldReading reading = readTextsOf(field, next, language);
     const FieldKind told = kindOfAutocomplete(field);
     if (told == FieldKind::Never)
         reading.kind = told;

@@ -30,4 +30,6 @@ struct FieldReading
     }
 };
 
-FieldReading readField(const FormField &field);
+/// @param next the text before the next field, which is not of this one
+/// @param language of the page, as a tag in lower case; empty when it is not known
+FieldReading readField(const FormField &field, const QString &next, const QString &language);

@@ -73,7 +73,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::Password,
      "password|passwd|pasword|pwd|passwort|kennwort|contrasena|=clave|clave de acceso|mot de passe|mdp|пароль|=pin|passphrase|parol"},
     {FieldKind::CurrentPassword,
-     "current password|old password|oldpassword|currentpassword|existing password|aktuelles passwort|altes passwort|"
+     "current password|old password|oldpassword|oldpass|old pass|oldpwd|old pwd|current pass|currentpassword|existing password|aktuelles passwort|altes passwort|"
      "bisheriges passwort|contrasena actual|mot de passe actuel|ancien mot de passe|текущий пароль|старый пароль"},
 
     {FieldKind::CardFirstName, "first name on card|cardholder first name|card first name|card first|cc first name|cc first|"
@@ -94,7 +94,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "number on card|pmt card nr|kartennummer|kreditkartennummer|karten nr|kartennr|kreditkarte|knr|"
      "numero de tarjeta|nro de tarjeta|nro tarjeta|numero tarjeta|no tarjeta|no de tarjeta|n tarjeta|num tarjeta|numero de la tarjeta|tarjeta de credito|"
      "numero de carte|numero de la carte|numero carte|n de carte|no de carte|numero de carte bancaire|carte bancaire|"
-     "номер карты|номер банковской карты|nomer karty|=karta"},
+     "номер карты|номер банковской карты|nomer karty|=karta|=cc"},
     {FieldKind::CardCode,
      "cvv|cvv 2|ccv|cvc|cvc 2|csc|cvn|cid|ccid|cc id|cc cid|cc cvv|cc csc|cc code|cc checkcode|check code|checkcode|security code|securitycode|"
      "card code|card security code|card verification|card verification number|card verification code|verification value|"
@@ -137,22 +137,22 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "vor und nachname|name vorname|vorname nachname|vollstandiger name|ansprechpartner|empfanger|ihr name|"
      "nombre completo|nombre y apellidos|nombre y apellido|destinatario|nom complet|nom et prenom|nom prenom|destinataire|prenom et nom|"
      "фио|ф и о|fio|получатель|полное имя|имя и фамилия|фамилия имя отчество|ваше имя|контактное лицо|как к вам обращаться"},
-    {FieldKind::SomeName, "name|nom|nombre|=nm"},
+    {FieldKind::SomeName, "name|nom|=nm"},
     {FieldKind::Country,
-     "country|country region|country name|country code|countrycode|country id|country or region|land|=staat|pais|pays|страна|strana|"
+     "country|country region|country name|country code|countrycode|country id|country or region|pais|pays|страна|strana|"
      "country of residence|land region"},
     {FieldKind::State,
-     "state|province|state province|state county|territory|state territory|canton|state id|state or region|state or "
+     "wojewodztwo|wojewodztwa|state|province|state province|state county|territory|state territory|canton|state id|state or region|state or "
      "province|province id|bundesland|kanton|provincia|estado|область|регион|край|oblast|=edo"},
     {FieldKind::City,
-     "city|town|city town|town city|ort|stadt|wohnort|ciudad|poblacion|"
+     "city|town|city town|town city|stadt|wohnort|ciudad|poblacion|"
      "ville|город|gorod|=cty"},
     {FieldKind::AddressLine1,
      "address|street|street address|streetaddress|address line 1|addressline 1|address 1|addr 1|addr|line 1|street 1|home address|mailing "
      "address|postal address|street name|street and number|street and house number|house no and street|house number and street name|"
      "house number and street|enter address line 1|billing address|shipping address|delivery address|street line|street line 1|"
      "strasse|strasse und hausnummer|strasse hausnummer|strasse nr|strasse und nr|anschrift|adresse|strassenname|=str|"
-     "direccion|calle|calle y numero|calle numero|domicilio|=via|rue|adresse n et rue|numero et rue|voie|adresse postale|"
+     "direccion|calle|calle y numero|calle numero|domicilio|rue|adresse n et rue|numero et rue|voie|adresse postale|"
      "улица|адрес|адрес доставки|улица дом|adres|adres 1|ulica|ulitsa"},
     {FieldKind::AddressLine2,
      "address line 2|addressline 2|address 2|addr 2|line 2|street 2|apartment|apartment suite|apartment suite unit|apt|apt suite|apt unit|suite|"
@@ -164,7 +164,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "=дом|номер дома|=dom"},
     {FieldKind::PostalCode,
      "postal code|postalcode|postcode|post code|zip|zip code|zipcode|zip postal code|zip postal|postal|zippostalcode|=zp|bzip|pincode|pin "
-     "code|plz|postleitzahl|codigo postal|cod postal|=c p|=cp|cpost|code postal|индекс|почтовый индекс|почтовыи индекс|indeks|=index"},
+     "code|plz|postleitzahl|codigo postal|cod postal|=c p|=cp|cpost|code postal|индекс|почтовый индекс|почтовыи индекс|indeks"},
     {FieldKind::Email,
      "email|e mail|mail|email address|e mail address|mail address|emailaddress|your email|work email|e mail adresse|email adresse|mailadresse|"
      "correo|correo electronico|email address confirm|adresse e mail|adresse email|adresse mail|adresse electronique|courriel|"
@@ -172,8 +172,8 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::Phone,
      "phone|telephone|phone number|phonenumber|phone no|telephone number|telephone no|tel|telno|mobile|mobile number|mobile phone|mobile no|"
      "=cell|cell phone|cellphone|cell number|contact number|contact phone|daytime phone|daytime telephone|telefon|telefonnummer|telefonnr|"
-     "handy|handynummer|mobil|mobilnummer|mobiltelefon|rufnummer|festnetz|telefono|telefono movil|movil|celular|tlf|tfno|"
-     "numero de telefono|telephone portable|telephone mobile|portable|numero de telephone|телефон|номер телефона|мобильный|мобильный телефон|"
+     "handynummer|mobil|mobilnummer|mobiltelefon|rufnummer|festnetz|telefono|telefono movil|movil|celular|tlf|tfno|"
+     "numero de telefono|telephone portable|telephone mobile|numero de telephone|телефон|номер телефона|мобильный|мобильный телефон|"
      "мобильныи|контактный телефон|сотовый|msisdn"},
     {FieldKind::PhoneCode,
      "phone country code|phone code|dialing code|dialling code|dial code|dialcode|calling code|country calling code|phone prefix|"
@@ -189,34 +189,34 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::BirthMonth, "birth month|birthday month|dob month|dobmonth|month of birth|bday month|dob m|dobm|geburtsmonat|mes de nacimiento"},
     {FieldKind::BirthYear, "birth year|birthday year|dob year|dobyear|year of birth|bday year|dob y|doby|geburtsjahr|ano de nacimiento"},
     {FieldKind::Gender,
-     "gender|sex|anrede|geschlecht|genero|sexo|civilite|sexe|genre|=пол|=pol|salutation|salut|courtesy title|tratamiento|обращение"},
+     "gender|sex|anrede|geschlecht|genero|sexo|civilite|sexe|=пол|=pol|salutation|salut|courtesy title|tratamiento|обращение"},
     {FieldKind::Company,
-     "company|company name|organization|organisation|organization name|business name|employer|=firm|firma|firmenname|unternehmen|betrieb|"
+     "company|company name|organization|organisation|organization name|business name|employer|=firm|firmenname|unternehmen|betrieb|"
      "arbeitgeber|empresa|nombre de la empresa|razon social|societe|entreprise|raison sociale|nom de l entreprise|компания|организация|"
      "место работы|название компании|работодатель"},
     {FieldKind::JobTitle,
-     "job title|jobtitle|=job|=position|occupation|profession|=role|beruf|stellung|berufsbezeichnung|puesto|=cargo|profesion|ocupacion|fonction|"
-     "=poste|metier|должность|профессия"},
+     "job title|jobtitle|=job|=position|occupation|profession|=role|beruf|stellung|berufsbezeichnung|puesto|profesion|ocupacion|fonction|"
+     "metier|должность|профессия"},
     {FieldKind::Website,
      "website|web site|url|homepage|home page|=web|webseite|internetseite|pagina web|sitio web|site web|site internet|сайт|веб саит"},
 
     {FieldKind::SomeNumber, "number|no|numero|num|nummer|номер"},
     {FieldKind::SomeCode, "code|codigo|код|kod"},
-    {FieldKind::SomeDay, "day|dd|tag|tt|dia|jour|jj|день|дд"},
-    {FieldKind::SomeMonth, "month|mm|mo|monat|mes|mois|месяц|мм"},
-    {FieldKind::SomeYear, "year|yy|yyyy|yr|jahr|jjjj|ano|aa|aaaa|annee|год|гг|гггг"},
+    {FieldKind::SomeDay, "day|dd|jour|jj|день|дд"},
+    {FieldKind::SomeMonth, "month|months|mm|mo|monat|mois|месяц|мм"},
+    {FieldKind::SomeYear, "year|years|yy|yyyy|yr|jahr|jjjj|aa|aaaa|annee|год|гг|гггг"},
     {FieldKind::SomeDate, "date|datum|fecha|дата|dd mm yyyy|mm dd yyyy|tt mm jjjj|jj mm aaaa|dd mm aaaa|дд мм гггг|yyyy mm dd"},
 
     // Words of further languages that many shops of the neighbourhood write.
     {FieldKind::FirstName, "voornaam|imie|prenome"},
-    {FieldKind::LastName, "achternaam|cognome|nazwisko|sobrenome|apelido|apelidos"},
+    {FieldKind::LastName, "achternaam|cognome|nazwisko|sobrenome"},
     {FieldKind::SomeName, "nome|naam"},
     {FieldKind::FullName, "nome e cognome|nome completo|volledige naam|imie i nazwisko"},
     {FieldKind::AddressLine1, "straat|straatnaam|straat en huisnummer|indirizzo|endereco|morada|logradouro|=rua|ulica i numer"},
     {FieldKind::HouseNumber, "huisnummer|numero civico|numer domu"},
-    {FieldKind::PostalCode, "=cap|codice postale|kod pocztowy|=cep|codigo de enderecamento"},
-    {FieldKind::City, "woonplaats|=plaats|citta|comune|miejscowosc|miasto|cidade"},
-    {FieldKind::Country, "nazione|paese|=kraj"},
+    {FieldKind::PostalCode, "codice postale|kod pocztowy|codigo de enderecamento"},
+    {FieldKind::City, "woonplaats|citta|miejscowosc|miasto|cidade"},
+    {FieldKind::Country, "nazione|paese"},
     {FieldKind::Phone, "telefoon|telefoonnummer|telemovel|cellulare|numero di telefono|numer telefonu|telefone"},
     {FieldKind::Email, "e mailadres|emailadres|posta elettronica|adres e mail|adres email"},
     {FieldKind::BirthDate, "geboortedatum|data di nascita|data de nascimento|data urodzenia"},
@@ -227,11 +227,11 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::CardHolder,
      "naam op de kaart|naam op kaart|intestatario|intestatario della carta|titolare della carta|nome sulla carta|nome no cartao|nome impresso no cartao|"
      "imie i nazwisko na karcie"},
-    {FieldKind::CardExpiry, "vervaldatum|scadenza|data di scadenza|validade|data de validade|data waznosci"},
+    {FieldKind::CardExpiry, "vervaldatum|data di scadenza|validade|data de validade|data waznosci"},
     {FieldKind::CardCode, "beveiligingscode|codice di sicurezza|codigo de seguranca|kod bezpieczenstwa"},
     // Words that are an address's in one country and beside it in another.
     {FieldKind::PerhapsCity,
-     "localidade|suburb|locality|village|municipality|post town|localidad|municipio|commune|localite|населенныи пункт|bairro municipio"},
+     "distrito|localidade|suburb|locality|village|municipality|post town|localidad|municipio|commune|localite|населенныи пункт|bairro municipio"},
     {FieldKind::PerhapsState, "region|region id|county|prefecture|departamento|departement|=zone|uezd"},
     {FieldKind::PerhapsLine2, "=escalera|=puerta|=portal|=piso|=корпус|batiment"},
     {FieldKind::PerhapsPostalCode, "postnummer|postnr"},
@@ -280,28 +280,72 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::AddressLine2, "nr lokalu|nr mieszkania|numer mieszkania|numer lokalu|flat|flat number|flat no|piso y puerta|piso puerta|piso puerta escalera|apt no|apartment number|unit no|suite number|door number|complemento|=офис|numero interior|depto"},
 
     // Languages of neighbours further away.
-    {FieldKind::FirstName, "fornamn|fornavn|etunimi|jmeno|krestni jmeno|=meno|keresztnev|prenume|=ad|ім я|=ime|=isim"},
+    {FieldKind::FirstName, "fornamn|fornavn|etunimi|jmeno|krestni jmeno|keresztnev|prenume|ім я"},
     {FieldKind::LastName, "efternamn|etternavn|efternavn|sukunimi|prijmeni|priezvisko|vezeteknev|nume de familie|soyad|soyadi|soyisim|прізвище|prezime"},
     {FieldKind::FullName, "jmeno a prijmeni|ad soyad|fulde navn|fullt navn|fullstandigt namn|meno a priezvisko|ime i prezime|teljes nev|прізвище та ім я"},
     {FieldKind::SomeName, "namn|navn|nimi"},
     {FieldKind::AddressLine1,
-     "gatuadress|gateadresse|vejnavn|adress|=gata|katuosoite|osoite|ulice|ulice a cislo|ulice a cislo popisne|ulica a cislo|cadde|sokak|utca|strada|вулиця|"
+     "gatuadress|gateadresse|vejnavn|adress|katuosoite|osoite|ulice|ulice a cislo|ulice a cislo popisne|ulica a cislo|cadde|sokak|utca|strada|вулиця|"
      "acik adres|lahiosoite"},
-    {FieldKind::City, "=ort|stad|=sted|poststed|kaupunki|postitoimipaikka|=mesto|=obec|sehir|varos|telepules|=oras|localitate|місто|=grad"},
+    {FieldKind::City, "poststed|kaupunki|postitoimipaikka|sehir|varos|telepules|localitate|місто"},
     {FieldKind::PostalCode, "postinumero|psc|posta kodu|iranyitoszam|cod postal|поштовий індекс|postanski broj"},
-    {FieldKind::Country, "=maa|=zeme|krajina|ulke|orszag|=tara|країна|drzava"},
+    {FieldKind::Country, "krajina|ulke|orszag|країна|drzava"},
     {FieldKind::Phone, "telefonnummer|mobilnummer|mobilnr|puhelin|puhelinnumero|matkapuhelin|telefonni cislo|telefonszam|cep telefonu|telefon no|номер телефону"},
     {FieldKind::Email, "e post|epost|e postadress|e postadresse|sahkoposti|e posta|eposta|e posta adresi|електронна пошта|e mailova adresa"},
-    {FieldKind::Password, "losenord|passord|adgangskode|salasana|heslo|sifre|parola|jelszo"},
+    {FieldKind::Password, "losenord|passord|adgangskode|salasana|heslo|sifre|jelszo"},
     {FieldKind::RepeatedPassword, "bekrafta losenord|gjenta passord|gentag adgangskode|heslo znovu|potvrzeni hesla|sifre tekrar|powtorz haslo|ripeti password|conferma password|confirme a senha|herhaal wachtwoord"},
     {FieldKind::UserName, "anvandarnamn|brukernavn|brugernavn|kayttajatunnus|uzivatelske jmeno|kullanici adi|felhasznalonev|codice cliente|codice utente|kundnummer"},
-    {FieldKind::Gender, "=kon|kjonn|sukupuoli|pohlavi|cinsiyet|стать"},
+    {FieldKind::Gender, "kjonn|sukupuoli|pohlavi|cinsiyet|стать"},
     {FieldKind::Company, "foretag|foretagsnamn|firmanavn|yritys|spolecnost|nazev firmy|sirket|azienda|ragione sociale|bedrijf|bedrijfsnaam|nazwa firmy|nome da empresa"},
     {FieldKind::BirthDate, "fodelsedatum|fodselsdato|fodselsdag|syntymaaika|datum narozeni|dogum tarihi|szuletesi datum|дата народження"},
     {FieldKind::CardNumber, "kortnummer|kartnummer|cislo karty|kart numarasi|kartyaszam|kortin numero"},
     {FieldKind::CardCode, "sakerhetskod|sikkerhetskode|bezpecnostni kod|guvenlik kodu"},
-    {FieldKind::CardExpiry, "utgangsdatum|utlopsdato|udlobsdato|platnost|son kullanma tarihi|giltig till"},
+    {FieldKind::CardExpiry, "utgangsdatum|utlopsdato|udlobsdato|son kullanma tarihi|giltig till"},
     {FieldKind::CardHolder, "kortinnehavare|kortinnehavarens namn|kortholder|kortholders navn|drzitel karty|kart uzerindeki isim|kart sahibi"},
+
+    // Words that mean something else in other languages.
+    {FieldKind::Other, "apelido", "pt-br"},
+    {FieldKind::State, "=kraj", "cs sk"},
+    {FieldKind::SomeName, "nombre", "es gl"},
+    {FieldKind::SomeNumber, "nombre", "fr"},
+    {FieldKind::FirstName, "=ad|=isim", "tr az"},
+    {FieldKind::FirstName, "=ime", "hr sr bs sl bg mk"},
+    {FieldKind::FirstName, "=meno", "sk"},
+    {FieldKind::LastName, "apelido|apelidos", "pt gl"},
+    {FieldKind::City, "ort", "de sv"},
+    {FieldKind::City, "stad", "nl sv"},
+    {FieldKind::City, "=mesto", "cs sk sl sr"},
+    {FieldKind::City, "=obec", "cs sk"},
+    {FieldKind::City, "=grad", "hr sr bs bg"},
+    {FieldKind::City, "=oras", "ro"},
+    {FieldKind::City, "=sted", "da no nb nn"},
+    {FieldKind::City, "=plaats", "nl"},
+    {FieldKind::City, "comune", "it"},
+    {FieldKind::Country, "land", "de nl sv da no nb nn"},
+    {FieldKind::Country, "=staat", "de"},
+    {FieldKind::Country, "=maa", "fi"},
+    {FieldKind::Country, "=zeme", "cs"},
+    {FieldKind::Country, "=tara", "ro"},
+    {FieldKind::Country, "=kraj", "pl"},
+    {FieldKind::Gender, "genre", "fr"},
+    {FieldKind::Gender, "=kon", "sv"},
+    {FieldKind::Phone, "handy", "de"},
+    {FieldKind::Phone, "portable", "fr"},
+    {FieldKind::JobTitle, "=cargo", "es pt"},
+    {FieldKind::JobTitle, "=poste", "fr"},
+    {FieldKind::Company, "firma", "de pl cs sk da sv no nb nn nl tr hr sr sl ru en"},
+    {FieldKind::Password, "parola", "ro tr bg"},
+    {FieldKind::SomeDay, "tag|tt", "de"},
+    {FieldKind::SomeDay, "dia", "es pt gl ca"},
+    {FieldKind::SomeMonth, "mes", "es pt gl ca"},
+    {FieldKind::SomeYear, "ano", "es pt gl"},
+    {FieldKind::PostalCode, "=cap", "it"},
+    {FieldKind::PostalCode, "=cep", "pt"},
+    {FieldKind::PostalCode, "=index", "ru uk be kk bg"},
+    {FieldKind::AddressLine1, "=via", "it"},
+    {FieldKind::AddressLine1, "=gata", "sv"},
+    {FieldKind::CardExpiry, "scadenza", "it"},
+    {FieldKind::CardExpiry, "platnost", "cs sk"},
     };
     return rows;
 }

@@ -5,13 +5,15 @@
 
 #include <QVector>
 
-/// Phrases of all languages that speak for one kind.
+/// Phrases that speak for one kind.
 template <typename Kind>
 struct WordRow
 {
     Kind kind;
     /// Separated by "|". One with "=" before it counts only as the whole text.
     const char *phrases;
+    /// Tags such as "pt" or "pt-br", separated by spaces, where a phrase means this in these only.
+    const char *languages = "";
 };
 
 /// What texts at a field say.

@@ -6,6 +6,11 @@
 
 namespace {
 
+/// So many fields away stands what belongs together.
+constexpr int farthestBeside = 12;
+/// What is shorter and can be read along is a PIN.
+constexpr int shortestPassword = 7;
+
 bool belongsTo(FieldKind kind, FillAction action)
 {
     switch (action) {
@@ -62,6 +67,10 @@ bool canHold(const FormField &field, FieldKind kind)
 {
     if (isChoice(field))
         return isChosenFrom(kind) || kind == FieldKind::City;
+    const bool isPassword = kind == FieldKind::Password || kind == FieldKind::NewPassword;
+    if (isPassword && field.isLine() && field.maxLength() > 0 &&
+        field.maxLength() < shortestPassword)
+        return false;
     static const QHash<QString, QVector<FieldKind>> only = {
         {QStringLiteral("date"), {FieldKind::BirthDate, FieldKind::CardExpiry}},
         {QStringLiteral("month"), {FieldKind::CardExpiry}},
@@ -81,22 +90,53 @@ bool canHold(const FormField &field, FieldKind kind)
     return !isNumber || !noNumbers.contains(kind);
 }
 
+/// Whether the next fields of its group on the page are seen and filled. A whole part of the form
+/// that is hidden is not asked for.
+bool isBesideFilled(int at, const QVector<FormField> &fields, const QVector<FieldKind> &read,
+                    const QVector<FieldKind> &kinds)
+{
+    const Group group = groupOf(kinds.at(at));
+    for (int away = 1; away <= farthestBeside; ++away) {
+        bool isFilled = false;
+        bool isHidden = false;
+        for (const int i : {at - away, at + away}) {
+            if (groupOf(read.value(i, FieldKind::Unknown)) != group)
+                continue;
+            const bool isSeen = fields.at(i).isVisible();
+            isFilled = isFilled || (isSeen && kinds.at(i) != FieldKind::Unknown);
+            isHidden = isHidden || (!isSeen && !isChoice(fields.at(i)));
+        }
+        if (isFilled || isHidden)
+            return !isHidden;
+    }
+    return false;
+}
+
+/// Whether the same is asked for beside it where the user sees it, as the states of another
+/// country.
+bool isSeenBeside(int at, const QVector<FormField> &fields, const QVector<FieldKind> &kinds)
+{
+    const int to = qMin(fields.size() - 1, at + farthestBeside);
+    for (int i = qMax(0, at - farthestBeside); i <= to; ++i) {
+        if (kinds.at(i) == kinds.at(at) && fields.at(i).isVisible())
+            return true;
+    }
+    return false;
+}
+
 /// A choice that nobody sees receives only what is chosen from a list, and only beside a field of
 /// its group that the user sees filled.
-void leaveHiddenChoices(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
+void leaveHiddenChoices(const QVector<FormField> &fields, const QVector<FieldKind> &read,
+                        QVector<FieldKind> &kinds)
 {
-    QVector<Group> seen;
-    for (int i = 0; i < fields.size(); ++i) {
-        const Group group = groupOf(kinds.at(i));
-        if (fields.at(i).isVisible() && !seen.contains(group))
-            seen.append(group);
-    }
     for (int i = 0; i < fields.size(); ++i) {
         const FormField &field = fields.at(i);
         const FieldKind kind = kinds.at(i);
-        const bool isAlone = !isChosenFrom(kind) || !seen.contains(groupOf(kind));
-        const bool isHidden = field.hasHints() && !field.isVisible() && isAlone;
-        if (isChoice(field) && isHidden)
+        if (kind == FieldKind::Unknown || !isChoice(field) || !field.hasHints() ||
+            field.isVisible())
+            continue;
+        if (!isChosenFrom(kind) || !isBesideFilled(i, fields, read, kinds) ||
+            isSeenBeside(i, fields, kinds))
             kinds[i] = FieldKind::Unknown;
     }
 }
@@ -179,7 +219,7 @@ QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurro
                             (field.hasHints() && !canHold(field, kind));
         kinds.append(isLeft ? FieldKind::Unknown : kind);
     }
-    leaveHiddenChoices(fields, kinds);
+    leaveHiddenChoices(fields, read, kinds);
     leaveLoneCountry(fields, kinds);
     return kinds;
 }

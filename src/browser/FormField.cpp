@@ -2,6 +2,8 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 namespace {
 
 /// No page describes a field in so many letters; one that does shall not keep the program busy.
@@ -80,7 +82,11 @@ QStringList FormField::attributeAndLabelTexts() const
 
 QStringList FormField::readTexts() const
 {
-    return {m_label, m_ariaLabel, m_placeholder, m_textBefore, m_tableHead};
+    const QStringList texts = {m_label, m_ariaLabel, m_placeholder, m_textBefore, m_tableHead};
+    const bool isSilent =
+        std::all_of(texts.begin(), texts.end(), [](const QString &text) { return text.isEmpty(); });
+    const QString title = text("title");
+    return isSilent && title != m_name && title != m_id ? QStringList{title} : texts;
 }
 
 int FormField::letters() const

@@ -45,6 +45,7 @@ public:
     const QString &label() const { return m_label; }
     const QString &placeholder() const { return m_placeholder; }
     const QString &heading() const { return m_heading; }
+    const QString &textBefore() const { return m_textBefore; }
     QString pattern() const { return text("pattern"); }
     /// The texts that a person reads at the field, the most telling first.
     QStringList readTexts() const;

@@ -16,14 +16,13 @@ bool isPassword(FieldKind kind)
 
 QVector<FilledForm> fillForms(const QJsonObject &page, FillAction action, const ValueAt &valueAt)
 {
-    const QString title = page.value(QLatin1String("title")).toString();
     const QString language = page.value(QLatin1String("language")).toString();
     QVector<FilledForm> filled;
     PatternTests patterns;
     PageLimits left;
     const auto add = [&](const QString &formUid, const QJsonObject &form) {
         const auto fields = fieldsOf(form.value(QLatin1String("fields")).toArray(), left);
-        const auto kinds = analyseForm(fields, FormSurroundings::of(form, title), action);
+        const auto kinds = analyseForm(fields, FormSurroundings::of(form, page), action);
         FilledForm result;
         result.formUid = formUid;
         for (int i = 0; i < fields.size(); ++i) {

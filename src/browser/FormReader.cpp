@@ -1,14 +1,13 @@
 #include "FormReader.h"
 
 #include "AddressFields.h"
+#include "ChoiceButtons.h"
 #include "DateShape.h"
 #include "FieldOptions.h"
 #include "FieldPhrases.h"
 #include "LoginRoles.h"
 #include "OtherPeople.h"
 #include "SplitFields.h"
-
-#include <QHash>
 
 #include <algorithm>
 
@@ -27,8 +26,9 @@ public:
     {
         m_readings.reserve(fields.size());
         m_kinds.reserve(fields.size());
-        for (const FormField &field : fields) {
-            m_readings.append(readField(field));
+        for (int i = 0; i < fields.size(); ++i) {
+            const QString next = i + 1 < fields.size() ? fields.at(i + 1).textBefore() : QString();
+            m_readings.append(readField(fields.at(i), next, around.language));
             m_kinds.append(m_readings.last().kind);
         }
     }
@@ -42,21 +42,25 @@ public:
         m_hasOneDate = m_kinds.count(FieldKind::SomeDay) == 1 &&
                        m_kinds.count(FieldKind::SomeMonth) == 1 &&
                        m_kinds.count(FieldKind::SomeYear) == 1 && !has(FieldKind::SomeDate);
-        const QHash<QString, Sexes> sexes = sexesOfRadios();
+        const QSet<QString> genders = gendersOf(m_fields, m_readings);
         for (int i = 0; i < m_fields.size(); ++i) {
             if (m_fields.at(i).isRadio())
-                m_kinds[i] = sexes.value(m_fields.at(i).name()).areBoth() ? FieldKind::Gender
-                                                                          : FieldKind::Other;
+                m_kinds[i] =
+                    genders.contains(m_fields.at(i).name()) ? FieldKind::Gender : FieldKind::Other;
             else if (isDatePart(m_kinds.at(i)) && !reading(i).isTold)
                 readDate(i);
         }
         for (int i = 0; i < m_fields.size(); ++i)
             readNeighbours(i);
+        for (int i = 0; i < m_fields.size(); ++i)
+            readWholeName(i);
         leaveLoneCards();
+        leaveGiftCards(m_fields, m_readings, m_kinds);
         leaveFurtherBirths(m_readings, m_kinds);
         leaveExtraStreets(m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveFurtherNames(m_readings, m_kinds);
+        leaveFurtherPhones(m_fields, m_kinds);
         leaveLoneName(m_readings, m_kinds);
         assignLoginRoles(m_fields, m_readings, m_around, m_kinds);
         for (FieldKind &kind : m_kinds)
@@ -65,15 +69,6 @@ public:
     }
 
 private:
-    /// Which can be chosen among the buttons of one name.
-    struct Sexes
-    {
-        bool male = false;
-        bool female = false;
-
-        bool areBoth() const { return male && female; }
-    };
-
     static bool isDatePart(FieldKind kind)
     {
         static const QVector<FieldKind> parts = {
@@ -153,14 +148,15 @@ private:
 
     void readDate(int at);
     FieldKind datePart(int at, bool isBirth) const;
+    bool saysPart(int at, FieldKind part) const;
     bool isBirthOfPerson(int at) const;
     void readNeighbours(int at);
     void readVague(int at);
+    void readWholeName(int at);
     void leaveLoneCards();
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
     bool isOfPhone(int at) const;
-    QHash<QString, Sexes> sexesOfRadios() const;
 
     const QVector<FormField> &m_fields;
     const FormSurroundings &m_around;
@@ -188,6 +184,21 @@ FieldKind Reader::datePart(int at, bool isBirth) const
         }
     }
     return count == 1 ? said : FieldKind::Unknown;
+}
+
+/// Whether the text that tells of a date tells of this part of it.
+bool Reader::saysPart(int at, FieldKind part) const
+{
+    static const QVector<QPair<FieldKind, FieldKind>> some = {
+        {FieldKind::CardMonth, FieldKind::SomeMonth},
+        {FieldKind::CardYear, FieldKind::SomeYear},
+        {FieldKind::BirthDay, FieldKind::SomeDay},
+        {FieldKind::BirthMonth, FieldKind::SomeMonth},
+        {FieldKind::BirthYear, FieldKind::SomeYear}};
+    return reading(at).also.contains(part) ||
+           std::any_of(some.begin(), some.end(), [&](const QPair<FieldKind, FieldKind> &pair) {
+               return pair.first == part && reading(at).named.contains(pair.second);
+           });
 }
 
 /// Day, month and year side by side, in a form that asks a person for name and gender and for no
@@ -234,7 +245,7 @@ void Reader::readDate(int at)
         part = FieldKind::BirthDay;
     const bool isShort = field.isSelect() || (field.maxLength() > 0 && field.maxLength() <= 4);
     if (part != FieldKind::Unknown && (isVagueKind(kind) || isShort || isSilentAt(at + 1) ||
-                                       part == kind || reading(at).also.contains(part))) {
+                                       part == kind || saysPart(at, part))) {
         m_kinds[at] = part;
     } else if (!isBirth && (field.isSelect() || field.maxLength() == 2)) {
         m_kinds[at] = before == FieldKind::CardMonth ? FieldKind::CardYear : FieldKind::CardMonth;
@@ -244,22 +255,6 @@ void Reader::readDate(int at)
     // The year often stands behind the month without a word of its own.
     if (m_kinds.at(at) == FieldKind::CardMonth && isOpen(at + 1))
         m_kinds[at + 1] = FieldKind::CardYear;
-}
-
-QHash<QString, Reader::Sexes> Reader::sexesOfRadios() const
-{
-    QHash<QString, Sexes> byName;
-    for (const FormField &field : m_fields) {
-        if (!field.isRadio())
-            continue;
-        Sexes &sexes = byName[field.name()];
-        for (const QString &text : {field.label(), field.textAfter(), field.value()}) {
-            const Sex sex = sexOfChoice(text);
-            sexes.male = sexes.male || sex == Sex::Male;
-            sexes.female = sexes.female || sex == Sex::Female;
-        }
-    }
-    return byName;
 }
 
 void Reader::readNeighbours(int at)
@@ -328,6 +323,14 @@ void Reader::readVague(int at)
     }
 }
 
+/// Who reads "name", and is not asked for another, writes the whole, whatever the code says.
+void Reader::readWholeName(int at)
+{
+    const bool isNamed = reading(at).also.contains(FieldKind::SomeName) && !reading(at).isTold;
+    if (kindAt(at) == FieldKind::FirstName && isNamed && !has(FieldKind::LastName))
+        m_kinds[at] = FieldKind::FullName;
+}
+
 /// A card's number that is asked for together with nothing else that a card shows, and with other
 /// things, is that of a customer's or a library's card.
 void Reader::leaveLoneCards()
@@ -345,14 +348,17 @@ void Reader::leaveLoneCards()
     }
 }
 
-/// Whether a full name is that of a card: it says so, or nothing else of a person is asked for.
+/// Whether a full name is that of a card: it says so or stands under its heading, or nothing else
+/// of a person is asked for.
 bool Reader::isHolder(int at) const
 {
     if (reading(at).isTold || !has(FieldKind::CardNumber) || has(FieldKind::CardHolder))
         return false;
     const bool isOfPerson = has(FieldKind::AddressLine1) || has(FieldKind::Email) ||
                             has(FieldKind::Phone) || has(FieldKind::BirthDate);
-    return reading(at).says(FieldKind::CardHolder) || (isNearCard(at) && !isOfPerson);
+    const bool isHeaded = captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
+    return reading(at).says(FieldKind::CardHolder) ||
+           (isNearCard(at) && (!isOfPerson || (isHeaded && isWithCard(at))));
 }
 
 /// Whether a list of countries is there for the dialling code of the number behind it.
@@ -364,7 +370,7 @@ bool Reader::isOfPhone(int at) const
     const bool saysCode = std::any_of(texts.begin(), texts.end(), [](const QString &text) {
         return text.contains(QLatin1String("code"), Qt::CaseInsensitive);
     });
-    return saysCode || m_kinds.count(FieldKind::Country) > 1;
+    return saysCode || m_kinds.count(FieldKind::Country) > addressesIn(m_kinds);
 }
 
 /// "Name" alone: of the card's holder, the family's beside a first name, or the whole.

@@ -9,7 +9,7 @@ constexpr int longestCaption = 300;
 
 } // namespace
 
-FormSurroundings FormSurroundings::of(const QJsonObject &form, const QString &pageTitle)
+FormSurroundings FormSurroundings::of(const QJsonObject &form, const QJsonObject &page)
 {
     FormSurroundings around;
     const auto line = [](const QJsonValue &value) { return value.toString().left(longestCaption); };
@@ -20,6 +20,8 @@ FormSurroundings FormSurroundings::of(const QJsonObject &form, const QString &pa
     around.captions.append(text("title"));
     const QJsonArray fields = form.value(QLatin1String("fields")).toArray();
     const QString heading = fields.first().toObject().value(QLatin1String("heading")).toString();
-    around.captions += {line(heading), text("id"), text("name"), pageTitle.left(longestCaption)};
+    around.captions +=
+        {line(heading), text("id"), text("name"), line(page.value(QLatin1String("title")))};
+    around.language = line(page.value(QLatin1String("language"))).toLower();
     return around;
 }

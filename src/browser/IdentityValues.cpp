@@ -115,7 +115,7 @@ bool isFamilyFirst(const FormField &field)
 {
     const QStringList texts = field.readTexts();
     for (const QString &text : texts) {
-        const TextMeaning meaning = meaningOf(text);
+        const TextMeaning meaning = meaningOf(text, TextSort::Code, {});
         const auto words = wordsOf(text);
         if (words.value(0) == QString::fromUtf8("фио") ||
             words.value(0) == QString::fromUtf8("фамилия"))

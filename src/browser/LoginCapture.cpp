@@ -60,7 +60,7 @@ QString repeatedPassword(const QVector<FormField> &passwords)
 void readSurroundings(const QJsonObject &form, const QVector<FormField> &fields, bool isRepeated,
                       CapturedLogin &login)
 {
-    const auto around = FormSurroundings::of(form, form.value(QLatin1String("title")).toString());
+    const auto around = FormSurroundings::of(form, form);
     const QVector<FieldKind> kinds = readForm(fields, around);
     const bool asksForNew = isRepeated || kinds.contains(FieldKind::NewPassword);
     for (int i = 0; i < fields.size(); ++i) {

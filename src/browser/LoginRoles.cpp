@@ -84,7 +84,10 @@ void assignSinglePassword(int at, CaptionKind purpose, QVector<FieldKind> &kinds
     const bool isChosen = purpose == CaptionKind::SignUp ||
                           purpose == CaptionKind::ChangePassword ||
                           (purpose != CaptionKind::SignIn && asksForPerson(kinds));
-    const bool isAskedFor = kinds.at(at) == FieldKind::CurrentPassword || !isChosen;
+    // Some sign-ups ask browsers for the current password to keep them from proposing one.
+    const bool isNewUser = purpose == CaptionKind::SignUp && kinds.contains(FieldKind::Email) &&
+                           kinds.contains(FieldKind::UserName);
+    const bool isAskedFor = (kinds.at(at) == FieldKind::CurrentPassword && !isNewUser) || !isChosen;
     kinds[at] = isAskedFor ? FieldKind::Password : FieldKind::NewPassword;
 }
 
@@ -101,6 +104,19 @@ bool isCardSecret(const FieldReading &reading, const QVector<FieldKind> &kinds)
     return reading.named.isEmpty() && !reading.isTold && kinds.contains(FieldKind::CardNumber);
 }
 
+/// A plain "password" beside a new one and its confirmation is the old one, wherever it stands.
+bool isChangeOf(const QVector<int> &passwords, const QVector<FieldReading> &readings,
+                const QVector<FieldKind> &kinds)
+{
+    const auto countOf = [&](FieldKind kind) {
+        return std::count_if(passwords.begin(), passwords.end(), [&](int at) {
+            return kinds.at(at) == kind && readings.at(at).named.contains(kind);
+        });
+    };
+    return countOf(FieldKind::Password) == 1 && countOf(FieldKind::NewPassword) > 0 &&
+           passwords.size() > 2;
+}
+
 void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> &readings,
                      CaptionKind purpose, QVector<FieldKind> &kinds)
 {
@@ -108,11 +124,22 @@ void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> 
         assignSinglePassword(passwords.first(), purpose, kinds);
         return;
     }
+    const bool isChosen = std::any_of(passwords.begin(), passwords.end(), [&](int at) {
+        return readings.at(at).says(FieldKind::NewPassword) ||
+               readings.at(at).says(FieldKind::RepeatedPassword);
+    });
+    // Who signs in with a password and a further secret knows both.
+    if (purpose == CaptionKind::SignIn && !isChosen && passwords.size() == 2 &&
+        readings.at(passwords.first()).kind == FieldKind::Password) {
+        kinds[passwords.first()] = FieldKind::Password;
+        kinds[passwords.last()] = FieldKind::Other;
+        return;
+    }
+    const bool isChange = isChangeOf(passwords, readings, kinds);
     for (const int at : passwords) {
-        if (kinds.at(at) != FieldKind::CurrentPassword)
-            kinds[at] = FieldKind::NewPassword;
-        else
-            kinds[at] = FieldKind::Password;
+        const bool isOld = kinds.at(at) == FieldKind::CurrentPassword ||
+                           (isChange && kinds.at(at) == FieldKind::Password);
+        kinds[at] = isOld ? FieldKind::Password : FieldKind::NewPassword;
     }
     const int first = passwords.first();
     const FieldReading &second = readings.at(passwords.at(1));
@@ -245,6 +272,13 @@ void assignLoginRoles(const QVector<FormField> &fields, const QVector<FieldReadi
     const QVector<int> passwords = passwordsIn(fields, kinds);
     if (!passwords.isEmpty())
         assignPasswords(passwords, readings, purpose, kinds);
+    // Where both can be read along, one is still the confirmation of the other.
+    if (passwords.isEmpty() && kinds.contains(FieldKind::RepeatedPassword)) {
+        for (FieldKind &kind : kinds) {
+            if (kind == FieldKind::Password || kind == FieldKind::RepeatedPassword)
+                kind = FieldKind::NewPassword;
+        }
+    }
     const bool isChoosing = kinds.contains(FieldKind::NewPassword);
     int userName = -1;
     if (!isChoosing && !passwords.isEmpty())

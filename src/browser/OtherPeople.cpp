@@ -1,5 +1,6 @@
 #include "OtherPeople.h"
 
+#include "AddressFields.h"
 #include "FieldPhrases.h"
 #include "WordSets.h"
 
@@ -84,6 +85,31 @@ QVector<Part> partsOf(const QVector<FormField> &fields)
     return parts;
 }
 
+bool isPhone(FieldKind kind)
+{
+    return kind >= FieldKind::Phone && kind <= FieldKind::PhoneLine;
+}
+
+/// Whether no further part of the number stands behind it.
+bool isWholePhone(FieldKind kind)
+{
+    return kind == FieldKind::Phone || kind == FieldKind::PhoneNumber ||
+           kind == FieldKind::PhoneLine;
+}
+
+/// Whether it is asked for by a word of which the program keeps numbers apart.
+bool isOwnPhone(const FormField &field)
+{
+    static const QRegularExpression words(
+        QString::fromUtf8("mobil|cell|handy|móvil|movil|celular|portable|мобильн|сотов|home|"
+                          "privat|business|work|office|geschäft|dienst|trabajo|oficina|bureau|"
+                          "travail|рабоч|домашн|casa|festnetz|fijo|fixe|landline"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QStringList texts = field.readTexts() << field.name() << field.id();
+    return std::any_of(texts.begin(), texts.end(),
+                       [&](const QString &text) { return words.match(text).hasMatch(); });
+}
+
 } // namespace
 
 void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
@@ -134,15 +160,57 @@ void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &ki
 
 void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
 {
-    int most = 1;
-    for (const FieldKind kind : {FieldKind::AddressLine1, FieldKind::City, FieldKind::PostalCode})
-        most = qMax(most, kinds.count(kind));
+    const int most = addressesIn(kinds);
     for (const FieldKind kind : {FieldKind::FullName, FieldKind::FirstName, FieldKind::LastName}) {
         int count = 0;
         for (int i = 0; i < kinds.size(); ++i) {
             if (kinds.at(i) == kind && ++count > most && !readings.at(i).isTold)
                 kinds[i] = FieldKind::Other;
         }
+    }
+}
+
+void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                    QVector<FieldKind> &kinds)
+{
+    static const QVector<FieldKind> figures = {FieldKind::CardNumber, FieldKind::CardCode};
+    for (int from = 0; from < fields.size();) {
+        int to = from;
+        bool isOfCard = false;
+        bool hasFigures = false;
+        for (; to < fields.size() && fields.at(to).heading() == fields.at(from).heading(); ++to) {
+            hasFigures = hasFigures || figures.contains(kinds.at(to));
+            isOfCard = isOfCard || readings.at(to).isTold ||
+                       (isCardKind(kinds.at(to)) && !figures.contains(kinds.at(to)));
+        }
+        const bool isGift = hasFigures && !isOfCard &&
+                            meaningOf(fields.at(from).heading(), TextSort::Prose, QString())
+                                .names(FieldKind::Never);
+        for (int i = from; i < to && isGift; ++i) {
+            if (figures.contains(kinds.at(i)))
+                kinds[i] = FieldKind::Never;
+        }
+        from = to;
+    }
+}
+
+void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
+{
+    const int most = addressesIn(kinds);
+    int count = 0;
+    for (int i = 0; i < kinds.size();) {
+        const int from = i;
+        while (i < kinds.size() && isPhone(kinds.at(i)) &&
+               (i == from || !isWholePhone(kinds.at(i - 1))))
+            ++i;
+        if (i == from) {
+            ++i;
+            continue;
+        }
+        if (kinds.at(from) != FieldKind::PhoneCode || i - from > 1)
+            ++count;
+        if (count > most && !isOwnPhone(fields.at(from)))
+            std::fill(kinds.begin() + from, kinds.begin() + i, FieldKind::Other);
     }
 }
 

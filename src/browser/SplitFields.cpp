@@ -26,8 +26,15 @@ int partsFrom(int at, const QVector<FormField> &fields, const QVector<FieldReadi
     int count = 1;
     for (int i = at + 1; i < fields.size() && count < mostParts; ++i, ++count) {
         const FieldKind kind = kinds.at(i);
-        const bool isOpen = kind == FieldKind::Unknown || kind == kinds.at(at) || isVagueKind(kind);
-        if (!isOpen || !isSilent(fields.at(i), readings.at(i)) ||
+        const bool isOfPhone = kinds.at(at) == FieldKind::Phone && kind >= FieldKind::PhoneCode &&
+                               kind <= FieldKind::PhoneLine;
+        const bool isOpen =
+            kind == FieldKind::Unknown || kind == kinds.at(at) || isVagueKind(kind) || isOfPhone;
+        // Each part may repeat the caption of all.
+        const QString &label = fields.at(i).label();
+        const bool isSame =
+            kind == kinds.at(at) && !label.isEmpty() && fields.at(at).label().contains(label);
+        if (!isOpen || (!isSame && !isSilent(fields.at(i), readings.at(i))) ||
             !isShort(fields.at(i), longestPart))
             break;
     }

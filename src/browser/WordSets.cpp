@@ -26,7 +26,7 @@ const WordSet &harmlessWords()
         "ihr ihre ihren ihrer dein deine deinen deiner mein meine meinen bitte eingeben angeben der die das den dem des ein eine einen und oder fur von zu zur zum "
         "privat private geschaftlich geschaftliche dienstlich dienstliche mobile abweichende person kunde kunden kundin besteller rechnung lieferung wohnsitz wohnsitzes "
         "tu su mi el la los las un una tus sus y o de del para con introduce introduzca escribe escriba indica indique envio facturacion entrega "
-        "residencia contacto particular fijo personal cliente titular usuario solicitante comprador fiscal principal actual completo completa "
+        "residencia contacto contato contatto particular fijo personal cliente titular usuario solicitante comprador fiscal principal actual completo completa "
         "votre vos ton ta tes mon ma mes le les un une et ou pour avec entrez saisissez indiquez livraison facturation domicile residence contact "
         "personnel personnelle professionnel professionnelle fixe client cliente acheteur titulaire principal principale complet complete legal l d "
         "ваш ваша ваше ваши вашу вашего твой твоя мой моя и или для на по с в введите укажите доставки регистрации проживания клиента заказчика покупателя "
@@ -42,6 +42,15 @@ const WordSet &englishHeads()
 {
     static const WordSet words("name names firstname lastname surname address email mail phone telephone mobile number city town state county "
                                "province region country zip postcode code street website url site company title birthdate birth dob birthday date expiry expiration");
+    return words;
+}
+
+const WordSet &turningWords()
+{
+    static const WordSet words("type types kind kinds format formats preference preferences frequency option options verification status source history rating "
+                               "provider carrier consent permission alert alerts notification notifications updates settings visibility privacy lookup finder "
+                               "filter sort count total tax group category language currency design style level reason "
+                               "art typ tipo tipos genre format formato clase choix eleccion formato forma вид тип формат способ rodzaj");
     return words;
 }
 

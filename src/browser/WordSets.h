@@ -25,6 +25,10 @@ const WordSet &harmlessWords();
 /// What an English field is in the end, whatever stands before: a name, an address, a number.
 const WordSet &englishHeads();
 
+/// What makes something else of the name of a field beside it: the country's "type", the e-mail's
+/// "format".
+const WordSet &turningWords();
+
 /// What ties a noun to what follows: "of the", "de la", "des".
 const WordSet &genitiveWords();
 

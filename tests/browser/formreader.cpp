@@ -32,7 +32,7 @@ QString nameOf(FieldKind kind)
     return names.value(static_cast<int>(kind), QStringLiteral("vague"));
 }
 
-void readGroup(const QJsonObject &form, const QJsonValue &list, const QString &title,
+void readGroup(const QJsonObject &form, const QJsonValue &list, const QJsonObject &page,
                QJsonObject &answer)
 {
     static const QVector<QPair<QString, FillAction>> actions = {
@@ -44,7 +44,7 @@ void readGroup(const QJsonObject &form, const QJsonValue &list, const QString &t
     const QJsonArray entries = list.toArray();
     for (const QJsonValue &entry : entries)
         fields.append(FormField(entry.toObject()));
-    const FormSurroundings around = FormSurroundings::of(form, title);
+    const FormSurroundings around = FormSurroundings::of(form, page);
     for (const auto &action : actions) {
         const QVector<FieldKind> kinds = analyseForm(fields, around, action.second);
         for (int i = 0; i < fields.size(); ++i) {
@@ -69,13 +69,12 @@ int main()
     std::string line;
     while (std::getline(std::cin, line)) {
         const QJsonObject page = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
-        const QString title = page.value(QLatin1String("title")).toString();
         QJsonObject answer;
         const QJsonArray forms = page.value(QLatin1String("forms")).toArray();
         for (const QJsonValue &form : forms)
-            readGroup(form.toObject(), form[QLatin1String("fields")], title, answer);
+            readGroup(form.toObject(), form[QLatin1String("fields")], page, answer);
         const QJsonValue loose = page.value(QLatin1String("elements"));
-        readGroup({{QStringLiteral("fields"), loose}}, loose, title, answer);
+        readGroup({{QStringLiteral("fields"), loose}}, loose, page, answer);
         const QByteArray text = QJsonDocument(answer).toJson(QJsonDocument::Compact);
         std::puts(text.constData());
     }

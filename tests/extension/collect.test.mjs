@@ -98,6 +98,8 @@ const TEXTS = [
   ['<table><tr><td>Phone<td>(<input>) <input></table>', { textBefore: 'Phone' }],
   ['<table><tr><td>Phone<td>(<input>) <input></table>', { textBefore: ')' }, 1],
   ['<div><input><mat-label>City</mat-label></div><input>', { textBefore: '', textAfter: 'City' }],
+  ['<input><br>City<input>', { textAfter: '' }],
+  ['<b>Password</b> (6 to 30 letters)<br><input>', { textBefore: 'Password' }],
   ['<table><tr><th>City<th>Zip</tr><tr><td><input><td><input></table>', { tableHead: 'Zip', textBefore: '' }, 1],
   ['<h2>Card</h2><form><input></form>', { heading: 'Card' }],
   ['<input maxlength=4 pattern="[0-9]+" inputmode=NUMERIC>', { maxlength: 4, pattern: '[0-9]+', inputmode: 'numeric' }],
@@ -105,7 +107,7 @@ const TEXTS = [
 ];
 
 test('what was typed is told of without its text, masks and defaults are not taken for it', async () => {
-  const typed = [['ana', true], ['4', true], ['', false], ['+49', false], ['__/__', false], ['DD.MM.YYYY', false], ['https://', false], ['jj/mm/aaaa', false], ['Amy Day', true], ['Matt May', true]];
+  const typed = [['ana', true], ['4', true], ['', false], ['+49', false], ['__/__', false], ['DD.MM.YYYY', false], ['https://', false], ['jj/mm/aaaa', false], ['gg/mm/aaaa', false], ['pp.kk.vvvv', false], ['00/00/0000', false], ['Amy Day', true], ['Matt May', true]];
   for (const [value, filled] of typed) {
     const [field] = (await collect(`<input value="${value}">`)).elements;
     assert.equal(field.isFilled, filled, value);

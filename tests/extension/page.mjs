@@ -35,7 +35,10 @@ export function openPage(html, { url = 'https://shop.example/', clock, ancestors
   Object.defineProperty(window.location, 'ancestorOrigins', { value: ancestors });
   if (clock) Object.assign(window, clock.timers);
   // As in browsers, inputs shadow what their form can do, and pictures what the document can; jsdom itself needs one thing.
-  const shadow = (owner, element) => Object.defineProperty(owner, element.getAttribute('name'), { value: element, configurable: true });
+  const shadow = (owner, element) => {
+    const name = element.getAttribute('name');
+    if (/\D/.test(name)) Object.defineProperty(owner, name, { value: element, configurable: true });
+  };
   for (const input of window.document.querySelectorAll('input[name]:not([name=getAttribute])')) if (input.form) shadow(input.form, input);
   for (const image of window.document.querySelectorAll('img[name]')) shadow(window.document, image);
   for (const host of window.document.querySelectorAll('[data-shadow]')) {

@@ -5,7 +5,8 @@ import { tableHead, textAfter } from './surroundings.js';
 const MOST_OPTIONS = 300;
 const LONGEST_OPTION = 60;
 // What a mask or a form shows in a field before anything is typed.
-const NOTHING_TYPED = /^(?:[^\p{L}\p{N}]*|\+\d{1,3}|https?:\/\/|([dmyjatдмг])\1{1,3}(?:[ ./-]+([dmyjatдмг])\2{1,3})+)$/iu;
+// The letters are those of day, month and year in the languages of Europe: gg/mm/aaaa, pp.kk.vvvv.
+const NOTHING_TYPED = /^(?:[^\p{L}\p{N}]*|\+\d{1,3}|https?:\/\/|([dmyjatgrpkvåéhnдмгрηεμх0x#])\1{1,3}(?:[ ./-]+([dmyjatgrpkvåéhnдмгрηεμх0x#])\2{1,3})+\.?)$/iu;
 const CHOSEN = new Set(['radio', 'checkbox']);
 
 function optionsOf(select) {

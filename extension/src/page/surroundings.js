@@ -21,16 +21,20 @@ function sameColumn(row, field) {
   return row.cells?.length > 1 && column !== undefined ? (row.cells[column] ?? row) : row;
 }
 
-// A bracket or a stroke before a part of a number is no caption, but better than what belongs to the next field.
+const WORD = /[\p{L}\p{N}]/u;
+const ASIDE = /^\([^()]*\)[.:*]?$/;
+
+// A bracket or a stroke before a part of a number is no caption, nor is "(6 to 30 characters)", but better than what
+// belongs to the next field.
 function textBeside(field, side, levels) {
   let node = field;
   let sign = '';
   for (let level = 0; node && level < levels; level += 1, node = parentOf(node)) {
     if (node.tagName === 'FORM' || node.tagName === 'BODY') return sign;
     for (let beside = node[NEXT[side]]; beside; beside = beside[NEXT[side]]) {
-      if (isOthers(beside, field)) return sign;
+      if (isOthers(beside, field) || (side === 'after' && beside.nodeName === 'BR')) return sign;
       const text = textOf(sameColumn(beside, field), NO_CAPTION);
-      if (/[\p{L}\p{N}]/u.test(text)) return text;
+      if (WORD.test(text) && !ASIDE.test(text)) return text;
       sign ||= text;
     }
   }
@@ -40,7 +44,7 @@ function textBeside(field, side, levels) {
 /** The text before the field, up to the next field: in the same line, the cell before, the block above. */
 export const textBefore = (field) => textBeside(field, 'before', NEAR);
 
-/** The text behind the field, where some pages have their labels. */
+/** The text behind the field in its line, where some pages have their labels. */
 export const textAfter = (field) => textBeside(field, 'after', AFTER_NEAR);
 
 const isHead = (cell) => matches(cell, 'th, thead td');

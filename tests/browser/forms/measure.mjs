@@ -1,4 +1,4 @@
-// Prints how the fields of the pages here are read. node tests/browser/forms/measure.mjs [dev|held|wild|fresh|unseen|later|last|fourth] [--list] [--chromium]
+// Prints how the fields of the pages here are read. node tests/browser/forms/measure.mjs [dev|held|wild|fresh|unseen|later|last|fourth|a folder] [--list] [--chromium]
 import { describe, describeInChromium, pagesOf } from './pages.mjs';
 import { score, table } from './score.mjs';
 

@@ -6,7 +6,7 @@ import { openPage } from '../../extension/page.mjs';
 const here = new URL('.', import.meta.url);
 const collector = new URL('../../../extension/src/page/collect.js', import.meta.url).pathname;
 
-/** Describes the page as the extension does, and says what its fields really are, by opid. */
+/** Describes the page as the extension does, and says what its fields really are, by opid, where that is sure. */
 export const describing = buildSync({
   stdin: {
     contents: `import { collect } from ${JSON.stringify(collector)};
@@ -14,7 +14,7 @@ export const describing = buildSync({
       globalThis.describeWithTruth = () => {
         const { report, fields } = collect(document, 't', () => (last += 1));
         const truth = {};
-        for (const [opid, { field }] of fields) truth[opid] = field.dataset.truth ?? '';
+        for (const [opid, { field }] of fields) truth[opid] = 'unsure' in field.dataset ? undefined : field.dataset.truth ?? '';
         return { report, truth };
       };`,
     resolveDir: here.pathname,
@@ -23,7 +23,7 @@ export const describing = buildSync({
   write: false,
 }).outputFiles[0].text;
 
-/** The pages of a set, a folder here: {name, html}. */
+/** The pages of a set, a folder here or anywhere: {name, html}. */
 export function pagesOf(set) {
   const folder = new URL(`${set}/`, here);
   return readdirSync(folder).sort().flatMap((file) => {

@@ -12,6 +12,13 @@ function actionOf(kind) {
   return isCard(kind) ? 'card' : 'identity';
 }
 
+/** A user name that is being chosen with a password is nobody's login yet. */
+function leaveChosenNames(fields, truth) {
+  const kinds = fields.map(({ opid }) => truth[opid]);
+  if (!kinds.includes('new-password') || kinds.includes('password')) return;
+  for (const { opid } of fields) if (truth[opid] === 'username') truth[opid] = '';
+}
+
 /**
  * What became of each field of the described pages: {kind, outcome: 'hit', 'miss' or 'wrong', page, opid, told}.
  * A field may be several things ("username email"); it is hit when each action that fills it fills it with one of them,
@@ -20,9 +27,12 @@ function actionOf(kind) {
 export function score(pages) {
   const input = pages.map(({ page }) => JSON.stringify(page)).join('\n');
   const answers = execFileSync(reader, { input, maxBuffer: 1 << 28 }).toString().trim().split('\n').map((line) => JSON.parse(line));
-  return pages.flatMap(({ name, page, truth }, at) => {
-    const fields = [...page.forms.flatMap((form) => form.fields), ...page.elements];
-    return fields.map(({ opid, name: field, id }) => {
+  return pages.flatMap(({ name, page, truth: marked }, at) => {
+    const groups = [...page.forms.map((form) => form.fields), page.elements];
+    const fields = groups.flat();
+    const truth = { ...marked };
+    for (const group of groups) leaveChosenNames(group, truth);
+    return fields.filter(({ opid }) => opid in truth).flatMap(({ opid, name: field, id, isFixed, isFilled }) => {
       const kinds = truth[opid].split(' ');
       const told = answers[at][opid];
       const values = Object.entries(told).filter(([action]) => !['read', 'place'].includes(action));
@@ -33,6 +43,8 @@ export function score(pages) {
       let outcome = 'miss';
       if (wrong || !placed) outcome = 'wrong';
       else if (hit || none) outcome = 'hit';
+      // What the page or the user filled already is left as it is.
+      if (outcome === 'miss' && (isFixed || isFilled)) return [];
       return { kind: kinds[0], outcome, page: name, field: field || id || opid, told };
     });
   });
