@@ -39,7 +39,7 @@ struct MainDesk
     void activate() const
     {
         view->activateWindow();
-        if (!QTest::qWaitForWindowActive(view.get()))
+        if (!QTest::qWaitForWindowActive(view.get(), 30000))
             qFatal("The view got no keyboard");
     }
 

@@ -60,11 +60,11 @@ struct Desk : MainDesk
         QSignalSpy done(&safe(), &GPMSafe::attachmentDone);
         chosen = QStringList{path};
         click("attachButton");
-        if (done.isEmpty() && !done.wait())
+        if (done.isEmpty() && !done.wait(30000))
             qFatal("Nothing is attached");
         const QString id = done.first().first().toString();
         // The row comes with the next turn of the event loop.
-        if (!QTest::qWaitFor([this, &id] { return rowOf(id) && rowOf(id)->isVisible(); }))
+        if (!QTest::qWaitFor([this, &id] { return rowOf(id) && rowOf(id)->isVisible(); }, 30000))
             qFatal("No row is shown");
         return id;
     }

@@ -1,17 +1,14 @@
-#include "PMUiProvider.h"
+#include "ProgramDesk.h"
 #include "SafeDescriptionFile.h"
-#include "UiTesting.h"
 #include "backups/BackupRow.h"
 #include "backups/BackupTexts.h"
 #include "backups/RestoreDialog.h"
 #include "lock/PagesStack.h"
 #include "lock/UnlockLogic.h"
-#include "settings/SettingsDialog.h"
 #include "style/Theme.h"
 
 #include <QAbstractButton>
 #include <QLabel>
-#include <QListWidget>
 
 Q_DECLARE_METATYPE(BackupJob::Result)
 
@@ -20,20 +17,11 @@ namespace {
 using State = BackupJob::State;
 
 /// The program's windows over one safe, with the page of backups in the settings open.
-struct Program
+struct Program : ProgramDesk
 {
     Program()
-        : ui(
-              test.core, [] { return true; }, test.folder.path())
+        : settings(&ProgramDesk::settings())
     {
-        ui.connectCore();
-        ui.createMainWindow();
-        ui.openMainView({});
-        ui.bringToFront();
-        test.createSafe();
-        QApplication::setActiveWindow(ui.mainWindow());
-        QTest::keyClick(ui.mainWindow(), Qt::Key_Comma, Qt::ControlModifier);
-        settings = ui.mainWindow()->findChild<SettingsDialog *>();
         find<QListWidget>(*settings, "settingsPages")->setCurrentRow(Setting::Backup);
     }
 
@@ -52,14 +40,12 @@ struct Program
     }
     Backups &backups() { return test.core.backups(); }
     template <typename Window>
-    Window *window() const
+    Window *dialog() const
     {
-        return ui.mainWindow()->findChild<Window *>();
+        return window().findChild<Window *>();
     }
 
-    TestCore test;
-    PMUiProvider ui;
-    SettingsDialog *settings = nullptr;
+    SettingsDialog *settings;
 };
 
 BackupJob::Result result(const char *name, State state,
@@ -192,7 +178,7 @@ private Q_SLOTS:
         QVERIFY(told.isEmpty());
         QVERIFY(program.text("backupNext").startsWith("Next backup: to"_s));
         program.settings->close();
-        QTRY_VERIFY(!program.window<SettingsDialog>());
+        QTRY_VERIFY(!program.dialog<SettingsDialog>());
         QSignalSpy finished(&program.backups(), &Backups::finished);
         QVERIFY(program.backups().backUpNow());
         QVERIFY(finished.wait());
@@ -252,7 +238,7 @@ private Q_SLOTS:
         Program program;
         program.backUp();
         program.press("restoreFromButton");
-        auto *dialog = program.window<RestoreDialog>();
+        auto *dialog = program.dialog<RestoreDialog>();
         auto *list = find<QListWidget>(*dialog, "backupList");
         QTRY_COMPARE(list->count(), 1);
         program.test.core.settings().setBackupPath(program.test.folder.filePath("new"_s));
@@ -272,7 +258,7 @@ private Q_SLOTS:
         const QByteArray description = contentOf(before + "/safe.meta"_s);
 
         program.press("restoreFromButton");
-        auto *dialog = program.window<RestoreDialog>();
+        auto *dialog = program.dialog<RestoreDialog>();
         QTRY_VERIFY(find<QWidget>(*dialog, "restoreButton")->isEnabled());
         find<QAbstractButton>(*dialog, "restoreButton")->click();
         QWidget *progress = find<QWidget>(*program.ui.mainWindow(), "progressDialog");

@@ -1,5 +1,4 @@
-#include "PMUiProvider.h"
-#include "UiTesting.h"
+#include "ProgramDesk.h"
 #include "browsers/ExtensionFolder.h"
 #include "browsers/InstallSteps.h"
 #include "style/Theme.h"
@@ -20,28 +19,16 @@ void makeFile(const TestCore &test, const char *path, const QByteArray &content 
 {
     const QString full = test.folder.filePath(QLatin1String(path));
     QDir().mkpath(QFileInfo(full).path());
-    QFile file(full);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("Can't write a file");
+    test.file(path, content);
 }
 
 /// The program with its main window.
-struct Program
+struct Program : ProgramDesk
 {
-    Program()
-        : ui(
-              test.core, [] { return true; }, test.folder.path())
-    {
-        ui.connectCore();
-        ui.createMainWindow();
-        ui.openMainView({});
-        test.createSafe();
-    }
-
     /// The question that the user sees; null when there is none.
     QDialog *question()
     {
-        const auto dialogs = ui.mainWindow()->findChildren<QDialog *>("questionDialog"_s);
+        const auto dialogs = window().findChildren<QDialog *>("questionDialog"_s);
         for (QDialog *dialog : dialogs) {
             if (dialog->isVisible())
                 return dialog;
@@ -57,9 +44,6 @@ struct Program
                 QTest::mouseClick(button, Qt::LeftButton);
         }
     }
-
-    TestCore test;
-    PMUiProvider ui;
 };
 
 } // namespace

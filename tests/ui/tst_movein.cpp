@@ -1,8 +1,5 @@
-#include "ItemExport.h"
 #include "UiTesting.h"
-#include "dialogs/ProgressDialog.h"
 #include "main/MainView.h"
-#include "movein/ExportDialog.h"
 #include "movein/MoveInDialog.h"
 #include "movein/MoveInTexts.h"
 #include "style/Theme.h"
@@ -34,21 +31,15 @@ struct Program
                                              [this](QWidget *, const QString &) { return target; }};
               }(),
               theme, nullptr)
-        , file(test.folder.filePath("passwords.csv"_s))
-        , target(test.folder.filePath("target.txt"_s))
+        , file(test.path("passwords.csv"))
+        , target(test.path("target.txt"))
     {
         dialog.show();
         if (!QTest::qWaitForWindowActive(&dialog))
             qFatal("No active window");
     }
 
-    void write(const QByteArray &bytes) const
-    {
-        QFile out(file);
-        if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
-            qFatal("Can't write a file");
-    }
-
+    void write(const QByteArray &bytes) const { test.file("passwords.csv", bytes); }
     /// Chooses the file by keyboard and waits until a control of the next page is there.
     bool choose(const QByteArray &bytes, const char *control = "addButton")
     {
@@ -91,6 +82,21 @@ struct Program
             bytes += "T%1,https://t%1.example,ana,pw%1,\n"_s.arg(i).toUtf8();
         return bytes;
     }
+    void add() { press("addButton"); }
+    /// Begins to add 90 logins; some have come in and some have not.
+    bool beginToAdd()
+    {
+        if (!choose(rows(90)))
+            return false;
+        add();
+        const auto *bar = find<QProgressBar>(dialog, "moveInBar");
+        return QTest::qWaitFor([bar] { return bar->value() > 0; });
+    }
+    bool end()
+    {
+        add();
+        return waitFor("closeMoveInButton");
+    }
 
     TestCore test;
     Theme theme;
@@ -98,64 +104,6 @@ struct Program
     MoveInDialog dialog;
     QString file;
     QString target;
-};
-
-} // namespace
-
-namespace {
-
-struct ExportStage
-{
-    explicit ExportStage(const std::shared_ptr<FileLayer> &files = std::make_shared<FileLayer>())
-        : path(test.folder.filePath("out"_s))
-    {
-        if (!test.createSafe())
-            qFatal("No safe to test with");
-        for (const char *title : {"Beta", "alpha"})
-            ids << test.addLogin(QLatin1String(title));
-        test.core.modelAddItem(test.core.modelCreateItem(PMListItem::SecureNote));
-        test.core.modelItemDeleted(test.addLogin("trashed"_s));
-        test.core.saveCurrentSafe();
-        dialog = new ExportDialog({test.core,
-                                   [this](QWidget *, const QString &name) {
-                                       ++asked;
-                                       suggested = name;
-                                       return path;
-                                   },
-                                   files},
-                                  ids.mid(0, 1), theme, &window);
-        window.show();
-        dialog->show();
-    }
-
-    void enter(const QString &password) const
-    {
-        auto *field = find<QLineEdit>(*dialog, "exportPassword");
-        field->clear();
-        QTest::keyClicks(field, password);
-        QTest::keyClick(field, Qt::Key_Return);
-    }
-    QString end() const
-    {
-        QPointer<ProgressDialog> progress(window.findChild<ProgressDialog *>());
-        if (!progress || !QTest::qWaitFor([&progress] { return !progress->isRunning(); }))
-            return {};
-        return find<QLabel>(*progress, "progressText")->text();
-    }
-    ImportFile read() const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? readImportFile(file.readAll()) : ImportFile();
-    }
-
-    TestCore test;
-    Theme theme;
-    QWidget window;
-    QStringList ids;
-    QString path;
-    QString suggested;
-    int asked = 0;
-    ExportDialog *dialog;
 };
 
 } // namespace
@@ -195,8 +143,7 @@ private Q_SLOTS:
             table->setCurrentIndex(table->model()->index(row, 0));
             QTest::keyClick(table, Qt::Key_Space);
         }
-        program.press("addButton");
-        QVERIFY(program.waitFor("closeMoveInButton"));
+        QVERIFY(program.end());
 
         QCOMPARE(program.text("moveInTitle"), "2 logins came in"_s);
         const QString report = program.report();
@@ -218,10 +165,7 @@ private Q_SLOTS:
     void cancelMidway()
     {
         Program program;
-        QVERIFY(program.choose(Program::rows(90)));
-        program.press("addButton");
-        const auto *bar = find<QProgressBar>(program.dialog, "moveInBar");
-        QVERIFY(QTest::qWaitFor([bar] { return bar->value() > 0; }));
+        QVERIFY(program.beginToAdd());
         QTest::keyClick(&program.dialog, Qt::Key_Escape);
         QVERIFY(program.waitFor("closeMoveInButton"));
         const int came = program.onDisk().size();
@@ -236,18 +180,14 @@ private Q_SLOTS:
         QVERIFY(program.waitFor("addButton"));
         QCOMPARE(program.text("moveInCounts"),
                  "%1 logins will be added · %2 are already there"_s.arg(90 - came).arg(came));
-        program.press("addButton");
-        QVERIFY(program.waitFor("closeMoveInButton"));
+        QVERIFY(program.end());
         QCOMPARE(program.onDisk().size(), 90);
     }
 
     void lockMidway()
     {
         Program program;
-        QVERIFY(program.choose(Program::rows(90)));
-        program.press("addButton");
-        const auto *bar = find<QProgressBar>(program.dialog, "moveInBar");
-        QVERIFY(QTest::qWaitFor([bar] { return bar->value() > 0; }));
+        QVERIFY(program.beginToAdd());
         QSignalSpy told(&program.test.core, &GPMAppCore::message);
         program.test.core.lockCurrentSafe();
         QVERIFY(!program.dialog.isVisible());
@@ -260,15 +200,9 @@ private Q_SLOTS:
     void lockThatCannotSave()
     {
         Program program;
-        QVERIFY(program.choose(Program::rows(90)));
-        program.press("addButton");
-        const auto *bar = find<QProgressBar>(program.dialog, "moveInBar");
-        QVERIFY(QTest::qWaitFor([bar] { return bar->value() > 0; }));
-        const QString content = program.test.core.currentSafe()->folder() + "/content"_s;
-        QVERIFY(QDir().rename(content, content + ".away"_s));
+        QVERIFY(program.beginToAdd());
         QSignalSpy told(&program.test.core, &GPMAppCore::message);
-        program.test.core.lockCurrentSafe();
-        QVERIFY(QDir().rename(content + ".away"_s, content));
+        program.test.withoutFolder([&program] { program.test.core.lockCurrentSafe(); }, false);
         const int came = program.onDisk().size();
         const QString heading = "%1 logins came in"_s.arg(came);
         QVERIFY(std::any_of(told.begin(), told.end(), [&heading](const QList<QVariant> &message) {
@@ -299,11 +233,7 @@ private Q_SLOTS:
     {
         Program program;
         QVERIFY(program.choose(Program::rows(90)));
-        const QString content = program.test.core.currentSafe()->folder() + "/content"_s;
-        QVERIFY(QDir().rename(content, content + "-away"_s));
-        program.press("addButton");
-        QVERIFY(program.waitFor("closeMoveInButton"));
-        QVERIFY(QDir().rename(content + "-away"_s, content));
+        program.test.withoutFolder([&program] { QVERIFY(program.end()); });
         QCOMPARE(program.text("moveInTitle"), "Nothing came in"_s);
         QVERIFY(program.text("moveInTrouble").contains(QLatin1String("could not be written")));
         QVERIFY(program.report().contains(QLatin1String("Not written to the disk (90)")));
@@ -329,8 +259,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(program.text("moveInCounts"), "2 items will be added · 1 unreadable"_s);
-        program.press("addButton");
-        QVERIFY(program.waitFor("closeMoveInButton"));
+        QVERIFY(program.end());
         QVERIFY(program.report().contains(QLatin1String("Unknown kind (1)\nEntry 3: x")));
         QStringList secondLines;
         for (const PMListItem *item : program.test.core.currentSafe()->items())
@@ -387,8 +316,7 @@ private Q_SLOTS:
         choices[1]->setCurrentIndex(choices[1]->findData(QByteArray("login")));
         program.press("useColumnsButton");
         QVERIFY(program.waitFor("addButton"));
-        program.press("addButton");
-        QVERIFY(program.waitFor("closeMoveInButton"));
+        QVERIFY(program.end());
         QCOMPARE(program.onDisk(), QStringList{"Mail|ana|pw"_s});
     }
 
@@ -400,8 +328,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(program.file, link));
         program.dialog.readFile(link);
         QVERIFY(program.waitFor("addButton"));
-        program.press("addButton");
-        QVERIFY(program.waitFor("closeMoveInButton"));
+        QVERIFY(program.end());
         program.asker.answer = 1;
         program.press("deleteFileButton");
         QVERIFY(QFile::exists(program.file));
@@ -449,87 +376,6 @@ private Q_SLOTS:
     {
         QFETCH(QString, shown);
         QCOMPARE(MoveInTexts::shownAddress(QLatin1String(QTest::currentDataTag())), shown);
-    }
-
-    void exportAsksForThePassword()
-    {
-        ExportStage stage;
-        QVERIFY(!find<QPushButton>(*stage.dialog, "exportButton")->isEnabled());
-        stage.enter("master password 2"_s);
-        QCOMPARE(find<QLabel>(*stage.dialog, "exportMessage")->text(),
-                 "This is not the password of the safe."_s);
-        QCOMPARE(stage.asked, 0);
-        stage.test.core.lockCurrentSafe();
-        QVERIFY(!stage.dialog->isVisible());
-        QVERIFY(!QFile::exists(stage.path));
-    }
-
-    void exportComesBack()
-    {
-        {
-            ExportStage stage;
-            stage.enter(testPassword);
-            QVERIFY(stage.end().startsWith(QLatin1String("1 items are in")));
-            QVERIFY(stage.suggested.startsWith(QLatin1String("Personal ")));
-            QVERIFY(stage.suggested.endsWith(QLatin1String(".json")));
-            const ImportFile file = stage.read();
-            QCOMPARE(int(file.entries.size()), 1);
-            QCOMPARE(file.entries[0].text("password"), "secret of Beta"_s);
-        }
-        ExportStage stage;
-        auto *what = find<QComboBox>(*stage.dialog, "exportWhat");
-        what->setCurrentIndex(what->count() - 1);
-        auto *format = find<QComboBox>(*stage.dialog, "exportFormat");
-        format->setCurrentIndex(format->findData(ItemExport::Csv));
-        QCOMPARE(find<QLabel>(*stage.dialog, "exportLeftOut")->text(),
-                 "1 items that are no logins are left out."_s);
-        stage.enter(testPassword);
-        QVERIFY(stage.end().startsWith(QLatin1String("2 items are in")));
-        const ImportFile file = stage.read();
-        QCOMPARE(file.format, ImportFile::Chromium);
-        QCOMPARE(int(file.entries.size()), 2);
-        QCOMPARE(file.entries[0].text("title"), "alpha"_s);
-        QCOMPARE(file.entries[1].text("password"), "secret of Beta"_s);
-    }
-
-    void exportThatFails()
-    {
-        struct FullDisk : FileLayer
-        {
-            bool write(const QString &, const Produce &, QIODevice::OpenMode) override
-            {
-                return false;
-            }
-        };
-        ExportStage stage(std::make_shared<FullDisk>());
-        stage.enter(testPassword);
-        QVERIFY(stage.end().startsWith(QLatin1String("The file cannot be written")));
-        QVERIFY(!QFile::exists(stage.path));
-    }
-
-    void exportCancelledWhileWriting()
-    {
-        struct Cancelling : FileLayer
-        {
-            bool write(const QString &path, const Produce &produce,
-                       QIODevice::OpenMode mode) override
-            {
-                QMetaObject::invokeMethod(qApp, cancel, Qt::BlockingQueuedConnection);
-                return FileLayer::write(path, produce, mode);
-            }
-            std::function<void()> cancel;
-        };
-        const auto files = std::make_shared<Cancelling>();
-        ExportStage stage(files);
-        QPointer<ProgressDialog> progress;
-        files->cancel = [&] {
-            progress = stage.window.findChild<ProgressDialog *>();
-            progress->reject();
-        };
-        stage.enter(testPassword);
-        QTRY_VERIFY(stage.window.findChild<ProgressDialog *>() == nullptr);
-        QVERIFY(!progress);
-        QVERIFY(!QFile::exists(stage.path));
     }
 };
 

@@ -1,6 +1,5 @@
 #include "PMUiProvider.h"
 #include "PasswordStrength.h"
-#include "SplashScreen.h"
 #include "TrayIcon.h"
 #include "UiTesting.h"
 #include "dialogs/ProgressDialog.h"
@@ -48,7 +47,6 @@ struct Ui
         provider.connectCore();
         provider.createMainWindow();
     }
-
     QWidget &window() { return *provider.mainWindow(); }
 
     PMUiProvider provider;
@@ -172,15 +170,12 @@ private Q_SLOTS:
         const QPointer<ProgressDialog> progress(
             new ProgressDialog("Archive"_s, "Writing…"_s, theme, &ui.window()));
         progress->show();
-        QFile file(test.folder.filePath("passwords.csv"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("name,url,username,password\n");
+        QByteArray rows = "name,url,username,password\n";
         for (int i = 0; i < 90; ++i)
-            file.write("T%1,https://t%1.example,ana,pw\n"_s.arg(i).toUtf8());
-        file.close();
+            rows += "T%1,https://t%1.example,ana,pw\n"_s.arg(i).toUtf8();
         MoveInDialog::open(test.core, theme, &ui.window());
         const QPointer<MoveInDialog> moveIn(ui.window().findChild<MoveInDialog *>());
-        moveIn->readFile(file.fileName());
+        moveIn->readFile(test.file("passwords.csv", rows));
         auto *add = find<QPushButton>(*moveIn, "addButton");
         QTRY_VERIFY(add->isVisible());
         add->click();
@@ -209,24 +204,6 @@ private Q_SLOTS:
         QVERIFY(store.contains("LastUsedSafe"_s));
     }
 
-    void failedSaveOnLockIsTold()
-    {
-        TestCore test;
-        Ui ui(test);
-        QVERIFY(test.createSafe());
-        ui.window().show();
-        QSignalSpy saved(test.core.currentSafe().get(), &GPMSafe::saved);
-        const QString id = test.addLogin("Shop"_s);
-        QVERIFY(saved.wait());
-        // A folder that is gone fails every write, even one by an administrator.
-        QVERIFY(QDir(test.core.currentSafe()->folder()).removeRecursively());
-        test.login(id)->setNote("changed"_s);
-        test.core.lockCurrentSafe();
-        const auto *dialog = ui.window().findChild<QuestionDialog *>();
-        QVERIFY(dialog && dialog->isVisible());
-        QCOMPARE(dialog->windowTitle(), "Can't save changes."_s);
-    }
-
     void lockClosesMessagesAboutItems()
     {
         TestCore test;
@@ -246,6 +223,7 @@ private Q_SLOTS:
         Q_EMIT test.core.message("Can't login."_s, "Shop"_s);
         QCOMPARE(titles(), QStringList({"Warning"_s, "Can't login."_s}));
 
+        // A folder that is gone fails every write, even one by an administrator.
         QVERIFY(QDir(test.core.currentSafe()->folder()).removeRecursively());
         test.login(id)->setNote("changed"_s);
         test.core.lockCurrentSafe();
@@ -410,25 +388,6 @@ private Q_SLOTS:
         for (const QString &scheme : schemes)
             QDesktopServices::unsetUrlHandler(scheme);
         QCOMPARE(opened.schemes, (QStringList{"http"_s, "https"_s}));
-    }
-
-    void splashStaysItsTime()
-    {
-        for (const qreal ratio : {1.0, 1.5, 2.0, 3.0, 4.0}) {
-            const QPixmap picture = SplashScreen::picture(ratio);
-            QCOMPARE(picture.size() / picture.devicePixelRatio(), QSize(460, 260));
-            QVERIFY(picture.devicePixelRatio() >= qMin(ratio, 3.0));
-        }
-        const QPointer<SplashScreen> splash(new SplashScreen(SplashScreen::picture(2)));
-        QWidget window;
-        QElapsedTimer timer;
-        timer.start();
-        splash->show(QRect(0, 0, 800, 600), 120);
-        QCOMPARE(splash->geometry().center(), QRect(0, 0, 800, 600).center());
-        splash->finish(&window);
-        QVERIFY(timer.elapsed() >= 120);
-        QVERIFY(window.isVisible());
-        QTRY_VERIFY(!splash);
     }
 };
 

@@ -1,135 +1,13 @@
-#include "../browser/ExtensionClient.h"
 #include "PMCreditCard.h"
 #include "PMIdentity.h"
-#include "PMUiProvider.h"
-#include "RandomSource.h"
-#include "UiTesting.h"
+#include "QuickDesk.h"
 #include "dialogs/Question.h"
-#include "quick/QuickAccessWindow.h"
-#include "quick/QuickList.h"
 #include "quick/QuickPlace.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QDialog>
-#include <QLineEdit>
-#include <QListView>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTcpServer>
 #include <QTimer>
 #include <QToolButton>
-
-namespace {
-
-const QString page = "https://www.shop.example/cart"_s;
-
-GPMAppCore::Places withPort(const QTemporaryDir &folder)
-{
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    GPMAppCore::Places places = TestCore::places(folder.path());
-    places.port = server.serverPort();
-    return places;
-}
-
-/// The program with a link to a browser, and quick access as its user meets it.
-struct Quick
-{
-    Quick()
-        : places(withPort(folder))
-        , core(places)
-        , provider(core, [] { return true; })
-    {
-        PMFieldTypes::registerMetaTypes();
-        qRegisterMetaType<SafeUnlock::Outcome>("SafeUnlock::Outcome");
-        core.startServer();
-        provider.connectCore();
-        provider.createMainWindow();
-        provider.openMainView({});
-    }
-
-    bool createSafe() { return core.createSafe("Mine"_s, testPassword, "the usual"_s); }
-
-    template <typename Item = PMLogin>
-    Item *add(const QString &title, const QString &url = {})
-    {
-        auto item = std::make_unique<Item>();
-        item->setTitle(title);
-        item->setUrl(url);
-        item->setSecondaryText("ana of "_s + title);
-        return qobject_cast<Item *>(core.modelAddItem(std::move(item)));
-    }
-    PMLogin *addLogin(const QString &title, const QString &url = {})
-    {
-        PMLogin *login = add(title, url);
-        login->setLogin("ana at "_s + title);
-        login->setPassword("secret of "_s + title);
-        return login;
-    }
-
-    /// Opens it as the browser would.
-    void open(const QJsonObject &wish = {{"url"_s, page}})
-    {
-        Q_EMIT core.requestQuickAccess(QuickAccessWish::fromExtension(caller, wish));
-    }
-
-    QWidget *window() const
-    {
-        for (QWidget *top : QApplication::topLevelWidgets()) {
-            if (top->objectName() == QLatin1String("quickAccess"))
-                return top;
-        }
-        return nullptr;
-    }
-    bool isShown() const { return window() && window()->isVisible(); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QWidget *focus = window()->focusWidget();
-        QTest::keyClick(focus ? focus : window(), key, modifiers);
-    }
-    void type(const QString &text) const { QTest::keyClicks(window()->focusWidget(), text); }
-    QString focus() const
-    {
-        return window()->focusWidget() ? window()->focusWidget()->objectName() : QString();
-    }
-    QString chosen() const
-    {
-        return find<QListView>(*window(), "quickList")->currentIndex().data().toString();
-    }
-
-    QTemporaryDir folder;
-    GPMAppCore::Places places;
-    GPMAppCore core;
-    PMUiProvider provider;
-    QString caller;
-};
-
-/// A browser's extension that keeps what it is told to fill.
-struct Browser : ExtensionClient
-{
-    explicit Browser(Quick &quick)
-        : ExtensionClient(quick.places.port)
-    {
-        quick.caller = sayHello();
-    }
-    /// The newest request for a page's forms; empty when none came.
-    QJsonObject request() const
-    {
-        for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame) {
-            if (frame->value(QLatin1String("action")) == QLatin1String("getDocumentData"))
-                return frame->value(QLatin1String("payload")).toObject();
-        }
-        return {};
-    }
-};
-
-QString textOf(const QJsonObject &object, const char *key)
-{
-    return object.value(QLatin1String(key)).toString();
-}
-
-} // namespace
 
 class TestQuickAccess : public QObject
 {
@@ -174,49 +52,15 @@ private Q_SLOTS:
         QTEST(quickAccessPlace({360, 470}, wish, screens, 0), "place");
     }
 
-    void enterFillsWhatBelongsToThePage()
-    {
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Archive"_s, "https://archive.example"_s);
-        const QString shop = quick.addLogin("Shop"_s, "https://shop.example"_s)->id();
-        Browser browser(quick);
-        quick.open();
-        QVERIFY(quick.isShown());
-        QCOMPARE(quick.focus(), "quickSearch"_s);
-        QCOMPARE(quick.chosen(), "Shop"_s);
-        quick.press(Qt::Key_Return);
-        QVERIFY(!quick.isShown());
-        QTRY_COMPARE(textOf(browser.request(), "itemid"), shop);
-        QCOMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
-    }
-
-    void enterOpensThePageOfAnotherLogin()
-    {
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Shop"_s, "https://shop.example"_s);
-        const QString other = quick.addLogin("Other"_s, "https://other.example"_s)->id();
-        quick.core.settings().setPluginOpenMode(GPMAppSettings::NewTab);
-        Browser browser(quick);
-        quick.open();
-        quick.press(Qt::Key_Down);
-        QCOMPARE(quick.chosen(), "Other"_s);
-        quick.press(Qt::Key_Enter, Qt::KeypadModifier);
-        QTRY_COMPARE(textOf(browser.request(), "itemid"), other);
-        QCOMPARE(textOf(browser.request(), "openmode"), "newtab"_s);
-    }
-
     void arrowsAndLettersFind()
     {
         Quick quick;
-        QVERIFY(quick.createSafe());
         for (const char *title : {"Alpha", "Beta", "Gamma", "Shop"})
-            quick.addLogin(QLatin1String(title));
+            quick.addLogin(title);
         quick.add<PMCreditCard>("Betacard"_s);
         quick.provider.bringToFront();
         quick.open();
-        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QVERIFY(quick.isActive());
         QCOMPARE(quick.chosen(), "Alpha"_s);
         quick.press(Qt::Key_Up);
         QCOMPARE(quick.chosen(), "Alpha"_s);
@@ -228,34 +72,33 @@ private Q_SLOTS:
         QCOMPARE(quick.chosen(), "Betacard"_s);
         quick.type("zz"_s);
         QCOMPARE(quick.chosen(), QString());
-        QVERIFY(find<QWidget>(*quick.window(), "quickEmpty")->isVisible());
+        QVERIFY(quick.part("quickEmpty")->isVisible());
         quick.press(Qt::Key_Return);
         QVERIFY(quick.isShown());
         quick.press(Qt::Key_Escape);
         QVERIFY(!quick.isShown());
         // The next time nothing is left of it.
         quick.open({{"kind"_s, "creditcard"_s}});
-        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QVERIFY(quick.isActive());
         QCOMPARE(quick.focus(), "quickSearch"_s);
         QCOMPARE(quick.chosen(), "Betacard"_s);
         quick.window()->close();
         quick.open();
-        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QVERIFY(quick.isActive());
         QCOMPARE(quick.focus(), "quickSearch"_s);
         QCOMPARE(quick.chosen(), "Alpha"_s);
-        QCOMPARE(find<QLineEdit>(*quick.window(), "quickSearch")->text(), QString());
+        QCOMPARE(quick.part<QLineEdit>("quickSearch")->text(), QString());
     }
 
     void theChosenItemStaysChosenWhileOthersChange()
     {
         Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Beta"_s);
-        PMLogin *gamma = quick.addLogin("Gamma"_s);
+        quick.addLogin("Beta");
+        PMLogin *gamma = quick.addLogin("Gamma");
         quick.open();
         quick.press(Qt::Key_Down);
-        quick.addLogin("Alpha"_s);
-        auto *list = find<QListView>(*quick.window(), "quickList");
+        quick.addLogin("Alpha");
+        auto *list = quick.list();
         QTRY_COMPARE(list->model()->rowCount(), 4);
         QCOMPARE(quick.chosen(), "Gamma"_s);
         quick.core.modelItemDeleted(gamma->id());
@@ -277,8 +120,7 @@ private Q_SLOTS:
     void copies()
     {
         Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Shop"_s);
+        quick.addLogin("Shop");
         auto *card = quick.add<PMCreditCard>("Visa"_s);
         card->setNumber("4111"_s);
         card->setCardholder("ANA M"_s);
@@ -288,12 +130,12 @@ private Q_SLOTS:
         person->setLastName("Martin"_s);
         QFETCH(int, section);
         quick.open();
-        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QVERIFY(quick.isActive());
         quick.press(Qt::Key(Qt::Key_0 + section), Qt::ControlModifier);
         QCOMPARE(quick.focus(), "quickSearch"_s);
         quick.press(Qt::Key_C, Qt::ControlModifier);
         QTEST(QGuiApplication::clipboard()->text(), "secret");
-        QVERIFY(find<QWidget>(*quick.window(), "copyNotice")->isVisible());
+        QVERIFY(quick.part("copyNotice")->isVisible());
         quick.press(Qt::Key_B, Qt::ControlModifier);
         QTEST(QGuiApplication::clipboard()->text(), "userName");
         // Both are uses of the item.
@@ -311,8 +153,7 @@ private Q_SLOTS:
     void tabGoesThroughTheSections()
     {
         Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Shop"_s);
+        quick.addLogin("Shop");
         quick.add<PMCreditCard>("Visa"_s);
         quick.open();
         quick.press(Qt::Key_Tab);
@@ -321,8 +162,8 @@ private Q_SLOTS:
         quick.press(Qt::Key_Space);
         QCOMPARE(quick.chosen(), "Visa"_s);
         QCOMPARE(quick.focus(), "quickSearch"_s);
-        QVERIFY(find<QToolButton>(*quick.window(), "section1")->isChecked());
-        QVERIFY(!find<QToolButton>(*quick.window(), "section0")->isChecked());
+        QVERIFY(quick.part<QToolButton>("section1")->isChecked());
+        QVERIFY(!quick.part<QToolButton>("section0")->isChecked());
         quick.press(Qt::Key_Backtab, Qt::ShiftModifier);
         QCOMPARE(quick.focus(), "section3"_s);
         quick.press(Qt::Key_Space);
@@ -338,113 +179,19 @@ private Q_SLOTS:
                  qPrintable(seen.join(QLatin1Char(' '))));
     }
 
-    void aLockedSafeIsUnlockedInPlace_data()
-    {
-        QTest::addColumn<bool>("fill");
-        QTest::newRow("shows the list") << false;
-        QTest::newRow("fills the only login of the page") << true;
-    }
-    void aLockedSafeIsUnlockedInPlace()
-    {
-        QFETCH(bool, fill);
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Archive"_s, "https://archive.example"_s);
-        quick.addLogin("Shop"_s, "https://shop.example"_s);
-        Browser browser(quick);
-        quick.core.lockCurrentSafe();
-        quick.open({{"url"_s, page}, {"fill"_s, fill}});
-        QVERIFY(quick.isShown());
-        QCOMPARE(quick.focus(), "masterPassword"_s);
-        QSignalSpy finished(&quick.core, &GPMAppCore::unlockFinished);
-        quick.type("wrong"_s);
-        quick.press(Qt::Key_Return);
-        QVERIFY(finished.wait());
-        QVERIFY(quick.isShown());
-        QCOMPARE(quick.focus(), "masterPassword"_s);
-        QCOMPARE(find<QLineEdit>(*quick.window(), "masterPassword")->text(), QString());
-        quick.type(testPassword);
-        quick.press(Qt::Key_Return);
-        QVERIFY(finished.wait());
-        QCOMPARE(quick.isShown(), !fill);
-        QVERIFY(!quick.provider.mainWindow()->isVisible());
-        if (fill) {
-            QTRY_COMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
-            return;
-        }
-        QCOMPARE(quick.focus(), "quickSearch"_s);
-        QCOMPARE(quick.chosen(), "Shop"_s);
-        // Locked again, nothing of it is left.
-        quick.core.lockCurrentSafe();
-        QCOMPARE(quick.focus(), "masterPassword"_s);
-        QCOMPARE(find<QListView>(*quick.window(), "quickList")->model()->rowCount(), 0);
-    }
-
-    void fillsAtOnceOnlyWhatIsPlain_data()
-    {
-        QTest::addColumn<QString>("url");
-        QTest::addColumn<bool>("opens");
-        QTest::newRow("one login") << page << false;
-        QTest::newRow("two") << "https://mail.example/"_s << true;
-        QTest::newRow("none") << "https://else.example/"_s << true;
-        QTest::newRow("not encrypted") << "http://shop.example/"_s << true;
-    }
-    void fillsAtOnceOnlyWhatIsPlain()
-    {
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Shop"_s, "https://shop.example"_s);
-        quick.addLogin("Mail"_s, "https://mail.example"_s);
-        quick.addLogin("Mail 2"_s, "https://www.mail.example"_s);
-        Browser browser(quick);
-        QFETCH(QString, url);
-        QFETCH(bool, opens);
-        quick.open({{"url"_s, url}, {"fill"_s, true}});
-        QCOMPARE(quick.isShown(), opens);
-        if (!opens)
-            QTRY_COMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
-    }
-
     void withoutASafeItLeadsToTheMainWindow()
     {
-        Quick quick;
+        Quick quick(false);
         quick.open();
-        QVERIFY(find<QWidget>(*quick.window(), "quickNoSafe")->isVisible());
+        QVERIFY(quick.part("quickNoSafe")->isVisible());
         quick.press(Qt::Key_Space);
         QVERIFY(!quick.isShown());
         QVERIFY(quick.provider.mainWindow()->isVisible());
     }
 
-    void placesAPassword()
-    {
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        Browser browser(quick);
-        quick.open({{"url"_s, page}, {"kind"_s, "generate"_s}});
-        auto *length = find<QSpinBox>(*quick.window(), "length");
-        auto *made = find<QLineEdit>(*quick.window(), "generatedPassword");
-        QCOMPARE(quick.focus(), "length"_s);
-        QCOMPARE(length->minimum(), 4);
-        QCOMPARE(length->maximum(), 16);
-        length->setValue(15);
-        QCOMPARE(made->text().size(), 15);
-        QTest::keyClick(length, Qt::Key_Return);
-        QVERIFY(!quick.isShown());
-        QCOMPARE(made->text(), QString());
-        QTRY_COMPARE(textOf(browser.request(), "reason"), "placepwd"_s);
-        // The length is that of the next one.
-        quick.open({{"kind"_s, "generate"_s}});
-        QCOMPARE(made->text().size(), 15);
-        // Nobody is there any more.
-        quick.core.lockCurrentSafe();
-        QVERIFY(!quick.isShown());
-        QCOMPARE(made->text(), QString());
-    }
-
     void dialogsLeftOpen()
     {
         Quick quick;
-        QVERIFY(quick.createSafe());
         bool opens = false;
         QTimer::singleShot(0, quick.provider.mainWindow(), [&] {
             quick.open();
@@ -464,88 +211,18 @@ private Q_SLOTS:
         QVERIFY(quick.provider.mainWindow()->isVisible());
     }
 
-    void whatWasSearchedForStaysChosen()
-    {
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Shop A"_s, "https://archive.example"_s);
-        quick.addLogin("Shop B"_s, "https://shop.example"_s);
-        quick.core.openQuickAccess();
-        quick.type("shop"_s);
-        QCOMPARE(quick.chosen(), "Shop A"_s);
-        Q_EMIT quick.core.quickAccessPageFound(page);
-        // It is above now, below a heading.
-        QCOMPARE(find<QListView>(*quick.window(), "quickList")->model()->index(1, 0).data(),
-                 QVariant("Shop B"_s));
-        QCOMPARE(quick.chosen(), "Shop A"_s);
-    }
-
-    void aKeyMeantForTheRowBeforeDoesNothingWithTheNewOne()
-    {
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Archive"_s, "https://archive.example"_s);
-        PMLogin *shop = quick.addLogin("Shop"_s, "https://shop.example"_s);
-        Browser browser(quick);
-        QApplication::clipboard()->clear();
-        quick.core.openQuickAccess();
-        QCOMPARE(quick.chosen(), "Archive"_s);
-        Q_EMIT quick.core.quickAccessPageFound(page);
-        QCOMPARE(quick.chosen(), "Shop"_s);
-        quick.press(Qt::Key_C, Qt::ControlModifier);
-        quick.press(Qt::Key_Return);
-        QVERIFY(quick.isShown());
-        QCOMPARE(QApplication::clipboard()->text(), QString());
-        // The user who moves has seen it; who does not has some time to.
-        quick.press(Qt::Key_Down);
-        quick.press(Qt::Key_Up);
-        quick.press(Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QApplication::clipboard()->text(), shop->password());
-        QTRY_VERIFY(!quick.window()->findChild<QuickList *>()->isSettling());
-        quick.press(Qt::Key_Return);
-        QVERIFY(!quick.isShown());
-    }
-
-    void theHotkeyAsksForThePage()
-    {
-        Quick quick;
-        QVERIFY(quick.createSafe());
-        quick.addLogin("Archive"_s, "https://archive.example"_s);
-        quick.addLogin("Shop"_s, "https://shop.example"_s);
-        Browser browser(quick);
-        const auto answer = [&browser](QJsonObject reply, const QString &url) {
-            reply.insert("tabUrl"_s, url);
-            reply.insert("result"_s, QJsonObject{});
-            browser.sendFrame("collectDocumentResults"_s, reply);
-        };
-        quick.core.openQuickAccess();
-        QCOMPARE(quick.chosen(), "Archive"_s);
-        QTRY_VERIFY(!browser.request().isEmpty());
-        // What was not asked for is no answer.
-        QJsonObject other = browser.request();
-        other.insert("timestamp"_s, "1"_s);
-        answer(other, "https://archive.example/"_s);
-        answer(browser.request(), page);
-        QTRY_COMPARE(quick.chosen(), "Shop"_s);
-        QTRY_VERIFY(!quick.window()->findChild<QuickList *>()->isSettling());
-        quick.press(Qt::Key_Return);
-        QTRY_COMPARE(textOf(browser.request(), "openmode"), "currentNoReload"_s);
-        QTRY_COMPARE(textOf(browser.request(), "reason"), "login"_s);
-    }
-
     void goesWhenTheUserTurnsToSomethingElse()
     {
         Quick quick;
-        QVERIFY(quick.createSafe());
         quick.open();
-        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QVERIFY(quick.isActive());
         QWidget other;
         other.show();
         other.activateWindow();
         QTRY_VERIFY(!quick.isShown());
         // The hotkey that opens it closes it.
         quick.core.openQuickAccess();
-        QVERIFY(QTest::qWaitForWindowActive(quick.window()));
+        QVERIFY(quick.isActive());
         quick.core.openQuickAccess();
         QVERIFY(!quick.isShown());
     }

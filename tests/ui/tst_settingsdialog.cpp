@@ -1,94 +1,11 @@
-#include "PMUiProvider.h"
-#include "SideWindows.h"
-#include "UiTesting.h"
+#include "ProgramDesk.h"
 #include "settings/HotkeyLineEdit.h"
-#include "settings/SettingsDialog.h"
 #include "settings/SettingsTable.h"
-#include "style/Style.h"
 #include "style/Theme.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
-#include <QListWidget>
-#include <QProcess>
 #include <QShortcut>
-
-namespace {
-
-QVariant configValue(const TestCore &test, const char *key)
-{
-    QFile file(test.folder.filePath("config/config.json"_s));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QJsonDocument::fromJson(file.readAll()).object().value(QLatin1String(key)).toVariant();
-}
-
-QVariant uiValue(const TestCore &test, const char *key)
-{
-    const QSettings store(test.folder.filePath("config/uisettings.ini"_s), QSettings::IniFormat);
-    return store.value(QLatin1String(key));
-}
-
-/// Makes a language in a folder in which the given texts are translated.
-void makeLanguage(const QString &folder, const char *code, const char *context,
-                  const QMap<QString, QString> &texts)
-{
-    QFile source(folder + "/passwordmanager_"_s + QLatin1String(code) + ".ts"_s);
-    QVERIFY(source.open(QIODevice::WriteOnly));
-    QString ts = "<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS>"
-                 "<TS version=\"2.1\"><context><name>%1</name>"_s.arg(QLatin1String(context));
-    for (auto it = texts.cbegin(); it != texts.cend(); ++it)
-        ts += "<message><source>%1</source><translation>%2</translation></message>"_s.arg(
-            it.key(), it.value());
-    source.write((ts + "</context></TS>"_s).toUtf8());
-    source.close();
-    QCOMPARE(QProcess::execute(QStringLiteral(LRELEASE), {"-silent"_s, source.fileName()}), 0);
-}
-
-/// The program's windows over a safe with two logins.
-struct Program
-{
-    Program()
-        : ui(
-              test.core, [] { return true; }, test.folder.path())
-    {
-        ui.connectCore();
-        ui.createMainWindow();
-        ui.openMainView({});
-        ui.bringToFront();
-        ui.sideWindows().updates().checker().setEndpoint(
-            QUrl("https://updates.glaceron.example/check"_s));
-        test.createSafe();
-    }
-
-    SettingsDialog &settings()
-    {
-        QApplication::setActiveWindow(ui.mainWindow());
-        QTest::keyClick(ui.mainWindow(), Qt::Key_Comma, Qt::ControlModifier);
-        return *ui.mainWindow()->findChild<SettingsDialog *>();
-    }
-
-    TestCore test;
-    PMUiProvider ui;
-};
-
-/// Shows the page of a setting by keys and gives its editor the keyboard.
-QWidget *reach(SettingsDialog &dialog, Setting::Page page, const char *id)
-{
-    auto *pages = find<QListWidget>(dialog, "settingsPages");
-    QTest::keyClick(pages, Qt::Key_Home);
-    for (int i = 0; i < page; ++i)
-        QTest::keyClick(pages, Qt::Key_Down);
-    auto *editor = find<QWidget>(dialog, id);
-    editor->setFocus();
-    return editor->isVisible() ? editor : nullptr;
-}
-
-} // namespace
 
 class TestSettingsDialog : public QObject
 {
@@ -125,7 +42,7 @@ private Q_SLOTS:
         QFETCH(int, page);
         QFETCH(QVector<int>, keys);
         const char *id = QTest::currentDataTag();
-        Program program;
+        ProgramDesk program;
         QWidget *editor = reach(program.settings(), static_cast<Setting::Page>(page), id);
         QVERIFY(editor);
         QVERIFY(!editor->accessibleName().isEmpty());
@@ -153,7 +70,7 @@ private Q_SLOTS:
               "plugin_hotkey", "master_password", "browsers", "excluded_sites", "site_icons",
               "updates"})
             tested.append(QLatin1String(id));
-        Program program;
+        ProgramDesk program;
         QStringList shown;
         for (const SettingRow *row : program.settings().findChildren<SettingRow *>()) {
             shown.append(QLatin1String(row->setting().id));
@@ -196,7 +113,7 @@ private Q_SLOTS:
 
     void switchesEnableWhatTheyRule()
     {
-        Program program;
+        ProgramDesk program;
         SettingsDialog &dialog = program.settings();
         QWidget *minutes = find<QWidget>(dialog, "inactivity_interval");
         QVERIFY(minutes->isEnabled());
@@ -207,7 +124,7 @@ private Q_SLOTS:
 
     void failureToStoreIsTold()
     {
-        Program program;
+        ProgramDesk program;
         SettingsDialog &dialog = program.settings();
         // A folder in its place fails every write, even one by an administrator.
         const QString file = program.test.core.settings().filePath();
@@ -222,7 +139,7 @@ private Q_SLOTS:
 
     void search()
     {
-        Program program;
+        ProgramDesk program;
         SettingsDialog &dialog = program.settings();
         auto *field = find<QLineEdit>(dialog, "settingsSearch");
         const auto shown = [&dialog] {
@@ -255,7 +172,7 @@ private Q_SLOTS:
 
     void pageIsKept()
     {
-        Program program;
+        ProgramDesk program;
         QPointer<SettingsDialog> dialog = &program.settings();
         QTest::keyClick(find<QListWidget>(*dialog, "settingsPages"), Qt::Key_End);
         QTest::keyClick(dialog.data(), Qt::Key_Escape);
@@ -294,7 +211,7 @@ private Q_SLOTS:
         QFETCH(int, key);
         QFETCH(QString, hotkey);
         QFETCH(QString, fault);
-        Program program;
+        ProgramDesk program;
         GPMAppSettings &settings = program.test.core.settings();
         settings.setPluginHotkey("Ctrl+Alt+B"_s);
         SettingsDialog &dialog = program.settings();
@@ -319,12 +236,12 @@ private Q_SLOTS:
 
     void ownShortcutsAreTaken()
     {
-        Program program;
+        ProgramDesk program;
         auto *editor = qobject_cast<HotkeyLineEdit *>(
             reach(program.settings(), Setting::Hotkeys, "lock_hotkey"));
         QSignalSpy refused(editor, &HotkeyLineEdit::refused);
         int pressed = 0;
-        for (const QShortcut *shortcut : program.ui.mainWindow()->findChildren<QShortcut *>()) {
+        for (const QShortcut *shortcut : program.window().findChildren<QShortcut *>()) {
             const int key = shortcut->key()[0];
             if (key == Qt::Key_Escape || key == 0)
                 continue;
@@ -337,7 +254,7 @@ private Q_SLOTS:
 
     void lockHotkeyLocks()
     {
-        Program program;
+        ProgramDesk program;
         SettingsDialog &dialog = program.settings();
         QTest::keyClick(reach(dialog, Setting::Hotkeys, "lock_hotkey"), Qt::Key_K,
                         Qt::ControlModifier | Qt::AltModifier);
@@ -349,131 +266,26 @@ private Q_SLOTS:
 
     void openFromTheLockPage()
     {
-        Program program;
+        ProgramDesk program;
         program.test.core.lockCurrentSafe();
         QApplication::setActiveWindow(program.ui.mainWindow());
         QTest::keyClick(program.ui.mainWindow()->focusWidget(), Qt::Key_Comma, Qt::ControlModifier);
-        QVERIFY(program.ui.mainWindow()->findChild<SettingsDialog *>());
+        QVERIFY(program.window().findChild<SettingsDialog *>());
     }
 
     void tellsWhereNobodySeemsAway()
     {
-        Program program;
+        ProgramDesk program;
         const auto explanation = [&program] {
             const QWidget *lock = reach(program.settings(), Setting::Security, "autolock_inactive");
             return lock->accessibleDescription();
         };
         QCOMPARE(explanation(), "The safe locks when you leave the computer alone."_s);
-        delete program.ui.mainWindow()->findChild<SettingsDialog *>();
+        delete program.window().findChild<SettingsDialog *>();
         program.test.user->tells = false;
         for (int second = 0; second < 10; ++second)
             program.test.core.checkInactivity();
         QVERIFY(explanation().startsWith("Your desktop does not tell when you are away."_s));
-    }
-
-    void look()
-    {
-        Program program;
-        QTest::keyClick(reach(program.settings(), Setting::Appearance, "theme"), Qt::Key_End);
-        QCOMPARE(uiValue(program.test, "Theme").toString(), "Dark"_s);
-        const auto ground = [&program] {
-            return program.ui.mainWindow()
-                ->findChild<QWidget *>("searchField"_s)
-                ->palette()
-                .color(QPalette::Base)
-                .lightness();
-        };
-        QVERIFY(ground() < 100);
-        QTest::keyClick(reach(program.settings(), Setting::Appearance, "theme"), Qt::Key_Up);
-        QVERIFY(ground() > 200);
-        QTest::keyClick(reach(program.settings(), Setting::Appearance, "motion_off"),
-                        Qt::Key_Space);
-        QCOMPARE(uiValue(program.test, "MotionOff").toBool(), true);
-
-        const int rowBefore =
-            find<QListView>(*program.ui.mainWindow(), "categoryList")->sizeHintForRow(0);
-        QTest::keyClick(reach(program.settings(), Setting::Appearance, "text_size"), Qt::Key_End);
-        QCOMPARE(uiValue(program.test, "TextSize").toInt(), 150);
-        const auto *former = program.ui.mainWindow();
-        QTRY_VERIFY(program.ui.mainWindow() != former);
-        QVERIFY(program.ui.mainWindow()->isVisible());
-        QCOMPARE(find<QListView>(*program.ui.mainWindow(), "categoryList")->sizeHintForRow(0),
-                 rowBefore * 3 / 2);
-        // The settings are still open where they were, and a later start has the same size.
-        auto *dialog = program.ui.mainWindow()->findChild<SettingsDialog *>();
-        QVERIFY(dialog && find<QWidget>(*dialog, "text_size")->isVisible());
-        QCOMPARE(dialog->fontInfo().pixelSize(), 20);
-        Style::setTextPercent(100);
-        const PMUiProvider later(program.test.core, [] { return true; });
-        QCOMPARE(Style::textPercent(), 150);
-        Theme().setTextPercent(100);
-        qApp->setStyleSheet({});
-    }
-
-    void languageWithoutRestart()
-    {
-        Program program;
-        makeLanguage(program.test.folder.path(), "xx", "Sidebar", {{"Lock"_s, "Verrou"_s}});
-        const QString id = program.test.addLogin("Shop"_s);
-        program.test.addLogin("Bank"_s);
-        auto *categories = find<QListView>(*program.ui.mainWindow(), "categoryList");
-        QTest::keyClick(categories, Qt::Key_Down);
-        QTest::keyClick(categories, Qt::Key_Down);
-        QTest::keyClick(categories, Qt::Key_Down);
-        const int row = categories->currentIndex().row();
-        auto *items = find<QListView>(*program.ui.mainWindow(), "itemList");
-        QTest::keyClick(items, Qt::Key_End);
-        const auto shownTitle = [&program] {
-            return find<QLabel>(*program.ui.mainWindow(), "itemTitle")->accessibleName();
-        };
-        QCOMPARE(shownTitle(), "Shop"_s);
-
-        QTest::keyClick(reach(program.settings(), Setting::General, "language_file"), Qt::Key_End);
-        QCOMPARE(configValue(program.test, "language_file").toString(), "passwordmanager_xx"_s);
-        const auto lockName = [&program] {
-            return find<QAbstractButton>(*program.ui.mainWindow(), "lockButton")->accessibleName();
-        };
-        QTRY_COMPARE(lockName(), "Verrou"_s);
-        QVERIFY(program.ui.mainWindow()->isVisible());
-        QVERIFY(program.test.core.currentSafe()->isUnlocked());
-        QCOMPARE(find<QListView>(*program.ui.mainWindow(), "categoryList")->currentIndex().row(),
-                 row);
-        QCOMPARE(shownTitle(), "Shop"_s);
-
-        // The windows of before are gone: what happens to the safe happens once.
-        program.test.core.lockCurrentSafe();
-        QTRY_VERIFY(find<QLineEdit>(*program.ui.mainWindow(), "masterPassword")->isVisible());
-        QVERIFY(program.ui.setLanguage("passwordmanager_en"_s));
-        QTRY_COMPARE(lockName(), "Lock"_s);
-        QVERIFY(find<QLineEdit>(*program.ui.mainWindow(), "masterPassword")->isVisible());
-        QCOMPARE(find<QComboBox>(*program.ui.mainWindow(), "safeSelector")->currentText(),
-                 program.test.core.currentSafe()->name());
-        QVERIFY(!program.ui.setLanguage("passwordmanager_nowhere"_s));
-    }
-
-    void unsavedEditIsAskedFor()
-    {
-        Program program;
-        program.test.addLogin("Shop"_s);
-        QTest::keyClick(find<QListView>(*program.ui.mainWindow(), "itemList"), Qt::Key_Home);
-        QApplication::setActiveWindow(program.ui.mainWindow());
-        QTest::keyClick(program.ui.mainWindow(), Qt::Key_E, Qt::ControlModifier);
-        auto *title = find<QLineEdit>(*program.ui.mainWindow(), "titleField");
-        QVERIFY(title);
-        QTest::keyClicks(title, "More"_s);
-        const QString text = title->text();
-        // To leave the question is to go on editing.
-        bool asked = false;
-        QTimer::singleShot(0, qApp, [&program, &asked] {
-            auto *question = program.ui.mainWindow()->findChild<QuestionDialog *>();
-            asked = question;
-            if (question)
-                question->reject();
-        });
-        QVERIFY(!program.ui.setTextPercent(130));
-        QVERIFY(asked);
-        QCOMPARE(Style::textPercent(), 100);
-        QCOMPARE(find<QLineEdit>(*program.ui.mainWindow(), "titleField")->text(), text);
     }
 };
 
