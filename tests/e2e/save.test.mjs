@@ -21,6 +21,12 @@ const ONE_PAGE = `<title>App</title><div id=app><input id=user placeholder="E-ma
     await fetch('/api', { method: 'POST' });
     app.innerHTML = /^wrong/.test(value) ? app.innerHTML : '<h1>Hello</h1>';
   }</script>`;
+// Written anew once it is there: its window forgets who listened.
+const REWRITTEN = `<script>onload = () => setTimeout(() => {
+  document.open();
+  document.write(${JSON.stringify(ONE_PAGE).replaceAll('</', '<\\/')});
+  document.close();
+})</script>`;
 const DARK = `<title>Dark</title><div id=host></div><script>
   const root = host.attachShadow({ mode: 'closed' });
   root.innerHTML = '<form><input name=user value=dora><input name=pw type=password><button>Log in</button></form>';
@@ -44,8 +50,9 @@ const PAGES = {
     <input id=new name=new type=password placeholder="New password" autocomplete=new-password>
     <input id=again name=again type=password placeholder="Repeat it" autocomplete=new-password><button>Save</button></form>`,
   '/steps': '<form method=post action=/second><input id=user name=email type=email><button>Next</button></form>',
-  '/second': `<form method=post ${go('/second')}>${PASSWORD}<button>Log in</button></form>`,
-  '/app': ONE_PAGE,
+  '/second': `<form method=post action=/code>${PASSWORD}<button>Log in</button></form>`,
+  '/code': '<form><input name=otp type=password><button>Go on</button></form>',
+  '/app': REWRITTEN,
   '/dark': DARK,
   '/home': '<h1>Hello</h1>',
   '/api': '{}',
@@ -147,11 +154,12 @@ stage.inEachBrowser((kind) => {
       await type({ '#user': 'bob@mail.example' });
       await page.waitForSelector('#pw');
       await type({ '#pw': SECRETS[2] });
-      await arrived('/home');
+      await arrived('/code');
       await expected();
     }
     const send = async () => { await page.focus('#send'); await page.keyboard.press('Enter'); };
     await open('/app');
+    await page.waitForSelector('html > div'); // the crystals
     await type({ '#user': 'carl@mail.example', '#pw': 'wrong' }, send);
     await page.waitForFunction(() => document.querySelector('#pw').value === '');
     await type({ '#user': 'carl@mail.example', '#pw': SECRETS[3] }, send);

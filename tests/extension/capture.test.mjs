@@ -242,6 +242,7 @@ const OUTCOMES = [
   ['the form is drawn anew', LOGIN, (page) => { page.document.body.innerHTML = `<p role=alert>Wrong</p>${LOGIN}`; }, 40000, 'dropped'],
   ['the form goes, and something turns', LOGIN, (page) => { page.document.body.innerHTML = '<progress></progress>'; }, 2500, undefined],
   ['a code is asked for', LOGIN, (page) => { page.document.body.innerHTML = '<input name=code>'; }, 2500, 'accepted'],
+  ['a hidden code is asked for', LOGIN, (page) => { page.document.body.innerHTML = '<form><input name=otpCode type=password></form>'; }, 2500, 'accepted'],
   ['another form with a password comes', LOGIN, (page) => { page.document.body.innerHTML = CHANGE; }, 2500, 'accepted'],
   ['a password is changed, and its form emptied', CHANGE, (page) => page.find('form').reset(), 2500, 'accepted'],
   ['a password is not changed', CHANGE, (page) => { page.find('form').reset(); page.find('p').textContent = 'Too short'; }, 40000, 'dropped'],

@@ -38,7 +38,10 @@ const FIELDS = [
   [undefined, PLAIN, '<input name=promo_card_number>'],
   [undefined, PLAIN, '<input name=comment>'],
   [undefined, PLAIN, '<input placeholder="DD/MM/YYYY">'],
-  [undefined, PLAIN, '<input type=password name=sms_code maxlength=6>'],
+  [undefined, PLAIN, '<input type=password name=sms_code>'],
+  [undefined, PLAIN, '<label>Код подтверждения <input type=password maxlength=6></label>'],
+  ['login', PLAIN, '<input type=password name=verifyPassword>'],
+  ['login', PLAIN, '<label>Code secret <input type=password maxlength=6></label>'],
 ];
 
 test('a field has the icon of what it is for', () => {

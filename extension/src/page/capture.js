@@ -235,10 +235,15 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
     },
   };
   const guarded = Object.entries(listeners).map(([type, listener]) => [type, (event) => isReal(event) && listener(event)]);
-  for (const [type, listener] of guarded) view.addEventListener(type, listener, { capture: true });
+  function listen() {
+    for (const [type, listener] of guarded) view.addEventListener(type, listener, { capture: true });
+  }
+  listen();
   globalThis[TYPED] = { filled };
 
   return {
+    /** Once more, where the page was written anew and its window has forgotten who listens. */
+    listen,
     stop() {
       for (const [type, listener] of guarded) view.removeEventListener(type, listener, { capture: true });
       forget();

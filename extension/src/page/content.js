@@ -74,12 +74,24 @@ function start() {
     if (belongs) waiting.forEach(([each, of]) => add(each, of));
   }
 
-  const watcher = watch(document, { onField: take, onChange: refreshSoon });
+  function listen() {
+    logins.listen();
+    for (const type of MOVES) addEventListener(type, refreshSoon, { capture: true, passive: true });
+    addEventListener(RENEWED, stopIfLeft);
+  }
+
+  function onChange() {
+    if (stopIfLeft()) return;
+    listen();
+    refreshSoon();
+  }
+
+  const watcher = watch(document, { onField: take, onChange });
   const logins = watchLogins({
     connect: () => api.runtime.connect({ name: 'login' }),
     isTrusted: (event) => event.isTrusted && !stopIfLeft(),
   });
-  for (const type of MOVES) addEventListener(type, refreshSoon, { capture: true, passive: true });
+  listen();
 
   // A new version has come (see injection.js), the extension was removed, or the page says so: only who is left behind goes.
   function stopIfLeft() {
@@ -87,7 +99,6 @@ function start() {
     if (isLeft) stop();
     return isLeft;
   }
-  addEventListener(RENEWED, stopIfLeft);
 
   function stop() {
     watcher.stop();

@@ -1,6 +1,6 @@
 import { captionOf, isButton } from './buttons.js';
 import { attr, partsOf } from './dom.js';
-import { purposeOf } from './fields.js';
+import { isCode, purposeOf } from './fields.js';
 import { GO_ON, SIGN_IN, USER_NAME, findPhrase } from './words.js';
 
 // What a field is for, as far as its icon goes: told from the field itself alone, cheaply, as every field of every page
@@ -51,7 +51,7 @@ export function kindOf(field) {
   if (told && !(told === 'identity' && isUserName)) return told;
   if (!isPassword(field) && (NEVER.test(text) || field.closest('search, [role=search]'))) return undefined;
   if (CARD.test(text)) return 'creditcard';
-  if (isPassword(field)) return NEVER.test(text) && field.maxLength > 0 && field.maxLength <= 8 ? undefined : 'login';
+  if (isPassword(field)) return isCode(field, text) ? undefined : 'login';
   if (isUserName && leadsToLogin(field)) return 'login';
   return told ?? (PERSON.test(text) ? 'identity' : undefined);
 }

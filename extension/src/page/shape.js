@@ -1,5 +1,6 @@
 import { attr, findAll, matches, parentOf, rootOf } from './dom.js';
-import { fieldType, fieldsUnder, purposeOf } from './fields.js';
+import { fieldType, fieldsUnder, isCode, purposeOf } from './fields.js';
+import { labelText } from './surroundings.js';
 import { clean, textOf } from './text.js';
 import { isVisible } from './visible.js';
 
@@ -9,7 +10,7 @@ const NAMES = new Set(['text', 'email', 'tel', 'number', '']);
 const WRONG = '[aria-invalid=true], [role=alert], [class*=error i], [class*=invalid i], [class*=danger i]';
 
 /** A code that is good once is no password, however it is typed. */
-export const isPassword = (field) => fieldType(field) === 'password' && !purposeOf(field).includes('one-time-code');
+export const isPassword = (field) => fieldType(field) === 'password' && !isCode(field, labelText(field));
 /** A line that can hold a user name. */
 export const isName = (field) => fieldType(field) === 'text' && NAMES.has(attr(field, 'type').trim().toLowerCase());
 
