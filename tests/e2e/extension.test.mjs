@@ -2,24 +2,10 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { after, before, describe, test } from 'node:test';
 import { setTimeout } from 'node:timers/promises';
-import { buildSync } from 'esbuild';
 import { BROWSERS, launchBrowser } from './browser.mjs';
 import { startProgram } from './program.mjs';
+import { reactPages } from './react.mjs';
 import { startSite } from './site.mjs';
-
-const REACT_APP = `
-  import { createElement as h, useState } from 'react';
-  import { createRoot } from 'react-dom/client';
-  function App() {
-    const [user, setUser] = useState('');
-    const [pw, setPw] = useState('');
-    const post = () => fetch('/done', { method: 'POST', body: new URLSearchParams({ user, pw }) });
-    return h('form', { onSubmit: (event) => event.preventDefault() },
-      h('input', { name: 'user', value: user, onChange: ({ target }) => setUser(target.value) }),
-      h('input', { name: 'pw', type: 'password', value: pw, onChange: ({ target }) => setPw(target.value) }),
-      h('button', { onClick: post, disabled: !(user && pw) }, 'Log in'));
-  }
-  createRoot(document.getElementById('app')).render(h(App));`;
 
 const FORM = `<form method=post action=/done><label>User <input name=user></label>
   <input name=pw type=password><button>Log in</button></form>`;
@@ -54,11 +40,7 @@ const REACHED = {
 const PAGES = {
   '/plain': `<title>Shop</title><link rel=icon href=/icon.png>${FORM}`,
   ...REACHED,
-  '/react': '<div id=app></div><script src=/react.js></script>',
-  '/react.js': buildSync({
-    stdin: { contents: REACT_APP, resolveDir: new URL('.', import.meta.url).pathname },
-    bundle: true, write: false, define: { 'process.env.NODE_ENV': '"production"' },
-  }).outputFiles[0].text,
+  ...reactPages(),
   '/frames': (port) => `<input name=outer>${[
     `src="http://id.shop.example:${port}/inner"`, `src="http://127.0.0.1:${port}/inner"`, `src="http://localhost:${port}/around"`,
     'src="/inner" sandbox', 'srcdoc="<input name=srcdoc>"',

@@ -4,7 +4,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { setTimeout } from 'node:timers/promises';
-import { buildSync } from 'esbuild';
+import { reactPages } from './react.mjs';
 import { makeStage } from './stage.mjs';
 import { UNGRANTED, tellOfToolbar } from './toolbar.mjs';
 
@@ -29,23 +29,7 @@ const newField = (name, top) => `<input name=${name} type=password autocomplete=
 const FIELDS = `${USER_FIELD}${PW_FIELD}<button style="position:fixed;left:60px;top:230px">Log in</button>`;
 const FORM = `<form method=post action=/done>${FIELDS}</form>`;
 
-const reactStyle = ([left, top]) => `{ position: 'fixed', left: ${left}, top: ${top}, width: ${SIZE.width}, height: ${SIZE.height}, boxSizing: 'border-box' }`;
-const REACT_APP = `
-  import { createElement as h, useState } from 'react';
-  import { createRoot } from 'react-dom/client';
-  function App() {
-    const [user, setUser] = useState('');
-    const [pw, setPw] = useState('');
-    const post = (event) => {
-      event.preventDefault();
-      fetch('/done', { method: 'POST', body: new URLSearchParams({ user, pw }) });
-    };
-    return h('form', { onSubmit: post },
-      h('input', { name: 'user', autoComplete: 'username', value: user, onChange: ({ target }) => setUser(target.value), style: ${reactStyle(PLACE.user)} }),
-      h('input', { name: 'pw', type: 'password', value: pw, onChange: ({ target }) => setPw(target.value), style: ${reactStyle(PLACE.pw)} }),
-      h('button', { disabled: !(user && pw), style: { position: 'fixed', left: 60, top: 230 } }, 'Log in'));
-  }
-  setTimeout(() => createRoot(document.getElementById('app')).render(h(App)), 300);`;
+const reactStyle = ([left, top]) => ({ position: 'fixed', left, top, ...SIZE, boxSizing: 'border-box' });
 
 // Forms in shadow trees post by script, as components do.
 const component = (mode) => `<sign-in></sign-in><script>
@@ -65,11 +49,7 @@ const PAGES = {
   '/plain': FORM,
   // Without its name no script of the extension could work in a page that was there before.
   '/before': `${FORM}<iframe name=chrome hidden></iframe>`,
-  '/react': '<div id=app></div><script src=/react.js></script>',
-  '/react.js': buildSync({
-    stdin: { contents: REACT_APP, resolveDir: new URL('.', import.meta.url).pathname },
-    bundle: true, write: false, define: { 'process.env.NODE_ENV': '"production"' },
-  }).outputFiles[0].text,
+  ...reactPages({ user: reactStyle(PLACE.user), pw: reactStyle(PLACE.pw), button: { position: 'fixed', left: 60, top: 230 } }),
   '/open': component('open'),
   '/closed': component('closed'),
   // A form and a frame called like what holds the browser's functions.

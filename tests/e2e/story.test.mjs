@@ -4,40 +4,20 @@ import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
 import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
-import { buildSync } from 'esbuild';
 import WebSocket from 'ws';
+import { reactPages } from './react.mjs';
 import { makeStage } from './stage.mjs';
 
 const PASSWORD = 'first Master 1!';
 const SECRET = 's3cret-of-the-shop';
 const LINK = 'ws://127.0.0.1:7899';
 
-const REACT_APP = `
-  import { createElement as h, useState } from 'react';
-  import { createRoot } from 'react-dom/client';
-  function App() {
-    const [user, setUser] = useState('');
-    const [pw, setPw] = useState('');
-    const post = (event) => {
-      event.preventDefault();
-      fetch('/done', { method: 'POST', body: new URLSearchParams({ user, pw }) });
-    };
-    return h('form', { onSubmit: post },
-      h('input', { name: 'user', value: user, onChange: ({ target }) => setUser(target.value) }),
-      h('input', { name: 'pw', type: 'password', value: pw, onChange: ({ target }) => setPw(target.value) }),
-      h('button', { disabled: !(user && pw) }, 'Log in'));
-  }
-  createRoot(document.getElementById('app')).render(h(App));`;
 const FORM = `<form method=post action=/done><input name=user><input name=pw type=password><button>Log in</button></form>`;
 
 let visitsOfAway = 0;
 const PAGES = {
   '/plain': FORM,
-  '/react': '<div id=app></div><script src=/react.js></script>',
-  '/react.js': buildSync({
-    stdin: { contents: REACT_APP, resolveDir: new URL('.', import.meta.url).pathname },
-    bundle: true, write: false, define: { 'process.env.NODE_ENV': '"production"' },
-  }).outputFiles[0].text,
+  ...reactPages(),
   '/frame': '<iframe src=/plain></iframe>',
   '/steps': '<form method=post action=/second><input name=user type=email><button>Next</button></form>',
   '/second': '<form method=post action=/done><input name=pw type=password><button>Log in</button></form>',
