@@ -1,113 +1,4 @@
-#include "CloudFolders.h"
-#include "CloudSync.h"
-#include "PMLogin.h"
-#include "SafeTesting.h"
-
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QSemaphore>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QtTest>
-
-namespace {
-
-using State = CloudStatus::State;
-const QString newPassword = QStringLiteral("another password 2");
-const int quickly = 20000; // how long to wait for what comes at once
-const GPMSafeSyncHelper::Pauses pauses{0, 3600000};
-
-/// Writes into one folder fail while the disk is full, and reading one file waits.
-class FullDisk : public FileLayer
-{
-public:
-    QString folder;
-    QString slowFile;
-    QSemaphore ready;
-
-    std::optional<QByteArray> read(const QString &path) override
-    {
-        if (!slowFile.isEmpty() && path == slowFile)
-            ready.tryAcquire(1, quickly);
-        return FileLayer::read(path);
-    }
-
-    bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
-    {
-        return (folder.isEmpty() || !path.startsWith(folder)) &&
-               FileLayer::write(path, produce, mode);
-    }
-    bool makeFolder(const QString &path) override
-    {
-        return (folder.isEmpty() || !path.startsWith(folder)) && FileLayer::makeFolder(path);
-    }
-};
-
-/// What one computer has: its own settings and safes, and a cloud folder that it shares.
-struct Computer
-{
-    QString home;
-    QString cloud;
-    std::shared_ptr<FullDisk> disk = std::make_shared<FullDisk>();
-    SafeEnvironment world;
-    GPMAppSettings settings;
-    KnownSafes safes;
-    CloudSync sync;
-    CloudFolders folders;
-    std::shared_ptr<GPMSafe> safe;
-
-    Computer(const QString &place, const QString &cloudFolder, const QStringList &infoFiles = {})
-        : home(place)
-        , cloud(cloudFolder)
-        , world{systemRandom, systemTime, disk, 1000, {}}
-        , settings(home, home)
-        , safes(settings, home + QStringLiteral("/safes"), world)
-        , sync(
-              safes, [this] { return home + QStringLiteral("/backup"); }, pauses)
-        , folders(safes, infoFiles)
-    {
-    }
-
-    void create()
-    {
-        safe = safes.create(QStringLiteral("Work"), samplePassword, {});
-        sync.setSafe(safe);
-    }
-    MirrorChoice turnOn()
-    {
-        QSignalSpy done(&sync, &CloudSync::turnedOn);
-        sync.turnOn(safe->folder(), cloud);
-        return done.wait(quickly) ? done.first().at(1).value<MirrorChoice>() : MirrorChoice();
-    }
-    ArchiveResult import(const QString &mirror)
-    {
-        const std::unique_ptr<ArchiveTask> task = folders.importSafe(mirror);
-        QSignalSpy done(task.get(), &ArchiveTask::finished);
-        task->start();
-        if (done.isEmpty())
-            done.wait(quickly);
-        if (task->result().good()) {
-            safe = safes.open(task->result().path);
-            sync.setSafe(safe);
-        }
-        return task->result();
-    }
-    QString add(const QString &title)
-    {
-        auto login = std::make_unique<PMLogin>();
-        login->setTitle(title);
-        const QString id = safe->addItem(std::move(login))->id();
-        safe->saveChangesAsync();
-        return id;
-    }
-    QString title(const QString &id) const
-    {
-        return safe->item(id) ? safe->item(id)->title() : QString();
-    }
-    State state() const { return sync.status().state; }
-};
-
-} // namespace
+#include "CloudComputer.h"
 
 class TestCloudSync : public QObject
 {
@@ -150,8 +41,8 @@ private Q_SLOTS:
     {
         share();
         QSignalSpy came(&m_two->sync, &CloudSync::itemsCame);
-        const QString id = m_one->add(QStringLiteral("first"));
-        QTRY_COMPARE_WITH_TIMEOUT(m_two->title(id), QStringLiteral("first"), quickly);
+        const QString id = m_one->add("first"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->title(id), "first"_s, quickly);
         QTRY_COMPARE_WITH_TIMEOUT(came.count(), 1, quickly);
         QCOMPARE(came.first(), (QVariantList{1, 0}));
         QVERIFY(m_one->safe->removeItems({id}));
@@ -185,11 +76,11 @@ private Q_SLOTS:
     void joinsTheMirrorThatIsThere()
     {
         m_one->create();
-        const QString first = m_one->add(QStringLiteral("first"));
+        const QString first = m_one->add("first"_s);
         QVERIFY(m_one->safe->saveChanges());
         const QString copy = path("two/copied");
         writeSafe(copy, snapshot(m_one->safe->folder()));
-        const QString second = m_one->add(QStringLiteral("second"));
+        const QString second = m_one->add("second"_s);
         const MirrorChoice made = m_one->turnOn();
         QVERIFY(made.good() && !made.joins);
         QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
@@ -200,9 +91,9 @@ private Q_SLOTS:
         const MirrorChoice joined = m_two->turnOn();
         QVERIFY(joined.good() && joined.joins);
         QCOMPARE(joined.folder, made.folder);
-        QTRY_COMPARE_WITH_TIMEOUT(m_two->title(second), QStringLiteral("second"), quickly);
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->title(second), "second"_s, quickly);
         QCOMPARE(m_two->safe->itemCount(), 2);
-        QCOMPARE(m_two->title(first), QStringLiteral("first"));
+        QCOMPARE(m_two->title(first), "first"_s);
 
         // A second copy on one computer would be merged with the first behind the user's back.
         m_two->safe = m_two->safes.open(m_one->safe->folder());
@@ -213,7 +104,7 @@ private Q_SLOTS:
     void asksForANewPasswordAndTakesItOver()
     {
         share();
-        const QString id = m_one->add(QStringLiteral("first"));
+        const QString id = m_one->add("first"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
         QSignalSpy needed(&m_two->sync, &CloudSync::passwordNeeded);
         QSignalSpy taken(&m_two->sync, &CloudSync::passwordTaken);
@@ -231,14 +122,14 @@ private Q_SLOTS:
         QVERIFY(m_two->sync.needsPassword());
 
         // It goes on under the old one as long as the user likes.
-        m_two->safe->item(id)->setTitle(QStringLiteral("typed meanwhile"));
+        m_two->safe->item(id)->setTitle("typed meanwhile"_s);
         m_two->safe->touchItem(*m_two->safe->item(id));
         m_two->safe->saveChangesAsync();
-        QCOMPARE(take(QStringLiteral("wrong")), CloudSync::Taking::Wrong);
+        QCOMPARE(take("wrong"_s), CloudSync::Taking::Wrong);
         QVERIFY(m_two->safe->isPassword(samplePassword));
         QCOMPARE(take(newPassword), CloudSync::Taking::Taken);
         QVERIFY(m_two->safe->isPassword(newPassword));
-        QTRY_COMPARE_WITH_TIMEOUT(m_one->title(id), QStringLiteral("typed meanwhile"), quickly);
+        QTRY_COMPARE_WITH_TIMEOUT(m_one->title(id), "typed meanwhile"_s, quickly);
         QTRY_COMPARE_WITH_TIMEOUT(m_two->state(), State::Synchronised, quickly);
         QCOMPARE(needed.count(), 1);
 
@@ -247,7 +138,7 @@ private Q_SLOTS:
         GPMSafe reopened;
         QVERIFY(reopened.open(folder) && !reopened.unlock(samplePassword));
         QVERIFY(reopened.unlock(newPassword));
-        QCOMPARE(reopened.item(id)->title(), QStringLiteral("typed meanwhile"));
+        QCOMPARE(reopened.item(id)->title(), "typed meanwhile"_s);
         QVERIFY(reopened.unreadableFiles().isEmpty());
         QCOMPARE(m_one->safe->itemCount(), 1);
     }
@@ -265,13 +156,13 @@ private Q_SLOTS:
         shareAndChange(newPassword);
         const std::shared_ptr<GPMSafe> first = m_two->safe;
         const QString mirror = m_mirror;
-        shareAndChange(QStringLiteral("a third password 3"));
+        shareAndChange("a third password 3"_s);
         QVERIFY(m_mirror != mirror);
         m_two->sync.setSafe(first);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->sync.needsPassword(), quickly);
         QSignalSpy taken(&m_two->sync, &CloudSync::passwordTaken);
         // Only the check reads it now: the meeting is over.
-        m_two->disk->slowFile = mirror + QStringLiteral("/safe.passid");
+        m_two->disk->slowFile = mirror + "/safe.passid"_s;
         m_two->sync.takePassword(newPassword);
         m_two->sync.setSafe(m_two->safe);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->sync.needsPassword(), quickly);
@@ -289,9 +180,9 @@ private Q_SLOTS:
         QSignalSpy troubled(&m_one->sync, &CloudSync::troubled);
         const QString away = path("away");
         QVERIFY(QDir().rename(m_mirror, away));
-        const QString id = m_one->add(QStringLiteral("first"));
+        const QString id = m_one->add("first"_s);
         QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::FolderMissing, quickly);
-        m_one->add(QStringLiteral("second"));
+        m_one->add("second"_s);
         QTRY_VERIFY_WITH_TIMEOUT(!m_one->safe->item(id)->isChanged(), quickly);
         QVERIFY(m_one->sync.status().needsAttention());
         QVERIFY(QDir().rename(away, m_mirror));
@@ -312,19 +203,19 @@ private Q_SLOTS:
     void waitsForWhatHasNotArrived()
     {
         share();
-        const QString id = m_one->add(QStringLiteral("first"));
+        const QString id = m_one->add("first"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
         QTRY_COMPARE_WITH_TIMEOUT(m_one->state(), State::Synchronised, quickly);
-        const QString file = m_mirror + QStringLiteral("/content/") + id;
+        const QString file = m_mirror + "/content/"_s + id;
         const QByteArray whole = contentOf(file);
         writeFile(file, whole.left(whole.size() / 2));
         m_two->sync.synchronize();
         QTRY_COMPARE_WITH_TIMEOUT(m_two->state(), State::Waiting, quickly);
-        QCOMPARE(m_two->sync.status().waiting, QStringList{QStringLiteral("first")});
+        QCOMPARE(m_two->sync.status().waiting, QStringList{"first"_s});
         writeFile(file, whole);
         m_two->sync.synchronize();
         QTRY_COMPARE_WITH_TIMEOUT(m_two->state(), State::Synchronised, quickly);
-        QCOMPARE(m_two->title(id), QStringLiteral("first"));
+        QCOMPARE(m_two->title(id), "first"_s);
     }
 
     void turnsOff()
@@ -333,7 +224,7 @@ private Q_SLOTS:
         const QString folder = m_two->safe->folder();
         m_two->sync.turnOff(folder, false);
         QCOMPARE(m_two->state(), State::Off);
-        QVERIFY(QFileInfo(m_mirror + QStringLiteral("/safe.meta")).exists());
+        QVERIFY(QFileInfo(m_mirror + "/safe.meta"_s).exists());
         QSignalSpy removed(&m_one->sync, &CloudSync::copyRemoved);
         // In the middle of the meeting that a change leads to.
         connect(
@@ -343,7 +234,7 @@ private Q_SLOTS:
                     m_one->sync.turnOff(m_one->safe->folder(), true);
             },
             Qt::QueuedConnection);
-        const QString id = m_one->add(QStringLiteral("first"));
+        const QString id = m_one->add("first"_s);
         QVERIFY(removed.wait(quickly));
         QCOMPARE(removed.first().at(1).toBool(), true);
         QVERIFY(!QFileInfo::exists(m_mirror));
@@ -358,7 +249,6 @@ private Q_SLOTS:
         QTest::newRow("nobody wants it") << false;
         QTest::newRow("mirrored there again") << true;
     }
-
     void removesAtTheNextStartWhatTheEndCutOff()
     {
         QFETCH(const bool, used);
@@ -370,7 +260,7 @@ private Q_SLOTS:
         m_one->sync.finish();
         m_one.reset();
         writeFiles(m_mirror, snapshot(away));
-        QVERIFY(QFile::remove(m_mirror + QStringLiteral("/safe.passid")));
+        QVERIFY(QFile::remove(m_mirror + "/safe.passid"_s));
         if (used) {
             SafeFacts facts(path("one/safes.json"));
             facts.change(folder, [this](SafeFact &fact) { fact.mirrorFolder = m_mirror; });
@@ -384,9 +274,8 @@ private Q_SLOTS:
     {
         share();
         QVERIFY(QDir().mkpath(path("business")));
-        const QJsonObject info{
-            {QStringLiteral("personal"), QJsonObject{{QStringLiteral("path"), path("cloud")}}},
-            {QStringLiteral("business"), QJsonObject{{QStringLiteral("path"), path("business")}}}};
+        const QJsonObject info{{"personal"_s, QJsonObject{{"path"_s, path("cloud")}}},
+                               {"business"_s, QJsonObject{{"path"_s, path("business")}}}};
         writeFile(path("info.json"), QJsonDocument(info).toJson());
         writeFile(path("broken.json"), "{ \"personal\": ");
         Computer three(path("three"), path("business"),
@@ -396,7 +285,7 @@ private Q_SLOTS:
         QVERIFY(changed.wait(quickly));
         QCOMPARE(three.folders.found().accounts.size(), 2);
         QCOMPARE(three.folders.found().offers.size(), 1);
-        QCOMPARE(three.folders.found().offers.first().name, QStringLiteral("Work"));
+        QCOMPARE(three.folders.found().offers.first().name, "Work"_s);
 
         // What it knows is not offered again, wherever it lies; what it makes is not offered.
         QVERIFY(three.import(three.folders.found().offers.first().path).good());
@@ -414,7 +303,7 @@ private Q_SLOTS:
         m_one.reset();
         auto disk = std::make_shared<FullDisk>();
         SafeEnvironment world{systemRandom, systemTime, disk, 1000, {}, 0};
-        disk->slowFile = folder + QStringLiteral("/safe.meta");
+        disk->slowFile = folder + "/safe.meta"_s;
         GPMAppSettings settings(path("one"), path("one"));
         KnownSafes safes(settings, path("one/safes"), world);
         QVERIFY(safes.entries().at(0).looking);

@@ -143,3 +143,38 @@ inline bool makeArchive(const QString &kind, const QString &safe, const QString 
                {QStringLiteral(TEST_DATA_DIR "/../safe/make_archive.py"), kind, safe, target})
                .exitCode == 0;
 }
+
+using Outcome = ArchiveResult::Outcome;
+
+const int itemCount = 22;
+const char oldArchive[] = "what was there before";
+
+inline bool isOwnersAlone(const QString &path)
+{
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                      QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    return !(QFileInfo(path).permissions() & others);
+}
+
+/// Gives some bytes and then an error, as a drive does that is pulled out.
+class BrokenDevice : public QIODevice
+{
+public:
+    BrokenDevice() { open(ReadOnly | Unbuffered); }
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char *bytes, qint64 size) override
+    {
+        if (m_left == 0)
+            return -1;
+        const qint64 count = std::min(size, m_left);
+        memset(bytes, 'x', static_cast<size_t>(count));
+        m_left -= count;
+        return count;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    qint64 m_left = 200000;
+};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../Text.h"
 #include "GPMSafe.h"
 
 #include <QDirIterator>
@@ -10,7 +11,7 @@
 #include <functional>
 #include <memory>
 
-const QString samplePassword = QStringLiteral("master password 1");
+const QString samplePassword = "master password 1"_s;
 
 inline QByteArray contentOf(const QString &path)
 {

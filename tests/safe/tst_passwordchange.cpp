@@ -1,108 +1,12 @@
 #include "FormerPassword.h"
 #include "PMItemFactory.h"
+#include "PasswordTesting.h"
 #include "SafeCrypto.h"
-#include "SafeTesting.h"
 
 #include <QLockFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <cstdlib>
-#include <unistd.h>
-
-namespace {
-
-const int itemCount = 6; // of the sample's 22, two of them attachments
-const QString newPassword = QStringLiteral("another password 2");
-const QString attachmentId = QStringLiteral("00000000-0000-000b-0000-000000001234");
-
-struct Changed
-{
-    bool good = false;
-    int operations = 0;
-};
-
-/// A change is cancelled as the first attachment begins to be written.
-class CancellingFiles : public FileLayer
-{
-public:
-    WorkControl control;
-    qint64 written = -1; ///< bytes of that attachment
-
-    bool write(const QString &path, const Produce &produce, QIODevice::OpenMode mode) override
-    {
-        if (!path.contains(QLatin1String("/attachment/")))
-            return FileLayer::write(path, produce, mode);
-        const auto cancelAndProduce = [&](QIODevice &device) {
-            control.cancel();
-            const bool good = produce(device);
-            written = device.pos();
-            return good;
-        };
-        return FileLayer::write(path, cancelAndProduce, mode);
-    }
-};
-
-enum Way { AtOnce, OnTheWriter };
-
-/// Starts a change and lets the event loop run until it has ended.
-PasswordChangeOutcome changeOnWriter(GPMSafe &safe, const QString &password, const QString &hint)
-{
-    PasswordChangeOutcome outcome = PasswordChangeOutcome::Busy;
-    QEventLoop loop;
-    const auto connection = QObject::connect(&safe, &GPMSafe::passwordChangeFinished, &loop,
-                                             [&](PasswordChangeOutcome result) {
-                                                 outcome = result;
-                                                 loop.quit();
-                                             });
-    if (!safe.changePasswordAsync(password, hint))
-        qFatal("the change does not begin");
-    loop.exec();
-    QObject::disconnect(connection);
-    return outcome;
-}
-
-/// Changes the password of the sample safe in a folder over files that fail.
-Changed change(const QString &folder, const std::shared_ptr<FaultyFiles> &files, Way way = AtOnce,
-               RandomSource random = systemRandom, int lockWaitMs = 0)
-{
-    SafeEnvironment environment;
-    environment.files = files;
-    environment.random = std::move(random);
-    environment.lockWaitMs = lockWaitMs;
-    GPMSafe safe(environment);
-    if (!safe.open(folder) || !safe.unlock(samplePassword))
-        qFatal("the sample safe does not open");
-    const bool good = way == AtOnce ? safe.changePassword(newPassword)
-                                    : changeOnWriter(safe, newPassword, safe.hint()) ==
-                                          PasswordChangeOutcome::Changed;
-    // Whatever happened, the object in memory goes on under the password that is in force.
-    if (!safe.isPassword(good ? newPassword : samplePassword) || safe.itemCount() != itemCount)
-        qFatal("the open safe is not as the change left it");
-    safe.lock();
-    return {good, files->operations};
-}
-
-bool opensWhole(const QString &folder, const QString &password)
-{
-    GPMSafe safe;
-    if (!safe.open(folder) || !safe.unlock(password) || safe.itemCount() != itemCount ||
-        !safe.unreadableFiles().isEmpty())
-        return false;
-    QBuffer bytes;
-    bytes.open(QIODevice::WriteOnly);
-    return safe.readAttachment(attachmentId, bytes) && bytes.size() > 12000 &&
-           safe.item(attachmentId)->property("hash").toString().size() == 44;
-}
-
-bool tellsOfInterruption(const QString &folder, const QString &password)
-{
-    GPMSafe safe;
-    return safe.open(folder) && safe.unlock(password) && safe.isChangeInterrupted();
-}
-
-} // namespace
 
 class TestPasswordChange : public QObject
 {
@@ -122,8 +26,8 @@ private:
         GPMSafe safe(environment);
         QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
         files->operations = 0;
-        const QString loginId = QStringLiteral("00000000-0000-0001-0000-000000001234");
-        const QString note = QStringLiteral("written meanwhile");
+        const QString loginId = "00000000-0000-0001-0000-000000001234"_s;
+        const QString note = "written meanwhile"_s;
         QString added;
         const auto act = [&] {
             if (action == QLatin1String("cancel")) {
@@ -194,10 +98,8 @@ private Q_SLOTS:
         m_folder = m_temporary->path();
         copySampleSafe(m_folder);
         // Every failure point is a whole change: fewer items make more of them affordable.
-        const QStringList kept = {QStringLiteral("0001"), QStringLiteral("0002"),
-                                  QStringLiteral("0003"), QStringLiteral("0004"),
-                                  QStringLiteral("000b"), QStringLiteral("0016")};
-        const QDir content(m_folder + QStringLiteral("/content"));
+        const QStringList kept = {"0001"_s, "0002"_s, "0003"_s, "0004"_s, "000b"_s, "0016"_s};
+        const QDir content(m_folder + "/content"_s);
         for (const QString &file : content.entryList(QDir::Files)) {
             if (!kept.contains(file.mid(14, 4)))
                 QVERIFY(QFile::remove(content.filePath(file)));
@@ -211,11 +113,10 @@ private Q_SLOTS:
         QVERIFY(opensWhole(m_folder, newPassword));
         QVERIFY(!opensWhole(m_folder, samplePassword));
         QMap<QString, QByteArray> after = snapshot(m_folder);
-        QCOMPARE(after.take(QStringLiteral("safe.passid.bak")),
-                 m_before.value(QStringLiteral("safe.passid")));
+        QCOMPARE(after.take("safe.passid.bak"_s), m_before.value("safe.passid"_s));
         QCOMPARE(after.size(), m_before.size());
         for (const QByteArray &content : m_before) {
-            if (content != m_before.value(QStringLiteral("safe.meta")))
+            if (content != m_before.value("safe.meta"_s))
                 QVERIFY(!after.values().contains(content));
         }
         // Once more, to the next generation, with the first change's backup there.
@@ -234,8 +135,7 @@ private Q_SLOTS:
         const SafeFolder folder(m_folder);
         for (const bool damaged : {false, true}) {
             if (damaged)
-                writeFile(m_folder +
-                              QStringLiteral("/content/00000000-0000-0001-0000-000000001234.1"),
+                writeFile(m_folder + "/content/00000000-0000-0001-0000-000000001234.1"_s,
                           "damaged");
             QVERIFY(!tellsOfInterruption(m_folder, newPassword));
             QVERIFY(formerPassword(files, folder, samplePassword.toUtf8()) ==
@@ -268,8 +168,7 @@ private Q_SLOTS:
                 files->andAllBehind = andAllBehind;
                 QVERIFY(!change(m_folder, files, andAllBehind ? OnTheWriter : AtOnce).good);
                 QMap<QString, QByteArray> after = snapshot(m_folder);
-                QCOMPARE(after.value(QStringLiteral("safe.passid")),
-                         m_before.value(QStringLiteral("safe.passid")));
+                QCOMPARE(after.value("safe.passid"_s), m_before.value("safe.passid"_s));
                 QVERIFY(opensWhole(m_folder, samplePassword));
                 // Where nothing can be removed any more, what lies about must not do harm.
                 if (!andAllBehind)
@@ -302,10 +201,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("remove");
-        QTest::newRow("attachment gone") << (QStringLiteral("attachment/") + attachmentId) << true;
-        QTest::newRow("attachment cut") << (QStringLiteral("attachment/") + attachmentId) << false;
-        QTest::newRow("item cut") << QStringLiteral("content/00000000-0000-0001-0000-000000001234")
-                                  << false;
+        QTest::newRow("attachment gone") << ("attachment/"_s + attachmentId) << true;
+        QTest::newRow("attachment cut") << ("attachment/"_s + attachmentId) << false;
+        QTest::newRow("item cut") << "content/00000000-0000-0001-0000-000000001234"_s << false;
     }
     void aDamagedItemStopsTheChange()
     {
@@ -328,8 +226,7 @@ private Q_SLOTS:
     void aLockHeldByAnotherProcessStopsTheChange()
     {
         QProcess other;
-        other.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("--hold-lock"), m_folder});
+        other.start(QCoreApplication::applicationFilePath(), {"--hold-lock"_s, m_folder});
         QVERIFY(other.waitForReadyRead());
         QMap<QString, QByteArray> held = snapshot(m_folder);
         QVERIFY(!change(m_folder, std::make_shared<FaultyFiles>()).good);
@@ -361,7 +258,6 @@ private Q_SLOTS:
         }
     }
 
-    /// The hint changes with the password and stays with the old one.
     /// Who locks does not wait for the rest of a large attachment.
     void aCancelledChangeStopsInsideAnAttachment()
     {
@@ -386,12 +282,13 @@ private Q_SLOTS:
         QCOMPARE(snapshot(m_folder), m_before);
     }
 
+    /// The hint changes with the password and stays with the old one.
     void theHintGoesWithThePassword()
     {
-        const QString hint = QStringLiteral("Another hint");
+        const QString hint = "Another hint"_s;
         // A description that cannot be written is the last that can go wrong.
         auto files = std::make_shared<FaultyFiles>();
-        files->failPath = m_folder + QStringLiteral("/safe.meta");
+        files->failPath = m_folder + "/safe.meta"_s;
         SafeEnvironment environment;
         environment.files = files;
         GPMSafe safe(environment);
@@ -400,8 +297,8 @@ private Q_SLOTS:
         QVERIFY(changeOnWriter(safe, newPassword, hint) == PasswordChangeOutcome::NotWritten);
         QCOMPARE(safe.hint(), oldHint);
         QMap<QString, QByteArray> after = snapshot(m_folder);
-        QVERIFY(!after.take(QStringLiteral("safe.restore")).contains(hint.toUtf8()));
-        m_before.remove(QStringLiteral("safe.restore"));
+        QVERIFY(!after.take("safe.restore"_s).contains(hint.toUtf8()));
+        m_before.remove("safe.restore"_s);
         QCOMPARE(after, m_before);
 
         files->failPath.clear();
@@ -416,7 +313,7 @@ private Q_SLOTS:
     /// The wait for another program leaves the event loop alone and can be cancelled.
     void waitsForTheLockOffTheLoop()
     {
-        QLockFile held(m_folder + QStringLiteral("/.sourcelock"));
+        QLockFile held(m_folder + "/.sourcelock"_s);
         QVERIFY(held.lock());
         SafeEnvironment environment;
         environment.lockWaitMs = 1000000;
@@ -431,7 +328,7 @@ private Q_SLOTS:
         QVERIFY(opensWhole(m_folder, samplePassword));
         held.unlock();
         environment.lockWaitMs = 0;
-        QLockFile again(m_folder + QStringLiteral("/.sourcelock"));
+        QLockFile again(m_folder + "/.sourcelock"_s);
         QVERIFY(again.lock());
         GPMSafe impatient(environment);
         QVERIFY(impatient.open(m_folder) && impatient.unlock(samplePassword));
@@ -447,14 +344,12 @@ private Q_SLOTS:
             init();
             QProcess child;
             child.start(QCoreApplication::applicationFilePath(),
-                        {QStringLiteral("--change-and-die"), m_folder, QString::number(dieAt)});
+                        {"--change-and-die"_s, m_folder, QString::number(dieAt)});
             QVERIFY(child.waitForFinished());
             QCOMPARE(child.exitCode(), 9);
 
-            QCOMPARE(contentOf(m_folder + QStringLiteral("/safe.meta")),
-                     m_before.value(QStringLiteral("safe.meta")));
-            const QString passId =
-                QString::fromLatin1(contentOf(m_folder + QStringLiteral("/safe.passid")));
+            QCOMPARE(contentOf(m_folder + "/safe.meta"_s), m_before.value("safe.meta"_s));
+            const QString passId = QString::fromLatin1(contentOf(m_folder + "/safe.passid"_s));
             // Only what was interrupted is told of, and that always.
             const bool complete = opensWhole(m_folder, newPassword);
             const bool told = tellsOfInterruption(m_folder, newPassword);
@@ -470,32 +365,12 @@ private Q_SLOTS:
             const SafeFolder folder(m_folder);
             QVERIFY(formerPassword(files, folder, samplePassword.toUtf8()) ==
                     FormerPassword::Interrupted);
-            const QString backup = m_folder + QStringLiteral("/safe.passid.bak");
-            writeFile(m_folder + QStringLiteral("/safe.passid"), contentOf(backup));
+            const QString backup = m_folder + "/safe.passid.bak"_s;
+            writeFile(m_folder + "/safe.passid"_s, contentOf(backup));
             QVERIFY(opensWhole(m_folder, samplePassword));
         }
     }
 };
-
-static int holdLock(const QString &folder)
-{
-    QLockFile lock(folder + QStringLiteral("/.sourcelock"));
-    if (!lock.lock())
-        return 1;
-    puts("held");
-    fflush(stdout);
-    for (;;)
-        pause();
-}
-
-static int changeAndDie(const QString &folder, int dieAt)
-{
-    auto files = std::make_shared<FaultyFiles>();
-    files->failAt = dieAt;
-    files->fault = [] { _exit(9); };
-    change(folder, files, OnTheWriter);
-    return 0;
-}
 
 int main(int argc, char **argv)
 {

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "ArchiveEntries.h"
 #include "ArchiveMessages.h"
 #include "ArchiveTesting.h"
@@ -7,45 +8,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-using Outcome = ArchiveResult::Outcome;
-
-const int itemCount = 22;
-const char oldArchive[] = "what was there before";
-
-bool isOwnersAlone(const QString &path)
-{
-    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
-                                      QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-    return !(QFileInfo(path).permissions() & others);
-}
-
-/// Gives some bytes and then an error, as a drive does that is pulled out.
-class BrokenDevice : public QIODevice
-{
-public:
-    BrokenDevice() { open(ReadOnly | Unbuffered); }
-    bool isSequential() const override { return true; }
-
-protected:
-    qint64 readData(char *bytes, qint64 size) override
-    {
-        if (m_left == 0)
-            return -1;
-        const qint64 count = std::min(size, m_left);
-        memset(bytes, 'x', static_cast<size_t>(count));
-        m_left -= count;
-        return count;
-    }
-    qint64 writeData(const char *, qint64) override { return -1; }
-
-private:
-    qint64 m_left = 200000;
-};
-
-} // namespace
 
 class TestSafeArchive : public QObject
 {
@@ -61,30 +23,29 @@ private Q_SLOTS:
     void init()
     {
         m_temporary = std::make_unique<QTemporaryDir>();
-        m_safe = m_temporary->filePath(QStringLiteral("My safe"));
-        m_safes = m_temporary->filePath(QStringLiteral("data/safes"));
-        m_archive = m_temporary->filePath(QStringLiteral("out/archive.gpm"));
-        QDir().mkpath(m_temporary->filePath(QStringLiteral("out")));
+        m_safe = m_temporary->filePath("My safe"_s);
+        m_safes = m_temporary->filePath("data/safes"_s);
+        m_archive = m_temporary->filePath("out/archive.gpm"_s);
+        QDir().mkpath(m_temporary->filePath("out"_s));
         copySampleSafe(m_safe);
-        QDir().mkpath(m_safe + QStringLiteral("/favicon"));
-        writeFile(m_safe + QStringLiteral("/favicon/é.example.org"), QByteArray(1000, 'i'));
+        QDir().mkpath(m_safe + "/favicon"_s);
+        writeFile(m_safe + "/favicon/é.example.org"_s, QByteArray(1000, 'i'));
     }
 
     void everyToolOpensAnExport()
     {
         // No part of a safe: what an interrupted write left, state of this computer, a strange
         // name.
-        const QString id = QStringLiteral("00000000-0000-0001-0000-000000001234");
+        const QString id = "00000000-0000-0001-0000-000000001234"_s;
         for (const QString &foreign :
-             {QStringLiteral("content/%1.AbCdEf").arg(id), QStringLiteral("safe.sync"),
-              QStringLiteral("safe.passid.bak"), QStringLiteral("content/a:b")})
+             {"content/%1.AbCdEf"_s.arg(id), "safe.sync"_s, "safe.passid.bak"_s, "content/a:b"_s})
             writeFile(m_safe + QLatin1Char('/') + foreign, "x");
-        QFile item(m_safe + QStringLiteral("/content/") + id);
+        QFile item(m_safe + "/content/"_s + id);
         QVERIFY(item.open(QIODevice::ReadWrite));
         const QDateTime time(QDate(2019, 5, 6), QTime(7, 8, 10));
         QVERIFY(item.setFileTime(time, QFileDevice::FileModificationTime));
         item.close();
-        QFile old(m_safe + QStringLiteral("/safe.restore"));
+        QFile old(m_safe + "/safe.restore"_s);
         QVERIFY(old.open(QIODevice::ReadWrite));
         old.setFileTime(QDateTime(QDate(1975, 1, 1), QTime(0, 0)),
                         QFileDevice::FileModificationTime);
@@ -95,10 +56,9 @@ private Q_SLOTS:
         QCOMPARE(result.size, QFileInfo(m_archive).size());
         QVERIFY(result.leftOut.isEmpty());
         QVERIFY(isOwnersAlone(m_archive));
-        QCOMPARE(namesIn(QFileInfo(m_archive).path()), QStringList{QStringLiteral("archive.gpm")});
+        QCOMPARE(namesIn(QFileInfo(m_archive).path()), QStringList{"archive.gpm"_s});
 
-        QStringList names = {QStringLiteral("safe.meta"), QStringLiteral("safe.restore"),
-                             QStringLiteral("safe.passid")};
+        QStringList names = {"safe.meta"_s, "safe.restore"_s, "safe.passid"_s};
         for (const char *folder : {"content", "attachment", "favicon"}) {
             const QDir inner(m_safe + QLatin1Char('/') + QLatin1String(folder));
             for (const QString &name : inner.entryList(QDir::Files, QDir::Name)) {
@@ -110,24 +70,19 @@ private Q_SLOTS:
         const auto tool = [this](const char *program, const QStringList &arguments) {
             return runProgram(QLatin1String(program), arguments + QStringList{m_archive});
         };
-        QCOMPARE(tool("zipinfo", {QStringLiteral("-1")}).output.split(QLatin1Char('\n')),
+        QCOMPARE(tool("zipinfo", {"-1"_s}).output.split(QLatin1Char('\n')),
                  names + QStringList{QString()});
-        const QString list = tool("zipinfo", {QStringLiteral("-T")}).output;
-        QVERIFY(list.contains(QStringLiteral("20190506.070810 content/") + id));
-        QVERIFY(list.contains(QStringLiteral("19800101.000000 safe.restore")));
+        const QString list = tool("zipinfo", {"-T"_s}).output;
+        QVERIFY(list.contains("20190506.070810 content/"_s + id));
+        QVERIFY(list.contains("19800101.000000 safe.restore"_s));
         QCOMPARE(list.count(QLatin1String("-rw-------")), names.size());
         QCOMPARE(list.count(QLatin1String(" defN ")), names.size());
-        QCOMPARE(tool("unzip", {QStringLiteral("-t")}).exitCode, 0);
-        QCOMPARE(tool("7z", {QStringLiteral("t")}).exitCode, 0);
-        QCOMPARE(
-            tool("python3", {QStringLiteral("-m"), QStringLiteral("zipfile"), QStringLiteral("-t")})
-                .exitCode,
-            0);
+        QCOMPARE(tool("unzip", {"-t"_s}).exitCode, 0);
+        QCOMPARE(tool("7z", {"t"_s}).exitCode, 0);
+        QCOMPARE(tool("python3", {"-m"_s, "zipfile"_s, "-t"_s}).exitCode, 0);
 
-        const QString unpacked = m_temporary->filePath(QStringLiteral("unpacked"));
-        QCOMPARE(runProgram(QStringLiteral("unzip"), {m_archive, QStringLiteral("-d"), unpacked})
-                     .exitCode,
-                 0);
+        const QString unpacked = m_temporary->filePath("unpacked"_s);
+        QCOMPARE(runProgram("unzip"_s, {m_archive, "-d"_s, unpacked}).exitCode, 0);
         const QMap<QString, QByteArray> before = snapshot(m_safe);
         const QMap<QString, QByteArray> after = snapshot(unpacked);
         QCOMPARE(after.size(), names.size());
@@ -137,13 +92,13 @@ private Q_SLOTS:
 
     void anEmptySafeHasItsThreeFiles()
     {
-        const QString folder = m_temporary->filePath(QStringLiteral("empty"));
+        const QString folder = m_temporary->filePath("empty"_s);
         QDir().mkpath(folder);
         GPMSafe safe;
-        QVERIFY(safe.init(folder, samplePassword, QStringLiteral("Empty"), QString()));
+        QVERIFY(safe.init(folder, samplePassword, "Empty"_s, QString()));
         QCOMPARE(exportTo(folder, m_archive).outcome, Outcome::Done);
-        QCOMPARE(runProgram(QStringLiteral("zipinfo"), {QStringLiteral("-1"), m_archive}).output,
-                 QStringLiteral("safe.meta\nsafe.restore\nsafe.passid\n"));
+        QCOMPARE(runProgram("zipinfo"_s, {"-1"_s, m_archive}).output,
+                 "safe.meta\nsafe.restore\nsafe.passid\n"_s);
         QCOMPARE(importFrom(m_archive, m_safes).outcome, Outcome::Done);
     }
 
@@ -169,13 +124,13 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, command);
         // As the tools want it, who would else append an extension.
-        const QString archive = m_temporary->filePath(QStringLiteral("made.zip"));
+        const QString archive = m_temporary->filePath("made.zip"_s);
         if (command.isEmpty()) {
             QCOMPARE(exportTo(m_safe, archive).outcome, Outcome::Done);
         } else if (command.size() == 1) {
             QVERIFY(makeArchive(command.first(), m_safe, archive));
         } else {
-            command.replaceInStrings(QStringLiteral("ARCHIVE"), archive);
+            command.replaceInStrings("ARCHIVE"_s, archive);
             const QString program = command.takeFirst();
             QCOMPARE(runProgram(program, command, m_safe).exitCode, 0);
         }
@@ -194,7 +149,7 @@ private Q_SLOTS:
         GPMSafe safe;
         QVERIFY(original.open(m_safe) && safe.open(result.path));
         const QString day = QLocale().toString(QDate(2026, 3, 4), QLocale::ShortFormat);
-        QCOMPARE(safe.name(), QStringLiteral("%1 [%2]").arg(original.name(), day));
+        QCOMPARE(safe.name(), "%1 [%2]"_s.arg(original.name(), day));
         QCOMPARE(safe.modified(), original.modified());
 
         QVERIFY(isOwnersAlone(result.path));
@@ -252,22 +207,21 @@ private Q_SLOTS:
             const Outcome outcome = importFrom(m_archive, m_safes).outcome;
             QVERIFY2(outcome == Outcome::Damaged ||
                          (length < 4 && outcome == Outcome::NotAnArchive),
-                     qPrintable(QStringLiteral("%1: %2").arg(length).arg(int(outcome))));
+                     qPrintable("%1: %2"_s.arg(length).arg(int(outcome))));
             QVERIFY(namesIn(m_safes).isEmpty());
         }
     }
 
     void anEncryptedArchiveIsRefused()
     {
-        QCOMPARE(runProgram(QStringLiteral("zip"),
-                            {QStringLiteral("-P"), QStringLiteral("secret"), QStringLiteral("-r"),
-                             m_temporary->filePath(QStringLiteral("a.zip")), QStringLiteral(".")},
+        QCOMPARE(runProgram("zip"_s,
+                            {"-P"_s, "secret"_s, "-r"_s, m_temporary->filePath("a.zip"_s), "."_s},
                             m_safe)
                      .exitCode,
                  0);
-        QCOMPARE(importFrom(m_temporary->filePath(QStringLiteral("a.zip")), m_safes).outcome,
+        QCOMPARE(importFrom(m_temporary->filePath("a.zip"_s), m_safes).outcome,
                  Outcome::Unsupported);
-        QCOMPARE(importFrom(m_temporary->filePath(QStringLiteral("none.gpm")), m_safes).outcome,
+        QCOMPARE(importFrom(m_temporary->filePath("none.gpm"_s), m_safes).outcome,
                  Outcome::NotFound);
         QVERIFY(namesIn(m_safes).isEmpty());
     }
@@ -278,7 +232,7 @@ private Q_SLOTS:
         QVERIFY(!ArchiveEntries::isTooLarge(limit, limit));
         QVERIFY(ArchiveEntries::isTooLarge(limit + 1, limit));
         // A sparse file is counted before anything of it is read.
-        QFile huge(m_safe + QStringLiteral("/attachment/huge"));
+        QFile huge(m_safe + "/attachment/huge"_s);
         QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(limit));
         writeFile(m_archive, oldArchive);
         QCOMPARE(exportTo(m_safe, m_archive).outcome, Outcome::TooLarge);
@@ -292,8 +246,7 @@ private Q_SLOTS:
     {
         auto files = std::make_shared<FaultyArchiveFiles>();
         files->failAt = 10; // of those that are opened behind the writing
-        const QString inOtherCase =
-            m_safe + QStringLiteral("/content/00000000-0000-000B-0000-000000001234");
+        const QString inOtherCase = m_safe + "/content/00000000-0000-000B-0000-000000001234"_s;
         writeFile(inOtherCase, "the same file where case does not count");
         const ArchiveResult result = exportTo(m_safe, m_archive, files);
         QCOMPARE(result.outcome, Outcome::Done);
@@ -315,7 +268,7 @@ private Q_SLOTS:
         QFETCH(bool, folderGoes);
         writeFile(m_archive, oldArchive);
         auto files = std::make_shared<OpeningFiles>();
-        files->name = QStringLiteral("attachment/00000000-0000-0016");
+        files->name = "attachment/00000000-0000-0016"_s;
         files->change = [&](const QString &) -> std::unique_ptr<QIODevice> {
             if (!folderGoes)
                 return std::make_unique<BrokenDevice>();
@@ -324,12 +277,12 @@ private Q_SLOTS:
         };
         QCOMPARE(exportTo(m_safe, m_archive, files).outcome, Outcome::SafeUnreadable);
         QCOMPARE(contentOf(m_archive), QByteArray(oldArchive));
-        QCOMPARE(namesIn(QFileInfo(m_archive).path()), QStringList{QStringLiteral("archive.gpm")});
+        QCOMPARE(namesIn(QFileInfo(m_archive).path()), QStringList{"archive.gpm"_s});
     }
 
     void placesThatCannotBeWrittenTo()
     {
-        const QString nowhere = m_temporary->filePath(QStringLiteral("gone/archive.gpm"));
+        const QString nowhere = m_temporary->filePath("gone/archive.gpm"_s);
         QCOMPARE(exportTo(m_safe, nowhere).outcome, Outcome::CannotWrite);
         QCOMPARE(exportTo(m_safes, m_archive).outcome, Outcome::NotFound);
         QCOMPARE(exportTo(m_temporary->path(), m_archive).outcome, Outcome::NoSafe);
@@ -343,18 +296,18 @@ private Q_SLOTS:
     void nothingChangesTheFilesDuringAnExport()
     {
         auto files = std::make_shared<OpeningFiles>();
-        files->name = QStringLiteral("safe.passid");
+        files->name = "safe.passid"_s;
         bool changed = true;
         GPMSafe safe(environmentOf(std::make_shared<FileLayer>()));
         QVERIFY(safe.open(m_safe) && safe.unlock(samplePassword));
         files->change = [&](const QString &path) {
-            changed = safe.changePassword(QStringLiteral("another"));
+            changed = safe.changePassword("another"_s);
             return std::make_unique<QFile>(path);
         };
         exportTo(m_safe, m_archive, files);
         QVERIFY(!changed);
 
-        QLockFile held(m_safe + QStringLiteral("/.sourcelock"));
+        QLockFile held(m_safe + "/.sourcelock"_s);
         QVERIFY(held.lock());
         writeFile(m_archive, oldArchive);
         QCOMPARE(exportTo(m_safe, m_archive).outcome, Outcome::SafeBusy);
@@ -367,7 +320,7 @@ private Q_SLOTS:
         GPMSafe safe;
         QVERIFY(safe.open(m_safe) && safe.unlock(samplePassword));
         PMListItem *item = safe.items().front();
-        item->setTitle(QStringLiteral("The last edit"));
+        item->setTitle("The last edit"_s);
         safe.touchItem(*item);
         safe.saveChangesAsync();
         const std::unique_ptr<ArchiveTask> exporting = safe.exportArchive(m_archive);
@@ -379,8 +332,7 @@ private Q_SLOTS:
         QVERIFY(progress.count() > 2);
         QCOMPARE(progress.last().at(0), progress.last().at(1));
 
-        GPMAppSettings settings(m_temporary->filePath(QStringLiteral("config")),
-                                m_temporary->path());
+        GPMAppSettings settings(m_temporary->filePath("config"_s), m_temporary->path());
         KnownSafes known(settings, m_safes, patient());
         QStringList folders;
         for (int i = 0; i < 2; ++i) {
@@ -397,26 +349,25 @@ private Q_SLOTS:
         const std::shared_ptr<GPMSafe> copy = known.open(folders.first());
         QVERIFY(copy->unlock(samplePassword));
         QCOMPARE(copy->itemCount(), itemCount);
-        QCOMPARE(copy->item(item->id())->title(), QStringLiteral("The last edit"));
+        QCOMPARE(copy->item(item->id())->title(), "The last edit"_s);
         QBuffer bytes;
         QVERIFY(bytes.open(QIODevice::WriteOnly));
-        QVERIFY(
-            copy->readAttachment(QStringLiteral("00000000-0000-000b-0000-000000001234"), bytes));
+        QVERIFY(copy->readAttachment("00000000-0000-000b-0000-000000001234"_s, bytes));
     }
 
     void anOlderDescriptionTravels()
     {
-        const QByteArray passId = contentOf(m_safe + QStringLiteral("/safe.passid"));
+        const QByteArray passId = contentOf(m_safe + "/safe.passid"_s);
         for (const char *gone : {"safe.passid", "safe.meta", "safe.restore"})
             QVERIFY(QFile::remove(m_safe + QLatin1Char('/') + QLatin1String(gone)));
-        writeFile(m_safe + QStringLiteral("/safe.content"),
+        writeFile(m_safe + "/safe.content"_s,
                   "{\"name\": \"Old\", \"pass_id\": \"" + passId + "\"}");
         QVERIFY(exportTo(m_safe, m_archive).good());
         const ArchiveResult result = importFrom(m_archive, m_safes);
         QVERIFY(result.good());
-        QCOMPARE(contentOf(result.path + QStringLiteral("/safe.passid")), passId);
+        QCOMPARE(contentOf(result.path + "/safe.passid"_s), passId);
         GPMSafe safe;
-        QVERIFY(safe.open(result.path) && safe.name().startsWith(QStringLiteral("Old [")));
+        QVERIFY(safe.open(result.path) && safe.name().startsWith("Old ["_s));
     }
 };
 

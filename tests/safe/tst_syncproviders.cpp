@@ -3,17 +3,14 @@
 #include "PMLogin.h"
 #include "SafeCrypto.h"
 #include "SafeLayout.h"
-#include "SafeTesting.h"
 #include "SyncFileName.h"
+#include "SyncProvider.h"
 #include "SyncRound.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QUuid>
 #include <QtTest>
-
-#include <filesystem>
-#include <random>
 
 namespace {
 
@@ -22,161 +19,6 @@ constexpr unsigned seeds = 2;
 #else
 constexpr unsigned seeds = 12;
 #endif
-
-const qint64 day = 86400000;
-
-/// Random choices from a seed.
-class Dice
-{
-public:
-    explicit Dice(unsigned seed)
-        : m_random(seed)
-    {
-    }
-    int pick(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
-    bool oneIn(int count) { return pick(count) == 0; }
-    QString any(const QStringList &list) { return list.at(pick(list.size())); }
-
-private:
-    std::mt19937 m_random;
-};
-
-QStringList filesIn(const QString &folder)
-{
-    QStringList names = snapshot(folder).keys();
-    // Nothing that is being written, and no lock.
-    const QRegularExpression own(QStringLiteral("^(content|attachment)/|^safe[^/]*$"));
-    return names.filter(own);
-}
-
-/// Gives files that were just written a time of their own, as if each change came long after the
-/// one before it.
-void age(const QString &folder, int &time)
-{
-    namespace fs = std::filesystem;
-    const auto young = fs::file_time_type::clock::now() - std::chrono::hours(1);
-    const QStringList names = filesIn(folder);
-    for (const QString &name : names) {
-        const fs::path path((folder + QLatin1Char('/') + name).toStdString());
-        if (fs::last_write_time(path) > young)
-            fs::last_write_time(path,
-                                young - std::chrono::hours(1000) + std::chrono::seconds(++time));
-    }
-}
-
-/// The folder that a provider keeps on its server. Every computer has a copy of it, into which
-/// changes come one file at a time, in any order, sometimes half of one first.
-class Provider
-{
-public:
-    struct Replica
-    {
-        QString folder;
-        QMap<QString, int> versions;        ///< by path: what was last seen of the server
-        QMap<QString, QByteArray> contents; ///< and what it was
-        QMap<QString, QByteArray> halves;   ///< what has arrived of a file of which more comes
-
-        QString file(const QString &path) const { return folder + QLatin1Char('/') + path; }
-    };
-
-    explicit Provider(Dice &dice)
-        : m_dice(dice)
-    {
-    }
-
-    QStringList paths(const Replica &replica) const
-    {
-        QStringList all = filesIn(replica.folder) + m_files.keys();
-        all.removeDuplicates();
-        all.sort();
-        return all;
-    }
-
-    /// Brings one file of a replica and of the server together. True when something changed.
-    bool exchange(Replica &replica, const QString &path)
-    {
-        const QByteArray bytes = contentOf(replica.file(path));
-        const bool isThere = QFile::exists(replica.file(path));
-        const bool isHalf = replica.halves.contains(path) && replica.halves[path] == bytes;
-        const bool changedHere = !isHalf && (isThere != replica.contents.contains(path) ||
-                                             (isThere && bytes != replica.contents[path]));
-        const File server = m_files.value(path);
-        if (server.version == replica.versions.value(path)) {
-            if (changedHere)
-                upload(replica, path, isThere, bytes);
-            return changedHere;
-        }
-        // A removal loses to a change. Of two changes, this computer's becomes a file of its own.
-        if (changedHere && isThere && server.exists && bytes != server.content) {
-            if (!QFile::rename(replica.file(path), replica.file(copyName(path))))
-                qFatal("can't rename %s", qPrintable(path));
-        }
-        if (changedHere && isThere && !server.exists)
-            upload(replica, path, true, bytes);
-        else
-            download(replica, path, server);
-        return true;
-    }
-
-    void stopHalves() { m_halves = false; }
-    void startHalves() { m_halves = true; }
-
-private:
-    struct File
-    {
-        QByteArray content;
-        int version = 0;
-        bool exists = false;
-    };
-
-    void upload(Replica &replica, const QString &path, bool isThere, const QByteArray &bytes)
-    {
-        m_files[path] = {bytes, ++m_versions, isThere};
-        note(replica, path, m_files[path]);
-    }
-
-    void download(Replica &replica, const QString &path, const File &server)
-    {
-        if (!server.exists) {
-            QFile::remove(replica.file(path));
-        } else if (m_halves && m_dice.oneIn(6)) {
-            replica.halves[path] = server.content.left(server.content.size() / 2);
-            writeFile(replica.file(path), replica.halves[path]);
-            return;
-        } else {
-            writeFile(replica.file(path), server.content);
-        }
-        note(replica, path, server);
-    }
-
-    static void note(Replica &replica, const QString &path, const File &server)
-    {
-        replica.halves.remove(path);
-        replica.versions[path] = server.version;
-        if (server.exists)
-            replica.contents[path] = server.content;
-        else
-            replica.contents.remove(path);
-    }
-
-    QString copyName(const QString &path)
-    {
-        const QStringList forms{QStringLiteral(" (Ana's conflicted copy 2026-01-02 %1)"),
-                                QStringLiteral(".sync-conflict-20260102-%1-ABCDEFG"),
-                                QStringLiteral(" (%1)"), QStringLiteral("-LAPTOP-%1")};
-        const int form = m_dice.pick(forms.size());
-        const int number = (form == 1 ? 100000 : 1) + ++m_copies;
-        const QString mark = forms[form].arg(number);
-        const int dot = path.lastIndexOf(QLatin1Char('.'));
-        return dot < 0 ? path + mark : path.left(dot) + mark + path.mid(dot);
-    }
-
-    Dice &m_dice;
-    QMap<QString, File> m_files;
-    int m_versions = 0;
-    int m_copies = 0;
-    bool m_halves = true;
-};
 
 /// A safe on one computer, with the provider's folder there. Items are written as a safe writes
 /// them, but without opening it each time.
@@ -217,7 +59,7 @@ Items itemsOf(const Computer &computer)
 
 QString titleOf(const PMItemDocument &document)
 {
-    return document.publicFields.value(QStringLiteral("title")).toString();
+    return document.publicFields.value("title"_s).toString();
 }
 
 /// Three computers, a provider, and a user who does not look which of them has arrived where.
@@ -230,14 +72,14 @@ public:
     {
         for (int i = 0; i < 3; ++i) {
             Computer &computer = m_computers[i];
-            computer.safe = SafeFolder(QStringLiteral("%1/safe%2").arg(place).arg(i));
-            computer.replica.folder = QStringLiteral("%1/mirror%2").arg(place).arg(i);
+            computer.safe = SafeFolder("%1/safe%2"_s.arg(place).arg(i));
+            computer.replica.folder = "%1/mirror%2"_s.arg(place).arg(i);
             QDir().mkpath(computer.safe.root());
             if (!SyncMirror::enableSynchronization(*computer.files, computer.replica.folder))
                 qFatal("no mirror");
         }
         if (!GPMSafe(m_computers[0].environment(m_time))
-                 .init(m_computers[0].safe.root(), samplePassword, QStringLiteral("Mine"), {}))
+                 .init(m_computers[0].safe.root(), samplePassword, "Mine"_s, {}))
             qFatal("no safe");
         for (int i = 1; i < 3; ++i)
             writeSafe(m_computers[i].safe.root(), snapshot(m_computers[0].safe.root()));
@@ -264,7 +106,7 @@ public:
             break;
         case 6:
             if (m_dice.oneIn(10))
-                changePassword(computer, QStringLiteral("password %1").arg(++m_passwords));
+                changePassword(computer, "password %1"_s.arg(++m_passwords));
             break;
         case 7:
             if (m_dice.oneIn(10))
@@ -323,7 +165,7 @@ public:
         const QStringList there = list(0);
         QStringList missing;
         for (const QString &title : m_alive) {
-            const QRegularExpression line(QStringLiteral("^\\S+ %1($| \\()").arg(title));
+            const QRegularExpression line("^\\S+ %1($| \\()"_s.arg(title));
             if (there.filter(line).isEmpty())
                 missing += title;
         }
@@ -483,8 +325,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<unsigned>("seed");
         // More of them on demand.
-        const unsigned first =
-            qEnvironmentVariable("SYNC_FIRST_SEED", QStringLiteral("1")).toUInt();
+        const unsigned first = qEnvironmentVariable("SYNC_FIRST_SEED", "1"_s).toUInt();
         const unsigned count = qEnvironmentVariable("SYNC_SEEDS", QString::number(seeds)).toUInt();
         for (unsigned seed = first; seed < first + count; ++seed)
             QTest::addRow("seed %u", seed) << seed;
