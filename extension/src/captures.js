@@ -1,6 +1,6 @@
 import { isStillAsked } from './shapes.js';
 import { siteNameIn } from './page/words.js';
-import { belongsTo, siteOf } from './site.js';
+import { belongsTo, iconIn, siteOf } from './site.js';
 
 // A page that has arrived may still be drawing its form.
 const SETTLE = 1000;
@@ -12,7 +12,6 @@ const POPUP_TIME = 3000;
 const MOST_LOOKS = 5;
 // A user may be slow on the page between user name and password.
 const NAME_PATIENCE = 180000;
-const LONGEST_ICON_ADDRESS = 2048;
 const FAILED = 400;
 
 const isText = (value) => typeof value === 'string';
@@ -55,15 +54,15 @@ export function listenToLogins({ api, documents, timers, now, send, makeId }) {
     const former = captures.get(tab.id);
     if (former) decide(former, false);
     const capture = { captureId: makeId(), tabId: tab.id, site: siteOf(tab.url), shape, looks: 0, since: now() };
-    const icon = tab.favIconUrl;
+    const { icon, ...described } = submitted;
     const login = {
-      ...submitted,
+      ...described,
       // A frame's own title is seen by nobody.
       ...(frameId > 0 && { siteName: siteNameIn(tab.title ?? '') }),
-      login: submitted.login || nameFor(tab),
+      login: described.login || nameFor(tab),
       url: tab.url,
       domain: new URL(tab.url).hostname,
-      faviconUrl: isText(icon) && siteOf(icon) && icon.length <= LONGEST_ICON_ADDRESS ? icon : undefined,
+      faviconUrl: iconIn(tab.favIconUrl, icon),
     };
     if (!send('loginSubmitted', { captureId: capture.captureId, login })) return undefined;
     captures.set(tab.id, capture);

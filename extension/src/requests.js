@@ -1,10 +1,9 @@
-import { isWebAddress, losesEncryption, sameDocument, sameSite, siteOf } from './site.js';
+import { iconIn, isWebAddress, losesEncryption, sameDocument, sameSite, siteOf } from './site.js';
 
 const SETTLE = 3000;
 // For a page that was there before the request came.
 const GLANCE = 500;
 const MOST_HOPS = 5;
-const LONGEST_ICON_ADDRESS = 2048;
 
 /**
  * The program's requests for a page. An answer that cannot be given (the page did not load, the tab closed,
@@ -86,12 +85,12 @@ export function createRequests({ tabs, documents, logins, send }) {
     const echo = { reason, itemid, timestamp, openmode };
     if (typeof request.request_id === 'string') echo.request_id = request.request_id;
     if (reason === 'login' && itemid) logins.reported(echo, tabId, siteOf(page.tabUrl), page.password);
-    const icon = (await tabs.get(tabId))?.favIconUrl ?? page.icon;
+    const tab = await tabs.get(tabId);
     send(action, {
       ...echo,
       result: { docinfo: page.docinfo },
       tabUrl: page.tabUrl,
-      faviconUrl: isWebAddress(icon) && icon.length <= LONGEST_ICON_ADDRESS ? icon : undefined,
+      faviconUrl: iconIn(tab?.favIconUrl, page.icon),
     });
   }
 

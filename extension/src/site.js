@@ -16,6 +16,17 @@ export function isWebAddress(address) {
   return webUrl(address) !== undefined;
 }
 
+const LONGEST_ICON_ADDRESS = 2048;
+
+/**
+ * The first of the addresses that an icon can be fetched from. Firefox itself tells the picture and no address, and the
+ * program takes no drawings.
+ */
+export function iconIn(...addresses) {
+  const isUsable = (address) => isWebAddress(address) && address.length <= LONGEST_ICON_ADDRESS && !new URL(address).pathname.endsWith('.svg');
+  return addresses.find(isUsable);
+}
+
 /**
  * The site that an address belongs to: its registrable domain, or host and port where there is none
  * (IP literals, localhost, names inside a network). Undefined for anything but http and https.

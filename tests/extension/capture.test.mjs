@@ -175,6 +175,19 @@ test('the user name of a page before, and the one that a page keeps hidden', () 
   }
 });
 
+test('the icon that the page names is told', () => {
+  const [small, any, large] = ['sizes=16x16 href=/16.png', 'href=/i.png', 'sizes=64x64 href=/64.png'];
+  for (const [links, expected] of [
+    [['href=/i.svg', 'type=image/svg+xml href=/i', 'href="data:image/png,x"', small, large], '/64.png'], [[small], '/16.png'], [[any, large], '/i.png'], [[], undefined],
+  ]) {
+    const page = open(`${links.map((link) => `<link rel="shortcut icon" ${link}>`).join('')}${LOGIN}`);
+    page.type('[name=pw]', 'secret');
+    page.submit();
+    const { icon } = page.said()[0].submitted;
+    assert.equal(icon && new URL(icon).pathname, expected);
+  }
+});
+
 test('of what a form asks beside the login little is told', () => {
   const choices = '<select name=land><option>Malta</select>';
   const page = open(LOGIN.replace('<button>', `<input name=number autocomplete="billing cc-number" value=4111111111111111>${choices}<button>`));

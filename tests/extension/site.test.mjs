@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { describeFrame } from '../../extension/src/frame.js';
-import { belongsTo, losesEncryption, sameDocument, sameSite } from '../../extension/src/site.js';
+import { belongsTo, iconIn, losesEncryption, sameDocument, sameSite } from '../../extension/src/site.js';
 import { shippedList, suffixList } from '../../scripts/refresh-suffixes.mjs';
 
 const PAIRS = [
@@ -72,4 +72,11 @@ test('a frame whose surroundings the browser does not tell is one of no site', (
     assert.deepEqual(around, expected);
     assert.equal(belongsTo('https://shop.example/', around), !around.includes('null'));
   }
+});
+
+test('an icon is fetched from an address, not from a picture', () => {
+  const icon = 'https://shop.example/i.png';
+  assert.equal(iconIn('data:image/png;base64,AA==', icon), icon);
+  assert.equal(iconIn('https://shop.example/i.svg?v=1', icon), icon);
+  assert.equal(iconIn(undefined, `${icon}?${'x'.repeat(2048)}`), undefined);
 });

@@ -121,7 +121,7 @@ export function watchLogins({ connect, isTrusted = (event) => event.isTrusted, d
       if (isSecret(field)) return { ...entry, type: 'password', inputtype: 'password', value: field.value };
       return isName(field) ? { ...entry, value: field.value.slice(0, LONGEST) } : entry;
     });
-    return { title: clean(titleOf(doc)), siteName: siteTitle(doc), buttons: form?.buttons, fields: described };
+    return { title: clean(titleOf(doc)), siteName: siteTitle(doc), icon: report.icon, buttons: form?.buttons, fields: described };
   }
 
   // The second page of two often keeps the user name in a field that nobody sees.

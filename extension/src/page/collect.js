@@ -13,6 +13,7 @@ const WITH_VALUE = new Set(['select-one', 'select-multiple', 'radio']);
 const HEADINGS = 'h1, h2, h3, h4, h5, h6, legend, [role=heading]';
 const SENDING = 'button:not([type=button], [type=reset]), input[type=submit], input[type=image]';
 const MOST_BUTTONS = 4;
+const SMALLEST_ICON = 32;
 
 // FNV-1a: short, stable, and the same for the same field after the page drew it again.
 function hash(text) {
@@ -73,6 +74,14 @@ function describeForm(form, token, place) {
   return { formUid, title: formTitle(form), name, id, action, buttons: captions, fields: [] };
 }
 
+// A picture of the size that lists show, if the page has one.
+function iconOf(doc) {
+  const links = [...findAll(doc, 'link[rel~=icon], link[rel=apple-touch-icon]')];
+  const pictures = links.filter(({ href, type }) => /^https?:/.test(href) && !/svg/i.test(`${type} ${href}`));
+  const isLarge = (link) => !(parseInt(attr(link, 'sizes'), 10) < SMALLEST_ICON);
+  return (pictures.find(isLarge) ?? pictures[0])?.href;
+}
+
 /**
  * The fields of one document: {report: {title, url, icon, forms, elements}, fields}, where fields maps the opid of
  * each reported field to {field, formUid, gpmid, visible}.
@@ -105,7 +114,7 @@ function describe(doc, token, numberOf) {
     title: clean(doc.title),
     url: location.href,
     language: clean(attr(doc.documentElement, 'lang')),
-    icon: findAll(doc, 'link[rel~=icon]')[0]?.href,
+    icon: iconOf(doc),
     forms: [...forms.values()],
     elements: loose.fields,
   };
