@@ -309,9 +309,11 @@ TextMeaning meaningOf(const QString &text, TextSort sort, const QString &languag
 bool hasStrangeWords(const QString &text)
 {
     const Words words(text);
-    for (int i = 0; i < words.size(); ++i) {
+    for (int i = 0; i < words.size();) {
         if (isStrange(words, i))
             return true;
+        const auto *phrase = fieldBook().find(words, i, {});
+        i += phrase ? phrase->words.size() : 1;
     }
     return false;
 }

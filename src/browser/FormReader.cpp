@@ -1,10 +1,12 @@
 #include "FormReader.h"
 
 #include "AddressFields.h"
+#include "CardFields.h"
 #include "ChoiceButtons.h"
 #include "DateShape.h"
 #include "FieldOptions.h"
 #include "FieldPhrases.h"
+#include "FormSections.h"
 #include "LoginRoles.h"
 #include "OtherPeople.h"
 #include "SplitFields.h"
@@ -54,11 +56,12 @@ public:
             readNeighbours(i);
         for (int i = 0; i < m_fields.size(); ++i)
             readWholeName(i);
-        leaveLoneCards();
+        leaveLoneCards(m_fields, m_readings, m_kinds);
         leaveGiftCards(m_fields, m_readings, m_kinds);
+        leaveOtherPeople(m_fields, m_readings, m_kinds);
+        leaveOtherSections(m_fields, m_readings, m_kinds);
         leaveFurtherBirths(m_readings, m_kinds);
         leaveExtraStreets(m_kinds);
-        leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveFurtherNames(m_readings, m_kinds);
         leaveFurtherPhones(m_fields, m_kinds);
         leaveLoneName(m_readings, m_kinds);
@@ -113,8 +116,10 @@ private:
         if (asksForCode(m_around))
             return false;
         const bool isHeaded = captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
-        for (int i = 0; i < m_fields.size(); ++i) {
-            if (i != at && saysCard(i) && (isHeaded || qAbs(i - at) <= nearby))
+        const int from = isHeaded ? 0 : qMax(0, at - nearby);
+        const int to = isHeaded ? m_fields.size() : qMin(m_fields.size(), at + nearby + 1);
+        for (int i = from; i < to; ++i) {
+            if (i != at && saysCard(i))
                 return true;
         }
         return false;
@@ -153,7 +158,6 @@ private:
     void readNeighbours(int at);
     void readVague(int at);
     void readWholeName(int at);
-    void leaveLoneCards();
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
     bool isOfPhone(int at) const;
@@ -262,7 +266,7 @@ void Reader::readNeighbours(int at)
     const FieldKind before = kindAt(at - 1);
     switch (m_kinds.at(at)) {
     case FieldKind::HouseNumber:
-        if (!isNear(at, FieldKind::AddressLine1))
+        if (!isNear(at, FieldKind::AddressLine1) && !isNear(at, FieldKind::PostalCode))
             m_kinds[at] = FieldKind::Other;
         return;
     case FieldKind::AddressLine1:
@@ -331,23 +335,6 @@ void Reader::readWholeName(int at)
         m_kinds[at] = FieldKind::FullName;
 }
 
-/// A card's number that is asked for together with nothing else that a card shows, and with other
-/// things, is that of a customer's or a library's card.
-void Reader::leaveLoneCards()
-{
-    bool isAlone = true;
-    for (int i = 0; i < m_kinds.size(); ++i) {
-        if (isCardKind(kindAt(i)) && kindAt(i) != FieldKind::CardNumber)
-            return;
-        isAlone = isAlone && (kindAt(i) == FieldKind::CardNumber || !reading(i).hasText);
-    }
-    for (int i = 0; i < m_kinds.size() && !isAlone; ++i) {
-        if (kindAt(i) == FieldKind::CardNumber && !reading(i).isTold &&
-            captionKindOf(m_fields.at(i).heading()) != CaptionKind::Card)
-            m_kinds[i] = FieldKind::Other;
-    }
-}
-
 /// Whether a full name is that of a card: it says so or stands under its heading, or nothing else
 /// of a person is asked for.
 bool Reader::isHolder(int at) const
@@ -376,6 +363,11 @@ bool Reader::isOfPhone(int at) const
 /// "Name" alone: of the card's holder, the family's beside a first name, or the whole.
 FieldKind Reader::plainName(int at) const
 {
+    const auto isBeside = [&](FieldKind kind) {
+        return kindAt(at - 1) == kind || kindAt(at + 1) == kind;
+    };
+    if (isBeside(FieldKind::FirstName) && !isBeside(FieldKind::LastName))
+        return FieldKind::LastName;
     const bool first = has(FieldKind::FirstName);
     const bool last = has(FieldKind::LastName);
     if (first && last)

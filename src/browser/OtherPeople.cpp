@@ -170,30 +170,6 @@ void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind>
     }
 }
 
-void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
-                    QVector<FieldKind> &kinds)
-{
-    static const QVector<FieldKind> figures = {FieldKind::CardNumber, FieldKind::CardCode};
-    for (int from = 0; from < fields.size();) {
-        int to = from;
-        bool isOfCard = false;
-        bool hasFigures = false;
-        for (; to < fields.size() && fields.at(to).heading() == fields.at(from).heading(); ++to) {
-            hasFigures = hasFigures || figures.contains(kinds.at(to));
-            isOfCard = isOfCard || readings.at(to).isTold ||
-                       (isCardKind(kinds.at(to)) && !figures.contains(kinds.at(to)));
-        }
-        const bool isGift = hasFigures && !isOfCard &&
-                            meaningOf(fields.at(from).heading(), TextSort::Prose, QString())
-                                .names(FieldKind::Never);
-        for (int i = from; i < to && isGift; ++i) {
-            if (figures.contains(kinds.at(i)))
-                kinds[i] = FieldKind::Never;
-        }
-        from = to;
-    }
-}
-
 void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
 {
     const int most = addressesIn(kinds);

@@ -3,8 +3,10 @@
 WordSet::WordSet(const char *words)
     : m_words(QString::fromUtf8(words).split(QLatin1Char(' '), Qt::SkipEmptyParts))
 {
-    for (const QString &word : m_words)
+    for (const QString &word : m_words) {
         m_views.insert(QStringView(word));
+        m_initials |= initialOf(word);
+    }
 }
 
 // clang-format off
@@ -49,7 +51,7 @@ const WordSet &turningWords()
 {
     static const WordSet words("type types kind kinds format formats preference preferences frequency option options verification status source history rating "
                                "provider carrier consent permission alert alerts notification notifications updates settings visibility privacy lookup finder "
-                               "filter sort count total tax group category language currency design style level reason "
+                               "filter sort count total tax group category language currency design style level reason label nickname "
                                "art typ tipo tipos genre format formato clase choix eleccion formato forma вид тип формат способ rodzaj");
     return words;
 }
@@ -58,6 +60,21 @@ const WordSet &genitiveWords()
 {
     static const WordSet words("of the a an your my de del la el los las le les l d du des un une der des vom von dem den einer eines "
                                "di della dello dei degli do da dos das van het");
+    return words;
+}
+
+const WordSet &headingWords()
+{
+    static const WordSet words("you your yourself collect pickup me my i we us details detail information info data profile account contact personal basic general step checkout order "
+                               "shipping billing delivery payment pay address register registration sign login join create application apply applicant request booking reservation subscribe "
+                               "subscription donation donate customer member membership user form credentials identity checkout where who how welcome new required guest "
+                               "ihr ihre ihren du dein deine mein meine uns wir angaben daten informationen kontakt kontaktdaten personliche personlichen personalien adressdaten rechnungsadresse lieferadresse versandadresse "
+                               "rechnungsanschrift lieferanschrift anschrift adresse konto kundenkonto anmeldung registrierung registrieren bestellung bestellen kasse schritt zahlung zahlungsart lieferung versand antrag antragsteller formular "
+                               "besteller kunde neukunde mitglied mitgliedschaft bewerbung buchung spende willkommen "
+                               "vous vos votre nous mon mes coordonnees informations donnees personnelles compte commande commander livraison facturation paiement etape identite inscription adhesion formulaire adherent profil demande reservation don bienvenue "
+                               "usted tus sus tu su mi mis datos personales informacion cuenta pedido paso envio entrega facturacion pago registro inscripcion formulario solicitud solicitante reserva perfil contacto compra titular bienvenido "
+                               "ваши вы вас нас мои личные данные контактные контакты информация заказ заказа доставка оформление оплата шаг регистрация анкета профиль аккаунт заявка заявитель покупатель заказчик паспортные о себе "
+                               "dati ordine fatturazione spedizione registrazione pagamento gegevens bestelling betaling bezorging dane zamowienie wysylka platnosc rejestracja dados pedido entrega pagamento cadastro");
     return words;
 }
 

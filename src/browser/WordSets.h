@@ -12,11 +12,18 @@ public:
     WordSet(const WordSet &) = delete;
     WordSet &operator=(const WordSet &) = delete;
 
-    bool contains(QStringView word) const { return m_views.contains(word); }
+    bool contains(QStringView word) const
+    {
+        return !word.isEmpty() && (m_initials & initialOf(word)) != 0 && m_views.contains(word);
+    }
 
 private:
+    /// One bit for some letters: most words are told by it.
+    static quint64 initialOf(QStringView word) { return quint64(1) << (word.at(0).unicode() & 63); }
+
     QStringList m_words;
     QSet<QStringView> m_views;
+    quint64 m_initials = 0;
 };
 
 /// What may stand beside the name of a field without changing whose it is: "your", "billing".
@@ -34,6 +41,9 @@ const WordSet &genitiveWords();
 
 /// Whose part of a form is not the user's, when its heading has one of these.
 const WordSet &strangerWords();
+
+/// What stands above the part of a form that asks of the user.
+const WordSet &headingWords();
 
 /// Who receives something: the user, where nobody else is asked for.
 const WordSet &recipientWords();

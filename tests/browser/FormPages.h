@@ -8,6 +8,14 @@
 #include <QJsonDocument>
 #include <QStringList>
 
+/// A visible line of text of which only the label is known beside.
+inline FormField lineOf(const QString &label)
+{
+    return FormField({{QStringLiteral("type"), QStringLiteral("text")},
+                      {QStringLiteral("visible"), true},
+                      {QStringLiteral("label"), label}});
+}
+
 /// The values of all fields, in the order of the page; "-" for a field that receives none.
 inline QString valuesOf(const QVector<FilledForm> &forms, int count)
 {

@@ -1,0 +1,44 @@
+#include "CardFields.h"
+
+#include "FieldPhrases.h"
+
+void leaveLoneCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                    QVector<FieldKind> &kinds)
+{
+    bool isAlone = true;
+    for (int i = 0; i < kinds.size(); ++i) {
+        const bool isNumber = kinds.at(i) == FieldKind::CardNumber;
+        if (isCardKind(kinds.at(i)) && !isNumber)
+            return;
+        isAlone = isAlone && (isNumber || !readings.at(i).hasText);
+    }
+    for (int i = 0; i < kinds.size() && !isAlone; ++i) {
+        if (kinds.at(i) == FieldKind::CardNumber && !readings.at(i).isTold &&
+            captionKindOf(fields.at(i).heading()) != CaptionKind::Card)
+            kinds[i] = FieldKind::Other;
+    }
+}
+
+void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                    QVector<FieldKind> &kinds)
+{
+    static const QVector<FieldKind> figures = {FieldKind::CardNumber, FieldKind::CardCode};
+    for (int from = 0; from < fields.size();) {
+        int to = from;
+        bool isOfCard = false;
+        bool hasFigures = false;
+        for (; to < fields.size() && fields.at(to).heading() == fields.at(from).heading(); ++to) {
+            hasFigures = hasFigures || figures.contains(kinds.at(to));
+            isOfCard = isOfCard || readings.at(to).isTold ||
+                       (isCardKind(kinds.at(to)) && !figures.contains(kinds.at(to)));
+        }
+        const bool isGift = hasFigures && !isOfCard &&
+                            meaningOf(fields.at(from).heading(), TextSort::Prose, QString())
+                                .names(FieldKind::Never);
+        for (int i = from; i < to && isGift; ++i) {
+            if (figures.contains(kinds.at(i)))
+                kinds[i] = FieldKind::Never;
+        }
+        from = to;
+    }
+}

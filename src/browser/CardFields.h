@@ -1,0 +1,12 @@
+#pragma once
+
+#include "FieldReading.h"
+
+/// Leaves a card's number that is asked for together with nothing else that a card shows, and with
+/// other things: it is that of a customer's or a library's card.
+void leaveLoneCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                    QVector<FieldKind> &kinds);
+
+/// Leaves number and code of a gift card, by the heading above them.
+void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                    QVector<FieldKind> &kinds);

@@ -1,0 +1,140 @@
+#include "FormAnalysis.h"
+#include "FormPages.h"
+#include "ItemForms.h"
+
+#include <QTest>
+
+Q_DECLARE_METATYPE(FieldKind)
+
+class TestWholeForms : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void languages_data();
+    void languages();
+    void wholeForms_data();
+    void wholeForms();
+};
+
+// Words that mean something in some languages and something else in others.
+void TestWholeForms::languages_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<FieldKind>("kind");
+    const auto row = [](const char *language, const char *label, FieldKind kind) {
+        QTest::addRow("%s, %s", language, label)
+            << QString::fromUtf8(language) << QString::fromUtf8(label) << kind;
+    };
+    row("es-MX", "Nombre", FieldKind::FullName);
+    row("fr", "Nombre", FieldKind::Unknown);
+    row("de", "Handy", FieldKind::Phone);
+    row("en", "Handy", FieldKind::Unknown);
+    row("", "Handy", FieldKind::Phone);
+    row("pl", "Kraj", FieldKind::Country);
+    row("cs", "Kraj", FieldKind::State);
+    row("de-AT", "Firma", FieldKind::Company);
+    row("it", "Firma", FieldKind::Unknown);
+    row("pt", "Apelido", FieldKind::LastName);
+    row("pt-BR", "Apelido", FieldKind::Unknown);
+}
+
+void TestWholeForms::languages()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, language);
+    const auto around = FormSurroundings::of({}, {{QStringLiteral("language"), language}});
+    QTEST(
+        analyseForm({lineOf(QStringLiteral("E-Mail")), lineOf(label)}, around, FillAction::Identity)
+            .last(),
+        "kind");
+}
+
+// What the fields of a form receive together, of a person and of a card.
+void TestWholeForms::wholeForms_data()
+{
+    QTest::addColumn<QByteArray>("fields");
+    QTest::addColumn<QString>("values");
+    const auto row = [](const QByteArray &fields, const char *values) {
+        QTest::addRow("%s", fields.constData()) << fields << QString::fromUtf8(values);
+    };
+    const QByteArray list = R"({"type":"select-one","visible":false,"autocomplete":")";
+    const QByteArray lists = list + R"(cc-number"}, )" + list + R"(cc-csc"}, )" + list +
+                             R"(cc-exp"}, )" + list + R"(cc-exp-month"}, )" + list +
+                             R"(given-name"}, )" + list + R"(country"}, )" + list +
+                             R"(bday-year"}, )" + list + R"(tel-country-code"})";
+    row(lists, "-|-|-|-|-|-|-|-");
+    row(lists + R"(, {"label":"Card number"})", "-|-|-|09|-|-|-|-|4111111111111111");
+    row(lists + R"(, {"label":"Card number","visible":false})", "-|-|-|-|-|-|-|-|-");
+    row(lists + R"(, {"label":"City"})", "-|-|-|-|-|Germany|-|-|Kassel");
+    row(lists + R"(, {"label":"City","isFilled":true})", "-|-|-|-|-|-|-|-|-");
+    row(lists + R"(, {"autocomplete":"bday-day"})", "-|-|-|-|-|-|1990|-|01");
+    row(R"({"type":"select-one","autocomplete":"cc-csc"}, {"label":"Card number"})",
+        "-|4111111111111111");
+    const QByteArray buttons =
+        R"({"label":"Male","type":"radio","name":"g","value":"1","visible":false},
+           {"label":"Female","type":"radio","name":"g","value":"2","visible":false})";
+    row(buttons, "-|-");
+    row(buttons + R"(, {"label":"City"})", "-|2|Kassel");
+    row(R"({"label":"City"}, {"label":"City","visible":false}, )" + list + R"(country"})",
+        "Kassel|-|-");
+    row(R"({"label":"City"}, {"label":"State"}, )" + list + R"(address-level1"})",
+        "Kassel|Hesse|-");
+    // Where one is called, no gender.
+    const QByteArray phone = R"({"type":"radio","name":"p","value":")";
+    row(phone + R"(H"}, )" + phone + R"(M"}, )" + phone + R"(W"}, {"label":"City"})",
+        "-|-|-|Kassel");
+    row(R"({"label":"Phone"}, {"label":"Night phone"}, {"label":"Mobile phone"})",
+        "+49 561 12345|-|+49 170 999");
+    row(R"({"label":"Phone","textBefore":"+49"}, {"label":"E-mail","textAfter":"@example.com"})",
+        "561 12345|-");
+    const QByteArray card = R"({"label":"Card number"}, )";
+    row(card + R"({"label":"Expire month","placeholder":"Example: 04"})", "4111111111111111|09");
+    row(card + R"({"label":"Credit card expiration month","maxlength":2})", "4111111111111111|09");
+    row(card + R"({"name":"CreditCardInfo.ExpirationYear","maxlength":2})", "4111111111111111|29");
+    const QByteArray gift = R"(,"heading":"Redeem gift cards"})";
+    row(card + R"({"label":"Card number")" + gift + R"(, {"label":"Security code")" + gift,
+        "4111111111111111|-|-");
+    row(card + R"({"label":"Your name","heading":"Card details"}, {"label":"City"})",
+        "4111111111111111|Ana Maria Lind|Kassel");
+    // A caption that is written before the next field is that one's.
+    row(R"({"label":"City"}, {"textAfter":"Country"}, {"textBefore":"Country"})",
+        "Kassel|-|Germany");
+    row(R"({"label":"Vereinsart","name":"city"}, {"label":"E-mail"})", "-|ana@example.com");
+    // Who stands beside the user, and what.
+    row(R"({"label":"Pet's name","heading":"Your pet"}, {"label":"Date of birth","heading":"Your pet"},
+           {"label":"First name","heading":"You"}, {"label":"E-mail","heading":"You"})",
+        "-|-|Ana|ana@example.com");
+    row(R"({"label":"First name","heading":"Student"}, {"label":"First name","heading":"Guardian"},
+           {"label":"Street","heading":"Guardian"})",
+        "-|Ana|Lange Straße 12 b");
+    row(R"({"label":"Vorname","heading":"Ihre Daten"}, {"label":"Telefon","heading":"Ihre Daten"},
+           {"label":"Ort","heading":"Vermieter"}, {"label":"Firma","heading":"Vermieter"})",
+        "Ana|+49 561 12345|-|-");
+    row(R"({"label":"Name","heading":"Contact"}, {"label":"E-mail","heading":"Contact"},
+           {"label":"Name","heading":"Shipping"}, {"label":"City","heading":"Shipping"},
+           {"label":"City","heading":"Billing"})",
+        "Ana Lind|ana@example.com|Ana Lind|Kassel|Kassel");
+    row(R"({"label":"Nom"}, {"label":"Prénom"}, {"label":"Ville"}, {"label":"Nom"}, {"label":"Prénom"}, {"label":"Ville"})",
+        "Lind|Ana|Kassel|Lind|Ana|Kassel");
+    row(R"({"label":"Name","name":"firstname"}, {"label":"E-mail"})", "Ana Lind|ana@example.com");
+    row(R"({"label":"Phone","maxlength":3}, {"name":"phone_prefix","maxlength":3},
+           {"name":"phone_suffix","maxlength":5})",
+        "561|123|45");
+}
+
+void TestWholeForms::wholeForms()
+{
+    QFETCH(QByteArray, fields);
+    PMCreditCard card;
+    fillIn(card);
+    PMIdentity identity;
+    fillIn(identity);
+    const QJsonObject page = pageOf(fields);
+    QTEST(valuesOf(fillCardForms(page, card) + fillIdentityForms(page, identity), fieldsIn(page)),
+          "values");
+}
+
+QTEST_APPLESS_MAIN(TestWholeForms)
+#include "tst_wholeforms.moc"
