@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "GPMAppSettings.h"
 #include "StartArguments.h"
 
@@ -25,8 +26,8 @@ private:
     QString m_folder;
     const QDateTime m_now{QDate(2026, 11, 21), QTime(8, 9, 10, 123), Qt::UTC};
 
-    QString path() const { return m_folder + QStringLiteral("/config.json"); }
-    QString hidden() const { return m_temporary->filePath(QStringLiteral(".app")); }
+    QString path() const { return m_folder + "/config.json"_s; }
+    QString hidden() const { return m_temporary->filePath(".app"_s); }
     std::unique_ptr<GPMAppSettings> load() const
     {
         return std::make_unique<GPMAppSettings>(m_folder, hidden(), [this] { return m_now; });
@@ -48,7 +49,7 @@ private Q_SLOTS:
     void init()
     {
         m_temporary = std::make_unique<QTemporaryDir>();
-        m_folder = m_temporary->filePath(QStringLiteral("config/of/app"));
+        m_folder = m_temporary->filePath("config/of/app"_s);
     }
 
     void firstStart()
@@ -59,8 +60,7 @@ private Q_SLOTS:
         QCOMPARE(settings->backupCount(), 10);
         QCOMPARE(settings->inactivityInterval(), 3);
         QCOMPARE(settings->pluginHotkey(), QString());
-        QCOMPARE(settings->backupPath(),
-                 QDir::toNativeSeparators(hidden() + QStringLiteral("/backup")));
+        QCOMPARE(settings->backupPath(), QDir::toNativeSeparators(hidden() + "/backup"_s));
         QCOMPARE(settings->backupCheck(), m_now);
         QCOMPARE(settings->loginMode(), GPMAppSettings::FillAndSubmit);
         QCOMPARE(settings->pluginLoginMode(), GPMAppSettings::PluginFill);
@@ -71,10 +71,10 @@ private Q_SLOTS:
     {
         {
             const auto settings = load();
-            settings->setBackupPath(QStringLiteral("/b \"q\""));
-            settings->setRecentList({QStringLiteral("/one"), QStringLiteral("/two")});
+            settings->setBackupPath("/b \"q\""_s);
+            settings->setRecentList({"/one"_s, "/two"_s});
             settings->setLoginMode(GPMAppSettings::Fill);
-            settings->setInstanceId(QStringLiteral("0123"));
+            settings->setInstanceId("0123"_s);
             settings->setFirstStart(false);
             QVERIFY(settings->storeSettings());
         }
@@ -97,28 +97,28 @@ private Q_SLOTS:
             const auto settings = load();
             settings->setEnableBackup(false);
             settings->setBackupInterval(GPMAppSettings::Month);
-            settings->setBackupPath(m_temporary->filePath(QStringLiteral("new/backups")));
+            settings->setBackupPath(m_temporary->filePath("new/backups"_s));
             settings->setBackupCount(3);
             settings->setClearClipboard(false);
             settings->setAutolockScreensaver(false);
             settings->setAutolockInactive(false);
             settings->setInactivityInterval(15);
             settings->setCheckUpdates(false);
-            settings->setLockHotkey(QStringLiteral("Ctrl+Alt+L"));
-            settings->setPluginHotkey(QStringLiteral("Ctrl+Alt+P"));
+            settings->setLockHotkey("Ctrl+Alt+L"_s);
+            settings->setPluginHotkey("Ctrl+Alt+P"_s);
             settings->setLoginMode(GPMAppSettings::Fill);
             settings->setPluginOpenMode(GPMAppSettings::NewWindow);
             settings->setPluginLoginMode(GPMAppSettings::PluginFillAndSubmit);
-            settings->setLanguageFile(QStringLiteral("passwordmanager_de"));
+            settings->setLanguageFile("passwordmanager_de"_s);
             settings->setFirstStart(false);
             settings->setBackupCheck(m_now.addMSecs(1));
-            settings->setInstanceId(QStringLiteral("abc"));
-            settings->setRecentList({QStringLiteral("/x")});
+            settings->setInstanceId("abc"_s);
+            settings->setRecentList({"/x"_s});
             QVERIFY(settings->storeSettings());
         }
         const QByteArray stored = content();
         const auto settings = load();
-        QVERIFY(QDir(m_temporary->filePath(QStringLiteral("new/backups"))).exists());
+        QVERIFY(QDir(m_temporary->filePath("new/backups"_s)).exists());
         QCOMPARE(settings->pluginOpenMode(), GPMAppSettings::NewWindow);
         QCOMPARE(settings->backupCheck(), m_now.addMSecs(1));
         QVERIFY(settings->storeSettings());
@@ -195,7 +195,7 @@ private Q_SLOTS:
 
     void aFolderThatCannotBeMadeIsReported()
     {
-        QFile blocked(m_temporary->filePath(QStringLiteral("config")));
+        QFile blocked(m_temporary->filePath("config"_s));
         QVERIFY(blocked.open(QIODevice::WriteOnly));
         QVERIFY(!load()->storeSettings());
         QCOMPARE(blocked.size(), 0);

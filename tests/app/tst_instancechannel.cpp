@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "InstanceChannel.h"
 
 #include <QFile>
@@ -21,13 +22,12 @@ private Q_SLOTS:
         QSignalSpy messages(&first, &InstanceChannel::messageReceived);
         for (int i = 0; i < 2; ++i) {
             QProcess second;
-            second.start(QCoreApplication::applicationFilePath(),
-                         {QStringLiteral("--second"), folder.path()});
+            second.start(QCoreApplication::applicationFilePath(), {"--second"_s, folder.path()});
             QTRY_COMPARE(second.state(), QProcess::NotRunning);
             QCOMPARE(second.exitCode(), 0);
         }
         QCOMPARE(messages.count(), 2);
-        QCOMPARE(messages.at(0).at(0).toString(), QStringLiteral("Some Ünï name"));
+        QCOMPARE(messages.at(0).at(0).toString(), "Some Ünï name"_s);
     }
 
     void anInstanceThatDoesNotAnswer()
@@ -38,7 +38,7 @@ private Q_SLOTS:
         // This loop does not run meanwhile.
         QProcess second;
         second.start(QCoreApplication::applicationFilePath(),
-                     {QStringLiteral("--second"), folder.path(), QStringLiteral("50")});
+                     {"--second"_s, folder.path(), "50"_s});
         QVERIFY(second.waitForFinished());
         QCOMPARE(second.exitCode(), 1);
     }
@@ -47,8 +47,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         QProcess crashing;
-        crashing.start(QCoreApplication::applicationFilePath(),
-                       {QStringLiteral("--hold"), folder.path()});
+        crashing.start(QCoreApplication::applicationFilePath(), {"--hold"_s, folder.path()});
         QVERIFY(crashing.waitForReadyRead());
         InstanceChannel next;
         QVERIFY(!next.acquire(folder.path()));
@@ -62,10 +61,10 @@ private Q_SLOTS:
     void aFolderThatCannotBeWrittenToHasNoOther()
     {
         const QTemporaryDir folder;
-        QFile blocked(folder.filePath(QStringLiteral("blocked")));
+        QFile blocked(folder.filePath("blocked"_s));
         QVERIFY(blocked.open(QIODevice::WriteOnly));
         InstanceChannel first;
-        QVERIFY(first.acquire(blocked.fileName() + QStringLiteral("/config")));
+        QVERIFY(first.acquire(blocked.fileName() + "/config"_s));
     }
 };
 
@@ -77,8 +76,8 @@ int main(int argc, char **argv)
     if (arguments.value(1) == QLatin1String("--second")) {
         if (channel.acquire(arguments.value(2)))
             return 2;
-        const int timeout = arguments.value(3, QStringLiteral("5000")).toInt();
-        return channel.send(QStringLiteral("Some Ünï name"), timeout) ? 0 : 1;
+        const int timeout = arguments.value(3, "5000"_s).toInt();
+        return channel.send("Some Ünï name"_s, timeout) ? 0 : 1;
     }
     if (arguments.value(1) == QLatin1String("--hold")) {
         if (!channel.acquire(arguments.value(2)))

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "Logger.h"
 #include "MessageHandler.h"
 
@@ -27,27 +28,25 @@ private Q_SLOTS:
     {
         const QTemporaryDir home;
         QDateTime now(QDate(2026, 11, 13), QTime(23, 59, 59));
-        Logger logger(home.path(), QStringLiteral("Some App"), QStringLiteral("1.1.32"),
-                      QStringLiteral("Windows 10"), [&now] { return now; });
-        const QDir folder(home.filePath(QStringLiteral(".Some App/log")));
+        Logger logger(home.path(), "Some App"_s, "1.1.32"_s, "Windows 10"_s,
+                      [&now] { return now; });
+        const QDir folder(home.filePath(".Some App/log"_s));
         QVERIFY(!folder.exists());
-        logger.write(QStringLiteral("late %1 ünï"), Logger::Warning);
+        logger.write("late %1 ünï"_s, Logger::Warning);
         now = now.addSecs(1);
-        logger.write(QStringLiteral("early"), Logger::Debug);
+        logger.write("early"_s, Logger::Debug);
         QCOMPARE(folder.entryList(QDir::Files),
-                 QStringList(
-                     {QStringLiteral("log_2026_11_13.txt"), QStringLiteral("log_2026_11_14.txt")}));
-        QCOMPARE(contentOf(folder.filePath(QStringLiteral("log_2026_11_13.txt"))),
+                 QStringList({"log_2026_11_13.txt"_s, "log_2026_11_14.txt"_s}));
+        QCOMPARE(contentOf(folder.filePath("log_2026_11_13.txt"_s)),
                  QByteArray("[1.1.32][Windows 10][32bit][23:59:59] WARNING: late %1 ünï\n"));
-        QCOMPARE(contentOf(folder.filePath(QStringLiteral("log_2026_11_14.txt"))),
+        QCOMPARE(contentOf(folder.filePath("log_2026_11_14.txt"_s)),
                  QByteArray("[1.1.32][Windows 10][32bit][00:00:00] DEBUG: early\n"));
     }
 
     void linesOfTwoThreadsStayWhole()
     {
         const QTemporaryDir home;
-        Logger logger(home.path(), QStringLiteral("App"), QStringLiteral("1"),
-                      QStringLiteral("OS"));
+        Logger logger(home.path(), "App"_s, "1"_s, "OS"_s);
         const auto writeMany = [&logger](QChar letter) {
             for (int i = 0; i < 200; ++i)
                 logger.write(QString(100, letter), Logger::Warning);
@@ -65,11 +64,10 @@ private Q_SLOTS:
     void aHomeThatCannotBeWrittenToIsNoDisaster()
     {
         const QTemporaryDir home;
-        QFile blocked(home.filePath(QStringLiteral(".App")));
+        QFile blocked(home.filePath(".App"_s));
         QVERIFY(blocked.open(QIODevice::WriteOnly));
-        Logger logger(home.path(), QStringLiteral("App"), QStringLiteral("1"),
-                      QStringLiteral("OS"));
-        logger.write(QStringLiteral("lost"), Logger::Warning);
+        Logger logger(home.path(), "App"_s, "1"_s, "OS"_s);
+        logger.write("lost"_s, Logger::Warning);
         QCOMPARE(blocked.size(), 0);
     }
 
@@ -78,11 +76,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("type");
         QTest::addColumn<bool>("logged");
         QTest::addColumn<QString>("start");
-        QTest::newRow("debug") << int(QtDebugMsg) << false << QStringLiteral("Debug: ");
-        QTest::newRow("info") << int(QtInfoMsg) << false << QStringLiteral("Info: ");
-        QTest::newRow("warning") << int(QtWarningMsg) << true << QStringLiteral("Warning: ");
-        QTest::newRow("critical") << int(QtCriticalMsg) << true << QStringLiteral("Critical: ");
-        QTest::newRow("fatal") << int(QtFatalMsg) << true << QStringLiteral("Fatal: ");
+        QTest::newRow("debug") << int(QtDebugMsg) << false << "Debug: "_s;
+        QTest::newRow("info") << int(QtInfoMsg) << false << "Info: "_s;
+        QTest::newRow("warning") << int(QtWarningMsg) << true << "Warning: "_s;
+        QTest::newRow("critical") << int(QtCriticalMsg) << true << "Critical: "_s;
+        QTest::newRow("fatal") << int(QtFatalMsg) << true << "Fatal: "_s;
     }
     void messages()
     {
@@ -92,10 +90,9 @@ private Q_SLOTS:
         const auto messageType = static_cast<QtMsgType>(type);
         QCOMPARE(isLogged(messageType), logged);
         const QMessageLogContext context("a/b.cpp", 12, "void f(int)", "default");
-        QCOMPARE(formatMessage(messageType, context, QStringLiteral("says %2")),
-                 start + QStringLiteral("says %2 (a/b.cpp:12, void f(int))"));
-        QCOMPARE(formatMessage(messageType, QMessageLogContext(), QStringLiteral("x")),
-                 start + QStringLiteral("x (:0, )"));
+        QCOMPARE(formatMessage(messageType, context, "says %2"_s),
+                 start + "says %2 (a/b.cpp:12, void f(int))"_s);
+        QCOMPARE(formatMessage(messageType, QMessageLogContext(), "x"_s), start + "x (:0, )"_s);
     }
 
     void windowsVersions_data()

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "SecretBytes.h"
 
 #include <QtTest>
@@ -19,7 +20,7 @@ class TestSecretBytes : public QObject
 private Q_SLOTS:
     void holdsTheBytesAndMovesThem()
     {
-        const QString text = QString::fromUtf8("pä55 🔑") + QChar(0) + QLatin1Char('x');
+        const QString text = "pä55 🔑"_s + QChar(0) + QLatin1Char('x');
         SecretBytes secret = SecretBytes::fromText(text);
         QCOMPARE(secret.view(), text.toUtf8());
         const char *address = secret.data();
@@ -79,7 +80,7 @@ private:
     /// What the kernel says of the pages at an address.
     static QByteArray flagsOf(const void *address)
     {
-        QFile maps(QStringLiteral("/proc/self/smaps"));
+        QFile maps("/proc/self/smaps"_s);
         if (!maps.open(QIODevice::ReadOnly))
             return {};
         const auto place = reinterpret_cast<quintptr>(address);

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "FillTest.h"
 
 /// Answers that are odd, late or not for us; and the password that waits for its page.

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "FillTest.h"
 
 /// What is asked of pages, and what is filled into them.

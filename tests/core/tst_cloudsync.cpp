@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "CloudComputer.h"
 
 class TestCloudSync : public QObject

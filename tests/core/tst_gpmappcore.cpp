@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "CoreTest.h"
 
 class TestGpmAppCore : public CoreTest

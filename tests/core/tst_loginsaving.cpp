@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "LoginSaving.h"
 #include "PMLogin.h"
 
@@ -8,26 +9,26 @@
 
 namespace {
 
-const QString caller = QStringLiteral("{1}");
-const QString password = QStringLiteral("pw");
+const QString caller = "{1}"_s;
+const QString password = "pw"_s;
 
 QJsonObject typed(const char *site, const char *user, const char *secret)
 {
-    return {{QStringLiteral("title"), QStringLiteral("The shop")},
-            {QStringLiteral("url"), QLatin1String(site)},
-            {QStringLiteral("login"), QLatin1String(user)},
-            {QStringLiteral("password"), QLatin1String(secret)}};
+    return {{"title"_s, "The shop"_s},
+            {"url"_s, QLatin1String(site)},
+            {"login"_s, QLatin1String(user)},
+            {"password"_s, QLatin1String(secret)}};
 }
 
 QJsonObject capture(int id)
 {
-    return {{QStringLiteral("captureId"), QString::number(id)}};
+    return {{"captureId"_s, QString::number(id)}};
 }
 
 QJsonObject submitted(int id, const QJsonObject &login)
 {
     QJsonObject payload = capture(id);
-    payload.insert(QStringLiteral("login"), login);
+    payload.insert("login"_s, login);
     return payload;
 }
 
@@ -50,8 +51,8 @@ private:
     QString addLogin(const char *user, const char *secret)
     {
         auto login = std::make_unique<PMLogin>();
-        login->setTitle(QStringLiteral("Shop"));
-        login->setUrl(QStringLiteral("https://shop.example"));
+        login->setTitle("Shop"_s);
+        login->setUrl("https://shop.example"_s);
         login->setLogin(QLatin1String(user));
         login->setPassword(QLatin1String(secret));
         return m_items->add(std::move(login))->id();
@@ -68,7 +69,7 @@ private:
     {
         const LoginOffer *current = m_saving->offer();
         if (!current)
-            return QStringLiteral("none");
+            return "none"_s;
         static const char *const states[] = {"locked", "decided", "known"};
         return QLatin1String(states[current->state]) + QLatin1Char(' ') + current->request.host() +
                QLatin1Char(' ') + current->request.login.password;
@@ -79,7 +80,7 @@ private:
         GPMSafe safe;
         QStringList lines;
         if (!safe.open(m_safe->folder()) || !safe.unlock(password))
-            return {QStringLiteral("does not open")};
+            return {"does not open"_s};
         for (const PMListItem *item : safe.items()) {
             const auto *login = qobject_cast<const PMLogin *>(item);
             lines.append(QStringList{login->title(), login->url(), login->login(),
@@ -95,14 +96,14 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_safe = std::make_shared<GPMSafe>();
-        const QString folder = m_folder->filePath(QStringLiteral("safe"));
+        const QString folder = m_folder->filePath("safe"_s);
         QVERIFY(QDir().mkpath(folder));
-        QVERIFY(m_safe->init(folder, password, QStringLiteral("Mine"), {}));
+        QVERIFY(m_safe->init(folder, password, "Mine"_s, {}));
         m_items = std::make_unique<ItemChanges>([this] { return m_safe; });
         m_pages = std::make_unique<PageLogins>();
         m_pages->setSafe(m_safe);
         m_saving = std::make_unique<LoginSaving>([this] { return m_safe; }, *m_items, *m_pages,
-                                                 m_folder->filePath(QStringLiteral("sites.json")),
+                                                 m_folder->filePath("sites.json"_s),
                                                  [this] { return m_now; });
     }
 
@@ -110,18 +111,18 @@ private Q_SLOTS:
     void submissions()
     {
         submit(1, typed(shop, "ana", "one"));
-        QCOMPARE(offered(), QStringLiteral("none"));
-        m_saving->saveLogin(QStringLiteral("{2}"), capture(1)); // not the one that reported it
-        QCOMPARE(offered(), QStringLiteral("none"));
+        QCOMPARE(offered(), "none"_s);
+        m_saving->saveLogin("{2}"_s, capture(1)); // not the one that reported it
+        QCOMPARE(offered(), "none"_s);
         QJsonObject accepted = capture(1);
-        accepted.insert(QStringLiteral("posy"), 7);
-        accepted.insert(QStringLiteral("width"), 800);
+        accepted.insert("posy"_s, 7);
+        accepted.insert("width"_s, 800);
         m_saving->saveLogin(caller, accepted);
-        QCOMPARE(offered(), QStringLiteral("decided shop.example one"));
+        QCOMPARE(offered(), "decided shop.example one"_s);
         QCOMPARE(m_saving->offer()->request.place, QRect(0, 7, 800, 0));
         m_saving->decline();
         m_saving->saveLogin(caller, capture(1));
-        QCOMPARE(offered(), QStringLiteral("none"));
+        QCOMPARE(offered(), "none"_s);
 
         submit(2, typed(shop, "ana", "two"));
         m_saving->dropSubmitted(caller, capture(2));
@@ -132,11 +133,11 @@ private Q_SLOTS:
         for (int id = 10; id < 19; ++id)
             submit(id, typed(shop, "ana", "many"));
         m_saving->saveLogin(caller, capture(10)); // the first of nine
-        QCOMPARE(offered(), QStringLiteral("none"));
+        QCOMPARE(offered(), "none"_s);
         submit(20, typed(shop, "ana", "locked"));
         m_saving->clear();
         m_saving->saveLogin(caller, capture(20));
-        QCOMPARE(offered(), QStringLiteral("none"));
+        QCOMPARE(offered(), "none"_s);
     }
 
     void oneOfferASite()
@@ -147,13 +148,13 @@ private Q_SLOTS:
             offer("https://bank.example/", "ana", QByteArray::number(i).constData());
         QCOMPARE(changed.count(), 1);
         offer("https://www.shop.example/", "ana", "two");
-        QCOMPARE(offered(), QStringLiteral("decided www.shop.example two"));
+        QCOMPARE(offered(), "decided www.shop.example two"_s);
         m_saving->decline();
-        QCOMPARE(offered(), QStringLiteral("decided bank.example 19"));
+        QCOMPARE(offered(), "decided bank.example 19"_s);
         m_saving->decline();
-        QCOMPARE(offered(), QStringLiteral("none"));
+        QCOMPARE(offered(), "none"_s);
         offer("https://bank.example/", "ana", "19"); // declined
-        QCOMPARE(offered(), QStringLiteral("none"));
+        QCOMPARE(offered(), "none"_s);
         for (const char *site : {"https://a.example", "https://b.example", "https://c.example",
                                  "https://d.example", "https://e.example", "https://f.example"})
             offer(site, "ana", "x");
@@ -169,7 +170,7 @@ private Q_SLOTS:
         QVERIFY(!m_saving->offer());
         offer("https://my.shop.example", "bob", "two");
         submit(1, typed(shop, "bob", "two"));
-        QVERIFY(m_saving->includeAgain(QStringLiteral("shop.example")));
+        QVERIFY(m_saving->includeAgain("shop.example"_s));
         m_saving->saveLogin(caller, capture(1)); // was not even kept
         QVERIFY(!m_saving->offer());
         offer(shop, "bob", "two");
@@ -183,12 +184,11 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtDebugMsg,
                              "Try favicon download: \"https://shop.example/favicon.ico\"");
         offer(shop, "ana", "one");
-        QVERIFY(m_saving->save({{}, {}, QStringLiteral("ana"), QStringLiteral("one")}));
+        QVERIFY(m_saving->save({{}, {}, "ana"_s, "one"_s}));
         QVERIFY(done.wait());
-        QCOMPARE(stored(),
-                 QStringList{QStringLiteral("The shop|https://shop.example/in|ana|one|ana")});
+        QCOMPARE(stored(), QStringList{"The shop|https://shop.example/in|ana|one|ana"_s});
         QCOMPARE(icon.count(), 1);
-        QCOMPARE(icon.at(0).at(0).toString(), QStringLiteral("shop.example"));
+        QCOMPARE(icon.at(0).at(0).toString(), "shop.example"_s);
         offer(shop, "ana", "one");
         QVERIFY(!m_saving->offer());
     }
@@ -201,16 +201,16 @@ private Q_SLOTS:
         QString title;
         QMap<QString, QString> candidates;
         m_saving->fillSaveLoginParams(title, candidates);
-        QCOMPARE(title, QStringLiteral("The shop"));
+        QCOMPARE(title, "The shop"_s);
         QCOMPARE(candidates.values(), m_saving->offer()->decision.candidates.values());
-        QCOMPARE(candidates.value(bob), QStringLiteral("bob"));
+        QCOMPARE(candidates.value(bob), "bob"_s);
         QSignalSpy done(m_saving.get(), &LoginSaving::saved);
-        QVERIFY(m_saving->save({bob, {}, {}, QStringLiteral("new")}));
+        QVERIFY(m_saving->save({bob, {}, {}, "new"_s}));
         QVERIFY(done.wait());
         const QStringList now = stored();
         QCOMPARE(now.size(), 3);
-        QCOMPARE(now.at(1), QStringLiteral("Shop|https://shop.example|ana|one|"));
-        QCOMPARE(now.at(2), QStringLiteral("Shop|https://shop.example|bob|new|bob"));
+        QCOMPARE(now.at(1), "Shop|https://shop.example|ana|one|"_s);
+        QCOMPARE(now.at(2), "Shop|https://shop.example|bob|new|bob"_s);
         // What it was lies in the trash.
         QVERIFY(now.at(0).startsWith(QLatin1String("Shop (former password, until ")));
         QVERIFY(now.at(0).endsWith(QLatin1String("|bob|two|")));
@@ -218,14 +218,14 @@ private Q_SLOTS:
 
         offer(shop, "ana", "newer");
         m_items->setDeleted({ana}, true);
-        QVERIFY(!m_saving->save({ana, {}, {}, QStringLiteral("newer")}));
+        QVERIFY(!m_saving->save({ana, {}, {}, "newer"_s}));
         QCOMPARE(m_saving->offer()->decision.action, SaveLoginOffer::Add);
     }
 
     void aFormerPasswordTakenOutOfTheTrashIsTheUsersOwn()
     {
         const QString ana = addLogin("ana", "0");
-        m_safe->item(ana)->setRefs({QStringLiteral("attachment")});
+        m_safe->item(ana)->setRefs({"attachment"_s});
         QSignalSpy done(m_saving.get(), &LoginSaving::saved);
         const auto update = [&](int password) {
             const QByteArray text = QByteArray::number(password);
@@ -259,14 +259,13 @@ private Q_SLOTS:
             QVERIFY(update(i));
         // The same password with another name for the user is no loss.
         offer(shop, "eve", "7");
-        QVERIFY(m_saving->save({ana, {}, QStringLiteral("eve"), QStringLiteral("7")}));
+        QVERIFY(m_saving->save({ana, {}, "eve"_s, "7"_s}));
         QVERIFY(done.wait());
         QStringList kept;
         for (const QString &id : m_items->trashedIds())
             kept.append(qobject_cast<PMLogin *>(m_safe->item(id))->password());
         kept.sort();
-        QCOMPARE(kept, (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"),
-                                    QStringLiteral("5"), QStringLiteral("6")}));
+        QCOMPARE(kept, (QStringList{"2"_s, "3"_s, "4"_s, "5"_s, "6"_s}));
     }
 
     void aSiteThatIsDeclinedOftenIsQuiet()
@@ -278,25 +277,25 @@ private Q_SLOTS:
             m_saving->decline();
         }
         offer(shop, "ana", "new");
-        QCOMPARE(offered(), QStringLiteral("none"));
+        QCOMPARE(offered(), "none"_s);
         offer("https://other.example", "ana", "new");
-        QCOMPARE(offered(), QStringLiteral("decided other.example new"));
+        QCOMPARE(offered(), "decided other.example new"_s);
         m_saving->clear();
         offer(shop, "ana", "new");
-        QCOMPARE(offered(), QStringLiteral("decided shop.example new"));
+        QCOMPARE(offered(), "decided shop.example new"_s);
     }
 
     void offersWhileOneIsBeingWritten()
     {
         QSignalSpy done(m_saving.get(), &LoginSaving::saved);
         offer(shop, "ana", "one");
-        QVERIFY(m_saving->save({{}, {}, QStringLiteral("ana"), QStringLiteral("one")}));
+        QVERIFY(m_saving->save({{}, {}, "ana"_s, "one"_s}));
         offer(shop, "bob", "w");
         offer(shop, "bob", "x");
-        QCOMPARE(offered(), QStringLiteral("decided shop.example one"));
+        QCOMPARE(offered(), "decided shop.example one"_s);
         QVERIFY(m_saving->isSaving());
         QVERIFY(done.wait());
-        QCOMPARE(offered(), QStringLiteral("decided shop.example x"));
+        QCOMPARE(offered(), "decided shop.example x"_s);
         QCOMPARE(stored().size(), 1);
         m_saving->decline();
         QVERIFY(!m_saving->offer());
@@ -306,14 +305,14 @@ private Q_SLOTS:
     void aLoginThatGoesWhileItIsBeingWritten()
     {
         offer(shop, "ana", "one");
-        QVERIFY(m_saving->save({{}, {}, QStringLiteral("ana"), QStringLiteral("one")}));
+        QVERIFY(m_saving->save({{}, {}, "ana"_s, "one"_s}));
         QSignalSpy changed(m_saving.get(), &LoginSaving::offerChanged);
         const QStringList all{m_safe->items().front()->id()};
         m_items->setDeleted(all, true);
         m_items->purge(all);
         QVERIFY(changed.wait());
         QVERIFY(!m_saving->isSaving());
-        QCOMPARE(offered(), QStringLiteral("decided shop.example one"));
+        QCOMPARE(offered(), "decided shop.example one"_s);
     }
 
     void whatWasFilledIsNotOffered()
@@ -333,15 +332,15 @@ private Q_SLOTS:
         m_safe->lock();
         offer(shop, "ana", "one");
         offer("https://bank.example", "ana", "two");
-        QCOMPARE(offered(), QStringLiteral("locked shop.example one"));
+        QCOMPARE(offered(), "locked shop.example one"_s);
         m_now = m_now.addSecs(59);
         m_saving->setUnlocking(true);
         m_now = m_now.addSecs(30);
         QVERIFY(m_safe->unlock(password));
         m_saving->decideAgain();
-        QCOMPARE(offered(), QStringLiteral("known shop.example one"));
+        QCOMPARE(offered(), "known shop.example one"_s);
         m_saving->decline();
-        QCOMPARE(offered(), QStringLiteral("decided bank.example two"));
+        QCOMPARE(offered(), "decided bank.example two"_s);
 
         m_saving->clear();
         m_safe->lock();
@@ -360,16 +359,16 @@ private Q_SLOTS:
         offer(shop, "ana", "one");
         QSignalSpy failed(m_saving.get(), &LoginSaving::saveFailed);
         QSignalSpy done(m_saving.get(), &LoginSaving::saved);
-        const QString content = m_safe->folder() + QStringLiteral("/content");
-        QVERIFY(QDir().rename(content, content + QStringLiteral(".away")));
+        const QString content = m_safe->folder() + "/content"_s;
+        QVERIFY(QDir().rename(content, content + ".away"_s));
         QFile inTheWay(content);
         QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        const LoginChoice choice{{}, {}, QStringLiteral("ana"), QStringLiteral("one")};
+        const LoginChoice choice{{}, {}, "ana"_s, "one"_s};
         QVERIFY(m_saving->save(choice));
         QVERIFY(failed.wait());
         QVERIFY(m_saving->offer());
         QVERIFY(inTheWay.remove());
-        QVERIFY(QDir().rename(content + QStringLiteral(".away"), content));
+        QVERIFY(QDir().rename(content + ".away"_s, content));
         QVERIFY(m_saving->save(choice));
         QVERIFY(done.wait());
         QCOMPARE(stored().size(), 1);

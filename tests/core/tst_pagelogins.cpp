@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "ExtensionClient.h"
 #include "GPMAppCore.h"
 #include "PMLogin.h"
@@ -8,7 +9,7 @@
 
 namespace {
 
-const QString password = QStringLiteral("pw");
+const QString password = "pw"_s;
 
 quint16 freePort()
 {
@@ -19,13 +20,14 @@ quint16 freePort()
 
 GPMAppCore::Places placesIn(const QTemporaryDir &folder)
 {
-    return {folder.filePath(QStringLiteral("config")), folder.filePath(QStringLiteral("data")),
-            folder.filePath(QStringLiteral("hidden")), freePort()};
+    return {folder.filePath("config"_s), folder.filePath("data"_s), folder.filePath("hidden"_s),
+            freePort()};
 }
 
 } // namespace
 
 /// What belongs to a page, and what the extension hears of it.
+
 class TestPageLogins : public QObject
 {
     Q_OBJECT
@@ -57,7 +59,7 @@ private Q_SLOTS:
     {
         m_core = std::make_unique<GPMAppCore>(m_places);
         m_core->startServer();
-        QVERIFY(m_core->createSafe(QStringLiteral("Mine"), password, QStringLiteral("h")));
+        QVERIFY(m_core->createSafe("Mine"_s, password, "h"_s));
     }
     void cleanup() { m_core.reset(); }
 
@@ -81,16 +83,15 @@ private Q_SLOTS:
     }
     void loginsOfAPage()
     {
-        add(QStringLiteral("Zoo"), QStringLiteral("http://firm.example/"));
-        add(QStringLiteral("Apex"), QStringLiteral("https://FIRM.example."));
-        add(QStringLiteral("Mail"), QStringLiteral("https://mail.firm.example/login"));
-        add(QStringLiteral("Shop"), QStringLiteral("https://shop.firm.example/login"));
-        add(QStringLiteral("Pages"), QStringLiteral("https://a.github.io"));
-        add(QStringLiteral("Router"), QStringLiteral("https://127.0.0.1:8443"));
-        add(QStringLiteral("Nowhere"), QString());
-        add(QStringLiteral("Card"), QStringLiteral("https://firm.example"), PMListItem::CreditCard);
-        const auto *gone =
-            add(QStringLiteral("Gone"), QStringLiteral("https://mail.firm.example/"));
+        add("Zoo"_s, "http://firm.example/"_s);
+        add("Apex"_s, "https://FIRM.example."_s);
+        add("Mail"_s, "https://mail.firm.example/login"_s);
+        add("Shop"_s, "https://shop.firm.example/login"_s);
+        add("Pages"_s, "https://a.github.io"_s);
+        add("Router"_s, "https://127.0.0.1:8443"_s);
+        add("Nowhere"_s, QString());
+        add("Card"_s, "https://firm.example"_s, PMListItem::CreditCard);
+        const auto *gone = add("Gone"_s, "https://mail.firm.example/"_s);
         m_core->modelItemDeleted(gone->id());
         QFETCH(QString, page);
         QTEST(titlesFor(page), "titles");
@@ -105,24 +106,24 @@ private Q_SLOTS:
 
     void followsWhatIsEdited()
     {
-        const QString page = QStringLiteral("https://firm.example/");
-        PMListItem *item = add(QStringLiteral("One"), page);
-        QCOMPARE(titlesFor(page), QStringLiteral("One"));
-        item->setUrl(QStringLiteral("https://other.example/"));
+        const QString page = "https://firm.example/"_s;
+        PMListItem *item = add("One"_s, page);
+        QCOMPARE(titlesFor(page), "One"_s);
+        item->setUrl("https://other.example/"_s);
         QCOMPARE(titlesFor(page), QString());
-        QCOMPARE(titlesFor(item->url()), QStringLiteral("One"));
+        QCOMPARE(titlesFor(item->url()), "One"_s);
         m_core->modelItemDeleted(item->id());
         QCOMPARE(titlesFor(item->url()), QString());
         m_core->modelItemRestored(item->id());
-        QCOMPARE(titlesFor(item->url()), QStringLiteral("One"));
+        QCOMPARE(titlesFor(item->url()), "One"_s);
         m_core->modelItemPurged(item->id());
-        QCOMPARE(titlesFor(QStringLiteral("https://other.example/")), QString());
+        QCOMPARE(titlesFor("https://other.example/"_s), QString());
     }
 
     void theExtensionHearsHowThingsStand()
     {
-        const QString page = QStringLiteral("https://firm.example/");
-        add(QStringLiteral("One"), page);
+        const QString page = "https://firm.example/"_s;
+        add("One"_s, page);
         ExtensionClient extension(m_places.port);
         QVERIFY(!extension.sayHello().isEmpty());
         extension.frames.clear();
@@ -131,23 +132,19 @@ private Q_SLOTS:
             const QJsonObject frame =
                 extension.frames.isEmpty() ? QJsonObject{} : extension.frames.last();
             QJsonObject state = frame.value(QLatin1String("payload")).toObject();
-            state.remove(QStringLiteral("url"));
+            state.remove("url"_s);
             return state;
         };
         const auto state = [](bool locked, int logins) {
-            return QJsonObject{{QStringLiteral("locked"), locked},
-                               {QStringLiteral("safe"), QStringLiteral("Mine")},
-                               {QStringLiteral("logins"), logins}};
+            return QJsonObject{{"locked"_s, locked}, {"safe"_s, "Mine"_s}, {"logins"_s, logins}};
         };
-        extension.sendFrame(
-            QStringLiteral("getState"),
-            {{QStringLiteral("request_id"), QStringLiteral("7")}, {QStringLiteral("url"), page}});
+        extension.sendFrame("getState"_s, {{"request_id"_s, "7"_s}, {"url"_s, page}});
         QJsonObject answer = state(false, 1);
-        answer.insert(QStringLiteral("request_id"), QStringLiteral("7"));
+        answer.insert("request_id"_s, "7"_s);
         QTRY_COMPARE(last(), answer);
 
-        add(QStringLiteral("Two"), page);
-        add(QStringLiteral("Three"), page);
+        add("Two"_s, page);
+        add("Three"_s, page);
         QTRY_COMPARE(last(), state(false, 3));
         m_core->lockCurrentSafe();
         QTRY_COMPARE(last(), state(true, 0));
@@ -182,7 +179,7 @@ private Q_SLOTS:
         QFETCH(QVariant, field);
         const QJsonDocument document = QJsonDocument::fromJson(json.replace('\'', '"'));
         QVERIFY(document.isObject());
-        const auto wish = QuickAccessWish::fromExtension(QStringLiteral("c"), document.object());
+        const auto wish = QuickAccessWish::fromExtension("c"_s, document.object());
         QCOMPARE(wish.field ? QVariant(*wish.field) : QVariant(), field);
         QTEST(static_cast<int>(wish.section), "section");
         QVERIFY(!wish.fill && !wish.browser);

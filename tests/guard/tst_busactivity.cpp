@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "FakeActivity.h"
 #include "PrivateBus.h"
 #include "linux/BusActivity.h"
@@ -27,21 +28,6 @@ public Q_SLOTS:
     }
 };
 
-class TestBusActivity : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void tellsWhatTheCompositorSays();
-    void oldAnswersDoNotCount();
-    void waitsForTheCompositor();
-
-private:
-    void offer(IdleMonitor &monitor);
-
-    PrivateBus m_bus;
-};
-
 namespace {
 
 struct Session
@@ -58,60 +44,67 @@ struct Session
 
 } // namespace
 
-void TestBusActivity::offer(IdleMonitor &monitor)
+class TestBusActivity : public QObject
 {
-    QDBusConnection compositor = m_bus.connection("compositor");
-    QVERIFY(compositor.registerObject(QStringLiteral("/org/gnome/Mutter/IdleMonitor/Core"),
-                                      &monitor, QDBusConnection::ExportAllSlots));
-    QVERIFY(compositor.registerService(QStringLiteral("org.gnome.Mutter.IdleMonitor")));
-}
+    Q_OBJECT
 
-void TestBusActivity::tellsWhatTheCompositorSays()
-{
-    IdleMonitor monitor;
-    monitor.idleMs = 180001;
-    offer(monitor);
-    Session session(m_bus.connection("program"));
-    QTRY_VERIFY(session.activity.lastInputTick().has_value());
-    QCOMPARE(session.activity.tickCount() - *session.activity.lastInputTick(), 180001U);
-    session.state->tick += 1000;
-    monitor.idleMs = 20;
-    QTRY_COMPARE(session.activity.tickCount() - *session.activity.lastInputTick(), 20U);
-}
+private Q_SLOTS:
+    void tellsWhatTheCompositorSays()
+    {
+        IdleMonitor monitor;
+        monitor.idleMs = 180001;
+        offer(monitor);
+        Session session(m_bus.connection("program"));
+        QTRY_VERIFY(session.activity.lastInputTick().has_value());
+        QCOMPARE(session.activity.tickCount() - *session.activity.lastInputTick(), 180001U);
+        session.state->tick += 1000;
+        monitor.idleMs = 20;
+        QTRY_COMPARE(session.activity.tickCount() - *session.activity.lastInputTick(), 20U);
+    }
 
-void TestBusActivity::oldAnswersDoNotCount()
-{
-    IdleMonitor monitor;
-    monitor.idleMs = 10;
-    offer(monitor);
-    Session session(m_bus.connection("program"));
-    QTRY_VERIFY(session.activity.lastInputTick().has_value());
-    monitor.hangs = true;
-    const int asked = monitor.asked;
-    QTRY_VERIFY(!session.activity.lastInputTick() || monitor.asked > asked);
-    session.state->tick += 5000;
-    QVERIFY(session.activity.lastInputTick().has_value());
-    session.state->tick += 1;
-    QVERIFY(!session.activity.lastInputTick().has_value());
-}
+    void oldAnswersDoNotCount()
+    {
+        IdleMonitor monitor;
+        monitor.idleMs = 10;
+        offer(monitor);
+        Session session(m_bus.connection("program"));
+        QTRY_VERIFY(session.activity.lastInputTick().has_value());
+        monitor.hangs = true;
+        const int asked = monitor.asked;
+        QTRY_VERIFY(!session.activity.lastInputTick() || monitor.asked > asked);
+        session.state->tick += 5000;
+        QVERIFY(session.activity.lastInputTick().has_value());
+        session.state->tick += 1;
+        QVERIFY(!session.activity.lastInputTick().has_value());
+    }
 
-void TestBusActivity::waitsForTheCompositor()
-{
-    // A program that starts with the session may come first.
-    QDBusConnection bus = m_bus.connection("early");
-    m_bus.connection("compositor")
-        .unregisterService(QStringLiteral("org.gnome.Mutter.IdleMonitor"));
-    Session session(bus);
-    QDBusMessage probe =
-        QDBusMessage::createMethodCall(QStringLiteral("org.gnome.Mutter.IdleMonitor"),
-                                       QStringLiteral("/"), {}, QStringLiteral("Any"));
-    QCOMPARE(bus.call(probe, QDBus::BlockWithGui).type(), QDBusMessage::ErrorMessage);
-    QVERIFY(!session.activity.lastInputTick().has_value());
-    IdleMonitor monitor;
-    monitor.idleMs = 10;
-    offer(monitor);
-    QTRY_VERIFY(session.activity.lastInputTick().has_value());
-}
+    void waitsForTheCompositor()
+    {
+        // A program that starts with the session may come first.
+        QDBusConnection bus = m_bus.connection("early");
+        m_bus.connection("compositor").unregisterService("org.gnome.Mutter.IdleMonitor"_s);
+        Session session(bus);
+        QDBusMessage probe =
+            QDBusMessage::createMethodCall("org.gnome.Mutter.IdleMonitor"_s, "/"_s, {}, "Any"_s);
+        QCOMPARE(bus.call(probe, QDBus::BlockWithGui).type(), QDBusMessage::ErrorMessage);
+        QVERIFY(!session.activity.lastInputTick().has_value());
+        IdleMonitor monitor;
+        monitor.idleMs = 10;
+        offer(monitor);
+        QTRY_VERIFY(session.activity.lastInputTick().has_value());
+    }
+
+private:
+    void offer(IdleMonitor &monitor)
+    {
+        QDBusConnection compositor = m_bus.connection("compositor");
+        QVERIFY(compositor.registerObject("/org/gnome/Mutter/IdleMonitor/Core"_s, &monitor,
+                                          QDBusConnection::ExportAllSlots));
+        QVERIFY(compositor.registerService("org.gnome.Mutter.IdleMonitor"_s));
+    }
+
+    PrivateBus m_bus;
+};
 
 QTEST_GUILESS_MAIN(TestBusActivity)
 #include "tst_busactivity.moc"

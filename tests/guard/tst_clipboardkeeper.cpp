@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "ClipboardKeeper.h"
 
 // Qt's headers first: those of X define words that they use.
@@ -56,8 +57,8 @@ private:
 
 namespace {
 
-const QString secret = QStringLiteral("pass phrase");
-const QString hint = QStringLiteral("x-kde-passwordManagerHint");
+const QString secret = "pass phrase"_s;
+const QString hint = "x-kde-passwordManagerHint"_s;
 
 /// A program that has the clipboard and gives its text to who asks; without a text it is stuck.
 class OtherOwner
@@ -182,7 +183,7 @@ void TestClipboardKeeper::selectedTextStaysOffTheSelection_data()
 void TestClipboardKeeper::selectedTextStaysOffTheSelection()
 {
     QFETCH(bool, isNote);
-    const QString text = QStringLiteral("revealed");
+    const QString text = "revealed"_s;
     QLineEdit line(text);
     QPlainTextEdit note(text);
     QWidget &field = isNote ? static_cast<QWidget &>(note) : line;
@@ -236,14 +237,13 @@ void TestClipboardKeeper::clearsAfterItsTime_data()
     QTest::addColumn<int>("timer");
     QTest::addColumn<QString>("left");
 
-    const QString a = QStringLiteral("a");
-    const QString b = QStringLiteral("b");
+    const QString a = "a"_s;
+    const QString b = "b"_s;
     QTest::newRow("the only copy") << QStringList{a} << QString() << 0 << QString();
     QTest::newRow("the older timer takes the newer copy")
         << QStringList{a, b} << QString() << 0 << QString();
     QTest::newRow("replaced") << QStringList{a} << b << 0 << b;
-    QTest::newRow("replaced by the same in capitals")
-        << QStringList{a} << QStringLiteral("A") << 0 << QStringLiteral("A");
+    QTest::newRow("replaced by the same in capitals") << QStringList{a} << "A"_s << 0 << "A"_s;
 }
 
 void TestClipboardKeeper::clearsAfterItsTime()
@@ -272,7 +272,7 @@ void TestClipboardKeeper::otherOwner_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("cleared");
     QTest::newRow("keeps the same text") << secret << true;
-    QTest::newRow("another text") << QStringLiteral("shopping list") << false;
+    QTest::newRow("another text") << "shopping list"_s << false;
     QTest::newRow("does not answer") << QString() << false;
 }
 

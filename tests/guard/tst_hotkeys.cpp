@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "GPMAppSettings.h"
 #include "HotkeyText.h"
 #include "Hotkeys.h"
@@ -41,7 +42,7 @@ private:
 
 namespace {
 
-const QString lockKeys = QStringLiteral("Ctrl+Alt+L");
+const QString lockKeys = "Ctrl+Alt+L"_s;
 
 struct Program
 {
@@ -126,7 +127,7 @@ void TestHotkeys::pressed_data()
 void TestHotkeys::pressed()
 {
     QFETCH(unsigned, locks);
-    Program program(lockKeys, QStringLiteral("F9"));
+    Program program(lockKeys, "F9"_s);
     XkbLockModifiers(m_server.client(), XkbUseCoreKbd, LockMask | Mod2Mask, locks);
     press({XK_F9});
     QVERIFY(program.plugin.wait());
@@ -144,7 +145,7 @@ void TestHotkeys::pressed()
 
 void TestHotkeys::heldKeysCountOnce()
 {
-    Program program(lockKeys, QStringLiteral("F9"));
+    Program program(lockKeys, "F9"_s);
     Display *client = m_server.client();
     const KeyCode key = XKeysymToKeycode(client, XK_F9);
     XkbSetAutoRepeatRate(client, XkbUseCoreKbd, 20, 10);
@@ -162,13 +163,13 @@ void TestHotkeys::heldKeysCountOnce()
 void TestHotkeys::followsTheSettings()
 {
     Program program;
-    program.settings.setLockHotkey(QStringLiteral("Ctrl+F7"));
+    program.settings.setLockHotkey("Ctrl+F7"_s);
     press({XK_Control_L, XK_Alt_L, XK_l});
     press({XK_Control_L, XK_F7});
     QVERIFY(program.lock.wait());
     QCOMPARE(program.lock.count(), 1);
     program.settings.setLockHotkey({});
-    program.settings.setPluginHotkey(QStringLiteral("Ctrl+F8"));
+    program.settings.setPluginHotkey("Ctrl+F8"_s);
     press({XK_Control_L, XK_F7});
     press({XK_Control_L, XK_F8});
     QVERIFY(program.plugin.wait());
@@ -186,7 +187,7 @@ void TestHotkeys::takenByAnotherProgram()
     // At the start the log says it: nobody has just chosen the combination.
     Program program;
     QCOMPARE(program.taken.count(), 0);
-    program.settings.setLockHotkey(QStringLiteral("Ctrl+F7"));
+    program.settings.setLockHotkey("Ctrl+F7"_s);
     QCOMPARE(program.taken.count(), 0);
     program.settings.setLockHotkey(lockKeys);
     QCOMPARE(program.taken.count(), 1);
@@ -209,7 +210,7 @@ void TestHotkeys::takenByAnotherProgram()
 void TestHotkeys::senseless()
 {
     QTest::ignoreMessage(QtWarningMsg, "Hotkeys: not a hotkey: \"sometimes\"");
-    Program program(QStringLiteral("sometimes"), QStringLiteral("F9"));
+    Program program("sometimes"_s, "F9"_s);
     press({XK_F9});
     QVERIFY(program.plugin.wait());
     QCOMPARE(program.taken.count(), 0);

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "PMItemDocument.h"
 #include "PMLogin.h"
 
@@ -73,23 +74,22 @@ private Q_SLOTS:
     void secretsGoToThePrivatePart()
     {
         PMLogin login;
-        login.setTitle(QStringLiteral("Mail"));
-        login.setUrl(QStringLiteral("https://mail.example"));
-        login.setPassword(QStringLiteral("s3cret"));
+        login.setTitle("Mail"_s);
+        login.setUrl("https://mail.example"_s);
+        login.setPassword("s3cret"_s);
         login.setFillType(PMFieldTypes::LoginFillType::OnlyFill);
-        login.setRefs({QStringLiteral("a"), QStringLiteral("b")});
+        login.setRefs({"a"_s, "b"_s});
         login.setCreated(
             QDateTime(QDate(2026, 11, 13), QTime(10, 9, 10, 123), Qt::OffsetFromUTC, 7200));
         const QByteArray text = *PMItemDocument::fromItem(login).toJson(shift);
         for (const char *secret : {"s3cret", "mail.example", "OnlyFill"})
             QVERIFY(!text.contains(secret));
         const QJsonObject shown = QJsonDocument::fromJson(text).object();
-        const QJsonObject fields = shown.value(QStringLiteral("public")).toObject();
-        QCOMPARE(shown.value(QStringLiteral("version")).toInt(), 2);
-        QCOMPARE(fields.value(QStringLiteral("created")).toString(),
-                 QStringLiteral("2026-11-13T08:09:10.123Z"));
-        QCOMPARE(fields.value(QStringLiteral("refs")).toArray().size(), 2);
-        QCOMPARE(fields.value(QStringLiteral("type")).toString(), QStringLiteral("Login"));
+        const QJsonObject fields = shown.value("public"_s).toObject();
+        QCOMPARE(shown.value("version"_s).toInt(), 2);
+        QCOMPARE(fields.value("created"_s).toString(), "2026-11-13T08:09:10.123Z"_s);
+        QCOMPARE(fields.value("refs"_s).toArray().size(), 2);
+        QCOMPARE(fields.value("type"_s).toString(), "Login"_s);
 
         const auto back = PMItemDocument::fromJson(text, unshift)->toItem();
         QVERIFY(!back->isChanged());
@@ -107,15 +107,14 @@ private Q_SLOTS:
                                      "'private':{'text':'n','font':{'size':3}}}");
         auto item = PMItemDocument::fromJson(text, unshift)->toItem();
         QVERIFY(item->objectName().isEmpty());
-        item->setTitle(QStringLiteral("new"));
+        item->setTitle("new"_s);
         const QJsonObject written =
             QJsonDocument::fromJson(*PMItemDocument::fromItem(*item).toJson({})).object();
-        QVERIFY(written.value(QStringLiteral("later")).isArray());
-        const QJsonObject fields = written.value(QStringLiteral("public")).toObject();
-        QCOMPARE(fields.value(QStringLiteral("colour")).toString(), QStringLiteral("red"));
-        QCOMPARE(fields.value(QStringLiteral("title")).toString(), QStringLiteral("new"));
-        QVERIFY(
-            written.value(QStringLiteral("private")).toObject().contains(QStringLiteral("font")));
+        QVERIFY(written.value("later"_s).isArray());
+        const QJsonObject fields = written.value("public"_s).toObject();
+        QCOMPARE(fields.value("colour"_s).toString(), "red"_s);
+        QCOMPARE(fields.value("title"_s).toString(), "new"_s);
+        QVERIFY(written.value("private"_s).toObject().contains("font"_s));
     }
 
     void valuesOfTheWrongTypeLeaveTheDefault()
@@ -131,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(!item->favorite());
         QVERIFY(item->created().isNull());
         const auto *login = qobject_cast<PMLogin *>(item.get());
-        QCOMPARE(login->login(), QStringLiteral("me"));
+        QCOMPARE(login->login(), "me"_s);
         QCOMPARE(login->password(), QString());
         QCOMPARE(login->fillType(), PMFieldTypes::LoginFillType::GlobalSettings);
     }
@@ -143,31 +142,29 @@ private Q_SLOTS:
                  "'private':{'cardType':'Crystal','expire':'12/29','bankPhone':'0800 1','number':"
                  "77,'bank':'North'}}");
         auto item = PMItemDocument::fromJson(text, unshift)->toItem();
-        item->setProperty("number", QStringLiteral("4111"));
-        item->setTitle(QStringLiteral("Card"));
+        item->setProperty("number", "4111"_s);
+        item->setTitle("Card"_s);
         const PMItemDocument written = PMItemDocument::fromItem(*item);
         const auto secret = [&written](const char *name) {
             return written.privateFields.value(QLatin1String(name)).toVariant().toString();
         };
-        QCOMPARE(secret("cardType"), QStringLiteral("Crystal"));
-        QCOMPARE(secret("expire"), QStringLiteral("12/29"));
-        QCOMPARE(secret("bankPhone"), QStringLiteral("0800 1"));
-        QCOMPARE(secret("number"), QStringLiteral("4111"));
-        QCOMPARE(secret("bank"), QStringLiteral("North"));
-        QCOMPARE(written.publicFields.value(QStringLiteral("title")).toString(),
-                 QStringLiteral("Card"));
-        QCOMPARE(written.publicFields.value(QStringLiteral("created")).toString(),
-                 QStringLiteral("yesterday"));
+        QCOMPARE(secret("cardType"), "Crystal"_s);
+        QCOMPARE(secret("expire"), "12/29"_s);
+        QCOMPARE(secret("bankPhone"), "0800 1"_s);
+        QCOMPARE(secret("number"), "4111"_s);
+        QCOMPARE(secret("bank"), "North"_s);
+        QCOMPARE(written.publicFields.value("title"_s).toString(), "Card"_s);
+        QCOMPARE(written.publicFields.value("created"_s).toString(), "yesterday"_s);
     }
 
     void anItemOfAnotherKindIsLeftAlone()
     {
         PMLogin login;
-        login.setTitle(QStringLiteral("mine"));
+        login.setTitle("mine"_s);
         const auto document = PMItemDocument::fromJson(
             json("{'version':2,'type':'SSN','public':{'title':'other'}}"), unshift);
         QVERIFY(!document->applyTo(login));
-        QCOMPARE(login.title(), QStringLiteral("mine"));
+        QCOMPARE(login.title(), "mine"_s);
     }
 };
 

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "PMAttachment.h"
 #include "PMCountryTable.h"
 #include "PMDriverLicense.h"
@@ -21,10 +22,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("read");
-        const QString empty = QStringLiteral("00000000");
-        QTest::newRow("short year") << QStringLiteral("00050102") << QStringLiteral("00050102");
-        QTest::newRow("no day") << QStringLiteral("20290100") << QStringLiteral("20290100");
-        QTest::newRow("leap day") << QStringLiteral("19840229") << QStringLiteral("19840229");
+        const QString empty = "00000000"_s;
+        QTest::newRow("short year") << "00050102"_s
+                                    << "00050102"_s;
+        QTest::newRow("no day") << "20290100"_s
+                                << "20290100"_s;
+        QTest::newRow("leap day") << "19840229"_s
+                                  << "19840229"_s;
         for (const char *bad :
              {"", "2029", "2029-01-0", "20291301", "20290132", "+2029010", "202901011", "٢٠٢٩٠١٠١"})
             QTest::newRow(bad) << QString::fromUtf8(bad) << empty;
@@ -64,7 +68,7 @@ private Q_SLOTS:
         QCOMPARE(phone.number, number);
         if (!phone.isEmpty())
             QCOMPARE(phone.toText(), text);
-        QCOMPARE(Phone().toText(), QStringLiteral("+;"));
+        QCOMPARE(Phone().toText(), "+;"_s);
     }
 
     /// The names are the keys of stored documents, so none may change.
@@ -121,8 +125,8 @@ private Q_SLOTS:
         PMLogin login;
         QSignalSpy password(&login, &PMLogin::passwordChanged);
         QVERIFY(!login.isChanged());
-        login.setPassword(QStringLiteral("x"));
-        login.setPassword(QStringLiteral("x"));
+        login.setPassword("x"_s);
+        login.setPassword("x"_s);
         QCOMPARE(password.count(), 1);
         QVERIFY(login.isChanged());
         const quint64 written = login.revision();
@@ -138,8 +142,8 @@ private Q_SLOTS:
     {
         PMAttachment attachment;
         QSignalSpy own(&attachment, &PMAttachment::idChanged);
-        static_cast<PMListItem &>(attachment).setId(QStringLiteral("a"));
-        QCOMPARE(attachment.property("id").toString(), QStringLiteral("a"));
+        static_cast<PMListItem &>(attachment).setId("a"_s);
+        QCOMPARE(attachment.property("id").toString(), "a"_s);
         QCOMPARE(own.count(), 1);
     }
 
@@ -149,7 +153,7 @@ private Q_SLOTS:
         const QVector<PMCountryTable::Country> &rows = table.countries();
         QVERIFY(rows.size() > 230);
         QStringList names;
-        const QRegularExpression code(QStringLiteral("^[1-9][0-9]{0,2}(-[0-9]{3,4})?$"));
+        const QRegularExpression code("^[1-9][0-9]{0,2}(-[0-9]{3,4})?$"_s);
         for (const PMCountryTable::Country &row : rows) {
             names.append(row.name);
             QVERIFY2(code.match(row.code).hasMatch(), qPrintable(row.name));
@@ -159,12 +163,11 @@ private Q_SLOTS:
         QCOMPARE(names, sorted);
         QCOMPARE(names.removeDuplicates(), 0);
         QCOMPARE(names.mid(0, 8).join(QLatin1Char(',')),
-                 QStringLiteral("Afghanistan,Albania,Algeria,American Samoa,Andorra,Angola,"
-                                "Anguilla,Antarctica"));
-        QCOMPARE(names.mid(names.size() - 3).join(QLatin1Char(',')),
-                 QStringLiteral("Yemen,Zambia,Zimbabwe"));
-        QCOMPARE(table.find(QStringLiteral("american samoa"))->code, QStringLiteral("1-684"));
-        QVERIFY(!table.find(QStringLiteral("Atlantis")));
+                 "Afghanistan,Albania,Algeria,American Samoa,Andorra,Angola,"
+                 "Anguilla,Antarctica"_s);
+        QCOMPARE(names.mid(names.size() - 3).join(QLatin1Char(',')), "Yemen,Zambia,Zimbabwe"_s);
+        QCOMPARE(table.find("american samoa"_s)->code, "1-684"_s);
+        QVERIFY(!table.find("Atlantis"_s));
     }
 };
 

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "PasswordGenerator.h"
 
 #include <QtTest>
@@ -60,7 +61,7 @@ Block pseudoRandom(unsigned seed)
 
 bool isSpecial(QChar c)
 {
-    return QStringLiteral("!@#$%^&*(){}[]<>:;,.?").contains(c);
+    return "!@#$%^&*(){}[]<>:;,.?"_s.contains(c);
 }
 
 } // namespace
@@ -74,23 +75,23 @@ private Q_SLOTS:
     {
         // All zero: "A" everywhere, and only the place 0 is ever found.
         Block block(1024, 0);
-        QCOMPARE(generatePassword(8, 0, from(block)), QStringLiteral("AAAAAAAA"));
-        QCOMPARE(generatePassword(8, 1, from(block)), QStringLiteral("!AAAAAAA"));
-        QCOMPARE(generatePassword(8, 2, from(block)), QStringLiteral("AAAAAAAA"));
+        QCOMPARE(generatePassword(8, 0, from(block)), "AAAAAAAA"_s);
+        QCOMPARE(generatePassword(8, 1, from(block)), "!AAAAAAA"_s);
+        QCOMPARE(generatePassword(8, 2, from(block)), "AAAAAAAA"_s);
         // Byte 512 chooses place 7, 513 the same, 514 place 2; 515 and 516 choose "?" and "@".
         block[512] = 15;
         block[513] = 7;
         block[514] = 250;
         block[515] = 20;
         block[516] = 22;
-        QCOMPARE(generatePassword(8, 2, from(block)), QStringLiteral("AA@AAAA?"));
+        QCOMPARE(generatePassword(8, 2, from(block)), "AA@AAAA?"_s);
         // The cut starts in the text at byte 0's number: the text begins with "/wAA".
         block[0] = 255;
-        QCOMPARE(generatePassword(4, 0, from(block)), QStringLiteral("AAAA"));
+        QCOMPARE(generatePassword(4, 0, from(block)), "AAAA"_s);
         block[0] = 1;
         block[1] = 0x09; // "AQl": the "l" is at 2
         block[2] = 0x4e; // ... "lO"
-        QCOMPARE(generatePassword(3, 0, from(block)), QStringLiteral("QL0"));
+        QCOMPARE(generatePassword(3, 0, from(block)), "QL0"_s);
     }
 
     void againstReference_data()
@@ -134,10 +135,10 @@ private Q_SLOTS:
         Block block(1024, 0);
         block[1023] = 1;
         block[1022] = 3;
-        QCOMPARE(generatePassword(4, 2, from(block)), QStringLiteral("AAAA"));
+        QCOMPARE(generatePassword(4, 2, from(block)), "AAAA"_s);
         block[1022] = 0;
         block[1021] = 3;
-        QCOMPARE(generatePassword(4, 2, from(block)), QStringLiteral("!AA@"));
+        QCOMPARE(generatePassword(4, 2, from(block)), "!AA@"_s);
     }
 
     void nothing()
@@ -178,7 +179,7 @@ private Q_SLOTS:
         // 62 letters and digits but "l" and "O"; four of them come for two characters each.
         QCOMPARE(plain.size(), 60);
         for (auto it = plain.cbegin(); it != plain.cend(); ++it) {
-            const int share = QStringLiteral("L072").contains(it.key()) ? 2 : 1;
+            const int share = "L072"_s.contains(it.key()) ? 2 : 1;
             QVERIFY2(qAbs(it.value() - 250 * share) < 5 * 23, qPrintable(QString(it.key())));
         }
     }

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "PasswordStrength.h"
 
 #include <QtTest>
@@ -15,7 +16,7 @@ private Q_SLOTS:
                                       "Good",     "Good", "Strong", "Strong"};
         for (int rating = 0; rating < 8; ++rating)
             QTest::addRow("%d", rating) << rating << QString::fromLatin1(labels[rating]);
-        QTest::newRow("below") << -1 << QStringLiteral("Terrible");
+        QTest::newRow("below") << -1 << "Terrible"_s;
     }
     void levels()
     {
@@ -29,15 +30,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("password");
         QTest::addColumn<int>("level");
         QTest::newRow("none") << QString() << 1;
-        QTest::newRow("letter") << QStringLiteral("a") << 2;
-        QTest::newRow("commonest of all") << QStringLiteral("password") << 1;
-        QTest::newRow("common word") << QStringLiteral("sunshine") << 2;
-        QTest::newRow("word and year") << QStringLiteral("monkey1987") << 2;
-        QTest::newRow("eight at random") << QStringLiteral("q7V<m2X,") << 4;
-        QTest::newRow("six at random") << QStringLiteral("q7V<m2") << 3;
-        QTest::newRow("four words") << QStringLiteral("correct horse battery staple") << 4;
+        QTest::newRow("letter") << "a"_s << 2;
+        QTest::newRow("commonest of all") << "password"_s << 1;
+        QTest::newRow("common word") << "sunshine"_s << 2;
+        QTest::newRow("word and year") << "monkey1987"_s << 2;
+        QTest::newRow("eight at random") << "q7V<m2X,"_s << 4;
+        QTest::newRow("six at random") << "q7V<m2"_s << 3;
+        QTest::newRow("four words") << "correct horse battery staple"_s << 4;
         QTest::newRow("one letter a thousand times") << QString(1000, QLatin1Char('a')) << 2;
-        QTest::newRow("Cyrillic") << QStringLiteral("жёлтыйаист57") << 4;
+        QTest::newRow("Cyrillic") << "жёлтыйаист57"_s << 4;
     }
     void passwords()
     {

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "ArchiveReader.h"
 #include "ArchiveTesting.h"
 #include "BackupJob.h"
@@ -20,9 +21,9 @@ const QDateTime firstDay(QDate(2026, 3, 4), QTime(12, 0));
 
 void setModified(const QString &safe, qint64 modified)
 {
-    const QString path = safe + QStringLiteral("/safe.meta");
+    const QString path = safe + "/safe.meta"_s;
     QJsonObject description = QJsonDocument::fromJson(contentOf(path)).object();
-    description.insert(QStringLiteral("modified"), modified);
+    description.insert("modified"_s, modified);
     writeFile(path, QJsonDocument(description).toJson());
 }
 
@@ -37,11 +38,11 @@ public:
     {
     }
 
-    QString safe() const { return m_folder + QStringLiteral("/My safe"); }
-    QString archives() const { return m_folder + QStringLiteral("/out"); }
-    QString archive() const { return archives() + QStringLiteral("/archive.gpm"); }
-    QString safes() const { return m_folder + QStringLiteral("/data/safes"); }
-    QString backups() const { return m_folder + QStringLiteral("/backup"); }
+    QString safe() const { return m_folder + "/My safe"_s; }
+    QString archives() const { return m_folder + "/out"_s; }
+    QString archive() const { return archives() + "/archive.gpm"_s; }
+    QString safes() const { return m_folder + "/data/safes"_s; }
+    QString backups() const { return m_folder + "/backup"_s; }
 
     /// @param attachment its size in bytes
     void make(int attachment)
@@ -49,8 +50,8 @@ public:
         makeSmallSafe(safe());
         QByteArray bytes(attachment, Qt::Uninitialized);
         QRandomGenerator(1).generate(bytes.begin(), bytes.end());
-        QDir().mkpath(safe() + QStringLiteral("/attachment"));
-        writeFile(safe() + QStringLiteral("/attachment/large"), bytes);
+        QDir().mkpath(safe() + "/attachment"_s);
+        writeFile(safe() + "/attachment/large"_s, bytes);
         QDir().mkpath(archives());
         if (!exportTo(safe(), archive()).good())
             qFatal("can't export");
@@ -62,7 +63,7 @@ public:
         setModified(safe(), 0x300);
         m_before = snapshot(m_folder);
         m_safeBefore = snapshot(safe());
-        m_safeBefore.remove(QStringLiteral(".sourcelock"));
+        m_safeBefore.remove(".sourcelock"_s);
     }
 
     /// Back to what make() left.
@@ -104,13 +105,13 @@ public:
     QString fault(Work work, std::optional<bool> good) const
     {
         QMap<QString, QByteArray> now = snapshot(safe());
-        now.remove(QStringLiteral(".sourcelock"));
+        now.remove(".sourcelock"_s);
         if (now != m_safeBefore)
-            return QStringLiteral("the safe is another");
-        if (QDir(archives()).entryList(QDir::Files) != QStringList{QStringLiteral("archive.gpm")})
-            return QStringLiteral("a half archive is seen");
+            return "the safe is another"_s;
+        if (QDir(archives()).entryList(QDir::Files) != QStringList{"archive.gpm"_s})
+            return "a half archive is seen"_s;
         if (work != Import && !isWhole(archive()))
-            return QStringLiteral("the archive does not open");
+            return "the archive does not open"_s;
         return work == Import ? safesFault(good) : backupsFault(work == Backup ? good : false);
     }
 
@@ -137,32 +138,32 @@ private:
 
     QString safesFault(std::optional<bool> good) const
     {
-        GPMAppSettings settings(m_folder + QStringLiteral("/config"), m_folder);
+        GPMAppSettings settings(m_folder + "/config"_s, m_folder);
         const QVector<KnownSafes::Entry> entries = KnownSafes(settings, safes()).entries();
         if (good && entries.size() != (*good ? 1 : 0))
-            return QStringLiteral("%1 safes").arg(entries.size());
+            return "%1 safes"_s.arg(entries.size());
         for (const KnownSafes::Entry &entry : entries) {
             GPMSafe safe;
             if (!safe.open(entry.folder) || !safe.unlock(samplePassword) ||
                 safe.itemCount() != smallSafeItems ||
-                contentOf(entry.folder + QStringLiteral("/attachment/large")) !=
-                    m_safeBefore.value(QStringLiteral("attachment/large")))
-                return QStringLiteral("a half safe is seen");
+                contentOf(entry.folder + "/attachment/large"_s) !=
+                    m_safeBefore.value("attachment/large"_s))
+                return "a half safe is seen"_s;
         }
         return {};
     }
 
     QString backupsFault(std::optional<bool> good) const
     {
-        const QStringList names = QDir(backups()).entryList({QStringLiteral("*.gpm")});
+        const QStringList names = QDir(backups()).entryList({"*.gpm"_s});
         for (const QString &name : names) {
             if (!isWhole(backups() + QLatin1Char('/') + name))
-                return QStringLiteral("a backup does not open");
+                return "a backup does not open"_s;
         }
-        const bool hasNew = !names.filter(QStringLiteral("_300.gpm")).isEmpty();
+        const bool hasNew = !names.filter("_300.gpm"_s).isEmpty();
         if (good && *good != hasNew)
-            return QStringLiteral("the result is not true");
-        return names.size() >= (hasNew ? 2 : 3) ? QString() : QStringLiteral("a backup is lost");
+            return "the result is not true"_s;
+        return names.size() >= (hasNew ? 2 : 3) ? QString() : "a backup is lost"_s;
     }
 
     QString m_folder;
@@ -251,8 +252,7 @@ private Q_SLOTS:
                 files->andAllBehind = andAllBehind;
                 const bool good = m_scene->run(kind, files) == Outcome::Done;
                 const QString fault = m_scene->fault(kind, good);
-                QVERIFY2(fault.isEmpty(),
-                         qPrintable(QStringLiteral("%1: %2").arg(failAt).arg(fault)));
+                QVERIFY2(fault.isEmpty(), qPrintable("%1: %2"_s.arg(failAt).arg(fault)));
                 QVERIFY(m_scene->isTidy() || andAllBehind);
                 m_scene->restore();
             }
@@ -276,7 +276,7 @@ private Q_SLOTS:
                                        roleOf(kind, m_temporary->path(), QString::number(dieAt)));
             QCOMPARE(ran.exitCode, killedByTest);
             const QString fault = m_scene->fault(kind, std::nullopt);
-            QVERIFY2(fault.isEmpty(), qPrintable(QStringLiteral("%1: %2").arg(dieAt).arg(fault)));
+            QVERIFY2(fault.isEmpty(), qPrintable("%1: %2"_s.arg(dieAt).arg(fault)));
             if (kind != Scene::Import)
                 m_scene->restore();
         }
@@ -290,7 +290,7 @@ private Q_SLOTS:
         QFETCH(int, work);
         const auto kind = static_cast<Scene::Work>(work);
         make(3000000);
-        const QStringList role = roleOf(kind, m_temporary->path(), QStringLiteral("0"));
+        const QStringList role = roleOf(kind, m_temporary->path(), "0"_s);
         QRandomGenerator random(7);
         int whole = 2000; // ms that a run takes when nobody kills it; known better with each
         int killed = 0;
@@ -321,7 +321,7 @@ private Q_SLOTS:
         const auto kind = static_cast<Scene::Work>(work);
         make(20000);
         const Ran ran = runProgram(QCoreApplication::applicationFilePath(),
-                                   roleOf(kind, m_temporary->path(), QStringLiteral("full")));
+                                   roleOf(kind, m_temporary->path(), "full"_s));
         QCOMPARE(ran.exitCode, int(Outcome::CannotWrite));
         QCOMPARE(m_scene->fault(kind, false), QString());
         QVERIFY(m_scene->isTidy());
@@ -350,7 +350,7 @@ private Q_SLOTS:
         const auto kind = static_cast<Scene::Work>(work);
         make(1000);
         const QString gone = kind == Scene::Export   ? m_scene->archives()
-                             : kind == Scene::Import ? m_temporary->filePath(QStringLiteral("data"))
+                             : kind == Scene::Import ? m_temporary->filePath("data"_s)
                                                      : m_scene->backups();
         bool vanished = false;
         const auto vanish = [&](WorkControl &, qint64 done, qint64 total) {

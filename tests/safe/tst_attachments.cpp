@@ -17,18 +17,18 @@ struct Safe
 {
     Safe()
     {
-        QDir().mkpath(folder.filePath(QStringLiteral("safe")));
+        QDir().mkpath(folder.filePath("safe"_s));
         qRegisterMetaType<AttachmentFault>("AttachmentFault");
         environment.files = files;
         safe = std::make_unique<GPMSafe>(environment);
-        if (!safe->init(path(), samplePassword, QStringLiteral("Safe"), {}))
+        if (!safe->init(path(), samplePassword, "Safe"_s, {}))
             qFatal("no safe to test with");
         auto login = std::make_unique<PMLogin>();
-        login->setTitle(QStringLiteral("Cloudmail"));
+        login->setTitle("Cloudmail"_s);
         parentId = safe->addItem(std::move(login))->id();
     }
 
-    QString path() const { return folder.filePath(QStringLiteral("safe")); }
+    QString path() const { return folder.filePath("safe"_s); }
     QString file(const QString &name, const QByteArray &content)
     {
         const QString filePath = folder.filePath(name);
@@ -91,13 +91,12 @@ private Q_SLOTS:
         Safe test;
         QSignalSpy done(test.safe.get(), &GPMSafe::attachmentDone);
         const QByteArray large(3000000, 'x');
-        test.add(QStringLiteral("large"), {test.file(QStringLiteral("large"), large), {}});
-        test.add(QStringLiteral("empty"), {test.file(QStringLiteral("empty"), {}), {}});
-        test.add(QStringLiteral("picture"), {{}, QByteArray("\x89PNG")});
+        test.add("large"_s, {test.file("large"_s, large), {}});
+        test.add("empty"_s, {test.file("empty"_s, {}), {}});
+        test.add("picture"_s, {{}, QByteArray("\x89PNG")});
         while (done.size() < 3)
             QVERIFY(done.wait());
-        QCOMPARE(test.titles(), QStringList({QStringLiteral("large"), QStringLiteral("empty"),
-                                             QStringLiteral("picture")}));
+        QCOMPARE(test.titles(), QStringList({"large"_s, "empty"_s, "picture"_s}));
         const QStringList refs = test.safe->item(test.parentId)->refs();
         QCOMPARE(test.bytesOf(refs.at(0)), large);
         QCOMPARE(test.bytesOf(refs.at(1)), QByteArray());
@@ -110,18 +109,17 @@ private Q_SLOTS:
     {
         Safe test;
         const QByteArray content(2000000, 'y');
-        for (const QString &name : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")})
+        for (const QString &name : {"a"_s, "b"_s, "c"_s})
             test.add(name, {test.file(name, content), {}});
         test.safe->lock();
         QVERIFY(test.safe->unlock(samplePassword));
-        QCOMPARE(test.titles(),
-                 QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+        QCOMPARE(test.titles(), QStringList({"a"_s, "b"_s, "c"_s}));
         QCOMPARE(test.bytesOf(test.safe->item(test.parentId)->refs().last()), content);
         // Those behind a change of password are under the new one.
-        test.add(QStringLiteral("d"), {{}, QByteArray("later")});
-        QVERIFY(test.safe->changePassword(QStringLiteral("other")));
+        test.add("d"_s, {{}, QByteArray("later")});
+        QVERIFY(test.safe->changePassword("other"_s));
         test.safe->lock();
-        QVERIFY(test.safe->unlock(QStringLiteral("other")));
+        QVERIFY(test.safe->unlock("other"_s));
         QCOMPARE(test.bytesOf(test.safe->item(test.parentId)->refs().last()), QByteArray("later"));
     }
 
@@ -135,15 +133,12 @@ private Q_SLOTS:
         QTest::newRow("larger") << qint64(10485761) << none << int(AttachmentFault::TooLarge);
         QTest::newRow("folder") << qint64(-1) << QDir::tempPath()
                                 << int(AttachmentFault::Unreadable);
-        QTest::newRow("missing") << qint64(-1) << QStringLiteral("/no/such/file")
+        QTest::newRow("missing") << qint64(-1) << "/no/such/file"_s
                                  << int(AttachmentFault::Unreadable);
-        QTest::newRow("endless") << qint64(-1) << QStringLiteral("/dev/zero")
-                                 << int(AttachmentFault::Unreadable);
+        QTest::newRow("endless") << qint64(-1) << "/dev/zero"_s << int(AttachmentFault::Unreadable);
         // Says that it is empty and is not.
-        QTest::newRow("grows") << qint64(-1) << QStringLiteral("/proc/self/status")
-                               << int(AttachmentFault::None);
+        QTest::newRow("grows") << qint64(-1) << "/proc/self/status"_s << int(AttachmentFault::None);
     }
-
     void refuses()
     {
         QFETCH(qint64, size);
@@ -151,16 +146,16 @@ private Q_SLOTS:
         QFETCH(int, fault);
         Safe test;
         if (size >= 0) {
-            path = test.file(QStringLiteral("big"), {});
+            path = test.file("big"_s, {});
             QVERIFY(QFile::resize(path, size));
         }
         QSignalSpy done(test.safe.get(), &GPMSafe::attachmentDone);
-        test.add(QStringLiteral("file"), {path, {}});
+        test.add("file"_s, {path, {}});
         QVERIFY(done.wait());
         QCOMPARE(int(done.first().at(2).value<AttachmentFault>()), fault);
         const bool taken = fault == int(AttachmentFault::None);
         QCOMPARE(test.titles().size(), taken ? 1 : 0);
-        QCOMPARE(filesBelow(test.path() + QStringLiteral("/attachment")).size(), taken ? 1 : 0);
+        QCOMPARE(filesBelow(test.path() + "/attachment"_s).size(), taken ? 1 : 0);
         if (size >= 0 && taken)
             QCOMPARE(qint64(test.bytesOf(test.safe->item(test.parentId)->refs().first()).size()),
                      size);
@@ -171,15 +166,15 @@ private Q_SLOTS:
         Safe test;
         QSignalSpy done(test.safe.get(), &GPMSafe::attachmentDone);
         test.files->failAt = test.files->operations + 1;
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("addAttachment")));
-        test.add(QStringLiteral("lost"), {{}, QByteArray("lost")});
-        test.add(QStringLiteral("next"), {{}, QByteArray("next")});
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("addAttachment"_s));
+        test.add("lost"_s, {{}, QByteArray("lost")});
+        test.add("next"_s, {{}, QByteArray("next")});
         while (done.size() < 2)
             QVERIFY(done.wait());
         QCOMPARE(int(done.first().at(2).value<AttachmentFault>()),
                  int(AttachmentFault::NotWritten));
-        QCOMPARE(test.titles(), QStringList(QStringLiteral("next")));
-        QCOMPARE(filesBelow(test.path() + QStringLiteral("/attachment")).size(), 1);
+        QCOMPARE(test.titles(), QStringList("next"_s));
+        QCOMPARE(filesBelow(test.path() + "/attachment"_s).size(), 1);
     }
 
     void fileNames_data()
@@ -211,7 +206,6 @@ private Q_SLOTS:
         row("page", u"x.html", u"x.html", true);
         row("no ending", u"exe", u"exe", false);
     }
-
     void fileNames()
     {
         QFETCH(QString, given);
@@ -221,9 +215,9 @@ private Q_SLOTS:
 
     void longFileNamesKeepTheirEnding()
     {
-        const QString name = cleanFileName(QString(400, QChar(0x6771)) + QStringLiteral(".txt"));
+        const QString name = cleanFileName(QString(400, QChar(0x6771)) + ".txt"_s);
         QVERIFY(name.toUtf8().size() <= 200);
-        QVERIFY(name.endsWith(QStringLiteral(".txt")));
+        QVERIFY(name.endsWith(".txt"_s));
         const QString keys = QString::fromUcs4(U"\U0001F511");
         const QString cut = cleanFileName(keys.repeated(300));
         QVERIFY(cut.at(cut.size() - 1).isLowSurrogate());
@@ -232,20 +226,18 @@ private Q_SLOTS:
     void privateFilesAreTheOwnersAlone()
     {
         QTemporaryDir folder;
-        const QString runtime = folder.filePath(QStringLiteral("run"));
+        const QString runtime = folder.filePath("run"_s);
         QDir().mkpath(runtime);
-        const QString data = folder.filePath(QStringLiteral("data"));
+        const QString data = folder.filePath("data"_s);
         const QFile::Permissions read = QFile::ReadOwner;
         const QFile::Permissions whole = read | QFile::WriteOwner | QFile::ExeOwner;
         for (const QString &place : {runtime, QString()}) {
             PrivateFiles files(PrivateFiles::places(place, data));
-            const auto first =
-                files.create(QStringLiteral("codes.txt"), produceSecret, files.wipes());
-            const auto second =
-                files.create(QStringLiteral("codes.txt"), produceSecret, files.wipes());
+            const auto first = files.create("codes.txt"_s, produceSecret, files.wipes());
+            const auto second = files.create("codes.txt"_s, produceSecret, files.wipes());
             QVERIFY(first && second && *first != *second);
             QVERIFY(first->startsWith(place.isEmpty() ? data : runtime));
-            QVERIFY(first->endsWith(QStringLiteral("/codes.txt")));
+            QVERIFY(first->endsWith("/codes.txt"_s));
             QCOMPARE(contentOf(*first), QByteArray("secret"));
             QCOMPARE(rightsOf(*first), read);
             const QString inner = QFileInfo(*first).path();
@@ -260,30 +252,28 @@ private Q_SLOTS:
     void privateFilesOfAnEarlierRunAreWiped()
     {
         QTemporaryDir folder;
-        const QString runtime = folder.filePath(QStringLiteral("run"));
+        const QString runtime = folder.filePath("run"_s);
         QDir().mkpath(runtime);
         const QStringList places = PrivateFiles::places(runtime, folder.path());
-        const QString outside = folder.filePath(QStringLiteral("outside"));
+        const QString outside = folder.filePath("outside"_s);
         writeFile(outside, "kept");
         for (const QString &place : places) {
-            const QString inner = place + QStringLiteral("/0123");
+            const QString inner = place + "/0123"_s;
             QDir().mkpath(inner);
-            writeFile(inner + QStringLiteral("/left.txt"), "secret");
-            QFile::setPermissions(inner + QStringLiteral("/left.txt"), QFile::ReadOwner);
-            QVERIFY(QFile::link(outside, inner + QStringLiteral("/link")));
+            writeFile(inner + "/left.txt"_s, "secret");
+            QFile::setPermissions(inner + "/left.txt"_s, QFile::ReadOwner);
+            QVERIFY(QFile::link(outside, inner + "/link"_s));
             // A second name of the file shows what becomes of its bytes.
-            QCOMPARE(::link(qPrintable(inner + QStringLiteral("/left.txt")),
-                            qPrintable(place + QStringLiteral(".bytes"))),
-                     0);
+            QCOMPARE(::link(qPrintable(inner + "/left.txt"_s), qPrintable(place + ".bytes"_s)), 0);
         }
         QVERIFY(PrivateFiles(places).wipe());
         for (const QString &place : places) {
             QVERIFY(!QFile::exists(place));
-            QCOMPARE(contentOf(place + QStringLiteral(".bytes")), QByteArray(6, '\0'));
+            QCOMPARE(contentOf(place + ".bytes"_s), QByteArray(6, '\0'));
         }
         QCOMPARE(contentOf(outside), QByteArray("kept"));
         // Not those of a program with other data.
-        QVERIFY(PrivateFiles::places(runtime, QStringLiteral("/other")).first() != places.first());
+        QVERIFY(PrivateFiles::places(runtime, "/other"_s).first() != places.first());
     }
 
     void aWipeStopsWhatWasAskedForBefore()
@@ -294,12 +284,12 @@ private Q_SLOTS:
             files.wipe();
             return produceSecret(device);
         };
-        QVERIFY(!files.create(QStringLiteral("being written"), late, files.wipes()));
+        QVERIFY(!files.create("being written"_s, late, files.wipes()));
         QCOMPARE(filesBelow(folder.path()), QStringList());
         // A worker may come to it only then.
         const int wipes = files.wipes();
         files.wipe();
-        QVERIFY(!files.create(QStringLiteral("waiting"), produceSecret, wipes));
+        QVERIFY(!files.create("waiting"_s, produceSecret, wipes));
         QCOMPARE(filesBelow(folder.path()), QStringList());
     }
 };

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "FormerPassword.h"
 #include "PMItemFactory.h"
 #include "PasswordTesting.h"

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "KeyDerivation.h"
 #include "SafeCrypto.h"
 
@@ -98,25 +99,23 @@ private Q_SLOTS:
 
     void envelopesOfAnotherImplementation()
     {
-        const QJsonArray envelopes = vectors().value(QStringLiteral("envelopes")).toArray();
+        const QJsonArray envelopes = vectors().value("envelopes"_s).toArray();
         QCOMPARE(envelopes.size(), 5);
         for (const QJsonValue &value : envelopes) {
             const QJsonObject vector = value.toObject();
-            const QByteArray password =
-                vector.value(QStringLiteral("password")).toString().toUtf8();
-            const QByteArray plain = QByteArray::fromBase64(
-                vector.value(QStringLiteral("plain_base64")).toString().toLatin1());
-            const QString text = vector.value(QStringLiteral("text")).toString();
+            const QByteArray password = vector.value("password"_s).toString().toUtf8();
+            const QByteArray plain =
+                QByteArray::fromBase64(vector.value("plain_base64"_s).toString().toLatin1());
+            const QString text = vector.value("text"_s).toString();
 
             const std::optional<QByteArray> decrypted = decryptString(password, text);
             QVERIFY(decrypted);
             QCOMPARE(*decrypted, plain);
-            QVERIFY(decryptString(password,
-                                  text + QStringLiteral("==").left((4 - text.size() % 4) % 4)));
+            QVERIFY(decryptString(password, text + "=="_s.left((4 - text.size() % 4) % 4)));
 
             // With the same random block the same bytes come out.
             const QByteArray envelope = QByteArray::fromBase64(text.toLatin1());
-            const int header = vector.value(QStringLiteral("pad")).toInt() + 32;
+            const int header = vector.value("pad"_s).toInt() + 32;
             QString written;
             QVERIFY(encryptString(password, plain, written, fixedRandom(envelope.left(header))));
             QCOMPARE(written, text);
@@ -128,13 +127,13 @@ private Q_SLOTS:
 
     void passIdsOfAnotherImplementation()
     {
-        const QJsonArray passIds = vectors().value(QStringLiteral("pass_ids")).toArray();
+        const QJsonArray passIds = vectors().value("pass_ids"_s).toArray();
         QCOMPARE(passIds.size(), 4);
         for (const QJsonValue &value : passIds) {
             const QJsonObject vector = value.toObject();
-            QCOMPARE(checkPassId(vector.value(QStringLiteral("password")).toString().toUtf8(),
-                                 vector.value(QStringLiteral("text")).toString()),
-                     vector.value(QStringLiteral("opens")).toBool());
+            QCOMPARE(checkPassId(vector.value("password"_s).toString().toUtf8(),
+                                 vector.value("text"_s).toString()),
+                     vector.value("opens"_s).toBool());
         }
     }
 
@@ -152,12 +151,11 @@ private Q_SLOTS:
     void refusesWhatIsNoEnvelope_data()
     {
         QTest::addColumn<QString>("text");
-        const QJsonArray tooShort = vectors().value(QStringLiteral("too_short")).toArray();
+        const QJsonArray tooShort = vectors().value("too_short"_s).toArray();
         QVERIFY(!tooShort.isEmpty());
         for (const QJsonValue &text : tooShort)
             QTest::addRow("too short %d", text.toString().size()) << text.toString();
-        QTest::newRow("no Base64")
-            << QStringLiteral("AFqb+vnUp1JT!qZaT4dPwWoKPmlVhaQtHmI6iPr8noeSv");
+        QTest::newRow("no Base64") << "AFqb+vnUp1JT!qZaT4dPwWoKPmlVhaQtHmI6iPr8noeSv"_s;
         QTest::newRow("header alone") << QString::fromLatin1(QByteArray(32, '\0').toBase64());
         QTest::newRow("cut block") << QString::fromLatin1(QByteArray(47, '\0').toBase64());
     }
@@ -213,8 +211,8 @@ private Q_SLOTS:
     void reencryptsAFileOrLeavesNothing()
     {
         const QTemporaryDir folder;
-        const QString source = folder.filePath(QStringLiteral("source"));
-        const QString target = folder.filePath(QStringLiteral("target"));
+        const QString source = folder.filePath("source"_s);
+        const QString target = folder.filePath("target"_s);
         const QByteArray plain(30000, 's');
         // With a salt drawn anew, one wrong password in 256 would end in a valid padding.
         QByteArray input = plain;
@@ -231,8 +229,8 @@ private Q_SLOTS:
         QVERIFY(!reencryptFile(source, target, "wrong", "new"));
         QTest::ignoreMessage(QtWarningMsg, "Error in RAND_bytes!");
         QVERIFY(!reencryptFile(source, target, "old", "new", noRandom));
-        QVERIFY(!reencryptFile(folder.filePath(QStringLiteral("none")), target, "old", "new"));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), {QStringLiteral("source")});
+        QVERIFY(!reencryptFile(folder.filePath("none"_s), target, "old", "new"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), {"source"_s});
 
         QVERIFY(reencryptFile(source, target, "old", "new"));
         QFile written(target);
@@ -245,14 +243,13 @@ private Q_SLOTS:
     void hashOfAFile()
     {
         const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("f")));
+        QFile file(folder.filePath("f"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("abc");
         file.close();
         // FIPS 180-2, appendix B.1.
-        QCOMPARE(fileHash(file.fileName()),
-                 QStringLiteral("ungWv48Bz+pBQUDeXa4iI7ADYaOWF3qctBD/YfIAFa0="));
-        QCOMPARE(fileHash(folder.filePath(QStringLiteral("none"))), QString());
+        QCOMPARE(fileHash(file.fileName()), "ungWv48Bz+pBQUDeXa4iI7ADYaOWF3qctBD/YfIAFa0="_s);
+        QCOMPARE(fileHash(folder.filePath("none"_s)), QString());
     }
 };
 

@@ -17,8 +17,8 @@ private Q_SLOTS:
     void factsSurviveARestart()
     {
         const QTemporaryDir home;
-        const QString file = home.filePath(QStringLiteral("config/safes.json"));
-        const QString safe = home.filePath(QStringLiteral("one"));
+        const QString file = home.filePath("config/safes.json"_s);
+        const QString safe = home.filePath("one"_s);
         QVERIFY(QDir().mkpath(safe));
         {
             SafeFacts facts(file);
@@ -26,20 +26,20 @@ private Q_SLOTS:
             facts.change(safe, [this](SafeFact &fact) {
                 fact.lastOpened = noon;
                 fact.itemCount = 12;
-                fact.mirrorFolder = QStringLiteral("/cloud/one");
+                fact.mirrorFolder = "/cloud/one"_s;
             });
             facts.change(safe, [](SafeFact &fact) { fact.itemCount = 12; });
             QCOMPARE(changed.count(), 1);
         }
         SafeFacts facts(file);
-        const SafeFact fact = facts.of(safe + QStringLiteral("/../one/"));
+        const SafeFact fact = facts.of(safe + "/../one/"_s);
         QCOMPARE(fact.lastOpened, noon);
         QCOMPARE(fact.itemCount, 12);
-        QCOMPARE(fact.mirrorFolder, QStringLiteral("/cloud/one"));
+        QCOMPARE(fact.mirrorFolder, "/cloud/one"_s);
         QVERIFY(!fact.lastSynchronised.isValid());
-        QCOMPARE(facts.of(home.filePath(QStringLiteral("other"))).itemCount, -1);
+        QCOMPARE(facts.of(home.filePath("other"_s)).itemCount, -1);
 
-        const QString moved = home.filePath(QStringLiteral("moved"));
+        const QString moved = home.filePath("moved"_s);
         facts.move(safe, moved);
         QVERIFY(facts.store());
         const SafeFacts again(file);
@@ -50,7 +50,7 @@ private Q_SLOTS:
     void aChangeIsWrittenWithoutBeingAskedFor()
     {
         const QTemporaryDir home;
-        const QString file = home.filePath(QStringLiteral("safes.json"));
+        const QString file = home.filePath("safes.json"_s);
         SafeFacts facts(file);
         facts.change(home.path(), [](SafeFact &fact) { fact.itemCount = 3; });
         QTRY_VERIFY(contentOf(file).contains("\"item_count\": 3"));
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void aFileThatCannotBeReadOrWrittenIsNoHindrance()
     {
         const QTemporaryDir home;
-        const QString file = home.filePath(QStringLiteral("safes.json"));
+        const QString file = home.filePath("safes.json"_s);
         writeFile(file, "{ \"/one\": { \"item_co");
         const auto files = std::make_shared<FaultyFiles>();
         files->failAt = 1;
@@ -74,10 +74,10 @@ private Q_SLOTS:
     void factsFollowAFolderButNoLinkToAnother()
     {
         const QTemporaryDir home;
-        const QString one = home.filePath(QStringLiteral("one"));
-        const QString other = home.filePath(QStringLiteral("other"));
-        const QString link = home.filePath(QStringLiteral("link"));
-        SafeFacts facts(home.filePath(QStringLiteral("safes.json")));
+        const QString one = home.filePath("one"_s);
+        const QString other = home.filePath("other"_s);
+        const QString link = home.filePath("link"_s);
+        SafeFacts facts(home.filePath("safes.json"_s));
         facts.expect(link);
         facts.change(link, [](SafeFact &fact) { fact.itemCount = 7; });
         facts.learn(link, one);
@@ -91,16 +91,16 @@ private Q_SLOTS:
     {
         const QTemporaryDir home;
         const QString root = canonicalFolder(home.path());
-        QVERIFY(QDir().mkpath(root + QStringLiteral("/real/safe")));
-        QVERIFY(QFile::link(root + QStringLiteral("/real"), root + QStringLiteral("/link")));
-        const QString real = root + QStringLiteral("/real/safe");
+        QVERIFY(QDir().mkpath(root + "/real/safe"_s));
+        QVERIFY(QFile::link(root + "/real"_s, root + "/link"_s));
+        const QString real = root + "/real/safe"_s;
         for (const char *way : {"/real/safe/", "/real/./safe", "/link/safe", "/real/x/../safe"})
             QCOMPARE(canonicalFolder(root + QLatin1String(way)), real);
         // The folder has gone, the link to its parent is still there.
         QVERIFY(QDir(real).removeRecursively());
-        QCOMPARE(canonicalFolder(root + QStringLiteral("/link/safe")), real);
-        QVERIFY(isSameFolder(root + QStringLiteral("/link/safe/"), real));
-        QVERIFY(!isSameFolder(root + QStringLiteral("/link"), real));
+        QCOMPARE(canonicalFolder(root + "/link/safe"_s), real);
+        QVERIFY(isSameFolder(root + "/link/safe/"_s, real));
+        QVERIFY(!isSameFolder(root + "/link"_s, real));
     }
 };
 

@@ -39,8 +39,7 @@ class OtherProgram
 public:
     explicit OtherProgram(const QString &folder)
     {
-        m_process.start(QCoreApplication::applicationFilePath(),
-                        {QStringLiteral("--hold"), folder});
+        m_process.start(QCoreApplication::applicationFilePath(), {"--hold"_s, folder});
         if (!m_process.waitForReadyRead() || m_process.readLine().trimmed() != "held")
             qFatal("the other program does not run");
     }
@@ -65,7 +64,7 @@ class TestSafeRemoval : public QObject
     Q_OBJECT
 
 private:
-    const QString foreign = QStringLiteral("holiday.jpg");
+    const QString foreign = "holiday.jpg"_s;
 
 private Q_SLOTS:
     void onlyWhatBelongsToASafeGoes_data()
@@ -75,25 +74,24 @@ private Q_SLOTS:
 
         QTest::newRow("nothing else") << QStringList() << QStringList();
         QTest::newRow("what the program left")
-            << QStringList{QStringLiteral("safe.passid.bak"),
-                           QStringLiteral("safe.sync"),
-                           QStringLiteral("safe.deleted"),
-                           QStringLiteral("safe.meta.aBcDeF"),
-                           QStringLiteral("content/00000000-0000-0001-0000-000000001234.2"),
-                           QStringLiteral("favicon/shop.example.png")}
+            << QStringList{"safe.passid.bak"_s,
+                           "safe.sync"_s,
+                           "safe.deleted"_s,
+                           "safe.meta.aBcDeF"_s,
+                           "content/00000000-0000-0001-0000-000000001234.2"_s,
+                           "favicon/shop.example.png"_s}
             << QStringList();
         for (const char *name : {"holiday.jpg", "content/notes.txt", "safe.metal", ".hidden",
                                  "favicon/more/a.png", "other/safe.meta"})
             QTest::newRow(name) << QStringList{QLatin1String(name)}
                                 << QStringList{QLatin1String(name)};
     }
-
     void onlyWhatBelongsToASafeGoes()
     {
         QFETCH(QStringList, added);
         QFETCH(QStringList, staying);
         const QTemporaryDir home;
-        const QString folder = home.filePath(QStringLiteral("safe"));
+        const QString folder = home.filePath("safe"_s);
         copySampleSafe(folder);
         for (const QString &name : qAsConst(added)) {
             QVERIFY(QDir().mkpath(QFileInfo(folder + QLatin1Char('/') + name).path()));
@@ -102,8 +100,7 @@ private Q_SLOTS:
         const SafeRemoval::Result result = removeSafe(folder);
         QCOMPARE(result.outcome, SafeRemoval::Outcome::Done);
         QCOMPARE(QStringList(snapshot(home.path()).keys()),
-                 QStringList(staying).replaceInStrings(QRegularExpression(QStringLiteral("^")),
-                                                       QStringLiteral("safe/")));
+                 QStringList(staying).replaceInStrings(QRegularExpression("^"_s), "safe/"_s));
         QCOMPARE(result.foreign.isEmpty(), staying.isEmpty());
         QCOMPARE(result.left, staying.isEmpty() ? QString() : folder);
         QCOMPARE(QDir(folder).exists(), !staying.isEmpty());
@@ -115,7 +112,6 @@ private Q_SLOTS:
         QTest::newRow("alone in its folder") << false;
         QTest::newRow("among other files") << true;
     }
-
     void aFailureLeavesASafeThatOpensOrNone()
     {
         QFETCH(bool, amongOthers);
@@ -123,10 +119,10 @@ private Q_SLOTS:
             int at = 0;
             for (bool failed = true; failed;) {
                 const QTemporaryDir home;
-                const QString folder = home.filePath(QStringLiteral("safe"));
+                const QString folder = home.filePath("safe"_s);
                 copySampleSafe(folder);
                 if (amongOthers)
-                    writeFile(folder + QStringLiteral("/holiday.jpg"), "x");
+                    writeFile(folder + "/holiday.jpg"_s, "x");
                 const auto files = std::make_shared<StuckFiles>();
                 files->failAt = ++at;
                 files->andAllBehind = fromThere;
@@ -140,7 +136,7 @@ private Q_SLOTS:
                     QVERIFY(safe.itemCount() > 5 && safe.unreadableFiles().isEmpty());
                 else
                     QVERIFY(!safe.isOpen());
-                QCOMPARE(QFile::exists(folder + QStringLiteral("/holiday.jpg")), amongOthers);
+                QCOMPARE(QFile::exists(folder + "/holiday.jpg"_s), amongOthers);
                 // What could not be removed is named.
                 if (!opens && !amongOthers)
                     QCOMPARE(result.left.isEmpty(), snapshot(home.path()).isEmpty());
@@ -152,15 +148,15 @@ private Q_SLOTS:
     void whatADeletionLeftIsClearedAndNotListed()
     {
         const QTemporaryDir home;
-        const QString safes = home.filePath(QStringLiteral("safes"));
-        copySampleSafe(safes + QStringLiteral("/.deleted-1"));
-        copySampleSafe(safes + QStringLiteral("/one"));
-        GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
+        const QString safes = home.filePath("safes"_s);
+        copySampleSafe(safes + "/.deleted-1"_s);
+        copySampleSafe(safes + "/one"_s);
+        GPMAppSettings settings(home.filePath("config"_s), home.path());
         const KnownSafes known(settings, safes, patient());
         QCOMPARE(known.entries().size(), 1);
         SafeRemoval(known.environment()).clearUnfinished(safes);
         QCOMPARE(QDir(safes).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                 QStringList{QStringLiteral("one")});
+                 QStringList{"one"_s});
     }
 
     void whoElseHasASafeOpenIsNoticed()
@@ -180,7 +176,7 @@ private Q_SLOTS:
             // It would go on to save items under the old password.
             GPMSafe safe;
             QVERIFY(safe.open(home.path()) && safe.unlock(samplePassword));
-            QVERIFY(!safe.changePassword(QStringLiteral("new")));
+            QVERIFY(!safe.changePassword("new"_s));
             safe.lock();
             program.crash();
             QVERIFY(!SafeUse::other(home.path()));
@@ -188,13 +184,13 @@ private Q_SLOTS:
         QVERIFY(ours.take(home.path()));
         QVERIFY(!SafeUse::other(home.path()));
         ours.release();
-        QVERIFY(!QFile::exists(home.filePath(QStringLiteral(".openlock"))));
+        QVERIFY(!QFile::exists(home.filePath(".openlock"_s)));
 
         // Another computer may have left it behind, or not: the user decides.
-        writeFile(home.filePath(QStringLiteral(".openlock")), "4711\nglaceron\nattic\n");
+        writeFile(home.filePath(".openlock"_s), "4711\nglaceron\nattic\n");
         const auto other = SafeUse::other(home.path());
         QVERIFY(other && !other->isHere);
-        QCOMPARE(other->computer, QStringLiteral("attic"));
+        QCOMPARE(other->computer, "attic"_s);
         QVERIFY(!ours.take(home.path()));
         QVERIFY(ours.take(home.path(), true));
     }
@@ -204,7 +200,7 @@ private Q_SLOTS:
         const QTemporaryDir home;
         QCOMPARE(removeSafe(home.path()).outcome, SafeRemoval::Outcome::NotFound);
         copySampleSafe(home.path());
-        QLockFile archiving(home.filePath(QStringLiteral(".sourcelock")));
+        QLockFile archiving(home.filePath(".sourcelock"_s));
         QVERIFY(archiving.tryLock(0));
         QCOMPARE(removeSafe(home.path()).outcome, SafeRemoval::Outcome::Busy);
         GPMSafe safe;
@@ -214,16 +210,16 @@ private Q_SLOTS:
     void detailsTellWhatAListShows()
     {
         const QTemporaryDir home;
-        const QString one = home.filePath(QStringLiteral("one"));
-        const QString copy = home.filePath(QStringLiteral("copy"));
-        const QString other = home.filePath(QStringLiteral("other"));
+        const QString one = home.filePath("one"_s);
+        const QString copy = home.filePath("copy"_s);
+        const QString other = home.filePath("other"_s);
         copySampleSafe(one);
         copySampleSafe(copy);
         copySampleSafe(other);
-        writeFile(other + QStringLiteral("/safe.passid"), "another one");
-        QVERIFY(QDir().mkpath(home.filePath(QStringLiteral("empty"))));
-        const QStringList folders{one, copy, other, home.filePath(QStringLiteral("empty")),
-                                  home.filePath(QStringLiteral("gone"))};
+        writeFile(other + "/safe.passid"_s, "another one");
+        QVERIFY(QDir().mkpath(home.filePath("empty"_s)));
+        const QStringList folders{one, copy, other, home.filePath("empty"_s),
+                                  home.filePath("gone"_s)};
         SafeDetailsReader reader(std::make_shared<FileLayer>());
         reader.start(folders, home.path());
         QTRY_VERIFY(!reader.isReading());
@@ -253,7 +249,6 @@ private Q_SLOTS:
         row("E:/safe", true, SafePlace::FolderGone);
         row("/mediathek/ana/stick", false, SafePlace::FolderGone);
     }
-
     void aDriveIsToldFromAFolder()
     {
         QFETCH(QString, folder);

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "SafeCrypto.h"
 #include "SyncSides.h"
 

@@ -75,12 +75,12 @@ private Q_SLOTS:
     {
         m_temporary = std::make_unique<QTemporaryDir>();
         m_files = std::make_shared<FaultyFiles>();
-        m_mirror = m_temporary->filePath(QStringLiteral("cloud/mine"));
+        m_mirror = m_temporary->filePath("cloud/mine"_s);
         QVERIFY(GPMSafeSyncHelper::enableSynchronization(*m_files, m_mirror));
-        const QString one = m_temporary->filePath(QStringLiteral("one"));
-        const QString two = m_temporary->filePath(QStringLiteral("two"));
+        const QString one = m_temporary->filePath("one"_s);
+        const QString two = m_temporary->filePath("two"_s);
         QVERIFY(QDir().mkpath(one));
-        QVERIFY(GPMSafe().init(one, samplePassword, QStringLiteral("Mine"), {}));
+        QVERIFY(GPMSafe().init(one, samplePassword, "Mine"_s, {}));
         writeSafe(two, snapshot(one));
         m_one = std::make_unique<Computer>(one, m_mirror, environment());
         m_two = std::make_unique<Computer>(two, m_mirror, environment());
@@ -97,28 +97,27 @@ private Q_SLOTS:
     /// Nobody calls anything but what the windows call; the watched folder does the rest.
     void bringsEachChangeToTheOtherSafe()
     {
-        const QString id = m_one->add(QStringLiteral("first"));
+        const QString id = m_one->add("first"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
         PMListItem *shown = m_two->safe->item(id);
-        m_one->rename(id, QStringLiteral("second"));
-        QTRY_COMPARE_WITH_TIMEOUT(shown->title(), QStringLiteral("second"), quickly);
+        m_one->rename(id, "second"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(shown->title(), "second"_s, quickly);
         QVERIFY(!shown->isChanged());
-        m_one->safe->setName(QStringLiteral("Renamed"));
-        m_one->rename(id, QStringLiteral("third"));
-        QTRY_COMPARE_WITH_TIMEOUT(m_two->safe->name(), QStringLiteral("Renamed"), quickly);
+        m_one->safe->setName("Renamed"_s);
+        m_one->rename(id, "third"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(m_two->safe->name(), "Renamed"_s, quickly);
         QVERIFY(m_two->safe->removeItems({id}));
         QTRY_VERIFY_WITH_TIMEOUT(!m_one->safe->item(id), quickly);
         QTRY_VERIFY_WITH_TIMEOUT(!m_one->helper->isRunning() && !m_two->helper->isRunning(),
                                  quickly);
-        QVERIFY(QDir(m_mirror + QStringLiteral("/content")).isEmpty());
+        QVERIFY(QDir(m_mirror + "/content"_s).isEmpty());
     }
 
     void looksOnUnlock()
     {
         m_two->safe->lock();
-        const QString id = m_one->add(QStringLiteral("first"));
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_mirror + QStringLiteral("/content/") + id),
-                                 quickly);
+        const QString id = m_one->add("first"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_mirror + "/content/"_s + id), quickly);
         QVERIFY(!m_two->safe->item(id));
         QVERIFY(m_two->safe->unlock(samplePassword));
         QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
@@ -127,15 +126,15 @@ private Q_SLOTS:
     /// An edit in memory that is not saved when the other side's comes in: both stay.
     void keepsAnEditThatIsNotSaved()
     {
-        const QString id = m_one->add(QStringLiteral("first"));
+        const QString id = m_one->add("first"_s);
         QTRY_VERIFY_WITH_TIMEOUT(m_two->safe->item(id), quickly);
-        m_two->safe->item(id)->setTitle(QStringLiteral("typed"));
+        m_two->safe->item(id)->setTitle("typed"_s);
         m_two->safe->touchItem(*m_two->safe->item(id));
-        m_one->rename(id, QStringLiteral("theirs"));
+        m_one->rename(id, "theirs"_s);
         const auto hasBoth = [](const Computer &computer) {
             const QStringList titles = computer.titles();
-            return titles.size() == 2 && titles.first().startsWith(QStringLiteral("theirs (")) &&
-                   titles.last() == QStringLiteral("typed");
+            return titles.size() == 2 && titles.first().startsWith("theirs ("_s) &&
+                   titles.last() == "typed"_s;
         };
         QTRY_VERIFY_WITH_TIMEOUT(hasBoth(*m_two), quickly);
         QTRY_VERIFY_WITH_TIMEOUT(hasBoth(*m_one), quickly);

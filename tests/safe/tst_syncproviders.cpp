@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "DeletedList.h"
 #include "ItemTimes.h"
 #include "PMLogin.h"

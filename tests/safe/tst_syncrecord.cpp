@@ -14,30 +14,28 @@ private Q_SLOTS:
     void keepsWhatItKnows()
     {
         SyncRecord record;
-        record.files.insert(QStringLiteral("content/a"),
-                            {QStringLiteral("h"), {7, 11}, {7, 13}, 5, {2, 4}});
-        record.unread.insert(QStringLiteral("b"), {QStringLiteral("i"), {3, 17}, 9, true, false});
-        record.former.insert(QStringLiteral("a"), {QStringLiteral("j"), QStringLiteral("k")});
-        record.setPassId(QStringLiteral("first"));
-        record.setPassId(QStringLiteral("second"));
-        record.addDeletions({{QStringLiteral("x"), {1600000000123, 0, {8, 1}}}});
+        record.files.insert("content/a"_s, {"h"_s, {7, 11}, {7, 13}, 5, {2, 4}});
+        record.unread.insert("b"_s, {"i"_s, {3, 17}, 9, true, false});
+        record.former.insert("a"_s, {"j"_s, "k"_s});
+        record.setPassId("first"_s);
+        record.setPassId("second"_s);
+        record.addDeletions({{"x"_s, {1600000000123, 0, {8, 1}}}});
         const std::optional<SyncRecord> read = SyncRecord::fromJson(record.toJson());
         QVERIFY(read);
         QVERIFY(*read == record);
-        QCOMPARE(read->earlierPassIds, QStringList{QStringLiteral("first")});
-        const SyncRecord::File file = read->files.value(QStringLiteral("content/a"));
-        QCOMPARE(file.hash, QStringLiteral("h"));
+        QCOMPARE(read->earlierPassIds, QStringList{"first"_s});
+        const SyncRecord::File file = read->files.value("content/a"_s);
+        QCOMPARE(file.hash, "h"_s);
         QVERIFY(file.local == (FileStamp{7, 11}) && file.mirror == (FileStamp{7, 13}));
         QCOMPARE(file.modified, 5);
-        QCOMPARE(read->deletions.value(QStringLiteral("x")).time, 1600000000123);
+        QCOMPARE(read->deletions.value("x"_s).time, 1600000000123);
     }
 
     void refusesDamage_data()
     {
         QTest::addColumn<QByteArray>("json");
         SyncRecord record;
-        record.files.insert(QStringLiteral("content/a"),
-                            {QStringLiteral("h"), {7, 11}, {7, 13}, 5});
+        record.files.insert("content/a"_s, {"h"_s, {7, 11}, {7, 13}, 5});
         const QByteArray good = record.toJson();
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("cut short") << good.left(good.size() / 2);
@@ -45,7 +43,6 @@ private Q_SLOTS:
             << QByteArray(good).replace("\"version\":1", "\"version\":2");
         QTest::newRow("something else") << QByteArray("{\"name\":\"safe\"}");
     }
-
     void refusesDamage()
     {
         QFETCH(const QByteArray, json);
@@ -54,7 +51,7 @@ private Q_SLOTS:
 
     void joinsDeletionsInAnyOrder()
     {
-        const QString id = QStringLiteral("x");
+        const QString id = "x"_s;
         const SyncRecord::Deletions first{{id, {100, 0}}};
         const SyncRecord::Deletions second{{id, {50, 100}}};
         SyncRecord one;
@@ -73,12 +70,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("item"); // empty: none of the safe's
         QTest::addColumn<bool>("conflictCopy");
-        const QString id = QStringLiteral("00000000-0000-000b-0000-00000000a234");
+        const QString id = "00000000-0000-000b-0000-00000000a234"_s;
         const auto row = [&id](const char *title, const char *ending, const QString &item,
                                bool conflictCopy) {
             QTest::newRow(title) << id + QString::fromUtf8(ending) << item << conflictCopy;
         };
-        const QString next = id + QStringLiteral(".12");
+        const QString next = id + ".12"_s;
         row("item", "", id, false);
         row("later generation", ".12", next, false);
         row("plain copy", " (conflicted copy 2026-01-31)", id, true);
@@ -102,11 +99,10 @@ private Q_SLOTS:
         row("interrupted write of a generation", ".1.AbCdEf", {}, false);
         row("user's copy", " (copy)", {}, false);
         row("no number", ".012", {}, false);
-        QTest::newRow("user's file") << QStringLiteral("notes.txt") << QString() << false;
+        QTest::newRow("user's file") << "notes.txt"_s << QString() << false;
         QTest::newRow("description's copy")
-            << QStringLiteral("safe (conflicted copy 2026-01-31).meta") << QString() << false;
+            << "safe (conflicted copy 2026-01-31).meta"_s << QString() << false;
     }
-
     void knowsNames()
     {
         QFETCH(const QString, name);
@@ -119,7 +115,7 @@ private Q_SLOTS:
 
     void knowsCopiesOfOtherFiles()
     {
-        const QString original = QStringLiteral("safe.meta");
+        const QString original = "safe.meta"_s;
         for (const char *copy :
              {"safe (conflicted copy 2026-01-31).meta", "safe.sync-conflict-20260131-101112-A.meta",
               "safe-LAPTOP.meta", "safe (1).meta", "safe.meta (Ana 2026-01-31)"})
@@ -134,10 +130,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("json");
         QTest::addColumn<QStringList>("folders");
         QTest::newRow("one") << QByteArray("{\"personal\": {\"path\": \"/a b\", \"host\": 1}}")
-                             << QStringList{QStringLiteral("/a b")};
+                             << QStringList{"/a b"_s};
         QTest::newRow("two")
             << QByteArray("{\"business\": {\"path\": \"/w\"}, \"personal\": {\"path\": \"/h/\"}}")
-            << QStringList{QStringLiteral("/h"), QStringLiteral("/w")};
+            << QStringList{"/h"_s, "/w"_s};
         QTest::newRow("no path") << QByteArray("{\"personal\": {\"host\": 1}}") << QStringList();
         QTest::newRow("not absolute")
             << QByteArray("{\"personal\": {\"path\": \"box\"}}") << QStringList();
@@ -145,7 +141,6 @@ private Q_SLOTS:
             << QByteArray("{\"personal\": {\"path\": 5}, \"business\": 3}") << QStringList();
         QTest::newRow("damaged") << QByteArray("{\"personal\": {\"path\": \"/a") << QStringList();
     }
-
     void findsTheFoldersOfAccounts()
     {
         QFETCH(const QByteArray, json);
@@ -158,22 +153,21 @@ private Q_SLOTS:
 
     void looksWhereTheProviderWrites()
     {
-        QCOMPARE(providerInfoFiles(QStringLiteral("C:/R"), QStringLiteral("C:/L"), {}),
-                 QStringList({QStringLiteral("C:/R/Dropbox/info.json"),
-                              QStringLiteral("C:/L/Dropbox/info.json")}));
-        QCOMPARE(providerInfoFiles({}, {}, QStringLiteral("/home/a")),
-                 QStringList{QStringLiteral("/home/a/.dropbox/info.json")});
+        QCOMPARE(providerInfoFiles("C:/R"_s, "C:/L"_s, {}),
+                 QStringList({"C:/R/Dropbox/info.json"_s, "C:/L/Dropbox/info.json"_s}));
+        QCOMPARE(providerInfoFiles({}, {}, "/home/a"_s),
+                 QStringList{"/home/a/.dropbox/info.json"_s});
 
         // A folder that is gone and an unreadable file are passed over.
         const QTemporaryDir folder;
-        const QString gone = folder.filePath(QStringLiteral("gone.json"));
-        const QString good = folder.filePath(QStringLiteral("good.json"));
+        const QString gone = folder.filePath("gone.json"_s);
+        const QString good = folder.filePath("good.json"_s);
         writeFile(gone, "{\"personal\": {\"path\": \"/there/is/no/such/folder\"}}");
         writeFile(good,
                   QByteArray("{\"business\": {\"path\": \"") + folder.path().toUtf8() + "\"}}");
         FileLayer files;
         const QVector<SyncFolder> found =
-            providerFolders(files, {folder.filePath(QStringLiteral("missing.json")), gone, good});
+            providerFolders(files, {folder.filePath("missing.json"_s), gone, good});
         QCOMPARE(found.size(), 1);
         QCOMPARE(found.first().path, folder.path());
         QCOMPARE(found.first().account, SyncFolder::Account::Business);
@@ -182,15 +176,15 @@ private Q_SLOTS:
     void findsSafes()
     {
         const QTemporaryDir cloud;
-        copySampleSafe(cloud.filePath(QStringLiteral("mine")));
-        copySampleSafe(cloud.filePath(QStringLiteral("arriving")));
-        QVERIFY(QFile::remove(cloud.filePath(QStringLiteral("arriving/safe.passid"))));
-        QVERIFY(QDir().mkpath(cloud.filePath(QStringLiteral("photos"))));
+        copySampleSafe(cloud.filePath("mine"_s));
+        copySampleSafe(cloud.filePath("arriving"_s));
+        QVERIFY(QFile::remove(cloud.filePath("arriving/safe.passid"_s)));
+        QVERIFY(QDir().mkpath(cloud.filePath("photos"_s)));
         FileLayer files;
-        for (const QString &place : {cloud.path(), cloud.filePath(QStringLiteral("mine"))}) {
+        for (const QString &place : {cloud.path(), cloud.filePath("mine"_s)}) {
             const QVector<MirroredSafe> safes = mirroredSafes(files, place);
             QCOMPARE(safes.size(), 1);
-            QCOMPARE(safes.first().path, cloud.filePath(QStringLiteral("mine")));
+            QCOMPARE(safes.first().path, cloud.filePath("mine"_s));
             QVERIFY(!safes.first().name.isEmpty() && safes.first().created > 0);
         }
     }

@@ -1,3 +1,4 @@
+#include "../Text.h"
 #include "SyncSides.h"
 
 #include <sys/stat.h>
