@@ -19,6 +19,16 @@ void leaveLoneCards(const QVector<FormField> &fields, const QVector<FieldReading
     }
 }
 
+void splitExpiry(QVector<FieldKind> &kinds)
+{
+    for (int i = 0; i + 1 < kinds.size(); ++i) {
+        if (kinds.at(i) != FieldKind::CardExpiry || kinds.at(i + 1) != FieldKind::CardExpiry)
+            continue;
+        kinds[i] = FieldKind::CardMonth;
+        kinds[i + 1] = FieldKind::CardYear;
+    }
+}
+
 void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                     QVector<FieldKind> &kinds)
 {

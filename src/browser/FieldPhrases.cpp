@@ -90,6 +90,15 @@ public:
         });
     }
 
+    /// Whether a hyphen alone stands between the word and the next.
+    bool isTiedToNext(int i) const
+    {
+        if (i < 0 || i + 1 >= m_words.size())
+            return false;
+        const QChar *end = m_words.at(i).data() + m_words.at(i).size();
+        return m_words.at(i + 1).data() == end + 1 && *end == QLatin1Char('-');
+    }
+
 private:
     void append(int from, int to) { m_words.append(QStringView(m_plain).mid(from, to - from)); }
 
@@ -248,6 +257,12 @@ bool isOfStrangerBehind(const Words &words, int from, int count)
     return isStrange(words, behind);
 }
 
+/// "Land-mark", "PLZ-Suche": what is tied to it is the main word.
+bool isTied(const Words &words, int from, int count)
+{
+    return words.isTiedToNext(from + count - 1) && isStrange(words, from + count);
+}
+
 bool isEnglish(const Words &words, int i)
 {
     return isIn(englishHeads(), words, i);
@@ -276,7 +291,8 @@ bool isOfStranger(const Words &words, int from, const PhraseBook<FieldKind>::Phr
                   int known)
 {
     const int count = phrase.words.size();
-    if (isOfStrangerBefore(words, from, count, known) || isTurned(words, from, count))
+    if (isOfStrangerBefore(words, from, count, known) || isTurned(words, from, count) ||
+        isTied(words, from, count))
         return true;
     // An example names a street: "rue des Lilas".
     return phrase.kind != FieldKind::AddressLine1 && isOfStrangerBehind(words, from, count);

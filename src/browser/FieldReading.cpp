@@ -115,7 +115,8 @@ FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
 bool isOfOther(const TextMeaning &meaning, FieldKind kind)
 {
     if (!isIdentityKind(kind) && kind != FieldKind::SomeName && kind != FieldKind::CardNumber &&
-        kind != FieldKind::CardExpiry && kind != FieldKind::SomeNumber && !isPerhapsKind(kind))
+        kind != FieldKind::CardExpiry && kind != FieldKind::SomeNumber && !isPerhapsKind(kind) &&
+        kind != FieldKind::Password && kind != FieldKind::NewPassword)
         return false;
     // "Place, date" is signed.
     const bool isPlace = kind == FieldKind::City || kind == FieldKind::AddressLine1;

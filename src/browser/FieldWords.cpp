@@ -47,7 +47,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "=arrival|arrival time|check in|check out|check in date|check out date|checkin|checkout date|=departure|return date|delivery date|"
      "start date|end date|date established|established|appointment|date of issue|issue date|date of expiry|=from|=to|=destination|=origin|"
      "time zone|timezone|language|sprache|idioma|langue|currency|rating|employees|number of employees|numemployees|company size|team size|size of company|"
-     "=extension|=ext|in honor of|honoree|=client|=tenant|=domain|colonia|=age|=alter|=edad|=hint|"
+     "last four|last 4|last four digits|last 4 digits|=extension|=ext|in honor of|honoree|=client|=tenant|=domain|colonia|=age|=alter|=edad|=hint|"
      "титул|titel|phone extension|estado civil|marital status"},
 
     {FieldKind::BankAccount, "iban|bic|swift|swift code|routing number|sort code|bankleitzahl|blz|verwendungszweck"},
@@ -225,7 +225,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::Password, "wachtwoord|hasło|senha"},
     {FieldKind::CardNumber, "kaartnummer|numero della carta|numero carta|numero do cartao|numer karty"},
     {FieldKind::CardHolder,
-     "naam op de kaart|naam op kaart|intestatario|intestatario della carta|titolare della carta|nome sulla carta|nome no cartao|nome impresso no cartao|"
+     "naam op de kaart|naam op kaart|nome titolare carta|nome titolare|titolare carta|nombre de tarjeta|nombre de la tarjeta|intestatario|intestatario della carta|titolare della carta|nome sulla carta|nome no cartao|nome impresso no cartao|"
      "imie i nazwisko na karcie"},
     {FieldKind::CardExpiry, "vervaldatum|data di scadenza|validade|data de validade|data waznosci"},
     {FieldKind::CardCode, "beveiligingscode|codice di sicurezza|codigo de seguranca|kod bezpieczenstwa"},
@@ -277,7 +277,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::AddressLine1, "nombre de la via|nombre de la calle|nom de la rue|nom de la voie|name der strasse|name of street"},
     {FieldKind::FullName, "имя получателя|имя и отчество|recipient s name|recipient full name|applicant name"},
     {FieldKind::PostalCode, "eircode|address by postcode|postcode lookup|by postcode|postcode zip"},
-    {FieldKind::AddressLine2, "nr lokalu|nr mieszkania|numer mieszkania|numer lokalu|flat|flat number|flat no|piso y puerta|piso puerta|piso puerta escalera|apt no|apartment number|unit no|suite number|door number|complemento|=офис|numero interior|depto"},
+    {FieldKind::AddressLine2, "nr lokalu|nr mieszkania|numer mieszkania|numer lokalu|flat|flat number|flat no|piso y puerta|piso puerta|piso puerta escalera|apt no|apartment number|unit no|suite number|door number|complemento|indirizzo 2|indirizzo riga 2|direccion 2|adresse 2|=офис|numero interior|depto"},
 
     // Languages of neighbours further away.
     {FieldKind::FirstName, "fornamn|fornavn|etunimi|jmeno|krestni jmeno|keresztnev|prenume|ім я"},

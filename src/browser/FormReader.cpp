@@ -17,6 +17,8 @@ namespace {
 
 /// How many fields away a neighbour still counts.
 constexpr int nearby = 4;
+/// What takes fewer letters is a part of a number.
+constexpr int shortestPhone = 5;
 
 /// Reads the fields of a form one after another, each with what is known of those around it.
 class Reader
@@ -56,6 +58,7 @@ public:
             readNeighbours(i);
         for (int i = 0; i < m_fields.size(); ++i)
             readWholeName(i);
+        splitExpiry(m_kinds);
         leaveLoneCards(m_fields, m_readings, m_kinds);
         leaveGiftCards(m_fields, m_readings, m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
@@ -278,6 +281,8 @@ void Reader::readNeighbours(int at)
             m_kinds[at] = FieldKind::PhoneLine;
         else if (before == FieldKind::PhoneCode)
             m_kinds[at] = FieldKind::PhoneNumber;
+        else if (m_fields.at(at).maxLength() > 0 && m_fields.at(at).maxLength() < shortestPhone)
+            m_kinds[at] = FieldKind::Other;
         return;
     case FieldKind::PhoneArea:
         if (kindAt(at + 1) != FieldKind::Phone && kindAt(at + 1) != FieldKind::PhonePrefix &&

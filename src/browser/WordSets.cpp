@@ -34,6 +34,7 @@ const WordSet &harmlessWords()
         "ваш ваша ваше ваши вашу вашего твой твоя мой моя и или для на по с в введите укажите доставки регистрации проживания клиента заказчика покупателя "
         "пользователя плательщика владельца держателя получателя отправителя связи телефона карты почты оплаты чека заказа пассажира участника пациента "
         "лица абонента жительства контактный контактная основной основная полный полное настоящее настоящая "
+        "credito debito pagamento carta telefono cellulare posta cartao telefone celular bancaria bancaire bancario banque "
         "il lo gli tuo tua suo sua di e per inserisci spedizione fatturazione consegna residenza "
         "seu sua teu o os e ou da do dos das para com digite informe cobranca entrega envio residencial "
         "je jouw uw mijn de het een en of voor vul din ditt dina ange mitt min och eller for att twoj twoja podaj moj i lub adres senin adin vas vase ve");
@@ -51,7 +52,7 @@ const WordSet &turningWords()
 {
     static const WordSet words("type types kind kinds format formats preference preferences frequency option options verification status source history rating "
                                "provider carrier consent permission alert alerts notification notifications updates settings visibility privacy lookup finder "
-                               "filter sort count total tax group category language currency design style level reason label nickname "
+                               "filter sort count total tax group category language currency design style level reason label nickname hint hints strength reminder "
                                "art typ tipo tipos genre format formato clase choix eleccion formato forma вид тип формат способ rodzaj");
     return words;
 }

@@ -205,7 +205,8 @@ void TestFormAnalysis::identities_data()
          "Project name|Pet's name|Name of the school|Name des Kindes|Nombre de la mascota|"
          "Nom du projet|Имя ребёнка|Mother's first name|Manager's phone|Emergency contact phone|"
          "Alternate phone|Phone extension|Hotel address|Wallet address|City of birth|"
-         "Ville de naissance|State of issue|Country type|Type d'adresse|Тип адреса|Ort, Datum|URL "
+         "Ville de naissance|State of issue|Country type|Land-Kennzeichen|Password hint|Type "
+         "d'adresse|Тип адреса|Ort, Datum|URL "
          "photo/logo|IPv4 address|Postcode or town|Date|Event "
          "date|Suffix|Nationality");
     rows(QStringLiteral("IBAN"), FieldKind::Unknown, "Recipient|Empfänger");

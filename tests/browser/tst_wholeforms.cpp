@@ -98,6 +98,9 @@ void TestWholeForms::wholeForms_data()
         "4111111111111111|-|-");
     row(card + R"({"label":"Your name","heading":"Card details"}, {"label":"City"})",
         "4111111111111111|Ana Maria Lind|Kassel");
+    row(R"({"label":"Numero carta di credito"}, {"label":"Data di scadenza"}, {"label":"Data di scadenza"},
+           {"label":"Telefono","maxlength":3})",
+        "4111111111111111|09|2029|-");
     // A caption that is written before the next field is that one's.
     row(R"({"label":"City"}, {"textAfter":"Country"}, {"textBefore":"Country"})",
         "Kassel|-|Germany");
