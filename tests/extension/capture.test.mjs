@@ -62,6 +62,7 @@ const SENT = [
     .map((name) => `<input type=hidden name=${name}>`).join('')}</form>`).replace('<form>', '<img name=title><form class=error aria-busy=true>'), (page) => page.submit()],
   ['no form, a button', LOGIN.replaceAll('form', 'div'), (page) => page.click('button')],
   ['no form, a link', `${LOGIN.replaceAll('form', 'div')}`.replace(/button/g, 'a'), (page) => page.click('a')],
+  ['no form, a button beside the password alone', '<div><input name=user value=ana><p><input name=pw type=password><button>Log in</button></p></div>', (page) => page.click('button')],
   ['no form, a picture in a button', LOGIN.replaceAll('form', 'div').replace('Log in', '<b>Log in</b>'), (page) => page.click('b')],
 ];
 for (const [what, html, send] of SENT) {

@@ -17,16 +17,18 @@ export const isName = (field) => fieldType(field) === 'text' && NAMES.has(attr(f
 const isLine = (field) => isPassword(field) || isName(field);
 
 /** The fields that belong together around an element: those of its form, else those near it that have none. */
-export function groupAround(element, isWanted = isLine) {
+export function groupAround(element) {
   const form = matches(element, 'form') ? element : element.form;
   if (form) return [...fieldsUnder(rootOf(form))].filter((field) => field.form === form);
   let group = fieldType(element) ? [element] : [];
   for (let level = 0, block = parentOf(element); block && level < NEAR; level += 1, block = parentOf(block)) {
     group = [...fieldsUnder(block)].filter((field) => !field.form);
-    const others = group.filter((field) => field !== element && isWanted(field) && isVisible(field));
+    const others = group.filter((field) => field !== element && isLine(field) && isVisible(field));
     if (others.length > 0 || block.tagName === 'BODY') break;
   }
-  return group;
+  // A button may stand beside the password alone.
+  const password = fieldType(element) || group.some(isName) ? undefined : group.find(isPassword);
+  return password ? groupAround(password) : group;
 }
 
 /** What tells a form again after the page drew it anew: how many passwords and lines it shows, and whether new ones. */
