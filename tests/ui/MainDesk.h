@@ -48,7 +48,13 @@ struct MainDesk
     {
         return find<Widget>(*view, name);
     }
-    void click(const char *name) const { field<QAbstractButton>(name)->click(); }
+    void click(const char *name) const
+    {
+        auto *button = field<QAbstractButton>(name);
+        if (!button || !button->isVisible() || !button->isEnabled())
+            qFatal("%s cannot be pressed", name);
+        button->click();
+    }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         activate();
