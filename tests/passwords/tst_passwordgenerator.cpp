@@ -98,23 +98,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("length");
         QTest::addColumn<int>("count");
-        for (const auto &[length, count] : std::initializer_list<std::pair<int, int>>{{8, 4},
-                                                                                      {4, 1},
-                                                                                      {16, 16},
-                                                                                      {16, 3},
-                                                                                      {8, 0},
-                                                                                      {8, -1},
-                                                                                      {8, 9},
-                                                                                      {1, 1},
-                                                                                      {255, 100},
-                                                                                      {300, 200},
-                                                                                      {1024, 5},
-                                                                                      {1025, 5},
-                                                                                      {-1, 0},
-                                                                                      {-7, 3},
-                                                                                      {256, 240},
-                                                                                      {1024, 150},
-                                                                                      {30, 30}})
+        const int lengthsAndCounts[][2] = {{8, 4},      {4, 1},    {16, 16}, {16, 3},    {8, 0},
+                                           {8, -1},     {8, 9},    {1, 1},   {255, 100}, {300, 200},
+                                           {1024, 5},   {1025, 5}, {-1, 0},  {-7, 3},    {256, 240},
+                                           {1024, 150}, {30, 30}};
+        for (const auto &[length, count] : lengthsAndCounts)
             QTest::addRow("%d, %d", length, count) << length << count;
     }
     void againstReference()
