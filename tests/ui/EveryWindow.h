@@ -11,6 +11,8 @@ struct WindowCase
     /// Brings the window up, starting from the main one.
     std::function<QWidget *(Stage &)> show;
     Stage::Safe safe = Stage::Filled;
+    /// As small as it goes; else the main window is as small as two columns go.
+    bool narrow = false;
 };
 
 using Show = std::function<QWidget *(Stage &)>;

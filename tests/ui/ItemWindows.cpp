@@ -25,6 +25,23 @@ Show item(const char *title)
     };
 }
 
+QWidget *narrowList(Stage &stage)
+{
+    find<QAbstractItemView>(*stage.main, "itemList")->setFocus();
+    return stage.main;
+}
+
+/// An item in a main window that has room for one column.
+Show narrowItem(const char *title)
+{
+    return [title](Stage &stage) {
+        stage.shrink(*stage.main, true);
+        stage.choose(QLatin1String(title));
+        QTest::keyClick(find<QAbstractItemView>(*stage.main, "itemList"), Qt::Key_Right);
+        return stage.main;
+    };
+}
+
 Show editor(const char *title)
 {
     return [title](Stage &stage) {
@@ -187,6 +204,9 @@ QVector<WindowCase> itemWindows()
             {"edit-note", editor("Alarm code")},
             {"edit-ftp-account", editor("Photo archive")},
             {"edit-software-licence", editor("Page layout")},
+            {"narrow-list", narrowList, Stage::Filled, true},
+            {"narrow-item", narrowItem("Cloudmail"), Stage::Filled, true},
+            {"narrow-edit", editor("Cloudmail"), Stage::Filled, true},
             {"selection", manySelected},
             {"export", exportDialog},
             {"nothing-found", search("quite another thing")},
@@ -194,6 +214,7 @@ QVector<WindowCase> itemWindows()
             {"generator-recent", recentPasswords},
             {"health", opened("healthButton", "healthDialog")},
             {"draft-offered", offeredDraft, Stage::Interrupted},
+            {"narrow-draft-offered", offeredDraft, Stage::Interrupted, true},
             {"attachment-text", textPreview},
             {"attachment-picture", picturePreview},
             {"attachment-rename", renameDialog},

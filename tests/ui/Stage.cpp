@@ -9,6 +9,7 @@
 #include "UiSettings.h"
 #include "WindowChecks.h"
 #include "lock/PagesStack.h"
+#include "main/MainView.h"
 #include "style/Style.h"
 
 #include <QAbstractButton>
@@ -137,6 +138,7 @@ void Stage::open(const Look &look)
         startAgain();
     else
         start(look);
+    shrink(*main, false);
 }
 
 void Stage::start(const Look &look)
@@ -169,6 +171,15 @@ void Stage::startAgain()
     chooseCategory(0);
     main->findChild<PagesStack *>()->showFirstPage();
     main->activateWindow();
+}
+
+void Stage::shrink(QWidget &window, bool narrow) const
+{
+    QSize size = window.minimumSize().expandedTo(window.minimumSizeHint());
+    const auto *view = window.findChild<MainView *>();
+    if (view && !narrow)
+        size.rwidth() += view->sideBySideWidth() - view->minimumSizeHint().width();
+    window.resize(size);
 }
 
 void Stage::choose(const QString &title)

@@ -61,6 +61,9 @@ public:
     void open(const Look &look);
 
     /// Shows another item of the main window.
+    /// Makes a window as small as it goes; the main one only so far that two columns go in.
+    void shrink(QWidget &window, bool narrow) const;
+
     void choose(const QString &title);
     void chooseCategory(int row);
     /// Presses a button of the main window.

@@ -21,8 +21,10 @@ int main(int argc, char *argv[])
             look.dark = dark;
             stage->open(look);
             QWidget *window = shown.show(*stage);
-            if (window == stage->main)
+            if (window == stage->main && !shown.narrow)
                 window->resize(1080, 680);
+            else if (window == stage->main)
+                stage->shrink(*window, true);
             for (int turn = 0; window && turn < 5; ++turn)
                 QApplication::processEvents();
             const QString file = "%1/%2-%3.png"_s.arg(folder, QLatin1String(shown.name),

@@ -180,7 +180,7 @@ private:
                 faults << name + " is not shown"_s;
                 continue;
             }
-            window->resize(window->minimumSize().expandedTo(window->minimumSizeHint()));
+            stage->shrink(*window, shown.narrow);
             // Layouts within layouts settle one turn after the other.
             for (int turn = 0; turn < 5; ++turn)
                 QCoreApplication::processEvents();

@@ -197,8 +197,11 @@ private Q_SLOTS:
         QVERIFY(shown.test.createSafe());
         SecureWindow &window = *shown.window;
         QTRY_COMPARE(window.openProgress(), 1.0);
-        window.move(50, 60);
+        // Wide enough for the search to stand beside the buttons rather than below.
+        window.resize(1000, 680);
         auto *search = find<QLineEdit>(window, "searchField");
+        QTRY_VERIFY(search->width() < window.width() / 2);
+        window.move(50, 60);
         const QPoint place = search->mapTo(&window, search->rect().center());
         QVERIFY(place.y() < WindowMover::stripHeight);
         Window::drag(window, place, place + QPoint(40, 0));

@@ -27,7 +27,7 @@
 namespace {
 
 const QSize usualSize(1080, 680);
-const QSize smallestSize(812, 640);
+const QSize smallestSize(552, 528);
 const qreal pagesGone = 0.25; ///< how far open nothing is left of the lock pages
 
 } // namespace

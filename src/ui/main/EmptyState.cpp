@@ -53,6 +53,20 @@ void EmptyState::setContent(const QString &icon, const QString &title, const QSt
     m_button->setVisible(!button.isEmpty());
     m_second->setText(second);
     m_second->setVisible(!second.isEmpty());
+    fitIcon();
+}
+
+void EmptyState::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitIcon();
+}
+
+void EmptyState::fitIcon()
+{
+    // Where little height is left the words are what matters.
+    const int icon = m_icon->isHidden() ? pictureSize + Style::spacing : 0;
+    m_icon->setVisible(layout()->heightForWidth(width()) + icon <= height());
 }
 
 void EmptyState::showIcon()

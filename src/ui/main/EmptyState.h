@@ -25,8 +25,12 @@ Q_SIGNALS:
     void pressed();
     void secondPressed();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void showIcon();
+    void fitIcon();
 
     const Theme &m_theme;
     QLabel *m_icon;

@@ -15,6 +15,7 @@
 #include "widgets/ElidedLabel.h"
 #include "widgets/TextField.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -24,7 +25,8 @@
 namespace {
 
 const int smallestWidth = 264;
-const int searchIconRoom = 48; ///< of the icon and the margins of the search field
+const int smallestWordWidth = 220; ///< grows with the texts
+const int searchIconRoom = 48;     ///< of the icon and the margins of the search field
 
 /// How items come into a category that has none.
 QString emptyAdvice(const ItemCategory &category)
@@ -105,6 +107,10 @@ void ItemListPane::makeList(const Clock &clock)
     m_list->installEventFilter(this);
     connect(m_list, &QListView::doubleClicked, this, [this](const QModelIndex &index) {
         Q_EMIT activated(index.data(ItemListModel::IdRole).toString());
+    });
+    connect(m_list, &QListView::clicked, this, [this] {
+        if (QApplication::keyboardModifiers() == Qt::NoModifier)
+            Q_EMIT opened();
     });
     connect(m_list, &QWidget::customContextMenuRequested, this, &ItemListPane::requestMenu);
     m_empty = new EmptyState(m_theme, this);
@@ -215,7 +221,8 @@ void ItemListPane::setCategory(const ItemCategory &category)
 
 QSize ItemListPane::minimumSizeHint() const
 {
-    return QWidget::minimumSizeHint().expandedTo({smallestWidth, 0});
+    return QWidget::minimumSizeHint().expandedTo(
+        {qMax(smallestWidth, Style::scaled(smallestWordWidth)), 0});
 }
 
 void ItemListPane::setIconFolder(const QString &folder)
@@ -329,6 +336,11 @@ bool ItemListPane::eventFilter(QObject *watched, QEvent *event)
         if (isEnter && key->isAutoRepeat())
             return true;
         const Qt::KeyboardModifiers modifiers = key->modifiers() & ~Qt::KeypadModifier;
+        if (isEnter && modifiers == Qt::NoModifier) {
+            if (!currentId().isEmpty())
+                Q_EMIT activated(currentId());
+            return true;
+        }
         if (modifiers == Qt::NoModifier &&
             (watched == m_search ? onSearchKey(key->key()) : onListKey(key->key())))
             return true;
@@ -349,11 +361,6 @@ bool ItemListPane::onSearchKey(int key)
         if (selectedIds().isEmpty())
             m_list->setCurrentIndex(m_filter->index(0, 0));
         return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!currentId().isEmpty())
-            Q_EMIT activated(currentId());
-        return true;
     default:
         return false;
     }
@@ -362,10 +369,9 @@ bool ItemListPane::onSearchKey(int key)
 bool ItemListPane::onListKey(int key)
 {
     switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!currentId().isEmpty())
-            Q_EMIT activated(currentId());
+    case Qt::Key_Right:
+        if (!selectedIds().isEmpty())
+            Q_EMIT opened();
         return true;
     case Qt::Key_Delete:
         if (!selectedIds().isEmpty())

@@ -68,6 +68,8 @@ Q_SIGNALS:
     /// The search left other rows than before.
     void searched();
     void activated(const QString &id);
+    /// What is selected was clicked, or is to be gone into.
+    void opened();
     void removeRequested(const QStringList &ids);
     /// A menu for the selected items is to open at a place of the screen.
     void menuRequested(const QPoint &place);

@@ -157,6 +157,7 @@ void ItemPane::showEditor()
         setTabOrder(before, button);
         before = button;
     }
+    Q_EMIT editStarted(m_editedId);
     m_editor->takeFocus();
     showButtons();
 }

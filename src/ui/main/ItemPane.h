@@ -63,6 +63,8 @@ public:
     void paste();
 
 Q_SIGNALS:
+    /// The editor came up for an item; its id is empty for a new one.
+    void editStarted(const QString &id);
     /// The edited values are in the safe.
     void saved(const QString &id);
     /// A value was changed in the editor.

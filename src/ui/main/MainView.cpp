@@ -10,6 +10,7 @@
 #include "ItemNavigation.h"
 #include "ItemPage.h"
 #include "ItemPane.h"
+#include "NarrowLayout.h"
 #include "NoticeBanner.h"
 #include "SafeLayout.h"
 #include "SafeMenu.h"
@@ -68,7 +69,8 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     m_safeMenu = new SafeMenu(core, theme, this);
     m_splitter = new QSplitter(this);
     m_list = new ItemListPane(m_items, theme, m_splitter, clock);
-    m_right = new QStackedWidget(m_splitter);
+    m_side = new QWidget(m_splitter);
+    m_right = new QStackedWidget(m_side);
     m_pane = new ItemPane(core, theme, asker, m_right);
     m_pane->page().setIcons(m_list->icons());
     connect(&core, &GPMAppCore::siteIconChanged, &m_list->icons(), &SiteIcons::onUpdateFavicons);
@@ -87,6 +89,7 @@ MainView::MainView(GPMAppCore &core, const Theme &theme, Asker asker, QWidget *p
     const MainParts parts{m_items, m_actions, m_sidebar, m_list, m_right, m_pane, m_selection};
     m_navigation = new ItemNavigation(parts, this);
     m_commands = new ItemCommands(core, theme, parts, *m_navigation, this);
+    m_narrow = new NarrowLayout(parts, *m_navigation, theme, m_side, this);
     layOut();
     connectParts();
     connectCloud();
@@ -113,10 +116,8 @@ void MainView::layOut()
     m_splitter->setSizes({listWidth, 2 * listWidth});
     auto *right = new QVBoxLayout;
     right->setSpacing(0);
-    right->addWidget(m_banner);
-    right->addWidget(m_offer->banner());
-    right->addWidget(m_goneNotice);
-    right->addWidget(m_pane->attachments().banner());
+    for (QWidget *banner : banners())
+        right->addWidget(banner);
     right->addWidget(m_splitter, 1);
     auto *all = new QHBoxLayout(this);
     all->setContentsMargins({});
@@ -208,7 +209,11 @@ void MainView::addShortcuts()
         return std::bind(run, m_commands);
     };
     const QHash<int, std::function<void()>> commands = {
-        {ShortcutRow::Search, [this] { m_list->focusSearch(); }},
+        {ShortcutRow::Search,
+         [this] {
+             if (m_narrow->showList())
+                 m_list->focusSearch();
+         }},
         {ShortcutRow::CreateItem, command(&ItemCommands::createHere)},
         {ShortcutRow::EditItem, command(&ItemCommands::edit)},
         {ShortcutRow::SaveItem, command(&ItemCommands::save)},
@@ -229,9 +234,6 @@ void MainView::addShortcuts()
                 connect(new QShortcut(keys, this), &QShortcut::activated, this, run);
         }
     }
-    auto *leave = new QShortcut(QKeySequence(Qt::Key_Escape), m_pane);
-    leave->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(leave, &QShortcut::activated, m_navigation, &ItemNavigation::leaveEditor);
 }
 
 void MainView::openSafe(const std::shared_ptr<GPMSafe> &safe)
@@ -284,15 +286,15 @@ bool MainView::mayLeave()
     return m_pane->mayLeave();
 }
 
+QVector<QWidget *> MainView::banners() const
+{
+    return {m_banner, m_offer->banner(), m_goneNotice, m_pane->attachments().banner()};
+}
+
 void MainView::leaveRoom(const QSize &buttons)
 {
-    // The item's own margin adds to it.
-    const int above = 10;
-    m_pane->setContentsMargins(0, qMax(0, buttons.height() - above), 0, 0);
-    for (QWidget *banner :
-         {static_cast<QWidget *>(m_banner), static_cast<QWidget *>(m_offer->banner()),
-          static_cast<QWidget *>(m_goneNotice),
-          static_cast<QWidget *>(m_pane->attachments().banner())}) {
+    m_narrow->setRoom(buttons.height(), banners());
+    for (QWidget *banner : banners()) {
         // In the layout: the style sheet has the margins of frames to itself.
         QMargins margins = banner->layout()->contentsMargins();
         margins.setRight(Style::gap + buttons.width());
@@ -323,13 +325,22 @@ void MainView::setSetUpDone(bool done)
 QSize MainView::minimumSizeHint() const
 {
     const QSize size = SecureContent::minimumSizeHint();
-    return {Sidebar::foldedWidth() + m_splitter->minimumSizeHint().width(), size.height()};
+    const int widest = qMax(m_list->minimumSizeHint().width(), m_side->minimumSizeHint().width());
+    return {Sidebar::foldedWidth() + widest, size.height()};
+}
+
+int MainView::sideBySideWidth() const
+{
+    return Sidebar::foldedWidth() + m_list->minimumSizeHint().width() + m_splitter->handleWidth() +
+           m_side->minimumSizeHint().width();
 }
 
 void MainView::resizeEvent(QResizeEvent *event)
 {
     // Its words are the first to go where all of them do not fit.
-    m_sidebar->setFolded(width() < Sidebar::fullWidth() + m_splitter->minimumSizeHint().width());
+    const int unfolding = Sidebar::fullWidth() - Sidebar::foldedWidth();
+    m_sidebar->setFolded(width() < sideBySideWidth() + unfolding);
+    m_narrow->setNarrow(width() < sideBySideWidth());
     SecureContent::resizeEvent(event);
 }
 

@@ -19,6 +19,7 @@ class ItemListPane;
 class ItemNavigation;
 class ItemPane;
 class MoveDesk;
+class NarrowLayout;
 class NoticeBanner;
 class QSplitter;
 class QTimer;
@@ -51,6 +52,8 @@ public:
     QVariantMap place() const override;
     void goTo(const QVariantMap &place) override;
     QSize minimumSizeHint() const override;
+    /// The smallest width that holds the list and an item beside each other.
+    int sideBySideWidth() const;
     QByteArray splitterState() const override;
     void restoreSplitter(const QByteArray &state) override;
 
@@ -91,6 +94,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    QVector<QWidget *> banners() const;
     void layOut();
     void connectParts();
     void addShortcuts();
@@ -113,6 +117,7 @@ private:
     SafeMenu *m_safeMenu;
     QSplitter *m_splitter;
     ItemListPane *m_list;
+    QWidget *m_side; ///< what is shown of the items
     QStackedWidget *m_right;
     ItemPane *m_pane;
     DraftKeeper *m_keeper;
@@ -125,4 +130,5 @@ private:
     MoveDesk *m_moveDesk;
     ItemNavigation *m_navigation;
     ItemCommands *m_commands;
+    NarrowLayout *m_narrow;
 };

@@ -10,6 +10,7 @@
 namespace {
 
 const int iconSide = 20;
+const int roomyWidth = 700; ///< from which on the buttons stand beside the text
 
 } // namespace
 
@@ -17,6 +18,7 @@ NoticeBanner::NoticeBanner(const QString &icon, const Theme &theme, QWidget *par
     : QFrame(parent)
     , m_heading(makeLabel({}, "heading", this))
     , m_text(makeLabel({}, "muted", this))
+    , m_middle(new QHBoxLayout)
     , m_buttons(new QHBoxLayout)
 {
     Announcer::install();
@@ -43,13 +45,18 @@ NoticeBanner::NoticeBanner(const QString &icon, const Theme &theme, QWidget *par
     texts->addWidget(m_heading);
     texts->addWidget(m_text);
     m_buttons->setSpacing(Style::spacing);
+    m_buttons->addStretch();
+    m_middle->setSpacing(Style::spacing);
+    m_middle->addLayout(texts, 1);
+    m_middle->addLayout(m_buttons);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(Style::margin, 10, Style::gap, 10);
     row->setSpacing(Style::gap);
     row->addWidget(picture, 0, Qt::AlignTop);
-    row->addLayout(texts, 1);
-    row->addLayout(m_buttons);
+    row->addLayout(m_middle, 1);
     row->addWidget(m_close);
+    // The buttons give way to the text, which the layout does not know.
+    row->setSizeConstraint(QLayout::SetNoConstraint);
     hide();
 }
 
@@ -57,10 +64,17 @@ QPushButton *NoticeBanner::addButton(const QString &text, const char *look, cons
 {
     QPushButton *button = makeButton(text, look, this);
     button->setObjectName(QLatin1String(name));
-    m_buttons->addWidget(button);
+    m_buttons->insertWidget(m_buttons->count() - 1, button);
     // Behind the buttons for Tab too.
     setTabOrder(button, m_close);
     return button;
+}
+
+void NoticeBanner::resizeEvent(QResizeEvent *event)
+{
+    m_middle->setDirection(width() < Style::scaled(roomyWidth) ? QBoxLayout::TopToBottom
+                                                               : QBoxLayout::LeftToRight);
+    QFrame::resizeEvent(event);
 }
 
 void NoticeBanner::tell(const QString &heading, const QString &text)

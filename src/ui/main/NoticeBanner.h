@@ -24,9 +24,13 @@ public:
     /// Forgets the texts too.
     void dismiss();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QLabel *m_heading;
     QLabel *m_text;
+    QBoxLayout *m_middle; ///< texts and buttons
     QBoxLayout *m_buttons;
     QToolButton *m_close;
 };
