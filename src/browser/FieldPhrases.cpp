@@ -294,6 +294,9 @@ bool isOfStranger(const Words &words, int from, const PhraseBook<FieldKind>::Phr
     if (isOfStrangerBefore(words, from, count, known) || isTurned(words, from, count) ||
         isTied(words, from, count))
         return true;
+    if (phrase.kind == FieldKind::SomeName && words.isBesideNext(from + count - 1) &&
+        isStrange(words, from + count) && !isIn(recipientWords(), words, from + count))
+        return true;
     // An example names a street: "rue des Lilas".
     return phrase.kind != FieldKind::AddressLine1 && isOfStrangerBehind(words, from, count);
 }

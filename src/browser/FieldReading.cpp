@@ -116,7 +116,8 @@ bool isOfOther(const TextMeaning &meaning, FieldKind kind)
 {
     if (!isIdentityKind(kind) && kind != FieldKind::SomeName && kind != FieldKind::CardNumber &&
         kind != FieldKind::CardExpiry && kind != FieldKind::SomeNumber && !isPerhapsKind(kind) &&
-        kind != FieldKind::Password && kind != FieldKind::NewPassword)
+        kind != FieldKind::Password && kind != FieldKind::NewPassword &&
+        kind != FieldKind::SomeDate)
         return false;
     // "Place, date" is signed.
     const bool isPlace = kind == FieldKind::City || kind == FieldKind::AddressLine1;

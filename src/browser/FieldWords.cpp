@@ -7,7 +7,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::Never,
      "newsletter|subscribe|search|search for|search term|keyword|keywords|=query|=find|=q|suche|suchen|suchbegriff|buscar|busqueda|rechercher|recherche|"
      "поиск|искать|найти|srch|"
-     "coupon|coupon code|couponcode|voucher|voucher code|evoucher|promo|promo code|promocode|promotion code|promotional code|discount|"
+     "=domain|=hostname|coupon|coupon code|couponcode|voucher|voucher code|evoucher|promo|promo code|promocode|promotion code|promotional code|discount|"
      "discount code|discount name|gift card|giftcard|gift certificate|gift code|redeem|referral|referral code|invite code|invitation code|"
      "gutschein|gutscheincode|gutscheinnummer|rabatt|rabattcode|aktionscode|cupon|codigo promocional|codigo de descuento|"
      "tarjeta regalo|vale descuento|code promo|code promotionnel|code de reduction|bon de reduction|code cadeau|carte cadeau|"
@@ -47,7 +47,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "=arrival|arrival time|check in|check out|check in date|check out date|checkin|checkout date|=departure|return date|delivery date|"
      "start date|end date|date established|established|appointment|date of issue|issue date|date of expiry|=from|=to|=destination|=origin|"
      "time zone|timezone|language|sprache|idioma|langue|currency|rating|employees|number of employees|numemployees|company size|team size|size of company|"
-     "last four|last 4|last four digits|last 4 digits|=extension|=ext|in honor of|honoree|=client|=tenant|=domain|colonia|=age|=alter|=edad|=hint|"
+     "last four|last 4|last four digits|last 4 digits|=extension|=ext|in honor of|honoree|=client|=tenant|colonia|=age|=alter|=edad|=hint|"
      "титул|titel|phone extension|estado civil|marital status"},
 
     {FieldKind::BankAccount, "iban|bic|swift|swift code|routing number|sort code|bankleitzahl|blz|verwendungszweck"},
@@ -134,7 +134,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::FullName,
      "full name|fullname|your name|name and surname|first and last name|contact name|contact person|=contact|recipient|recipient name|"
      "addressee|customer name|real name|complete name|legal name|=author|enter address full name|"
-     "vor und nachname|name vorname|vorname nachname|vollstandiger name|ansprechpartner|empfanger|ihr name|"
+     "vor und nachname|vor und zuname|name vorname|vorname nachname|vollstandiger name|ansprechpartner|empfanger|ihr name|"
      "nombre completo|nombre y apellidos|nombre y apellido|destinatario|nom complet|nom et prenom|nom prenom|destinataire|prenom et nom|"
      "фио|ф и о|fio|получатель|полное имя|имя и фамилия|фамилия имя отчество|ваше имя|контактное лицо|как к вам обращаться"},
     {FieldKind::SomeName, "name|nom|=nm"},
@@ -160,7 +160,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "address 2|adresszusatz|=zusatz|adresserganzung|=piso|piso puerta|=complement|complement d adresse|"
      "appartement|квартира|adres 2|enter address line 2|dpto|departamento numero"},
     {FieldKind::HouseNumber,
-     "house number|house no|housenumber|=house|street number|hausnummer|hausnr|haus nr|hnr|=nr|numero exterior|numero de casa|numero de rue|"
+     "house number|house no|housenumber|=house|street number|hausnummer|hausnr|haus nr|hnr|=nr|numero exterior|numero de casa|numero de rue|n de voie|no de voie|numero de voie|numero de la voie|"
      "=дом|номер дома|=dom"},
     {FieldKind::PostalCode,
      "postal code|postalcode|postcode|post code|zip|zip code|zipcode|zip postal code|zip postal|postal|zippostalcode|=zp|bzip|pincode|pin "
@@ -183,7 +183,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::PhonePrefix, "phone exchange|exchange code|=exchange"},
     {FieldKind::PhoneLine, "phone line|phone line number|phone suffix|local phone number"},
     {FieldKind::BirthDate,
-     "date of birth|birth date|birthdate|birthday|dob|=birth|d o b|=born|geburtsdatum|geburtstag|geb datum|=geb|fecha de nacimiento|fecha nacimiento|"
+     "date of birth|birth date|birthdate|birthday|dob|=birth|d o b|=born|geburtsdatum|geburtstag|geb datum|=geb|geb am|=nee le|ne e le|fecha de nacimiento|fecha nacimiento|"
      "nacimiento|fnac|date de naissance|naissance|дата рождения|день рождения"},
     {FieldKind::BirthDay, "birth day|birthday day|dob day|dobday|day of birth|bday day|dob d|dobd|geburtstag tag|día de nacimiento"},
     {FieldKind::BirthMonth, "birth month|birthday month|dob month|dobmonth|month of birth|bday month|dob m|dobm|geburtsmonat|mes de nacimiento"},

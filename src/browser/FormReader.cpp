@@ -56,8 +56,7 @@ public:
         }
         for (int i = 0; i < m_fields.size(); ++i)
             readNeighbours(i);
-        for (int i = 0; i < m_fields.size(); ++i)
-            readWholeName(i);
+        readWholeNames(m_readings, m_kinds);
         splitExpiry(m_kinds);
         leaveLoneCards(m_fields, m_readings, m_kinds);
         leaveGiftCards(m_fields, m_readings, m_kinds);
@@ -160,7 +159,6 @@ private:
     bool isBirthOfPerson(int at) const;
     void readNeighbours(int at);
     void readVague(int at);
-    void readWholeName(int at);
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
     bool isOfPhone(int at) const;
@@ -240,7 +238,8 @@ void Reader::readDate(int at)
          captionKindOf(field.heading()) == CaptionKind::Birth || isBirthOfPerson(at));
     // No card shows the day.
     const bool isWhole = kind == FieldKind::CardExpiry && datePartsOf(field).size() == 3;
-    const bool isStrange = isVagueKind(kind) && reading(at).isStrange;
+    const bool isFurther = kind == FieldKind::SomeDate && has(FieldKind::CardExpiry);
+    const bool isStrange = isVagueKind(kind) && (reading(at).isStrange || isFurther);
     if (isWhole || (!isBirth && !isCard && (isStrange || !isNearCard(at)))) {
         m_kinds[at] = FieldKind::Other;
         return;
@@ -262,6 +261,8 @@ void Reader::readDate(int at)
     // The year often stands behind the month without a word of its own.
     if (m_kinds.at(at) == FieldKind::CardMonth && isOpen(at + 1))
         m_kinds[at + 1] = FieldKind::CardYear;
+    if (m_kinds.at(at) == FieldKind::BirthMonth && before == FieldKind::BirthDay && isOpen(at + 1))
+        m_kinds[at + 1] = FieldKind::BirthYear;
 }
 
 void Reader::readNeighbours(int at)
@@ -332,14 +333,6 @@ void Reader::readVague(int at)
     }
 }
 
-/// Who reads "name", and is not asked for another, writes the whole, whatever the code says.
-void Reader::readWholeName(int at)
-{
-    const bool isNamed = reading(at).also.contains(FieldKind::SomeName) && !reading(at).isTold;
-    if (kindAt(at) == FieldKind::FirstName && isNamed && !has(FieldKind::LastName))
-        m_kinds[at] = FieldKind::FullName;
-}
-
 /// Whether a full name is that of a card: it says so or stands under its heading, or nothing else
 /// of a person is asked for.
 bool Reader::isHolder(int at) const
@@ -373,6 +366,10 @@ FieldKind Reader::plainName(int at) const
     };
     if (isBeside(FieldKind::FirstName) && !isBeside(FieldKind::LastName))
         return FieldKind::LastName;
+    const bool follows =
+        kindAt(at - 1) == FieldKind::LastName && kindAt(at - 2) != FieldKind::FirstName;
+    if ((kindAt(at + 1) == FieldKind::LastName || follows) && !isBeside(FieldKind::FirstName))
+        return FieldKind::FirstName;
     const bool first = has(FieldKind::FirstName);
     const bool last = has(FieldKind::LastName);
     if (first && last)

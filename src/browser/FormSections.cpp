@@ -20,6 +20,8 @@ struct Section
     bool hasOtherName = false;
     /// Whether its heading speaks of nothing that the program knows.
     bool isStrange = false;
+    /// Whether its heading says that it is about the user.
+    bool isOwn = false;
 };
 
 /// Some pages write the caption of every field as a heading.
@@ -31,14 +33,24 @@ bool isCaption(int at, const QVector<FormField> &fields)
     return isSame && isAlone && !field.isRadio();
 }
 
-bool isStrangeHeading(const QString &heading)
+bool hasWordOf(const QString &heading, const WordSet &set)
 {
     const QStringList words = wordsOf(heading);
-    bool isKnown = words.isEmpty();
-    for (const QString &word : words)
-        isKnown = isKnown || headingWords().contains(word);
-    return !isKnown && hasStrangeWords(heading) &&
-           meaningOf(heading, TextSort::Prose, QString()).parts.isEmpty();
+    return std::any_of(words.begin(), words.end(),
+                       [&](const QString &word) { return set.contains(word); });
+}
+
+/// Whether nothing is known of what a heading names first: "host in the country".
+bool isStrangeHeading(const QString &heading)
+{
+    if (hasWordOf(heading, headingWords()) || !hasStrangeWords(heading))
+        return false;
+    const TextMeaning meaning = meaningOf(heading, TextSort::Prose, QString());
+    if (meaning.names(FieldKind::Password))
+        return false;
+    return meaning.parts.isEmpty() ||
+           hasStrangeWords(
+               wordsOf(heading).mid(0, meaning.parts.first().position).join(QLatin1Char(' ')));
 }
 
 void count(Section &section, FieldKind kind, const FieldReading &reading)
@@ -69,8 +81,11 @@ QVector<Section> sectionsOf(const QVector<FormField> &fields, const QVector<Fiel
         sections.last().to = i + 1;
         count(sections.last(), kinds.at(i), readings.at(i));
     }
-    for (Section &section : sections)
-        section.isStrange = isStrangeHeading(fields.at(section.from).heading());
+    for (Section &section : sections) {
+        const QString &title = fields.at(section.from).heading();
+        section.isStrange = isStrangeHeading(title);
+        section.isOwn = hasWordOf(title, ownWords()) && !hasStrangeWords(title);
+    }
     return sections;
 }
 
@@ -95,7 +110,7 @@ bool isStrangeBesideKnown(const Section &section, const QVector<Section> &sectio
 /// Whether it asks for somebody who cannot be reached, beside one who can.
 bool isUnreachableBesideReachable(const Section &section, const QVector<Section> &sections)
 {
-    return !isReachable(section) && (section.hasName || section.hasOtherName) &&
+    return !isReachable(section) && !section.isOwn && (section.hasName || section.hasOtherName) &&
            std::any_of(sections.begin(), sections.end(),
                        [](const Section &other) { return other.hasName && isReachable(other); });
 }

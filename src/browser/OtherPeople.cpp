@@ -130,7 +130,10 @@ void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReadi
     }
     if (!hasRecipient)
         return;
-    const bool isOfOther = isTransfer(readings);
+    bool isOfOther = isTransfer(readings);
+    for (int i = 0; i < kinds.size(); ++i)
+        isOfOther = isOfOther || (isOfRecipient(i) && kinds.at(i) == FieldKind::Email &&
+                                  own.contains(FieldKind::Email));
     for (int i = 0; i < kinds.size(); ++i) {
         const FieldKind group = groupOf(kinds.at(i));
         if (isOfRecipient(i) && group != FieldKind::Unknown && (isOfOther || own.contains(group)))
@@ -161,12 +164,24 @@ void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &ki
 void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
 {
     const int most = addressesIn(kinds);
-    for (const FieldKind kind : {FieldKind::FullName, FieldKind::FirstName, FieldKind::LastName}) {
-        int count = 0;
-        for (int i = 0; i < kinds.size(); ++i) {
-            if (kinds.at(i) == kind && ++count > most && !readings.at(i).isTold)
-                kinds[i] = FieldKind::Other;
-        }
+    int people = 0;
+    int families = 0;
+    for (int i = 0; i < kinds.size(); ++i) {
+        const bool isPerson =
+            kinds.at(i) == FieldKind::FullName || kinds.at(i) == FieldKind::FirstName;
+        const bool isFurther = (isPerson && ++people > most) ||
+                               (kinds.at(i) == FieldKind::LastName && ++families > most);
+        if (isFurther && !readings.at(i).isTold)
+            kinds[i] = FieldKind::Other;
+    }
+}
+
+void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+{
+    for (int i = 0; i < kinds.size() && !kinds.contains(FieldKind::LastName); ++i) {
+        const bool isNamed = readings.at(i).also.contains(FieldKind::SomeName);
+        if (kinds.at(i) == FieldKind::FirstName && isNamed && !readings.at(i).isTold)
+            kinds[i] = FieldKind::FullName;
     }
 }
 
@@ -183,7 +198,9 @@ void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &ki
             ++i;
             continue;
         }
-        if (kinds.at(from) != FieldKind::PhoneCode || i - from > 1)
+        // A question about the number is answered from a list.
+        if ((kinds.at(from) != FieldKind::PhoneCode || i - from > 1) &&
+            (fields.at(from).isLine() || i - from > 1))
             ++count;
         if (count > most && !isOwnPhone(fields.at(from)))
             std::fill(kinds.begin() + from, kinds.begin() + i, FieldKind::Other);

@@ -16,6 +16,9 @@ void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReadi
 void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 
 /// Leaves the names of further people: there are no more of the user's than there are addresses.
+/// Who reads "name", and is not asked for another, writes the whole, whatever the code says.
+void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
+
 /// Leaves the second telephone of an address empty, when it is not said to be another of the same
 /// person's: a mobile, or one at work.
 void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &kinds);

@@ -176,7 +176,7 @@ void assignSplitFields(const QVector<FormField> &fields, const QVector<FieldRead
             continue;
         const int count = partsFrom(at, fields, readings, kinds);
         const QVector<FieldKind> parts = isBirth ? birthParts(fields.at(at)) : phoneParts(count);
-        if (count < 2 || parts.size() > count)
+        if (count < 2 || parts.isEmpty() || parts.size() > count)
             continue;
         for (int i = 0; i < parts.size(); ++i)
             kinds[at + i] = parts.at(i);

@@ -52,7 +52,7 @@ const WordSet &turningWords()
 {
     static const WordSet words("type types kind kinds format formats preference preferences frequency option options verification status source history rating "
                                "provider carrier consent permission alert alerts notification notifications updates settings visibility privacy lookup finder "
-                               "filter sort count total tax group category language currency design style level reason label nickname hint hints strength reminder "
+                               "filter sort count total tax group category language currency design style level reason label nickname hint hints strength letzter letzte fruherer fruhere fruheres ehemaliger ehemalige previous former ancien ancienne precedent anterior ultimo бывший прежнии предыдущии reminder "
                                "art typ tipo tipos genre format formato clase choix eleccion formato forma вид тип формат способ rodzaj");
     return words;
 }
@@ -79,6 +79,12 @@ const WordSet &headingWords()
     return words;
 }
 
+const WordSet &ownWords()
+{
+    static const WordSet words("you your my personal applicant ihre ihr dein deine personliche personlichen vous vos votre personnelles tus sus personales ваши личные");
+    return words;
+}
+
 const WordSet &recipientWords()
 {
     static const WordSet words("recipient recipients addressee beneficiary guest guests receiver empfanger empfangers empfangerin "
@@ -87,7 +93,7 @@ const WordSet &recipientWords()
 }
 const WordSet &strangerWords()
 {
-    static const WordSet words("emergency spouse husband wife child children kid kids kin beneficiary employer reference references guarantor "
+    static const WordSet words("emergency kontoinhaber host spouse husband wife child children kid kids kin beneficiary employer reference references guarantor "
                                "cosigner notfall notfallkontakt ehepartner ehepartnerin kind kinder kindes arbeitgeber begunstigter burge emergencia conyuge hijo hijos hija "
                                "beneficiario referencia referencias empleador aval urgence conjoint enfant enfants employeur garant beneficiaire экстренный супруг "
                                "супруга супруги ребенок ребенка дети работодатель поручитель");

@@ -45,5 +45,8 @@ const WordSet &strangerWords();
 /// What stands above the part of a form that asks of the user.
 const WordSet &headingWords();
 
+/// What says that it is the user who is asked.
+const WordSet &ownWords();
+
 /// Who receives something: the user, where nobody else is asked for.
 const WordSet &recipientWords();

@@ -119,6 +119,18 @@ void TestWholeForms::wholeForms_data()
            {"label":"Name","heading":"Shipping"}, {"label":"City","heading":"Shipping"},
            {"label":"City","heading":"Billing"})",
         "Ana Lind|ana@example.com|Ana Lind|Kassel|Kassel");
+    row(R"({"label":"First name","heading":"Personal details"}, {"label":"E-mail","heading":"Contact"},
+           {"label":"Full name","heading":"Host in the country"}, {"label":"City","heading":"Host in the country"})",
+        "Ana|ana@example.com|-|-");
+    row(R"({"label":"Recipient name"}, {"label":"Recipient e-mail"}, {"label":"Your e-mail"})",
+        "-|-|ana@example.com");
+    row(R"({"label":"First name"}, {"label":"Last name"}, {"label":"Contact person"}, {"label":"Show phone number?","type":"select-one"}, {"label":"Phone"})",
+        "Ana|Lind|-|-|+49 561 12345");
+    row(R"({"label":"Name"}, {"label":"Last name"}, {"label":"City"}, {"label":"Name"}, {"label":"Last name"}, {"label":"City"})",
+        "Ana|Lind|Kassel|Ana|Lind|Kassel");
+    row(R"({"label":"Birthday","name":"day","maxlength":2}, {"name":"month","maxlength":2}, {"name":"by","maxlength":4})",
+        "01|02|1990");
+    row(card + R"({"label":"Valid until"}, {"label":"Date"})", "4111111111111111|09/29|-");
     row(R"({"label":"Nom"}, {"label":"Prénom"}, {"label":"Ville"}, {"label":"Nom"}, {"label":"Prénom"}, {"label":"Ville"})",
         "Lind|Ana|Kassel|Lind|Ana|Kassel");
     row(R"({"label":"Name","name":"firstname"}, {"label":"E-mail"})", "Ana Lind|ana@example.com");
