@@ -3,6 +3,7 @@
 #include "ArchiveReader.h"
 #include "ArchiveWriter.h"
 #include "FolderLock.h"
+#include "FolderPath.h"
 #include "SafeDescriptionFile.h"
 #include "SafeLayout.h"
 
@@ -60,7 +61,8 @@ BackupJob::Result BackupJob::backUp(const SafeFolder &safe, WorkControl &control
         return result;
     }
     const QDate today = environment.clock().toLocalTime().date();
-    const BackupName name{folderName, today, description->modified};
+    const BackupName name{folderName, today, description->modified,
+                          hasNamesake(safe.root()) ? BackupName::placeOf(safe.root()) : QString()};
     result = write(safe, result, backupFolder + QLatin1Char('/') + name.text(), control, part);
     return result;
 }
@@ -104,7 +106,7 @@ BackupJob::Result BackupJob::write(const SafeFolder &safe, Result result, const 
         qWarning() << operation << "Can't open file, left out of the backup:" << path;
     // One that may lack something does not push out an earlier one that has it.
     if (written.leftOut.isEmpty() && !writer.mixedGenerations())
-        removeOldest(target);
+        removeOldest(safe, target);
     return result;
 }
 
@@ -133,16 +135,27 @@ void BackupJob::clearUnfinished(const QString &safeFolder) const
     }
 }
 
-void BackupJob::removeOldest(const QString &newest) const
+/// Whether another safe lies in a folder of the same name.
+bool BackupJob::hasNamesake(const QString &folder) const
+{
+    return std::any_of(knownFolders.begin(), knownFolders.end(), [&folder](const QString &other) {
+        return QDir(other).dirName() == QDir(folder).dirName() && !isSameFolder(folder, other);
+    });
+}
+
+void BackupJob::removeOldest(const SafeFolder &safe, const QString &newest) const
 {
     const BackupEntry made = readBackup(*environment.files, newest);
     if (!made.good())
         return;
     QVector<BackupEntry> others =
         listBackups(*environment.files, backupFolder, made.name->safeFolder);
-    // Two safes may lie in folders of the same name; they differ in when they were created.
+    // Two safes may lie in folders of the same name; they differ in when they were created, and
+    // copies of one in where they lie.
+    const QString place = BackupName::placeOf(safe.root());
     const auto isForeign = [&](const BackupEntry &entry) {
-        return entry.path == newest || entry.description.created != made.description.created;
+        return entry.path == newest || entry.description.created != made.description.created ||
+               !(entry.name->place.isEmpty() || entry.name->place == place);
     };
     others.erase(std::remove_if(others.begin(), others.end(), isForeign), others.end());
     // Days to come are those of a clock that was wrong: such a backup is older than the one of now.

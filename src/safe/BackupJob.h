@@ -34,6 +34,7 @@ struct BackupJob
     QString backupFolder;
     int keep = 1; ///< how many backups of each safe stay; the one just written always does
     QStringList safeFolders;
+    QStringList knownFolders{}; ///< of all safes, those that are not to be backed up as well
 
     /// A failure is logged and leaves the earlier backups alone.
     QVector<Result> run(WorkControl &control) const;
@@ -46,6 +47,7 @@ private:
                  int part) const;
     Outcome check(const QString &path, WorkControl &control) const;
     void clearUnfinished(const QString &safeFolder) const;
-    void removeOldest(const QString &newest) const;
+    void removeOldest(const SafeFolder &safe, const QString &newest) const;
+    bool hasNamesake(const QString &folder) const;
     int parts() const { return 2 * safeFolders.size(); } ///< writing and checking each
 };

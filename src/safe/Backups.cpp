@@ -108,7 +108,8 @@ void Backups::start(const QStringList &safeFolders)
         waitBeforeNext(secondsAfterPostponing);
         return;
     }
-    const BackupJob job{m_environment, folder(), m_settings.backupCount(), safeFolders};
+    const BackupJob job{m_environment, folder(), m_settings.backupCount(), safeFolders,
+                        this->safeFolders()};
     const auto results = std::make_shared<QVector<BackupJob::Result>>();
     m_task = std::make_unique<WorkerTask>(
         [job, results](WorkControl &control) { *results = job.run(control); });

@@ -100,6 +100,7 @@ class TestBackups : public QObject
 
 private:
     std::unique_ptr<QTemporaryDir> m_temporary;
+    QStringList m_known;
     QString m_safe;
     QString m_folder; ///< of the backups
 
@@ -111,6 +112,7 @@ private:
         job.backupFolder = m_folder;
         job.keep = keep;
         job.safeFolders = safes;
+        job.knownFolders = m_known;
         WorkControl control;
         return job.run(control);
     }
@@ -154,6 +156,7 @@ private Q_SLOTS:
     {
         m_temporary = std::make_unique<QTemporaryDir>();
         m_folder = m_temporary->filePath(QStringLiteral("hidden/backup"));
+        m_known.clear();
         m_safe = newSafe(QStringLiteral("My_safe"), 5);
     }
 
@@ -280,6 +283,35 @@ private Q_SLOTS:
         expected = before + names(QStringLiteral("My_safe"), {QStringLiteral("20260310_300")});
         expected.sort();
         QCOMPARE(files(), expected);
+    }
+
+    void copiesInFoldersOfOneNameRotateApart()
+    {
+        const QString copy = newSafe(QStringLiteral("elsewhere/My_safe"), 5);
+        m_known = QStringList{m_safe, copy};
+        for (int day = 0; day <= 4; ++day) {
+            setModified(m_safe, 0x200 + day);
+            setModified(copy, 0x300 + day);
+            for (const BackupJob::Result &result : run(m_known, day))
+                QCOMPARE(result.state, State::Written);
+        }
+        QStringList expected;
+        for (const QString &safe : qAsConst(m_known)) {
+            for (int day = 2; day <= 4; ++day)
+                expected.append(BackupName{QStringLiteral("My_safe"), firstDay.addDays(day).date(),
+                                           (safe == copy ? 0x300 : 0x200) + day,
+                                           BackupName::placeOf(safe)}
+                                    .text());
+        }
+        expected.sort();
+        QCOMPARE(files(), expected);
+        // The copy is taken off the list: what there is of it stays.
+        m_known = QStringList{m_safe};
+        setModified(m_safe, 0x400);
+        QCOMPARE(runOne(5).state, State::Written);
+        QCOMPARE(files().size(), 6);
+        for (const QString &file : qAsConst(expected))
+            QVERIFY(!file.contains(BackupName::placeOf(copy)) || files().contains(file));
     }
 
     void aClockSetBackCostsNoNewBackup()
