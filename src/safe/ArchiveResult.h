@@ -23,7 +23,8 @@ public:
         Unsupported, ///< an entry with a password, or packed in a way that is not read
         UnsafeEntry, ///< an entry that leaves the folder, or a symbolic link
         NameTwice,
-        NoSafe, ///< there is no safe in the archive, or in the folder
+        NotArrived, ///< files of a cloud folder have not come to this computer yet
+        NoSafe,     ///< there is no safe in the archive, or in the folder
     };
     Q_ENUM(Outcome)
 

@@ -1,6 +1,7 @@
 #include "MirrorImport.h"
 
 #include "FolderLock.h"
+#include "SafeCrypto.h"
 #include "SafeDescriptionFile.h"
 #include "SafeImport.h"
 #include "SafeLayout.h"
@@ -63,6 +64,9 @@ ArchiveResult::Outcome MirrorImport::makeSafe(const QString &mirrorFolder, const
     const auto passId = files.read(mirror.path(SafeLayout::passId));
     if (!description || !passId || passId->isEmpty())
         return QFileInfo(mirrorFolder).isDir() ? Outcome::NoSafe : Outcome::NotFound;
+    // Under half of it the safe would never open.
+    if (encryptedLength(*passId) != encryptedPassIdLength)
+        return Outcome::NotArrived;
     if (!files.makeFolder(m_safesFolder))
         return Outcome::CannotWrite;
     FolderLock lock(SafeImport::lockPath(m_safesFolder));
@@ -92,7 +96,8 @@ ArchiveResult::Outcome MirrorImport::plan(const SafeFolder &mirror)
             if (file->length == 0)
                 continue;
             const QString tail = QLatin1Char('/') + file.key();
-            m_files.append({mirror.path(name) + tail, m_work.path(name) + tail, file->length});
+            m_files.append({mirror.path(name) + tail, m_work.path(name) + tail, file->length,
+                            name == SafeLayout::attachment});
         }
     };
     add(SafeLayout::attachment, listing->attachment);
@@ -108,7 +113,10 @@ ArchiveResult::Outcome MirrorImport::copyAll(WorkControl &control)
         const bool copied = copy(file, control);
         if (control.isCancelled())
             return Outcome::Cancelled;
-        if (copied)
+        if (copied && isWhole(file))
+            continue;
+        // What arrives here is left to the first meeting, too.
+        if (copied && m_environment.files->remove(file.to))
             continue;
         // Somebody has removed or replaced it meanwhile; the first meeting sees what is true.
         if (m_readFailed && !QFileInfo::exists(file.from) && QFileInfo(file.from).dir().exists()) {
@@ -134,6 +142,15 @@ bool MirrorImport::copy(const File &file, WorkControl &control)
         }
         return !control.isCancelled();
     });
+}
+
+/// Of the copy: the mirror's file may grow meanwhile.
+bool MirrorImport::isWhole(const File &file) const
+{
+    if (file.isAttachment)
+        return isWholeFile(file.to);
+    const auto text = m_environment.files->read(file.to);
+    return text && encryptedLength(*text) > 0;
 }
 
 bool MirrorImport::complete(const QByteArray &description, const QByteArray &passId)

@@ -27,12 +27,14 @@ private:
         QString from;
         QString to;
         qint64 size = 0;
+        bool isAttachment = false;
     };
 
     Outcome makeSafe(const QString &mirrorFolder, const QString &newFolder, WorkControl &control);
     Outcome plan(const SafeFolder &mirror);
     Outcome copyAll(WorkControl &control);
     bool copy(const File &file, WorkControl &control);
+    bool isWhole(const File &file) const;
     bool complete(const QByteArray &description, const QByteArray &passId);
 
     const SafeEnvironment &m_environment;

@@ -293,3 +293,27 @@ qint64 plainSize(const QString &path)
         return -1;
     return qMax<qint64>(0, file.size() - header.size() - 1);
 }
+
+int encryptedLength(const QByteArray &text)
+{
+    const int headerBehindOffset = 32;
+    const int block = 16;
+    const auto bytes = QByteArray::fromBase64Encoding(
+        text, QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
+    if (!bytes || (*bytes).isEmpty())
+        return 0;
+    const int length =
+        (*bytes).size() - static_cast<unsigned char>((*bytes).at(0)) - headerBehindOffset;
+    return length > 0 && length % block == 0 ? length : 0;
+}
+
+bool isWholeFile(const QString &path)
+{
+    const int block = 16;
+    QFile file(path);
+    Header header;
+    if (!file.open(QIODevice::ReadOnly) || !header.read(file))
+        return false;
+    const qint64 length = file.size() - header.size();
+    return length > 0 && length % block == 0;
+}

@@ -50,6 +50,16 @@ bool reencryptFile(const QString &sourcePath, const QString &destinationPath,
 /// Base64 of the SHA-256 of a file's content; empty when it cannot be read.
 QString fileHash(const QString &path);
 
+/// What encryptedLength() gives for a whole pass id.
+const int encryptedPassIdLength = 784;
+
+/// The length of what is encrypted in a text form; 0 for one that is not whole, whoever can open
+/// it.
+int encryptedLength(const QByteArray &text);
+
+/// Whether an encrypted file has the form of a whole one, whoever can open it.
+bool isWholeFile(const QString &path);
+
 /// The size of what an encrypted file holds, up to 15 above the true one, as the padding is not
 /// looked at; -1 when it cannot be read.
 qint64 plainSize(const QString &path);

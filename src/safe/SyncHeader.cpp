@@ -15,23 +15,7 @@
 
 namespace {
 
-const int passIdLength = 784;           // of what is encrypted in it
 const qint64 longestArrival = 86400000; // ms
-
-/// The length of what is encrypted in a text; 0 for one that has not arrived whole, whoever can
-/// open it.
-int encryptedLength(const QByteArray &text)
-{
-    const int headerBehindOffset = 32;
-    const int block = 16;
-    const auto bytes = QByteArray::fromBase64Encoding(
-        text, QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
-    if (!bytes || (*bytes).isEmpty())
-        return 0;
-    const int length =
-        (*bytes).size() - static_cast<unsigned char>((*bytes).at(0)) - headerBehindOffset;
-    return length > 0 && length % block == 0 ? length : 0;
-}
 
 /// Whether a file in the mirror that is not whole may still become so.
 bool mayArrive(const QString &path)
@@ -100,7 +84,7 @@ SyncHeader::PassId SyncHeader::comparePassIds()
     if (!mirror && !QFileInfo::exists(path))
         return PassId::Send;
     // Who has a later one sends it again when ours is back.
-    if (!mirror || encryptedLength(*mirror) != passIdLength)
+    if (!mirror || encryptedLength(*mirror) != encryptedPassIdLength)
         return mayArrive(path) ? PassId::Arriving : PassId::Send;
     const SafeFolder &safe = m_work.safe.folder;
     if (mirror == m_work.files().read(safe.path(SafeLayout::passId)))
@@ -271,7 +255,7 @@ void SyncHeader::clearCopies()
     const QStringList copies = copiesOf(SafeLayout::passId);
     for (const QString &copy : copies) {
         const auto bytes = readPlainFile(m_work.files(), inMirror(copy));
-        if (bytes && encryptedLength(*bytes) == passIdLength)
+        if (bytes && encryptedLength(*bytes) == encryptedPassIdLength)
             m_merged.append(inMirror(copy));
     }
     for (const QString &path : std::as_const(m_merged))

@@ -110,6 +110,14 @@ private Q_SLOTS:
         writeFile(conflict, "x");
         writeFile(path("cloud/sample/content/desktop.ini"), "x");
         writeFile(path("cloud/sample/content/00000000-0000-0000-0000-000000000002"), "");
+        // Half of an item, and of an attachment's bytes.
+        const QByteArray item =
+            contentOf(path("cloud/sample/content/00000000-0000-0001-0000-000000001234"));
+        writeFile(path("cloud/sample/content/00000000-0000-0000-0000-000000000003"),
+                  item.left(item.size() / 2 | 1));
+        const QString bytes = QStringLiteral("/attachment/00000000-0000-000b-0000-000000001234");
+        const QByteArray whole = contentOf(path("cloud/sample") + bytes);
+        writeFile(path("cloud/sample") + bytes, whole.chopped(7));
         const SafeEnvironment world;
         WorkControl control;
         const ArchiveResult result =
@@ -118,6 +126,7 @@ private Q_SLOTS:
         GPMSafe safe;
         QVERIFY(safe.open(result.path) && safe.unlock(samplePassword));
         QVERIFY(safe.unreadableFiles().isEmpty());
+        QVERIFY(!QFile::exists(result.path + bytes));
         GPMSafe original;
         QVERIFY(original.open(QStringLiteral(TEST_DATA_DIR "/safe")));
         QVERIFY(original.unlock(samplePassword));
@@ -152,6 +161,12 @@ private Q_SLOTS:
         QCOMPARE(run("cloud/sample"), ArchiveResult::Outcome::CannotWrite);
         QCOMPARE(run("cloud/none"), ArchiveResult::Outcome::NotFound);
         QCOMPARE(run("cloud"), ArchiveResult::Outcome::NoSafe);
+        const QString passId = path("cloud/sample/safe.passid");
+        const QByteArray whole = contentOf(passId);
+        // With half of it, which has the form of a whole text, the safe would never open.
+        writeFile(passId, whole.left(whole.size() / 128 * 64));
+        QCOMPARE(run("cloud/sample"), ArchiveResult::Outcome::NotArrived);
+        writeFile(passId, whole);
         files->good = true;
         files->reached = [&control] { control.cancel(); };
         QCOMPARE(run("cloud/sample"), ArchiveResult::Outcome::Cancelled);
