@@ -10,13 +10,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-/// Names the item that a copy in the trash was made of.
-const QLatin1String formerOfKey("formerOf");
-
-} // namespace
-
 ItemChanges::ItemChanges(FindSafe safe, QObject *parent)
     : QObject(parent)
     , m_safe(std::move(safe))
@@ -37,22 +30,15 @@ void ItemChanges::changed(const QString &itemId)
     changeEach({itemId}, [](PMListItem &) { return true; });
 }
 
-/// What was taken out of the trash is no copy of another item that goes when there are many.
-static void makeOwn(PMListItem &item)
-{
-    PMListItem::UnknownKeys keys = item.unknownKeys();
-    keys.publicFields.remove(formerOfKey);
-    item.setUnknownKeys(keys);
-}
-
 void ItemChanges::setDeleted(const QStringList &itemIds, bool deleted)
 {
     changeEach(itemIds, [deleted](PMListItem &item) {
         if (item.deleted() == deleted)
             return false;
-        item.setDeleted(deleted);
-        if (!deleted)
-            makeOwn(item);
+        if (deleted)
+            item.setDeleted(true);
+        else
+            takeOutOfTrash(item);
         return true;
     });
 }

@@ -243,6 +243,19 @@ private Q_SLOTS:
             QCOMPARE(desk.test.login(id)->login(), userName);
     }
 
+    /// It was a former version in the trash, which goes when there are many.
+    void whatIsSavedIsOneLikeEveryOther()
+    {
+        Desk desk;
+        const QString id = desk.addAndEdit("Shop", "bea");
+        PMLogin &login = *desk.test.login(id);
+        login.setUnknownKeys({{}, {{QStringLiteral("formerOf"), QStringLiteral("x")}}, {}});
+        login.setDeleted(true);
+        desk.click("saveButton");
+        QCOMPARE(login.login(), QStringLiteral("bea"));
+        QVERIFY(!login.deleted() && login.unknownKeys().publicFields.isEmpty());
+    }
+
     void whatWasTypedOutlivesItsItem()
     {
         Desk desk;

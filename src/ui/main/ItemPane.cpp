@@ -5,6 +5,7 @@
 #include "ItemFooter.h"
 #include "ItemPage.h"
 #include "PMLogin.h"
+#include "TrashCopy.h"
 #include "attachments/AttachmentActions.h"
 #include "attachments/AttachmentsCard.h"
 #include "drafts/DraftDocument.h"
@@ -275,7 +276,7 @@ bool ItemPane::save()
     } else if (PMListItem *item = m_core.currentSafe()->item(id)) {
         draft.writeTo(*item);
         // Who saves it wants it, although another computer moved it to the trash meanwhile.
-        item->setDeleted(false);
+        takeOutOfTrash(*item);
         m_core.modelItemChanged(id);
     }
     const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
