@@ -15,9 +15,10 @@ namespace {
 struct Question
 {
     QStringList infoFiles;
-    QStringList shared; ///< besides the provider's folders
-    QStringList safes;  ///< folders of the known safes
-    QSet<qint64> known; ///< when those were created that have not answered yet
+    QStringList shared;    ///< besides the provider's folders
+    QStringList safes;     ///< folders of the known safes
+    QSet<qint64> known;    ///< when those were created that have not answered yet
+    bool isUnsure = false; ///< of one of these that is not noted
 };
 
 bool isThere(const QString &folder, const QStringList &folders)
@@ -39,6 +40,9 @@ CloudFolders::Found search(FileLayer &files, const Question &question)
             found.others.append(folder);
         }
     }
+    // Any of them might be the one that has not answered.
+    if (question.isUnsure)
+        return found;
     QSet<qint64> known = question.known;
     for (const QString &safe : question.safes) {
         if (const auto description = readDescription(files, safe))
@@ -98,7 +102,7 @@ void CloudFolders::look()
         m_onceMore = true;
         return;
     }
-    Question question{m_infoFiles, sharedFolders(), {}, {}};
+    Question question{m_infoFiles, sharedFolders(), {}, {}, false};
     const QVector<KnownSafes::Entry> entries = m_safes.entries();
     for (const KnownSafes::Entry &entry : entries) {
         if (entry.available)
@@ -107,7 +111,7 @@ void CloudFolders::look()
         else if (entry.looking)
             question.known.insert(m_safes.facts().of(entry.folder).created);
     }
-    question.known.remove(0); // not noted
+    question.isUnsure = question.known.remove(0);
     const QStringList folders = m_safes.facts().folders();
     for (const QString &folder : folders) {
         // One that was taken off the list is still there.

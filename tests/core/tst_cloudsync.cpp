@@ -297,11 +297,20 @@ private Q_SLOTS:
         QVERIFY(three.folders.found().offers.isEmpty());
     }
 
+    void offersNoSafeThatHasNotAnsweredYet_data()
+    {
+        QTest::addColumn<bool>("isNoted");
+        QTest::newRow("known by its time") << true;
+        QTest::newRow("nothing noted of it") << false;
+    }
     void offersNoSafeThatHasNotAnsweredYet()
     {
+        QFETCH(bool, isNoted);
         share();
         const QString folder = m_one->safe->folder();
         m_one.reset();
+        if (!isNoted)
+            QVERIFY(QFile::remove(path("one/safes.json")));
         auto disk = std::make_shared<FullDisk>();
         SafeEnvironment world{systemRandom, systemTime, disk, 1000, {}, 0};
         disk->slowFile = folder + "/safe.meta"_s;
