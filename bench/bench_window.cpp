@@ -300,6 +300,8 @@ void measureWindow(const QString &folder)
     idle(idleMs);
     print("idle load with the safe open", (processorMs() - before) / idleMs * 100, "% of a core");
     measureHealth(core);
+    print("locking them, with nothing to save",
+          paintedAfter({&window}, [&] { core.lockCurrentSafe(); }));
     print("resident memory at the end", memory(), "MiB");
     fflush(stdout);
     // Without the rest: nothing is to be written.

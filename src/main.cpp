@@ -130,8 +130,10 @@ int main(int argc, char *argv[])
         if (!locked)
             closeMemoryToOthers();
     });
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &core,
-                     &GPMAppCore::lockCurrentSafe);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &core, [&core] {
+        core.lockCurrentSafe();
+        core.settleLocks();
+    });
     // The end of the session would otherwise be tried by closing windows, which only hide.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &core,

@@ -312,7 +312,7 @@ void CloudSync::removeWhenMet(const QString &safeFolder)
         m_removal.begin(safeFolder);
     };
     connect(m_safe.get(), &GPMSafe::mirrorMet, waiting, remove);
-    connect(m_safe.get(), &GPMSafe::lockedChanged, waiting, remove);
+    connect(m_safe.get(), &GPMSafe::lockSettled, waiting, remove);
 }
 
 void CloudSync::finish()

@@ -6,7 +6,6 @@
 #include <QDebug>
 #include <QDir>
 #include <QGuiApplication>
-#include <QScopeGuard>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -84,6 +83,7 @@ GPMAppCore::GPMAppCore(const Places &places, QObject *parent)
     connect(this, &GPMAppCore::safeLockedChanged, &m_siteIcons, &SiteIconDesk::follow);
     connect(&m_loginSaving, &LoginSaving::siteIconWanted, &m_siteIcons, &SiteIconDesk::download);
     connect(&m_siteIcons, &SiteIconDesk::iconChanged, this, &GPMAppCore::onUpdateFavicons);
+    connect(&m_settling, &SettlingSafes::saved, this, &GPMAppCore::tellSaveResult);
     startGuard();
 }
 
@@ -145,8 +145,16 @@ bool GPMAppCore::selectSafe(const QString &folder)
 {
     if (m_safe && m_safe->folder() == folder)
         return true;
-    setSafe(m_knownSafes.open(folder));
+    const std::shared_ptr<GPMSafe> settling = m_settling.find(folder, m_knownSafes.facts());
+    setSafe(settling ? settling : m_knownSafes.open(folder));
     return m_safe != nullptr;
+}
+
+std::shared_ptr<GPMSafe> GPMAppCore::heldSafe(const QString &folder) const
+{
+    if (m_safe && m_knownSafes.facts().isSame(m_safe->folder(), folder))
+        return m_safe;
+    return m_settling.find(folder, m_knownSafes.facts());
 }
 
 void GPMAppCore::setSafe(const std::shared_ptr<GPMSafe> &safe)
@@ -155,9 +163,12 @@ void GPMAppCore::setSafe(const std::shared_ptr<GPMSafe> &safe)
         return;
     lockCurrentSafe();
     m_lockReason.clear();
-    if (m_safe)
+    if (m_safe) {
         m_safe->disconnect(this);
+        m_settling.add(m_safe);
+    }
     m_safe = safe;
+    m_settling.letGo(m_safe);
     if (m_safe) {
         connect(m_safe.get(), &GPMSafe::unlockProgress, this, &GPMAppCore::unlockProgress);
         connect(m_safe.get(), &GPMSafe::unlockFinished, this, [this](SafeUnlock::Outcome outcome) {
@@ -166,6 +177,8 @@ void GPMAppCore::setSafe(const std::shared_ptr<GPMSafe> &safe)
             Q_EMIT unlockFinished(outcome);
         });
         connect(m_safe.get(), &GPMSafe::lockedChanged, this, &GPMAppCore::safeLockedChanged);
+        connect(m_safe.get(), &GPMSafe::lockSettled, this, &GPMAppCore::lockSettled);
+        connect(m_safe.get(), &GPMSafe::lockFailed, this, &GPMAppCore::lockFailed);
         connect(m_safe.get(), &GPMSafe::saved, this, &GPMAppCore::tellSaveResult);
     }
     Q_EMIT currentSafeChanged();
@@ -179,6 +192,7 @@ void GPMAppCore::unlockCurrentSafe(const QString &password)
 
 void GPMAppCore::cancelUnlock()
 {
+    Q_EMIT unlockCancelled();
     if (m_safe)
         m_safe->cancelUnlock();
 }
@@ -202,47 +216,6 @@ bool GPMAppCore::hasUnsavedChanges() const
     const std::vector<PMListItem *> items = m_safe->items();
     return std::any_of(items.begin(), items.end(),
                        [](const PMListItem *item) { return item->isChanged(); });
-}
-
-void GPMAppCore::lockCurrentSafe()
-{
-    lockBecause(LockReason::User);
-}
-
-void GPMAppCore::lockBecause(LockReason reason)
-{
-    // At the end of the program nobody waits for an unlocking that still runs.
-    cancelUnlock();
-    // Another program that hangs may hold the clipboard up: the safe does not wait for it.
-    const auto clearClipboard = qScopeGuard([this] {
-        if (m_settings.clearClipboard())
-            m_clipboard.clear();
-    });
-    if (!m_safe || !m_safe->isUnlocked())
-        return;
-    m_lockReason = lockReasonText(reason, m_guard.inactivityLimit());
-    Q_EMIT requestKeepDraft();
-    Q_EMIT requestLock();
-    if (m_link)
-        m_link->flow().clear();
-    m_loginSaving.clear();
-    m_safe->lock();
-    m_privateFiles.wipe();
-}
-
-void GPMAppCore::giveUpChanges()
-{
-    if (!m_safe || !m_safe->isUnlocked())
-        return;
-    m_safe->giveUpChanges();
-    Q_EMIT changesGivenUp();
-}
-
-void GPMAppCore::prepareForSessionEnd()
-{
-    Q_EMIT requestKeepDraft();
-    saveCurrentSafe();
-    m_privateFiles.wipe();
 }
 
 std::unique_ptr<PMListItem> GPMAppCore::modelCreateItem(PMListItem::Type type) const
@@ -351,6 +324,7 @@ void GPMAppCore::exitPasswordManager()
     m_import.reset();
     m_backups.stop();
     lockCurrentSafe();
+    settleLocks();
     m_cloud.finish();
     m_knownSafes.facts().store();
     // What another program still held open when the safe was locked.

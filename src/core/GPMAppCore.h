@@ -23,6 +23,7 @@
 #include "Platform.h"
 #include "PrivateFiles.h"
 #include "SessionWatch.h"
+#include "SettlingSafes.h"
 #include "SiteIconDesk.h"
 
 #include <QObject>
@@ -102,6 +103,10 @@ public:
     /// The open safe, locked or not; null while none is chosen.
     const std::shared_ptr<GPMSafe> &currentSafe() const { return m_safe; }
 
+    /// The object of the safe of a folder while there is one: the current safe, or one that was
+    /// locked and still saves.
+    std::shared_ptr<GPMSafe> heldSafe(const QString &folder) const;
+
     /// Whether a browser's extension is connected, which can be asked to fill.
     bool hasExtension() const { return m_link && m_link->hasExtension(); }
     /// For which browsers the connected extension was built; empty while none is.
@@ -153,6 +158,11 @@ public Q_SLOTS:
     void unlockCurrentSafe(const QString &password);
     void cancelUnlock();
     void lockCurrentSafe();
+    /// The same for a user who can be asked: GPMSafe::lockFailed() asks about what cannot be saved.
+    void lockForUser();
+    /// Waits until locked safes have saved what they still had, as the program is about to end.
+    /// Not for a drive that does not answer.
+    void settleLocks();
 
     /// Made once a second, in this order.
     void checkInactivity() { m_guard.checkInactivity(); }
@@ -217,7 +227,13 @@ Q_SIGNALS:
     void currentSafeChanged();
     void unlockProgress(int done, int total);
     void unlockFinished(SafeUnlock::Outcome outcome);
+    /// Who is about to unlock the safe shall not.
+    void unlockCancelled();
     void safeLockedChanged(bool locked);
+    /// The current safe, locked before, is done with what it still had to save.
+    void lockSettled();
+    /// See GPMSafe::lockFailed().
+    void lockFailed();
     void siteIconChanged(const QString &domain);
     void importProgress(qint64 done, qint64 total);
     /// `path` of the result is the folder of the new safe, which is known and locked.
@@ -243,6 +259,7 @@ private:
     void setSafe(const std::shared_ptr<GPMSafe> &safe);
     void startGuard();
     void lockBecause(LockReason reason);
+    void lockSafe(LockReason reason, GPMSafe::Unsaved unsaved);
     void tellBackupFailures(const QVector<BackupJob::Result> &results);
     void tellSaveResult(bool good, const QStringList &failedPaths);
 
@@ -272,5 +289,6 @@ private:
     LoginSaving m_loginSaving;
     std::unique_ptr<BrowserLink> m_link;
     std::unique_ptr<LinkState> m_linkState;
+    SettlingSafes m_settling;
     std::shared_ptr<GPMSafe> m_safe;
 };

@@ -32,5 +32,5 @@ private:
     KnownSafes &m_safes;
     Clock m_clock;
     std::shared_ptr<GPMSafe> m_safe;
-    SafeUse m_use;
+    std::shared_ptr<SafeUse> m_use = std::make_shared<SafeUse>();
 };

@@ -1,16 +1,20 @@
 #include "DraftStore.h"
 
+#include "FolderPath.h"
 #include "ItemFile.h"
+#include "LooseWork.h"
 #include "OwnerOnlyFile.h"
+#include "SafeFolder.h"
 
 #include <QCryptographicHash>
 #include <QDebug>
 #include <QDir>
 #include <QFutureWatcher>
-#include <QRegularExpression>
+#include <QHash>
 #include <QUuid>
 #include <QtConcurrent>
 
+#include <atomic>
 #include <utility>
 
 namespace {
@@ -19,15 +23,43 @@ namespace {
 const QLatin1String draftKey("draft");
 const QLatin1String newKeyName("new");
 const QLatin1String baseKey("base");
-/// Ends the name of a copy that is encrypted under the password to come.
-const QLatin1String nextEnding(".next");
+const QLatin1String homeKey("home");
 
-bool isKey(const QString &name)
+const int longestLookMs = 500;
+
+/// Whether the name is that of a draft: its key, and by a number the folder of its safe.
+bool isDraftName(const QString &name)
 {
-    return !QUuid::fromString(name).isNull();
+    const ItemFileName parts = ItemFileName::parse(name);
+    return !QUuid::fromString(parts.id).isNull();
+}
+
+QString hashOf(const QString &text, int bytes)
+{
+    const QByteArray hash = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.left(bytes).toHex());
+}
+
+/// Copies of a safe in folders of one name share the folder of their drafts. A number, since what
+/// an interrupted write leaves is known by its name.
+QString suffixOf(const QString &home)
+{
+    return QLatin1Char('.') + QString::number(hashOf(keyOf(home), 3).toInt(nullptr, 16) + 1);
+}
+
+/// Whether a safe lies there, or a drive does not say so in a moment.
+bool mayHoldSafe(const QString &home)
+{
+    const auto holds = std::make_shared<std::atomic<bool>>(true);
+    LooseWork look;
+    look.run([home, holds] { *holds = SafeFolder(home).holdsSafe(); }, [] {});
+    look.waitForOne(longestLookMs);
+    return *holds;
 }
 
 } // namespace
+
+const QLatin1String DraftStore::nextEnding(".next");
 
 DraftStore::DraftStore(SafeEnvironment environment, QObject *parent)
     : QObject(parent)
@@ -41,15 +73,19 @@ DraftStore::~DraftStore()
     close();
 }
 
-void DraftStore::open(const QString &safeId, const Password &password)
+QString DraftStore::folderOf(const SafeEnvironment &environment, const QString &home)
+{
+    return environment.draftsFolder + QLatin1Char('/') + hashOf(QDir(home).dirName(), 16);
+}
+
+void DraftStore::open(const QString &home, const Password &password)
 {
     m_password = password;
     m_failed = false;
     if (m_environment.draftsFolder.isEmpty())
         return;
-    const QByteArray hash = QCryptographicHash::hash(safeId.toUtf8(), QCryptographicHash::Sha256);
-    m_folder =
-        m_environment.draftsFolder + QLatin1Char('/') + QString::fromLatin1(hash.toHex().left(32));
+    m_home = home;
+    m_folder = folderOf(m_environment, home);
 }
 
 void DraftStore::close()
@@ -58,7 +94,20 @@ void DraftStore::close()
     m_password.reset();
     m_next = {};
     m_folder.clear();
+    m_onceSaved.clear();
+    m_isSealed = false;
     ++m_session;
+}
+
+void DraftStore::seal(bool sealed)
+{
+    m_isSealed = sealed;
+    ++m_session;
+}
+
+QFuture<void> DraftStore::idle()
+{
+    return QtConcurrent::run(&m_worker, [] {});
 }
 
 QString DraftStore::newKey()
@@ -68,7 +117,7 @@ QString DraftStore::newKey()
 
 QString DraftStore::filePath(const QString &key) const
 {
-    return m_folder + QLatin1Char('/') + key;
+    return m_folder + QLatin1Char('/') + key + suffixOf(m_home);
 }
 
 bool DraftStore::write(const SafeEnvironment &environment, const QString &path,
@@ -77,7 +126,8 @@ bool DraftStore::write(const SafeEnvironment &environment, const QString &path,
     PMItemDocument document = draft.document;
     document.unknown.insert(
         draftKey, QJsonObject{{newKeyName, draft.isNew},
-                              {baseKey, draft.baseModified.toUTC().toString(Qt::ISODateWithMs)}});
+                              {baseKey, draft.baseModified.toUTC().toString(Qt::ISODateWithMs)},
+                              {homeKey, draft.home}});
     return makeOwnerOnlyFolder(QFileInfo(path).path()) &&
            writeItemFile(environment, path, password, document);
 }
@@ -88,7 +138,7 @@ bool DraftStore::writeBoth(const SafeEnvironment &environment, const QString &pa
     if (next.password) {
         if (!write(environment, path + nextEnding, next.password->view(), draft))
             return false;
-        next.keys->insert(draft.key);
+        next.names->insert(QFileInfo(path).fileName());
     }
     return write(environment, path, password, draft);
 }
@@ -103,6 +153,7 @@ std::optional<KeptDraft> DraftStore::read(FileLayer &files, const QString &path,
     KeptDraft draft;
     draft.document = *document;
     draft.isNew = own.value(newKeyName).toBool();
+    draft.home = own.value(homeKey).toString();
     draft.baseModified =
         QDateTime::fromString(own.value(baseKey).toString(), Qt::ISODateWithMs).toUTC();
     return draft;
@@ -110,11 +161,11 @@ std::optional<KeptDraft> DraftStore::read(FileLayer &files, const QString &path,
 
 bool DraftStore::keep(const KeptDraft &draft)
 {
-    if (!isOpen())
+    if (!isForAll())
         return false;
     m_worker.waitForDone();
     const QString path = filePath(draft.key);
-    if (writeBoth(m_environment, path, m_password->view(), m_next, draft))
+    if (writeBoth(m_environment, path, m_password->view(), m_next, ofHere(draft)))
         return true;
     qWarning() << "DraftStore::keep"
                << "Can't write draft file:" << path;
@@ -122,6 +173,12 @@ bool DraftStore::keep(const KeptDraft &draft)
 }
 
 void DraftStore::keepAsync(const KeptDraft &draft)
+{
+    if (isForAll())
+        keepUnsaved(draft);
+}
+
+void DraftStore::keepUnsaved(const KeptDraft &draft)
 {
     if (!isOpen())
         return;
@@ -135,20 +192,34 @@ void DraftStore::keepAsync(const KeptDraft &draft)
         qWarning() << "DraftStore::keep"
                    << "Can't write draft file:" << path;
     });
-    watcher->setFuture(QtConcurrent::run(&m_worker, [environment = m_environment, path,
-                                                     password = m_password, next = m_next, draft] {
-        return writeBoth(environment, path, password->view(), next, draft);
-    }));
+    watcher->setFuture(
+        QtConcurrent::run(&m_worker, [environment = m_environment, path, password = m_password,
+                                      next = m_next, here = ofHere(draft)] {
+            return writeBoth(environment, path, password->view(), next, here);
+        }));
 }
 
 void DraftStore::remove(const QString &key)
 {
+    if (isForAll())
+        removeFiles(key);
+}
+
+void DraftStore::removeSaved()
+{
+    const QStringList keys = std::exchange(m_onceSaved, {});
+    for (const QString &key : keys)
+        removeFiles(key);
+}
+
+void DraftStore::removeFiles(const QString &key)
+{
     if (!isOpen())
         return;
     const QString path = filePath(key);
-    QtConcurrent::run(&m_worker, [files = m_environment.files, path, prepared = m_next.keys, key] {
+    QtConcurrent::run(&m_worker, [files = m_environment.files, path, prepared = m_next.names] {
         if (prepared)
-            prepared->remove(key);
+            prepared->remove(QFileInfo(path).fileName());
         for (const QString &file : {path, path + nextEnding}) {
             if (!files->remove(file))
                 qWarning() << "DraftStore::remove"
@@ -157,21 +228,51 @@ void DraftStore::remove(const QString &key)
     });
 }
 
-QStringList DraftStore::keys(const QString &folder)
+KeptDraft DraftStore::ofHere(const KeptDraft &draft) const
+{
+    KeptDraft here = draft;
+    here.home = m_home;
+    return here;
+}
+
+QStringList DraftStore::names(const QString &folder, const QString &home)
 {
     QStringList list;
-    const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
-    for (const QString &name : names) {
-        const QString key = name.endsWith(nextEnding) ? name.chopped(nextEnding.size()) : name;
-        if (isKey(key) && !list.contains(key))
-            list.append(key);
+    const QString own = suffixOf(home);
+    const QStringList files = QDir(folder).entryList(QDir::Files, QDir::Name);
+    for (const QString &file : files) {
+        const QString name = file.endsWith(nextEnding) ? file.chopped(nextEnding.size()) : file;
+        // Older ones do not name their safe.
+        const bool isOwn = name.endsWith(own) || !name.contains(QLatin1Char('.'));
+        if (isOwn && isDraftName(name) && !list.contains(name))
+            list.append(name);
     }
     return list;
 }
 
+void DraftStore::removeAll(const SafeEnvironment &environment, const QString &home,
+                           bool hasNamesake)
+{
+    if (environment.draftsFolder.isEmpty())
+        return;
+    const QString folder = folderOf(environment, home);
+    const QString own = suffixOf(home);
+    const QStringList list = names(folder, home);
+    for (const QString &name : list) {
+        if (hasNamesake && !name.endsWith(own))
+            continue;
+        for (const QString &file : {name, name + nextEnding}) {
+            if (!environment.files->remove(folder + QLatin1Char('/') + file))
+                qWarning() << "DraftStore::removeAll"
+                           << "Can't remove draft file:" << folder + QLatin1Char('/') + file;
+        }
+    }
+    QDir().rmdir(folder);
+}
+
 void DraftStore::loadAsync()
 {
-    if (!isOpen())
+    if (!isForAll())
         return;
     auto *watcher = new QFutureWatcher<Loaded>(this);
     connect(watcher, &QFutureWatcher<Loaded>::finished, this, [this, watcher, session = m_session] {
@@ -184,26 +285,28 @@ void DraftStore::loadAsync()
                        << "Can't read draft file:" << path;
         Q_EMIT loaded(result.drafts, result.unreadable);
     });
-    watcher->setFuture(QtConcurrent::run(&m_worker, [environment = m_environment, folder = m_folder,
+    watcher->setFuture(QtConcurrent::run(&m_worker, [environment = m_environment, home = m_home,
                                                      password = m_password,
                                                      changing = m_next.password != nullptr] {
-        return load(environment, folder, password->view(), changing);
+        return load(environment, home, password->view(), changing);
     }));
 }
 
-DraftStore::Loaded DraftStore::load(const SafeEnvironment &environment, const QString &folder,
+DraftStore::Loaded DraftStore::load(const SafeEnvironment &environment, const QString &home,
                                     const QByteArray &password, bool changing)
 {
     FileLayer &files = *environment.files;
-    Loaded result;
-    const QStringList names = QDir(folder).entryList(QDir::Files);
-    for (const QString &name : names) {
+    const QString folder = folderOf(environment, home);
+    const QStringList all = QDir(folder).entryList(QDir::Files);
+    for (const QString &name : all) {
         if (isInterruptedWrite(name))
             files.remove(folder + QLatin1Char('/') + name);
     }
-    const QStringList list = keys(folder);
-    for (const QString &key : list) {
-        const QString path = folder + QLatin1Char('/') + key;
+    adoptMoved(environment, home, password);
+    Loaded result;
+    const QStringList list = names(folder, home);
+    for (const QString &name : list) {
+        const QString path = folder + QLatin1Char('/') + name;
         // A change of password that was interrupted leaves two: one of them opens.
         std::optional<KeptDraft> draft = read(files, path + nextEnding, password);
         if (draft) {
@@ -217,68 +320,34 @@ DraftStore::Loaded DraftStore::load(const SafeEnvironment &environment, const QS
             result.unreadable.append(path);
             continue;
         }
-        draft->key = key;
+        draft->key = ItemFileName::parse(name).id;
+        if (!name.endsWith(suffixOf(home)))
+            files.replace(path, path + suffixOf(home));
         result.drafts.append(*draft);
     }
     return result;
 }
 
-QFuture<bool> DraftStore::prepareChange(const Password &newPassword)
+/// Drafts of a safe that lay in another folder and is not there any more: it is this one.
+void DraftStore::adoptMoved(const SafeEnvironment &environment, const QString &home,
+                            const QByteArray &password)
 {
-    if (!isOpen())
-        return QtConcurrent::run(&m_worker, [] { return true; });
-    m_next = {newPassword, std::make_shared<QSet<QString>>()};
-    return QtConcurrent::run(&m_worker, [environment = m_environment, folder = m_folder,
-                                         password = m_password, next = m_next] {
-        return prepare(environment, folder, password->view(), next);
-    });
-}
-
-bool DraftStore::prepare(const SafeEnvironment &environment, const QString &folder,
-                         const QByteArray &password, const Next &next)
-{
-    const QStringList list = keys(folder);
-    for (const QString &key : list) {
-        const QString path = folder + QLatin1Char('/') + key;
-        const std::optional<KeptDraft> draft = read(*environment.files, path, password);
+    FileLayer &files = *environment.files;
+    const QString folder = folderOf(environment, home);
+    const QStringList own = names(folder, home);
+    QHash<QString, bool> isTaken;
+    const QStringList all = QDir(folder).entryList(QDir::Files);
+    for (const QString &name : all) {
+        if (own.contains(name) || !isDraftName(name))
+            continue;
+        const QString path = folder + QLatin1Char('/') + name;
+        const std::optional<KeptDraft> draft = read(files, path, password);
         if (!draft)
             continue;
-        if (!write(environment, path + nextEnding, next.password->view(), *draft)) {
-            qWarning() << "DraftStore::prepareChange"
-                       << "Can't write draft file:" << path + nextEnding;
-            return false;
-        }
-        next.keys->insert(key);
+        if (!isTaken.contains(draft->home))
+            isTaken.insert(draft->home, mayHoldSafe(draft->home));
+        if (!isTaken.value(draft->home))
+            files.replace(path, folder + QLatin1Char('/') + ItemFileName::parse(name).id +
+                                    suffixOf(home));
     }
-    return true;
-}
-
-void DraftStore::commitChange()
-{
-    const Next next = std::exchange(m_next, {});
-    if (!isOpen() || !next.password)
-        return;
-    m_password = next.password;
-    QtConcurrent::run(&m_worker,
-                      [files = m_environment.files, folder = m_folder, prepared = next.keys] {
-                          for (const QString &key : qAsConst(*prepared)) {
-                              const QString path = folder + QLatin1Char('/') + key;
-                              // Where this fails, reading finds the copy.
-                              if (!files->replace(path + nextEnding, path))
-                                  qWarning() << "DraftStore::commitChange"
-                                             << "Can't replace draft file:" << path;
-                          }
-                      });
-}
-
-void DraftStore::rollBackChange()
-{
-    const Next next = std::exchange(m_next, {});
-    if (!isOpen() || !next.password)
-        return;
-    QtConcurrent::run(&m_worker,
-                      [files = m_environment.files, folder = m_folder, prepared = next.keys] {
-                          for (const QString &key : qAsConst(*prepared))
-                              files->remove(folder + QLatin1Char('/') + key + nextEnding);
-                      });
 }

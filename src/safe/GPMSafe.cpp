@@ -2,6 +2,7 @@
 
 #include "DeletedList.h"
 #include "ExportTask.h"
+#include "FolderPath.h"
 #include "ItemRemoval.h"
 #include "ItemTimes.h"
 #include "NewSafe.h"
@@ -11,8 +12,8 @@
 #include <QDebug>
 #include <QDir>
 #include <QMutexLocker>
-#include <QTimer>
 #include <QUuid>
+#include <QtConcurrent>
 
 #include <algorithm>
 #include <utility>
@@ -29,6 +30,7 @@ GPMSafe::GPMSafe(SafeEnvironment environment, QObject *parent)
         m_attachments.handOn();
     })
 {
+    connect(&m_lock.idle, &QFutureWatcher<void>::finished, this, &GPMSafe::settleOn);
     connect(&m_passwordChange, &SafePasswordChange::progress, this,
             &GPMSafe::passwordChangeProgress);
     connect(&m_passwordChange, &SafePasswordChange::finished, this,
@@ -65,7 +67,7 @@ bool GPMSafe::init(const QString &folder, const QString &password, const QString
     m_state.folder = newFolder;
     m_state.description = description;
     m_state.password = secret;
-    m_drafts.open(id(), m_state.password);
+    m_drafts.open(canonicalFolder(folder), m_state.password);
     Q_EMIT itemsReset();
     Q_EMIT lockedChanged(false);
     return true;
@@ -120,112 +122,16 @@ bool GPMSafe::writeMetaFile(const QString &targetPath)
     return written;
 }
 
-bool GPMSafe::unlock(const QString &password)
+QFuture<bool> GPMSafe::renameAsync(const QString &name)
 {
-    if (!canUnlock())
-        return false;
-    const std::unique_ptr<SafeUnlock> attempt =
-        SafeUnlock::make(m_state.environment, m_state.folder, m_state.description, password);
-    if (!attempt)
-        return false;
-    const SafeUnlock::Outcome outcome = attempt->run();
-    if (outcome == SafeUnlock::Outcome::Unlocked) {
-        takeUnlocked(*attempt);
-        return true;
-    }
-    SafeUnlock::logFailure(outcome, m_state.folder);
-    return false;
-}
-
-void GPMSafe::unlockAsync(const QString &password, const QString &mirrorFolder)
-{
-    m_unlock = canUnlock() ? SafeUnlock::make(m_state.environment, m_state.folder,
-                                              m_state.description, password)
-                           : nullptr;
-    if (!m_unlock) {
-        // Later, like every other answer.
-        QTimer::singleShot(0, this,
-                           [this] { Q_EMIT unlockFinished(SafeUnlock::Outcome::Unreadable); });
-        return;
-    }
-    m_unlock->setMirror(mirrorFolder);
-    connect(m_unlock.get(), &SafeUnlock::progress, this, &GPMSafe::unlockProgress);
-    connect(m_unlock.get(), &SafeUnlock::finished, this, &GPMSafe::onUnlockFinished);
-    m_unlock->start();
-}
-
-void GPMSafe::cancelUnlock()
-{
-    if (m_unlock)
-        m_unlock->cancel();
-}
-
-bool GPMSafe::canUnlock() const
-{
-    if (isOpen() && !isUnlocked())
-        return true;
-    qWarning() << "GPMSafe::unlock"
-               << "Safe is not open or unlocked already:" << folder();
-    return false;
-}
-
-void GPMSafe::takeUnlocked(SafeUnlock &attempt)
-{
-    m_state.password = attempt.password();
-    m_drafts.open(id(), m_state.password);
-    m_state.unreadableFiles = attempt.items().unreadableFiles();
-    FileLayer &files = *m_state.environment.files;
-    const auto former = files.read(m_state.folder.path(SafeLayout::passIdBackup));
-    m_state.changeInterrupted = attempt.items().looksInterrupted() && former &&
-                                former != files.read(m_state.folder.path(SafeLayout::passId));
-    m_state.items.exchange(attempt.items().takeEntries());
-    for (const QString &name : std::as_const(m_state.unreadableFiles))
-        qWarning() << "GPMSafe::unlock"
-                   << "Can't read item file:"
-                   << m_state.folder.contentPath(ItemFileName::parse(name));
-    Q_EMIT itemsReset();
-    Q_EMIT lockedChanged(false);
-}
-
-void GPMSafe::onUnlockFinished(SafeUnlock::Outcome outcome)
-{
-    SafeUnlock *attempt = m_unlock.release();
-    // Its own signal led here, so it goes later.
-    attempt->disconnect(this);
-    attempt->deleteLater();
-    if (outcome == SafeUnlock::Outcome::Unlocked)
-        takeUnlocked(*attempt);
-    else
-        SafeUnlock::logFailure(outcome, m_state.folder);
-    Q_EMIT unlockFinished(outcome);
-}
-
-void GPMSafe::lock()
-{
-    m_unlock.reset();
-    m_passwordChange.stop();
-    waitForWriter();
-    if (!isUnlocked())
-        return;
-    settle();
-    SaveJob::Result result;
-    if (!std::exchange(m_givesUp, false)) {
-        result = m_saving.saveNow();
-        m_saving.keepUnsaved(m_drafts);
-    }
-    m_savedAtLock = result.good();
-    m_drafts.close();
-    m_state.password.reset();
-    m_state.unreadableFiles.clear();
-    // Views let go of the items before these go.
-    ItemStore::Entries items = m_state.items.exchange({});
-    ++m_state.session;
-    Q_EMIT itemsReset();
-    items.clear();
-    Q_EMIT lockedChanged(true);
-    // Who is told of it finds the safe locked.
-    if (!result.good())
-        Q_EMIT saved(false, result.failedPaths);
+    setName(name);
+    cancelMeeting();
+    return QtConcurrent::run(&m_state.writer,
+                             [files = m_state.environment.files, root = folder(),
+                              mutex = m_state.mutex, json = m_state.description.toJson()] {
+                                 const QMutexLocker locker(mutex.get());
+                                 return writeDescription(*files, root, json);
+                             });
 }
 
 bool GPMSafe::saveChanges()
@@ -239,7 +145,8 @@ bool GPMSafe::saveChanges()
 
 void GPMSafe::saveChangesAsync()
 {
-    if (!isUnlocked())
+    // While a lock waits the safe itself still brings things in.
+    if (!m_state.isUnlocked())
         return;
     if (isChangingPassword()) {
         m_saveWaits = true;
@@ -289,6 +196,8 @@ void GPMSafe::onPasswordChangeFinished(PasswordChangeOutcome outcome)
         saveChangesAsync();
     m_attachments.addWaiting();
     Q_EMIT passwordChangeFinished(outcome);
+    if (m_lock.step == Lock::UnderWay)
+        awaitWriter();
 }
 
 std::unique_ptr<ArchiveTask> GPMSafe::exportArchive(const QString &archivePath)
@@ -318,8 +227,11 @@ QDateTime GPMSafe::modified() const
 
 PMListItem *GPMSafe::addItem(std::unique_ptr<PMListItem> item)
 {
-    if (!isUnlocked() || !item)
-        return nullptr;
+    return isUnlocked() && item ? takeIn(std::move(item)) : nullptr;
+}
+
+PMListItem *GPMSafe::takeIn(std::unique_ptr<PMListItem> item)
+{
     if (item->id().isEmpty())
         item->setId(QUuid::createUuid().toString(QUuid::WithoutBraces));
     if (m_state.items.item(item->id()))
@@ -331,7 +243,8 @@ PMListItem *GPMSafe::addItem(std::unique_ptr<PMListItem> item)
         item->setModified(now);
     item->markChanged();
     PMListItem *added = m_state.items.add(std::move(item));
-    Q_EMIT itemAdded(added->id());
+    if (isUnlocked())
+        Q_EMIT itemAdded(added->id());
     return added;
 }
 
@@ -378,7 +291,7 @@ bool GPMSafe::commitDeleted(const QStringList &ids)
 
 bool GPMSafe::meetMirror(const QString &mirrorFolder, const SyncRecord::Deletions &deleted)
 {
-    return !isChangingPassword() && m_meetings.start(mirrorFolder, deleted);
+    return isUnlocked() && !isChangingPassword() && m_meetings.start(mirrorFolder, deleted);
 }
 
 void GPMSafe::settle()
@@ -394,4 +307,5 @@ void GPMSafe::waitForWriter()
     cancelMeeting();
     m_state.writer.waitForDone();
     m_meetings.take();
+    m_saving.take();
 }

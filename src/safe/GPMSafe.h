@@ -9,6 +9,7 @@
 #include "SafeState.h"
 #include "SafeUnlock.h"
 
+#include <QFutureWatcher>
 #include <QObject>
 
 #include <functional>
@@ -44,6 +45,9 @@ public:
     /// Writes the description, to another path when one is given.
     bool writeMetaFile(const QString &targetPath = {});
 
+    /// Gives the safe another name and writes the description, behind what is being written.
+    QFuture<bool> renameAsync(const QString &name);
+
     /// Checks the password and loads the items; they are there when it returns.
     bool unlock(const QString &password);
 
@@ -54,11 +58,27 @@ public:
     void unlockAsync(const QString &password, const QString &mirrorFolder = {});
     void cancelUnlock();
 
-    /// Saves what is changed, then forgets password and items. What cannot be written is kept as a
-    /// draft, and saved() tells.
-    void lock();
-    /// The next lock neither saves nor keeps what is changed.
+    /// What a lock does with changes that cannot be written.
+    enum class Unsaved {
+        Keep, ///< keeps them as drafts
+        Ask   ///< lockFailed() asks, as long as no other lock comes in between
+    };
+
+    /// Locks at once: nothing of the safe is shown or given out any more. What is changed is saved
+    /// on the writer, which needs the password as long; then password and items are forgotten, and
+    /// lockSettled() follows. What cannot be written is kept as drafts, and saved() tells. With
+    /// nothing to write, all of that has happened when it returns.
+    void lockAsync(Unsaved unsaved = Unsaved::Keep);
+    /// The same with its end awaited.
+    void lock() { lockWithin(-1); }
+    /// @param quietMs gives up when nothing gets on for so long, and keeps drafts; -1: never
+    void lockWithin(int quietMs);
+    /// Whether a lock is still saving. Unlocking waits for it.
+    bool isSettling() const { return m_lock.step != Lock::None; }
+    /// The next lock, or the one that asks, neither saves nor keeps what is changed.
     void giveUpChanges() { m_givesUp = true; }
+    /// Unlocks the safe again, as the answer to lockFailed().
+    void reopen();
 
     /// Writes every changed item. False when one could not be written: it stays marked as changed,
     /// the others are written.
@@ -113,15 +133,21 @@ public:
     void setHint(const QString &hint) { m_state.description.hint = hint; }
 
     bool isOpen() const { return !folder().isEmpty(); }
-    bool isUnlocked() const { return m_state.isUnlocked(); }
+    bool isUnlocked() const { return m_state.isUnlocked() && !isSettling(); }
     /// Whether the last lock could save everything.
     bool savedAtLock() const { return m_savedAtLock; }
 
     /// The items in order of their ids; owned by the safe, gone when it locks.
-    std::vector<PMListItem *> items() const { return m_state.items.items(); }
+    std::vector<PMListItem *> items() const
+    {
+        return isUnlocked() ? m_state.items.items() : std::vector<PMListItem *>();
+    }
     /// Null when there is no such item.
-    PMListItem *item(const QString &id) const { return m_state.items.item(id); }
-    int itemCount() const { return m_state.items.count(); }
+    PMListItem *item(const QString &id) const
+    {
+        return isUnlocked() ? m_state.items.item(id) : nullptr;
+    }
+    int itemCount() const { return isUnlocked() ? m_state.items.count() : 0; }
 
     /// Files of the content folder that could not be read when the safe was unlocked; they are left
     /// as they are.
@@ -139,7 +165,7 @@ public:
     /// Takes a new attachment in with the bytes of an open device, which are encrypted at once.
     PMListItem *addAttachment(std::unique_ptr<PMListItem> item, QIODevice &bytes)
     {
-        return m_attachments.add(std::move(item), bytes);
+        return isUnlocked() ? m_attachments.add(std::move(item), bytes) : nullptr;
     }
 
     /// The same on a worker, in the order of the calls; attachmentDone() follows. Once it is in,
@@ -147,7 +173,8 @@ public:
     void addAttachmentAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
                             const QString &parentId = {})
     {
-        m_attachments.addAsync(std::move(item), source, parentId);
+        if (isUnlocked())
+            m_attachments.addAsync(std::move(item), source, parentId);
     }
 
     /// Decrypts an attachment's bytes into an open device, which is to be thrown away on failure.
@@ -159,7 +186,7 @@ public:
     /// What does so on another thread; nothing when there is no such item.
     std::optional<AttachmentReader> attachmentReader(const QString &id) const
     {
-        return m_attachments.reader(id);
+        return isUnlocked() ? m_attachments.reader(id) : std::nullopt;
     }
     /// The size of an attachment's bytes, up to 15 above the true one; -1 when they are missing.
     qint64 attachmentSize(const QString &id) const { return m_attachments.size(id); }
@@ -195,6 +222,11 @@ Q_SIGNALS:
     void itemAboutToBeRemoved(const QString &id);
     void itemRemoved(const QString &id);
     void lockedChanged(bool locked);
+    /// A lock that was to ask could not save everything. Whoever hears it answers before it
+    /// returns: lockAsync() tries again, reopen() and giveUpChanges() say so; else drafts are kept.
+    void lockFailed();
+    /// A lock is done: nothing is written any more, and nothing is held.
+    void lockSettled();
 
 private:
     bool canUnlock() const;
@@ -202,10 +234,37 @@ private:
     void onPasswordChangeFinished(PasswordChangeOutcome outcome);
     void takeUnlocked(SafeUnlock &unlock);
     void onUnlockFinished(SafeUnlock::Outcome outcome);
+    friend class MirrorMeetings;
+    friend class SafeAttachments;
+    /// addItem() for the safe's own parts, while a lock waits for them, too.
+    PMListItem *takeIn(std::unique_ptr<PMListItem> item);
     void waitForWriter();
     void settle();
+    void awaitWriter();
+    void settleOn();
+    void onLastSave();
+    bool waitForStep(int quietMs);
+    void giveUpWriting();
+    void finishLock(const SaveJob::Result &result);
+
+    /// A lock that still saves.
+    struct Lock
+    {
+        enum Step {
+            None,
+            UnderWay, ///< waits for what the writer has in hand
+            LastSave, ///< writes what is still changed
+            Asking,
+            Drafts ///< keeps what could not be written
+        };
+        Step step = None;
+        Unsaved unsaved = Unsaved::Keep;
+        bool isTold = false;       ///< lockedChanged() was emitted
+        QFutureWatcher<void> idle; ///< of the step
+    };
 
     SafeState m_state;
+    Lock m_lock;
     bool m_givesUp = false;
     bool m_savedAtLock = true;
     std::unique_ptr<SafeUnlock> m_unlock;

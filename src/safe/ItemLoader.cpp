@@ -59,7 +59,7 @@ void LoadedItems::add(const LoadedFile &file)
     const QDateTime modified = item->modified();
     Entry &entry = m_entries[file.name.id];
     if (!entry.item || entry.name.generation < file.name.generation)
-        entry = {file.name, std::move(item), modified};
+        entry = {file.name, std::move(item), modified, 0};
 }
 
 QStringList LoadedItems::unreadableFiles() const

@@ -35,7 +35,8 @@ public:
     {
         ItemFileName name;
         std::unique_ptr<PMListItem> item;
-        QDateTime written; ///< when the item had last changed as the disk has it; null for none
+        QDateTime written;  ///< when the item had last changed as the disk has it; null for none
+        quint64 queued = 0; ///< the revision that a save under way has in hand; 0 for none
     };
 
     /// Makes the item of a file. Items are made on the thread that calls this.

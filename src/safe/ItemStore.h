@@ -29,11 +29,16 @@ public:
     void remove(const QString &id) { m_entries.erase(id); }
 
     /// The name of the file that holds an item from now on.
-    void setFileName(const ItemFileName &name) { m_entries.at(name.id).name = name; }
+    void setFileName(const ItemFileName &name);
 
     /// The items with changes that are not on the disk, as values.
     QVector<SaveJob::Item> changed() const;
+    bool hasChanged() const;
+    /// The same without what a save under way has in hand, for a save that begins now.
+    QVector<SaveJob::Item> takeForSaving();
     void markSaved(const QVector<SaveJob::Item> &saved);
+    /// A save has failed: what is still changed is in nobody's hand.
+    void forgetQueued();
 
     /// An item as a change of password writes it; nothing when there is none.
     std::optional<PasswordChange::Item> forPasswordChange(const QString &id) const;
@@ -41,5 +46,7 @@ public:
     void takePasswordChange(const QVector<PasswordChange::Item> &written);
 
 private:
+    static SaveJob::Item valueOf(const LoadedItems::Entry &entry);
+
     Entries m_entries;
 };

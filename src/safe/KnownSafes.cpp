@@ -146,6 +146,14 @@ QString KnownSafes::listed(const QString &folder) const
     return same == folders.end() ? QString() : *same;
 }
 
+bool KnownSafes::hasNamesake(const QString &folder) const
+{
+    const QStringList folders = listedFolders() + unlistedFolders();
+    return std::any_of(folders.begin(), folders.end(), [&](const QString &other) {
+        return QDir(other).dirName() == QDir(folder).dirName() && !m_facts.isSame(folder, other);
+    });
+}
+
 bool KnownSafes::isFree(const QString &folder)
 {
     const QFileInfo place(folder);
@@ -185,60 +193,6 @@ std::shared_ptr<GPMSafe> KnownSafes::create(const QString &name, const QString &
     }
     remember(folder);
     return safe;
-}
-
-KnownSafes::Found KnownSafes::add(const QString &folder)
-{
-    const SafeLook look = lookNow(folder);
-    if (!look.isHere())
-        return look.place == SafePlace::NoSafe ? Found::NoSafe : Found::NotThere;
-    const bool known = !listed(folder).isEmpty();
-    remember(folder);
-    return known ? Found::KnownAlready : Found::Taken;
-}
-
-KnownSafes::Found KnownSafes::locate(const QString &goneFolder, const QString &folder)
-{
-    const SafeLook look = lookNow(folder);
-    if (!look.isHere())
-        return look.place == SafePlace::NoSafe ? Found::NoSafe : Found::NotThere;
-    const qint64 created = m_facts.of(goneFolder).created;
-    // Of a safe that was not opened since times were noted nothing is known that could be compared.
-    if (created != 0 && created != look.description->created)
-        return Found::AnotherSafe;
-    m_facts.move(goneFolder, folder);
-    dropFromList(goneFolder);
-    remember(folder);
-    return Found::Taken;
-}
-
-bool KnownSafes::rename(const QString &folder, const QString &name, GPMSafe *current)
-{
-    const std::shared_ptr<GPMSafe> closed = current ? nullptr : openAsFound(folder);
-    // What else the description says is kept as it is by now.
-    if (closed && !closed->readMetaFile())
-        return false;
-    GPMSafe *safe = current ? current : closed.get();
-    // Saving would stop a change of the password, which writes the description, too.
-    if (!safe || safe->isChangingPassword())
-        return false;
-    // A save that is under way would write the old name behind this.
-    if (safe->isUnlocked())
-        safe->saveChanges();
-    const QString former = safe->name();
-    safe->setName(name);
-    if (!safe->writeMetaFile()) {
-        safe->setName(former);
-        return false;
-    }
-    m_facts.change(folder, [&name](SafeFact &fact) { fact.name = name; });
-    if (const SafeLook *last = m_looks.at(folder); last && last->description) {
-        SafeLook now = *last;
-        now.description->name = name;
-        m_looks.learn(folder, now);
-    }
-    tell();
-    return true;
 }
 
 void KnownSafes::remove(const QString &folder)

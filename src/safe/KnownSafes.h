@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -50,6 +51,8 @@ public:
     SafeFacts &facts() { return m_facts; }
     const SafeFacts &facts() const { return m_facts; }
 
+    /// Whether another safe of the list lies in a folder of the same name.
+    bool hasNamesake(const QString &folder) const;
     /// A folder as the list names it; empty for one that is not in the list.
     QString listed(const QString &folder) const;
 
@@ -72,16 +75,22 @@ public:
         AnotherSafe, ///< not the one that was to be found again
     };
 
+    /// Told on the thread of this object as soon as the folder's drive has answered, unless this
+    /// object is gone by then.
+    using TellFound = std::function<void(Found found)>;
+    using TellDone = std::function<void(bool done)>;
+
     /// Puts the safe of a folder at the front of the list.
-    Found add(const QString &folder);
+    void add(const QString &folder, const TellFound &tell);
     /// The safe of a folder that has gone is in another one now: what the list and the facts say of
     /// it holds for that one. Another safe is refused.
-    Found locate(const QString &goneFolder, const QString &folder);
+    void locate(const QString &goneFolder, const QString &folder, const TellFound &tell);
 
-    /// Gives a safe another name. False when it cannot be written, or its password is being
+    /// Gives a safe another name. Not done when it cannot be written, or its password is being
     /// changed: it has the old one then.
     /// @param current the object of the safe where there is one, which would write the old name
-    bool rename(const QString &folder, const QString &name, GPMSafe *current = nullptr);
+    void rename(const QString &folder, const QString &name, const std::shared_ptr<GPMSafe> &current,
+                const TellDone &tell);
 
     /// Takes a safe off the list; its files stay. Opening its folder brings it back.
     void remove(const QString &folder);
@@ -126,6 +135,10 @@ private:
     QStringList unlistedFolders() const;
     void lookAnew() const;
     SafeLook lookNow(const QString &folder);
+    void lookLater(const QString &folder, const std::function<void(const SafeLook &)> &take);
+    Found takeAdded(const QString &folder, const SafeLook &look);
+    Found takeLocated(const QString &goneFolder, const QString &folder, const SafeLook &look);
+    void noteName(const QString &folder, const QString &name);
     void tell();
     void tellNews();
     void dropFromList(const QString &folder);
@@ -139,4 +152,5 @@ private:
     QVector<Entry> m_told;
     QTimer m_telling;
     QStringList m_beingDeleted;
+    LooseWork m_work;
 };

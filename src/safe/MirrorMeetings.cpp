@@ -75,7 +75,9 @@ void MirrorMeetings::takeItem(const SyncResult::Item &taken)
     item->markSaved(item->revision());
     m_state.items.add(std::move(item));
     m_state.items.setFileName(taken.name);
-    Q_EMIT m_safe.itemAdded(taken.name.id);
+    // What a lock hides is told to nobody.
+    if (m_safe.isUnlocked())
+        Q_EMIT m_safe.itemAdded(taken.name.id);
 }
 
 /// An item was edited here meanwhile: that will be saved, and what came is kept as a copy.
@@ -88,7 +90,7 @@ void MirrorMeetings::keepBeside(const SyncResult::Item &taken, PMListItem &edite
         copy->setId(QString());
         copy->setTitle(syncCopyTitle(copy->title(), copy->modified(), edited.modified()));
         copy->setDeleted(true);
-        m_safe.addItem(std::move(copy));
+        m_safe.takeIn(std::move(copy));
     }
     // Else it would be told to have been left behind.
     edited.setModified(std::max(edited.modified(), theirs));
@@ -102,7 +104,10 @@ void MirrorMeetings::dropItem(const QString &id)
     // An edit that is not saved yet is later than the deletion.
     if (!item || item->isChanged())
         return;
-    Q_EMIT m_safe.itemAboutToBeRemoved(id);
+    const bool isShown = m_safe.isUnlocked();
+    if (isShown)
+        Q_EMIT m_safe.itemAboutToBeRemoved(id);
     m_state.items.remove(id);
-    Q_EMIT m_safe.itemRemoved(id);
+    if (isShown)
+        Q_EMIT m_safe.itemRemoved(id);
 }

@@ -40,7 +40,7 @@ PMListItem *SafeAttachments::add(std::unique_ptr<PMListItem> item, QIODevice &by
         return nullptr;
     }
     item->setProperty("hash", fileHash(target));
-    return m_safe.addItem(std::move(item));
+    return m_safe.takeIn(std::move(item));
 }
 
 void SafeAttachments::addAsync(std::unique_ptr<PMListItem> item, const AttachmentSource &source,
@@ -72,7 +72,7 @@ void SafeAttachments::take(AttachmentIntake::Arrival arrival)
     const QString title = arrival.item->title();
     if (result.fault == AttachmentFault::None) {
         arrival.item->setProperty("hash", result.hash);
-        m_safe.addItem(std::move(arrival.item));
+        m_safe.takeIn(std::move(arrival.item));
         if (PMListItem *parent = m_state.items.item(arrival.parentId)) {
             parent->setRefs(parent->refs() + QStringList{id});
             m_safe.touchItem(*parent);

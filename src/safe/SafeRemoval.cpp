@@ -1,6 +1,8 @@
 #include "SafeRemoval.h"
 
+#include "DraftStore.h"
 #include "FolderLock.h"
+#include "FolderPath.h"
 #include "ItemFile.h"
 #include "SafeLayout.h"
 #include "SafeUse.h"
@@ -84,6 +86,7 @@ SafeRemoval::Result SafeRemoval::run(const QString &folder, WorkControl &control
         qWarning() << operation << "Can't take the lock file in:" << folder;
         return {lock.isHeldByAnother() ? Outcome::Busy : Outcome::Failed, {}, {}};
     }
+    const QString home = canonicalFolder(folder);
     // Behind the wait, in which it can have been opened.
     if (SafeUse::other(folder))
         return {Outcome::InUse, {}, {}};
@@ -92,7 +95,9 @@ SafeRemoval::Result SafeRemoval::run(const QString &folder, WorkControl &control
     lock.unlock();
     Result result =
         content.foreign.isEmpty() ? removeWhole(safe, content) : removeAmong(safe, content);
-    if (result.outcome != Outcome::Done)
+    if (result.outcome == Outcome::Done)
+        DraftStore::removeAll(m_environment, home, m_hasNamesake);
+    else
         qWarning() << operation << "Can't delete safe:" << folder;
     return result;
 }

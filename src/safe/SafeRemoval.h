@@ -6,9 +6,9 @@
 
 #include <QStringList>
 
-/// Deletes a safe from the disk: its own files and nothing else. In one step the safe is gone, and
-/// only then its files are removed, so that an interruption leaves a safe that opens or none. On
-/// any thread.
+/// Deletes a safe from the disk: its own files, its drafts and nothing else. In one step the safe
+/// is gone, and only then its files are removed, so that an interruption leaves a safe that opens
+/// or none. On any thread.
 class SafeRemoval
 {
 public:
@@ -29,8 +29,10 @@ public:
         QStringList foreign; ///< files and folders that are not the safe's, inside the folder
     };
 
-    explicit SafeRemoval(const SafeEnvironment &environment)
+    /// @param hasNamesake see DraftStore::removeAll()
+    explicit SafeRemoval(const SafeEnvironment &environment, bool hasNamesake = false)
         : m_environment(environment)
+        , m_hasNamesake(hasNamesake)
     {
     }
 
@@ -56,4 +58,5 @@ private:
     void removeFiles(const QString &root, const Content &content) const;
 
     const SafeEnvironment &m_environment;
+    bool m_hasNamesake;
 };

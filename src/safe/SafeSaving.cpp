@@ -13,8 +13,9 @@ SafeSaving::SafeSaving(GPMSafe &safe, SafeState &state)
 
 SaveJob SafeSaving::makeJob()
 {
-    SaveJob job{m_state.environment, m_state.folder.root(),   m_state.password,
-                m_state.mutex,       m_state.items.changed(), {}};
+    SaveJob job{m_state.environment, m_state.folder.root(),         m_state.password,
+                m_state.mutex,       m_state.items.takeForSaving(), {},
+                m_state.steps};
     if (!job.items.isEmpty())
         m_state.description.modified = m_state.environment.clock().toMSecsSinceEpoch();
     job.description = m_state.description.toJson();
@@ -23,35 +24,52 @@ SaveJob SafeSaving::makeJob()
 
 SaveJob::Result SafeSaving::saveNow()
 {
-    SaveJob::Result result = makeJob().run();
-    m_state.items.markSaved(result.saved);
-    return result;
+    m_last = makeJob().run();
+    m_state.items.markSaved(m_last.saved);
+    if (!m_last.good())
+        m_state.items.forgetQueued();
+    return m_last;
 }
 
 void SafeSaving::saveLater()
 {
     auto *watcher = new QFutureWatcher<SaveJob::Result>(&m_safe);
-    const int session = m_state.session;
-    QObject::connect(watcher, &QFutureWatcher<SaveJob::Result>::finished, &m_safe,
-                     [this, watcher, session] {
-                         watcher->deleteLater();
-                         const SaveJob::Result result = watcher->result();
-                         // After a lock there may be other objects of the same items, with
-                         // revisions of their own.
-                         if (session == m_state.session)
-                             m_state.items.markSaved(result.saved);
-                         Q_EMIT m_safe.saved(result.good(), result.failedPaths);
-                     });
-    const SaveJob job = makeJob();
-    watcher->setFuture(QtConcurrent::run(&m_state.writer, [job] { return job.run(); }));
+    QObject::connect(watcher, &QFutureWatcher<SaveJob::Result>::finished, &m_safe, [this, watcher] {
+        watcher->deleteLater();
+        take();
+    });
+    const auto future = QtConcurrent::run(&m_state.writer, [job = makeJob()] { return job.run(); });
+    m_underWay.push_back(future);
+    watcher->setFuture(future);
 }
 
-void SafeSaving::keepUnsaved(DraftStore &drafts)
+void SafeSaving::take()
+{
+    while (!m_underWay.empty() && m_underWay.front().isFinished()) {
+        m_last = m_underWay.front().result();
+        m_underWay.pop_front();
+        m_state.items.markSaved(m_last.saved);
+        if (!m_last.good())
+            m_state.items.forgetQueued();
+        // A lock tells of what it could not save when it is done.
+        if (!m_safe.isUnlocked())
+            continue;
+        // Later, as who waits for the writer is in the middle of something.
+        const auto tell = [this, told = m_last, session = m_state.session] {
+            if (m_safe.isUnlocked() && session == m_state.session)
+                Q_EMIT m_safe.saved(told.good(), told.failedPaths);
+        };
+        QMetaObject::invokeMethod(&m_safe, tell, Qt::QueuedConnection);
+    }
+}
+
+void SafeSaving::keepUnsaved(DraftStore &drafts) const
 {
     const QVector<SaveJob::Item> unsaved = m_state.items.changed();
     for (const SaveJob::Item &item : unsaved) {
         const bool trashed = item.document.publicFields.value(QStringLiteral("deleted")).toBool();
         if (!trashed)
-            drafts.keep({DraftStore::newKey(), item.document, item.written.isNull(), item.written});
+            drafts.keepUnsaved(
+                {DraftStore::newKey(), item.document, item.written.isNull(), item.written});
     }
 }

@@ -3,6 +3,10 @@
 #include "DraftStore.h"
 #include "SafeState.h"
 
+#include <QFuture>
+
+#include <deque>
+
 class GPMSafe;
 
 /// The writing of a safe's changed items.
@@ -12,17 +16,24 @@ public:
     /// Both outlive the object.
     SafeSaving(GPMSafe &safe, SafeState &state);
 
-    /// With nothing left for the writer to do.
+    /// With nothing left for the writer to do, and all of that taken.
     SaveJob::Result saveNow();
-    /// On the writer; GPMSafe::saved() follows.
+    /// On the writer, without what a save under way has in hand; GPMSafe::saved() follows, unless
+    /// a lock waits for it.
     void saveLater();
-    /// Keeps what is still not written as drafts: the folder of the safe may be gone, or full, and
-    /// that of the drafts lies elsewhere.
-    void keepUnsaved(DraftStore &drafts);
+    /// Takes the results of saves that are done, rather than at the next turn of the event loop.
+    void take();
+    /// The result of the last save that was taken.
+    const SaveJob::Result &last() const { return m_last; }
+    /// Keeps what is not written as drafts: the folder of the safe may be gone, or full, and that
+    /// of the drafts lies elsewhere.
+    void keepUnsaved(DraftStore &drafts) const;
 
 private:
     SaveJob makeJob();
 
     GPMSafe &m_safe;
     SafeState &m_state;
+    std::deque<QFuture<SaveJob::Result>> m_underWay;
+    SaveJob::Result m_last;
 };

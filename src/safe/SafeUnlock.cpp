@@ -1,5 +1,6 @@
 #include "SafeUnlock.h"
 
+#include "FolderPath.h"
 #include "FormerPassword.h"
 #include "SafeCrypto.h"
 #include "SafeLayout.h"
@@ -11,27 +12,6 @@
 
 static const char operation[] = "GPMSafe::unlock";
 
-std::unique_ptr<SafeUnlock> SafeUnlock::make(const SafeEnvironment &environment,
-                                             const SafeFolder &folder,
-                                             const SafeDescription &description,
-                                             const QString &password)
-{
-    if (password.isEmpty()) {
-        qWarning() << operation << "Empty password are not allowed";
-        return nullptr;
-    }
-    std::optional<QByteArray> passId = environment.files->read(folder.path(SafeLayout::passId));
-    if (!passId && !description.passId.isEmpty())
-        passId = description.passId.toLatin1();
-    if (!passId) {
-        qWarning() << operation << "Can't read pass id file:" << folder.path(SafeLayout::passId);
-        return nullptr;
-    }
-    return std::make_unique<SafeUnlock>(
-        environment, folder, QString::fromLatin1(*passId),
-        std::make_shared<const SecretBytes>(SecretBytes::fromText(password)));
-}
-
 void SafeUnlock::logFailure(Outcome outcome, const SafeFolder &folder)
 {
     if (outcome == Outcome::WrongPassword || outcome == Outcome::FormerPassword ||
@@ -42,10 +22,11 @@ void SafeUnlock::logFailure(Outcome outcome, const SafeFolder &folder)
 }
 
 SafeUnlock::SafeUnlock(const SafeEnvironment &environment, const SafeFolder &folder,
-                       const QString &passId, std::shared_ptr<const SecretBytes> password)
+                       const SafeDescription &description,
+                       std::shared_ptr<const SecretBytes> password)
     : m_environment(environment)
     , m_folder(folder)
-    , m_passId(passId)
+    , m_olderPassId(description.passId)
     , m_password(std::move(password))
 {
 }
@@ -60,13 +41,11 @@ SafeUnlock::~SafeUnlock()
 
 SafeUnlock::Outcome SafeUnlock::run()
 {
-    if (!checkPassId(m_password->view(), m_passId))
-        return Outcome::WrongPassword;
-    const std::optional<QStringList> names = itemFileNames(m_folder.path(SafeLayout::content));
-    if (!names)
-        return Outcome::Unreadable;
-    const QFuture<LoadedFile> files =
-        loadItemFiles(*names, m_folder.path(SafeLayout::content), m_password, m_environment.files);
+    m_checked = check(*m_environment.files, m_folder, {}, m_password->view(), m_olderPassId);
+    if (m_checked.outcome != Outcome::Unlocked)
+        return m_checked.outcome;
+    const QFuture<LoadedFile> files = loadItemFiles(
+        m_checked.fileNames, m_folder.path(SafeLayout::content), m_password, m_environment.files);
     for (const LoadedFile &file : files)
         m_items.add(file);
     return Outcome::Unlocked;
@@ -74,21 +53,42 @@ SafeUnlock::Outcome SafeUnlock::run()
 
 void SafeUnlock::start()
 {
-    connect(&m_check, &QFutureWatcher<bool>::finished, this, &SafeUnlock::onChecked);
+    connect(&m_check, &QFutureWatcher<Checked>::finished, this, &SafeUnlock::onChecked);
     // Nobody waits for it, as it may take long: it works on copies.
     m_check.setFuture(
         QtConcurrent::run([files = m_environment.files, folder = m_folder, mirror = m_mirrorFolder,
-                           password = m_password, passId = m_passId] {
-            return check(*files, folder, mirror, password->view(), passId);
+                           password = m_password, olderPassId = m_olderPassId] {
+            return check(*files, folder, mirror, password->view(), olderPassId);
         }));
 }
 
-SafeUnlock::Outcome SafeUnlock::check(FileLayer &files, const SafeFolder &folder,
+SafeUnlock::Checked SafeUnlock::check(FileLayer &files, const SafeFolder &folder,
                                       const QString &mirrorFolder, const QByteArray &password,
-                                      const QString &passId)
+                                      const QString &olderPassId)
 {
-    if (checkPassId(password, passId))
-        return Outcome::Unlocked;
+    if (password.isEmpty()) {
+        qWarning() << operation << "Empty password are not allowed";
+        return {};
+    }
+    std::optional<QByteArray> passId = files.read(folder.path(SafeLayout::passId));
+    if (!passId && !olderPassId.isEmpty())
+        passId = olderPassId.toLatin1();
+    if (!passId) {
+        qWarning() << operation << "Can't read pass id file:" << folder.path(SafeLayout::passId);
+        return {};
+    }
+    if (!checkPassId(password, QString::fromLatin1(*passId)))
+        return {whyNot(files, folder, mirrorFolder, password), {}, false, {}};
+    const std::optional<QStringList> names = itemFileNames(folder.path(SafeLayout::content));
+    if (!names)
+        return {};
+    const auto former = files.read(folder.path(SafeLayout::passIdBackup));
+    return {Outcome::Unlocked, *names, former && former != passId, canonicalFolder(folder.root())};
+}
+
+SafeUnlock::Outcome SafeUnlock::whyNot(FileLayer &files, const SafeFolder &folder,
+                                       const QString &mirrorFolder, const QByteArray &password)
+{
     switch (formerPassword(files, folder, password)) {
     case FormerPassword::No:
         break;
@@ -113,27 +113,22 @@ void SafeUnlock::cancel()
 
 void SafeUnlock::onChecked()
 {
-    if (m_cancelled)
+    if (m_cancelled) {
         Q_EMIT finished(Outcome::Cancelled);
-    else if (m_check.result() != Outcome::Unlocked)
-        Q_EMIT finished(m_check.result());
-    else if (!startLoading())
-        Q_EMIT finished(Outcome::Unreadable);
-}
-
-bool SafeUnlock::startLoading()
-{
-    const std::optional<QStringList> names = itemFileNames(m_folder.path(SafeLayout::content));
-    if (!names)
-        return false;
+        return;
+    }
+    m_checked = m_check.result();
+    if (m_checked.outcome != Outcome::Unlocked) {
+        Q_EMIT finished(m_checked.outcome);
+        return;
+    }
     connect(&m_load, &QFutureWatcher<LoadedFile>::resultReadyAt, this,
             [this](int index) { m_items.add(m_load.resultAt(index)); });
     connect(&m_load, &QFutureWatcher<LoadedFile>::progressValueChanged, this,
             [this](int done) { Q_EMIT progress(done, m_load.progressMaximum()); });
     connect(&m_load, &QFutureWatcher<LoadedFile>::finished, this, &SafeUnlock::onLoaded);
-    m_load.setFuture(
-        loadItemFiles(*names, m_folder.path(SafeLayout::content), m_password, m_environment.files));
-    return true;
+    m_load.setFuture(loadItemFiles(m_checked.fileNames, m_folder.path(SafeLayout::content),
+                                   m_password, m_environment.files));
 }
 
 void SafeUnlock::onLoaded()

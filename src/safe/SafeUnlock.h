@@ -27,16 +27,10 @@ public:
     };
     Q_ENUM(Outcome)
 
-    /// An attempt on the safe of a folder; null, logged, when there is nothing to try.
-    static std::unique_ptr<SafeUnlock> make(const SafeEnvironment &environment,
-                                            const SafeFolder &folder,
-                                            const SafeDescription &description,
-                                            const QString &password);
     static void logFailure(Outcome outcome, const SafeFolder &folder);
 
-    /// @param passId the safe's pass id
-    SafeUnlock(const SafeEnvironment &environment, const SafeFolder &folder, const QString &passId,
-               std::shared_ptr<const SecretBytes> password);
+    SafeUnlock(const SafeEnvironment &environment, const SafeFolder &folder,
+               const SafeDescription &description, std::shared_ptr<const SecretBytes> password);
     /// Cancels a run and waits for the files that workers have in hand.
     ~SafeUnlock() override;
 
@@ -53,24 +47,38 @@ public:
     const std::shared_ptr<const SecretBytes> &password() const { return m_password; }
     /// What was loaded, after Outcome::Unlocked.
     LoadedItems &items() { return m_items; }
+    /// Whether the pass id is another one than before the last change of the password.
+    /// The folder of the safe without links.
+    const QString &home() const { return m_checked.home; }
+    bool hasFormerPassId() const { return m_checked.hasFormerPassId; }
 
 Q_SIGNALS:
     void progress(int done, int total);
     void finished(SafeUnlock::Outcome outcome);
 
 private:
-    static Outcome check(FileLayer &files, const SafeFolder &folder, const QString &mirrorFolder,
-                         const QByteArray &password, const QString &passId);
-    bool startLoading();
+    struct Checked
+    {
+        Outcome outcome = Outcome::Unreadable;
+        QStringList fileNames; ///< of the items
+        bool hasFormerPassId = false;
+        QString home; ///< the canonical folder
+    };
+
+    static Checked check(FileLayer &files, const SafeFolder &folder, const QString &mirrorFolder,
+                         const QByteArray &password, const QString &olderPassId);
+    static Outcome whyNot(FileLayer &files, const SafeFolder &folder, const QString &mirrorFolder,
+                          const QByteArray &password);
     void onChecked();
     void onLoaded();
 
     SafeEnvironment m_environment;
     SafeFolder m_folder;
     QString m_mirrorFolder;
-    QString m_passId;
+    QString m_olderPassId; ///< as an older safe has it in its description
     std::shared_ptr<const SecretBytes> m_password;
-    QFutureWatcher<Outcome> m_check;
+    Checked m_checked;
+    QFutureWatcher<Checked> m_check;
     QFutureWatcher<LoadedFile> m_load;
     LoadedItems m_items;
     bool m_cancelled = false;

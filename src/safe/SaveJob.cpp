@@ -42,6 +42,7 @@ SaveJob::Result SaveJob::run() const
     for (int i = 0; i < items.size(); ++i) {
         const Item &item = items.at(i);
         const std::optional<QByteArray> text = texts.resultAt(i);
+        ++*steps;
         const QMutexLocker locker(mutex.get());
         if (text && environment.files->writeBytes(path(item), *text)) {
             result.saved.append({item.id, item.revision, item.fileName, {}, item.modified, {}});

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <atomic>
 #include <memory>
 
 /// The changed items of a safe at one moment, to be written on any thread.
@@ -28,7 +29,8 @@ struct SaveJob
     std::shared_ptr<const SecretBytes> password;
     std::shared_ptr<QMutex> mutex; ///< held for each write
     QVector<Item> items;
-    QByteArray description; ///< the safe's description with its new time of change
+    QByteArray description;                  ///< the safe's description with its new time of change
+    std::shared_ptr<std::atomic<int>> steps; ///< counts what was written or has failed
 
     QString path(const Item &item) const;
 

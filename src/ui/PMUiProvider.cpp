@@ -325,9 +325,6 @@ void PMUiProvider::bringToFront()
 
 void PMUiProvider::showMessage(const QString &title, const QString &text)
 {
-    // Who knows that changes get lost is not told that they could not be saved.
-    if (m_window && m_window->isLosingChanges())
-        return;
     // Not modal and without a loop of its own: it may come while the safe is being locked.
     auto *dialog = new QuestionDialog({title, text, {tr("OK")}}, m_window.get());
     dialog->setAttribute(Qt::WA_DeleteOnClose);

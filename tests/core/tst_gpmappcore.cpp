@@ -193,6 +193,7 @@ private Q_SLOTS:
         QVERIFY(QDir().rename(content + ".away"_s, content));
         const QString id = login->id();
         m_core->lockCurrentSafe();
+        m_core->settleLocks();
         QCOMPARE(reopened(id, "title"), "Shop"_s);
     }
 

@@ -3,9 +3,13 @@
 #include "../Text.h"
 #include "GPMSafe.h"
 
+#include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
 #include <QMap>
+#include <QMutex>
+#include <QThread>
+#include <QWaitCondition>
 
 #include <atomic>
 #include <functional>
@@ -110,4 +114,50 @@ protected:
             watch(number);
         return failAt > 0 && (number == failAt || (andAllBehind && number > failAt));
     }
+};
+
+/// Files of which those below one folder do not come before released, but to the GUI thread.
+class HangingFiles : public FileLayer
+{
+public:
+    explicit HangingFiles(const QString &folder)
+        : m_folder(folder)
+    {
+    }
+
+    std::optional<QByteArray> read(const QString &path) override
+    {
+        QMutexLocker locker(&m_mutex);
+        m_asked = m_asked || path.startsWith(m_folder);
+        while (!m_released && path.startsWith(m_folder) &&
+               QThread::currentThread() != QCoreApplication::instance()->thread())
+            m_answers.wait(&m_mutex);
+        return FileLayer::read(path);
+    }
+
+    void release()
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_released = true;
+        m_answers.wakeAll();
+    }
+
+    void hangAgain()
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_released = m_asked = false;
+    }
+
+    bool isAsked()
+    {
+        const QMutexLocker locker(&m_mutex);
+        return m_asked;
+    }
+
+private:
+    QString m_folder;
+    bool m_released = false;
+    bool m_asked = false;
+    QMutex m_mutex;
+    QWaitCondition m_answers;
 };

@@ -1,6 +1,7 @@
 #include "PMFieldTypes.h"
 #include "PMItemFactory.h"
 #include "PMLogin.h"
+#include "SafeRemoval.h"
 #include "SafeTesting.h"
 
 #include <QMetaProperty>
@@ -27,6 +28,13 @@ struct Safe
     QString draftPath() const
     {
         return environment.draftsFolder + QLatin1Char('/') + draftFiles().first();
+    }
+
+    void openAt(const QString &place)
+    {
+        safe = std::make_unique<GPMSafe>(environment);
+        if (!safe->open(place) || !safe->unlock(samplePassword))
+            qFatal("the safe does not open");
     }
 
     /// The program ends and starts again.
@@ -329,6 +337,42 @@ private Q_SLOTS:
             QCOMPARE(test.draftPath(), path);
             QCOMPARE(test.draftFiles().size(), 1);
         }
+    }
+
+    /// In folders of one name, and with one password.
+    void copiesOfASafeHaveTheirOwn()
+    {
+        Safe safe;
+        const QString copy = safe.folder.filePath(QStringLiteral("copy/safe"));
+        const QString moved = safe.folder.filePath(QStringLiteral("moved/safe"));
+        // As a former version named it: whoever opens the safe first has it.
+        QVERIFY(safe.safe->drafts().keep(safe.draft(QStringLiteral("Older"))));
+        const QString path = safe.draftPath();
+        QVERIFY(QFile::rename(path, path.left(path.lastIndexOf(QLatin1Char('.')))));
+        QVERIFY(safe.safe->drafts().keep(safe.draft(QStringLiteral("Mine"))));
+        QCOMPARE(safe.load().size(), 2);
+        safe.safe->lock();
+
+        writeSafe(copy, snapshot(safe.path()));
+        safe.openAt(copy);
+        QVERIFY(safe.load().isEmpty() && safe.unreadable.isEmpty());
+        QVERIFY(safe.safe->drafts().keep(safe.draft(QStringLiteral("Of the copy"))));
+        safe.safe->lock();
+
+        QVERIFY(QDir().mkpath(QFileInfo(moved).path()) && QDir().rename(safe.path(), moved));
+        safe.openAt(moved);
+        QCOMPARE(safe.load().size(), 2);
+        safe.safe->lock();
+        WorkControl control;
+        QCOMPARE(SafeRemoval(safe.environment, true).run(moved, control).outcome,
+                 SafeRemoval::Outcome::Done);
+        QCOMPARE(safe.draftFiles().size(), 1);
+        safe.openAt(copy);
+        QCOMPARE(safe.load().size(), 1);
+        safe.safe->lock();
+        QCOMPARE(SafeRemoval(safe.environment).run(copy, control).outcome,
+                 SafeRemoval::Outcome::Done);
+        QVERIFY(QDir(safe.environment.draftsFolder).isEmpty());
     }
 };
 

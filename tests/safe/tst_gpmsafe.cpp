@@ -409,25 +409,6 @@ private Q_SLOTS:
         QCOMPARE(safe.item(loginId)->note(), QStringLiteral("second"));
     }
 
-    void aReportFromBeforeTheLockIsNotTakenForTheNewItem()
-    {
-        copySampleSafe(m_folder);
-        GPMSafe safe;
-        QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
-        QSignalSpy saved(&safe, &GPMSafe::saved);
-        for (int i = 0; i < 50; ++i)
-            safe.item(loginId)->setUseCount(100 + i);
-        const quint64 revision = safe.item(loginId)->revision();
-        safe.saveChangesAsync();
-        safe.lock();
-        QVERIFY(safe.unlock(samplePassword));
-        PMListItem *item = safe.item(loginId);
-        while (item->revision() < revision)
-            item->setUseCount(item->useCount() + 1);
-        QVERIFY(saved.wait());
-        QVERIFY(item->isChanged());
-    }
-
     void unlockInTheBackground()
     {
         copySampleSafe(m_folder);

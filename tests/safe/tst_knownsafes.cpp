@@ -15,51 +15,31 @@ QVector<KnownSafes::Entry> entriesNow(const KnownSafes &known)
     return known.entries();
 }
 
-/// Files of which those below one folder do not come before released, but to the GUI thread.
-class HangingFiles : public FileLayer
+/// What is told in the end.
+template <typename Answer, typename Ask>
+Answer answerTo(const Ask &ask)
 {
-public:
-    explicit HangingFiles(const QString &folder)
-        : m_folder(folder)
-    {
-    }
+    std::optional<Answer> answer;
+    ask([&answer](Answer told) { answer = told; });
+    if (!QTest::qWaitFor([&answer] { return answer.has_value(); }, patientMs))
+        qFatal("no answer");
+    return *answer;
+}
 
-    std::optional<QByteArray> read(const QString &path) override
-    {
-        QMutexLocker locker(&m_mutex);
-        m_asked = m_asked || path.startsWith(m_folder);
-        while (!m_released && path.startsWith(m_folder) &&
-               QThread::currentThread() != QCoreApplication::instance()->thread())
-            m_answers.wait(&m_mutex);
-        return FileLayer::read(path);
-    }
+KnownSafes::Found addTo(KnownSafes &known, const QString &folder)
+{
+    return answerTo<KnownSafes::Found>([&](const auto &tell) { known.add(folder, tell); });
+}
 
-    void release()
-    {
-        const QMutexLocker locker(&m_mutex);
-        m_released = true;
-        m_answers.wakeAll();
-    }
+KnownSafes::Found locate(KnownSafes &known, const QString &gone, const QString &folder)
+{
+    return answerTo<KnownSafes::Found>([&](const auto &tell) { known.locate(gone, folder, tell); });
+}
 
-    void hangAgain()
-    {
-        const QMutexLocker locker(&m_mutex);
-        m_released = m_asked = false;
-    }
-
-    bool isAsked()
-    {
-        const QMutexLocker locker(&m_mutex);
-        return m_asked;
-    }
-
-private:
-    QString m_folder;
-    bool m_released = false;
-    bool m_asked = false;
-    QMutex m_mutex;
-    QWaitCondition m_answers;
-};
+bool rename(KnownSafes &known, const QString &folder, const QString &name)
+{
+    return answerTo<bool>([&](const auto &tell) { known.rename(folder, name, nullptr, tell); });
+}
 
 } // namespace
 
@@ -173,7 +153,17 @@ private Q_SLOTS:
         const QString meta = far + QStringLiteral("/safe.meta");
         writeFile(meta, contentOf(meta).replace("the usual", "another"));
         QVERIFY(known.openAsFound(far));
-        QVERIFY(known.rename(far, QStringLiteral("New name")));
+        // Who points to it, or gives it another name, does not hold the event loop.
+        int answers = 0;
+        known.add(far, [&](KnownSafes::Found found) {
+            answers += found == KnownSafes::Found::KnownAlready;
+        });
+        known.rename(far, QStringLiteral("New name"), nullptr, [&](bool done) { answers += done; });
+        QTRY_VERIFY(files->isAsked());
+        QCOMPARE(answers, 0);
+        files->release();
+        QTRY_COMPARE(answers, 2);
+        QTRY_VERIFY(!known.isLooking());
         QCOMPARE(known.entries().at(0).name, QStringLiteral("New name"));
         QVERIFY(contentOf(meta).contains("another"));
         known.beginDeletion(far);
@@ -268,7 +258,7 @@ private Q_SLOTS:
             {safe, home.filePath(QStringLiteral("link/safe")), safe + QLatin1Char('/')});
         KnownSafes known(settings, home.filePath(QStringLiteral("link")), patient());
         QCOMPARE(known.entries().size(), 1);
-        QCOMPARE(known.add(home.filePath(QStringLiteral("link/safe/"))),
+        QCOMPARE(addTo(known, home.filePath(QStringLiteral("link/safe/"))),
                  KnownSafes::Found::KnownAlready);
         QCOMPARE(known.entries().size(), 1);
         QCOMPARE(settings.recentList(), QStringList{safe});
@@ -285,7 +275,7 @@ private Q_SLOTS:
         {
             GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
             KnownSafes known(settings, safes, patient());
-            QCOMPARE(known.add(elsewhere), KnownSafes::Found::Taken);
+            QCOMPARE(addTo(known, elsewhere), KnownSafes::Found::Taken);
             QCOMPARE(known.entries().size(), 2);
             known.remove(safes + QStringLiteral("/one"));
             known.remove(elsewhere);
@@ -295,11 +285,11 @@ private Q_SLOTS:
         KnownSafes known(settings, safes, patient());
         QVERIFY(known.entries().isEmpty());
         QVERIFY(QFile::exists(elsewhere + QStringLiteral("/safe.passid")));
-        QCOMPARE(known.add(safes + QStringLiteral("/one")), KnownSafes::Found::Taken);
+        QCOMPARE(addTo(known, safes + QStringLiteral("/one")), KnownSafes::Found::Taken);
         QCOMPARE(known.entries().size(), 1);
         QVERIFY(known.entries().at(0).available);
-        QCOMPARE(known.add(home.path()), KnownSafes::Found::NoSafe);
-        QCOMPARE(known.add(home.filePath(QStringLiteral("x"))), KnownSafes::Found::NotThere);
+        QCOMPARE(addTo(known, home.path()), KnownSafes::Found::NoSafe);
+        QCOMPARE(addTo(known, home.filePath(QStringLiteral("x"))), KnownSafes::Found::NotThere);
     }
 
     void aSafeIsFoundAgainAndNoOtherTakesItsPlace()
@@ -316,11 +306,11 @@ private Q_SLOTS:
         QCOMPARE(known.entries().at(0).name, QStringLiteral("One"));
         QVERIFY(!entriesNow(known).at(0).available);
 
-        QCOMPARE(known.locate(before, home.filePath(QStringLiteral("another"))),
+        QCOMPARE(locate(known, before, home.filePath(QStringLiteral("another"))),
                  KnownSafes::Found::AnotherSafe);
-        QCOMPARE(known.locate(before, home.path()), KnownSafes::Found::NoSafe);
+        QCOMPARE(locate(known, before, home.path()), KnownSafes::Found::NoSafe);
         QCOMPARE(known.entries().at(0).folder, before);
-        QCOMPARE(known.locate(before, after), KnownSafes::Found::Taken);
+        QCOMPARE(locate(known, before, after), KnownSafes::Found::Taken);
         QCOMPARE(known.entries().size(), 1);
         QVERIFY(known.entries().at(0).available);
         QCOMPARE(known.facts().of(after).itemCount, 7);
@@ -337,12 +327,12 @@ private Q_SLOTS:
         environment.files = files;
         GPMAppSettings settings(home.filePath(QStringLiteral("config")), home.path());
         KnownSafes known(settings, home.filePath(QStringLiteral("safes")), environment);
-        known.add(folder);
-        QVERIFY(known.rename(folder, QStringLiteral("Röm & Co")));
+        addTo(known, folder);
+        QVERIFY(rename(known, folder, QStringLiteral("Röm & Co")));
         QCOMPARE(known.entries().at(0).name, QStringLiteral("Röm & Co"));
         files->failAt = files->operations + 1;
         files->andAllBehind = true;
-        QVERIFY(!known.rename(folder, QStringLiteral("Full disk")));
+        QVERIFY(!rename(known, folder, QStringLiteral("Full disk")));
         QCOMPARE(known.entries().at(0).name, QStringLiteral("Röm & Co"));
 
         QVERIFY(known.checkPassword(folder, samplePassword).result());

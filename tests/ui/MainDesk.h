@@ -136,7 +136,11 @@ struct MainDesk
         return items.size() == 1 ? items.front() : nullptr;
     }
 
-    void lock() { test.core.lockCurrentSafe(); }
+    void lock()
+    {
+        test.core.lockCurrentSafe();
+        test.core.settleLocks();
+    }
     /// With what was kept by the lock.
     void unlock()
     {

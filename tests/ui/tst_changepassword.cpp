@@ -192,6 +192,7 @@ private Q_SLOTS:
             find<QPushButton>(*test.shown("progressDialog"), "closeButton")->click();
         QVERIFY2(test.end().contains(told), qPrintable(test.end()));
         test.test.core.lockCurrentSafe();
+        test.test.core.settleLocks();
         QVERIFY(test.opens(testPassword));
         QVERIFY(!test.opens(nextPassword));
     }

@@ -227,6 +227,8 @@ private Q_SLOTS:
         QVERIFY(QDir(test.core.currentSafe()->folder()).removeRecursively());
         test.login(id)->setNote("changed"_s);
         test.core.lockCurrentSafe();
+        QCOMPARE(titles(), QStringList({"Warning"_s}));
+        test.core.settleLocks();
         QCOMPARE(titles(), QStringList({"Warning"_s, "Can't save changes."_s}));
     }
 

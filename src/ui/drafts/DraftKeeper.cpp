@@ -116,8 +116,9 @@ bool DraftKeeper::keepNow()
 
 void DraftKeeper::onKeepRequested()
 {
-    if (!m_savedKeys.isEmpty() && m_core.saveCurrentSafe())
-        onWritten();
+    // Not before they are written, for which nobody waits here.
+    if (const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe())
+        safe->drafts().removeOnceSaved(std::exchange(m_savedKeys, {}));
     if (keepNow())
         return;
     Q_EMIT m_core.message(

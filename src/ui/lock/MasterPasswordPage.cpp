@@ -223,8 +223,6 @@ void MasterPasswordPage::unlock()
         return;
     }
     m_logic.unlock(m_password->text());
-    if (m_logic.state() == UnlockLogic::State::Unlocking)
-        m_password->clearSecret();
 }
 
 void MasterPasswordPage::showState()
@@ -233,6 +231,8 @@ void MasterPasswordPage::showState()
     const State state = m_logic.state();
     const bool noSafes = state == State::NoSafes;
     const bool unlocking = state == State::Unlocking;
+    if (m_logic.hasPassword())
+        m_password->clearSecret();
     m_title->setText(noSafes ? tr("Welcome") : tr("Welcome back"));
     m_subtitle->setText(noSafes ? tr("You have not Safe yet\nCreate one?") : m_logic.invitation());
     const QString folder = m_logic.chosenFolder();
@@ -261,7 +261,10 @@ void MasterPasswordPage::showProgress(bool unlocking)
     if (unlocking && total > 0)
         m_subtitle->setText(tr("Unlocking: %1 of %2 items").arg(m_logic.itemsDone()).arg(total));
     else if (unlocking)
-        m_subtitle->setText(tr("Unlocking…"));
+        m_subtitle->setText(m_logic.isSaving() ? tr("Saving your last changes first…")
+                                               : tr("Unlocking…"));
+    else if (m_logic.isSaving())
+        m_subtitle->setText(tr("Locked. Saving your last changes…"));
     // Not to a button: a second Enter would cancel what the first one began.
     if (starting && isVisible())
         setFocus();

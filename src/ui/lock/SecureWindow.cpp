@@ -72,7 +72,8 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     connect(m_pages, &PagesStack::restoreRequested, this, &SecureWindow::restoreRequested);
     connect(m_pages, &PagesStack::cloudImportRequested, this, &SecureWindow::cloudImportRequested);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
-    connect(&core, &GPMAppCore::requestLock, this, &SecureWindow::cover);
+    connect(&core, &GPMAppCore::lockSettled, this, &SecureWindow::onLockSettled);
+    connect(&core, &GPMAppCore::lockFailed, this, &SecureWindow::onLockFailed);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);
     followSafe();
 }
@@ -180,23 +181,9 @@ void SecureWindow::followSafe()
     }
 }
 
-void SecureWindow::cover()
-{
-    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
-    // Else it is locked before anybody could look at it.
-    if (!m_open || !isVisible() || !safe->isWriting())
-        return;
-    m_pages->clearSecrets();
-    m_pages->showUnlockPage();
-    setOpenProgress(0);
-    // The event loop is held until everything is written.
-    repaint();
-}
-
 void SecureWindow::lockByUser()
 {
-    if (m_open)
-        leaveSafe(&GPMAppCore::lockCurrentSafe);
+    leaveSafe([] {});
 }
 
 bool SecureWindow::leaveByUser()
@@ -207,62 +194,70 @@ bool SecureWindow::leaveByUser()
 
 void SecureWindow::switchSafe(const QString &folder)
 {
-    lockByUser();
-    if (m_open)
-        return;
-    m_pages->unlockLogic().choose(folder);
-    m_pages->showUnlockPage();
+    leaveSafe([this, folder] {
+        m_pages->unlockLogic().choose(folder);
+        m_pages->showUnlockPage();
+    });
 }
 
 void SecureWindow::createSafe()
 {
-    lockByUser();
-    if (!m_open)
-        m_pages->showCreatePage();
+    leaveSafe([this] { m_pages->showCreatePage(); });
 }
 
 void SecureWindow::exitByUser()
 {
-    leaveSafe(&GPMAppCore::exitPasswordManager);
+    // Who says it again does not want to wait for a drive that does not answer.
+    if (!m_asking && m_then && !m_open)
+        m_core.exitPasswordManager();
+    else
+        leaveSafe([this] { m_core.exitPasswordManager(); });
 }
 
-void SecureWindow::leaveSafe(void (GPMAppCore::*way)())
+void SecureWindow::leaveSafe(const std::function<void()> &then)
 {
     // The tray can ask once more while a question is open.
-    if (m_leaving)
+    if (m_leaving || m_asking)
         return;
     const QScopedValueRollback<bool> leaving(m_leaving, true);
-    if (!m_content->mayLeave())
+    if (m_open && !m_content->mayLeave())
         return;
-    cover();
-    const SaveAnswer answer = saveOrAsk();
-    if (answer == SaveAnswer::Cancel) {
-        // It may have been locked while the question stood there.
-        if (m_open)
-            setOpenProgress(1);
-        return;
-    }
-    const QScopedValueRollback<bool> losing(m_losingChanges, answer == SaveAnswer::Lose);
-    if (m_losingChanges)
-        m_core.giveUpChanges();
-    (m_core.*way)();
+    m_then = then;
+    if (m_open)
+        m_core.lockForUser();
+    onLockSettled();
 }
 
-SecureWindow::SaveAnswer SecureWindow::saveOrAsk()
+void SecureWindow::onLockSettled()
 {
-    while (!m_core.saveCurrentSafe()) {
-        const int answer =
-            m_asker({tr("Can't save changes."),
-                     tr("Some changes could not be written; what was there before still is. Check "
-                        "that the folder of the safe can be written to and that there is free "
-                        "space, then try again:\n%1")
-                         .arg(QDir::toNativeSeparators(m_core.currentSafe()->folder())),
-                     {tr("Try again"), tr("Lose changes"), tr("Cancel")},
-                     2});
-        if (answer != 0)
-            return answer == 1 ? SaveAnswer::Lose : SaveAnswer::Cancel;
+    const std::shared_ptr<GPMSafe> &safe = m_core.currentSafe();
+    if (!m_asking && m_then && !(safe && (safe->isUnlocked() || safe->isSettling())))
+        std::exchange(m_then, nullptr)();
+}
+
+void SecureWindow::onLockFailed()
+{
+    const std::shared_ptr<GPMSafe> safe = m_core.currentSafe();
+    m_asking = true;
+    const int answer =
+        m_asker({tr("Can't save changes."),
+                 tr("Some changes could not be written; what was there before still is. Check "
+                    "that the folder of the safe can be written to and that there is free "
+                    "space, then try again:\n%1")
+                     .arg(QDir::toNativeSeparators(safe->folder())),
+                 {tr("Try again"), tr("Lose changes"), tr("Cancel")},
+                 2});
+    m_asking = false;
+    // Something else may have locked it for good meanwhile, for which these say nothing.
+    if (answer == 0 && safe->isSettling())
+        safe->lockAsync(GPMSafe::Unsaved::Ask);
+    if (answer == 1)
+        m_core.giveUpChanges();
+    if (answer == 2) {
+        m_then = nullptr;
+        safe->reopen();
     }
-    return SaveAnswer::Saved;
+    onLockSettled();
 }
 
 void SecureWindow::resizeEvent(QResizeEvent *)

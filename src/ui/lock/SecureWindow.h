@@ -6,6 +6,8 @@
 #include <QSystemTrayIcon>
 #include <QWidget>
 
+#include <functional>
+
 class GPMAppCore;
 class PagesStack;
 class QGraphicsOpacityEffect;
@@ -56,9 +58,6 @@ public:
     void switchSafe(const QString &folder);
     void createSafe();
 
-    /// Whether the safe is being locked although the user knows that changes get lost.
-    bool isLosingChanges() const { return m_losingChanges; }
-
 Q_SIGNALS:
     /// The window was put away.
     void hidden();
@@ -81,20 +80,18 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    enum class SaveAnswer { Saved, Lose, Cancel };
-
     void fitScreen();
     void configureStateMachine();
-    void leaveSafe(void (GPMAppCore::*way)());
-    SaveAnswer saveOrAsk();
+    /// Locks, and goes on when everything is saved or the user has decided about it.
+    void leaveSafe(const std::function<void()> &then);
+    void onLockSettled();
+    void onLockFailed();
     bool safeIsOpen() const;
     void followSafe();
     void moveShutters();
     void showLayers();
     void layOut();
     void showTitle();
-    /// Puts the lock page over the items while what is written holds the lock up.
-    void cover();
 
     GPMAppCore &m_core;
     const Theme &m_theme;
@@ -111,5 +108,6 @@ private:
     qreal m_openProgress = 0;
     bool m_open = false;
     bool m_leaving = false;
-    bool m_losingChanges = false;
+    bool m_asking = false;
+    std::function<void()> m_then; ///< what the user wants to do once the safe is locked
 };

@@ -1,11 +1,11 @@
 #include "UnlockLogic.h"
 
 #include "GPMAppCore.h"
-#include "SafeUse.h"
 
 #include <QDir>
 
 #include <algorithm>
+#include <utility>
 
 UnlockLogic::UnlockLogic(GPMAppCore &core, QObject *parent)
     : QObject(parent)
@@ -15,6 +15,8 @@ UnlockLogic::UnlockLogic(GPMAppCore &core, QObject *parent)
     connect(&core.knownSafes(), &KnownSafes::answered, this, &UnlockLogic::onAnswered);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &UnlockLogic::takeCurrentSafe);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &UnlockLogic::changed);
+    connect(&core, &GPMAppCore::lockSettled, this, &UnlockLogic::changed);
+    connect(&core, &GPMAppCore::unlockCancelled, this, &UnlockLogic::dropPending);
     connect(&core, &GPMAppCore::unlockFinished, this, &UnlockLogic::onFinished);
     connect(&core, &GPMAppCore::unlockProgress, this, [this](int done, int total) {
         m_done = done;
@@ -45,6 +47,11 @@ QString UnlockLogic::hint() const
 {
     const KnownSafes::Entry *entry = chosen();
     return entry ? entry->hint : QString();
+}
+
+bool UnlockLogic::isSaving() const
+{
+    return m_core.currentSafe() && m_core.currentSafe()->isSettling();
 }
 
 QString UnlockLogic::invitation() const
@@ -134,25 +141,41 @@ void UnlockLogic::unlock(const QString &password)
         Q_EMIT refused();
         return;
     }
-    if (warnOfOther())
-        return;
-    m_openElsewhere = false;
     m_message.clear();
     m_unlocking = true;
     m_done = 0;
     m_total = 0;
-    Q_EMIT changed();
-    m_core.unlockCurrentSafe(password);
+    m_pending = std::make_unique<SecretBytes>(SecretBytes::fromText(password));
+    // Told once: the next time the user wants it.
+    if (std::exchange(m_openElsewhere, false))
+        passOn();
+    else
+        lookForOther();
 }
 
-bool UnlockLogic::warnOfOther()
+/// Not here: the drive may take its time.
+void UnlockLogic::lookForOther()
 {
-    // Told once: the next time the user wants it.
-    if (m_openElsewhere)
-        return false;
-    const auto other = SafeUse::other(m_core.currentSafe()->folder());
-    if (!other)
-        return false;
+    const auto other = std::make_shared<std::optional<SafeUse::Other>>();
+    const QString folder = m_core.currentSafe()->folder();
+    const int attempt = ++m_attempt;
+    m_look.run([folder, other] { *other = SafeUse::other(folder); },
+               [this, attempt, other] {
+                   // It may have been cancelled, and another one begun.
+                   if (m_pending && attempt == m_attempt)
+                       onLookedForOther(*other);
+               });
+    Q_EMIT changed();
+}
+
+void UnlockLogic::onLookedForOther(const std::optional<SafeUse::Other> &other)
+{
+    if (!other) {
+        passOn();
+        return;
+    }
+    m_pending.reset();
+    m_unlocking = false;
     m_openElsewhere = true;
     setMessage(
         other->isHere
@@ -161,13 +184,30 @@ bool UnlockLogic::warnOfOther()
             : tr("This safe is open on the computer “%1”, or was when that computer stopped. "
                  "What both change at the same time can get lost, so close it there first.")
                   .arg(other->computer));
-    return true;
+}
+
+void UnlockLogic::passOn()
+{
+    const std::unique_ptr<SecretBytes> secret = std::move(m_pending);
+    QString password = QString::fromUtf8(secret->data(), static_cast<int>(secret->size()));
+    Q_EMIT changed();
+    m_core.unlockCurrentSafe(password);
+    wipe(password);
 }
 
 void UnlockLogic::cancel()
 {
-    if (m_unlocking)
-        m_core.cancelUnlock();
+    if (!m_unlocking)
+        return;
+    m_core.cancelUnlock();
+}
+
+void UnlockLogic::dropPending()
+{
+    if (!m_pending)
+        return;
+    m_pending.reset();
+    onFinished(SafeUnlock::Outcome::Cancelled);
 }
 
 const KnownSafes::Entry *UnlockLogic::chosen() const
@@ -186,6 +226,7 @@ void UnlockLogic::reload()
 
 void UnlockLogic::takeCurrentSafe()
 {
+    m_pending.reset();
     m_unlocking = false;
     m_openElsewhere = false;
     m_message.clear();

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "KnownSafes.h"
+#include "LooseWork.h"
 #include "SafeUnlock.h"
+#include "SafeUse.h"
 
 #include <QObject>
 
@@ -26,10 +28,14 @@ public:
     QString hint() const;
     /// Why the safe is locked, or what to do about it.
     QString invitation() const;
+    /// The chosen safe is locked and still saves what was changed; unlocking waits for that.
+    bool isSaving() const;
     /// What went wrong last; empty when nothing did.
     QString message() const { return m_message; }
     /// Another program has the chosen safe open; the user was told, and unlocks it anyway or not.
     bool isOpenElsewhere() const { return m_openElsewhere; }
+    /// The password is on its way, and need not be kept where it was typed.
+    bool hasPassword() const { return m_unlocking && !m_pending; }
     int itemsDone() const { return m_done; }
     int itemsTotal() const { return m_total; }
 
@@ -50,7 +56,10 @@ private:
     QString firstOf(const QString &preferredFolder) const;
     void reload();
     void takeCurrentSafe();
-    bool warnOfOther();
+    void lookForOther();
+    void onLookedForOther(const std::optional<SafeUse::Other> &other);
+    void passOn();
+    void dropPending();
     void onAnswered(const QString &folder);
     QString whyNot(const QString &folder) const;
     void onFinished(SafeUnlock::Outcome outcome);
@@ -60,9 +69,12 @@ private:
     QVector<KnownSafes::Entry> m_safes;
     QString m_folder;
     QString m_message;
-    QString m_awaited; ///< the chosen folder while it does not answer
+    QString m_awaited;                      ///< the chosen folder while it does not answer
+    std::unique_ptr<SecretBytes> m_pending; ///< the password while the folder is asked
+    int m_attempt = 0;
     bool m_unlocking = false;
     bool m_openElsewhere = false;
     int m_done = 0;
     int m_total = 0;
+    LooseWork m_look;
 };

@@ -36,7 +36,12 @@ ImportAdder::ImportAdder(std::shared_ptr<GPMSafe> safe, std::shared_ptr<const Im
     , m_chosen(std::move(chosen))
 {
     connect(m_safe.get(), &GPMSafe::saved, this, &ImportAdder::onSaved);
-    connect(m_safe.get(), &GPMSafe::lockedChanged, this, &ImportAdder::onLocked);
+    connect(m_safe.get(), &GPMSafe::lockSettled, this, &ImportAdder::onLocked);
+    connect(m_safe.get(), &GPMSafe::lockedChanged, this, [this](bool locked) {
+        // The user has called the lock off that could not save.
+        if (!locked && !m_ended)
+            finish(NotSaved);
+    });
     connect(&m_ratings, &QFutureWatcherBase::finished, this, &ImportAdder::addRated);
 }
 
@@ -80,10 +85,10 @@ void ImportAdder::addRated()
         if (const PMListItem *added = m_safe->addItem(std::move(item)))
             m_written.append(added->id());
     }
-    if (m_written.isEmpty())
-        finish(Locked);
-    else
+    if (!m_written.isEmpty())
         m_safe->saveChangesAsync();
+    else if (!m_safe->isSettling())
+        finish(Locked);
 }
 
 void ImportAdder::onSaved(bool good)
@@ -105,11 +110,11 @@ void ImportAdder::onSaved(bool good)
     rateNext();
 }
 
-void ImportAdder::onLocked(bool locked)
+void ImportAdder::onLocked()
 {
-    if (!locked || m_ended)
+    // Not before the lock has saved what there is, if the disk lets it.
+    if (m_ended || m_safe->isUnlocked() || m_safe->isSettling())
         return;
-    // A lock saves what there is before it drops it, if the disk lets it.
     if (!m_written.isEmpty() && !m_safe->savedAtLock()) {
         finish(NotSaved);
         return;

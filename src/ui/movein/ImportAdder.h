@@ -34,7 +34,7 @@ public:
     void cancel() { m_cancelled = true; }
 
     /// Ends it when the safe is locked; nobody has to wait for the safe's own signal.
-    void onLocked(bool locked);
+    void onLocked();
 
     int total() const { return m_chosen.size(); }
     /// How many of the chosen ones, from the first, are in the safe and on the disk.

@@ -266,7 +266,7 @@ void MoveInDialog::onLocked()
     if (m_safe->isUnlocked())
         return;
     if (m_adder) {
-        m_adder->onLocked(true);
+        m_adder->onLocked();
         return;
     }
     stopReading();

@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QHash>
 
+#include <functional>
+
 namespace {
 
 bool isCurrent(GPMAppCore &core, const QString &folder)
@@ -124,12 +126,19 @@ void SafeDesk::openFolder()
     const QString folder = m_ways.choose.folder(tr("Open the folder of a safe"));
     if (folder.isEmpty())
         return;
-    KnownSafes &known = m_core.knownSafes();
-    const KnownSafes::Found found = known.add(folder);
+    m_core.knownSafes().add(folder,
+                            [desk = QPointer<SafeDesk>(this), folder](KnownSafes::Found found) {
+                                if (desk)
+                                    desk->onAdded(folder, found);
+                            });
+}
+
+void SafeDesk::onAdded(const QString &folder, KnownSafes::Found found)
+{
     if (found == KnownSafes::Found::Taken || found == KnownSafes::Found::KnownAlready) {
         if (m_list)
             m_list->close();
-        m_window.openSafe(known.listed(folder));
+        m_window.openSafe(m_core.knownSafes().listed(folder));
         return;
     }
     tell(tr("No safe there"),
@@ -141,18 +150,31 @@ void SafeDesk::rename(const SafeInfo &safe)
 {
     auto *dialog = new RenameDialog(safe.name, m_theme, above(), tr("Name of the safe"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog, safe] {
-        GPMSafe *current = isCurrent(m_core, safe.folder) ? m_core.currentSafe().get() : nullptr;
-        if (current && current->isChangingPassword())
-            tell(tr("Can't rename."), tr("The safe keeps its name while its password is being "
-                                         "changed. Try again when that is done."));
-        else if (!m_core.knownSafes().rename(safe.folder, dialog->name().simplified(), current))
-            tell(tr("Can't rename."),
-                 tr("The safe keeps its name. Check the free space and that you may write to its "
-                    "folder:\n%1")
-                     .arg(QDir::toNativeSeparators(safe.folder)));
-    });
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog, safe] { giveName(safe.folder, dialog->name().simplified()); });
     dialog->open();
+}
+
+void SafeDesk::giveName(const QString &folder, const QString &name)
+{
+    const std::shared_ptr<GPMSafe> current = m_core.heldSafe(folder);
+    if (current && current->isChangingPassword()) {
+        tell(tr("Can't rename."), tr("The safe keeps its name while its password is being "
+                                     "changed. Try again when that is done."));
+        return;
+    }
+    m_core.knownSafes().rename(folder, name, current,
+                               [desk = QPointer<SafeDesk>(this), folder](bool done) {
+                                   if (desk && !done)
+                                       desk->tellNotRenamed(folder);
+                               });
+}
+
+void SafeDesk::tellNotRenamed(const QString &folder)
+{
+    tell(tr("Can't rename."), tr("The safe keeps its name. Check the free space and that you may "
+                                 "write to its folder:\n%1")
+                                  .arg(QDir::toNativeSeparators(folder)));
 }
 
 void SafeDesk::locate(const SafeInfo &safe)
@@ -160,7 +182,16 @@ void SafeDesk::locate(const SafeInfo &safe)
     const QString folder = m_ways.choose.folder(tr("Where is “%1” now?").arg(safe.name));
     if (folder.isEmpty())
         return;
-    const KnownSafes::Found found = m_core.knownSafes().locate(safe.folder, folder);
+    m_core.knownSafes().locate(
+        safe.folder, folder,
+        [desk = QPointer<SafeDesk>(this), name = safe.name, folder](KnownSafes::Found found) {
+            if (desk)
+                desk->onLocated(name, folder, found);
+        });
+}
+
+void SafeDesk::onLocated(const QString &name, const QString &folder, KnownSafes::Found found)
+{
     if (found == KnownSafes::Found::Taken)
         return;
     if (found == KnownSafes::Found::AnotherSafe)
@@ -168,7 +199,7 @@ void SafeDesk::locate(const SafeInfo &safe)
             tr("Another safe"),
             tr("This folder holds another safe than “%1”. Open it on its own with “Open the folder "
                "of a safe”, or choose another folder.")
-                .arg(safe.name));
+                .arg(name));
     else
         tell(tr("No safe there"),
              tr("There is no safe in this folder:\n%1").arg(QDir::toNativeSeparators(folder)));
@@ -218,11 +249,22 @@ void SafeDesk::deleteSafe(const SafeInfo &safe)
     // The windows can be made anew meanwhile, in another language for one.
     const QPointer<ProgressDialog> progress = showDeleting(safe);
     m_core.knownSafes().beginDeletion(safe.folder);
+    const std::shared_ptr<GPMSafe> held = m_core.heldSafe(safe.folder);
+    if (held && held->isSettling())
+        connect(held.get(), &GPMSafe::lockSettled, this,
+                std::bind(&SafeDesk::removeFiles, this, safe, progress));
+    else
+        removeFiles(safe, progress);
+}
+
+void SafeDesk::removeFiles(const SafeInfo &safe, const QPointer<ProgressDialog> &progress)
+{
     const auto result = std::make_shared<SafeRemoval::Result>();
     auto *task = new WorkerTask(
         [result, folder = safe.folder, place = m_core.knownSafes().safesFolder(),
-         environment = m_core.knownSafes().environment()](WorkControl &control) {
-            const SafeRemoval removal(environment);
+         environment = m_core.knownSafes().environment(),
+         hasNamesake = m_core.knownSafes().hasNamesake(safe.folder)](WorkControl &control) {
+            const SafeRemoval removal(environment, hasNamesake);
             removal.clearUnfinished(place);
             *result = removal.run(folder, control);
         },

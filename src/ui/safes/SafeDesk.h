@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KnownSafes.h"
 #include "SafeRemoval.h"
 #include "SafesDialog.h"
 #include "dialogs/FileChooser.h"
@@ -61,11 +62,16 @@ private:
     /// @param safe a copy: its row may go while the user is asked
     void run(SafeRow::Command command, SafeInfo safe);
     void open(const SafeInfo &safe);
+    void onAdded(const QString &folder, KnownSafes::Found found);
     void rename(const SafeInfo &safe);
+    void giveName(const QString &folder, const QString &name);
+    void tellNotRenamed(const QString &folder);
     void locate(const SafeInfo &safe);
+    void onLocated(const QString &name, const QString &folder, KnownSafes::Found found);
     void removeFromList(const SafeInfo &safe);
     void askToDelete(const SafeInfo &safe);
     void deleteSafe(const SafeInfo &safe);
+    void removeFiles(const SafeInfo &safe, const QPointer<ProgressDialog> &progress);
     ProgressDialog *showDeleting(const SafeInfo &safe);
     void tellDeleted(const SafeInfo &safe, const SafeRemoval::Result &result,
                      ProgressDialog &progress);
