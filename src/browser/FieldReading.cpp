@@ -316,7 +316,9 @@ FieldReading readTextsOf(const FormField &field, const QString &next, const QStr
             takeLastPart(reading, code, language);
         take(reading, code, MainWord::Last, language);
     }
-    if (isOther && isIdentityKind(reading.kind))
+    const bool isOpen = reading.kind == FieldKind::Unknown && field.isLine() &&
+                        kindOfType(field.inputType()) == FieldKind::Unknown;
+    if (isOther && (isIdentityKind(reading.kind) || isOpen))
         reading.kind = FieldKind::Other;
     reading.isFromBehind = behind != FieldKind::Unknown && reading.kind == behind;
     // What stands before the "@" is no whole address.

@@ -104,7 +104,9 @@ void TestWholeForms::wholeForms_data()
     // A caption that is written before the next field is that one's.
     row(R"({"label":"City"}, {"textAfter":"Country"}, {"textBefore":"Country"})",
         "Kassel|-|Germany");
-    row(R"({"label":"Vereinsart","name":"city"}, {"label":"E-mail"})", "-|ana@example.com");
+    row(R"({"label":"Vereinsart","name":"city"}, {"label":"Traglast","name":"capacity"},
+           {"label":"Rückruf unter","inputtype":"tel"})",
+        "-|-|+49 561 12345");
     // Who stands beside the user, and what.
     row(R"({"label":"Pet's name","heading":"Your pet"}, {"label":"Date of birth","heading":"Your pet"},
            {"label":"First name","heading":"You"}, {"label":"E-mail","heading":"You"})",
