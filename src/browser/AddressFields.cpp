@@ -87,6 +87,21 @@ void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading>
     }
 }
 
+void settleSecondStreet(int at, const QVector<FormField> &fields,
+                        const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+{
+    const auto textAt = [&](int i) { return fields.at(i).readTexts().join(QLatin1Char(' ')); };
+    const QString text = textAt(at);
+    const QString before = textAt(at - 1);
+    const bool isSecond =
+        readings.at(at).says(FieldKind::AddressLine2) || !readings.at(at).hasText || text == before;
+    const bool isFirstStrange = hasStrangeWords(before) && !readings.at(at - 1).isTold;
+    if (!isSecond && isFirstStrange && !hasStrangeWords(text))
+        kinds[at - 1] = FieldKind::Other;
+    else
+        kinds[at] = isSecond ? FieldKind::AddressLine2 : FieldKind::Other;
+}
+
 void leaveExtraStreets(QVector<FieldKind> &kinds)
 {
     const int most =

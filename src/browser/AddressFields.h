@@ -14,5 +14,10 @@ void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading>
 /// How many addresses are asked for, one at least.
 int addressesIn(const QVector<FieldKind> &kinds);
 
+/// Of two streets one after another, the second may be the second line. A first that says more than
+/// the program knows ("name of this address") leaves the street to a second that is plain.
+void settleSecondStreet(int at, const QVector<FormField> &fields,
+                        const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
+
 /// Leaves what belongs to an address that is not there: a second street without a second city.
 void leaveExtraStreets(QVector<FieldKind> &kinds);

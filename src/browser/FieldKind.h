@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 /// What a field of a page asks for.
 enum class FieldKind {
     Unknown,
@@ -96,4 +98,9 @@ inline bool isPerhapsKind(FieldKind kind)
 inline bool isVagueKind(FieldKind kind)
 {
     return kind >= FieldKind::CurrentPassword;
+}
+
+inline uint qHash(FieldKind kind, uint seed = 0)
+{
+    return uint(kind) ^ seed;
 }

@@ -3,7 +3,9 @@
 #include "Autocomplete.h"
 #include "FieldOptions.h"
 #include "FieldPhrases.h"
+#include "InputTypes.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -82,6 +84,21 @@ const TextMeaning::Part *withoutOwner(const TextMeaning &meaning, const TextMean
     return main;
 }
 
+/// "Credit card month", "CreditCardName": what is vague by itself is the card's there.
+FieldKind partOfCard(const TextMeaning &meaning, const TextMeaning::Part &card)
+{
+    static const QHash<FieldKind, FieldKind> parts = {{FieldKind::SomeMonth, FieldKind::CardMonth},
+                                                      {FieldKind::SomeYear, FieldKind::CardYear},
+                                                      {FieldKind::SomeDate, FieldKind::CardExpiry},
+                                                      {FieldKind::SomeName, FieldKind::CardHolder},
+                                                      {FieldKind::SomeCode, FieldKind::CardCode}};
+    for (const TextMeaning::Part &part : meaning.parts) {
+        if (card.kind == FieldKind::CardNumber && part.position == card.position + card.words)
+            return parts.value(part.kind, FieldKind::Unknown);
+    }
+    return FieldKind::Unknown;
+}
+
 FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
 {
     const TextMeaning::Part *main = nullptr;
@@ -99,6 +116,9 @@ FieldKind mainKind(const TextMeaning &meaning, MainWord mainWord)
         return FieldKind::Unknown;
     if (mainWord == MainWord::First)
         main = withoutOwner(meaning, main);
+    const FieldKind ofCard = partOfCard(meaning, *main);
+    if (ofCard != FieldKind::Unknown)
+        return ofCard;
     // "Street and house number" is the street's line, "phone or e-mail" takes an address.
     if (main->kind == FieldKind::HouseNumber && meaning.names(FieldKind::AddressLine1))
         return FieldKind::AddressLine1;
@@ -193,21 +213,6 @@ void takeLastPart(FieldReading &reading, const QString &code, const QString &lan
         take(reading, last, MainWord::Last, language);
 }
 
-FieldKind kindOfType(const QString &inputType)
-{
-    if (inputType == QLatin1String("search"))
-        return FieldKind::Never;
-    if (inputType == QLatin1String("email"))
-        return FieldKind::Email;
-    if (inputType == QLatin1String("url"))
-        return FieldKind::Website;
-    if (inputType == QLatin1String("month"))
-        return FieldKind::CardExpiry;
-    if (inputType == QLatin1String("tel"))
-        return FieldKind::Phone;
-    return FieldKind::Unknown;
-}
-
 FieldReading readSelect(const FormField &field, FieldReading reading)
 {
     const FieldKind chosen = kindOfOptions(field.options(mostTellingOptions));
@@ -234,6 +239,7 @@ FieldKind kindInPassword(const FieldReading &reading)
     case FieldKind::CurrentPassword:
     case FieldKind::RepeatedPassword:
     case FieldKind::CardCode:
+    case FieldKind::CardNumber:
         return reading.kind;
     case FieldKind::Password:
         return FieldKind::Password;
@@ -318,7 +324,7 @@ FieldReading readTextsOf(const FormField &field, const QString &next, const QStr
     }
     const bool isOpen = reading.kind == FieldKind::Unknown && field.isLine() &&
                         kindOfType(field.inputType()) == FieldKind::Unknown;
-    if (isOther && (isIdentityKind(reading.kind) || isOpen))
+    if (isOther && (isIdentityKind(reading.kind) || isCardKind(reading.kind) || isOpen))
         reading.kind = FieldKind::Other;
     reading.isFromBehind = behind != FieldKind::Unknown && reading.kind == behind;
     // What stands before the "@" is no whole address.
@@ -340,12 +346,8 @@ FieldReading readTextsOf(const FormField &field, const QString &next, const QStr
         reading.kind = kindInText(reading.kind);
     else if (!field.isLine())
         reading.kind = FieldKind::Other;
-    else if (reading.kind == FieldKind::Unknown ||
-             kindOfType(field.inputType()) == FieldKind::Never)
-        reading.kind = kindOfType(field.inputType());
-    if (field.inputType() == QLatin1String("email") && reading.kind != FieldKind::Never &&
-        !reading.isOfOther)
-        reading.kind = FieldKind::Email;
+    else
+        readType(reading, field.inputType());
     return reading;
 }
 

@@ -81,7 +81,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::CardLastName, "last name on card|cardholder last name|card last name|card last|cc last name|cc last|"
      "card holder last name|nachname des karteninhabers"},
     {FieldKind::CardHolder,
-     "name on card|card user name|card username|name on the card|name on credit card|name as it appears on card|name as it appears on the card|name as on card|"
+     "name on card|card user name|card username|credit card holder|credit card owner|credit card holder name|nome do cartao|имя владельца карты|name on the card|name on credit card|name as it appears on card|name as it appears on the card|name as on card|"
      "cardholder|card holder|cardholder name|card holder name|cardholder s name|card holder s name|cardholders name|cc name|ccname|"
      "card name|cardname|cc holder|ccholder|cc owner|card owner|=owner|=holder|holder name|card holder full name|name on your card|"
      "name of cardholder|karteninhaber|name des karteninhabers|name auf der karte|name auf karte|=inhaber|"
@@ -94,11 +94,11 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "number on card|pmt card nr|kartennummer|kreditkartennummer|karten nr|kartennr|kreditkarte|knr|"
      "numero de tarjeta|nro de tarjeta|nro tarjeta|numero tarjeta|no tarjeta|no de tarjeta|n tarjeta|num tarjeta|numero de la tarjeta|tarjeta de credito|"
      "numero de carte|numero de la carte|numero carte|n de carte|no de carte|numero de carte bancaire|carte bancaire|"
-     "номер карты|номер банковской карты|nomer karty|=karta|=cc"},
+     "номер карты|номер кредитной карты|номер банковской карты|nomer karty|=karta|=cc"},
     {FieldKind::CardCode,
      "cvv|cvv 2|ccv|cvc|cvc 2|csc|cvn|cid|ccid|cc id|cc cid|cc cvv|cc csc|cc code|cc checkcode|check code|checkcode|security code|securitycode|"
      "card code|card security code|card verification|card verification number|card verification code|verification value|"
-     "card verification value|security number|3 digit security number|cv 2|card id number|cvd|"
+     "card verification value|security value|c v v|security number|3 digit security number|cv 2|card id number|cvd|"
      "prufziffer|kartenprufnummer|prufnummer|kartenprufziffer|sicherheitscode|sicherheitsnummer|"
      "codigo de seguridad|cod seguridad|codigo seguridad|codigo cvv|codseg|"
      "code de securite|cryptogramme|cryptogramme visuel|code cvv|code cvc|crypto|"
@@ -140,30 +140,30 @@ const QVector<WordRow<FieldKind>> &fieldWords()
     {FieldKind::SomeName, "name|nom|=nm"},
     {FieldKind::Country,
      "country|country region|country name|country code|countrycode|country id|country or region|pais|pays|страна|strana|"
-     "country of residence|land region"},
+     "address country|country of residence|land region"},
     {FieldKind::State,
-     "wojewodztwo|wojewodztwa|state|province|state province|state county|territory|state territory|canton|state id|state or region|state or "
+     "wojewodztwo|wojewodztwa|state|province|state province|state county|territory|state territory|canton|state id|address state|address province|state or region|state or "
      "province|province id|bundesland|kanton|provincia|estado|область|регион|край|oblast|=edo"},
     {FieldKind::City,
-     "city|town|city town|town city|stadt|wohnort|ciudad|poblacion|"
+     "city|town|address city|city town|town city|stadt|wohnort|ciudad|poblacion|"
      "ville|город|gorod|=cty"},
     {FieldKind::AddressLine1,
-     "address|street|street address|streetaddress|address line 1|addressline 1|address 1|addr 1|addr|line 1|street 1|home address|mailing "
+     "address|street|street address|streetaddress|address line 01|address 01|название улицы|address line 1|addressline 1|address 1|addr 1|addr|line 1|street 1|home address|mailing "
      "address|postal address|street name|street and number|street and house number|house no and street|house number and street name|"
      "house number and street|enter address line 1|billing address|shipping address|delivery address|street line|street line 1|"
      "strasse|strasse und hausnummer|strasse hausnummer|strasse nr|strasse und nr|anschrift|adresse|strassenname|=str|"
      "direccion|calle|calle y numero|calle numero|domicilio|rue|adresse n et rue|numero et rue|voie|adresse postale|"
      "улица|адрес|адрес доставки|улица дом|adres|adres 1|ulica|ulitsa"},
     {FieldKind::AddressLine2,
-     "address line 2|addressline 2|address 2|addr 2|line 2|street 2|apartment|apartment suite|apartment suite unit|apt|apt suite|apt unit|suite|"
+     "address line 02|address 02|address line 2|addressline 2|address 2|addr 2|line 2|street 2|apartment|apartment suite|apartment suite unit|apt|apt suite|apt unit|suite|"
      "unit|unit number|apt number|address complement|address line two|street address line 2|extra line|street line 2|street "
      "address 2|adresszusatz|=zusatz|adresserganzung|=piso|piso puerta|=complement|complement d adresse|"
      "appartement|квартира|adres 2|enter address line 2|dpto|departamento numero"},
     {FieldKind::HouseNumber,
-     "house number|house no|housenumber|=house|street number|hausnummer|hausnr|haus nr|hnr|=nr|numero exterior|numero de casa|numero de rue|n de voie|no de voie|numero de voie|numero de la voie|"
+     "house number|house no|housenumber|=house|street number|hausnummer|hausnr|haus nr|hnr|=nr|numero exterior|n de rue|no de rue|address house number|address house no|numero da residencia|numero de casa|numero de rue|n de voie|no de voie|numero de voie|numero de la voie|"
      "=дом|номер дома|=dom"},
     {FieldKind::PostalCode,
-     "postal code|postalcode|postcode|post code|zip|zip code|zipcode|zip postal code|zip postal|postal|zippostalcode|=zp|bzip|pincode|pin "
+     "address zip|address zip code|address postal code|address postcode|postal code|postalcode|postcode|post code|zip|zip code|zipcode|zip postal code|zip postal|postal|zippostalcode|=zp|bzip|pincode|pin "
      "code|plz|postleitzahl|codigo postal|cod postal|=c p|=cp|cpost|code postal|индекс|почтовый индекс|почтовыи индекс|indeks"},
     {FieldKind::Email,
      "email|e mail|mail|email address|e mail address|mail address|emailaddress|your email|work email|e mail adresse|email adresse|mailadresse|"

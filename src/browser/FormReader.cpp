@@ -142,17 +142,6 @@ private:
         return i < m_fields.size() && isSilent(m_fields.at(i), reading(i));
     }
 
-    /// Whether it says that it is a second line, or no more than the one before it.
-    bool isSecondLine(int at) const
-    {
-        const auto wordsAt = [&](int i) {
-            return wordsOf(m_fields.at(i).readTexts().join(QLatin1Char(' ')));
-        };
-        const int words = wordsAt(at).size();
-        return reading(at).says(FieldKind::AddressLine2) || words <= 2 ||
-               words <= wordsAt(at - 1).size();
-    }
-
     void readDate(int at);
     FieldKind datePart(int at, bool isBirth) const;
     bool saysPart(int at, FieldKind part) const;
@@ -275,7 +264,7 @@ void Reader::readNeighbours(int at)
         return;
     case FieldKind::AddressLine1:
         if (before == FieldKind::AddressLine1 && m_fields.at(at).isLine())
-            m_kinds[at] = isSecondLine(at) ? FieldKind::AddressLine2 : FieldKind::Other;
+            settleSecondStreet(at, m_fields, m_readings, m_kinds);
         return;
     case FieldKind::Phone:
         if (before == FieldKind::PhoneArea)

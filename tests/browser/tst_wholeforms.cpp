@@ -101,12 +101,26 @@ void TestWholeForms::wholeForms_data()
     row(R"({"label":"Numero carta di credito"}, {"label":"Data di scadenza"}, {"label":"Data di scadenza"},
            {"label":"Telefono","maxlength":3})",
         "4111111111111111|09|2029|-");
+    row(card + R"({"name":"CreditCardMonth","label":"Month","maxlength":2},
+           {"name":"CreditCardYear","label":"Year","maxlength":2}, {"label":"Credit card holder"})",
+        "4111111111111111|09|29|Ana Maria Lind");
+    row(R"({"label":"Card number","type":"password","name":"k"}, {"label":"Valid until"},
+           {"label":"Cashier ID","name":"cid"})",
+        "4111111111111111|09/29|-");
+    // Streets, their numbers, and what is only called an address.
+    row(R"({"label":"Main address house number","name":"addressHouseNumber"},
+           {"label":"Street"}, {"label":"Address country"}, {"label":"City"})",
+        "12 b|Lange Straße|Germany|Kassel");
+    row(R"({"label":"Address handle"}, {"label":"Address"}, {"label":"Street"}, {"label":"City"})",
+        "-|Lange Straße 12 b|-|Kassel");
+    row(R"({"label":"Telephone","inputtype":"email"}, {"label":"E-mail","inputtype":"email"})",
+        "-|ana@example.com");
     // A caption that is written before the next field is that one's.
     row(R"({"label":"City"}, {"textAfter":"Country"}, {"textBefore":"Country"})",
         "Kassel|-|Germany");
     row(R"({"label":"Vereinsart","name":"city"}, {"label":"Traglast","name":"capacity"},
-           {"label":"Rückruf unter","inputtype":"tel"})",
-        "-|-|+49 561 12345");
+           {"label":"Nach Rücksprache","inputtype":"tel"}, {"inputtype":"tel"})",
+        "-|-|-|+49 561 12345");
     // Who stands beside the user, and what.
     row(R"({"label":"Pet's name","heading":"Your pet"}, {"label":"Date of birth","heading":"Your pet"},
            {"label":"First name","heading":"You"}, {"label":"E-mail","heading":"You"})",

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "FieldReading.h"
+
+/// What the type of a line of text says that it takes, Unknown for plain text.
+FieldKind kindOfType(const QString &inputType);
+
+/// Lets the type of a line of text decide where its texts do not, or where it takes nothing else.
+void readType(FieldReading &reading, const QString &inputType);
