@@ -93,7 +93,7 @@ QVector<QPair<const char *, QJsonObject>> hostilePages()
         options.append(QJsonObject{{QStringLiteral("text"), QStringLiteral("Mrs %1").arg(i)}});
     QJsonObject list = field("Country", "select-one");
     list.insert(QStringLiteral("options"), options);
-    QJsonObject pattern = field("Phone");
+    QJsonObject pattern = field("City");
     pattern.insert(QStringLiteral("pattern"), QStringLiteral("(.|.)*(.|.)*(.|.)*(.|.)*[xy]"));
     QJsonObject texts = field("Name");
     for (const char *key : {"label", "textBefore", "placeholder", "ariaLabel"})
