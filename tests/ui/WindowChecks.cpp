@@ -218,6 +218,16 @@ QStringList WindowChecks::clippingFaults(QWidget &window)
     return faults;
 }
 
+QStringList WindowChecks::sizeFaults(const QWidget &window)
+{
+    // 1366 by 768 points at 125 %, less a task bar.
+    const QSize screen(1093, 574);
+    const QSize size = window.minimumSize().expandedTo(window.minimumSizeHint());
+    if (size.boundedTo(screen) == size)
+        return {};
+    return {QStringLiteral("needs %1×%2 of the screen").arg(size.width()).arg(size.height())};
+}
+
 QStringList WindowChecks::contrastFaults(QWidget &window)
 {
     QStringList faults;

@@ -17,6 +17,9 @@ QStringList tabFaults(QWidget &window);
 /// Texts have the room that they need.
 QStringList clippingFaults(QWidget &window);
 
+/// A window is no larger than the screen of a small laptop must be taken to be.
+QStringList sizeFaults(const QWidget &window);
+
 /// Texts stand out from their ground, as painted.
 QStringList contrastFaults(QWidget &window);
 

@@ -75,6 +75,8 @@ private Q_SLOTS:
         QVERIFY(tells(WindowChecks::clippingFaults(window), "QComboBox"));
         QVERIFY(tells(WindowChecks::clippingFaults(window), "reaches out"));
         QVERIFY(tells(WindowChecks::contrastFaults(window), "Pale"));
+        window.setMinimumSize(560, 575);
+        QVERIFY(tells(WindowChecks::sizeFaults(window), "needs 560"));
     }
 
     void keyboardAndNames()
@@ -117,8 +119,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, language);
         QFETCH(int, percent);
-        QVERIFY(allPass({false, percent, language}, [](QWidget &window, const Stage &) {
-            return WindowChecks::clippingFaults(window);
+        QVERIFY(allPass({false, percent, language}, [percent](QWidget &window, const Stage &) {
+            const QStringList tooLarge =
+                percent > 100 ? QStringList() : WindowChecks::sizeFaults(window);
+            return WindowChecks::clippingFaults(window) + tooLarge;
         }));
     }
 

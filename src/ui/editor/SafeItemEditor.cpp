@@ -33,11 +33,9 @@ bool hasLongText(const QVector<ItemField> &fields)
 SafeItemEditor::SafeItemEditor(const GPMAppSettings &settings, const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_context{settings, theme, EditorDefaults::fromLocale(QLocale::system()), QLocale::system()}
-    , m_scroll(new QScrollArea(this))
+    , m_scroll(makeScrollArea(this))
 {
     setObjectName(QStringLiteral("itemEditor"));
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins({});

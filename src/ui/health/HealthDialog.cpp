@@ -27,7 +27,7 @@ HealthDialog::HealthDialog(ItemHealth &health, const ItemListModel &items, const
     , m_items(items)
     , m_theme(theme)
     , m_clock(std::move(clock))
-    , m_scroll(new QScrollArea(this))
+    , m_scroll(makeScrollArea(this))
     , m_empty(new EmptyState(theme, this))
     , m_progress(makeLabel({}, "muted", this))
     , m_ignored(makeButton({}, "link", this))
@@ -41,9 +41,6 @@ HealthDialog::HealthDialog(ItemHealth &health, const ItemListModel &items, const
     m_more->setObjectName(QStringLiteral("moreButton"));
     m_scroll->setObjectName(QStringLiteral("findingList"));
     m_scroll->setAccessibleName(tr("Findings"));
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     layOut();
     connect(m_ignored, &QPushButton::clicked, this, [this] {
         m_showsIgnored = !m_showsIgnored;

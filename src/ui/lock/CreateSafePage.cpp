@@ -90,12 +90,9 @@ void CreateSafePage::layOut(const Theme &theme)
     rows->addLayout(centred(frame));
     rows->addStretch(4);
     // With large texts on a small screen it is higher than the window.
-    auto *scroll = new QScrollArea(this);
+    auto *scroll = makeScrollArea(this);
     scroll->setObjectName(QStringLiteral("createSafeScroll"));
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
     scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(inside);
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(0, Style::margin, 0, Style::margin);

@@ -45,7 +45,7 @@ ItemPage::ItemPage(const GPMAppSettings &settings, const Theme &theme, QWidget *
     , m_settings(settings)
     , m_theme(theme)
     , m_clock(std::move(clock))
-    , m_scroll(new QScrollArea(this))
+    , m_scroll(makeScrollArea(this))
     , m_column(new QVBoxLayout)
 {
     setObjectName(QStringLiteral("itemPage"));
@@ -112,8 +112,6 @@ void ItemPage::layOut()
     m_column->addLayout(info);
     m_column->addStretch();
 
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setWidget(body);
     auto *all = new QVBoxLayout(this);

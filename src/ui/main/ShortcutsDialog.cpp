@@ -49,12 +49,9 @@ ShortcutsDialog::ShortcutsDialog(const Theme &theme, QWidget *parent)
         grid->addWidget(keys, line++, 1, Qt::AlignRight | Qt::AlignVCenter);
     }
     grid->setRowStretch(line, 1);
-    auto *scroll = new QScrollArea(this);
+    auto *scroll = makeScrollArea(this);
     scroll->setObjectName(QStringLiteral("findingList"));
     scroll->setAccessibleName(tr("Keyboard shortcuts"));
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(content);
     body().addWidget(scroll, 1);
 }

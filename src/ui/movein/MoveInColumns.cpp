@@ -10,16 +10,13 @@
 MoveInColumns::MoveInColumns(const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_theme(theme)
-    , m_scroll(new QScrollArea(this))
+    , m_scroll(makeScrollArea(this))
     , m_onward(makeButton(tr("Continue"), "primary", this))
 {
     auto *text = makeLabel({}, "text", this);
     text->setWordWrap(true);
     m_text = text;
     m_scroll->setObjectName(QStringLiteral("columnList"));
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_onward->setObjectName(QStringLiteral("useColumnsButton"));
     auto *cancel = makeButton(tr("Cancel"), "plain", this);

@@ -24,7 +24,7 @@ SafesDialog::SafesDialog(GPMAppCore &core, const CloudOffers &offers, const Them
     , m_offers(offers)
     , m_theme(theme)
     , m_clock(std::move(clock))
-    , m_scroll(new QScrollArea(this))
+    , m_scroll(makeScrollArea(this))
     , m_cloud(makeButton({}, "plain", this))
     , m_details(core.knownSafes().environment().files)
 {
@@ -53,10 +53,7 @@ void SafesDialog::layOut()
 {
     m_scroll->setObjectName(QStringLiteral("safeList"));
     m_scroll->setAccessibleName(tr("Safes"));
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto *create = makeButton(tr("New safe"), "primary", this);
     create->setObjectName(QStringLiteral("newSafeButton"));

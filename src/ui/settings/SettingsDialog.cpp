@@ -117,12 +117,9 @@ void SettingsDialog::makeRows(const QVector<Setting> &settings, const SettingRow
 
 void SettingsDialog::layOut()
 {
-    m_scroll = new QScrollArea(this);
+    m_scroll = makeScrollArea(this);
     m_scroll->setObjectName(QStringLiteral("settingsScroll"));
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setWidget(m_body);
     auto *search = new QHBoxLayout;
     search->setContentsMargins(Style::margin, 0, Style::margin, 0);

@@ -18,12 +18,9 @@ QWidget *makeNews(const QString &text, QWidget *parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     auto *card = makeCard(parent);
-    auto *area = new QScrollArea(card);
+    auto *area = makeScrollArea(card);
     area->setObjectName(QStringLiteral("newVersionNews"));
     area->setAccessibleName(NewVersionDialog::tr("What is new"));
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(label);
     auto *inside = new QVBoxLayout(card);
     inside->setContentsMargins(Style::gap, Style::gap, Style::gap, Style::gap);

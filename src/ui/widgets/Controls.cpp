@@ -42,6 +42,15 @@ QToolButton *makeIconButton(const QIcon &icon, const QString &name, const char *
     return button;
 }
 
+QScrollArea *makeScrollArea(QWidget *parent)
+{
+    auto *area = new QScrollArea(parent);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    return area;
+}
+
 QFrame *makeCard(QWidget *parent)
 {
     auto *card = new QFrame(parent);

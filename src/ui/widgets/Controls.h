@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QToolButton>
 
 /// Small makers of the controls that the style sheet knows by their "tone" or "look".
@@ -17,6 +18,9 @@ QToolButton *makeIconButton(const QIcon &icon, const QString &name, const char *
 
 /// A frame with round corners that groups rows.
 QFrame *makeCard(QWidget *parent);
+
+/// Scrolls what is put into it up and down; without a frame of its own.
+QScrollArea *makeScrollArea(QWidget *parent);
 
 /// Keeps room for a text that wraps in the given width: a window's smallest size forgets it.
 void keepTextHeight(QLabel &label, int width);

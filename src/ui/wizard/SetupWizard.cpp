@@ -7,11 +7,12 @@
 #include "widgets/Controls.h"
 
 #include <QBoxLayout>
+#include <QScreen>
 #include <QStackedWidget>
 
 namespace {
 
-const QSize usualSize(560, 560);
+const QSize usualSize(560, 620);
 const int columnWidth = 440;
 
 } // namespace
@@ -43,8 +44,10 @@ SetupWizard::SetupWizard(const QVector<WizardStep> &steps, const Theme &theme, Q
     m_onward->setDefault(true);
     // The pages hold texts whose lines break; smaller than this they would be cut.
     const QSize size(Style::scaled(usualSize.width()), Style::scaled(usualSize.height()));
-    setMinimumSize(size);
-    resize(size);
+    // On a small screen they scroll instead.
+    const int room = screen()->availableSize().height() - 2 * Style::margin;
+    setMinimumSize(size.width(), qMin(size.height(), room));
+    resize(size.width(), qMin(size.height(), room));
     showStep(0);
 }
 
@@ -74,7 +77,13 @@ void SetupWizard::layOut()
     column->addSpacing(Style::spacing);
     column->addWidget(m_sentence);
     column->addSpacing(Style::margin);
-    column->addWidget(m_pages, 1);
+    auto *scroll = makeScrollArea(frame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(m_pages);
+    // Both would be painted in the system's colour.
+    scroll->viewport()->setAutoFillBackground(false);
+    m_pages->setAutoFillBackground(false);
+    column->addWidget(scroll, 1);
     column->addSpacing(Style::margin);
     column->addLayout(buttons);
     auto *middle = new QHBoxLayout;
