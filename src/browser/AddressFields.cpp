@@ -79,6 +79,12 @@ void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading>
             (kinds.at(i) == FieldKind::PostalCode || kinds.at(i) == FieldKind::City))
             kinds[i] = FieldKind::Other;
     }
+    // The PIN of a place is its postal code.
+    const bool isPlace = kinds.contains(FieldKind::City) && !kinds.contains(FieldKind::PostalCode);
+    for (int i = 0; i < fields.size() && kinds.contains(FieldKind::City); ++i) {
+        if (kinds.at(i) == FieldKind::Password && fields.at(i).isLine())
+            kinds[i] = isPlace ? FieldKind::PostalCode : FieldKind::Other;
+    }
     // "Number" behind the street is the house's.
     for (int i = 1; i < fields.size(); ++i) {
         if (kinds.at(i) == FieldKind::SomeNumber && kinds.at(i - 1) == FieldKind::AddressLine1 &&
@@ -102,14 +108,25 @@ void settleSecondStreet(int at, const QVector<FormField> &fields,
         kinds[at] = isSecond ? FieldKind::AddressLine2 : FieldKind::Other;
 }
 
-void leaveExtraStreets(QVector<FieldKind> &kinds)
+void leaveExtraStreets(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                       QVector<FieldKind> &kinds)
 {
     const int most =
         qMax(1, qMax(kinds.count(FieldKind::City), kinds.count(FieldKind::PostalCode)));
-    int streets = 0;
-    for (FieldKind &kind : kinds) {
-        if (kind == FieldKind::AddressLine1 && ++streets > most)
-            kind = FieldKind::Other;
+    int extra = kinds.count(FieldKind::AddressLine1) - most;
+    for (int i = 0; i < kinds.size() && extra > 0; ++i) {
+        const bool isStrange = !readings.at(i).isTold &&
+                               hasStrangeWords(fields.at(i).readTexts().join(QLatin1Char(' ')));
+        if (kinds.at(i) != FieldKind::AddressLine1 || !isStrange)
+            continue;
+        kinds[i] = FieldKind::Other;
+        --extra;
+    }
+    for (int i = kinds.size() - 1; i >= 0 && extra > 0; --i) {
+        if (kinds.at(i) != FieldKind::AddressLine1)
+            continue;
+        kinds[i] = FieldKind::Other;
+        --extra;
     }
 }
 

@@ -19,5 +19,7 @@ int addressesIn(const QVector<FieldKind> &kinds);
 void settleSecondStreet(int at, const QVector<FormField> &fields,
                         const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 
-/// Leaves what belongs to an address that is not there: a second street without a second city.
-void leaveExtraStreets(QVector<FieldKind> &kinds);
+/// Leaves what belongs to an address that is not there: a second street without a second city,
+/// first those whose text says more than the program knows.
+void leaveExtraStreets(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                       QVector<FieldKind> &kinds);

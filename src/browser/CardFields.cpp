@@ -2,6 +2,15 @@
 
 #include "FieldPhrases.h"
 
+#include <algorithm>
+
+namespace {
+
+/// The year stands no farther behind the month.
+constexpr int farthestYear = 2;
+
+} // namespace
+
 void leaveLoneCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                     QVector<FieldKind> &kinds)
 {
@@ -50,5 +59,19 @@ void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading
                 kinds[i] = FieldKind::Never;
         }
         from = to;
+    }
+}
+
+void joinExpiry(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                QVector<FieldKind> &kinds)
+{
+    for (int i = 0; i < kinds.size(); ++i) {
+        const bool isWhole = kinds.at(i) == FieldKind::CardMonth && fields.at(i).isLine() &&
+                             readings.at(i).kind == FieldKind::CardExpiry &&
+                             !readings.at(i).named.contains(FieldKind::SomeMonth) &&
+                             fields.at(i).maxLength() != 2;
+        const auto to = kinds.begin() + qMin(i + farthestYear + 1, kinds.size());
+        if (isWhole && std::find(kinds.begin() + i, to, FieldKind::CardYear) == to)
+            kinds[i] = FieldKind::CardExpiry;
     }
 }

@@ -13,3 +13,7 @@ void splitExpiry(QVector<FieldKind> &kinds);
 /// Leaves number and code of a gift card, by the heading above them.
 void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                     QVector<FieldKind> &kinds);
+
+/// A month without a year, in a line whose text speaks of the whole date, takes the whole.
+void joinExpiry(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                QVector<FieldKind> &kinds);

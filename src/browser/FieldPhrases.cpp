@@ -311,6 +311,14 @@ TextMeaning meaningOf(const QString &text, TextSort sort, const QString &languag
     int known = 0;
     for (int i = 0; i < words.size();) {
         const auto *phrase = fieldBook().find(words, i, language);
+        // In "billing address line 3" the longer phrase begins within the first.
+        for (int at = i + 1; phrase && at < i + phrase->words.size(); ++at) {
+            const auto *inner = fieldBook().find(words, at, language);
+            if (!inner || inner->words.size() <= phrase->words.size())
+                continue;
+            phrase = inner;
+            i = at;
+        }
         const int count = phrase ? phrase->words.size() : 1;
         for (int at = i; isProse && at < i + count; ++at)
             meaning.isOfRecipient = meaning.isOfRecipient || isIn(recipientWords(), words, at);

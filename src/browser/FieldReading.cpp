@@ -165,9 +165,14 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord, const Q
     TextMeaning meaning =
         meaningOf(sort == TextSort::Prose ? withoutAsides(text) : text, sort, language);
     // In "location (city)" only the aside is known.
-    if (meaning.parts.isEmpty() && sort == TextSort::Prose && text.contains(QLatin1Char('(')))
+    const bool isAside =
+        meaning.parts.isEmpty() && sort == TextSort::Prose && text.contains(QLatin1Char('('));
+    if (isAside)
         meaning = meaningOf(text, sort, language);
     FieldKind kind = mainKind(meaning, mainWord);
+    // "Director (full name)" asks for somebody.
+    if (isAside && kind == FieldKind::FullName)
+        kind = FieldKind::Other;
     if (mainWord == MainWord::First && isSum(text))
         kind = FieldKind::Never;
     if (kind == FieldKind::Unknown)
@@ -369,4 +374,10 @@ FieldReading readField(const FormField &field, const QString &next, const QStrin
     reading.hasText = true;
     reading.isTold = true;
     return reading;
+}
+
+bool isInPlay(const FormField &field)
+{
+    const bool isPicture = field.isFixed() && field.name().isEmpty() && field.id().isEmpty();
+    return !field.isLine() || (field.isVisible() && !isPicture);
 }

@@ -5,7 +5,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
 {
     static const QVector<WordRow<FieldKind>> rows = {
     {FieldKind::Never,
-     "newsletter|subscribe|search|search for|search term|keyword|keywords|=query|=find|=q|suche|suchen|suchbegriff|buscar|busqueda|rechercher|recherche|"
+     "searchfield|searchbox|searchinput|searchtext|searchterm|searchquery|database name|database user|database username|database password|database url|database host|db name|db user|db password|db host|smtp host|smtp user|smtp password|newsletter|subscribe|search|search for|search term|keyword|keywords|=query|=find|=q|suche|suchen|suchbegriff|buscar|busqueda|rechercher|recherche|"
      "поиск|искать|найти|srch|"
      "=domain|=hostname|coupon|coupon code|couponcode|voucher|voucher code|evoucher|promo|promo code|promocode|promotion code|promotional code|discount|"
      "discount code|discount name|gift card|giftcard|gift certificate|gift code|redeem|referral|referral code|invite code|invitation code|"
@@ -155,7 +155,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "direccion|calle|calle y numero|calle numero|domicilio|rue|adresse n et rue|numero et rue|voie|adresse postale|"
      "улица|адрес|адрес доставки|улица дом|adres|adres 1|ulica|ulitsa"},
     {FieldKind::AddressLine2,
-     "address line 02|address 02|address line 2|addressline 2|address 2|addr 2|line 2|street 2|apartment|apartment suite|apartment suite unit|apt|apt suite|apt unit|suite|"
+     "address line 02|address 02|billing address 2|shipping address 2|delivery address 2|home address 2|address line 2|addressline 2|address 2|addr 2|line 2|street 2|apartment|apartment suite|apartment suite unit|apt|apt suite|apt unit|suite|"
      "unit|unit number|apt number|address complement|address line two|street address line 2|extra line|street line 2|street "
      "address 2|adresszusatz|=zusatz|adresserganzung|=piso|piso puerta|=complement|complement d adresse|"
      "appartement|квартира|adres 2|enter address line 2|dpto|departamento numero"},

@@ -58,14 +58,16 @@ public:
             readNeighbours(i);
         readWholeNames(m_readings, m_kinds);
         splitExpiry(m_kinds);
+        joinExpiry(m_fields, m_readings, m_kinds);
         leaveLoneCards(m_fields, m_readings, m_kinds);
         leaveGiftCards(m_fields, m_readings, m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveOtherSections(m_fields, m_readings, m_kinds);
         leaveFurtherBirths(m_readings, m_kinds);
-        leaveExtraStreets(m_kinds);
-        leaveFurtherNames(m_readings, m_kinds);
+        leaveExtraStreets(m_fields, m_readings, m_kinds);
+        leaveFurtherNames(m_fields, m_readings, m_kinds);
         leaveFurtherPhones(m_fields, m_kinds);
+        leaveFurtherMail(m_readings, m_kinds);
         leaveLoneName(m_readings, m_kinds);
         assignLoginRoles(m_fields, m_readings, m_around, m_kinds);
         for (FieldKind &kind : m_kinds)
@@ -248,7 +250,8 @@ void Reader::readDate(int at)
         m_kinds[at] = isBirth ? FieldKind::BirthDate : FieldKind::CardExpiry;
     }
     // The year often stands behind the month without a word of its own.
-    if (m_kinds.at(at) == FieldKind::CardMonth && isOpen(at + 1))
+    if (m_kinds.at(at) == FieldKind::CardMonth && isOpen(at + 1) &&
+        field.isSelect() == m_fields.at(at + 1).isSelect())
         m_kinds[at + 1] = FieldKind::CardYear;
     if (m_kinds.at(at) == FieldKind::BirthMonth && before == FieldKind::BirthDay && isOpen(at + 1))
         m_kinds[at + 1] = FieldKind::BirthYear;
@@ -375,7 +378,21 @@ FieldKind Reader::plainName(int at) const
 
 QVector<FieldKind> readForm(const QVector<FormField> &fields, const FormSurroundings &around)
 {
-    QVector<FieldKind> kinds = Reader(fields, around).read();
+    QVector<FormField> played;
+    QVector<FieldKind> kinds;
+    for (const FormField &field : fields) {
+        const bool isPlayed = isInPlay(field);
+        if (isPlayed)
+            played.append(field);
+        const FieldKind kind =
+            isPlayed ? FieldKind::Unknown : readField(field, {}, around.language).kind;
+        kinds.append(isVagueKind(kind) || isPerhapsKind(kind) ? FieldKind::Other : kind);
+    }
+    const QVector<FieldKind> read = Reader(played, around).read();
+    for (int i = 0, at = 0; i < fields.size(); ++i) {
+        if (isInPlay(fields.at(i)))
+            kinds[i] = read.at(at++);
+    }
     if (isNewsletter(fields, kinds, around))
         kinds.fill(FieldKind::Never);
     return kinds;

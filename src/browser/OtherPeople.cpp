@@ -105,7 +105,9 @@ bool isOwnPhone(const FormField &field)
                           "privat|business|work|office|geschäft|dienst|trabajo|oficina|bureau|"
                           "travail|рабоч|домашн|casa|festnetz|fijo|fixe|landline"),
         QRegularExpression::CaseInsensitiveOption);
-    const QStringList texts = field.readTexts() << field.name() << field.id();
+    QStringList texts = field.readTexts();
+    if (texts.join(QString()).isEmpty())
+        texts << field.name() << field.id();
     return std::any_of(texts.begin(), texts.end(),
                        [&](const QString &text) { return words.match(text).hasMatch(); });
 }
@@ -161,18 +163,31 @@ void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &ki
         kinds[only] = FieldKind::Other;
 }
 
-void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+void leaveFurtherNames(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                       QVector<FieldKind> &kinds)
 {
     const int most = addressesIn(kinds);
     int people = 0;
     int families = 0;
+    QVector<FieldKind> known;
+    QString others;
+    bool isOther = false;
     for (int i = 0; i < kinds.size(); ++i) {
-        const bool isPerson =
-            kinds.at(i) == FieldKind::FullName || kinds.at(i) == FieldKind::FirstName;
-        const bool isFurther = (isPerson && ++people > most) ||
-                               (kinds.at(i) == FieldKind::LastName && ++families > most);
-        if (isFurther && !readings.at(i).isTold)
+        const FieldKind kind = kinds.at(i);
+        const QString &heading = fields.at(i).heading();
+        const bool isPerson = kind == FieldKind::FullName || kind == FieldKind::FirstName;
+        // Who was asked for both names is not asked for the whole under the same heading.
+        const bool isWhole = kind == FieldKind::FullName && known.contains(FieldKind::FirstName) &&
+                             known.contains(FieldKind::LastName) && heading == others;
+        const bool isFurther = (isPerson && (++people > most || isWhole)) ||
+                               (kind == FieldKind::LastName && ++families > most);
+        isOther = isFurther || (isOther && !isPerson && heading == others);
+        others = heading;
+        // What reaches somebody else stands behind the name.
+        const bool isRepeated = isIdentityKind(kind) && known.contains(kind);
+        if ((isFurther || (isOther && isRepeated)) && !readings.at(i).isTold)
             kinds[i] = FieldKind::Other;
+        known.append(kinds.at(i));
     }
 }
 
@@ -211,6 +226,18 @@ void leaveFurtherBirths(const QVector<FieldReading> &readings, QVector<FieldKind
 {
     for (int i = kinds.indexOf(FieldKind::BirthDate) + 1; i > 0 && i < kinds.size(); ++i) {
         if (kinds.at(i) == FieldKind::BirthDate && !readings.at(i).isTold)
+            kinds[i] = FieldKind::Other;
+    }
+}
+
+void leaveFurtherMail(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+{
+    bool isNamed = false;
+    for (int i = 0; i < kinds.size(); ++i)
+        isNamed = isNamed || (kinds.at(i) == FieldKind::Email && !readings.at(i).isStrange);
+    for (int i = 0; i < kinds.size() && isNamed; ++i) {
+        if (kinds.at(i) == FieldKind::Email && readings.at(i).isStrange && !readings.at(i).isTold &&
+            readings.at(i).named.isEmpty())
             kinds[i] = FieldKind::Other;
     }
 }

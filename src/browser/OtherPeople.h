@@ -15,7 +15,6 @@ void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReadi
 /// person: anything has a name.
 void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 
-/// Leaves the names of further people: there are no more of the user's than there are addresses.
 /// Who reads "name", and is not asked for another, writes the whole, whatever the code says.
 void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 
@@ -23,7 +22,13 @@ void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &k
 /// person's: a mobile, or one at work.
 void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &kinds);
 
-void leaveFurtherNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
+/// Leaves the names of further people, of whom no more are the user than there are addresses, and
+/// what is asked for again behind such a name.
+void leaveFurtherNames(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                       QVector<FieldKind> &kinds);
 
 /// A person is born once: leaves the dates after the first, which are somebody else's.
 void leaveFurtherBirths(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
+
+/// Leaves a field that only its type makes one for mail, beside one that says so.
+void leaveFurtherMail(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);

@@ -115,6 +115,19 @@ void TestWholeForms::wholeForms_data()
         "-|Lange Straße 12 b|-|Kassel");
     row(R"({"label":"Telephone","inputtype":"email"}, {"label":"E-mail","inputtype":"email"})",
         "-|ana@example.com");
+    row(card + R"({"label":"EXP","name":"expireMonth"}, {"label":"Security code"})",
+        "4111111111111111|09/29|123");
+    row(card + R"({"label":"Valid thru","type":"select-one"}, {"name":"t"})",
+        "4111111111111111|09|-");
+    // What nobody sees, and the picture of a field, tell nothing of those around them.
+    const QByteArray fixed = R"({"textBefore":"Street","isFixed":true}, )";
+    row(fixed + R"({"name":"street"}, {"label":"City"}, {"label":"City","visible":false},
+           {"label":"Phone"}, {"label":"Evening phone"})",
+        "-|Lange Straße 12 b|Kassel|-|+49 561 12345|-");
+    row(R"({"label":"Address"}, {"label":"Billing address line 3"}, {"label":"City"}, {"label":"Area pin","name":"pin"})",
+        "Lange Straße 12 b|-|Kassel|34117");
+    row(R"({"label":"Name of harbour","name":"street"}, {"label":"Address heading"}, {"label":"E-mail"}, {"label":"Address"})",
+        "-|-|ana@example.com|Lange Straße 12 b");
     // A caption that is written before the next field is that one's.
     row(R"({"label":"City"}, {"textAfter":"Country"}, {"textBefore":"Country"})",
         "Kassel|-|Germany");
@@ -144,6 +157,13 @@ void TestWholeForms::wholeForms_data()
         "Ana|Lind|-|-|+49 561 12345");
     row(R"({"label":"Name"}, {"label":"Last name"}, {"label":"City"}, {"label":"Name"}, {"label":"Last name"}, {"label":"City"})",
         "Ana|Lind|Kassel|Ana|Lind|Kassel");
+    row(R"({"label":"First name"}, {"label":"Last name"}, {"label":"City"}, {"label":"E-mail"}, {"label":"Full name (K) *"
+},
+           {"label":"City (K) *"}, {"label":"E-mail (K) *"})",
+        "Ana|Lind|Kassel|ana@example.com|-|-|-");
+    row(R"({"label":"Director (full name) *"
+    }, {"label":"E-mail"}, {"label":"Badge","inputtype":"email"})",
+        "-|ana@example.com|-");
     row(R"({"label":"Birthday","name":"day","maxlength":2}, {"name":"month","maxlength":2}, {"name":"by","maxlength":4})",
         "01|02|1990");
     row(card + R"({"label":"Valid until"}, {"label":"Date"})", "4111111111111111|09/29|-");
