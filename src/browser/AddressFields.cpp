@@ -115,9 +115,8 @@ void leaveExtraStreets(const QVector<FormField> &fields, const QVector<FieldRead
         qMax(1, qMax(kinds.count(FieldKind::City), kinds.count(FieldKind::PostalCode)));
     int extra = kinds.count(FieldKind::AddressLine1) - most;
     for (int i = 0; i < kinds.size() && extra > 0; ++i) {
-        const bool isStrange = !readings.at(i).isTold &&
-                               hasStrangeWords(fields.at(i).readTexts().join(QLatin1Char(' ')));
-        if (kinds.at(i) != FieldKind::AddressLine1 || !isStrange)
+        if (kinds.at(i) != FieldKind::AddressLine1 || readings.at(i).isTold ||
+            !hasStrangeWords(fields.at(i).readTexts().join(QLatin1Char(' '))))
             continue;
         kinds[i] = FieldKind::Other;
         --extra;

@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -169,7 +170,7 @@ void leaveFurtherNames(const QVector<FormField> &fields, const QVector<FieldRead
     const int most = addressesIn(kinds);
     int people = 0;
     int families = 0;
-    QVector<FieldKind> known;
+    QSet<FieldKind> known;
     QString others;
     bool isOther = false;
     for (int i = 0; i < kinds.size(); ++i) {
@@ -187,7 +188,7 @@ void leaveFurtherNames(const QVector<FormField> &fields, const QVector<FieldRead
         const bool isRepeated = isIdentityKind(kind) && known.contains(kind);
         if ((isFurther || (isOther && isRepeated)) && !readings.at(i).isTold)
             kinds[i] = FieldKind::Other;
-        known.append(kinds.at(i));
+        known.insert(kinds.at(i));
     }
 }
 
