@@ -335,13 +335,14 @@ private Q_SLOTS:
         QVERIFY(test.createSafe());
         QTRY_COMPARE(shown.window.openProgress(), 1.0);
         const QLabel *subtitle = find<QLabel>(shown.window, "unlockSubtitle");
-        QVERIFY(test.core.changePassword("another password 2"_s, {}));
+        for (int i = 0; i < 40; ++i)
+            test.addLogin(QString::number(i));
         shown.window.exitByUser();
         QVERIFY(test.core.currentSafe()->isSettling());
         QVERIFY(!shown.window.content().isEnabled());
         QVERIFY(subtitle->text().startsWith("Locked. Saving"_s));
         QSignalSpy quit(&test.core, &GPMAppCore::quitRequested);
-        QVERIFY(quit.wait());
+        QVERIFY(quit.wait(30000));
         QVERIFY(!test.core.currentSafe()->isUnlocked());
     }
 };
