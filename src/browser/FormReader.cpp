@@ -61,6 +61,7 @@ public:
         joinExpiry(m_fields, m_readings, m_kinds);
         leaveLoneCards(m_fields, m_readings, m_kinds);
         leaveGiftCards(m_fields, m_readings, m_kinds);
+        leaveNumberedPeople(m_fields, m_readings, m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveOtherSections(m_fields, m_readings, m_kinds);
         leaveFurtherBirths(m_readings, m_kinds);

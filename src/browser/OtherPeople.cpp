@@ -5,6 +5,7 @@
 #include "WordSets.h"
 
 #include <QHash>
+#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -40,11 +41,23 @@ bool isTransfer(const QVector<FieldReading> &readings)
 /// Whom a part of a form is about.
 enum class Part { User, Recipient, Stranger };
 
+/// The number of somebody or something further.
+const QRegularExpression &furtherNumber()
+{
+    static const QRegularExpression number(QStringLiteral("(?<!\\d)[2-9](?!\\d)"));
+    return number;
+}
+
+/// What the page's code calls a field.
+QString codeName(const FormField &field)
+{
+    return field.name().isEmpty() ? field.id() : field.name();
+}
+
 /// "Passenger 2" where there is a "Passenger 1".
 bool isFurther(const QString &heading, const QStringList &headings)
 {
-    static const QRegularExpression number(QStringLiteral("(?<!\\d)[2-9](?!\\d)"));
-    const QRegularExpressionMatch found = number.match(heading);
+    const QRegularExpressionMatch found = furtherNumber().match(heading);
     if (!found.hasMatch())
         return false;
     QString first = heading;
@@ -141,6 +154,34 @@ void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReadi
         const FieldKind group = groupOf(kinds.at(i));
         if (isOfRecipient(i) && group != FieldKind::Unknown && (isOfOther || own.contains(group)))
             kinds[i] = FieldKind::Other;
+    }
+}
+
+void leaveNumberedPeople(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                         QVector<FieldKind> &kinds)
+{
+    QHash<QString, FieldKind> firsts;
+    QMap<QString, QVector<int>> people; // by what their fields' names have in common
+    for (int i = 0; i < fields.size(); ++i) {
+        const QString name = codeName(fields.at(i));
+        const QRegularExpressionMatch number = furtherNumber().match(name);
+        if (!number.hasMatch()) {
+            firsts.insert(name, readings.at(i).kind);
+            continue;
+        }
+        QString first = name;
+        first.replace(number.capturedStart(), 1, QLatin1Char('1'));
+        if (firsts.value(first) == readings.at(i).kind && isIdentityKind(readings.at(i).kind))
+            people[number.captured()].append(i);
+    }
+    for (const QVector<int> &person : qAsConst(people)) {
+        const bool hasName = std::any_of(person.begin(), person.end(), [&](int i) {
+            return groupOf(readings.at(i).kind) == FieldKind::FullName;
+        });
+        for (int i : person) {
+            if (hasName && !readings.at(i).isTold)
+                kinds[i] = FieldKind::Other;
+        }
     }
 }
 

@@ -11,6 +11,10 @@
 void leaveOtherPeople(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                       QVector<FieldKind> &kinds);
 
+/// Leaves the second of people whose fields the page's code numbers alike, and who come after.
+void leaveNumberedPeople(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                         QVector<FieldKind> &kinds);
+
 /// Leaves a plain "name" or something of a recipient's in a form that asks for nothing else of a
 /// person: anything has a name.
 void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);

@@ -85,6 +85,12 @@ void TestWholeForms::wholeForms_data()
     const QByteArray phone = R"({"type":"radio","name":"p","value":")";
     row(phone + R"(H"}, )" + phone + R"(M"}, )" + phone + R"(W"}, {"label":"City"})",
         "-|-|-|Kassel");
+    // The second of two people.
+    const QByteArray rower = R"({"label":"First name","name":"rower%_first"},
+        {"label":"City","name":"rower%_town"}, {"label":"E-mail","name":"rower%_mail"}, )";
+    row(QByteArray(rower).replace('%', '1') + QByteArray(rower).replace('%', '2') +
+            R"({"label":"Street","name":"street1"})",
+        "Ana|Kassel|ana@example.com|-|-|-|Lange Straße 12 b");
     row(R"({"label":"Phone"}, {"label":"Night phone"}, {"label":"Mobile phone"})",
         "+49 561 12345|-|+49 170 999");
     row(R"({"label":"Phone","textBefore":"+49"}, {"label":"E-mail","textAfter":"@example.com"})",
