@@ -17,6 +17,8 @@ constexpr int mostTellingOptions = 60;
 /// No field asks for more than the parts of an address.
 constexpr int mostKinds = 5;
 constexpr int longestCaption = 60;
+/// In longer texts a word says less of the others.
+constexpr int mostLooseWords = 4;
 
 /// Whose order decides between phrases of one length: what people read has its main word first, a
 /// name in code has it last.
@@ -293,12 +295,20 @@ bool isForeign(const QString &language)
     return !language.isEmpty() && !spoken.contains(language.section(QLatin1Char('-'), 0, 0));
 }
 
+/// A word that is not known, beside one that is, may make something else of it: the "address
+/// title". Sentences have many, and alternatives stand apart.
+bool isLooseText(const QString &text)
+{
+    const QString plain = withoutAsides(text);
+    return !plain.contains(QLatin1Char('/')) && wordsOf(plain).size() <= mostLooseWords &&
+           hasStrangeWords(plain);
+}
+
 FieldReading readTextsOf(const FormField &field, const QString &next, const QString &language)
 {
     FieldReading reading;
     const QStringList texts = field.readTexts();
-    bool hasExample = false;
-    bool hasSign = false;
+    bool hasExample = false, hasSign = false, isLoose = false;
     for (int i = 0; i < texts.size(); ++i) {
         const QString &text = texts.at(i);
         // The label is often also the text before the field.
@@ -311,7 +321,9 @@ FieldReading readTextsOf(const FormField &field, const QString &next, const QStr
         hasSign = hasSign || !text.isEmpty();
         const bool isFirst = !reading.hasText;
         reading.hasText = reading.hasText || hasWord(text);
+        const bool isOpen = reading.kind == FieldKind::Unknown;
         take(reading, text, MainWord::First, language);
+        isLoose = isLoose || (isOpen && isIdentityKind(reading.kind) && isLooseText(text));
         if (isFirst && reading.hasText)
             reading.isStrange = reading.kind == FieldKind::Unknown;
     }
@@ -331,6 +343,12 @@ FieldReading readTextsOf(const FormField &field, const QString &next, const QStr
                         kindOfType(field.inputType()) == FieldKind::Unknown;
     if (isOther && (isIdentityKind(reading.kind) || isCardKind(reading.kind) || isOpen))
         reading.kind = FieldKind::Other;
+    isLoose = isLoose && !reading.also.contains(reading.kind) &&
+              kindOfType(field.inputType()) != reading.kind;
+    if (isLoose && isIdentityKind(reading.kind)) {
+        reading.also.append(reading.kind);
+        reading.kind = FieldKind::Other;
+    }
     reading.isFromBehind = behind != FieldKind::Unknown && reading.kind == behind;
     // What stands before the "@" is no whole address.
     if (reading.kind == FieldKind::Email && field.textAfter().startsWith(QLatin1Char('@')))
@@ -374,10 +392,4 @@ FieldReading readField(const FormField &field, const QString &next, const QStrin
     reading.hasText = true;
     reading.isTold = true;
     return reading;
-}
-
-bool isInPlay(const FormField &field)
-{
-    const bool isPicture = field.isFixed() && field.name().isEmpty() && field.id().isEmpty();
-    return !field.isLine() || (field.isVisible() && !isPicture);
 }

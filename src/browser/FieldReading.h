@@ -33,7 +33,3 @@ struct FieldReading
 /// @param next the text before the next field, which is not of this one
 /// @param language of the page, as a tag in lower case; empty when it is not known
 FieldReading readField(const FormField &field, const QString &next, const QString &language);
-
-/// Whether a person meets the field: lines that nobody sees, and the pictures of fields that some
-/// pages lay over theirs, tell nothing of those around them.
-bool isInPlay(const FormField &field);

@@ -127,7 +127,7 @@ const QVector<WordRow<FieldKind>> &fieldWords()
      "vorname|vname|vornamen|nombres|primer nombre|nombre de pila|prenom|prenoms|имя|imya|=ima"},
     {FieldKind::LastName,
      "last name|lastname|lname|surname|family name|familyname|last|l name|legal last name|second last name|nachname|nname|familienname|"
-     "zuname|apellido|apellidos|primer apellido|apellido paterno|nom de famille|nom famille|фамилия|familiya|familia|=fam"},
+     "zuname|apellido|apellidos|primer apellido|apellido paterno|apellidos paterno|nom de famille|nom famille|фамилия|familiya|familia|=fam"},
     {FieldKind::MiddleName,
      "middle name|middlename|middle names|middle initial|=mi|=m i|additional name|zweiter vorname|segundo nombre|deuxieme prenom|отчество|otchestvo|"
      "patronymic"},

@@ -125,3 +125,9 @@ QString FormField::attribute(const char *key, const char *sourceKey) const
     const QJsonValue value = m_object.value(QLatin1String(key));
     return value.isString() ? value.toString().left(longestText) : text(sourceKey);
 }
+
+bool FormField::isInPlay() const
+{
+    const bool isPicture = isFixed() && name().isEmpty() && id().isEmpty();
+    return !isLine() || (isVisible() && !isPicture);
+}

@@ -55,6 +55,9 @@ public:
     bool isInSearch() const { return flag("isSearch"); }
     /// Whether the page lets nobody type there.
     bool isFixed() const { return flag("isFixed"); }
+    /// Whether a person meets it: lines that nobody sees, and the pictures of fields that some
+    /// pages lay over theirs, tell nothing of those around them.
+    bool isInPlay() const;
     bool isFilled() const { return flag("isFilled"); }
     /// The most letters that it takes, 0 for no limit.
     int maxLength() const { return m_maxLength; }

@@ -364,7 +364,7 @@ FieldKind Reader::plainName(int at) const
     if ((kindAt(at + 1) == FieldKind::LastName || follows) && !isBeside(FieldKind::FirstName))
         return FieldKind::FirstName;
     const bool first = has(FieldKind::FirstName);
-    const bool last = has(FieldKind::LastName);
+    const bool last = asksForLastName(m_readings, m_kinds);
     if (first && last)
         return FieldKind::Other;
     if (first)
@@ -382,7 +382,7 @@ QVector<FieldKind> readForm(const QVector<FormField> &fields, const FormSurround
     QVector<FormField> played;
     QVector<FieldKind> kinds;
     for (const FormField &field : fields) {
-        const bool isPlayed = isInPlay(field);
+        const bool isPlayed = field.isInPlay();
         if (isPlayed)
             played.append(field);
         const FieldKind kind =
@@ -391,7 +391,7 @@ QVector<FieldKind> readForm(const QVector<FormField> &fields, const FormSurround
     }
     const QVector<FieldKind> read = Reader(played, around).read();
     for (int i = 0, at = 0; i < fields.size(); ++i) {
-        if (isInPlay(fields.at(i)))
+        if (fields.at(i).isInPlay())
             kinds[i] = read.at(at++);
     }
     if (isNewsletter(fields, kinds, around))

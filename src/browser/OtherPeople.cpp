@@ -233,9 +233,18 @@ void leaveFurtherNames(const QVector<FormField> &fields, const QVector<FieldRead
     }
 }
 
+bool asksForLastName(const QVector<FieldReading> &readings, const QVector<FieldKind> &kinds)
+{
+    return kinds.contains(FieldKind::LastName) ||
+           std::any_of(readings.begin(), readings.end(), [](const FieldReading &reading) {
+               return reading.kind == FieldKind::Other && reading.says(FieldKind::LastName);
+           });
+}
+
 void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
 {
-    for (int i = 0; i < kinds.size() && !kinds.contains(FieldKind::LastName); ++i) {
+    const bool hasLast = asksForLastName(readings, kinds);
+    for (int i = 0; i < kinds.size() && !hasLast; ++i) {
         const bool isNamed = readings.at(i).also.contains(FieldKind::SomeName);
         if (kinds.at(i) == FieldKind::FirstName && isNamed && !readings.at(i).isTold)
             kinds[i] = FieldKind::FullName;

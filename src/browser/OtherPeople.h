@@ -19,6 +19,9 @@ void leaveNumberedPeople(const QVector<FormField> &fields, const QVector<FieldRe
 /// person: anything has a name.
 void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 
+/// Whether a field speaks of a last name, filled or not.
+bool asksForLastName(const QVector<FieldReading> &readings, const QVector<FieldKind> &kinds);
+
 /// Who reads "name", and is not asked for another, writes the whole, whatever the code says.
 void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 

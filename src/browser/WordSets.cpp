@@ -13,6 +13,7 @@ WordSet::WordSet(const char *words)
 const WordSet &harmlessWords()
 {
     static const WordSet words(
+        "iso confirmez confirmer ressaisissez repetez mit bestatigen bestatigung wiederholen wiederholung confirmar confirme repita repite repetir primer primera "
         "a an the my your you our us we me i is what whats which where and or as on for at to with by in of from if no not "
         "enter please type fill provide add use give get send receive confirm confirmation verify repeat retype re again tell select choose pick insert set see "
         "home house work office personal private business professional mobile landline cell main primary first second default current present "

@@ -167,6 +167,10 @@ void TestWholeForms::wholeForms_data()
 },
            {"label":"City (K) *"}, {"label":"E-mail (K) *"})",
         "Ana|Lind|Kassel|ana@example.com|-|-|-");
+    // A word that is not known makes something else of the known one, unless the name agrees.
+    row(R"({"label":"Landmark address"}, {"label":"Telephone kiosk"}, {"label":"Telephone kiosk","name":"telephone"},
+           {"label":"First name"}, {"label":"Surname glyph"}, {"label":"City"})",
+        "-|-|+49 561 12345|Ana|-|Kassel");
     row(R"({"label":"Director (full name) *"
     }, {"label":"E-mail"}, {"label":"Badge","inputtype":"email"})",
         "-|ana@example.com|-");
