@@ -235,6 +235,9 @@ FieldReading readSelect(const FormField &field, FieldReading reading)
         reading.kind = chosen;
     if (chosen != FieldKind::Unknown)
         reading.also.append(chosen);
+    // "Address type", "contact": nobody chooses these from a list.
+    if (isWritten(reading.kind))
+        reading.kind = FieldKind::Other;
     return reading;
 }
 

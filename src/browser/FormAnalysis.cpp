@@ -157,6 +157,24 @@ void leaveLoneCountry(const QVector<FormField> &fields, QVector<FieldKind> &kind
         kinds[only] = FieldKind::Unknown;
 }
 
+/// Leaves a part whose whole is not asked for: a second line of no street, the middle of no number.
+void leaveOddParts(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
+{
+    static const QVector<QPair<FieldKind, QVector<FieldKind>>> table = {
+        {FieldKind::AddressLine2, {FieldKind::AddressLine1}},
+        {FieldKind::HouseNumber, {FieldKind::AddressLine1, FieldKind::PostalCode}},
+        {FieldKind::MiddleName, {FieldKind::FirstName, FieldKind::LastName}},
+        {FieldKind::PhonePrefix, {FieldKind::PhoneArea}}};
+    for (const auto &row : table) {
+        const bool isWhole = std::any_of(row.second.begin(), row.second.end(),
+                                         [&](FieldKind kind) { return kinds.contains(kind); });
+        for (int i = 0; i < kinds.size() && !isWhole; ++i) {
+            if (kinds.at(i) == row.first && fields.at(i).hasHints())
+                kinds[i] = FieldKind::Unknown;
+        }
+    }
+}
+
 /// Everybody can read along in a line of text: a password of the user's does not go there. One that
 /// was just generated may.
 bool isReadable(const FormField &field, FieldKind read, FillAction action)
@@ -221,5 +239,6 @@ QVector<FieldKind> analyseForm(const QVector<FormField> &fields, const FormSurro
     }
     leaveHiddenChoices(fields, read, kinds);
     leaveLoneCountry(fields, kinds);
+    leaveOddParts(fields, kinds);
     return kinds;
 }

@@ -20,6 +20,8 @@ FieldKind kindOfType(const QString &inputType)
 // else.
 void readType(FieldReading &reading, const QString &inputType)
 {
+    if (inputType == QLatin1String("number") && isWritten(reading.kind))
+        reading.kind = FieldKind::Other;
     const FieldKind kind = kindOfType(inputType);
     if (kind == FieldKind::Email && reading.kind != FieldKind::Never && !reading.isOfOther) {
         const bool isElse = isIdentityKind(reading.kind) && !reading.says(FieldKind::Email);
@@ -29,4 +31,10 @@ void readType(FieldReading &reading, const QString &inputType)
     const bool isFigures = kind == FieldKind::Phone && reading.isStrange;
     if (kind == FieldKind::Never || (reading.kind == FieldKind::Unknown && !isFigures))
         reading.kind = kind;
+}
+
+bool isWritten(FieldKind kind)
+{
+    return kind == FieldKind::FullName || kind == FieldKind::Email ||
+           kind == FieldKind::AddressLine1 || kind == FieldKind::AddressLine2;
 }

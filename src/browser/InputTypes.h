@@ -7,3 +7,6 @@ FieldKind kindOfType(const QString &inputType);
 
 /// Lets the type of a line of text decide where its texts do not, or where it takes nothing else.
 void readType(FieldReading &reading, const QString &inputType);
+
+/// Whether it is written in words, which no list holds and no field for numbers takes.
+bool isWritten(FieldKind kind);

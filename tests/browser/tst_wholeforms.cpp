@@ -167,6 +167,11 @@ void TestWholeForms::wholeForms_data()
 },
            {"label":"City (K) *"}, {"label":"E-mail (K) *"})",
         "Ana|Lind|Kassel|ana@example.com|-|-|-");
+    row(R"({"label":"Address type","type":"select-one"}, {"label":"Address"}, {"label":"City"})",
+        "-|Lange Straße 12 b|Kassel");
+    row(R"({"label":"Address","inputtype":"number"}, {"label":"Address line 2"}, {"label":"House number"},
+           {"label":"City"}, {"label":"Middle name"})",
+        "-|-|-|Kassel|-");
     // A word that is not known makes something else of the known one, unless the name agrees.
     row(R"({"label":"Landmark address"}, {"label":"Telephone kiosk"}, {"label":"Telephone kiosk","name":"telephone"},
            {"label":"First name"}, {"label":"Surname glyph"}, {"label":"City"})",
