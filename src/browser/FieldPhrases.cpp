@@ -276,9 +276,22 @@ bool isTurned(const Words &words, int from, int count)
     int before = from - 1;
     while (words.isBesideNext(before) && isIn(genitiveWords(), words, before))
         --before;
-    // In English "type" is also what one shall do.
+    // In English "type" is also what one shall do: "type first name", "type your zip code".
+    static const WordSet possessives("your my");
+    const bool isToDo = before == 0 && words.at(0) == QLatin1String("type") &&
+                        (from == 1 || isIn(possessives, words, 1));
+    if (isToDo)
+        return false;
     const bool isGenitive = before < from - 1 || !isEnglish(words, from);
     return isGenitive && words.isBesideNext(before) && isIn(turningWords(), words, before);
+}
+
+/// "Last insurance company", "first visit": what is counted or dated is what follows.
+bool isOfNext(const Words &words, int from, int count)
+{
+    static const WordSet orders("first last");
+    return count == 1 && isIn(orders, words, from) && words.isBesideNext(from) &&
+           isStrange(words, from + 1);
 }
 
 /// In code only the last word turns what stands before: "countryType".
@@ -292,7 +305,7 @@ bool isOfStranger(const Words &words, int from, const PhraseBook<FieldKind>::Phr
 {
     const int count = phrase.words.size();
     if (isOfStrangerBefore(words, from, count, known) || isTurned(words, from, count) ||
-        isTied(words, from, count))
+        isTied(words, from, count) || isOfNext(words, from, count))
         return true;
     if (phrase.kind == FieldKind::SomeName && words.isBesideNext(from + count - 1) &&
         isStrange(words, from + count) && !isIn(recipientWords(), words, from + count))

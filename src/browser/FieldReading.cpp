@@ -175,6 +175,10 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord, const Q
     // "Director (full name)" asks for somebody.
     if (isAside && kind == FieldKind::FullName)
         kind = FieldKind::Other;
+    // "Name (last, first)" asks for the whole.
+    if (kind == FieldKind::SomeName && mainWord == MainWord::First &&
+        mainKind(meaningOf(text, sort, language), mainWord) == FieldKind::FullName)
+        kind = FieldKind::FullName;
     if (mainWord == MainWord::First && isSum(text))
         kind = FieldKind::Never;
     if (kind == FieldKind::Unknown)
@@ -220,9 +224,22 @@ void takeLastPart(FieldReading &reading, const QString &code, const QString &lan
         take(reading, last, MainWord::Last, language);
 }
 
+bool isOfDate(FieldKind kind)
+{
+    static const QVector<FieldKind> kinds = {
+        FieldKind::SomeDay,  FieldKind::SomeMonth,  FieldKind::SomeYear,  FieldKind::SomeDate,
+        FieldKind::BirthDay, FieldKind::BirthMonth, FieldKind::BirthYear, FieldKind::BirthDate};
+    return kinds.contains(kind);
+}
+
 FieldReading readSelect(const FormField &field, FieldReading reading)
 {
     const FieldKind chosen = kindOfOptions(field.options(mostTellingOptions));
+    // The choices of one question below the words of another are the page's mistake.
+    if (chosen == FieldKind::Gender && isOfDate(reading.kind)) {
+        reading.kind = FieldKind::Other;
+        return reading;
+    }
     if (reading.kind == FieldKind::Phone && reading.says(FieldKind::Country))
         reading.kind = FieldKind::PhoneCode;
     const bool isCountryOfCodes =

@@ -64,7 +64,7 @@ public:
         leaveNumberedPeople(m_fields, m_readings, m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveOtherSections(m_fields, m_readings, m_kinds);
-        leaveFurtherBirths(m_readings, m_kinds);
+        leaveFurtherBirths(m_fields, m_readings, m_kinds);
         leaveExtraStreets(m_fields, m_readings, m_kinds);
         leaveFurtherNames(m_fields, m_readings, m_kinds);
         leaveFurtherPhones(m_fields, m_kinds);

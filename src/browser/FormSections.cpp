@@ -121,6 +121,24 @@ bool isOfWork(FieldKind kind)
     return kind == FieldKind::Company || kind == FieldKind::JobTitle;
 }
 
+/// "Place" beside a signature: a town alone, where another part asks for a whole address.
+void leaveLoneTowns(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                    QVector<FieldKind> &kinds)
+{
+    if (!kinds.contains(FieldKind::AddressLine1))
+        return;
+    for (const Section &section : sectionsOf(fields, readings, kinds)) {
+        int town = -1;
+        int known = 0;
+        for (int i = section.from; i < section.to; ++i) {
+            known += isIdentityKind(kinds.at(i)) ? 1 : 0;
+            town = kinds.at(i) == FieldKind::City && !readings.at(i).isTold ? i : town;
+        }
+        if (known == 1 && town >= 0 && kinds.count(FieldKind::City) > 1)
+            kinds[town] = FieldKind::Other;
+    }
+}
+
 } // namespace
 
 void leaveOtherSections(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
@@ -138,4 +156,5 @@ void leaveOtherSections(const QVector<FormField> &fields, const QVector<FieldRea
             }
         }
     }
+    leaveLoneTowns(fields, readings, kinds);
 }

@@ -135,6 +135,10 @@ void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> 
         kinds[passwords.last()] = FieldKind::Other;
         return;
     }
+    // Nobody repeats a password that he has, whatever the page tells the browser.
+    if (passwords.size() == 2 && kinds.at(passwords.last()) == FieldKind::RepeatedPassword &&
+        !readings.at(passwords.first()).named.contains(FieldKind::CurrentPassword))
+        kinds[passwords.first()] = FieldKind::NewPassword;
     const bool isChange = isChangeOf(passwords, readings, kinds);
     for (const int at : passwords) {
         const bool isOld = kinds.at(at) == FieldKind::CurrentPassword ||

@@ -249,6 +249,22 @@ void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &k
         if (kinds.at(i) == FieldKind::FirstName && isNamed && !readings.at(i).isTold)
             kinds[i] = FieldKind::FullName;
     }
+    // Whose family's and father's names are asked for beside it gives the first alone.
+    const int whole = kinds.indexOf(FieldKind::FullName);
+    const bool hasRest =
+        kinds.contains(FieldKind::LastName) && kinds.contains(FieldKind::MiddleName);
+    if (whole >= 0 && hasRest && !kinds.contains(FieldKind::FirstName) &&
+        kinds.count(FieldKind::FullName) == 1)
+        kinds[whole] = FieldKind::FirstName;
+    // What reads "name" and is a user's in code is either, where one signs in with it.
+    for (int i = 0; i < kinds.size() && !kinds.contains(FieldKind::LastName); ++i) {
+        const bool isName = kinds.at(i) == FieldKind::FirstName;
+        const bool isPassword =
+            kinds.contains(FieldKind::CurrentPassword) || kinds.contains(FieldKind::Password);
+        if (isName && isPassword && !readings.at(i).isTold &&
+            readings.at(i).also.contains(FieldKind::UserName))
+            kinds[i] = FieldKind::Other;
+    }
 }
 
 void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
@@ -273,8 +289,13 @@ void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &ki
     }
 }
 
-void leaveFurtherBirths(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+void leaveFurtherBirths(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                        QVector<FieldKind> &kinds)
 {
+    for (int i = kinds.indexOf(FieldKind::Gender) + 1; i > 0 && i < kinds.size(); ++i) {
+        if (kinds.at(i) == FieldKind::Gender && fields.at(i).isSelect() && !readings.at(i).hasText)
+            kinds[i] = FieldKind::Other;
+    }
     for (int i = kinds.indexOf(FieldKind::BirthDate) + 1; i > 0 && i < kinds.size(); ++i) {
         if (kinds.at(i) == FieldKind::BirthDate && !readings.at(i).isTold)
             kinds[i] = FieldKind::Other;

@@ -34,8 +34,10 @@ void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &ki
 void leaveFurtherNames(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                        QVector<FieldKind> &kinds);
 
-/// A person is born once: leaves the dates after the first, which are somebody else's.
-void leaveFurtherBirths(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
+/// A person is born once: leaves the dates after the first, which are somebody else's, and further
+/// choices of the gender that have no words of their own.
+void leaveFurtherBirths(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
+                        QVector<FieldKind> &kinds);
 
 /// Leaves a field that only its type makes one for mail, beside one that says so.
 void leaveFurtherMail(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);

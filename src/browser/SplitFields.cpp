@@ -1,6 +1,7 @@
 #include "SplitFields.h"
 
 #include "DateShape.h"
+#include "FieldPhrases.h"
 
 #include <algorithm>
 
@@ -75,6 +76,18 @@ bool isNextPart(int i, const QVector<FormField> &fields, const QVector<FieldRead
     return length > 0 && length == fields.at(i - 1).maxLength() && readings.at(i).isFromBehind;
 }
 
+/// "Street, house number", "calle y número".
+bool endsOnNumber(const FormField &field)
+{
+    const QStringList texts = field.readTexts();
+    return std::any_of(texts.begin(), texts.end(), [](const QString &text) {
+        const QStringList words = wordsOf(text);
+        const TextMeaning last = meaningOf(words.value(words.size() - 1), TextSort::Prose, {});
+        return words.size() > 1 &&
+               (last.names(FieldKind::HouseNumber) || last.names(FieldKind::SomeNumber));
+    });
+}
+
 /// What follows the field that has the words for both.
 void continueOne(int at, const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                  QVector<FieldKind> &kinds)
@@ -90,7 +103,8 @@ void continueOne(int at, const QVector<FormField> &fields, const QVector<FieldRe
         return;
     case FieldKind::AddressLine1:
         if (fields.at(next).isLine())
-            kinds[next] = FieldKind::AddressLine2;
+            kinds[next] =
+                endsOnNumber(fields.at(at)) ? FieldKind::HouseNumber : FieldKind::AddressLine2;
         return;
     case FieldKind::CardNumber:
         for (int i = next;
@@ -115,6 +129,11 @@ void continueList(int at, const QVector<FormField> &fields, const QVector<FieldR
         if (isIdentityKind(kind) || isPerhapsKind(kind))
             named.append(kind);
     }
+    // Those behind may say in their code what they are; the words before are the first one's.
+    const int next = at + 1;
+    if (named.size() > 1 && next < fields.size() && isSilent(fields.at(next), readings.at(next)) &&
+        kinds.at(next) == kinds.at(at) && named.indexOf(kinds.at(at)) == 1)
+        kinds[at] = named.first();
     int silent = 0;
     while (isOpenField(at + silent + 1, fields, readings, kinds))
         ++silent;

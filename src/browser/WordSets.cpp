@@ -94,7 +94,7 @@ const WordSet &recipientWords()
 }
 const WordSet &strangerWords()
 {
-    static const WordSet words("emergency kontoinhaber host spouse husband wife child children kid kids kin beneficiary employer reference references guarantor "
+    static const WordSet words("emergency invite einladen inviter invitar пригласить kontoinhaber host spouse husband wife child children kid kids kin beneficiary employer reference references guarantor "
                                "cosigner notfall notfallkontakt ehepartner ehepartnerin kind kinder kindes arbeitgeber begunstigter burge emergencia conyuge hijo hijos hija "
                                "beneficiario referencia referencias empleador aval urgence conjoint enfant enfants employeur garant beneficiaire экстренный супруг "
                                "супруга супруги ребенок ребенка дети работодатель поручитель");

@@ -156,6 +156,9 @@ void TestFormAnalysis::veto_data()
         "-|-|-");
     row(R"({"label":"User name"}, {"type":"password","label":"Password"}, {"type":"password","label":"Social security number"})",
         "anna|secret|-");
+    row(R"({"type":"password","label":"Password","autocomplete":"current-password"},
+            {"type":"password","label":"Repeat password"})",
+        "-|-");
 }
 
 void TestFormAnalysis::veto()

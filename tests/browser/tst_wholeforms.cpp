@@ -188,6 +188,26 @@ void TestWholeForms::wholeForms_data()
     row(R"({"label":"Phone","maxlength":3}, {"name":"phone_prefix","maxlength":3},
            {"name":"phone_suffix","maxlength":5})",
         "561|123|45");
+    // What one label says for several fields, and what contradicts it.
+    row(R"({"label":"Straße, Hausnummer"}, {"name":"strnr"}, {"label":"City, State/Province, ZIP","name":"town"},
+           {"name":"province"}, {"name":"zipcode"})",
+        "Lange Straße|12 b|Kassel|Hesse|34117");
+    row(R"({"label":"Name (last, first) *","name":"name_last"
+}, {"placeholder":"Type your ZIP code"},
+           {"placeholder":"Last ins. carrier","name":"prior"}, {"label":"City"})",
+        "Ana Lind|34117|-|Kassel");
+    row(R"({"label":"Имя","name":"username"}, {"label":"Email"},
+           {"label":"Текущий пароль","type":"password"}, {"label":"Новый пароль","type":"password"})",
+        "-|ana@example.com|-|-");
+    row(R"({"label":"Ваше имя"}, {"label":"Отчество"}, {"label":"Фамилия"})", "Ana|-|Lind");
+    row(R"({"label":"Street","heading":"Tenant"}, {"label":"City","heading":"Tenant"},
+           {"label":"City","heading":"Signature"}, {"label":"E-mail","heading":"Invite a friend"})",
+        "Lange Straße 12 b|Kassel|-|-");
+    const QByteArray sexes =
+        R"("type":"select-one","options":[{"text":"Male"},{"text":"Female"}]})";
+    row(R"({"label":"Gender",)" + sexes + R"(, {"label":"Date of birth",)" + sexes +
+            R"(, {"name":"x",)" + sexes,
+        "Female|-|-");
 }
 
 void TestWholeForms::wholeForms()
