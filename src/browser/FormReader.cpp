@@ -61,9 +61,9 @@ public:
         joinExpiry(m_fields, m_readings, m_kinds);
         leaveLoneCards(m_fields, m_readings, m_kinds);
         leaveGiftCards(m_fields, m_readings, m_kinds);
-        leaveNumberedPeople(m_fields, m_readings, m_kinds);
         leaveOtherPeople(m_fields, m_readings, m_kinds);
         leaveOtherSections(m_fields, m_readings, m_kinds);
+        leaveNumberedPeople(m_fields, m_readings, m_kinds);
         leaveFurtherBirths(m_fields, m_readings, m_kinds);
         leaveExtraStreets(m_fields, m_readings, m_kinds);
         leaveFurtherNames(m_fields, m_readings, m_kinds);
