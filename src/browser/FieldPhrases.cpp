@@ -346,6 +346,23 @@ TextMeaning meaningOf(const QString &text, TextSort sort, const QString &languag
     return meaning;
 }
 
+QString withoutAsides(const QString &text)
+{
+    if (!text.contains(QLatin1Char('(')))
+        return text;
+    QString plain;
+    int depth = 0;
+    for (const QChar letter : text) {
+        if (letter == QLatin1Char('('))
+            ++depth;
+        if (depth == 0)
+            plain += letter;
+        if (letter == QLatin1Char(')') && depth > 0)
+            --depth;
+    }
+    return plain.trimmed().isEmpty() ? text : plain;
+}
+
 bool hasStrangeWords(const QString &text)
 {
     const Words words(text);

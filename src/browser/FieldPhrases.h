@@ -36,6 +36,9 @@ enum class TextSort { Code, Prose };
 /// Longer phrases swallow shorter ones inside them: a "gift card number" is no card number.
 TextMeaning meaningOf(const QString &text, TextSort sort, const QString &language);
 
+/// Without what stands in brackets, unless that is all.
+QString withoutAsides(const QString &text);
+
 /// Whether prose has words of which nothing is known.
 bool hasStrangeWords(const QString &text);
 

@@ -33,23 +33,6 @@ bool isSum(const QString &text)
     return asks && sum.match(text).hasMatch();
 }
 
-QString withoutAsides(const QString &text)
-{
-    if (!text.contains(QLatin1Char('(')))
-        return text;
-    QString plain;
-    int depth = 0;
-    for (const QChar letter : text) {
-        if (letter == QLatin1Char('('))
-            ++depth;
-        if (depth == 0)
-            plain += letter;
-        if (letter == QLatin1Char(')') && depth > 0)
-            --depth;
-    }
-    return plain.trimmed().isEmpty() ? text : plain;
-}
-
 /// In code what comes last counts: "ucSearch$txtUser" is the user.
 bool isNever(const TextMeaning &meaning, MainWord mainWord)
 {
@@ -195,7 +178,11 @@ void take(FieldReading &reading, const QString &text, MainWord mainWord, const Q
     }
     // "user[name]" is a name in the code of a user.
     const bool isOfUser = reading.kind == FieldKind::SomeName && kind == FieldKind::UserName;
-    const bool isBetter = reading.kind == FieldKind::Unknown ||
+    // "Name on card" beside an example of a name.
+    const bool isHolder =
+        kind == FieldKind::CardHolder && mainWord == MainWord::First &&
+        (reading.kind == FieldKind::FullName || reading.kind == FieldKind::FirstName);
+    const bool isBetter = reading.kind == FieldKind::Unknown || isHolder ||
                           (isVagueKind(reading.kind) && !isVagueKind(kind) && !isOfUser);
     if (kind == FieldKind::Never || isBetter) {
         reading.also += reading.named;

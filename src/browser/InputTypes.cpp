@@ -29,7 +29,8 @@ void readType(FieldReading &reading, const QString &inputType)
         return;
     }
     const bool isFigures = kind == FieldKind::Phone && reading.isStrange;
-    if (kind == FieldKind::Never || (reading.kind == FieldKind::Unknown && !isFigures))
+    if ((kind == FieldKind::Never && !isCardKind(reading.kind)) ||
+        (reading.kind == FieldKind::Unknown && !isFigures))
         reading.kind = kind;
 }
 

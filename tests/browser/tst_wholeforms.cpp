@@ -125,6 +125,10 @@ void TestWholeForms::wholeForms_data()
         "4111111111111111|09/29|123");
     row(card + R"({"label":"Valid thru","type":"select-one"}, {"name":"t"})",
         "4111111111111111|09|-");
+    row(card +
+            R"({"label":"Expiry","inputtype":"search"}, {"placeholder":"First name last name","textBefore":"Name on card"},
+           {"label":"City","inputtype":"search"})",
+        "4111111111111111|09/29|Ana Maria Lind|-");
     // What nobody sees, and the picture of a field, tell nothing of those around them.
     const QByteArray fixed = R"({"textBefore":"Street","isFixed":true}, )";
     row(fixed + R"({"name":"street"}, {"label":"City"}, {"label":"City","visible":false},
