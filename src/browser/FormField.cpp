@@ -1,6 +1,7 @@
 #include "FormField.h"
 
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -82,7 +83,16 @@ QStringList FormField::attributeAndLabelTexts() const
 
 QStringList FormField::readTexts() const
 {
-    const QStringList texts = {m_label, m_ariaLabel, m_placeholder, m_textBefore, m_tableHead};
+    QStringList texts = {m_label, m_ariaLabel, m_placeholder, m_textBefore, m_tableHead};
+    // "e.g. street name" is an example of what the text before asks for.
+    static const QRegularExpression example(
+        QString::fromUtf8(
+            "^\\(?(e\\.?g\\b|z\\.? ?b\\.|p\\.? ?ej\\b|ej\\.|ex\\.|for example|example|"
+            "beispiel|par exemple|por ejemplo|например)"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (!m_placeholder.isEmpty() && !m_textBefore.isEmpty() &&
+        example.match(m_placeholder).hasMatch())
+        texts.move(2, 4);
     const bool isSilent =
         std::all_of(texts.begin(), texts.end(), [](const QString &text) { return text.isEmpty(); });
     const QString title = text("title");

@@ -271,6 +271,7 @@ void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &ki
 {
     const int most = addressesIn(kinds);
     int count = 0;
+    bool isFirstOwn = false;
     for (int i = 0; i < kinds.size();) {
         const int from = i;
         while (i < kinds.size() && isPhone(kinds.at(i)) &&
@@ -284,7 +285,8 @@ void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &ki
         if ((kinds.at(from) != FieldKind::PhoneCode || i - from > 1) &&
             (fields.at(from).isLine() || i - from > 1))
             ++count;
-        if (count > most && !isOwnPhone(fields.at(from)))
+        isFirstOwn = count == 1 ? isOwnPhone(fields.at(from)) : isFirstOwn;
+        if (count > most && !(isFirstOwn && isOwnPhone(fields.at(from))))
             std::fill(kinds.begin() + from, kinds.begin() + i, FieldKind::Other);
     }
 }

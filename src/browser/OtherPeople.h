@@ -25,8 +25,8 @@ bool asksForLastName(const QVector<FieldReading> &readings, const QVector<FieldK
 /// Who reads "name", and is not asked for another, writes the whole, whatever the code says.
 void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 
-/// Leaves the second telephone of an address empty, when it is not said to be another of the same
-/// person's: a mobile, or one at work.
+/// Leaves the second telephone of an address empty, when the two are not told apart as numbers of
+/// one person's: a mobile beside one at home, or at work.
 void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &kinds);
 
 /// Leaves the names of further people, of whom no more are the user than there are addresses, and

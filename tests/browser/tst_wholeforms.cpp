@@ -91,8 +91,12 @@ void TestWholeForms::wholeForms_data()
     row(QByteArray(rower).replace('%', '1') + QByteArray(rower).replace('%', '2') +
             R"({"label":"Street","name":"street1"})",
         "Ana|Kassel|ana@example.com|-|-|-|Lange Straße 12 b");
-    row(R"({"label":"Phone"}, {"label":"Night phone"}, {"label":"Mobile phone"})",
+    row(R"({"label":"Home phone"}, {"label":"Night phone"}, {"label":"Mobile phone"})",
         "+49 561 12345|-|+49 170 999");
+    row(R"({"label":"Phone"}, {"label":"Mobile phone"})", "+49 561 12345|-");
+    row(R"({"placeholder":"e.g. flat or building name","textBefore":"Address line 1"},
+           {"placeholder":"e.g. street name","textBefore":"Address line 2"}, {"label":"City"})",
+        "Lange Straße 12 b|Hinterhaus|Kassel");
     row(R"({"label":"Phone","textBefore":"+49"}, {"label":"E-mail","textAfter":"@example.com"})",
         "561 12345|-");
     const QByteArray card = R"({"label":"Card number"}, )";
