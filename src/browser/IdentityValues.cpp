@@ -209,8 +209,9 @@ QString genderValue(PMFieldTypes::Gender gender, const FieldPlace &place)
     return inLanguage(sex, field.isSelect() ? QString() : place.language);
 }
 
-/// The number that the field's words ask for; any other when the person has none such.
-PMFieldTypes::Phone phoneFor(const PMIdentity &identity, const FormField &field)
+/// The number that the field's words ask for; any other when the person has none such and no other
+/// field asks for that.
+PMFieldTypes::Phone phoneFor(const PMIdentity &identity, const FormField &field, bool isFurther)
 {
     static const QRegularExpression mobile(
         QStringLiteral("mobil|cell|handy|móvil|movil|celular|portable|мобильн|сотов"),
@@ -225,6 +226,8 @@ PMFieldTypes::Phone phoneFor(const PMIdentity &identity, const FormField &field)
         phones.move(1, 0);
     else if (business.match(texts).hasMatch())
         phones.move(2, 0);
+    if (isFurther)
+        return phones.first();
     for (const PMFieldTypes::Phone &phone : qAsConst(phones)) {
         if (!phone.number.isEmpty())
             return phone;
@@ -245,6 +248,13 @@ const FormField &phoneField(const FieldPlace &place)
             place.kinds.at(at) == FieldKind::PhoneLine))
         --at;
     return place.fields.at(at);
+}
+
+PMFieldTypes::Phone phoneFor(const PMIdentity &identity, const FieldPlace &place)
+{
+    const bool isFurther = place.kind() == FieldKind::Phone && place.at > 0 &&
+                           place.kinds.at(place.at - 1) == FieldKind::Phone;
+    return phoneFor(identity, phoneField(place), isFurther);
 }
 
 QString birthValue(const PMFieldTypes::Date &date, const FieldPlace &place)
@@ -297,9 +307,9 @@ QString identityValue(const PMIdentity &identity, const FieldPlace &place)
     case FieldKind::PhoneArea:
     case FieldKind::PhonePrefix:
     case FieldKind::PhoneLine:
-        return phoneText(phoneFor(identity, phoneField(place)), place);
+        return phoneText(phoneFor(identity, place), place);
     case FieldKind::PhoneCode:
-        return dialCodeText(phoneFor(identity, phoneField(place)), identity.country(), place);
+        return dialCodeText(phoneFor(identity, place), identity.country(), place);
     case FieldKind::Gender:
         return genderValue(identity.gender(), place);
     case FieldKind::Company:

@@ -97,6 +97,9 @@ void TestWholeForms::wholeForms_data()
     row(R"({"placeholder":"e.g. flat or building name","textBefore":"Address line 1"},
            {"placeholder":"e.g. street name","textBefore":"Address line 2"}, {"label":"City"})",
         "Lange Straße 12 b|Hinterhaus|Kassel");
+    // Who has no number at work does not write the same again.
+    row(R"({"label":"Home phone"}, {"label":"Work phone"}, {"label":"City"})",
+        "+49 561 12345|-|Kassel");
     row(R"({"label":"Phone","textBefore":"+49"}, {"label":"E-mail","textAfter":"@example.com"})",
         "561 12345|-");
     const QByteArray card = R"({"label":"Card number"}, )";
