@@ -1,6 +1,7 @@
 #include "CardFields.h"
 
 #include "FieldPhrases.h"
+#include "WordSets.h"
 
 #include <algorithm>
 
@@ -28,8 +29,19 @@ void leaveLoneCards(const QVector<FormField> &fields, const QVector<FieldReading
     }
 }
 
-void splitExpiry(QVector<FieldKind> &kinds)
+void splitExpiry(const QVector<FormField> &fields, QVector<FieldKind> &kinds)
 {
+    static const WordSet months("mm мм");
+    static const WordSet years("yy yyyy aa aaaa jj jjjj гг гггг");
+    for (int i = 0; i < kinds.size(); ++i) {
+        if (kinds.at(i) != FieldKind::CardMonth && kinds.at(i) != FieldKind::CardYear)
+            continue;
+        const QString shown = fields.at(i).placeholder().toLower();
+        if (months.contains(shown))
+            kinds[i] = FieldKind::CardMonth;
+        else if (years.contains(shown))
+            kinds[i] = FieldKind::CardYear;
+    }
     for (int i = 0; i + 1 < kinds.size(); ++i) {
         if (kinds.at(i) != FieldKind::CardExpiry || kinds.at(i + 1) != FieldKind::CardExpiry)
             continue;

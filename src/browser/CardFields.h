@@ -7,8 +7,9 @@
 void leaveLoneCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,
                     QVector<FieldKind> &kinds);
 
-/// Two dates of expiry side by side are its month and its year.
-void splitExpiry(QVector<FieldKind> &kinds);
+/// Two dates of expiry side by side are its month and its year; where a field shows "MM" or "YYYY",
+/// that is what it takes, whatever its label says.
+void splitExpiry(const QVector<FormField> &fields, QVector<FieldKind> &kinds);
 
 /// Leaves number and code of a gift card, by the heading above them.
 void leaveGiftCards(const QVector<FormField> &fields, const QVector<FieldReading> &readings,

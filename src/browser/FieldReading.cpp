@@ -213,10 +213,8 @@ void takeLastPart(FieldReading &reading, const QString &code, const QString &lan
 
 bool isOfDate(FieldKind kind)
 {
-    static const QVector<FieldKind> kinds = {
-        FieldKind::SomeDay,  FieldKind::SomeMonth,  FieldKind::SomeYear,  FieldKind::SomeDate,
-        FieldKind::BirthDay, FieldKind::BirthMonth, FieldKind::BirthYear, FieldKind::BirthDate};
-    return kinds.contains(kind);
+    return (kind >= FieldKind::SomeDay && kind <= FieldKind::SomeDate) ||
+           (kind >= FieldKind::BirthDate && kind <= FieldKind::BirthYear);
 }
 
 FieldReading readSelect(const FormField &field, FieldReading reading)

@@ -57,7 +57,7 @@ public:
         for (int i = 0; i < m_fields.size(); ++i)
             readNeighbours(i);
         readWholeNames(m_readings, m_kinds);
-        splitExpiry(m_kinds);
+        splitExpiry(m_fields, m_kinds);
         joinExpiry(m_fields, m_readings, m_kinds);
         leaveLoneCards(m_fields, m_readings, m_kinds);
         leaveGiftCards(m_fields, m_readings, m_kinds);

@@ -286,6 +286,13 @@ void leaveFurtherPhones(const QVector<FormField> &fields, QVector<FieldKind> &ki
             (fields.at(from).isLine() || i - from > 1))
             ++count;
         isFirstOwn = count == 1 ? isOwnPhone(fields.at(from)) : isFirstOwn;
+        // Twice the same name in code, and one label: the parts of a number, of unknown lengths.
+        const bool isTwin = i - from == 1 && i < kinds.size() && isPhone(kinds.at(i)) &&
+                            !fields.at(from).name().isEmpty() &&
+                            fields.at(i).name() == fields.at(from).name() &&
+                            fields.at(i).readTexts().join(QString()).isEmpty();
+        if (isTwin)
+            kinds[from] = FieldKind::Other;
         if (count > most && !(isFirstOwn && isOwnPhone(fields.at(from))))
             std::fill(kinds.begin() + from, kinds.begin() + i, FieldKind::Other);
     }

@@ -106,6 +106,10 @@ void TestWholeForms::wholeForms_data()
     row(card + R"({"label":"Expire month","placeholder":"Example: 04"})", "4111111111111111|09");
     row(card + R"({"label":"Credit card expiration month","maxlength":2})", "4111111111111111|09");
     row(card + R"({"name":"CreditCardInfo.ExpirationYear","maxlength":2})", "4111111111111111|29");
+    row(card +
+            R"({"label":"Exp month","placeholder":"YYYY"}, {"label":"Exp year","placeholder":"MM"})",
+        "4111111111111111|2029|09");
+    row(R"({"label":"Telefone","name":"tel"}, {"name":"tel"}, {"label":"Cidade"})", "-|-|Kassel");
     const QByteArray gift = R"(,"heading":"Redeem gift cards"})";
     row(card + R"({"label":"Card number")" + gift + R"(, {"label":"Security code")" + gift,
         "4111111111111111|-|-");
@@ -215,10 +219,10 @@ void TestWholeForms::wholeForms_data()
            {"label":"City","heading":"Signature"}, {"label":"E-mail","heading":"Invite a friend"})",
         "Lange Straße 12 b|Kassel|-|-");
     const QByteArray sexes =
-        R"("type":"select-one","options":[{"text":"Male"},{"text":"Female"}]})";
-    row(R"({"label":"Gender",)" + sexes + R"(, {"label":"Date of birth",)" + sexes +
+        R"("type":"select-one","options":[{"text":"Male","value":"1"},{"text":"Female","value":"2"}]})";
+    row(R"({"label":"Date of birth","name":"day",)" + sexes + R"(, {"label":"Gender",)" + sexes +
             R"(, {"name":"x",)" + sexes,
-        "Female|-|-");
+        "-|Female|-");
 }
 
 void TestWholeForms::wholeForms()
