@@ -9,6 +9,7 @@
 #include "SearchWords.h"
 #include "SiteIcons.h"
 #include "SortButton.h"
+#include "TrashBar.h"
 #include "style/Style.h"
 #include "style/Theme.h"
 #include "widgets/Controls.h"
@@ -57,7 +58,9 @@ ItemListPane::ItemListPane(ItemListModel &items, const Theme &theme, QWidget *pa
     m_sort = new SortButton(theme, this);
     m_sort->setOrder(m_filter->sortBy());
     connect(m_sort, &SortButton::orderChosen, this, &ItemListPane::onOrderChosen);
-    m_trashBar = makeTrashBar();
+    m_trashBar = new TrashBar(this);
+    connect(m_trashBar, &TrashBar::restoreRequested, this, &ItemListPane::restoreAllRequested);
+    connect(m_trashBar, &TrashBar::emptyRequested, this, &ItemListPane::emptyTrashRequested);
     layOut();
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, &ItemListPane::showEmptyState);
     connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &ItemListPane::showEmptyState);
@@ -158,23 +161,6 @@ void ItemListPane::setOrder(const QString &name)
     const auto order = static_cast<ItemFilterModel::SortBy>(value);
     m_sort->setOrder(order);
     m_filter->setSortBy(order);
-}
-
-QWidget *ItemListPane::makeTrashBar()
-{
-    auto *bar = new QWidget(this);
-    auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(12, 4, 12, 4);
-    row->setSpacing(Style::spacing);
-    auto *restore = makeButton(tr("Restore all"), "plain", bar);
-    restore->setObjectName(QStringLiteral("restoreAllButton"));
-    auto *empty = makeButton(tr("Empty trash"), "plain", bar);
-    empty->setObjectName(QStringLiteral("emptyTrashButton"));
-    row->addWidget(restore, 1);
-    row->addWidget(empty, 1);
-    connect(restore, &QPushButton::clicked, this, &ItemListPane::restoreAllRequested);
-    connect(empty, &QPushButton::clicked, this, &ItemListPane::emptyTrashRequested);
-    return bar;
 }
 
 void ItemListPane::layOut()

@@ -14,6 +14,7 @@ class QStackedWidget;
 class QToolButton;
 class SiteIcons;
 class SortButton;
+class TrashBar;
 class Theme;
 
 /// The items of one category as a list with search and sorting. Any number of them is selected;
@@ -86,7 +87,6 @@ protected:
 private:
     void makeSearch();
     void makeList(const Clock &clock);
-    QWidget *makeTrashBar();
     void layOut();
     void showEmptyState();
     void showPlaceholder();
@@ -103,7 +103,7 @@ private:
     QToolButton *m_new;
     ElidedLabel *m_categoryName;
     SortButton *m_sort;
-    QWidget *m_trashBar;
+    TrashBar *m_trashBar;
     QStackedWidget *m_stack;
     ItemListView *m_list;
     ItemSelection *m_selection;
