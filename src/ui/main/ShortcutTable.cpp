@@ -14,6 +14,8 @@ struct Row
 const Row rows[] = {
     {ShortcutRow::Search, "Ctrl+F", QT_TRANSLATE_NOOP("ShortcutTable", "Search")},
     {ShortcutRow::Told, "Down Up", QT_TRANSLATE_NOOP("ShortcutTable", "Into the list and back")},
+    {ShortcutRow::Told, "Right",
+     QT_TRANSLATE_NOOP("ShortcutTable", "Open the item, in a narrow window")},
     {ShortcutRow::CreateItem, "Ctrl+N", QT_TRANSLATE_NOOP("ShortcutTable", "Add an item")},
     {ShortcutRow::EditItem, "F2 Ctrl+E", QT_TRANSLATE_NOOP("ShortcutTable", "Edit the item")},
     {ShortcutRow::SaveItem, "Ctrl+S", QT_TRANSLATE_NOOP("ShortcutTable", "Save")},
