@@ -2634,14 +2634,6 @@ Sie lassen sich nicht wiederherstellen.</numerusform>
         <translation>Einträge</translation>
     </message>
     <message>
-        <source>Restore all</source>
-        <translation>Alle wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Empty trash</source>
-        <translation>Papierkorb leeren</translation>
-    </message>
-    <message>
         <source>Search %1</source>
         <translation>%1 durchsuchen</translation>
     </message>
@@ -3026,6 +3018,14 @@ Einen anlegen?</translation>
     <message>
         <source>%1 (looking…)</source>
         <translation>%1 (wird gesucht …)</translation>
+    </message>
+    <message>
+        <source>Saving your last changes first…</source>
+        <translation>Ihre letzten Änderungen werden zuerst gespeichert …</translation>
+    </message>
+    <message>
+        <source>Locked. Saving your last changes…</source>
+        <translation>Gesperrt. Ihre letzten Änderungen werden gespeichert …</translation>
     </message>
 </context>
 <context>
@@ -3593,6 +3593,13 @@ Einen anlegen?</translation>
     <message>
         <source>(row %1)</source>
         <translation>(Zeile %1)</translation>
+    </message>
+</context>
+<context>
+    <name>NarrowLayout</name>
+    <message>
+        <source>Back to the list (Esc)</source>
+        <translation>Zurück zur Liste (Esc)</translation>
     </message>
 </context>
 <context>
@@ -5274,6 +5281,10 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
         <source>Log in or fill in, from the list or the search</source>
         <translation>Anmelden oder eintragen, aus der Liste oder der Suche</translation>
     </message>
+    <message>
+        <source>Open the item, in a narrow window</source>
+        <translation>Eintrag öffnen, in einem schmalen Fenster</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutsDialog</name>
@@ -5450,6 +5461,17 @@ ist:favorit, ist:schwach, ist:läuftab, ist:abgelaufen und ist:papierkorb zeigen
     <message>
         <source>Restore</source>
         <translation>Wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>TrashBar</name>
+    <message>
+        <source>Restore all</source>
+        <translation>Alle wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Empty trash</source>
+        <translation>Papierkorb leeren</translation>
     </message>
 </context>
 <context>

@@ -2634,14 +2634,6 @@ No se podrán restaurar.</numerusform>
         <translation>Elementos</translation>
     </message>
     <message>
-        <source>Restore all</source>
-        <translation>Restaurar todo</translation>
-    </message>
-    <message>
-        <source>Empty trash</source>
-        <translation>Vaciar todo</translation>
-    </message>
-    <message>
         <source>Search %1</source>
         <translation>Buscar en %1</translation>
     </message>
@@ -3026,6 +3018,14 @@ Create one?</source>
     <message>
         <source>%1 (looking…)</source>
         <translation>%1 (buscando…)</translation>
+    </message>
+    <message>
+        <source>Saving your last changes first…</source>
+        <translation>Antes se guardan sus últimos cambios…</translation>
+    </message>
+    <message>
+        <source>Locked. Saving your last changes…</source>
+        <translation>Bloqueada. Se guardan sus últimos cambios…</translation>
     </message>
 </context>
 <context>
@@ -3593,6 +3593,13 @@ Create one?</source>
     <message>
         <source>(row %1)</source>
         <translation>(fila %1)</translation>
+    </message>
+</context>
+<context>
+    <name>NarrowLayout</name>
+    <message>
+        <source>Back to the list (Esc)</source>
+        <translation>Volver a la lista (Esc)</translation>
     </message>
 </context>
 <context>
@@ -5274,6 +5281,10 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
         <source>Log in or fill in, from the list or the search</source>
         <translation>Acceder o rellenar, desde la lista o la búsqueda</translation>
     </message>
+    <message>
+        <source>Open the item, in a narrow window</source>
+        <translation>Abrir el elemento, en una ventana estrecha</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutsDialog</name>
@@ -5450,6 +5461,17 @@ estado:favorito, estado:débil, estado:caduca, estado:caducado y estado:papelera
     <message>
         <source>Restore</source>
         <translation>Restaurar</translation>
+    </message>
+</context>
+<context>
+    <name>TrashBar</name>
+    <message>
+        <source>Restore all</source>
+        <translation>Restaurar todo</translation>
+    </message>
+    <message>
+        <source>Empty trash</source>
+        <translation>Vaciar todo</translation>
     </message>
 </context>
 <context>

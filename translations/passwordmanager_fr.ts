@@ -2634,14 +2634,6 @@ Ils ne pourront pas être restaurés.</numerusform>
         <translation>Éléments</translation>
     </message>
     <message>
-        <source>Restore all</source>
-        <translation>Tout restaurer</translation>
-    </message>
-    <message>
-        <source>Empty trash</source>
-        <translation>Tout vider</translation>
-    </message>
-    <message>
         <source>Search %1</source>
         <translation>Filtrer %1</translation>
     </message>
@@ -3026,6 +3018,14 @@ En créer un&#x202f;?</translation>
     <message>
         <source>%1 (looking…)</source>
         <translation>%1 (recherche…)</translation>
+    </message>
+    <message>
+        <source>Saving your last changes first…</source>
+        <translation>Enregistrement de vos dernières modifications d’abord…</translation>
+    </message>
+    <message>
+        <source>Locked. Saving your last changes…</source>
+        <translation>Verrouillé. Enregistrement de vos dernières modifications…</translation>
     </message>
 </context>
 <context>
@@ -3593,6 +3593,13 @@ En créer un&#x202f;?</translation>
     <message>
         <source>(row %1)</source>
         <translation>(ligne %1)</translation>
+    </message>
+</context>
+<context>
+    <name>NarrowLayout</name>
+    <message>
+        <source>Back to the list (Esc)</source>
+        <translation>Retour à la liste (Échap)</translation>
     </message>
 </context>
 <context>
@@ -5274,6 +5281,10 @@ type:carte affiche un seul type d’éléments.
         <source>Log in or fill in, from the list or the search</source>
         <translation>Se connecter ou remplir, depuis la liste ou la recherche</translation>
     </message>
+    <message>
+        <source>Open the item, in a narrow window</source>
+        <translation>Ouvrir l’élément, dans une fenêtre étroite</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutsDialog</name>
@@ -5450,6 +5461,17 @@ type:carte affiche un seul type d’éléments.
     <message>
         <source>Restore</source>
         <translation>Restaurer</translation>
+    </message>
+</context>
+<context>
+    <name>TrashBar</name>
+    <message>
+        <source>Restore all</source>
+        <translation>Tout restaurer</translation>
+    </message>
+    <message>
+        <source>Empty trash</source>
+        <translation>Tout vider</translation>
     </message>
 </context>
 <context>

@@ -2653,14 +2653,6 @@ They can not be restored.</source>
         <translation>Записи</translation>
     </message>
     <message>
-        <source>Restore all</source>
-        <translation>Вернуть все</translation>
-    </message>
-    <message>
-        <source>Empty trash</source>
-        <translation>Очистить</translation>
-    </message>
-    <message>
         <source>Search %1</source>
         <translation>Поиск: %1</translation>
     </message>
@@ -3048,6 +3040,14 @@ Create one?</source>
     <message>
         <source>%1 (looking…)</source>
         <translation>%1 (поиск…)</translation>
+    </message>
+    <message>
+        <source>Saving your last changes first…</source>
+        <translation>Сначала сохраняются Ваши последние изменения…</translation>
+    </message>
+    <message>
+        <source>Locked. Saving your last changes…</source>
+        <translation>Заблокировано. Сохраняются Ваши последние изменения…</translation>
     </message>
 </context>
 <context>
@@ -3626,6 +3626,13 @@ Create one?</source>
     <message>
         <source>(row %1)</source>
         <translation>(строка %1)</translation>
+    </message>
+</context>
+<context>
+    <name>NarrowLayout</name>
+    <message>
+        <source>Back to the list (Esc)</source>
+        <translation>Назад к списку (Esc)</translation>
     </message>
 </context>
 <context>
@@ -5311,6 +5318,10 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
         <source>Log in or fill in, from the list or the search</source>
         <translation>Войти или заполнить из списка или поиска</translation>
     </message>
+    <message>
+        <source>Open the item, in a narrow window</source>
+        <translation>Открыть запись, в узком окне</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutsDialog</name>
@@ -5487,6 +5498,17 @@ is:favourite, is:weak, is:expiring, is:expired and is:trash show items by their 
     <message>
         <source>Restore</source>
         <translation>Восстановить</translation>
+    </message>
+</context>
+<context>
+    <name>TrashBar</name>
+    <message>
+        <source>Restore all</source>
+        <translation>Вернуть все</translation>
+    </message>
+    <message>
+        <source>Empty trash</source>
+        <translation>Очистить</translation>
     </message>
 </context>
 <context>
