@@ -22,7 +22,7 @@ const WordSet &harmlessWords()
         "contact person account login sign customer client buyer purchaser payer subscriber user member member's visitor patient student applicant "
         "candidate attendee participant registrant passenger traveller traveler donor holder owner cardholder driver renter insured policyholder "
         "employee employer individual resident lead adult self recipient recipients addressee guest receiver sender "
-        "public recovery optional required mandatory needed info information details data field input line txt text box short long only "
+        "public recovery initial initials optional required mandatory needed info information details data field input line txt text box short long only "
         "international national local domestic us usa uk eu ca au canadian american british european german french spanish italian "
         "credit debit bank payment visa mastercard amex card "
         "number numbers address name email phone code date letter letters digits digit digit's chars characters "

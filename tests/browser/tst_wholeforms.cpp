@@ -203,6 +203,8 @@ void TestWholeForms::wholeForms_data()
     row(R"({"label":"Phone","maxlength":3}, {"name":"phone_prefix","maxlength":3},
            {"name":"phone_suffix","maxlength":5})",
         "561|123|45");
+    row(R"({"label":"First name and initial","name":"tp1"}, {"label":"Last name"}, {"label":"First name","heading":"Dependents"})",
+        "Ana|Lind|-");
     // What one label says for several fields, and what contradicts it.
     row(R"({"label":"Straße, Hausnummer"}, {"name":"strnr"}, {"label":"City, State/Province, ZIP","name":"town"},
            {"name":"province"}, {"name":"zipcode"})",
