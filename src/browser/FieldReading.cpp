@@ -263,12 +263,6 @@ FieldKind kindInPassword(const FieldReading &reading)
     }
 }
 
-/// A text of several lines takes a whole address or nothing.
-FieldKind kindInText(FieldKind kind)
-{
-    return kind == FieldKind::AddressLine1 ? kind : FieldKind::Other;
-}
-
 /// "name@example.com" shows what is meant without saying it.
 bool isExample(const QString &text)
 {

@@ -39,3 +39,8 @@ bool isWritten(FieldKind kind)
     return kind == FieldKind::FullName || kind == FieldKind::Email ||
            kind == FieldKind::AddressLine1 || kind == FieldKind::AddressLine2;
 }
+
+FieldKind kindInText(FieldKind kind)
+{
+    return kind == FieldKind::AddressLine1 ? kind : FieldKind::Other;
+}

@@ -10,3 +10,6 @@ void readType(FieldReading &reading, const QString &inputType);
 
 /// Whether it is written in words, which no list holds and no field for numbers takes.
 bool isWritten(FieldKind kind);
+
+/// A text of several lines takes a whole address or nothing.
+FieldKind kindInText(FieldKind kind);
