@@ -10,6 +10,8 @@ const MOST_BYTES = 7 * 1024 * 1024;
 const TOP = 0;
 // One frame that is busy, such as an advertisement, must not keep the page from being filled.
 const FRAME_LIMIT = 1000;
+// A page can make thousands of frames, and this script is there for all pages.
+const MOST_FRAMES = 100;
 
 // Runs inside the page and can use nothing from around it.
 async function callPage(name, argument) {
@@ -61,7 +63,7 @@ export function createDocuments({ api, timers }) {
     return all ?? told;
   }
 
-  /** The tab's top document and the frames of its site, the top one first; empty when the page is out of reach. */
+  /** The tab's top document and the oldest frames of its site, the top one first; empty when the page is out of reach. */
   async function list(tabId) {
     const [top] = await run({ tabId, frameIds: [TOP] }, { func: describeFrame });
     if (!top?.result) return [];
@@ -70,7 +72,8 @@ export function createDocuments({ api, timers }) {
     return [top, ...all.filter(({ frameId }) => frameId !== TOP)]
       .filter(({ result }) => result && belongsTo(site, [result.origin, ...result.around]))
       .map(({ frameId, documentId, result }) => ({ tabId, frameId, documentId, origin: result.origin }))
-      .sort((a, b) => a.frameId - b.frameId);
+      .sort((a, b) => a.frameId - b.frameId)
+      .slice(0, MOST_FRAMES);
   }
 
   /** The answer of one document, undefined when it went away. */

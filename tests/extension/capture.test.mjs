@@ -1,5 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
+import { runInNewContext } from 'node:vm';
 import { createClock } from './clock.mjs';
 import { bundle, callPage, openPage } from './page.mjs';
 
@@ -77,6 +78,12 @@ for (const [what, html, send] of SENT) {
     assert.deepEqual(page.said(), []);
   });
 }
+
+test('a title of much white space does not hold up the browser', () => {
+  const title = `Shop${'\u00a0'.repeat(200000)}Log in`;
+  const words = bundle('words.js', 'words');
+  assert.equal(runInNewContext(`${words}; words.siteNameIn(title)`, { title }, { timeout: 10000 }), title);
+});
 
 test('what a site is called', () => {
   for (const [title, expected] of [

@@ -133,7 +133,7 @@ test('what was typed never leaves the page, what the page offers does', async ()
 });
 
 test('fields come under their form, in the order of the page, shadow trees included', async () => {
-  const report = await collect(`<title> A  page </title><input name=loose>
+  const report = await collect(`<title> A  page </title><img name=title><input name=loose>
     <form id=f name=login action="/go?x=1"><h2>Sign in</h2><input name=action><input name=id type=password><button>Go on</button><button type=button>?</button></form>
     <form><input type=hidden></form>
     <x-a data-shadow="<form><input name=inner></form><x-b></x-b>"></x-a><input form=f name=apart>`);

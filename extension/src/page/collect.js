@@ -1,5 +1,5 @@
 import { captionOf } from './buttons.js';
-import { attr, elementsUnder, findAll, matches } from './dom.js';
+import { attr, elementsUnder, findAll, matches, titleOf } from './dom.js';
 import { fieldType, pageType } from './fields.js';
 import { hintsOf } from './hints.js';
 import { labelText, textBefore } from './surroundings.js';
@@ -111,7 +111,7 @@ function describe(doc, token, numberOf) {
     fields.set(entry.opid, { field: element, formUid: group.formUid, gpmid: entry.gpmid, visible: entry.visible });
   }
   const report = {
-    title: clean(doc.title),
+    title: clean(titleOf(doc)),
     url: location.href,
     language: clean(attr(doc.documentElement, 'lang')),
     icon: iconOf(doc),

@@ -71,7 +71,7 @@ function start() {
     waiting.push([field, kind]);
     if (waiting.length > 1) return;
     belongs = Boolean(await say({ belongs: describeFrame().around }));
-    if (belongs) waiting.forEach(([each, of]) => add(each, of));
+    for (const [each, of] of waiting.splice(0)) if (belongs) add(each, of);
   }
 
   function listen() {

@@ -77,7 +77,7 @@ export function isPhrase(text, phrases) {
 
 /** What a page's title calls its site, without what the page is for; empty when it says only that. */
 export function siteNameIn(title) {
-  const parts = title.split(/\s+[|·•–—:-]\s+/).map((part) => part.trim()).filter(Boolean);
+  const parts = title.split(/\s[|·•–—:-]\s/).map((part) => part.trim()).filter(Boolean);
   const words = [...SIGN_IN, ...SIGN_UP, ...CHANGE];
   return parts.find((part) => findPhrase(part, words) < 0) ?? parts.find((part) => !isPhrase(part, words)) ?? '';
 }
