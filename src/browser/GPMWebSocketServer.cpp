@@ -1,11 +1,12 @@
 #include "GPMWebSocketServer.h"
 
+#include "ExtensionFrame.h"
 #include "ExtensionOrigins.h"
 #include "Platform.h"
+#include "WaitingExtensions.h"
 
 #include <QDebug>
 #include <QHash>
-#include <QJsonDocument>
 #include <QTimer>
 #include <QUuid>
 #include <QWebSocket>
@@ -15,31 +16,6 @@
 namespace {
 
 constexpr quint64 maxFrameSize = 8ULL * 1024 * 1024;
-constexpr int maxWaiting = 30;
-
-std::optional<QJsonObject> parseFrame(const QString &message)
-{
-    const QJsonDocument document = QJsonDocument::fromJson(message.toUtf8());
-    if (!document.isObject())
-        return std::nullopt;
-    return document.object();
-}
-
-QString actionOf(const QJsonObject &frame)
-{
-    return frame.value(QLatin1String("action")).toString();
-}
-
-bool isHello(const QJsonObject &frame)
-{
-    return actionOf(frame) == QLatin1String("hello");
-}
-
-void sendFrame(QWebSocket *socket, const QJsonObject &frame)
-{
-    const QByteArray text = QJsonDocument(frame).toJson(QJsonDocument::Compact);
-    socket->sendTextMessage(QString::fromUtf8(text));
-}
 
 } // namespace
 
@@ -50,6 +26,7 @@ GPMWebSocketServer::GPMWebSocketServer(quint16 port, bool debug, Platform &platf
                                     this))
     , m_debug(debug)
     , m_helloLimit(helloLimit)
+    , m_waiting(new WaitingExtensions(this))
     , m_platform(platform)
 {
     qDebug() << "GPMWebSocketServer::GPMWebSocketServer"
@@ -60,6 +37,7 @@ GPMWebSocketServer::GPMWebSocketServer(quint16 port, bool debug, Platform &platf
         qDebug() << "Echoserver listening on port" << m_server->serverPort();
     connect(m_server, &QWebSocketServer::newConnection, this, &GPMWebSocketServer::onNewConnection);
     connect(m_server, &QWebSocketServer::closed, this, &GPMWebSocketServer::closed);
+    connect(m_waiting, &WaitingExtensions::saidHello, this, &GPMWebSocketServer::onWaitingHello);
     qDebug() << "GPMWebSocketServer::GPMWebSocketServer"
              << "Enable listening on port...end";
 }
@@ -67,10 +45,8 @@ GPMWebSocketServer::GPMWebSocketServer(quint16 port, bool debug, Platform &platf
 GPMWebSocketServer::~GPMWebSocketServer()
 {
     qDebug() << "Echoserver closing";
-    QList<QWebSocket *> sockets = m_sockets.values();
-    for (const Waiting &waiting : qAsConst(m_waiting))
-        sockets.append(waiting.socket);
-    for (QWebSocket *socket : qAsConst(sockets)) {
+    const QVector<QWebSocket *> sockets = m_sockets.values().toVector() + m_waiting->takeAll();
+    for (QWebSocket *socket : sockets) {
         socket->disconnect(this);
         socket->close(QWebSocketProtocol::CloseCodeGoingAway);
     }
@@ -119,7 +95,7 @@ void GPMWebSocketServer::onNewConnection()
     if (m_sockets.isEmpty() && mayBeServed(*socket))
         serve(socket);
     else
-        keepWaiting(socket);
+        m_waiting->add(socket);
 }
 
 bool GPMWebSocketServer::mayBeServed(const QWebSocket &socket) const
@@ -135,7 +111,7 @@ void GPMWebSocketServer::onOriginApproved(const QString &origin)
         return;
     }
     // They have been told that they lack the approval; coming anew they learn how things stand.
-    closeWaiting(origin);
+    m_waiting->close(origin);
 }
 
 void GPMWebSocketServer::onOriginRefused(const QString &origin)
@@ -145,16 +121,7 @@ void GPMWebSocketServer::onOriginRefused(const QString &origin)
         if (socket->origin() == origin)
             socket->abort();
     }
-    closeWaiting(origin);
-}
-
-void GPMWebSocketServer::closeWaiting(const QString &origin)
-{
-    const QVector<Waiting> all = m_waiting;
-    for (const Waiting &waiting : all) {
-        if (waiting.socket->origin() == origin)
-            waiting.socket->abort();
-    }
+    m_waiting->close(origin);
 }
 
 bool GPMWebSocketServer::isForeign(const QWebSocket &socket) const
@@ -165,11 +132,7 @@ bool GPMWebSocketServer::isForeign(const QWebSocket &socket) const
 /// Also of a connection that waits.
 bool GPMWebSocketServer::hasSaidHello(QWebSocket *socket) const
 {
-    const auto isGreeting = [socket](const Waiting &waiting) {
-        return waiting.socket == socket && !waiting.hello.isEmpty();
-    };
-    return m_stages.value(m_sockets.key(socket)) == SaidHello ||
-           std::any_of(m_waiting.begin(), m_waiting.end(), isGreeting);
+    return m_stages.value(m_sockets.key(socket)) == SaidHello || m_waiting->hasSaidHello(socket);
 }
 
 void GPMWebSocketServer::serve(QWebSocket *socket)
@@ -182,76 +145,45 @@ void GPMWebSocketServer::serve(QWebSocket *socket)
     m_stages.insert(callerId, Accepted);
 }
 
-void GPMWebSocketServer::keepWaiting(QWebSocket *socket)
+void GPMWebSocketServer::onWaitingHello(QWebSocket *socket)
 {
-    if (m_waiting.size() >= maxWaiting) {
-        socket->abort();
-        socket->deleteLater();
-        return;
-    }
-    // A waiting socket goes on reading, so that a "hello" nobody listens to would be lost.
-    connect(socket, &QWebSocket::textMessageReceived, this,
-            [this, socket](const QString &message) { rememberHello(socket, message); });
-    connect(socket, &QWebSocket::disconnected, this, [this, socket] { forgetWaiting(socket); });
-    m_waiting.append(Waiting{socket, QJsonObject()});
-}
-
-void GPMWebSocketServer::rememberHello(QWebSocket *socket, const QString &message)
-{
-    const std::optional<QJsonObject> frame = parseFrame(message);
-    if (!frame || !isHello(*frame))
-        return;
-    for (Waiting &waiting : m_waiting) {
-        if (waiting.socket == socket)
-            waiting.hello = *frame;
-    }
     if (mayBeServed(*socket))
         return;
-    sendFrame(socket, {{QStringLiteral("action"), QStringLiteral("state")},
-                       {QStringLiteral("payload"),
-                        QJsonObject{{QStringLiteral("refused"), QStringLiteral("approval")}}}});
+    ExtensionFrame::send(*socket,
+                         {{QStringLiteral("action"), QStringLiteral("state")},
+                          {QStringLiteral("payload"),
+                           QJsonObject{{QStringLiteral("refused"), QStringLiteral("approval")}}}});
     Q_EMIT approvalNeeded(socket->origin());
-}
-
-void GPMWebSocketServer::forgetWaiting(QWebSocket *socket)
-{
-    const auto isSocket = [socket](const Waiting &waiting) { return waiting.socket == socket; };
-    m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), isSocket), m_waiting.end());
-    socket->disconnect(this);
-    socket->deleteLater();
 }
 
 void GPMWebSocketServer::serveNextWaiting()
 {
-    const auto found = std::find_if(m_waiting.begin(), m_waiting.end(), [this](const Waiting &one) {
-        return mayBeServed(*one.socket);
-    });
-    if (found == m_waiting.end())
+    const auto next =
+        m_waiting->takeFirst([this](const QWebSocket &socket) { return mayBeServed(socket); });
+    if (!next)
         return;
-    const Waiting next = *found;
-    m_waiting.erase(found);
-    next.socket->disconnect(this);
-    serve(next.socket);
-    if (!next.hello.isEmpty())
-        answerHello(callerIdOf(next.socket), next.hello);
+    serve(next->socket);
+    if (!next->hello.isEmpty())
+        answerHello(callerIdOf(next->socket), next->hello);
 }
 
 void GPMWebSocketServer::processTextMessage(const QString &message)
 {
     auto *socket = qobject_cast<QWebSocket *>(sender());
     const QString callerId = callerIdOf(socket);
-    const std::optional<QJsonObject> frame = parseFrame(message);
+    const std::optional<QJsonObject> frame = ExtensionFrame::parse(message);
     logFrame(message, frame);
     if (!frame)
         return;
-    if (isHello(*frame)) {
+    if (ExtensionFrame::isHello(*frame)) {
         answerHello(callerId, *frame);
         return;
     }
     if (m_stages.value(callerId) != SaidHello)
         return;
     Q_EMIT incomingMessage(message);
-    dispatch(callerId, actionOf(*frame), frame->value(QLatin1String("payload")).toObject());
+    dispatch(callerId, ExtensionFrame::actionOf(*frame),
+             frame->value(QLatin1String("payload")).toObject());
 }
 
 void GPMWebSocketServer::logFrame(const QString &message,
@@ -262,7 +194,7 @@ void GPMWebSocketServer::logFrame(const QString &message,
     if (!m_debug)
         return;
     // What the user typed into a page is not for the log.
-    const QString action = frame ? actionOf(*frame) : QString();
+    const QString action = frame ? ExtensionFrame::actionOf(*frame) : QString();
     qDebug() << "Message received:" << (secretActions.contains(action) ? action : message);
 }
 
@@ -273,8 +205,9 @@ void GPMWebSocketServer::answerHello(const QString &callerId, const QJsonObject 
     const QString bundleId = frame.value(QLatin1String("bundleId")).toString();
     m_extensionVersion = version;
     m_extensionBundleId = bundleId;
-    sendFrame(m_sockets.value(callerId), {{QStringLiteral("action"), QStringLiteral("hello")},
-                                          {QStringLiteral("callerId"), callerId}});
+    ExtensionFrame::send(*m_sockets.value(callerId),
+                         {{QStringLiteral("action"), QStringLiteral("hello")},
+                          {QStringLiteral("callerId"), callerId}});
     Q_EMIT hello(callerId, version, bundleId);
 }
 
@@ -388,8 +321,8 @@ void GPMWebSocketServer::send(const QString &callerId, const QString &action,
         qWarning() << "No connected extensions!";
         return;
     }
-    sendFrame(m_sockets.value(target),
-              {{QStringLiteral("action"), action}, {QStringLiteral("payload"), payload}});
+    ExtensionFrame::send(*m_sockets.value(target), {{QStringLiteral("action"), action},
+                                                    {QStringLiteral("payload"), payload}});
 }
 
 QString GPMWebSocketServer::callerIdOf(QWebSocket *socket) const

@@ -4,7 +4,6 @@
 #include <QMap>
 #include <QObject>
 #include <QString>
-#include <QVector>
 
 #include <chrono>
 #include <functional>
@@ -14,6 +13,7 @@ class Platform;
 class QWebSocket;
 class QWebSocketCorsAuthenticator;
 class QWebSocketServer;
+class WaitingExtensions;
 
 /// The local link to the browser extension: transport, envelope and dispatch. Serves one extension
 /// at a time; further ones wait, and nothing that they send is acted on, until it has left. It
@@ -109,23 +109,12 @@ Q_SIGNALS:
 private:
     enum Stage { Accepted = 0, SaidHello = 1 };
 
-    /// A connection behind the one that is served, or without approval, with the "hello" that it
-    /// has sent meanwhile.
-    struct Waiting
-    {
-        QWebSocket *socket = nullptr;
-        QJsonObject hello;
-    };
-
     void checkOrigin(QWebSocketCorsAuthenticator *authenticator) const;
     bool isForeign(const QWebSocket &socket) const;
     bool mayBeServed(const QWebSocket &socket) const;
     bool hasSaidHello(QWebSocket *socket) const;
     void serve(QWebSocket *socket);
-    void keepWaiting(QWebSocket *socket);
-    void rememberHello(QWebSocket *socket, const QString &message);
-    void forgetWaiting(QWebSocket *socket);
-    void closeWaiting(const QString &origin);
+    void onWaitingHello(QWebSocket *socket);
     void serveNextWaiting();
     void answerHello(const QString &callerId, const QJsonObject &frame);
     void dispatch(const QString &callerId, const QString &action, const QJsonObject &payload);
@@ -140,7 +129,7 @@ private:
     std::chrono::milliseconds m_helloLimit;
     QString m_extensionVersion;
     QString m_extensionBundleId;
-    QVector<Waiting> m_waiting;
+    WaitingExtensions *m_waiting;
     Platform &m_platform;
     std::function<bool(const QString &)> m_isApproved;
 };
