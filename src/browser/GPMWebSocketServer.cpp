@@ -16,6 +16,14 @@
 namespace {
 
 constexpr quint64 maxFrameSize = 8ULL * 1024 * 1024;
+/// Whoever is not heard yet shall not make the program keep and read much.
+constexpr quint64 maxHelloSize = 16ULL * 1024;
+
+void admit(QWebSocket &socket, quint64 longest)
+{
+    socket.setMaxAllowedIncomingFrameSize(longest);
+    socket.setMaxAllowedIncomingMessageSize(longest);
+}
 
 } // namespace
 
@@ -90,8 +98,7 @@ void GPMWebSocketServer::onNewConnection()
         if (!hasSaidHello(socket))
             socket->abort();
     });
-    socket->setMaxAllowedIncomingFrameSize(maxFrameSize);
-    socket->setMaxAllowedIncomingMessageSize(maxFrameSize);
+    admit(*socket, maxHelloSize);
     if (m_sockets.isEmpty() && mayBeServed(*socket))
         serve(socket);
     else
@@ -201,6 +208,7 @@ void GPMWebSocketServer::logFrame(const QString &message,
 void GPMWebSocketServer::answerHello(const QString &callerId, const QJsonObject &frame)
 {
     m_stages.insert(callerId, SaidHello);
+    admit(*m_sockets.value(callerId), maxFrameSize);
     const QString version = frame.value(QLatin1String("version")).toString();
     const QString bundleId = frame.value(QLatin1String("bundleId")).toString();
     m_extensionVersion = version;

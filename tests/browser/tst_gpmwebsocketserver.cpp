@@ -209,6 +209,17 @@ private Q_SLOTS:
         QTRY_COMPARE(m_server->hasConnections(), accepted);
     }
 
+    void longMessagesOnlyAfterHello()
+    {
+        ExtensionClient served(m_server->port());
+        ExtensionClient early(m_server->port());
+        QTRY_VERIFY(served.isOpen() && early.isOpen());
+        early.sendFrame("hello"_s, {{"long"_s, QString(maxFrame / 2, QLatin1Char('x'))}});
+        QTRY_VERIFY(!early.isOpen());
+        QVERIFY(!served.sayHello().isEmpty());
+        QVERIFY(served.isOpen());
+    }
+
     void servesOneAtATime()
     {
         QSignalSpy hello(m_server.get(), &GPMWebSocketServer::hello);
