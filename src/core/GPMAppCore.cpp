@@ -167,6 +167,9 @@ void GPMAppCore::setSafe(const std::shared_ptr<GPMSafe> &safe)
         m_safe->disconnect(this);
         m_settling.add(m_safe);
     }
+    // One of its own signals may have led here.
+    QMetaObject::invokeMethod(
+        this, [former = m_safe] {}, Qt::QueuedConnection);
     m_safe = safe;
     m_settling.letGo(m_safe);
     if (m_safe) {

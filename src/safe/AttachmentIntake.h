@@ -33,6 +33,7 @@ public:
 
     /// Hands on what is done; all of it once the worker has nothing left to do.
     void handOn();
+    void abandon() { m_arrivals.clear(); }
     bool isIdle() const { return m_arrivals.empty(); }
 
 private:

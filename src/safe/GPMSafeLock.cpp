@@ -158,6 +158,11 @@ void GPMSafe::settleOn()
         m_meetings.take();
         m_attachments.handOn();
         m_saving.take();
+        // The last save does not try again what one before it cannot write.
+        if (m_saving.isUnderWay()) {
+            awaitWriter();
+            return;
+        }
         if (m_givesUp) {
             finishLock({});
             return;
@@ -204,10 +209,11 @@ void GPMSafe::reopen()
 {
     if (m_lock.step != Lock::Asking)
         return;
+    // It waits for the lock, and would do so for ever.
+    cancelUnlock();
     m_lock.step = Lock::None;
     m_lock.isTold = false;
     m_drafts.seal(false);
-    cancelUnlock();
     Q_EMIT itemsReset();
     Q_EMIT lockedChanged(false);
 }
@@ -232,6 +238,11 @@ void GPMSafe::giveUpWriting()
                << "The folder of the safe does not answer:" << folder();
     if (m_lock.step != Lock::Drafts && !m_givesUp)
         m_saving.keepUnsaved(m_drafts);
+    // What still comes of it must not reach a safe that is locked, or opened again.
+    m_passwordChange.abandon();
+    m_attachments.abandon();
+    m_saving.abandon();
+    m_saveWaits = false;
     SaveJob::Result result;
     result.failedPaths.append(folder());
     finishLock(result);

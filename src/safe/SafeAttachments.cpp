@@ -65,6 +65,12 @@ void SafeAttachments::addWaiting()
         addAsync(std::move(each.item), each.source, each.parentId);
 }
 
+void SafeAttachments::abandon()
+{
+    m_waiting.clear();
+    m_intake.abandon();
+}
+
 void SafeAttachments::take(AttachmentIntake::Arrival arrival)
 {
     const AttachmentJob::Result result = arrival.result.result();

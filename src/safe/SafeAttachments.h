@@ -21,6 +21,8 @@ public:
     void addWaiting();
     /// Takes in what is encrypted by now; everything once the writer has nothing left to do.
     void handOn() { m_intake.handOn(); }
+    /// Forgets those that are on their way.
+    void abandon();
     /// Nothing is on its way, apart from what waits for a change of password.
     bool isIdle() const { return m_intake.isIdle(); }
 

@@ -142,6 +142,23 @@ void SafePasswordChange::stop()
         take(m_work.future().result());
 }
 
+void SafePasswordChange::abandon()
+{
+    if (!isRunning())
+        return;
+    m_slice.stop();
+    m_toCollect.clear();
+    m_newPassword.reset();
+    const std::shared_ptr<PasswordChange> change = std::exchange(m_change, nullptr);
+    if (!std::exchange(m_isWriting, false))
+        return;
+    // Behind it: what it came to is on the disk, where unlocking finds it.
+    QtConcurrent::run(&m_state.writer, [change, work = m_work.future()] {
+        if (work.result() == PasswordChangeOutcome::Changed)
+            change->removeOldFiles();
+    });
+}
+
 void SafePasswordChange::take(PasswordChangeOutcome outcome)
 {
     m_slice.stop();

@@ -32,6 +32,8 @@ public:
     void cancel();
     /// Cancels, waits until it has stopped and takes what came of it; finished() is emitted.
     void stop();
+    /// Lets it go, without an answer: its safe is locked before the drive answers.
+    void abandon();
     bool isRunning() const { return m_change != nullptr; }
 
 Q_SIGNALS:

@@ -23,6 +23,9 @@ public:
     void saveLater();
     /// Takes the results of saves that are done, rather than at the next turn of the event loop.
     void take();
+    bool isUnderWay() const { return !m_underWay.empty(); }
+    /// No longer waits for saves that do not get on.
+    void abandon() { m_underWay.clear(); }
     /// The result of the last save that was taken.
     const SaveJob::Result &last() const { return m_last; }
     /// Keeps what is not written as drafts: the folder of the safe may be gone, or full, and that

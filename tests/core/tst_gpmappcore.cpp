@@ -34,6 +34,21 @@ private Q_SLOTS:
         QVERIFY(!m_core->currentSafe());
     }
 
+    /// As who waits for the lock to switch the safe does.
+    void aSafeIsLetGoByItsOwnSignal()
+    {
+        QVERIFY(m_core->createSafe("Mine"_s, "pw"_s, {}));
+        const std::weak_ptr<GPMSafe> safe = m_core->currentSafe();
+        bool wasThere = false;
+        connect(m_core.get(), &GPMAppCore::lockSettled, this, [&] {
+            m_core->selectSafe({});
+            wasThere = !safe.expired();
+        });
+        m_core->lockForUser();
+        QVERIFY(wasThere && !m_core->currentSafe());
+        QTRY_VERIFY(safe.expired());
+    }
+
     void backupsOfAllSafesRunOnTheTimerAndImport()
     {
         QVERIFY(m_core->createSafe("One"_s, "pw"_s, {}));

@@ -123,6 +123,20 @@ private Q_SLOTS:
         QCOMPARE(test.bytesOf(test.safe->item(test.parentId)->refs().last()), QByteArray("later"));
     }
 
+    /// The last save of a lock is behind the one that an arrival asks for.
+    void lockingTriesAgainWhatAnArrivalCouldNotSave()
+    {
+        Safe test;
+        QVERIFY(test.safe->saveChanges());
+        test.files->failAt = test.files->operations + 2;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("saveChanges"_s));
+        test.add("a"_s, {{}, QByteArray("a")});
+        test.safe->lock();
+        QVERIFY(test.safe->unlock(samplePassword));
+        QCOMPARE(test.safe->itemCount(), 2);
+        QCOMPARE(test.titles(), QStringList("a"_s));
+    }
+
     void refuses_data()
     {
         QTest::addColumn<qint64>("size");

@@ -1,3 +1,4 @@
+#include "SafeLayout.h"
 #include "SafeTesting.h"
 
 #include <QSemaphore>
@@ -167,7 +168,12 @@ private Q_SLOTS:
             }
         });
         m_safe->lockAsync(GPMSafe::Unsaved::Ask);
+        QSignalSpy finished(m_safe.get(), &GPMSafe::unlockFinished);
+        if (unlocked)
+            m_safe->unlockAsync(samplePassword);
         QTRY_VERIFY(!m_safe->isSettling());
+        // Who waits for an answer gets one, also when there is nothing to unlock any more.
+        QTRY_COMPARE(finished.size(), unlocked ? 1 : 0);
         QCOMPARE(asked, 1);
         QCOMPARE(m_safe->isUnlocked(), unlocked);
         QCOMPARE(draftCount(), drafts);
@@ -187,6 +193,24 @@ private Q_SLOTS:
         QVERIFY(!m_safe->isUnlocked() && !m_safe->isSettling());
         QVERIFY(!m_safe->savedAtLock());
         QCOMPARE(draftCount(), m_items);
+    }
+
+    /// A change of password hangs behind its last item, and gets on when nobody waits any more.
+    void whatADriveAnswersTooLateDoesNotUnlock()
+    {
+        const QString other = QStringLiteral("another password");
+        m_drive->place += QLatin1Char('/') + QLatin1String(SafeLayout::meta);
+        QVERIFY(m_safe->changePasswordAsync(other, QStringLiteral("another hint")));
+        QTRY_VERIFY_WITH_TIMEOUT(m_drive->begun.available() > 0, 30000);
+        m_safe->lockWithin(10);
+        QVERIFY(!m_safe->isSettling() && !m_safe->isChangingPassword());
+        m_drive->letAll();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_safe->isWriting(), 30000);
+        QCoreApplication::processEvents();
+        QVERIFY(m_safe->unlock(other) && m_safe->unreadableFiles().isEmpty());
+        QVERIFY(!m_safe->isChangeInterrupted());
+        QCOMPARE(m_safe->itemCount(), m_items);
+        QCOMPARE(QDir(m_safe->folder() + QStringLiteral("/content")).count() - 2, uint(m_items));
     }
 
 private:
