@@ -116,6 +116,19 @@ private Q_SLOTS:
         QCOMPARE(finished.count(), 0);
     }
 
+    /// A lock that could not save was called off while somebody else was looked for.
+    void nothingIsLeftToUnlock()
+    {
+        TestCore test;
+        QVERIFY(test.createSafe());
+        test.core.lockCurrentSafe();
+        UnlockLogic logic(test.core);
+        logic.unlock(testPassword);
+        QVERIFY(test.core.currentSafe()->unlock(testPassword));
+        QVERIFY(logic.state() != State::Unlocking);
+        QCOMPARE(logic.message(), QString());
+    }
+
     void doubleEnterDoesNotCancel()
     {
         TestCore test;

@@ -327,6 +327,22 @@ private Q_SLOTS:
         QCOMPARE(test.login(id)->note(), "changed"_s);
     }
 
+    /// Who chooses another safe while a lock saves has changed their mind about what was to follow.
+    void anotherSafeCallsOffWhatWaits()
+    {
+        TestCore test;
+        Window shown(test, false);
+        QVERIFY(test.createSafe());
+        test.addLogin("Shop"_s);
+        QSignalSpy quit(&test.core, &GPMAppCore::quitRequested);
+        shown.window.exitByUser();
+        QVERIFY(test.core.currentSafe()->isSettling());
+        QVERIFY(test.createSafe("Other"_s));
+        test.core.lockCurrentSafe();
+        QTRY_VERIFY(!test.core.currentSafe()->isSettling());
+        QVERIFY(quit.isEmpty());
+    }
+
     /// Nobody sees or is given anything while the lock has to wait for what is being written.
     void coversTheItemsWhileItWaits()
     {

@@ -72,6 +72,8 @@ SecureWindow::SecureWindow(GPMAppCore &core, const Theme &theme, SecureContent *
     connect(m_pages, &PagesStack::restoreRequested, this, &SecureWindow::restoreRequested);
     connect(m_pages, &PagesStack::cloudImportRequested, this, &SecureWindow::cloudImportRequested);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &SecureWindow::followSafe);
+    // Another one was chosen while a lock saved: what was to follow it was before that.
+    connect(&core, &GPMAppCore::currentSafeChanged, this, [this] { m_then = nullptr; });
     connect(&core, &GPMAppCore::lockSettled, this, &SecureWindow::onLockSettled);
     connect(&core, &GPMAppCore::lockFailed, this, &SecureWindow::onLockFailed);
     connect(&core, &GPMAppCore::safeLockedChanged, this, &SecureWindow::followSafe);

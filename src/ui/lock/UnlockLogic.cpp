@@ -14,7 +14,12 @@ UnlockLogic::UnlockLogic(GPMAppCore &core, QObject *parent)
     connect(&core.knownSafes(), &KnownSafes::changed, this, &UnlockLogic::reload);
     connect(&core.knownSafes(), &KnownSafes::answered, this, &UnlockLogic::onAnswered);
     connect(&core, &GPMAppCore::currentSafeChanged, this, &UnlockLogic::takeCurrentSafe);
-    connect(&core, &GPMAppCore::safeLockedChanged, this, &UnlockLogic::changed);
+    connect(&core, &GPMAppCore::safeLockedChanged, this, [this](bool locked) {
+        // The lock was called off.
+        if (!locked)
+            dropPending();
+        Q_EMIT changed();
+    });
     connect(&core, &GPMAppCore::lockSettled, this, &UnlockLogic::changed);
     connect(&core, &GPMAppCore::unlockCancelled, this, &UnlockLogic::dropPending);
     connect(&core, &GPMAppCore::unlockFinished, this, &UnlockLogic::onFinished);
