@@ -83,6 +83,7 @@ const PAGES = {
 
 const limit = { timeout: Number(process.env.LIMIT ?? 30000) };
 const QUICK = '^Quick access$';
+const CRYSTALS = 'html > div[aria-hidden], dialog > div[aria-hidden]';
 const stage = makeStage({ pages: PAGES, hosts: ['shop.example', 'evil.example'], secure: true, approved: false });
 
 test('a safe with one login for the site, and a card', limit, async () => {
@@ -105,8 +106,12 @@ stage.inEachBrowser((kind) => {
 
   const quickHasKeys = () => stage.program.until(async () => (await stage.desktop.activeTitle()) === 'Quick access', 'quick access to have the keys');
 
-  /** Clicks where the crystal of a field is until quick access opens: it takes a moment until it is drawn. */
+  /** Clicks where the crystal of a field is, once there is one, until quick access opens. */
   async function clickIcon(place) {
+    await stage.program.until(async () => {
+      const drawn = await Promise.all(page.frames().map((frame) => frame.$(CRYSTALS).catch(() => null)));
+      return drawn.some(Boolean);
+    }, 'the crystals');
     await stage.program.until(async () => {
       await page.mouse.click(...iconIn(place));
       return stage.desktop.comes(QUICK);
@@ -182,7 +187,6 @@ stage.inEachBrowser((kind) => {
   test('the menu of a field fills a card, chosen in quick access', limit, async () => {
     await open('/card');
     await choose(1);
-    
     await quickHasKeys();
     await stage.desktop.type('my c');
     await stage.desktop.press('Return');
