@@ -373,6 +373,8 @@ private Q_SLOTS:
             desk.startAgain();
             desk.settle();
             desk.settle();
+            // Also for what was asked for behind that.
+            desk.safe().drafts().wait();
             QCOMPARE(desk.files().size(), 1);
         });
     }
