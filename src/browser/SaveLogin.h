@@ -26,9 +26,9 @@ struct SaveLoginRequest
 
     QString host() const;
 
-    /// From the data of "saveLogin": "siteName", or "title" where there is none, "url" (or "domain"), "faviconUrl", the
-    /// place, and the login itself as "fields" of the submitted form, or as "login" and "password".
-    /// A "login" beside fields is the user name of a page before.
+    /// From the data of "saveLogin": "siteName", or "title" where there is none, "url" (or
+    /// "domain"), "faviconUrl", the place, and the login itself as "fields" of the submitted form,
+    /// or as "login" and "password". A "login" beside fields is the user name of a page before.
     static SaveLoginRequest fromData(const QJsonObject &data);
     /// "posx", "posy", "width" and "height"; null when they are missing.
     static QRect placeOf(const QJsonObject &data);
