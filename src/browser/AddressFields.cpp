@@ -80,10 +80,11 @@ void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading>
             kinds[i] = FieldKind::Other;
     }
     // The PIN of a place is its postal code.
-    const bool isPlace = kinds.contains(FieldKind::City) && !kinds.contains(FieldKind::PostalCode);
-    for (int i = 0; i < fields.size() && kinds.contains(FieldKind::City); ++i) {
+    const bool hasCity = kinds.contains(FieldKind::City);
+    const bool hasCode = kinds.contains(FieldKind::PostalCode);
+    for (int i = 0; i < fields.size() && hasCity; ++i) {
         if (kinds.at(i) == FieldKind::Password && fields.at(i).isLine())
-            kinds[i] = isPlace ? FieldKind::PostalCode : FieldKind::Other;
+            kinds[i] = !hasCode ? FieldKind::PostalCode : FieldKind::Other;
     }
     // "Number" behind the street is the house's.
     for (int i = 1; i < fields.size(); ++i) {
@@ -93,8 +94,8 @@ void settleAddress(const QVector<FormField> &fields, const QVector<FieldReading>
     }
 }
 
-void settleSecondStreet(int at, const QVector<FormField> &fields,
-                        const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
+QPair<int, FieldKind> secondStreet(int at, const QVector<FormField> &fields,
+                                   const QVector<FieldReading> &readings)
 {
     const auto textAt = [&](int i) { return fields.at(i).readTexts().join(QLatin1Char(' ')); };
     const QString text = textAt(at);
@@ -103,9 +104,8 @@ void settleSecondStreet(int at, const QVector<FormField> &fields,
         readings.at(at).says(FieldKind::AddressLine2) || !readings.at(at).hasText || text == before;
     const bool isFirstStrange = hasStrangeWords(before) && !readings.at(at - 1).isTold;
     if (!isSecond && isFirstStrange && !hasStrangeWords(text))
-        kinds[at - 1] = FieldKind::Other;
-    else
-        kinds[at] = isSecond ? FieldKind::AddressLine2 : FieldKind::Other;
+        return {at - 1, FieldKind::Other};
+    return {at, isSecond ? FieldKind::AddressLine2 : FieldKind::Other};
 }
 
 void leaveExtraStreets(const QVector<FormField> &fields, const QVector<FieldReading> &readings,

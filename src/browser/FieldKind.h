@@ -75,6 +75,14 @@ enum class FieldKind {
     SomeDate
 };
 
+/// A whole date or a part of one, of a birth, of a card or of something yet unknown.
+inline bool isDateKind(FieldKind kind)
+{
+    return (kind >= FieldKind::CardMonth && kind <= FieldKind::CardExpiry) ||
+           (kind >= FieldKind::BirthDate && kind <= FieldKind::BirthYear) ||
+           kind >= FieldKind::SomeDay;
+}
+
 inline bool isLoginKind(FieldKind kind)
 {
     return kind == FieldKind::UserName || kind == FieldKind::Password;

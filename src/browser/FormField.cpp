@@ -8,7 +8,7 @@
 namespace {
 
 /// No page describes a field in so many letters; one that does shall not keep the program busy.
-constexpr int longestText = 1000;
+constexpr int longestText = 300;
 constexpr int longestValue = 10000;
 
 } // namespace

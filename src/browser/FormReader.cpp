@@ -3,6 +3,7 @@
 #include "AddressFields.h"
 #include "CardFields.h"
 #include "ChoiceButtons.h"
+#include "DateReading.h"
 #include "DateShape.h"
 #include "FieldOptions.h"
 #include "FieldPhrases.h"
@@ -43,15 +44,20 @@ public:
         leaveSingleFigures(m_fields, m_kinds);
         assignSplitFields(m_fields, m_readings, m_kinds);
         settleAddress(m_fields, m_readings, m_kinds);
-        m_hasOneDate = m_kinds.count(FieldKind::SomeDay) == 1 &&
-                       m_kinds.count(FieldKind::SomeMonth) == 1 &&
-                       m_kinds.count(FieldKind::SomeYear) == 1 && !has(FieldKind::SomeDate);
+        for (int i = 0; i < m_kinds.size(); ++i) {
+            ++m_counts[int(m_kinds.at(i))];
+            m_cardsSaid += saysCard(i) ? 1 : 0;
+        }
+        m_leavesLastName = leavesLastName(m_readings);
+        const auto isOnce = [&](FieldKind kind) { return m_counts.at(int(kind)) == 1; };
+        m_hasOneDate = isOnce(FieldKind::SomeDay) && isOnce(FieldKind::SomeMonth) &&
+                       isOnce(FieldKind::SomeYear) && !has(FieldKind::SomeDate);
         const QSet<QString> genders = gendersOf(m_fields, m_readings);
         for (int i = 0; i < m_fields.size(); ++i) {
             if (m_fields.at(i).isRadio())
-                m_kinds[i] =
-                    genders.contains(m_fields.at(i).name()) ? FieldKind::Gender : FieldKind::Other;
-            else if (isDatePart(m_kinds.at(i)) && !reading(i).isTold)
+                set(i,
+                    genders.contains(m_fields.at(i).name()) ? FieldKind::Gender : FieldKind::Other);
+            else if (isDateKind(m_kinds.at(i)) && !reading(i).isTold)
                 readDate(i);
         }
         for (int i = 0; i < m_fields.size(); ++i)
@@ -77,20 +83,16 @@ public:
     }
 
 private:
-    static bool isDatePart(FieldKind kind)
-    {
-        static const QVector<FieldKind> parts = {
-            FieldKind::SomeDay,    FieldKind::SomeMonth, FieldKind::SomeYear,
-            FieldKind::SomeDate,   FieldKind::BirthDate, FieldKind::BirthDay,
-            FieldKind::BirthMonth, FieldKind::BirthYear, FieldKind::CardExpiry,
-            FieldKind::CardMonth,  FieldKind::CardYear};
-        return parts.contains(kind);
-    }
-
     FieldKind kindAt(int i) const { return m_kinds.value(i, FieldKind::Unknown); }
     const FieldReading &reading(int i) const { return m_readings.at(i); }
 
-    bool has(FieldKind kind) const { return m_kinds.contains(kind); }
+    bool has(FieldKind kind) const { return m_counts.value(int(kind)) > 0; }
+    void set(int i, FieldKind kind)
+    {
+        --m_counts[int(m_kinds.at(i))];
+        ++m_counts[int(kind)];
+        m_kinds[i] = kind;
+    }
 
     /// Whether one of the fields close by is for a card, its date left aside.
     bool isNearCard(int at) const
@@ -121,9 +123,10 @@ private:
         if (asksForCode(m_around))
             return false;
         const bool isHeaded = captionKindOf(m_fields.at(at).heading()) == CaptionKind::Card;
-        const int from = isHeaded ? 0 : qMax(0, at - nearby);
-        const int to = isHeaded ? m_fields.size() : qMin(m_fields.size(), at + nearby + 1);
-        for (int i = from; i < to; ++i) {
+        if (isHeaded)
+            return m_cardsSaid > (saysCard(at) ? 1 : 0);
+        const int to = qMin(m_fields.size(), at + nearby + 1);
+        for (int i = qMax(0, at - nearby); i < to; ++i) {
             if (i != at && saysCard(i))
                 return true;
         }
@@ -146,10 +149,13 @@ private:
     }
 
     void readDate(int at);
-    FieldKind datePart(int at, bool isBirth) const;
-    bool saysPart(int at, FieldKind part) const;
     bool isBirthOfPerson(int at) const;
     void readNeighbours(int at);
+    void settleStreets(int at)
+    {
+        const auto [other, kind] = secondStreet(at, m_fields, m_readings);
+        set(other, kind);
+    }
     void readVague(int at);
     FieldKind plainName(int at) const;
     bool isHolder(int at) const;
@@ -159,44 +165,13 @@ private:
     const FormSurroundings &m_around;
     QVector<FieldReading> m_readings;
     QVector<FieldKind> m_kinds;
+    /// How many fields are of each kind.
+    QVector<int> m_counts = QVector<int>(int(FieldKind::SomeDate) + 1);
+    bool m_leavesLastName = false;
+    int m_cardsSaid = 0; ///< how many fields say by themselves that they are a card's
     /// Whether a day, a month and a year are each asked for once.
     bool m_hasOneDate = false;
 };
-
-FieldKind Reader::datePart(int at, bool isBirth) const
-{
-    static const QVector<QVector<FieldKind>> parts = {
-        {FieldKind::SomeDay, FieldKind::Other, FieldKind::BirthDay},
-        {FieldKind::SomeMonth, FieldKind::CardMonth, FieldKind::BirthMonth},
-        {FieldKind::SomeYear, FieldKind::CardYear, FieldKind::BirthYear}};
-    FieldKind said = FieldKind::Unknown;
-    int count = 0;
-    for (const QVector<FieldKind> &part : parts) {
-        const bool isSaid = std::any_of(part.begin(), part.end(), [&](FieldKind kind) {
-            return kind != FieldKind::Other && reading(at).says(kind);
-        });
-        if (isSaid) {
-            said = part.at(isBirth ? 2 : 1);
-            ++count;
-        }
-    }
-    return count == 1 ? said : FieldKind::Unknown;
-}
-
-/// Whether the text that tells of a date tells of this part of it.
-bool Reader::saysPart(int at, FieldKind part) const
-{
-    static const QVector<QPair<FieldKind, FieldKind>> some = {
-        {FieldKind::CardMonth, FieldKind::SomeMonth},
-        {FieldKind::CardYear, FieldKind::SomeYear},
-        {FieldKind::BirthDay, FieldKind::SomeDay},
-        {FieldKind::BirthMonth, FieldKind::SomeMonth},
-        {FieldKind::BirthYear, FieldKind::SomeYear}};
-    return reading(at).also.contains(part) ||
-           std::any_of(some.begin(), some.end(), [&](const QPair<FieldKind, FieldKind> &pair) {
-               return pair.first == part && reading(at).named.contains(pair.second);
-           });
-}
 
 /// Day, month and year side by side, in a form that asks a person for name and gender and for no
 /// other date: no card shows the day.
@@ -233,29 +208,29 @@ void Reader::readDate(int at)
     const bool isFurther = kind == FieldKind::SomeDate && has(FieldKind::CardExpiry);
     const bool isStrange = isVagueKind(kind) && (reading(at).isStrange || isFurther);
     if (isWhole || (!isBirth && !isCard && (isStrange || !isNearCard(at)))) {
-        m_kinds[at] = FieldKind::Other;
+        set(at, FieldKind::Other);
         return;
     }
-    FieldKind part = datePart(at, isBirth);
+    FieldKind part = datePartOf(reading(at), isBirth);
     // A short list of days looks like one of months.
     if (part == FieldKind::BirthMonth && at + 1 < m_fields.size() && isBirth &&
-        m_fields.at(at).isSelect() && datePart(at + 1, true) == FieldKind::BirthMonth)
+        m_fields.at(at).isSelect() && datePartOf(reading(at + 1), true) == FieldKind::BirthMonth)
         part = FieldKind::BirthDay;
     const bool isShort = field.isSelect() || (field.maxLength() > 0 && field.maxLength() <= 4);
     if (part != FieldKind::Unknown && (isVagueKind(kind) || isShort || isSilentAt(at + 1) ||
-                                       part == kind || saysPart(at, part))) {
-        m_kinds[at] = part;
+                                       part == kind || saysPart(reading(at), part))) {
+        set(at, part);
     } else if (!isBirth && (field.isSelect() || field.maxLength() == 2)) {
-        m_kinds[at] = before == FieldKind::CardMonth ? FieldKind::CardYear : FieldKind::CardMonth;
+        set(at, before == FieldKind::CardMonth ? FieldKind::CardYear : FieldKind::CardMonth);
     } else if (isVagueKind(kind) || kind == FieldKind::BirthDate || kind == FieldKind::CardExpiry) {
-        m_kinds[at] = isBirth ? FieldKind::BirthDate : FieldKind::CardExpiry;
+        set(at, isBirth ? FieldKind::BirthDate : FieldKind::CardExpiry);
     }
     // The year often stands behind the month without a word of its own.
     if (m_kinds.at(at) == FieldKind::CardMonth && isOpen(at + 1) &&
         field.isSelect() == m_fields.at(at + 1).isSelect())
-        m_kinds[at + 1] = FieldKind::CardYear;
+        set(at + 1, FieldKind::CardYear);
     if (m_kinds.at(at) == FieldKind::BirthMonth && before == FieldKind::BirthDay && isOpen(at + 1))
-        m_kinds[at + 1] = FieldKind::BirthYear;
+        set(at + 1, FieldKind::BirthYear);
 }
 
 void Reader::readNeighbours(int at)
@@ -264,32 +239,32 @@ void Reader::readNeighbours(int at)
     switch (m_kinds.at(at)) {
     case FieldKind::HouseNumber:
         if (!isNear(at, FieldKind::AddressLine1) && !isNear(at, FieldKind::PostalCode))
-            m_kinds[at] = FieldKind::Other;
+            set(at, FieldKind::Other);
         return;
     case FieldKind::AddressLine1:
         if (before == FieldKind::AddressLine1 && m_fields.at(at).isLine())
-            settleSecondStreet(at, m_fields, m_readings, m_kinds);
+            settleStreets(at);
         return;
     case FieldKind::Phone:
         if (before == FieldKind::PhoneArea)
-            m_kinds[at] = FieldKind::PhoneLine;
+            set(at, FieldKind::PhoneLine);
         else if (before == FieldKind::PhoneCode)
-            m_kinds[at] = FieldKind::PhoneNumber;
+            set(at, FieldKind::PhoneNumber);
         else if (m_fields.at(at).maxLength() > 0 && m_fields.at(at).maxLength() < shortestPhone)
-            m_kinds[at] = FieldKind::Other;
+            set(at, FieldKind::Other);
         return;
     case FieldKind::PhoneArea:
         if (kindAt(at + 1) != FieldKind::Phone && kindAt(at + 1) != FieldKind::PhonePrefix &&
             kindAt(at + 1) != FieldKind::PhoneLine)
-            m_kinds[at] = FieldKind::Other;
+            set(at, FieldKind::Other);
         return;
     case FieldKind::Country:
         if (isOfPhone(at))
-            m_kinds[at] = FieldKind::PhoneCode;
+            set(at, FieldKind::PhoneCode);
         return;
     case FieldKind::FullName:
         if (isHolder(at))
-            m_kinds[at] = FieldKind::CardHolder;
+            set(at, FieldKind::CardHolder);
         return;
     case FieldKind::CardCode:
     case FieldKind::CardHolder:
@@ -297,7 +272,7 @@ void Reader::readNeighbours(int at)
     case FieldKind::CardMonth:
     case FieldKind::CardYear:
         if (!reading(at).isTold && !has(FieldKind::CardNumber) && !isNearCard(at))
-            m_kinds[at] = FieldKind::Other;
+            set(at, FieldKind::Other);
         return;
     default:
         readVague(at);
@@ -311,15 +286,15 @@ void Reader::readVague(int at)
         return;
     switch (m_kinds.at(at)) {
     case FieldKind::SomeName:
-        m_kinds[at] = plainName(at);
+        set(at, plainName(at));
         return;
     case FieldKind::SomeNumber:
-        m_kinds[at] = isWithCard(at) && !has(FieldKind::CardNumber) ? FieldKind::CardNumber
-                                                                    : FieldKind::Other;
+        set(at, isWithCard(at) && !has(FieldKind::CardNumber) ? FieldKind::CardNumber
+                                                              : FieldKind::Other);
         return;
     case FieldKind::SomeCode:
-        m_kinds[at] =
-            isWithCard(at) && !has(FieldKind::CardCode) ? FieldKind::CardCode : FieldKind::Other;
+        set(at,
+            isWithCard(at) && !has(FieldKind::CardCode) ? FieldKind::CardCode : FieldKind::Other);
         return;
     default:
         return;
@@ -348,7 +323,7 @@ bool Reader::isOfPhone(int at) const
     const bool saysCode = std::any_of(texts.begin(), texts.end(), [](const QString &text) {
         return text.contains(QLatin1String("code"), Qt::CaseInsensitive);
     });
-    return saysCode || m_kinds.count(FieldKind::Country) > addressesIn(m_kinds);
+    return saysCode || m_counts.at(int(FieldKind::Country)) > addressesIn(m_kinds);
 }
 
 /// "Name" alone: of the card's holder, the family's beside a first name, or the whole.
@@ -364,7 +339,7 @@ FieldKind Reader::plainName(int at) const
     if ((kindAt(at + 1) == FieldKind::LastName || follows) && !isBeside(FieldKind::FirstName))
         return FieldKind::FirstName;
     const bool first = has(FieldKind::FirstName);
-    const bool last = asksForLastName(m_readings, m_kinds);
+    const bool last = has(FieldKind::LastName) || m_leavesLastName;
     if (first && last)
         return FieldKind::Other;
     if (first)

@@ -233,12 +233,16 @@ void leaveFurtherNames(const QVector<FormField> &fields, const QVector<FieldRead
     }
 }
 
+bool leavesLastName(const QVector<FieldReading> &readings)
+{
+    return std::any_of(readings.begin(), readings.end(), [](const FieldReading &reading) {
+        return reading.kind == FieldKind::Other && reading.says(FieldKind::LastName);
+    });
+}
+
 bool asksForLastName(const QVector<FieldReading> &readings, const QVector<FieldKind> &kinds)
 {
-    return kinds.contains(FieldKind::LastName) ||
-           std::any_of(readings.begin(), readings.end(), [](const FieldReading &reading) {
-               return reading.kind == FieldKind::Other && reading.says(FieldKind::LastName);
-           });
+    return kinds.contains(FieldKind::LastName) || leavesLastName(readings);
 }
 
 void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds)
@@ -257,12 +261,12 @@ void readWholeNames(const QVector<FieldReading> &readings, QVector<FieldKind> &k
         kinds.count(FieldKind::FullName) == 1)
         kinds[whole] = FieldKind::FirstName;
     // What reads "name" and is a user's in code is either, where one signs in with it.
-    for (int i = 0; i < kinds.size() && !kinds.contains(FieldKind::LastName); ++i) {
+    const bool isSignIn =
+        !kinds.contains(FieldKind::LastName) &&
+        (kinds.contains(FieldKind::CurrentPassword) || kinds.contains(FieldKind::Password));
+    for (int i = 0; i < kinds.size() && isSignIn; ++i) {
         const bool isName = kinds.at(i) == FieldKind::FirstName;
-        const bool isPassword =
-            kinds.contains(FieldKind::CurrentPassword) || kinds.contains(FieldKind::Password);
-        if (isName && isPassword && !readings.at(i).isTold &&
-            readings.at(i).also.contains(FieldKind::UserName))
+        if (isName && !readings.at(i).isTold && readings.at(i).also.contains(FieldKind::UserName))
             kinds[i] = FieldKind::Other;
     }
 }

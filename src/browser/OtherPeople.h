@@ -19,6 +19,8 @@ void leaveNumberedPeople(const QVector<FormField> &fields, const QVector<FieldRe
 /// person: anything has a name.
 void leaveLoneName(const QVector<FieldReading> &readings, QVector<FieldKind> &kinds);
 
+/// Whether a field speaks of a last name that is not to be filled.
+bool leavesLastName(const QVector<FieldReading> &readings);
 /// Whether a field speaks of a last name, filled or not.
 bool asksForLastName(const QVector<FieldReading> &readings, const QVector<FieldKind> &kinds);
 

@@ -12,7 +12,7 @@ struct PageLimits
     /// The choices of all lists together.
     int options = 10000;
     /// Of the texts of all fields.
-    int letters = 1000000;
+    int letters = 400000;
 };
 
 /// The fields of a list as the page reports it, whatever it may hold, as far as the limits go.
