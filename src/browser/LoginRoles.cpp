@@ -142,7 +142,8 @@ void assignPasswords(const QVector<int> &passwords, const QVector<FieldReading> 
     const bool isChange = isChangeOf(passwords, readings, kinds);
     for (const int at : passwords) {
         const bool isOld = kinds.at(at) == FieldKind::CurrentPassword ||
-                           (isChange && kinds.at(at) == FieldKind::Password);
+                           (isChange && kinds.at(at) == FieldKind::Password &&
+                            readings.at(at).named.contains(FieldKind::Password));
         kinds[at] = isOld ? FieldKind::Password : FieldKind::NewPassword;
     }
     const int first = passwords.first();

@@ -118,6 +118,11 @@ void TestFormAnalysis::veto_data()
     row(R"({"type":"password","label":"Old password"}, {"type":"password","label":"New password"},
             {"type":"password","label":"Repeat"})",
         "secret|-|-");
+    // One password is the old one.
+    row(R"({"type":"password","textBefore":"Старый пароль","name":"passwd"},
+            {"type":"password","textBefore":"Новый пароль","name":"newpasswd"},
+            {"type":"password","textBefore":"Подтверждение","name":"newpasswd2"})",
+        "secret|-|-");
     row(R"({"type":"password","label":"Password","heading":"Sign up"}, {"type":"password","label":"Confirm password"},
             {"type":"password","label":"Security PIN"})",
         "-|-|-");
