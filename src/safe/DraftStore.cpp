@@ -164,6 +164,8 @@ bool DraftStore::keep(const KeptDraft &draft)
     if (!isForAll())
         return false;
     m_worker.waitForDone();
+    // What is written on after a lock that did not come is not saved by the next one.
+    m_onceSaved.removeAll(draft.key);
     const QString path = filePath(draft.key);
     if (writeBoth(m_environment, path, m_password->view(), m_next, ofHere(draft)))
         return true;
@@ -174,8 +176,10 @@ bool DraftStore::keep(const KeptDraft &draft)
 
 void DraftStore::keepAsync(const KeptDraft &draft)
 {
-    if (isForAll())
-        keepUnsaved(draft);
+    if (!isForAll())
+        return;
+    m_onceSaved.removeAll(draft.key);
+    keepUnsaved(draft);
 }
 
 void DraftStore::keepUnsaved(const KeptDraft &draft)

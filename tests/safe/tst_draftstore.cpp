@@ -374,6 +374,22 @@ private Q_SLOTS:
                  SafeRemoval::Outcome::Done);
         QVERIFY(QDir(safe.environment.draftsFolder).isEmpty());
     }
+
+    void whatIsWrittenOnIsNotRemovedAsSaved()
+    {
+        Safe test;
+        const KeptDraft saved = test.draft(QStringLiteral("Saved"));
+        const KeptDraft onward = test.draft(QStringLiteral("Saved"));
+        QVERIFY(test.safe->drafts().keep(saved) && test.safe->drafts().keep(onward));
+        test.safe->drafts().removeOnceSaved({saved.key, onward.key});
+        // The lock did not come, and one is written on.
+        QVERIFY(test.safe->drafts().keep(test.draft(QStringLiteral("Onward"), onward.key)));
+        test.safe->lock();
+        test.reopen(samplePassword);
+        const QVector<KeptDraft> left = test.load();
+        QCOMPARE(left.size(), 1);
+        QCOMPARE(left.first().key, onward.key);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestDraftStore)
