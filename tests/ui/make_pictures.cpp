@@ -25,6 +25,8 @@ int main(int argc, char *argv[])
                 window->resize(1080, 680);
             else if (window == stage->main)
                 stage->shrink(*window, true);
+            else if (window && window->objectName() == QLatin1String("SetupWizard"))
+                window->resize(562, 622); // the platform's screen is smaller
             for (int turn = 0; window && turn < 5; ++turn)
                 QApplication::processEvents();
             const QString file = "%1/%2-%3.png"_s.arg(folder, QLatin1String(shown.name),
