@@ -28,7 +28,6 @@ struct Desk : MainDesk
         unlock();
     }
     void goOn() const { click("continueDraftButton"); }
-
     QStringList files() const
     {
         QStringList paths;
@@ -373,8 +372,7 @@ private Q_SLOTS:
             desk.startAgain();
             desk.settle();
             desk.settle();
-            // Also for what was asked for behind that.
-            desk.safe().drafts().wait();
+            desk.safe().drafts().wait(); // for what was asked for behind that, too
             QCOMPARE(desk.files().size(), 1);
         });
     }
