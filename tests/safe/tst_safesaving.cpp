@@ -5,16 +5,22 @@ class TestSafeSaving : public GpmSafeTest
 {
     Q_OBJECT
 
+    /// The sample, on a disk that can fail.
+    SafeEnvironment on(const std::shared_ptr<FaultyFiles> &files) const
+    {
+        copySampleSafe(m_folder);
+        SafeEnvironment environment;
+        environment.files = files;
+        return environment;
+    }
+
 private Q_SLOTS:
     void init() { start(); }
 
     void oneFailingWriteKeepsItsItemChanged()
     {
-        copySampleSafe(m_folder);
-        SafeEnvironment environment;
-        auto files = std::make_shared<FaultyFiles>();
-        environment.files = files;
-        GPMSafe safe(environment);
+        const auto files = std::make_shared<FaultyFiles>();
+        GPMSafe safe(on(files));
         QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
         const std::vector<PMListItem *> items = safe.items();
         for (std::size_t i = 0; i < 3; ++i)
@@ -32,11 +38,8 @@ private Q_SLOTS:
 
     void whoHearsOfAFailedSaveAtALockFindsItLocked()
     {
-        copySampleSafe(m_folder);
-        SafeEnvironment environment;
-        auto files = std::make_shared<FaultyFiles>();
-        environment.files = files;
-        GPMSafe safe(environment);
+        const auto files = std::make_shared<FaultyFiles>();
+        GPMSafe safe(on(files));
         QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
         safe.items().front()->setNote("changed"_s);
         QVector<bool> unlockedThen;
@@ -103,11 +106,8 @@ private Q_SLOTS:
 
     void deletedForGood()
     {
-        copySampleSafe(m_folder);
-        SafeEnvironment environment;
-        auto files = std::make_shared<FaultyFiles>();
-        environment.files = files;
-        GPMSafe safe(environment);
+        const auto files = std::make_shared<FaultyFiles>();
+        GPMSafe safe(on(files));
         QVERIFY(safe.open(m_folder) && safe.unlock(samplePassword));
         const QString attachment = "00000000-0000-000b-0000-000000001234"_s;
         const QMap<QString, QByteArray> before = snapshot(m_folder);

@@ -30,6 +30,16 @@ struct Page
     MasterPasswordPage page;
 };
 
+struct LockedSafe : TestCore
+{
+    LockedSafe()
+    {
+        if (!createSafe())
+            qFatal("no safe to unlock");
+        core.lockCurrentSafe();
+    }
+};
+
 using State = UnlockLogic::State;
 
 } // namespace
@@ -68,9 +78,7 @@ private Q_SLOTS:
 
     void wrongPasswordThenRight()
     {
-        TestCore test;
-        QVERIFY(test.createSafe());
-        test.core.lockCurrentSafe();
+        LockedSafe test;
         Page page(test);
         page.logic.chooseFirst({});
         QCOMPARE(find<QLabel>(page.page, "safeHint")->text(), "Hint: the usual"_s);
@@ -97,9 +105,7 @@ private Q_SLOTS:
 
     void emptyPasswordIsWrong()
     {
-        TestCore test;
-        QVERIFY(test.createSafe());
-        test.core.lockCurrentSafe();
+        LockedSafe test;
         Page page(test);
         page.logic.chooseFirst({});
         QVERIFY(QTest::qWaitForWindowActive(&page.page));
@@ -119,9 +125,7 @@ private Q_SLOTS:
     /// A lock that could not save was called off while somebody else was looked for.
     void nothingIsLeftToUnlock()
     {
-        TestCore test;
-        QVERIFY(test.createSafe());
-        test.core.lockCurrentSafe();
+        LockedSafe test;
         UnlockLogic logic(test.core);
         logic.unlock(testPassword);
         QVERIFY(test.core.currentSafe()->unlock(testPassword));
@@ -131,9 +135,7 @@ private Q_SLOTS:
 
     void doubleEnterDoesNotCancel()
     {
-        TestCore test;
-        QVERIFY(test.createSafe());
-        test.core.lockCurrentSafe();
+        LockedSafe test;
         Page page(test);
         page.logic.chooseFirst({});
         QVERIFY(QTest::qWaitForWindowActive(&page.page));
